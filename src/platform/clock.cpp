@@ -1,0 +1,53 @@
+#include "platform/clock.h"
+
+#include <atomic>
+#include <limits>
+
+namespace {
+constexpr qint64 kRunning = std::numeric_limits<qint64>::min();
+std::atomic<qint64> heldAt { kRunning }; // ms since 1970, or kRunning
+}
+
+qint64 Clock::msecs()
+{
+    const qint64 held = heldAt.load();
+    return held == kRunning ? QDateTime::currentMSecsSinceEpoch() : held;
+}
+
+quint32 Clock::seconds()
+{
+    return static_cast<quint32>(msecs() / 1000);
+}
+
+QDateTime Clock::now()
+{
+    return QDateTime::fromMSecsSinceEpoch(msecs());
+}
+
+timeval Clock::timeOfDay()
+{
+    timeval time {};
+    if (heldAt.load() == kRunning) {
+        gettimeofday(&time, nullptr);
+    } else {
+        const qint64 ms = msecs();
+        time.tv_sec = ms / 1000;
+        time.tv_usec = (ms % 1000) * 1000;
+    }
+    return time;
+}
+
+void Clock::setForTest(qint64 ms)
+{
+    heldAt = ms;
+}
+
+void Clock::advance(qint64 ms)
+{
+    heldAt = msecs() + ms;
+}
+
+void Clock::useSystem()
+{
+    heldAt = kRunning;
+}
