@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+/// The text index "/mnt/storage/.infomation" of what the instrument recorded, and the names it gives.
+/// Format: docs/formats/storage-index.md. GUI thread. Failures go to the debug log only.
+class FileInfo
+{
+public:
+    QStringList readInfo() const; // the lines
+    bool testInfo() const; // whether the index is readable
+    QStringList getInfoFiles() const; // the names
+    bool testFileexist(const QString &name) const;
+    /// Adds the entry or replaces those of the same base name; false when the index could not be written.
+    bool saveInfo(const QString &name) const;
+    /// Removes the entries of the name's base name and deletes the stored files of that base name.
+    bool removeInfo(const QString &name) const;
+    /// Files of a folder (a board's path), no dot files, oldest first.
+    QStringList getFiles(const QString &path) const;
+    /// Entries of the storage that look like records: "yyMMdd_hhmmss name".
+    QStringList getRecordInfos() const;
+    /// prefix + n + suffix with the first n of 1 to 999 that the index does not hold; empty when all are taken.
+    QString getDefaultFileName(const QString &prefix, const QString &suffix) const;
+    /// prefix + n with the first n of 1 to 999 that no record is named; empty when all are taken.
+    QString getDefaultRecordName(const QString &prefix) const;
+
+    static QString indexPath(); // the board's
+    static QString storagePath(); // the board's
+    /// A name without its last extension: names are compared so.
+    static QString baseName(const QString &name);
+};

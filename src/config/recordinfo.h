@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QString>
+#include <QtGlobal>
+
+/// The user's choices of the recorder function.
+class RecordInfo
+{
+public:
+    /// Bits of m_recordItems.
+    enum Item : quint32 {
+        Frequency10s = 1,
+        FrequencyInterval = 2,
+        CommonRms = 4,
+        Power = 8,
+        Energy = 16,
+        Flicker = 32,
+        Unbalance = 64,
+        HarmonicVolt1to50 = 128,
+        HarmonicAmp1to50 = 0x100,
+        InterharmonicVolt0to49 = 0x200,
+        InterharmonicAmp0to49 = 0x400,
+        HarmonicVolt51to100 = 0x800,
+        HarmonicAmp51to100 = 0x1000,
+        InterharmonicVolt50to99 = 0x2000,
+        InterharmonicAmp50to99 = 0x4000,
+        MainsSignaling = 0x8000,
+        AllHarmonics = 0x7F80,
+    };
+
+    static int m_in_recording; // 1: prepared or running
+    static QString *m_record_file; // record name
+    static quint32 m_recordItems; // Item
+    static quint32 m_begain_time; // s since 1970
+    static int m_duration; // h
+    static int m_max_duration; // h that the room allows
+    static int m_interval_index; // into m_record_interval
+    static const int m_record_interval[8]; // s
+    static int m_harm_max_numb; // highest order
+    static int m_storage_room; // MB free when checked
+
+    /// The chosen items of record.conf. Frequency10s is always added, CommonRms when any harmonic item is chosen.
+    static void readSelectedParam();
+    static void writeSelectedParam();
+    /// 100 orders at 50 and 60 Hz, 12 at 400 Hz; another nominal frequency changes nothing.
+    static void initHarmMaxNumb();
+};

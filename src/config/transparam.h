@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QList>
+#include <QtGlobal>
+
+#include <cstddef>
+
+/// One transient: 600 samples of each voltage channel around the spot.
+struct TransRecord
+{
+    qint32 number = 0; // running, from 1
+    float frequency = 0; // Hz, of the moment
+    double time = 0; // ms since 1970 of the first sample
+    quint32 position = 0; // low 24 bits: place inside the record; high 8 bits: channel code 1 to 3
+    float rms[4] = {}; // V of the moment
+    qint16 samples[4][600] = {};
+};
+static_assert(offsetof(TransRecord, time) == 8 && offsetof(TransRecord, position) == 16
+                  && offsetof(TransRecord, rms) == 20 && offsetof(TransRecord, samples) == 36,
+              "order of a transient");
+
+/// The user's choice of the transient capture.
+class TransParam
+{
+public:
+    static constexpr int kMaxEvents = 1000; // kept in g_trans_events
+    static int m_trans_threshold; // percent; the setting is TRANS_THRESHOLD
+};
+
+/// Transients found since the start, at most 1000; the task appends and owns, the pages read.
+extern QList<TransRecord *> g_trans_events;
