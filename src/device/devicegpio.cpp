@@ -1,0 +1,89 @@
+#include "device/devicegpio.h"
+
+#include "device/trace.h"
+#include "platform/target.h"
+
+#include <QFile>
+#include <fcntl.h>
+
+namespace {
+
+/// Lines of one channel.
+struct ChannelLines
+{
+    int bit1;
+    int bit0;
+    int enable;
+};
+constexpr ChannelLines kPhaseCurrent = { 54, 58, 56 };
+constexpr ChannelLines kPhaseVolt = { 52, 48, 50 };
+constexpr ChannelLines kNeutralCurrent = { 55, 59, 57 };
+constexpr ChannelLines kNeutralVolt = { 53, 51, 49 };
+
+constexpr const ChannelLines *kSetUpOrder[] = { &kPhaseCurrent, &kPhaseVolt, &kNeutralCurrent, &kNeutralVolt };
+
+void writeLine(int line, bool high)
+{
+    Target::shell(QStringLiteral("echo %1 > /sys/class/gpio/gpio%2/value").arg(high ? 1 : 0).arg(line));
+}
+
+void select(const ChannelLines &lines, int value)
+{
+    writeLine(lines.bit1, value & 2);
+    writeLine(lines.bit0, value & 1);
+}
+
+} // namespace
+
+DeviceGPIO::DeviceGPIO(QObject *parent) : QObject(parent)
+{
+    initDeviceGPIO();
+}
+
+void DeviceGPIO::changeCurrentGPIO(int value)
+{
+    select(kPhaseCurrent, value);
+}
+
+void DeviceGPIO::changeVoltGPIO(int value)
+{
+    select(kPhaseVolt, value);
+}
+
+void DeviceGPIO::changeNCurrentGPIO(int value)
+{
+    select(kNeutralCurrent, value);
+}
+
+void DeviceGPIO::changeNVoltGPIO(int value)
+{
+    select(kNeutralVolt, value);
+}
+
+void DeviceGPIO::initDeviceGPIO()
+{
+    for (const ChannelLines *lines : kSetUpOrder) {
+        for (int line : { lines->enable, lines->bit1, lines->bit0 })
+            initGPIO(QString::number(line));
+    }
+    for (const ChannelLines *lines : kSetUpOrder)
+        writeLine(lines->enable, true);
+}
+
+void DeviceGPIO::initGPIO(QString number)
+{
+    const QString path = QStringLiteral("/sys/class/gpio/gpio") + number;
+    if (!QFile::exists(Target::path(path)))
+        Target::shell(QStringLiteral("echo ") + number + QStringLiteral(" > /sys/class/gpio/export"));
+    Target::shell(QStringLiteral("echo ") + QStringLiteral("out") + QStringLiteral(" > /sys/class/gpio/gpio") + number
+                  + QStringLiteral("/direction"));
+}
+
+int DeviceGPIO::openGPIODev(QString number)
+{
+    const QString path = Target::path(QStringLiteral("/sys/class/gpio/gpio") + number + QStringLiteral("/value"));
+    const int fd = QFile::exists(path) ? ::open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC) : -1;
+    if (fd < 0)
+        QV_TRACE("device/devicegpio") << "gpio open err!";
+    return fd;
+}
