@@ -1,5 +1,6 @@
 #pragma once
 
+#include "config/transparam.h"
 #include "device/datagramrecords.h"
 
 #include <QList>
@@ -147,19 +148,6 @@ struct __flicker_data
     QList<float> pltTrend[3];
 };
 
-#pragma pack(push, 4)
-/// One captured transient.
-struct __trans_data
-{
-    qint32 number; // running, first is 1
-    float frequency; // Hz
-    double time; // ms since 1970 of the first sample
-    quint32 position; // low 24 bits: place inside the record; high 8 bits: channel code
-    float rms[kChannels]; // V
-    qint16 samples[kChannels][600];
-};
-#pragma pack(pop)
-
 /// Half-cycle r.m.s. trends: series 0 to 3 the voltages, 4 to 7 the currents.
 struct __rms_trend_data
 {
@@ -209,7 +197,6 @@ extern __scope_data *g_scope_data;
 extern __scope_data_ui *g_scope_data_ui;
 extern __flicker_data *g_flicker_data;
 extern __trans_data *g_trans_data;
-extern QList<__trans_data *> g_trans_events; // at most 1000
 extern __rms_trend_data *g_inrush_data;
 extern __rms_trend_data *g_inrush_trend_data;
 extern __rms_trend_data *g_dipswell_trend;

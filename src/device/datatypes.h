@@ -1,0 +1,57 @@
+#pragma once
+
+#include "device/datagramrecords.h"
+#include "device/datagramtypes.h"
+
+#include <QByteArray>
+#include <QList>
+
+/// Decodes payloads of datagrams into records in volts, amperes, watts, hertz and degrees, and works out the quantities
+/// derived from them. Payload tables: docs/link-protocol.md; records: docs/formats/records.md.
+/// All functions are static, allocate nothing and report nothing; what is not a number stays one unless told. Main
+/// thread.
+class DataTypes
+{
+public:
+    /// Whether an array holds the payload of a kind; the decoders below read that many bytes.
+    static bool fits(__datagramtype kind, const QByteArray &payload);
+
+    /// Takes the scales k_v, k_i and k_w from the settings. Runs when a task is made.
+    static void calculateK_viw();
+    static float k_v[kChannels]; // V per converter unit: L1, L2, L3, N
+    static float k_i[kChannels]; // A per converter unit
+    static float k_w[kChannels]; // W per squared converter unit: L1, L2, L3, Total
+
+    /// 545 words. Values are held to 10 converter units; scales come from the settings as they stand now.
+    static void datagramRMS_1_2(__datagram_rms *record, const char *payload);
+    /// 16387 words.
+    static void datagramWave(__datagram_wave *record, const char *payload);
+    /// 1503 words.
+    static void datagramFlicker(__datagram_flicker *record, const char *payload);
+    /// 3250 words. Energies keep their old contents, so do the orders that a 400 Hz system does not have.
+    static void datagramAggregation(__datagram_aggregation *record, const char *payload);
+
+    // The steps of datagramAggregation in their order: later ones read what earlier ones wrote. Both pointers show the
+    // same 3250 words, as floats and as integers.
+    static void aggregation_vif(__datagram_aggregation *record, const float *payload, const quint32 *words);
+    static void aggregation_harm(__datagram_aggregation *record, const float *payload, const quint32 *words);
+    static void aggregation_unbalance(__datagram_aggregation *record, const float *payload, const quint32 *words);
+    static void aggregation_power(__datagram_aggregation *record, const float *payload, const quint32 *words);
+    static void aggregation_mainssig(__datagram_aggregation *record, const float *payload, const quint32 *words);
+
+    /// a - b, degrees, brought into -180 to 180; both ends stay as they are.
+    static float iu_pahse_difference(float a, float b);
+    /// Long-term flicker: cube root of the mean cube of the first n values (IEC 61000-4-15, 5.7.3). NaN for n = 0.
+    static double plt(const QList<float> *values, unsigned int n);
+    /// Value at fraction p of the first n of a sorted list, interpolated between neighbours. In a descending list p is
+    /// the fraction of time in which the value is exceeded. Where n * p is below 1 the first value, 0 for no values.
+    static float percentiles(float p, QList<float> *sorted, unsigned int n);
+    /// Short-term flicker of a descending list of instantaneous values (IEC 61000-4-15, 5.7.2, smoothed percentiles).
+    static double pst10min(QList<float> *sorted, unsigned int n);
+    /// Resamples n values to 600. Without values `out` stays as it is.
+    static void lineInterpolation(float *out, const float *in, int n);
+    /// Resamples inCount samples to outCount, cut to integers. Up to 2 only the ends are set.
+    static void lineInterpolation(short *out, const short *in, int outCount, int inCount);
+    /// The order of descending lists.
+    static bool compare(float a, float b) { return a > b; }
+};

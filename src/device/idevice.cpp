@@ -1,0 +1,188 @@
+#include "device/idevice.h"
+
+#include "device/controlframe.h"
+#include "device/devicedsp.h"
+#include "device/devicegpio.h"
+#include "device/deviceinit.h"
+#include "device/frameslots.h"
+#include "device/trace.h"
+
+#include <QThread>
+
+IDevice *m_idevice = nullptr;
+
+IDevice::IDevice(QObject *parent)
+    : QObject(parent), m_version(new QString(QStringLiteral("CPU:ADSP-21479;Silicon:0.2;Firmware:None;")))
+{
+    qRegisterMetaType<__datagramtype>("DataGramType");
+    qRegisterMetaType<__datagramtype>("__datagramtype");
+    m_thread = new QThread(this);
+    m_dsp = new DeviceDSP;
+    m_dsp->moveToThread(m_thread);
+    // Emitted in the new thread, so the link opens before the first queued frame is looked at.
+    connect(m_thread, &QThread::started, m_dsp, &DeviceDSP::openDSP);
+    connect(m_thread, &QThread::finished, m_dsp, &QObject::deleteLater);
+    connectLink();
+    m_gpio = new DeviceGPIO;
+    m_thread->start(QThread::HighestPriority);
+    requestDSPVersion();
+}
+
+IDevice::~IDevice()
+{
+    m_thread->quit();
+    m_thread->wait();
+    delete m_gpio;
+    delete m_version;
+    if (m_idevice == this)
+        m_idevice = nullptr;
+}
+
+void IDevice::connectLink()
+{
+    const auto queued = Qt::QueuedConnection;
+    connect(this, &IDevice::requestTypeData, m_dsp, &DeviceDSP::RecvStart, queued);
+    connect(this, &IDevice::requestVersion, m_dsp, &DeviceDSP::requestVersion, queued);
+    connect(this, &IDevice::dspUpdate, m_dsp, &DeviceDSP::firmwareUpdate, queued);
+    connect(this, &IDevice::writeDSP, m_dsp, &DeviceDSP::DSPWrite, queued);
+    connect(this, &IDevice::writeHWClock, m_dsp, &DeviceDSP::writeHWClock, queued);
+    connect(m_dsp, &DeviceDSP::datagramAggregation, this, &IDevice::datagramAggregationSlot, queued);
+    connect(m_dsp, &DeviceDSP::datagramRMS_1_2, this, &IDevice::datagramRMS_1_2Slot, queued);
+    connect(m_dsp, &DeviceDSP::datagramTransient, this, &IDevice::datagramTransientSlot, queued);
+    connect(m_dsp, &DeviceDSP::datagramWave, this, &IDevice::datagramWaveSlot, queued);
+    connect(m_dsp, &DeviceDSP::datagramFlicker, this, &IDevice::datagramFlickerSlot, queued);
+    connect(m_dsp, &DeviceDSP::datagramFirmwareInfo, this, &IDevice::datagramFirmwareInfoSlot, queued);
+    connect(m_dsp, &DeviceDSP::datagramUpdate, this, &IDevice::datagramUpdateSlot, queued);
+    connect(m_dsp, &DeviceDSP::dspTimeStamp, this, &IDevice::dspTimeStampSlot, queued);
+    connect(m_dsp, &DeviceDSP::usingBDS, this, &IDevice::usingBDSSlot, queued);
+    connect(m_dsp, &DeviceDSP::dspUpdateStatus, this, &IDevice::dspUpdateStatus, queued);
+    connect(m_dsp, &DeviceDSP::reopened, this, &IDevice::setUpAgain, queued);
+}
+
+/// A processor that went and came back has lost its set-up: it gets the whole start sequence.
+void IDevice::setUpAgain()
+{
+    if (m_idevice == this)
+        DeviceInit::initAnalogDevice2();
+    emit reopened();
+}
+
+void IDevice::sendDSPMgmt(const void *data, unsigned int len)
+{
+    emit writeDSP(data, static_cast<int>(len));
+}
+
+QString IDevice::dspVersion() const
+{
+    return *m_version;
+}
+
+void IDevice::changeHWClock(QByteArray bytes)
+{
+    emit writeHWClock(bytes);
+}
+
+void IDevice::changeCurrentGPIO(int value)
+{
+    m_gpio->changeCurrentGPIO(value);
+}
+
+void IDevice::changeVoltGPIO(int value)
+{
+    m_gpio->changeVoltGPIO(value);
+}
+
+void IDevice::changeNCurrentGPIO(int value)
+{
+    m_gpio->changeNCurrentGPIO(value);
+}
+
+void IDevice::changeNVoltGPIO(int value)
+{
+    m_gpio->changeNVoltGPIO(value);
+}
+
+void IDevice::changeAnalogSwitchI(int value)
+{
+    changeCurrentGPIO(value);
+    changeNCurrentGPIO(value);
+}
+
+void IDevice::changeAnalogSwitchV(int value)
+{
+    changeVoltGPIO(value);
+    changeNVoltGPIO(value);
+}
+
+void IDevice::datagramAggregationSlot(__datagramtype, const QByteArray &datagram)
+{
+    emit datagramAggregation(datagram);
+}
+
+void IDevice::datagramRMS_1_2Slot(__datagramtype, const QByteArray &datagram)
+{
+    emit datagramRMS_1_2(datagram);
+}
+
+void IDevice::datagramTransientSlot(__datagramtype, const QByteArray &datagram)
+{
+    emit datagramTransient(datagram);
+}
+
+void IDevice::datagramWaveSlot(__datagramtype, const QByteArray &datagram)
+{
+    emit datagramWave(datagram);
+}
+
+void IDevice::datagramFlickerSlot(__datagramtype, const QByteArray &datagram)
+{
+    emit datagramFlicker(datagram);
+}
+
+void IDevice::datagramFirmwareInfoSlot(__datagramtype, const QByteArray &text)
+{
+    const int zero = text.indexOf('\0');
+    *m_version = QString::fromLatin1(text.constData(), zero < 0 ? text.size() : zero);
+    QV_TRACE("device/idevice") << "=====DSP Version" << *m_version;
+    emit datagramFirmwareInfo(text);
+}
+
+void IDevice::datagramUpdateSlot(__datagramtype, const QByteArray &datagram)
+{
+    emit datagramUpdate(datagram);
+}
+
+void IDevice::dspTimeStampSlot(quint32 seconds)
+{
+    emit dspTimeStamp(seconds);
+}
+
+void IDevice::usingBDSSlot(quint32 word)
+{
+    emit usingBDS(word);
+}
+
+void IDevice::requestDSPData(int type, int interval)
+{
+    m_requestType = type;
+    emit requestTypeData(type, interval);
+}
+
+void IDevice::requestDSPVersion()
+{
+    emit requestVersion();
+}
+
+void IDevice::buzzerRing(unsigned int value)
+{
+    static FrameSlots places;
+    QByteArray &frame = places.next();
+    ControlFrame::appendWord(frame, ControlFrame::RawBuzzer);
+    ControlFrame::appendWord(frame, value);
+    sendDSPMgmt(frame.constData(), static_cast<unsigned int>(frame.size()));
+}
+
+void IDevice::firmwareUpdate(QByteArray frame)
+{
+    emit dspUpdate(frame);
+}
