@@ -6,7 +6,7 @@
 #include <cstddef>
 
 /// One transient: 600 samples of each voltage channel around the spot.
-struct TransRecord
+struct __trans_data
 {
     qint32 number = 0; // running, from 1
     float frequency = 0; // Hz, of the moment
@@ -15,8 +15,8 @@ struct TransRecord
     float rms[4] = {}; // V of the moment
     qint16 samples[4][600] = {};
 };
-static_assert(offsetof(TransRecord, time) == 8 && offsetof(TransRecord, position) == 16
-                  && offsetof(TransRecord, rms) == 20 && offsetof(TransRecord, samples) == 36,
+static_assert(offsetof(__trans_data, time) == 8 && offsetof(__trans_data, position) == 16
+                  && offsetof(__trans_data, rms) == 20 && offsetof(__trans_data, samples) == 36,
               "order of a transient");
 
 /// The user's choice of the transient capture.
@@ -28,4 +28,4 @@ public:
 };
 
 /// Transients found since the start, at most 1000; the task appends and owns, the pages read.
-extern QList<TransRecord *> g_trans_events;
+extern QList<__trans_data *> g_trans_events;

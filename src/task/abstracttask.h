@@ -1,0 +1,105 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+
+class QTimer;
+
+/// Life of one measurement: it waits for its start time, runs, pauses, ends at its end time, keeps a stop watch and
+/// opens and closes a recording window inside the run. A stopped task cannot be restarted; a new one must be made.
+/// Main thread only. Times are seconds since 1970 unless a name says otherwise.
+class AbstractTask : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// What the universal task does besides keeping the display records fresh.
+    enum UniFunction { UniBasic = 1, UniWave = 2, UniLogger = 3, UniMonitor = 4, UniPowerInverter = 5 };
+
+    explicit AbstractTask(QObject *parent = nullptr);
+    ~AbstractTask() override;
+
+    virtual QString getTaskName() = 0;
+    virtual void save(bool keep) = 0;
+
+public slots:
+    virtual void updatedata() = 0;
+
+public:
+    bool isTaskRunning() const { return m_status == Running; }
+    bool isTaskPaused() const { return m_status == Paused; }
+    bool isTaskStoped() const { return m_status == Stopped; }
+    bool isRecording() const { return m_recording; }
+
+    int taskType() const { return m_taskType; }
+    int taskInterval() const { return m_taskInterval; } // ms
+    quint32 startTime() const { return m_startTime; }
+    quint32 endTime() const { return m_endTime; }
+    qint32 lifeCycle() const { return m_lifeCycle; } // s
+    qint64 recordStart() const { return m_recordStart; } // ms
+    qint64 recordEnd() const { return m_recordEnd; } // ms
+    qint64 recordLife() const { return m_recordLife; } // ms
+    bool recordEnabled() const { return m_recordEnabled; }
+
+    /// \a interval in ms; below 200 it becomes 200.
+    void setTaskType(int type, int interval);
+    /// Plans the run: \a start in s since 1970 (0 or past: ten seconds from now), \a life in s (out of 1 to 86400000:
+    /// that). Ignored while the task waits or runs.
+    void setTaskLifeCycle(unsigned int start, int life);
+    /// Plans the recording window, same arguments; kept in ms of the processor's time.
+    void setRecordLifeCycle(unsigned int start, int life);
+
+    void preStartTask();
+    void startTask();
+    void pauseTask();
+    void continueTask();
+    void stopTask();
+
+    void enableRecord() { m_recordEnabled = true; }
+    void startRecordTask();
+    void stopRecordTask();
+    /// Recording clock while the task waits; \a msec is the processor's time of an aggregation datagram.
+    void startRecordTimer(unsigned long long msec);
+    /// Recording clock while the task runs; \a msec is the processor's time of a wave datagram.
+    void recordTimer(unsigned long long msec);
+
+    /// "-hh:mm:ss" for \a seconds below 1, else "hh:mm:ss"; hours without a bound.
+    static QString stopWatchText(qint64 seconds);
+
+public slots:
+    void requestDSP();
+    void baseTimerTimeout();
+
+signals:
+    void requestDSPData(int, int);
+    void taskStarted();
+    void taskStoped();
+    void taskStoped(quint32);
+    void taskPaused();
+    void taskContinued();
+    void stopWatchChanged(const QString &);
+    void recordTimeChanged(const QString &);
+    void init_param();
+    void recordingStarted();
+    void recordingStoped();
+
+private:
+    enum Status { Idle = 0, Waiting = 1, Running = 2, Paused = 3, Stopped = 4 };
+
+    /// Common step of both recording clocks. \a endsWindow: the clock closes the window at its end.
+    void recordClock(qint64 msec, qint64 &lastShown, bool endsWindow);
+
+    QTimer *m_dataTimer;
+    qint32 m_status = Idle;
+    qint32 m_taskType = 0;
+    qint32 m_taskInterval = 200; // ms
+    QTimer *m_baseTimer;
+    quint32 m_startTime = 0;
+    quint32 m_endTime = 0;
+    qint32 m_lifeCycle = 0;
+    qint64 m_recordStart = 0;
+    qint64 m_recordEnd = 0;
+    qint64 m_recordLife = 0;
+    bool m_recordEnabled = false;
+    bool m_recording = false;
+};

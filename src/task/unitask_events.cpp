@@ -1,0 +1,152 @@
+#include "task/unitask.h"
+
+#include "config/config_data.h"
+#include "device/datatypes.h"
+#include "device/displayrecords.h"
+#include "pqa2/powerevents.h"
+#include "pqa2/pqa2ff.h"
+#include "task/displayfeed.h"
+
+#include <algorithm>
+
+// The half-cycle stream: means for the mains-signalling page, event detection entry by entry, r.m.s. trends, and the
+// storing of events.
+
+void UniTask::datagramRMS_1_2(const QByteArray &bytes)
+{
+    if (!DataTypes::fits(DatagramRMS_1_2, bytes))
+        return;
+    DataTypes::datagramRMS_1_2(m_rms.get(), bytes.constData());
+    if (!isLive())
+        return;
+    pushHalfCycles();
+    checkHalfCycles();
+    drainRings();
+}
+
+void UniTask::pushHalfCycles()
+{
+    for (int c = 0; c < m_channels; ++c) {
+        const RmsSeries &voltage = m_rms->voltage[c];
+        const RmsSeries &current = m_rms->current[c];
+        const int count = int(std::min<quint32>(voltage.count, kRmsEntries));
+        float voltageSum = 0;
+        float currentSum = 0;
+        for (int i = 0; i < count; ++i) {
+            m_rings[c].rmsfifoPush(voltage.entry[i].value);
+            m_rings[c + kChannels].rmsfifoPush(current.entry[i].value);
+            voltageSum += voltage.entry[i].value;
+            currentSum += current.entry[i].value;
+        }
+        if (g_mains_sig && count > 0) {
+            g_mains_sig->rms1[c] = voltageSum / float(count);
+            g_mains_sig->rms2[c] = currentSum / float(count);
+        }
+    }
+}
+
+void UniTask::checkHalfCycles()
+{
+    int entries = kRmsEntries;
+    for (int c = 0; c < m_channels; ++c)
+        entries = std::min({ entries, int(m_rms->voltage[c].count), int(m_rms->current[c].count) });
+
+    QList<_value_with_time> values;
+    values.reserve(2 * kChannels);
+    for (int i = 0; i < entries; ++i) {
+        values.clear();
+        for (const RmsSeries &series : m_rms->voltage)
+            values.append(series.entry[i]);
+        for (const RmsSeries &series : m_rms->current)
+            values.append(series.entry[i]);
+        m_events->checkPowerEvents(values);
+    }
+}
+
+void UniTask::drainRings()
+{
+    for (int c = 0; c < m_channels; ++c) {
+        for (int input : { c, c + kChannels }) {
+            const bool isVoltage = input < kChannels;
+            while (m_rings[input].rmsfifoCount() >= 1) {
+                const float value = m_rings[input].rms_data_extract();
+                if (g_dipswell_trend) {
+                    auto &list = isVoltage ? g_dipswell_trend->voltage[c] : g_dipswell_trend->current[c];
+                    DisplayFeed::appendLimited(list, value, m_dipTrendLimit);
+                }
+                if (g_inrush_data) {
+                    auto &list = isVoltage ? g_inrush_data->voltage[c] : g_inrush_data->current[c];
+                    DisplayFeed::appendLimited(list, value, m_inrushTrendLimit);
+                }
+            }
+        }
+    }
+}
+
+void UniTask::changeEventsList(const QList<PQAEventItem> &events)
+{
+    g_events_list.clear();
+    g_events_list.reserve(events.size());
+    for (const PQAEventItem &event : events)
+        g_events_list.append(event);
+    emit refreshEventList(nullptr);
+    emit hasEvents();
+}
+
+void UniTask::eventFinished(const PQAEventItem &) { }
+
+void UniTask::eventFinishedWithRMS(const PQAEventItem &event)
+{
+    if (m_function == UniBasic && isRecording() && m_commonFile && m_commonFile->isOpen())
+        m_commonFile->addDataBlock(Pqa2DBType(0xA1010083), PowerEvents::toRawData(event));
+}
+
+namespace {
+
+constexpr int kEventHeadBytes = 32;
+
+/// The first 32 bytes of the stored form: the event without its curves.
+QByteArray eventHead(const PQAEventItem &event)
+{
+    return PowerEvents::rawHead(event).left(kEventHeadBytes);
+}
+
+} // namespace
+
+void UniTask::saveAllEvents()
+{
+    const QList<PQAEventItem> events = m_events->getAllEvents();
+    for (const PQAEventItem &event : events) {
+        for (Pqa2FF *file : { m_commonFile, m_monitorFile }) {
+            if (file && file->isOpen())
+                file->addDataBlock(Pqa2DBType(0xA1010080), eventHead(event));
+        }
+    }
+}
+
+void UniTask::saveEvents(bool finished)
+{
+    const QList<PQAEventItem> events = m_events->getAllEvents();
+    for (const PQAEventItem &event : events) {
+        if ((event.finished != 0) != finished)
+            continue;
+        if (m_commonFile && m_commonFile->isOpen())
+            m_commonFile->addDataBlock(Pqa2DBType(0xA1010083), PowerEvents::toRawData(event));
+        if (m_monitorFile && m_monitorFile->isOpen())
+            m_monitorFile->addDataBlock(Pqa2DBType(0xA1010080), eventHead(event));
+    }
+}
+
+void UniTask::saveFinishedEvents()
+{
+    saveEvents(true);
+    if (!m_commonFile || !m_commonFile->isOpen())
+        return;
+    for (const __trans_data *record : qAsConst(g_trans_events))
+        m_commonFile->addDataBlock(Pqa2DBType(0xA1000025), transientBlock(*record));
+}
+
+void UniTask::saveUnFinishedEvents()
+{
+    saveEvents(false);
+}

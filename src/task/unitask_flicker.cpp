@@ -1,0 +1,53 @@
+#include "task/unitask.h"
+
+#include "config/recordinfo.h"
+#include "device/datatypes.h"
+#include "device/displayrecords.h"
+#include "pqa2/flickerprocessor.h"
+#include "pqa2/pqa2ff.h"
+
+// The flicker stream: severities for the pages, blocks for the files that record them.
+
+namespace {
+
+constexpr quint32 kFlickerItem = 32; // bit of the recorded items
+
+template <typename T> QByteArray blockHead(T value)
+{
+    return QByteArray(reinterpret_cast<const char *>(&value), sizeof(value));
+}
+
+/// Adds the blocks that hold a value behind their head.
+void writeFlickerBlocks(Pqa2FF *file, const FlickerOutput &out, quint32 shortType, quint32 longType)
+{
+    if (!file || !file->isOpen())
+        return;
+    if (out.shortTerm)
+        file->addDataBlock(Pqa2DBType(shortType), out.shortBlock);
+    if (out.longTerm)
+        file->addDataBlock(Pqa2DBType(longType), out.longBlock);
+}
+
+} // namespace
+
+void UniTask::datagramFlicker(const QByteArray &bytes)
+{
+    if (!DataTypes::fits(DatagramFlicker, bytes))
+        return;
+    DataTypes::datagramFlicker(m_flicker.get(), bytes.constData());
+    if (!isLive() || !g_flicker_data)
+        return;
+
+    // The recorder's blocks start with the time in milliseconds, the monitor's with seconds.
+    const bool monitoring = m_function == UniMonitor;
+    const QByteArray head = monitoring ? blockHead(quint32(m_flicker->time / 1000)) : blockHead(m_flicker->time);
+    const FlickerOutput out = m_flickerProcessor->process(*m_flicker, head, *g_flicker_data);
+
+    if (monitoring) {
+        writeFlickerBlocks(m_monitorFile, out, 0xA1010002, 0xA1010003);
+    } else if (m_function == UniBasic && isRecording() && (RecordInfo::m_recordItems & kFlickerItem)) {
+        writeFlickerBlocks(m_commonFile, out, 0xA1000026, 0xA1000027);
+    }
+    if (m_function == UniBasic || monitoring)
+        emit flickerTaken();
+}

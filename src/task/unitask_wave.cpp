@@ -1,0 +1,64 @@
+#include "task/unitask.h"
+
+#include "config/channelset.h"
+#include "config/config_data.h"
+#include "device/datatypes.h"
+#include "device/displayrecords.h"
+#include "pqa2/pqa2ff.h"
+#include "task/transientcutter.h"
+
+#include <cmath>
+#include <cstring>
+
+// The waveform stream: recording clock, transients and, once a second, the trends.
+
+void UniTask::datagramWave(const QByteArray &bytes)
+{
+    if (!DataTypes::fits(DatagramWave, bytes))
+        return;
+    DataTypes::datagramWave(m_wave.get(), bytes.constData());
+    recordTimer(quint64(m_wave->time));
+    if (!isLive())
+        return;
+    appendSecondTrends();
+    captureTransient();
+    emit waveTaken(m_wave.get());
+}
+
+void UniTask::captureTransient()
+{
+    const int code = TransientCutter::channelCode(m_wave->transient);
+    if (!transientCodeCounts(m_settingConfig_g.getJoinMode(), code))
+        return;
+
+    auto record = std::make_unique<__trans_data>();
+    record->number = ++m_transientNumber;
+    record->frequency = std::fabs(m_aggregation->frequency);
+    for (int c = 0; c < kChannels; ++c)
+        record->rms[c] = m_aggregation->channel[c].voltage;
+    TransientCutter::cut(*m_wave, *record);
+
+    Pqa2FF *file
+        = m_function == UniMonitor ? m_monitorFile : (m_function == UniBasic && isRecording() ? m_commonFile : nullptr);
+    if (file && file->isOpen())
+        file->addDataBlock(Pqa2DBType(0xA1000025), transientBlock(*record));
+
+    if (g_trans_events.size() >= TransParam::kMaxEvents)
+        delete g_trans_events.takeFirst();
+    g_trans_events.append(record.release());
+    emit hasTransEvents();
+    emit transientTaken(g_trans_events.last());
+}
+
+QByteArray UniTask::transientBlock(const __trans_data &record)
+{
+    const int channel = TransientCutter::channelCode(record.position) - 1;
+    QByteArray block;
+    if (channel < 0 || channel >= kChannels)
+        return block;
+    block.append(reinterpret_cast<const char *>(&record.time), sizeof(record.time));
+    block.append(reinterpret_cast<const char *>(&record.frequency), sizeof(record.frequency));
+    block.append(reinterpret_cast<const char *>(&record.position), sizeof(record.position));
+    block.append(reinterpret_cast<const char *>(record.samples[channel]), sizeof(record.samples[channel]));
+    return block;
+}

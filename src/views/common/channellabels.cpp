@@ -1,0 +1,102 @@
+#include "views/common/channellabels.h"
+
+#include "config/channelset.h"
+#include "config/config_data.h"
+#include "config/phasecolor.h"
+#include "widgets/f_to_str.h"
+
+#include <QLabel>
+
+#include <cmath>
+
+namespace ChannelLabels {
+
+namespace {
+
+const char *const kSuffixes[kChannels] = { "L1", "L2", "L3", "N" };
+
+void setText(QLabel *label, const QString &text)
+{
+    if (label && label->text() != text)
+        label->setText(text);
+}
+
+/// Colours change with a setting or the lock, not with a value: the sheet is set only when it differs.
+void setColor(QLabel *label, const QString &color)
+{
+    const QString sheet = QStringLiteral("color: %1;").arg(color);
+    if (label && label->styleSheet() != sheet)
+        label->setStyleSheet(sheet);
+}
+
+} // namespace
+
+const ChannelSet &channels()
+{
+    // A wiring outside the table leaves all fields as they are: no channel is had.
+    static constexpr ChannelSet none = {};
+    const ChannelSet *set = m_settingConfig_g.channels();
+    return set ? *set : none;
+}
+
+LabelRow namedRow(const QWidget *form, const char *prefix)
+{
+    LabelRow row;
+    for (int c = 0; c < kChannels; ++c)
+        row[c] = form->findChild<QLabel *>(
+            QStringLiteral("%1_%2").arg(QLatin1String(prefix), QLatin1String(kSuffixes[c])));
+    return row;
+}
+
+LabelRow numberedRow(const QWidget *form, const char *pattern)
+{
+    LabelRow row;
+    for (int c = 0; c < kChannels; ++c)
+        row[c] = form->findChild<QLabel *>(QString::fromLatin1(pattern).arg(c + 1));
+    return row;
+}
+
+void showHeaders(const LabelRow &row, const QString &suffix)
+{
+    const ChannelSet &set = channels();
+    for (int c = 0; c < kChannels; ++c) {
+        if (!set.has(c)) {
+            setText(row[c], QString());
+            continue;
+        }
+        setText(row[c], set.caption(c) + suffix);
+        setColor(row[c], PhaseColor::color(c).name());
+    }
+}
+
+void showValues(const LabelRow &row, const float *values, Format format)
+{
+    const ChannelSet &set = channels();
+    for (int c = 0; c < kChannels; ++c) {
+        if (set.has(c))
+            setText(row[c], format(values[c]));
+    }
+}
+
+void clearUnused(const LabelRow &row)
+{
+    const ChannelSet &set = channels();
+    for (int c = 0; c < kChannels; ++c) {
+        if (!set.has(c))
+            setText(row[c], QString());
+    }
+}
+
+void clear(const LabelRow &row)
+{
+    for (QLabel *label : row)
+        setText(label, QString());
+}
+
+void showFrequency(QLabel *label, float frequency, const QString &unit)
+{
+    setText(label, F_to_Str::number_F(std::fabs(frequency)) + unit);
+    setColor(label, frequency < 0 ? QStringLiteral("#808080") : QStringLiteral("#ffffff"));
+}
+
+} // namespace ChannelLabels

@@ -1,0 +1,80 @@
+#include "views/vif/vifmain.h"
+#include "ui_vifmain.h"
+
+#include "config/config_data.h"
+#include "device/displayrecords.h"
+#include "widgets/f_to_str.h"
+
+namespace {
+
+struct Row
+{
+    const char *name; // labels <name>_t, <name>_L1 ... <name>_N
+    const char *caption; // "%1" stands for the unit
+    QString DisplayUnits::*unit;
+    float (__vif_data::*values)[kChannels];
+    QString (*format)(float);
+};
+
+const Row kRows[] = {
+    { "Urms", QT_TRANSLATE_NOOP("VifMain", "Urms(%1)"), &DisplayUnits::volt, &__vif_data::voltage, F_to_Str::number_V },
+    { "Upk", QT_TRANSLATE_NOOP("VifMain", "Upk(%1)"), &DisplayUnits::volt, &__vif_data::voltagePeak,
+      F_to_Str::number_V },
+    { "Ucf", QT_TRANSLATE_NOOP("VifMain", "CF"), nullptr, &__vif_data::voltageCrest, F_to_Str::number_2 },
+    { "Irms", QT_TRANSLATE_NOOP("VifMain", "Irms(%1)"), &DisplayUnits::ampere, &__vif_data::current,
+      F_to_Str::number_A },
+    { "Ipk", QT_TRANSLATE_NOOP("VifMain", "Ipk(%1)"), &DisplayUnits::ampere, &__vif_data::currentPeak,
+      F_to_Str::number_A },
+    { "Icf", QT_TRANSLATE_NOOP("VifMain", "CF"), nullptr, &__vif_data::currentCrest, F_to_Str::number_2 },
+};
+
+} // namespace
+
+VifMain::VifMain(QWidget *parent) : ViewPage(UI_VIF, parent), m_ui(new Ui::VifMain)
+{
+    static const KeyRow<VifMain> keys[] = {
+        { Qt::Key_F4, QT_TRANSLATE_NOOP("VifMain", "Trend"), &VifMain::goVifTrend },
+    };
+    m_ui->setupUi(this);
+    m_headers = ChannelLabels::numberedRow(this, "header_%1");
+    for (const Row &row : kRows)
+        m_rows.push_back(ChannelLabels::namedRow(this, row.name));
+    setKeys(keys);
+}
+
+VifMain::~VifMain() = default;
+
+void VifMain::init_parameter()
+{
+    ViewPage::init_parameter();
+    showTitle();
+    showCurParams();
+}
+
+void VifMain::retranslateUi()
+{
+    ViewPage::retranslateUi();
+    setText(m_ui->freq_t, tr("Freq ="));
+    showTitle();
+}
+
+void VifMain::showTitle()
+{
+    ChannelLabels::showHeaders(m_headers);
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        const Row &row = kRows[i];
+        const QString caption = tr(row.caption);
+        setText(findChild<QLabel *>(QString::fromLatin1(row.name) + QLatin1String("_t")),
+                row.unit ? caption.arg(m_settingConfig_g.units().*row.unit) : caption);
+        ChannelLabels::clearUnused(m_rows[i]);
+    }
+}
+
+void VifMain::showCurParams()
+{
+    if (!g_vif_data)
+        return;
+    for (std::size_t i = 0; i < m_rows.size(); ++i)
+        ChannelLabels::showValues(m_rows[i], g_vif_data->*kRows[i].values, kRows[i].format);
+    ChannelLabels::showFrequency(m_ui->freq, g_vif_data->frequency);
+}

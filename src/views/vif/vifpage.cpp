@@ -1,0 +1,80 @@
+#include "views/vif/vifpage.h"
+
+#include "config/config_data.h"
+#include "device/displayrecords.h"
+#include "views/vif/vifmain.h"
+#include "views/vif/viftrendpage.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+/// What a saved data file of this page holds (60,136 bytes). Only the first count entries of a series are filled.
+struct __vif_pqa_data
+{
+    float values[33]; // as the first 33 words of __vif_data
+    qint32 count; // length of the shortest U rms series, at most 600
+    /// U rms, U peak, U crest factor, I rms, I peak, I crest factor; each the four channels together.
+    float series[6][kChannels][kTrendPoints];
+    float frequency[kTrendPoints];
+};
+static_assert(sizeof(__vif_pqa_data) == 60136, "told size of the saved record");
+
+constexpr VifTrend kSavedTrends[]
+    = { VifTrendURms, VifTrendUPeak, VifTrendUCrest, VifTrendIRms, VifTrendIPeak, VifTrendICrest };
+
+} // namespace
+
+VifPage::VifPage(QWidget *parent)
+    : ViewContainer(UI_VIF, { 2, "VAHz" }, parent), m_main(new VifMain), m_trend(new VifTrendPage)
+{
+    addPage(m_main);
+    addPage(m_trend);
+    connect(m_main, &VifMain::goVifTrend, this, &VifPage::showVifTrend);
+    connect(m_trend, &VifTrendPage::goBack, this, &VifPage::showVifmain);
+}
+
+void VifPage::showVifTrend()
+{
+    showPage(m_trend);
+}
+
+void VifPage::showVifmain()
+{
+    showPage(m_main);
+}
+
+void VifPage::initDisplayParam()
+{
+    // The address must stay: the task and the pages hold it for the life of the process.
+    if (!g_vif_data)
+        g_vif_data = new __vif_data;
+    else
+        *g_vif_data = __vif_data();
+    g_vif_data->frequency = m_settingConfig_g.getNomFreq();
+}
+
+QByteArray VifPage::pqaData() const
+{
+    if (!g_vif_data)
+        return {};
+    QByteArray bytes(int(sizeof(__vif_pqa_data)), '\0');
+    __vif_pqa_data data = {};
+    std::memcpy(data.values, g_vif_data, sizeof(data.values));
+
+    int count = kTrendPoints;
+    for (const QList<float> &series : g_vif_data->trend[VifTrendURms].series)
+        count = std::min(count, int(series.size()));
+    data.count = count;
+    for (int q = 0; q < 6; ++q) {
+        for (int c = 0; c < kChannels; ++c) {
+            const QList<float> &series = g_vif_data->trend[kSavedTrends[q]].series[c];
+            std::copy_n(series.begin(), std::min(count, int(series.size())), data.series[q][c]);
+        }
+    }
+    const QList<float> &frequency = g_vif_data->trend[VifTrendFrequency].series[0];
+    std::copy_n(frequency.begin(), std::min(count, int(frequency.size())), data.frequency);
+    std::memcpy(bytes.data(), &data, sizeof(data));
+    return bytes;
+}

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "views/common/viewcontainer.h"
+
+class VifMain;
+class VifTrendPage;
+
+/// Volts/Amps/Hertz: the table of values and the ten-minute trend.
+class VifPage : public ViewContainer
+{
+    Q_OBJECT
+
+public:
+    explicit VifPage(QWidget *parent = nullptr);
+
+    void enterVif() { enterFirstPage(); }
+    QByteArray pqaData() const override;
+
+public slots:
+    void showVifTrend();
+    void showVifmain();
+
+protected:
+    void initDisplayParam() override;
+
+private:
+    VifMain *m_main;
+    VifTrendPage *m_trend;
+};
