@@ -1,0 +1,60 @@
+# Shared by run.sh, test.sh and bench.sh, which set `top` to the repository's folder before they read this.
+
+say() { printf '%s\n' "$*" >&2; }
+die() { printf 'quvera: %s\n' "$*" >&2; exit 1; }
+
+# Names of the packages of the list that are not installed.
+missing_packages()
+{
+    sed -e 's/#.*//' -e '/^[[:space:]]*$/d' "$top/packaging/debian-packages.txt" | while read -r package; do
+        case "$(dpkg-query -W -f='${Status}' "$package" 2>/dev/null)" in
+        *' installed') ;;
+        *) printf '%s ' "$package" ;;
+        esac
+    done
+}
+
+# Installs what is missing, by apt, and only then asks for rights.
+install_packages()
+{
+    command -v dpkg-query >/dev/null && command -v apt-get >/dev/null ||
+        die "this script installs by apt; on another system install the peers of packaging/debian-packages.txt by hand"
+    missing=$(missing_packages)
+    [ -n "$missing" ] || return 0
+    as_root=
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null ||
+            die "packages are missing and there is no sudo; as root run: apt-get install $missing"
+        as_root=sudo
+    fi
+    say "Installing: $missing"
+    log=$(mktemp "${TMPDIR:-/tmp}/quvera-apt.XXXXXX") || die "no temporary file can be written"
+    # Lists that are a little old are good enough when the network hiccups: only the installation decides.
+    $as_root apt-get update >"$log" 2>&1 </dev/null || say "apt-get update failed; trying with the lists at hand"
+    # shellcheck disable=SC2086  # a list of names
+    if ! $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends $missing \
+        >>"$log" 2>&1 </dev/null; then
+        die "apt-get could not install: $missing(what it said: $log)"
+    fi
+    rm -f "$log"
+}
+
+# configure <preset>: configures once; CMake itself notices later changes of its files.
+configure()
+{
+    log="$top/build/configure-$1.log"
+    mkdir -p "$top/build" 2>/dev/null && [ -w "$top/build" ] || die "$top/build cannot be written"
+    if ! (cd "$top" && cmake --preset "$1") >"$log" 2>&1; then
+        tail -n 25 "$log" >&2
+        die "configuring failed (preset $1; all of it: $log)"
+    fi
+    rm -f "$log"
+}
+
+# build <folder> [target...]
+build()
+{
+    folder=$1
+    shift
+    cmake --build "$folder" --parallel "${QUVERA_JOBS:-$(nproc)}" ${1:+--target "$@"} >&2 || die "the build failed"
+}

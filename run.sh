@@ -1,0 +1,158 @@
+#!/bin/bash
+# Builds the instrument and its processor stand-in, and runs both on this desk until Ctrl-C or power-off.
+top=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd) || exit 1
+. "$top/packaging/common.sh"
+
+usage()
+{
+    cat <<EOF
+Usage: ./run.sh [options]
+  --fresh             start with a new desk root: factory settings, empty storage
+  --root DIR          the folder that stands for the board's "/" (default: build/desk, kept between runs)
+  --scenario NAME     what stands at the inputs: a file, or a name of processor/scenarios (default: nominal)
+  --speed N           let time run N times faster
+  --modbus-port N     TCP port of the Modbus server (default 1502; the board's is 502)
+  --remote-port N     UDP port of the remote control (default 3527)
+  --offscreen         no window, even with a display
+  --build-only        install and build, start nothing
+  -h, --help          this text
+Other options (--seed N, --record FILE, --replay FILE, --log-frames FILE) go to the processor stand-in.
+EOF
+}
+
+root=$top/build/desk fresh= offscreen= build_only=
+modbus_port=${QUVERA_MODBUS_PORT:-1502} remote_port=${QUVERA_REMOTE_PORT:-3527}
+scenario=
+processor_options=()
+value() { [ $# -ge 2 ] || die "option $1 needs a value"; printf '%s' "$2"; }
+while [ $# -gt 0 ]; do
+    case "$1" in
+    -h|--help) usage; exit 0 ;;
+    --fresh) fresh=yes ;;
+    --offscreen) offscreen=yes ;;
+    --build-only) build_only=yes ;;
+    --root) root=$(value "$@") || exit; shift ;;
+    --scenario) scenario=$(value "$@") || exit; shift ;;
+    --modbus-port) modbus_port=$(value "$@") || exit; shift ;;
+    --remote-port) remote_port=$(value "$@") || exit; shift ;;
+    --speed|--seed|--record|--replay|--log-frames)
+        processor_options+=("$1" "$(value "$@")") || exit; shift ;;
+    *) die "unknown option $1 (./run.sh --help lists them)" ;;
+    esac
+    shift
+done
+case "$modbus_port$remote_port" in *[!0-9]*) die "ports are numbers" ;; esac
+case "$root" in /*) ;; *) root=$PWD/$root ;; esac
+if [ -n "$scenario" ] && [ ! -f "$scenario" ]; then
+    [ -f "$top/processor/scenarios/$scenario.json" ] ||
+        die "no scenario $scenario (names: $(cd "$top/processor/scenarios" && echo *.json | sed 's/\.json//g'))"
+    scenario=$top/processor/scenarios/$scenario.json
+fi
+
+install_packages
+configure release
+build "$top/build" quvera quvera-processor quvera-remote
+[ -z "$build_only" ] || exit 0
+
+# The desk root. Only a folder that this script made is ever emptied.
+mkdir -p "$root" 2>/dev/null && [ -w "$root" ] && [ -x "$root" ] || die "the root $root cannot be written"
+mark=$root/.quvera-desk
+exec 9>>"$mark" || die "the root $root cannot be written"
+flock -n 9 || die "the root $root is in use by another run"
+if [ -n "$fresh" ]; then
+    if [ -n "$(ls -A "$root" | grep -vx .quvera-desk)" ] && [ ! -s "$mark" ]; then
+        die "--fresh would empty $root, which was not made by this script"
+    fi
+    find "$root" -mindepth 1 -maxdepth 1 ! -name .quvera-desk -exec rm -rf {} + || die "the root $root cannot be emptied"
+fi
+[ -s "$mark" ] || [ -n "$(ls -A "$root" | grep -vx .quvera-desk)" ] || echo "desk root of the instrument" >&9
+
+# Both ports, before anything starts: the instrument ends at once when its remote control finds no port.
+hex() { printf ':%04X' "$1"; }
+awk -v p="$(hex "$remote_port")" '$2 ~ p"$" { found = 1 } END { exit !found }' /proc/net/udp /proc/net/udp6 2>/dev/null &&
+    die "UDP port $remote_port is in use; choose another with --remote-port"
+awk -v p="$(hex "$modbus_port")" '$2 ~ p"$" && $4 == "0A" { found = 1 } END { exit !found }' \
+    /proc/net/tcp /proc/net/tcp6 2>/dev/null && die "TCP port $modbus_port is in use; choose another with --modbus-port"
+if [ "$modbus_port" -lt "$(cat /proc/sys/net/ipv4/ip_unprivileged_port_start 2>/dev/null || echo 1024)" ] &&
+    [ "$(id -u)" -ne 0 ]; then
+    die "port $modbus_port needs root; choose one above 1023 with --modbus-port"
+fi
+
+export QUVERA_ROOT=$root QUVERA_MODBUS_PORT=$modbus_port QUVERA_REMOTE_PORT=$remote_port
+if [ -n "$offscreen" ] || { [ -z "${QT_QPA_PLATFORM:-}" ] && [ -z "${DISPLAY:-}" ]; }; then
+    export QT_QPA_PLATFORM=offscreen
+fi
+
+processor= instrument=
+finish()
+{
+    trap '' INT TERM EXIT
+    [ -z "$instrument" ] || kill "$instrument" 2>/dev/null
+    [ -z "$processor" ] || kill "$processor" 2>/dev/null
+    wait 2>/dev/null
+    exit "${1:-0}"
+}
+trap 'say; finish 0' INT TERM
+trap 'finish $?' EXIT
+
+power_latch=$root/sys/class/gpio/gpio47/value
+[ ! -e "$power_latch" ] || echo 0 >"$power_latch"
+
+# The children get Ctrl-C from this script only, so that they end in order.
+node=$root/dev/mcasp
+rm -f "$node" 2>/dev/null
+setsid "$top/build/bin/quvera-processor" --root "$root" ${scenario:+--scenario "$scenario"} \
+    "${processor_options[@]}" 9>&- </dev/null &
+processor=$!
+for _ in $(seq 100); do
+    [ -S "$node" ] && break
+    kill -0 "$processor" 2>/dev/null || { processor=; die "the processor stand-in did not start"; }
+    sleep 0.1
+done
+[ -S "$node" ] || die "the processor stand-in did not open $node"
+
+setsid "$top/build/bin/quvera" 9>&- </dev/null &
+instrument=$!
+answered=
+for _ in $(seq 100); do
+    kill -0 "$instrument" 2>/dev/null || break
+    if "$top/build/bin/quvera-remote" --port "$remote_port" --timeout 200 identify >/dev/null 2>&1; then
+        answered=yes
+        break
+    fi
+    sleep 0.1
+done
+if ! kill -0 "$instrument" 2>/dev/null; then
+    instrument=
+    [ "${QT_QPA_PLATFORM:-}" = offscreen ] || die "the instrument did not start; without a usable display add --offscreen"
+    die "the instrument did not start"
+fi
+[ -n "$answered" ] || die "the instrument does not answer on UDP port $remote_port"
+
+remote="build/bin/quvera-remote$([ "$remote_port" = 3527 ] || echo " --port $remote_port")"
+if [ "${QT_QPA_PLATFORM:-}" = offscreen ]; then
+    say "The instrument runs without a window. Look and press from another terminal, in $top:"
+    say "  $remote screen screen.png"
+    say "  $remote key Menu Enter"
+else
+    say "The instrument's window is open. Its keys can also be pressed from another terminal, in $top:"
+    say "  $remote key Menu Enter"
+fi
+say "Modbus: TCP port $modbus_port. Settings and files: $root. Ctrl-C ends."
+
+while kill -0 "$instrument" 2>/dev/null; do
+    if [ "$(cat "$power_latch" 2>/dev/null)" = 1 ]; then
+        say "The instrument switched its supply off."
+        finish 0
+    fi
+    if [ -n "$processor" ] && ! kill -0 "$processor" 2>/dev/null; then
+        processor=
+        say "The processor stand-in has ended; the instrument goes on without a signal."
+    fi
+    sleep 0.25
+done
+wait "$instrument"
+status=$?
+instrument=
+[ "$status" -eq 0 ] || say "The instrument ended with status $status."
+finish "$status"
