@@ -1,0 +1,120 @@
+#include "gallery/gallery.h"
+
+#include <QDir>
+#include <QThread>
+#include <cstdio>
+
+namespace {
+
+constexpr char kSettingFile[] = "/mnt/userfs/sys/setting.conf";
+constexpr char kUserFile[] = "/mnt/userfs/config/user.conf";
+// The item that is current when the instrument starts.
+constexpr char kFirstItem[] = "vif";
+
+QString variantName(int wiring, int frequency, const QString &language)
+{
+    QString name = QStringLiteral("%1, %2 Hz").arg(wiringName(wiring)).arg(frequency);
+    return language == QLatin1String("EN") ? name : name + QStringLiteral(", ") + language;
+}
+
+// NOM_FREQ: 1 is 50 Hz, 2 is 60 Hz, 3 is 400 Hz.
+int frequencyCode(int frequency)
+{
+    return frequency == 400 ? 3 : frequency == 60 ? 2 : 1;
+}
+
+} // namespace
+
+Gallery::Gallery(const GalleryOptions &options) : m_options(options) { }
+
+bool Gallery::run()
+{
+    if (!QDir().mkpath(m_options.folder)) {
+        m_error = m_options.folder + QStringLiteral(": cannot be made");
+        return false;
+    }
+    bool isFirst = true;
+    for (const QString &language : qAsConst(m_options.languages)) {
+        for (int frequency : qAsConst(m_options.frequencies)) {
+            for (int wiring : qAsConst(m_options.wirings)) {
+                if (!runVariant(wiring, frequency, language, isFirst))
+                    return false;
+                isFirst = false;
+            }
+        }
+    }
+    if (!writeIndex(m_options.folder, m_pictures)
+        || (m_options.sheet
+            && !writeContactSheet(m_options.folder, m_pictures, m_options.folder + QStringLiteral("/sheet.png")))) {
+        m_error = m_options.folder + QStringLiteral(": cannot be written");
+        return false;
+    }
+    return true;
+}
+
+// One start of both programs. Pages that look the same in every wiring come with the first only.
+bool Gallery::runVariant(int wiring, int frequency, const QString &language, bool isFirst)
+{
+    const QString variant = variantName(wiring, frequency, language);
+    std::printf("%s\n", qPrintable(variant));
+    std::fflush(stdout);
+    DeskInstrument desk(m_options.binDir);
+    desk.setSetting(QLatin1String(kSettingFile), QStringLiteral("JOINMODE"), QString::number(wiring));
+    desk.setSetting(QLatin1String(kSettingFile), QStringLiteral("NOM_FREQ"), QString::number(frequencyCode(frequency)));
+    desk.setSetting(QLatin1String(kUserFile), QStringLiteral("LANG"), language);
+    QStringList arguments;
+    if (!m_options.scenario.isEmpty())
+        arguments << QStringLiteral("--scenario") << m_options.scenario;
+    if (!desk.start(arguments)) {
+        m_error = desk.error();
+        return false;
+    }
+    QString item = QLatin1String(kFirstItem);
+    for (const Page &page : galleryPages()) {
+        const bool wanted = m_options.pages.isEmpty() || m_options.pages.contains(page.name);
+        if (!wanted || (!page.everyWiring && !isFirst) || (!page.at400Hz && frequency == 400))
+            continue;
+        if (!showPage(desk, page, variant, frequency == 400, &item)) {
+            m_error = QStringLiteral("%1 (%2): %3").arg(page.name, variant, desk.error());
+            return false;
+        }
+    }
+    if (!desk.isInstrumentRunning()) {
+        m_error = QStringLiteral("the instrument ended: ") + QString::fromUtf8(desk.instrumentOutput().right(1000));
+        return false;
+    }
+    return true;
+}
+
+// From the menu to the page, through its pictures, and back to the menu.
+bool Gallery::showPage(DeskInstrument &desk, const Page &page, const QString &variant, bool at400Hz, QString *item)
+{
+    QStringList way;
+    if (!page.menuItem.isEmpty()) {
+        way = menuPath(*item, page.menuItem, at400Hz);
+        way << QStringLiteral("Enter");
+        *item = page.menuItem;
+    } else if (!page.key.isEmpty()) {
+        way << page.key;
+    }
+    if (!desk.press(way))
+        return false;
+    for (const Shot &shot : page.shots) {
+        if (!desk.press(shot.keys) || !take(desk, page, shot.name, variant))
+            return false;
+    }
+    // F5 closes the message that a function not built yet answers with; where there is none it only holds the display.
+    return desk.press(page.leave) && desk.press({ QStringLiteral("F7") });
+}
+
+bool Gallery::take(DeskInstrument &desk, const Page &page, const QString &shot, const QString &variant)
+{
+    QThread::msleep(ulong(m_options.settleMs));
+    const QImage image = desk.screen();
+    QString file = QStringLiteral("%1-%2-%3.png").arg(page.name, shot, variant);
+    file.replace(QLatin1Char(' '), QLatin1Char('_')).remove(QLatin1Char(','));
+    if (image.isNull() || !image.save(m_options.folder + QLatin1Char('/') + file, "PNG"))
+        return false;
+    m_pictures.append({ file, page.name, shot, variant });
+    return true;
+}

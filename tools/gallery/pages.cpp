@@ -1,0 +1,121 @@
+#include "gallery/pages.h"
+
+namespace {
+
+constexpr int kRows = 3;
+constexpr int kColumns = 4;
+const char *const kMenu[kRows][kColumns] = {
+    { "power", "vif", "harmonics", "unbalance" },
+    { "flicker", "dips_swells", "inrush", "transients" },
+    { "mainssignaling", "wave", "logger", "user" },
+};
+
+const char *const kWirings[] = { "3P WYE",           "3P IT",       "1P +NEUTRAL", "3P DELTA",    "1P SPLIT PHASE",
+                                 "1P IT NO NEUTRAL", "3P HIGH LEG", "3P OPEN LEG", "2.5-ELEMENT", "2-ELEMENT" };
+
+QStringList keys(const char *text)
+{
+    return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+// A function of the menu. Its shots: "name" as it opens, then "keys: name" for each further picture.
+Page fromMenu(const char *name, const char *item, const QStringList &shots, const char *leave = "", bool at400Hz = true,
+              bool everyWiring = true)
+{
+    Page page {
+        QString::fromLatin1(name), QString::fromLatin1(item), QString(), {}, keys(leave), at400Hz, everyWiring
+    };
+    for (const QString &shot : shots) {
+        const int colon = shot.indexOf(QLatin1Char(':'));
+        page.shots.append({ keys(colon < 0 ? "" : qPrintable(shot.left(colon))), shot.mid(colon + 1).trimmed() });
+    }
+    return page;
+}
+
+Page byKey(const char *name, const char *key, const QStringList &shots, const char *leave = "", bool at400Hz = true,
+           bool everyWiring = true)
+{
+    Page page = fromMenu(name, "", shots, leave, at400Hz, everyWiring);
+    page.key = QString::fromLatin1(key);
+    return page;
+}
+
+} // namespace
+
+const QVector<Page> &galleryPages()
+{
+    constexpr bool kNotAt400Hz = false;
+    constexpr bool kOneWiring = false;
+    static const QVector<Page> pages = {
+        byKey("menu", "", { "menu", "F1: status" }, "F5", true, kOneWiring),
+        fromMenu("power", "power", { "table", "F3: energy", "F3 F4: trend" }),
+        fromMenu("vif", "vif", { "table", "F5: held", "F5 F4: trend", "F1 F1: trend-u-dc", "F1 F1: trend-i-rms" }),
+        fromMenu("harmonics", "harmonics",
+                 { "voltage", "Right Right: cursor", "F2: second-channel", "F1: current", "F3: interharmonics",
+                   "F4: meter", "Down: meter-down", "F3: meter-r" }),
+        fromMenu("unbalance", "unbalance", { "table", "F4: vector", "F1: vector-next" }),
+        fromMenu("flicker", "flicker", { "table", "F4: trend" }, "", kNotAt400Hz),
+        fromMenu("dips-swells", "dips_swells", { "trend", "F1: current", "F3: cursor", "F4: zoom", "F2: events" }),
+        fromMenu("inrush", "inrush", { "setup", "F5: trend", "F2: events" }),
+        fromMenu("transients", "transients", { "setup", "F5: live", "F1: captured" }),
+        fromMenu("mains-signaling", "mainssignaling", { "table", "F4: trend", "F1: trend-next" }),
+        fromMenu("wave", "wave", { "setup" }, "", true, kOneWiring),
+        fromMenu("logger", "logger", { "setup", "F2: parameters" }, "F5", true, kOneWiring),
+        fromMenu("user", "user", { "user" }, "", true, kOneWiring),
+        byKey("scope", "F6",
+              { "voltage", "F1: next", "F1: next-2", "F1: next-3", "F1: next-4", "F3: cursor", "F3 F4 Up: zoom" }),
+        byKey("monitor", "F8", { "setup" }, "", kNotAt400Hz, kOneWiring),
+        byKey("setup", "F9", { "setup", "F5: page-2" }),
+        byKey("memory", "F10", { "memory" }, "F5", true, kOneWiring),
+    };
+    return pages;
+}
+
+QString wiringName(int joinMode)
+{
+    return joinMode >= 1 && joinMode <= int(std::size(kWirings)) ? QString::fromLatin1(kWirings[joinMode - 1])
+                                                                 : QString();
+}
+
+const QStringList &languageWords()
+{
+    static const QStringList words = keys("EN ZH PO PT_ZOLC KO TU FR SP PT GE SP_LA RU JP IT");
+    return words;
+}
+
+QStringList menuPath(const QString &from, const QString &to, bool at400Hz)
+{
+    auto place = [](const QString &item, int *row, int *column) {
+        for (*row = 0; *row < kRows; ++*row) {
+            for (*column = 0; *column < kColumns; ++*column) {
+                if (item == QLatin1String(kMenu[*row][*column]))
+                    return;
+            }
+        }
+        *row = *column = 0;
+    };
+    int row = 0, column = 0, toRow = 0, toColumn = 0;
+    place(from, &row, &column);
+    place(to, &toRow, &toColumn);
+    QStringList path;
+    // Along the row first, but never in the row of the flicker item when that is missing: its neighbours lead past it.
+    if (at400Hz && row == 1) {
+        path << QStringLiteral("Up");
+        row = 0;
+    }
+    for (; column < toColumn; ++column)
+        path << QStringLiteral("Right");
+    for (; column > toColumn; --column)
+        path << QStringLiteral("Left");
+    for (; row < toRow; ++row) {
+        path << QStringLiteral("Down");
+        if (at400Hz && column == 0)
+            ++row; // from the first row straight to the third
+    }
+    for (; row > toRow; --row) {
+        path << QStringLiteral("Up");
+        if (at400Hz && column == 0)
+            --row;
+    }
+    return path;
+}
