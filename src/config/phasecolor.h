@@ -33,7 +33,7 @@ public:
     static QColor colorIB();
     static QColor colorIC();
     static QColor colorIN();
-    /// By channel 0 to 3 (L1, L2, L3, N); another number gives N's.
+    /// By channel 0 to 3 (L1, L2, L3, N), 4 earth; another number gives N's.
     static QColor color(int channel);
     static QColor colorU(int channel);
     static QColor colorI(int channel);

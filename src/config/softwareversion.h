@@ -1,0 +1,7 @@
+#pragma once
+
+// Version of the instrument's software, as pages, files and services tell it.
+
+constexpr int kSoftwareMajor = 2;
+constexpr int kSoftwareMinor = 2;
+constexpr int kSoftwareBuild = 6;
