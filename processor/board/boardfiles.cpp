@@ -1,0 +1,136 @@
+#include "board/boardfiles.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <cmath>
+
+namespace board {
+
+namespace {
+
+constexpr char kGpio[] = "/sys/class/gpio/";
+constexpr char kGauge[] = "/sys/bus/iio/devices/iio:device0/in_voltage0_raw";
+constexpr char kBackLight[] = "/sys/class/backlight/backlight/brightness";
+constexpr char kCarrier[] = "/sys/class/net/eth0/carrier";
+constexpr char kOperState[] = "/sys/class/net/eth0/operstate";
+
+// The gauge counts 1/4096 of 1.8 V; a divider of 1.5 and a factor of 11.5 lie between it and the battery.
+constexpr double kVoltsPerCount = 0.000244140625 * 1.8 / 1.5 * 11.5;
+constexpr int kGaugeTop = 4095;
+constexpr double kBatteryAtStart = 7.9; // V, a full battery
+
+constexpr int kSupplyLatch = 47;
+constexpr int kChargerPresent = 105;
+constexpr int kChargeFinished = 117;
+constexpr int kFirstRangeLine = 48;
+constexpr int kLastRangeLine = 59;
+
+/// Lines of one selector.
+struct SelectorLines
+{
+    int bit1;
+    int bit0;
+};
+constexpr SelectorLines kPhaseCurrent = { 54, 58 };
+constexpr SelectorLines kPhaseVoltage = { 52, 48 };
+constexpr SelectorLines kNeutralCurrent = { 55, 59 };
+constexpr SelectorLines kNeutralVoltage = { 53, 51 };
+
+QString gpioPath(int gpio, const char *file)
+{
+    return QStringLiteral("%1gpio%2/%3").arg(QLatin1String(kGpio)).arg(gpio).arg(QLatin1String(file));
+}
+
+} // namespace
+
+BoardFiles::BoardFiles(const QString &root) : m_root(QDir(root).absolutePath())
+{
+    if (m_root == QLatin1String("/"))
+        m_root.clear();
+}
+
+bool BoardFiles::makeFile(const QString &boardPath, const QString &text, QString *error)
+{
+    const QString file = path(boardPath);
+    if (QFileInfo::exists(file))
+        return true;
+    if (QDir().mkpath(QFileInfo(file).path()) && write(boardPath, text))
+        return true;
+    *error = QStringLiteral("cannot write %1").arg(file);
+    return false;
+}
+
+bool BoardFiles::prepare(QString *error)
+{
+    for (const char *folder : { "/dev", "/run", "/run/media", "/sys/class/gpio" }) {
+        const QString made = path(QLatin1String(folder));
+        if (!QDir().mkpath(made) || !QFileInfo(made).isWritable()) {
+            *error = QStringLiteral("cannot write %1").arg(made);
+            return false;
+        }
+    }
+    QList<int> lines = { kSupplyLatch, kChargerPresent, kChargeFinished };
+    for (int gpio = kFirstRangeLine; gpio <= kLastRangeLine; ++gpio)
+        lines << gpio;
+    bool good = true;
+    for (int gpio : qAsConst(lines)) {
+        const bool input = gpio == kChargerPresent || gpio == kChargeFinished;
+        good = good && makeFile(gpioPath(gpio, "direction"), input ? "in\n" : "out\n", error)
+            && makeFile(gpioPath(gpio, "value"), "0\n", error);
+    }
+    const QString gauge = QString::number(gaugeReading(kBatteryAtStart)) + '\n';
+    return good && makeFile(QLatin1String(kGpio) + "export", "", error) && makeFile(kGauge, gauge, error)
+        && makeFile(kBackLight, "7", error) && makeFile(kCarrier, "1\n", error) && makeFile(kOperState, "up\n", error);
+}
+
+bool BoardFiles::write(const QString &boardPath, const QString &text) const
+{
+    QSaveFile file(path(boardPath));
+    return file.open(QIODevice::WriteOnly) && file.write(text.toLatin1()) == text.size() && file.commit();
+}
+
+int BoardFiles::line(int gpio) const
+{
+    QFile file(path(gpioPath(gpio, "value")));
+    char value = '0';
+    return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) && file.read(&value, 1) == 1 && value == '1' ? 1 : 0;
+}
+
+RangeSelectors BoardFiles::ranges() const
+{
+    const auto selector = [this](const SelectorLines &lines) { return 2 * line(lines.bit1) + line(lines.bit0); };
+    RangeSelectors ranges;
+    ranges.phaseVoltage = selector(kPhaseVoltage);
+    ranges.neutralVoltage = selector(kNeutralVoltage);
+    ranges.phaseCurrent = selector(kPhaseCurrent);
+    ranges.neutralCurrent = selector(kNeutralCurrent);
+    return ranges;
+}
+
+int BoardFiles::gaugeReading(double volts)
+{
+    if (!(volts > 0.0))
+        return 0;
+    return int(std::lround(std::fmin(volts / kVoltsPerCount, kGaugeTop)));
+}
+
+bool BoardFiles::setBattery(double volts)
+{
+    return write(kGauge, QString::number(gaugeReading(volts)) + '\n');
+}
+
+bool BoardFiles::setCharger(Charger charger)
+{
+    return write(gpioPath(kChargerPresent, "value"), charger == Charger::Off ? "0\n" : "1\n")
+        && write(gpioPath(kChargeFinished, "value"), charger == Charger::Full ? "1\n" : "0\n");
+}
+
+bool BoardFiles::setNetwork(bool up)
+{
+    return write(kCarrier, up ? "1\n" : "0\n") && write(kOperState, up ? "up\n" : "down\n");
+}
+
+} // namespace board

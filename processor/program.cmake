@@ -1,0 +1,3 @@
+# The program.
+add_executable(quvera-processor main.cpp)
+target_link_libraries(quvera-processor PRIVATE processor_scenario processor_board processor_link)

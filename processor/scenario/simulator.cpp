@@ -1,0 +1,178 @@
+#include "scenario/simulator.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <limits>
+
+namespace scenario {
+
+namespace {
+
+constexpr int kEventsKept = 256; // begun since the last clearing; more make the synthesiser's list be cleared
+constexpr double kDecays = 20.0; // time constants after which nothing of a decaying event is left
+
+processor::SignalSpec withoutEvents(processor::SignalSpec signal)
+{
+    signal.events.clear();
+    return signal;
+}
+
+/// Second at which \a event is over for certain; a change that stays for good never is.
+double endOf(const processor::SignalEvent &event)
+{
+    using processor::EventKind;
+    const double start = event.startSeconds + 0.2; // the wait for a point on wave, at 10 Hz at most 100 ms
+    switch (event.kind) {
+    case EventKind::ImpulsiveTransient:
+    case EventKind::OscillatoryTransient:
+    case EventKind::Inrush:
+        return start + kDecays * (event.decaySeconds + event.riseSeconds);
+    default:
+        return event.durationSeconds > 0.0 ? start + event.durationSeconds + 2.0 * event.riseSeconds
+                                           : std::numeric_limits<double>::infinity();
+    }
+}
+
+} // namespace
+
+Simulator::Simulator(const Scenario &scenario, quint64 seed, wire::ProcessorLink *link)
+    : m_scenario(scenario), m_link(link), m_signal(withoutEvents(scenario.signal)), m_synthesiser(m_signal, seed),
+      m_frontEnd(seed), m_chain(link->setup(), *link), m_setupSeen(link->setupCount() - 1),
+      m_clockSeen(link->clockCount() - 1)
+{
+    const FrontEndSpec &given = scenario.frontEnd;
+    if (given.noise)
+        m_frontEnd.setNoise(*given.noise);
+    m_frontEnd.setClampRatio(given.clamp.value_or(m_frontEnd.phaseClampRatio()),
+                             given.neutralClamp.value_or(m_frontEnd.neutralClampRatio()));
+    for (const wire::DatagramFault &fault : scenario.faults)
+        link->faults().schedule(fault);
+    for (int i = 0; i < wire::kFaultCount; ++i)
+        link->faults().random(wire::Fault(i), scenario.faultRates[std::size_t(i)]);
+    link->setBds(scenario.bds);
+}
+
+Simulator::~Simulator() = default;
+
+bool Simulator::prepare(QString *error)
+{
+    if (m_scenario.frontEnd.calibration.isEmpty())
+        return true;
+    processor::CalibrationSet calibration;
+    std::string problem;
+    if (!calibration.load(QFile::encodeName(m_scenario.frontEnd.calibration).toStdString(), problem)) {
+        *error = QString::fromStdString(problem);
+        return false;
+    }
+    m_frontEnd.setCalibration(calibration);
+    return true;
+}
+
+void Simulator::followLink()
+{
+    if (m_setupSeen != m_link->setupCount()) {
+        m_setupSeen = m_link->setupCount();
+        const processor::ProcessorSetup &setup = m_link->setup();
+        m_chain.setSetup(setup);
+        m_frontEnd.setRogowski(m_scenario.frontEnd.rogowski.value_or(setup.flexibleClamp), setup.nominalFrequency);
+    }
+    if (m_clockSeen != m_link->clockCount()) {
+        m_clockSeen = m_link->clockCount();
+        m_chain.setTime(std::int64_t(m_link->clock().at(milliseconds())));
+    }
+}
+
+void Simulator::step(QStringList *commands)
+{
+    takeDue(seconds() + kBlockSeconds, commands);
+    followLink();
+    std::array<double *, processor::InputCount> volts;
+    std::array<const double *, processor::InputCount> constVolts;
+    std::array<std::int16_t *, processor::InputCount> samples;
+    std::array<const std::int16_t *, processor::InputCount> constSamples;
+    for (std::size_t i = 0; i < volts.size(); ++i) {
+        constVolts[i] = volts[i] = m_volts[i].data();
+        constSamples[i] = samples[i] = m_samples[i].data();
+    }
+    m_synthesiser.render(volts.data(), kBlockSamples);
+    m_frontEnd.convert(constVolts.data(), samples.data(), kBlockSamples);
+    if (m_frontEnd.takeClipped())
+        m_clippedAt = seconds();
+    m_clipped = m_clippedAt >= 0.0 && seconds() - m_clippedAt < 1.0;
+    m_link->advance(milliseconds());
+    m_chain.process(constSamples.data(), kBlockSamples);
+}
+
+void Simulator::takeDue(double until, QStringList *commands)
+{
+    for (Step &step : m_scenario.steps) {
+        while (step.at < until) {
+            if (step.signal)
+                setSignal(*step.signal);
+            if (!step.tell.isEmpty() && commands)
+                commands->append(step.tell);
+            step.at = step.every > 0.0 ? step.at + step.every : std::numeric_limits<double>::infinity();
+        }
+    }
+    for (TimedEvent &timed : m_scenario.events) {
+        while (timed.event.startSeconds < until) {
+            begin(timed.event);
+            timed.event.startSeconds
+                = timed.every > 0.0 ? timed.event.startSeconds + timed.every : std::numeric_limits<double>::infinity();
+        }
+    }
+}
+
+void Simulator::addEvent(processor::SignalEvent event, double secondsFromNow)
+{
+    event.startSeconds = seconds() + std::max(0.0, secondsFromNow);
+    begin(event);
+}
+
+void Simulator::begin(const processor::SignalEvent &event)
+{
+    const auto over = [this](const processor::SignalEvent &running) { return endOf(running) < seconds(); };
+    m_running.erase(std::remove_if(m_running.begin(), m_running.end(), over), m_running.end());
+    m_running.push_back(event);
+    if (++m_begun > kEventsKept)
+        applySignal();
+    else
+        m_synthesiser.addEvent(event);
+}
+
+void Simulator::clearEvents()
+{
+    m_running.clear();
+    m_synthesiser.clearEvents();
+}
+
+void Simulator::setSignal(const processor::SignalSpec &signal)
+{
+    m_signal = withoutEvents(signal);
+    applySignal();
+}
+
+void Simulator::applySignal()
+{
+    processor::SignalSpec spec = m_signal;
+    spec.events = m_running;
+    m_synthesiser.setSpec(spec);
+    m_begun = 0;
+}
+
+void Simulator::setRanges(const board::RangeSelectors &ranges)
+{
+    m_frontEnd.setSelector(processor::FrontEnd::PhaseVoltage, ranges.phaseVoltage);
+    m_frontEnd.setSelector(processor::FrontEnd::NeutralVoltage, ranges.neutralVoltage);
+    m_frontEnd.setSelector(processor::FrontEnd::PhaseCurrent, ranges.phaseCurrent);
+    m_frontEnd.setSelector(processor::FrontEnd::NeutralCurrent, ranges.neutralCurrent);
+}
+
+void Simulator::setRogowski(bool on)
+{
+    m_scenario.frontEnd.rogowski = on;
+    m_setupSeen = m_link->setupCount() - 1;
+}
+
+} // namespace scenario

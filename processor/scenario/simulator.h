@@ -1,0 +1,81 @@
+#pragma once
+
+#include "board/boardfiles.h"
+#include "frontend/frontend.h"
+#include "link/processorlink.h"
+#include "metrology/measurementchain.h"
+#include "scenario/scenario.h"
+#include "signal/synthesiser.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <array>
+#include <memory>
+#include <vector>
+
+namespace scenario {
+
+/// Plays a scenario: synthesiser, input stage and measurement, block by block, into the link.
+///
+/// Simulated time is the count of samples; nothing here looks at the host's clock. The same scenario, seed and frames
+/// at the same simulated times give the same stream, byte for byte.
+class Simulator
+{
+public:
+    static constexpr int kBlockSamples = 1024; // 50 ms; frames and commands take effect between blocks
+    static constexpr double kBlockSeconds = kBlockSamples / processor::SampleRate;
+
+    /// \a link takes the results and must outlive this object.
+    Simulator(const Scenario &scenario, quint64 seed, wire::ProcessorLink *link);
+    ~Simulator();
+
+    /// Loads what the scenario names besides itself; false and one line in \a error.
+    bool prepare(QString *error);
+
+    /// Renders, measures and sends one block. \a commands, when not null, gets the commands that became due.
+    void step(QStringList *commands);
+
+    /// Simulated seconds since the start.
+    double seconds() const { return m_synthesiser.seconds(); }
+    qint64 milliseconds() const { return m_synthesiser.position() * 1000 / qint64(processor::SampleRate); }
+
+    /// Begins \a event so many seconds from now.
+    void addEvent(processor::SignalEvent event, double secondsFromNow);
+    void clearEvents();
+    /// The steady signal, without events. Running events go on when it is replaced.
+    const processor::SignalSpec &signal() const { return m_signal; }
+    void setSignal(const processor::SignalSpec &signal);
+
+    processor::FrontEnd &frontEnd() { return m_frontEnd; }
+    void setRanges(const board::RangeSelectors &ranges);
+    /// Fixes the kind of clamp that is plugged in; without it the clamp follows the set-up.
+    void setRogowski(bool on);
+
+    const Scenario &scenario() const { return m_scenario; }
+    double measuredFrequency() const { return m_chain.frequency(); }
+    bool clipped() const { return m_clipped; } // any sample of the last whole second
+
+private:
+    void followLink();
+    void takeDue(double until, QStringList *commands);
+    void begin(const processor::SignalEvent &event);
+    void applySignal();
+
+    Scenario m_scenario; // times of its events and steps move on as they recur
+    wire::ProcessorLink *m_link;
+    processor::SignalSpec m_signal;
+    processor::Synthesiser m_synthesiser;
+    processor::FrontEnd m_frontEnd;
+    processor::MeasurementChain m_chain;
+    std::vector<processor::SignalEvent> m_running;
+    std::array<std::array<double, kBlockSamples>, processor::InputCount> m_volts; // and amperes
+    std::array<std::array<std::int16_t, kBlockSamples>, processor::InputCount> m_samples;
+    unsigned m_setupSeen;
+    unsigned m_clockSeen;
+    int m_begun = 0; // events since the synthesiser's list was last cleared of those that are over
+    double m_clippedAt = -1.0; // s
+    bool m_clipped = false;
+};
+
+} // namespace scenario
