@@ -1,6 +1,7 @@
 #pragma once
 
 #include "frontend/calibrationset.h"
+#include "signal/noise.h"
 
 #include <array>
 #include <cstdint>
@@ -48,13 +49,13 @@ public:
     /// Converts n samples of each input, volts and amperes in the order U1, U2, U3, UN, I1, I2, I3, IN.
     void convert(const double *const in[8], std::int16_t *const out[8], int n);
 
-    /// Whether any sample has clipped since the last call.
+    /// Whether any sample has reached the converter's limit since the last call.
     bool takeClipped();
 
 private:
     void updateFactors();
     void convertChannel(const double *in, std::int16_t *out, int n, int channel);
-    const double *differentiate(const double *in, int n, int channel);
+    void differentiate(const double *in, double *slope, int n, int channel);
 
     std::array<int, SelectorCount> m_selector { { 0, 0, 0, 0 } };
     CalibrationSet m_calibration;
@@ -69,6 +70,7 @@ private:
     std::array<double, 8> m_factor {}; // steps per volt or ampere
     std::array<double, 8> m_offset {}; // steps
     std::array<double, 8> m_last {}; // last input of a Rogowski channel
+    std::array<NoiseBlock, 8> m_noiseBlock;
 };
 
 } // namespace processor

@@ -1,0 +1,128 @@
+#include "signal/eventplay.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace processor {
+
+namespace {
+
+// After this many time constants a decay is below 1e-12 of its start.
+constexpr double DecayLength = 28.0;
+
+// Peak of exp(-t / decay) - exp(-t / rise), reached where both slopes are alike.
+double doubleExponentialPeak(double rise, double decay)
+{
+    const double t = std::log(decay / rise) * rise * decay / (decay - rise);
+    return std::exp(-t / decay) - std::exp(-t / rise);
+}
+
+bool hasFront(const SignalEvent &event)
+{
+    return event.riseSeconds > 0.0 && event.decaySeconds > event.riseSeconds * 1.0001;
+}
+
+} // namespace
+
+EventPlay::EventPlay(const SignalEvent &e, double startSample, double sampleRate)
+    : event(e), start(startSample), end(std::numeric_limits<double>::infinity()), m_sampleRate(sampleRate)
+{
+    switch (e.kind) {
+    case EventKind::Inrush:
+    case EventKind::ImpulsiveTransient:
+    case EventKind::OscillatoryTransient:
+        end = start + std::max(e.decaySeconds, 0.0) * DecayLength * sampleRate;
+        break;
+    case EventKind::RapidChange:
+        if (e.durationSeconds > 0.0)
+            end = start + (e.durationSeconds + e.riseSeconds) * sampleRate;
+        break;
+    default:
+        if (e.durationSeconds > 0.0)
+            end = start + e.durationSeconds * sampleRate;
+    }
+    if (e.kind == EventKind::ImpulsiveTransient && hasFront(e))
+        m_impulseScale = 1.0 / doubleExponentialPeak(e.riseSeconds, e.decaySeconds);
+}
+
+// 0 to 1 over riseSeconds, and down again after durationSeconds.
+double EventPlay::rampAt(double seconds) const
+{
+    const double rise = event.riseSeconds;
+    double up = 1.0;
+    if (rise > 0.0)
+        up = std::min(seconds / rise, 1.0);
+    if (event.durationSeconds > 0.0 && seconds > event.durationSeconds)
+        up = rise > 0.0 ? std::max(1.0 - (seconds - event.durationSeconds) / rise, 0.0) : 0.0;
+    return up;
+}
+
+double EventPlay::amplitudeFactor(double sample) const
+{
+    if (sample < start || sample >= end)
+        return 1.0;
+    const double seconds = (sample - start) / m_sampleRate;
+    const double part = event.percent / 100.0;
+    switch (event.kind) {
+    case EventKind::Dip:
+        return 1.0 - part;
+    case EventKind::Swell:
+        return 1.0 + part;
+    case EventKind::Interruption:
+    case EventKind::LoadStep:
+        return part;
+    case EventKind::RapidChange:
+        return 1.0 + part * rampAt(seconds);
+    case EventKind::Inrush:
+        return 1.0 + (part - 1.0) * std::exp(-seconds / event.decaySeconds);
+    default:
+        return 1.0;
+    }
+}
+
+double EventPlay::phaseAdvance(double sample) const
+{
+    if (!changesPhase() || sample < start || sample >= end)
+        return 0.0;
+    return event.angleDeg / 360.0;
+}
+
+double EventPlay::addition(double sample) const
+{
+    if (!adds() || sample < start || sample >= end)
+        return 0.0;
+    const double seconds = (sample - start) / m_sampleRate;
+    const double decay = std::exp(-seconds / event.decaySeconds);
+    if (event.kind == EventKind::OscillatoryTransient)
+        return event.amplitude * decay * std::sin(6.283185307179586 * event.frequencyHz * seconds);
+    const double front = hasFront(event) ? std::exp(-seconds / event.riseSeconds) : 0.0;
+    return event.amplitude * m_impulseScale * (decay - front);
+}
+
+bool EventPlay::changesAmplitude() const
+{
+    return !adds() && event.kind != EventKind::PhaseJump;
+}
+
+bool EventPlay::changesPhase() const
+{
+    return event.kind == EventKind::PhaseJump || event.kind == EventKind::LoadStep;
+}
+
+bool EventPlay::adds() const
+{
+    return event.kind == EventKind::ImpulsiveTransient || event.kind == EventKind::OscillatoryTransient;
+}
+
+bool sameEvent(const SignalEvent &a, const SignalEvent &b)
+{
+    const bool samePhase
+        = a.startPhaseDeg == b.startPhaseDeg || (std::isnan(a.startPhaseDeg) && std::isnan(b.startPhaseDeg));
+    return a.kind == b.kind && a.inputs == b.inputs && a.startSeconds == b.startSeconds
+        && a.durationSeconds == b.durationSeconds && a.percent == b.percent && a.amplitude == b.amplitude
+        && a.frequencyHz == b.frequencyHz && a.angleDeg == b.angleDeg && a.riseSeconds == b.riseSeconds
+        && a.decaySeconds == b.decaySeconds && samePhase;
+}
+
+} // namespace processor
