@@ -124,7 +124,7 @@ QString DeskRoot::build(const QString &root)
     static const QRegularExpression plain(QStringLiteral("\\A[A-Za-z0-9_./+@%,-]+\\z"));
     if (!plain.match(root).hasMatch())
         return QStringLiteral("The desk root cannot be used: %1 holds characters that a shell would split or expand")
-            .arg(root);
+            .arg(root.simplified());
 
     QDir dir;
     for (const char *folder : kFolders) {
