@@ -1,7 +1,7 @@
 #include "device/devicegpio.h"
 
+#include "device/gpiofiles.h"
 #include "device/trace.h"
-#include "platform/target.h"
 
 #include <QFile>
 #include <fcntl.h>
@@ -22,15 +22,10 @@ constexpr ChannelLines kNeutralVolt = { 53, 51, 49 };
 
 constexpr const ChannelLines *kSetUpOrder[] = { &kPhaseCurrent, &kPhaseVolt, &kNeutralCurrent, &kNeutralVolt };
 
-void writeLine(int line, bool high)
-{
-    Target::shell(QStringLiteral("echo %1 > /sys/class/gpio/gpio%2/value").arg(high ? 1 : 0).arg(line));
-}
-
 void select(const ChannelLines &lines, int value)
 {
-    writeLine(lines.bit1, value & 2);
-    writeLine(lines.bit0, value & 1);
+    GpioFiles::writeValue(lines.bit1, value & 2);
+    GpioFiles::writeValue(lines.bit0, value & 1);
 }
 
 } // namespace
@@ -67,7 +62,7 @@ void DeviceGPIO::initDeviceGPIO()
             initGPIO(QString::number(line));
     }
     for (const ChannelLines *lines : kSetUpOrder)
-        writeLine(lines->enable, true);
+        GpioFiles::writeValue(lines->enable, true);
 }
 
 void DeviceGPIO::initGPIO(QString number)

@@ -83,6 +83,11 @@ public:
             send(package);
     }
 
+    bool isFrameWaiting()
+    {
+        pollfd waiting { m_connection, POLLIN, 0 };
+        return ::poll(&waiting, 1, 0) == 1;
+    }
     /// The next frame of the instrument; a null array when there is none now, an empty one when the far end closed.
     QByteArray receive(int timeoutMs = 0)
     {

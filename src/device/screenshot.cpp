@@ -1,0 +1,81 @@
+#include "device/screenshot.h"
+
+#include <QApplication>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QScreen>
+#include <QWidget>
+#include <algorithm>
+
+ScreenShot *ScreenShot::m_instance = nullptr;
+
+namespace {
+
+/// Layers of top-level windows: later ones cover earlier ones.
+enum Layer { Splash, Page, ActivePage, Child, Modal, ActiveModal, Popup, ActivePopup };
+
+Layer layerOf(const QWidget *window)
+{
+    if (window == QApplication::activePopupWidget())
+        return ActivePopup;
+    if (window->windowType() == Qt::Popup || window->windowType() == Qt::ToolTip)
+        return Popup;
+    if (window == QApplication::activeModalWidget())
+        return ActiveModal;
+    if (window->isModal())
+        return Modal;
+    if (window->windowType() == Qt::SplashScreen)
+        return Splash; // it is never closed, the main window covers it
+    if (window->parentWidget())
+        return Child;
+    return window->isActiveWindow() ? ActivePage : Page;
+}
+
+QPixmap composeWindows()
+{
+    QWidgetList windows;
+    QRect area;
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (!window->isVisible() || window->windowType() == Qt::Desktop)
+            continue;
+        windows << window;
+        // The instrument's own screen is that of its pages; a dialog does not widen it.
+        const Layer layer = layerOf(window);
+        if (layer == Page || layer == ActivePage)
+            area |= window->geometry();
+    }
+    if (area.isEmpty()) {
+        for (const QWidget *window : qAsConst(windows))
+            area |= window->geometry();
+    }
+    if (area.isEmpty())
+        return {};
+    std::stable_sort(windows.begin(), windows.end(),
+                     [](const QWidget *a, const QWidget *b) { return layerOf(a) < layerOf(b); });
+    QPixmap picture(area.size());
+    picture.fill(Qt::black);
+    QPainter painter(&picture);
+    for (QWidget *window : qAsConst(windows))
+        painter.drawPixmap(window->geometry().topLeft() - area.topLeft(), window->grab());
+    return picture;
+}
+
+} // namespace
+
+void ScreenShot::initScreenShot()
+{
+    if (!m_instance)
+        m_instance = new ScreenShot;
+}
+
+QPixmap ScreenShot::getScreenPixmap()
+{
+    QScreen *screen = QGuiApplication::primaryScreen();
+    const QPixmap picture = screen ? screen->grabWindow(0) : QPixmap();
+    return picture.isNull() ? composeWindows() : picture;
+}
+
+void ScreenShot::grabScreenPixmap()
+{
+    emit screenPixmap(getScreenPixmap());
+}

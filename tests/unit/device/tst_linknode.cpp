@@ -1,0 +1,239 @@
+#include "openlink.h"
+#include "stdoutcapture.h"
+
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QSocketNotifier>
+#include <QTest>
+#include <memory>
+
+/// The node: start-up on the wire, writes with their repeats, a node that is missing, goes and comes back.
+class TstLinkNode : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void cleanup();
+    void startUpStopsTheStreamOnBothOpeningsOfTheNode();
+    void missingNodePrintsOneLineAndIsNotTriedAgain();
+    void nodeThatIsGoneAtTheReopeningPrintsOneLine();
+    void framesPassStraightThrough();
+    void bareSetUpFrameIsSentOnceAndRepeatedThreeTimes();
+    void secondSetUpFrameIsDroppedWhileTheFirstRepeats();
+    void oversizedSetUpFrameStaysInsideItsCopy();
+    void updateFramesPassWhole();
+    void farEndThatClosesIsTriedAgainQuietly();
+    void nodeThatDisappearsAndComesBackIsReopened();
+    void writesToAClosedFarEndFailUnnoticed();
+    void readAnswersWhatTheNodeAnswers();
+};
+
+namespace {
+const QByteArray kStop = wordsToBytes({ 122, 193, 0, 123 });
+
+QByteArray setUpFrame(quint32 mark)
+{
+    QVector<quint32> words(26, mark);
+    words[0] = 198;
+    return wordsToBytes(words);
+}
+} // namespace
+
+void TstLinkNode::cleanup()
+{
+    QFile::remove(ProcessorPeer::node());
+}
+
+void TstLinkNode::startUpStopsTheStreamOnBothOpeningsOfTheNode()
+{
+    ProcessorPeer peer;
+    DeviceDSP dsp;
+    QElapsedTimer timer;
+    timer.start();
+    dsp.openDSP();
+    QVERIFY(timer.elapsed() >= 500);
+    QVERIFY(peer.accept());
+    QCOMPARE(peer.receive(), kStop);
+    QCOMPARE(peer.receive(), QByteArray("")); // closed before the second opening
+    QVERIFY(peer.accept());
+    QCOMPARE(peer.receive(), kStop);
+    QVERIFY(peer.receive().isNull()); // and nothing more
+    QVERIFY(!peer.isConnectionWaiting());
+}
+
+void TstLinkNode::missingNodePrintsOneLineAndIsNotTriedAgain()
+{
+    StdoutCapture out;
+    DeviceDSP dsp;
+    dsp.openDSP();
+    QCOMPARE(out.lines(), QStringList { QStringLiteral("failed to open /dev/mcasp") });
+    ProcessorPeer late;
+    dsp.DSPWrite(kStop.constData(), kStop.size());
+    dsp.dspNotifier();
+    dsp.datagramLoop();
+    dsp.RecvStop();
+    QTest::qWait(1500);
+    QVERIFY(!late.isConnectionWaiting());
+    QVERIFY(out.lines().isEmpty());
+    QVERIFY(!dsp.findChild<QSocketNotifier *>());
+}
+
+void TstLinkNode::nodeThatIsGoneAtTheReopeningPrintsOneLine()
+{
+    StdoutCapture out;
+    auto peer = std::make_unique<ProcessorPeer>();
+    DeviceDSP dsp;
+    // The node goes while the link waits its 500 ms.
+    std::unique_ptr<QThread> remover(QThread::create([&peer] {
+        peer->accept();
+        peer->goAway();
+    }));
+    remover->start();
+    dsp.openDSP();
+    remover->wait();
+    QCOMPARE(out.lines(), QStringList { QStringLiteral("failed to open /dev/mcasp") });
+}
+
+void TstLinkNode::framesPassStraightThrough()
+{
+    OpenLink link;
+    QVERIFY(link.open());
+    QCOMPARE(link.startFrames, (QVector<QByteArray> { kStop, kStop }));
+    const QVector<QByteArray> frames { wordsToBytes({ 122, 198, 1, 123 }), wordsToBytes({ 194, 0 }),
+                                       wordsToBytes({ 174 }), QByteArray("\xc6", 1) };
+    for (const QByteArray &frame : frames) {
+        link.dsp.DSPWrite(frame.constData(), frame.size());
+        QCOMPARE(link.peer.receive(1000), frame);
+    }
+    link.dsp.DSPWrite(nullptr, 16);
+    link.dsp.DSPWrite(frames[0].constData(), 0);
+    link.dsp.DSPWrite(frames[0].constData(), -1);
+    QVERIFY(link.peer.receive().isNull());
+}
+
+void TstLinkNode::bareSetUpFrameIsSentOnceAndRepeatedThreeTimes()
+{
+    OpenLink link;
+    QVERIFY(link.open());
+    const QByteArray frame = setUpFrame(5);
+    QCOMPARE(frame.size(), 104);
+    QElapsedTimer timer;
+    timer.start();
+    link.dsp.DSPWrite(frame.constData(), frame.size());
+    QCOMPARE(link.peer.receive(), frame);
+    for (int repeat = 1; repeat <= 3; ++repeat) {
+        QTRY_VERIFY(link.peer.isFrameWaiting());
+        QCOMPARE(link.peer.receive(), frame);
+        QVERIFY(timer.elapsed() >= 950 * repeat);
+    }
+    // The third repeat ends it: the next set-up is taken.
+    const QByteArray next = setUpFrame(6);
+    link.dsp.DSPWrite(next.constData(), next.size());
+    QCOMPARE(link.peer.receive(), next);
+}
+
+void TstLinkNode::secondSetUpFrameIsDroppedWhileTheFirstRepeats()
+{
+    OpenLink link;
+    QVERIFY(link.open());
+    const QByteArray first = setUpFrame(1), second = setUpFrame(2);
+    link.dsp.DSPWrite(first.constData(), first.size());
+    link.dsp.DSPWrite(second.constData(), second.size());
+    link.dsp.DSPWrite(kStop.constData(), kStop.size()); // others still pass
+    QCOMPARE(link.peer.receive(), first);
+    QCOMPARE(link.peer.receive(), kStop);
+    QTRY_VERIFY(link.peer.isFrameWaiting());
+    QCOMPARE(link.peer.receive(), first);
+}
+
+void TstLinkNode::oversizedSetUpFrameStaysInsideItsCopy()
+{
+    OpenLink link;
+    QVERIFY(link.open());
+    const QByteArray frame = setUpFrame(9) + QByteArray(5000, '\x11');
+    link.dsp.DSPWrite(frame.constData(), frame.size());
+    QCOMPARE(link.peer.receive(), frame);
+    QTRY_VERIFY(link.peer.isFrameWaiting());
+    QCOMPARE(link.peer.receive(), frame.left(104));
+}
+
+void TstLinkNode::updateFramesPassWhole()
+{
+    OpenLink link;
+    QVERIFY(link.open());
+    const QByteArray frame = wordsToBytes({ 122, 196, 2, 1 }) + QByteArray(150000, '\x42') + wordsToBytes({ 123 });
+    link.dsp.firmwareUpdate(frame);
+    QCOMPARE(link.peer.receive(1000), frame);
+    link.dsp.firmwareUpdate(QByteArray("abc"));
+    QCOMPARE(link.peer.receive(1000), QByteArray("abc"));
+    link.dsp.firmwareUpdate(QByteArray());
+    QVERIFY(link.peer.receive().isNull());
+}
+
+void TstLinkNode::farEndThatClosesIsTriedAgainQuietly()
+{
+    OpenLink link;
+    QVERIFY(link.open());
+    StdoutCapture out;
+    QSignalSpy reopened(&link.dsp, &DeviceDSP::reopened);
+    link.takeRms(500, 0);
+    // A datagram in progress when the far end goes is lost.
+    link.take(makeDatagram({ 0, 501, DatagramWave, 0, 0, 0 }, countingPayload(16385, 1)).mid(0, 3));
+    link.peer.disconnect();
+    QSocketNotifier *notifier = link.dsp.findChild<QSocketNotifier *>();
+    QVERIFY(notifier);
+    QTRY_VERIFY(!notifier->isEnabled()); // nothing spins
+    QVERIFY(reopened.isEmpty());
+    QTRY_COMPARE(reopened.size(), 1);
+    QVERIFY(link.peer.accept());
+    QVERIFY(link.peer.receive().isNull()); // setting up is the instrument's business
+    link.peer.send(makePackage({ 0xC0A5FF00, 1, DatagramUpdate, 0, 0, 0 }));
+    QTRY_COMPARE(link.datagrams.size(), 2);
+    QVERIFY(out.lines().isEmpty());
+}
+
+void TstLinkNode::nodeThatDisappearsAndComesBackIsReopened()
+{
+    OpenLink link;
+    QVERIFY(link.open());
+    StdoutCapture out;
+    QSignalSpy reopened(&link.dsp, &DeviceDSP::reopened);
+    for (int round = 1; round <= 2; ++round) {
+        link.peer.goAway();
+        QTRY_VERIFY(!link.dsp.findChild<QSocketNotifier *>()); // tried in vain at least once
+        link.dsp.DSPWrite(kStop.constData(), kStop.size());
+        QVERIFY(link.peer.listen());
+        QTRY_COMPARE(reopened.size(), round);
+        QVERIFY(link.peer.accept());
+        QVERIFY(!link.peer.isConnectionWaiting());
+        link.peer.send(makePackage({ 0xC0A5FF00, 1, DatagramUpdate, 0, 0, 0 }));
+        QTRY_COMPARE(link.datagrams.size(), round);
+    }
+    QVERIFY(out.lines().isEmpty());
+}
+
+void TstLinkNode::writesToAClosedFarEndFailUnnoticed()
+{
+    OpenLink link;
+    QVERIFY(link.open());
+    link.peer.disconnect();
+    for (int i = 0; i < 3; ++i) // a broken pipe must not end the program
+        link.dsp.DSPWrite(kStop.constData(), kStop.size());
+    link.pump();
+    QVERIFY(link.datagrams.isEmpty());
+}
+
+void TstLinkNode::readAnswersWhatTheNodeAnswers()
+{
+    OpenLink link;
+    QVERIFY(link.open());
+    char buffer[16];
+    QCOMPARE(link.dsp.DSPRead(buffer, sizeof(buffer)), -1);
+    link.peer.send(QByteArray("hello"));
+    QCOMPARE(link.dsp.DSPRead(buffer, sizeof(buffer)), 5);
+    link.peer.disconnect();
+    QCOMPARE(link.dsp.DSPRead(buffer, sizeof(buffer)), 0);
+}
+
+QTEST_GUILESS_MAIN(TstLinkNode)
+#include "tst_linknode.moc"
