@@ -15,6 +15,9 @@ constexpr double LeastAmplitude = 0.02; // converter units: 0.2 % of full scale
 constexpr double LockRange = 0.15; // of the nominal frequency
 constexpr double AcquireReach = 4.5; // fundamental cycles past the expected crossing at the lowest frequency looked at
 constexpr double SteadyLimit = 0.004; // cycles between the expected and the found crossing
+constexpr double RemnantPart = 0.1; // of its amplitude before: what is less is what a lost reference left behind
+constexpr double EdgeChange = 0.04; // of the amplitude from cycle to cycle: something begins or ends
+constexpr double EdgePull = 0.02; // cycles that such an edge may seem to move a crossing
 constexpr int PatienceCycles = 8; // disturbed cycles after which the search begins anew
 constexpr int Lanes = 8;
 
@@ -37,11 +40,14 @@ void CycleTracker::start(int nominalFrequency)
     m_nominal = nominalFrequency;
     m_baseCycles = nominalFrequency == 400 ? 8 : 1;
     m_frequency = m_nominal;
-    m_position = (WindowCycles / 2.0 - 1.0) * basePeriod();
+    m_position = (WindowCycles / 2.0 / (1.0 - LockRange) + 0.1 - 1.0) * basePeriod(); // room for the widest window
     m_searching = true;
     m_locked = false;
     m_reference = -1;
     m_offset = 0.0;
+    m_amplitude = 0.0;
+    m_level = 0.0;
+    m_away = 0;
     m_unsteady = 0;
     startRun(m_position);
 }
@@ -120,16 +126,17 @@ bool CycleTracker::chooseReference(const SampleStore &store, double at, std::com
     if (m_reference >= 0) {
         value = phasor(store, m_reference, at, m_frequency, width);
         offset = m_offset;
-        if (std::abs(value) >= LeastAmplitude)
+        if (std::abs(value) >= std::max(LeastAmplitude, RemnantPart * m_level))
             return true;
     }
     for (int channel : candidates) {
         if (channel == m_reference)
             continue;
         value = phasor(store, channel, at, m_frequency, width);
-        if (std::abs(value) < 2.0 * LeastAmplitude)
+        if (std::abs(value) < std::max(2.0 * LeastAmplitude, channel < 4 ? RemnantPart * m_level : 0.0))
             continue;
         m_reference = channel;
+        m_level = std::abs(value);
         offset = m_searching ? 0.0 : sinePhase(value);
         return true;
     }
@@ -156,6 +163,7 @@ bool CycleTracker::acquire(const SampleStore &store, CycleEnd &out)
     out = CycleEnd();
     out.position = at;
     m_reference = -1;
+    m_level = 0.0;
     if (chooseReference(store, at, value, offset)) {
         double f = m_nominal;
         double phase = 0.0;
@@ -173,6 +181,7 @@ bool CycleTracker::acquire(const SampleStore &store, CycleEnd &out)
             out.steady = true;
             out.fresh = true;
             m_offset = 0.0;
+            m_amplitude = std::abs(value);
             startRun(out.position);
             m_unsteady = 0;
         }
@@ -197,9 +206,20 @@ bool CycleTracker::track(const SampleStore &store, CycleEnd &out)
     m_offset = offset;
     if (out.locked) {
         const double early = centred(sinePhase(value) - offset);
-        out.position = at - early * SampleRate / m_frequency;
-        out.steady = std::fabs(early) < SteadyLimit;
+        const double amplitude = std::abs(value);
+        const bool edge = std::fabs(amplitude - m_amplitude) > EdgeChange * m_amplitude;
+        m_amplitude = amplitude;
+        out.steady = std::fabs(early) < SteadyLimit && !edge;
+        // The edge of a dip under the window pulls the phase a little; a true jump moves it by more. The last remnant
+        // of a voltage that went away tells nothing.
+        if (!edge || (std::fabs(early) > EdgePull && amplitude > 0.5 * m_level))
+            out.position = at - early * SampleRate / m_frequency;
     }
+    if (out.steady)
+        m_level = m_amplitude;
+    m_away = out.locked ? 0 : m_away + 1;
+    if (m_away > PatienceCycles)
+        m_level = 0.0; // from here on a weak signal is better than none
     learnFrequency(out);
     out.period = basePeriod();
     m_locked = out.locked;

@@ -64,6 +64,9 @@ private:
     static constexpr std::size_t RunLength = 6;
     std::array<double, RunLength> m_run {};
     std::size_t m_runLength = 0;
+    double m_amplitude = 0.0; // of the reference at the last crossing
+    double m_level = 0.0; // the same when it was last steady
+    int m_away = 0; // cycles without a reference
     int m_unsteady = 0; // disturbed cycles in a row
 };
 
