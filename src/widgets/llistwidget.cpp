@@ -1,0 +1,8 @@
+#include "widgets/llistwidget.h"
+
+#include <QKeyEvent>
+
+void LListWidget::keyPressEvent(QKeyEvent *event)
+{
+    event->ignore();
+}
