@@ -1,6 +1,7 @@
 #pragma once
 
 #include "config/pqaeventitem.h"
+#include "pqa2/modbusheader.h"
 
 #include <cstddef>
 
@@ -24,8 +25,7 @@ static_assert(sizeof(ModbusEventRow) == 20 && offsetof(ModbusEventRow, startSeco
 /// The block of the newest events as the Modbus slave takes it: head, then ten rows, oldest first (docs/modbus.md).
 struct ModbusEventTable
 {
-    quint32 start = 5000; // input register
-    quint32 length = kModbusEventRows * sizeof(ModbusEventRow) / 2; // registers
+    __modbus_data_header head = { 5000, kModbusEventRows * sizeof(ModbusEventRow) / 2 };
     ModbusEventRow row[kModbusEventRows] = {};
 
     /// Marks all rows as unused and enters the newest events of the list. An unused row keeps its other registers.

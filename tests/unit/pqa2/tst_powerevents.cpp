@@ -575,8 +575,8 @@ void TstPowerEvents::tableHoldsTheNewestTenOldestFirst()
         }
         events.checkEventUnbal({ 1000 * (i + 1) + 250, 1 });
     }
-    QCOMPARE(table.start, 5000u);
-    QCOMPARE(table.length, 100u);
+    QCOMPARE(table.head.start, 5000u);
+    QCOMPARE(table.head.length, 100u);
     for (int row = 0; row < 10; ++row) {
         QCOMPARE(table.row[row].valid, quint16(1));
         QCOMPARE(table.row[row].finished, quint16(1));

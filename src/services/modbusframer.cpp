@@ -1,0 +1,35 @@
+#include "services/modbusframer.h"
+
+#include <cstring>
+
+bool ModbusFramer::next(const quint8 **frame, int *length)
+{
+    const int have = m_end - m_start;
+    if (!m_broken && have >= kLengthEnd) {
+        const quint8 *head = m_bytes + m_start;
+        const int protocol = head[2] << 8 | head[3];
+        const int told = head[4] << 8 | head[5];
+        if (protocol != 0 || told < 2 || told > kMostTold) {
+            m_broken = true;
+        } else if (have >= kLengthEnd + told) {
+            *frame = head;
+            *length = kLengthEnd + told;
+            m_start += *length;
+            return true;
+        }
+    }
+    // Only a begun frame is left: move it to the front, so that there is room for its rest.
+    if (m_start > 0) {
+        std::memmove(m_bytes, m_bytes + m_start, size_t(have));
+        m_start = 0;
+        m_end = have;
+    }
+    return false;
+}
+
+void ModbusFramer::clear()
+{
+    m_start = 0;
+    m_end = 0;
+    m_broken = false;
+}
