@@ -92,21 +92,28 @@ bool BoardFiles::write(const QString &boardPath, const QString &text) const
     return file.open(QIODevice::WriteOnly) && file.write(text.toLatin1()) == text.size() && file.commit();
 }
 
-int BoardFiles::line(int gpio) const
+std::optional<int> BoardFiles::line(int gpio) const
 {
     QFile file(path(gpioPath(gpio, "value")));
-    char value = '0';
-    return file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) && file.read(&value, 1) == 1 && value == '1' ? 1 : 0;
+    char value = 0;
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered) || file.read(&value, 1) != 1
+        || (value != '0' && value != '1'))
+        return std::nullopt;
+    return value - '0';
 }
 
-RangeSelectors BoardFiles::ranges() const
+RangeSelectors BoardFiles::ranges(const RangeSelectors &last) const
 {
-    const auto selector = [this](const SelectorLines &lines) { return 2 * line(lines.bit1) + line(lines.bit0); };
+    const auto selector = [this](const SelectorLines &lines, int before) {
+        const std::optional<int> bit1 = line(lines.bit1);
+        const std::optional<int> bit0 = line(lines.bit0);
+        return bit1 && bit0 ? 2 * *bit1 + *bit0 : before;
+    };
     RangeSelectors ranges;
-    ranges.phaseVoltage = selector(kPhaseVoltage);
-    ranges.neutralVoltage = selector(kNeutralVoltage);
-    ranges.phaseCurrent = selector(kPhaseCurrent);
-    ranges.neutralCurrent = selector(kNeutralCurrent);
+    ranges.phaseVoltage = selector(kPhaseVoltage, last.phaseVoltage);
+    ranges.neutralVoltage = selector(kNeutralVoltage, last.neutralVoltage);
+    ranges.phaseCurrent = selector(kPhaseCurrent, last.phaseCurrent);
+    ranges.neutralCurrent = selector(kNeutralCurrent, last.neutralCurrent);
     return ranges;
 }
 

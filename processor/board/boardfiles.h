@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <QtGlobal>
 
+#include <optional>
+
 namespace board {
 
 /// Two-bit range selectors of the analog front end, as they stand on its lines.
@@ -38,9 +40,11 @@ public:
 
     QString path(const QString &boardPath) const { return m_root + boardPath; }
 
-    RangeSelectors ranges() const;
-    /// Value of a line: 0 or 1; a missing or unreadable file reads as 0.
-    int line(int gpio) const;
+    /// The selectors as they stand; one with a line that cannot be read keeps its value of \a last. Writers empty a
+    /// file before they fill it, so a look may find nothing.
+    RangeSelectors ranges(const RangeSelectors &last) const;
+    /// Value of a line: 0 or 1, nothing when its file is missing or holds neither.
+    std::optional<int> line(int gpio) const;
 
     bool setBattery(double volts);
     bool setCharger(Charger charger);

@@ -243,7 +243,7 @@ void Engine::readBoard(Pacer::Clock::time_point now)
     if (!m_simulator || now - m_boardRead < kBoardPeriod)
         return;
     m_boardRead = now;
-    const board::RangeSelectors ranges = m_files.ranges();
+    const board::RangeSelectors ranges = m_files.ranges(m_ranges);
     if (ranges != m_ranges)
         m_simulator->setRanges(ranges);
     m_ranges = ranges;

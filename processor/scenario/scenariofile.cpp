@@ -1,6 +1,7 @@
 #include "scenario/scenariofile.h"
 
 #include "link/deviceclock.h"
+#include "scenario/commands.h"
 #include "scenario/eventforms.h"
 #include "scenario/jsonkeys.h"
 #include "scenario/signalreader.h"
@@ -15,6 +16,7 @@ namespace scenario {
 namespace {
 
 constexpr double kMaxSeconds = 1e7;
+constexpr double kLeastPeriod = 0.02; // s
 constexpr qint64 kMaxFileBytes = 4 << 20;
 constexpr char kOwnScenarios[] = ":/scenarios/";
 
@@ -28,7 +30,11 @@ Times readTimes(JsonKeys *keys)
 {
     keys->require(QStringLiteral("at"), QStringLiteral("a time in seconds"));
     const double at = keys->number(QStringLiteral("at"), 0.0, 0.0, kMaxSeconds);
-    return { at, keys->number(QStringLiteral("every"), 0.0, 0.0, kMaxSeconds) };
+    const double every = keys->number(QStringLiteral("every"), 0.0, 0.0, kMaxSeconds);
+    if (every > 0.0 && every < kLeastPeriod)
+        keys->wrong(QStringLiteral("every"),
+                    QStringLiteral("0 for once, or a period of %1 s or more").arg(kLeastPeriod));
+    return { at, every };
 }
 
 TimedEvent readEvent(JsonErrors *errors, const QString &path, const QJsonValue &value)
@@ -74,6 +80,9 @@ Step readStep(JsonErrors *errors, const QString &path, const QJsonValue &value)
         step.signal = readSignal(errors, keys.path(QStringLiteral("signal")), signal);
     if (signal.isUndefined() && step.tell.isEmpty())
         keys.require(QStringLiteral("tell"), QStringLiteral("a command, or a \"signal\""));
+    if (!step.tell.isEmpty() && !Commands::knows(step.tell))
+        keys.wrong(QStringLiteral("tell"),
+                   QStringLiteral("a command that begins with one of %1").arg(Commands::names()));
     keys.finish();
     return step;
 }
