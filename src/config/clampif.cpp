@@ -1,10 +1,10 @@
 #include "config/clampif.h"
 
 #include <QDomDocument>
-#include <QXmlStreamWriter>
 
 #include "config/safefile.h"
 #include "config/xmlguard.h"
+#include "config/xmltext.h"
 #include "platform/target.h"
 
 namespace {
@@ -32,17 +32,6 @@ const BuiltIn kBuiltIns[] = {
 bool isTrue(const QString &attribute)
 {
     return attribute.toUpper() == QLatin1String("TRUE");
-}
-
-/// Control characters cannot stand in XML; one of them would make the whole file unreadable.
-QString plainText(const QString &text)
-{
-    QString plain = text;
-    for (QChar &c : plain) {
-        if (c.unicode() < 0x20 || c.unicode() == 0xfffe || c.unicode() == 0xffff || c.isSurrogate())
-            c = QLatin1Char(' ');
-    }
-    return plain;
 }
 
 } // namespace
@@ -122,30 +111,26 @@ void ClampIF::takeDocument(const QDomDocument &document)
 
 bool ClampIF::save(const QString &path) const
 {
-    QByteArray bytes;
-    QXmlStreamWriter xml(&bytes);
-    xml.setAutoFormatting(true);
-    xml.setAutoFormattingIndent(4);
-    xml.writeProcessingInstruction(QStringLiteral("xml"), QStringLiteral("version=\"1.0\" encoding=\"utf-8\""));
+    XmlText text(QStringLiteral("version=\"1.0\" encoding=\"utf-8\""));
+    QXmlStreamWriter &xml = text.writer();
     xml.writeStartElement(QStringLiteral("PQA"));
     xml.writeAttribute(QStringLiteral("version"), QStringLiteral("1.0"));
-    xml.writeAttribute(QStringLiteral("inUsed"), plainText(m_record->inUsed));
+    xml.writeAttribute(QStringLiteral("inUsed"), XmlText::plain(m_record->inUsed));
     for (const Clamp *clamp = m_record->first; clamp; clamp = clamp->nextNode) {
         if (!clamp->editable())
             continue;
         xml.writeStartElement(QStringLiteral("clamp"));
-        xml.writeAttribute(QStringLiteral("name"), plainText(clamp->name()));
+        xml.writeAttribute(QStringLiteral("name"), XmlText::plain(clamp->name()));
         xml.writeAttribute(QStringLiteral("range"), QString::number(clamp->range()));
         xml.writeAttribute(QStringLiteral("ratio"), QString::number(clamp->ratio()));
         xml.writeAttribute(QStringLiteral("editable"), QStringLiteral("true"));
         if (clamp->flexible())
             xml.writeAttribute(QStringLiteral("flexible"), QStringLiteral("true"));
-        xml.writeCharacters(plainText(clamp->description()));
+        xml.writeCharacters(XmlText::plain(clamp->description()));
         xml.writeEndElement();
     }
     xml.writeEndElement();
-    xml.writeEndDocument();
-    if (!SafeFile::replace(path, bytes))
+    if (!SafeFile::replace(path, text.take()))
         return false;
     Target::shell(QStringLiteral("sync"));
     return true;

@@ -1,12 +1,12 @@
 #include "config/limits.h"
 
 #include <QDomDocument>
-#include <QXmlStreamWriter>
 
 #include "config/config_data.h"
 #include "config/limitbuiltins.h"
 #include "config/safefile.h"
 #include "config/xmlguard.h"
+#include "config/xmltext.h"
 #include "platform/debuglog.h"
 
 #include <cmath>
@@ -315,18 +315,14 @@ bool MonitorLimits2::loadFile(const QString &path)
 
 bool MonitorLimits2::saveFile(const QString &path)
 {
-    QByteArray bytes;
-    QXmlStreamWriter xml(&bytes);
-    xml.setAutoFormatting(true);
-    xml.setAutoFormattingIndent(4);
-    xml.writeProcessingInstruction(QStringLiteral("xml"), QStringLiteral("version = \"1.0\" encoding=\"utf-8\""));
+    XmlText text(QStringLiteral("version = \"1.0\" encoding=\"utf-8\""));
+    QXmlStreamWriter &xml = text.writer();
     xml.writeStartElement(QStringLiteral("limits"));
     xml.writeAttribute(QStringLiteral("verison"), QStringLiteral("1.0")); // as required: spelled so
-    xml.writeAttribute(QStringLiteral("name"), m_name);
+    xml.writeAttribute(QStringLiteral("name"), XmlText::plain(m_name));
     writeGroups(xml, m_limit);
     xml.writeEndElement();
-    xml.writeEndDocument();
-    if (!SafeFile::replace(path, bytes))
+    if (!SafeFile::replace(path, text.take()))
         return false;
     m_file = path;
     return true;

@@ -3,10 +3,10 @@
 #include <QDir>
 #include <QDomDocument>
 #include <QFile>
-#include <QXmlStreamWriter>
 
 #include "config/safefile.h"
 #include "config/xmlguard.h"
+#include "config/xmltext.h"
 #include "platform/debuglog.h"
 #include "platform/target.h"
 
@@ -70,17 +70,13 @@ QString LimitsManager::loadLimitsConf() const
 
 void LimitsManager::changeLimitsConf(const QString &name) const
 {
-    QByteArray bytes;
-    QXmlStreamWriter xml(&bytes);
-    xml.setAutoFormatting(true);
-    xml.setAutoFormattingIndent(4);
-    xml.writeProcessingInstruction(QStringLiteral("xml"), QStringLiteral("version = \"1.0\" encoding=\"utf-8\""));
+    XmlText text(QStringLiteral("version = \"1.0\" encoding=\"utf-8\""));
+    QXmlStreamWriter &xml = text.writer();
     xml.writeStartElement(QStringLiteral("LimitsConfig"));
     xml.writeAttribute(QStringLiteral("verison"), QStringLiteral("1.0")); // as required: spelled so
-    xml.writeTextElement(QStringLiteral("Active"), name);
+    xml.writeTextElement(QStringLiteral("Active"), XmlText::plain(name));
     xml.writeEndElement();
-    xml.writeEndDocument();
-    SafeFile::replace(confPath(), bytes);
+    SafeFile::replace(confPath(), text.take());
 }
 
 MonitorLimits2 *LimitsManager::find(const QString &name) const

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDir>
+#include <QFile>
+#include <QString>
+
+#include "platform/target.h"
+
+/// Files of the test's own root, by the board's paths.
+namespace RootFiles {
+
+inline QByteArray read(const QString &boardPath)
+{
+    QFile file(Target::path(boardPath));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("(missing)");
+}
+
+inline void write(const QString &boardPath, const QByteArray &content)
+{
+    const QString path = Target::path(boardPath);
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(content) != content.size())
+        qFatal("cannot write %s", qPrintable(path));
+}
+
+inline bool exists(const QString &boardPath)
+{
+    return QFileInfo::exists(Target::path(boardPath));
+}
+
+/// Takes away everything that settings, recordings and commands left in the root.
+inline void clean()
+{
+    for (const char *folder : { "/mnt/userfs", "/mnt/storage", "/mnt/calibration", "/run/media" }) {
+        QDir(Target::path(QString::fromLatin1(folder))).removeRecursively();
+        QDir().mkpath(Target::path(QString::fromLatin1(folder)));
+    }
+    for (const char *folder : { "/mnt/userfs/config", "/mnt/userfs/sys/limits", "/mnt/userfs/language" })
+        QDir().mkpath(Target::path(QString::fromLatin1(folder)));
+    QFile::remove(Target::path("/var/log/commands"));
+}
+
+inline QByteArray commands()
+{
+    return exists("/var/log/commands") ? read("/var/log/commands") : QByteArray();
+}
+
+} // namespace RootFiles
