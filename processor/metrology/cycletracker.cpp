@@ -18,6 +18,7 @@ constexpr double SteadyLimit = 0.004; // cycles between the expected and the fou
 constexpr double RemnantPart = 0.1; // of its amplitude before: what is less is what a lost reference left behind
 constexpr double EdgeChange = 0.04; // of the amplitude from cycle to cycle: something begins or ends
 constexpr double EdgePull = 0.02; // cycles that such an edge may seem to move a crossing
+constexpr std::size_t LeastRun = 4; // ends of cycles in a row that a frequency is taken from
 constexpr int PatienceCycles = 8; // disturbed cycles after which the search begins anew
 constexpr int Lanes = 8;
 
@@ -49,13 +50,7 @@ void CycleTracker::start(int nominalFrequency)
     m_level = 0.0;
     m_away = 0;
     m_unsteady = 0;
-    startRun(m_position);
-}
-
-void CycleTracker::startRun(double position)
-{
-    m_run[0] = position;
-    m_runLength = 1;
+    m_runLength = 0;
 }
 
 double CycleTracker::basePeriod() const
@@ -182,7 +177,8 @@ bool CycleTracker::acquire(const SampleStore &store, CycleEnd &out)
             out.fresh = true;
             m_offset = 0.0;
             m_amplitude = std::abs(value);
-            startRun(out.position);
+            m_run[0] = out.position;
+            m_runLength = 1;
             m_unsteady = 0;
         }
     }
@@ -231,7 +227,7 @@ bool CycleTracker::track(const SampleStore &store, CycleEnd &out)
 void CycleTracker::learnFrequency(const CycleEnd &end)
 {
     if (!end.steady) {
-        startRun(end.position);
+        m_runLength = 0;
         m_unsteady = end.locked ? m_unsteady + 1 : 0;
         m_searching = m_unsteady > PatienceCycles;
         return;
@@ -242,6 +238,8 @@ void CycleTracker::learnFrequency(const CycleEnd &end)
         --m_runLength;
     }
     m_run[m_runLength++] = end.position;
+    if (m_runLength < LeastRun)
+        return;
     const auto cycles = static_cast<double>((m_runLength - 1) * static_cast<std::size_t>(m_baseCycles));
     const double f = cycles * SampleRate / (end.position - m_run[0]);
     if (std::fabs(f / m_nominal - 1.0) <= LockRange)

@@ -49,7 +49,6 @@ private:
     bool track(const SampleStore &store, CycleEnd &out);
     bool chooseReference(const SampleStore &store, double at, std::complex<double> &value, double &offset);
     void learnFrequency(const CycleEnd &end);
-    void startRun(double position);
     double basePeriod() const;
 
     double m_nominal = 50.0;

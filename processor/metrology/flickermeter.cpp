@@ -12,8 +12,10 @@ namespace {
 constexpr double BlockRate = SampleRate / SampleStore::BlockLength; // 2048 a second
 constexpr double BlocksPerOutput = BlockRate / FlickerRate; // 1.024
 constexpr int SettleBlocks = 410; // 200 ms
+constexpr int FadeBlocks = 4096; // 2 s
 // A first-order lag rises from 10 to 90 percent in 2.197 time constants; block 1 takes a minute for it.
 constexpr double ReferenceSeconds = 60.0 / 2.1972245773362196;
+constexpr double ReferenceShare = 1.0 / (ReferenceSeconds * BlockRate);
 constexpr double LeastReference = 1e-4; // mean square in converter units: 0.01 units r.m.s.; below nothing is connected
 
 } // namespace
@@ -30,44 +32,39 @@ void FlickerMeter::restart(std::int64_t frame)
     m_output = 0;
     m_filled = 0;
     m_reference.fill(0.0);
+    m_age.fill(0);
     m_last.fill(0.0);
     m_latest.fill(0.0);
     m_payload.samplesPerWindow = FlickerRate;
 }
 
-// After the first 200 ms the mean so far becomes the reference and the filters stand as if it had been there for ever;
-// otherwise connecting the instrument would show as flicker for the first minute.
-void FlickerMeter::settle()
+void FlickerMeter::takePhase(std::size_t k, double square)
 {
-    for (std::size_t k = 0; k < 3; ++k) {
-        m_reference[k] /= SettleBlocks;
-        m_filters[k].settle(1.0);
+    m_last[k] = m_latest[k];
+    m_latest[k] = 0.0;
+    if (m_age[k] == 0) {
+        if (square < LeastReference)
+            return; // nothing is connected
+        m_reference[k] = 0.0;
     }
-}
-
-void FlickerMeter::takeBlock(const SampleStore::Sums &square)
-{
-    const std::int64_t age = m_block - m_firstBlock;
-    m_last = m_latest;
-    if (age < SettleBlocks) {
-        for (std::size_t k = 0; k < 3; ++k)
-            m_reference[k] += square[k];
-        if (age == SettleBlocks - 1)
-            settle();
+    const std::int64_t age = ++m_age[k];
+    if (age <= SettleBlocks) {
+        m_reference[k] += (square - m_reference[k]) / static_cast<double>(age);
+        m_filters[k].settle(1.0);
         return;
     }
-    constexpr double share = 1.0 / (ReferenceSeconds * BlockRate);
-    for (std::size_t k = 0; k < 3; ++k) {
-        if (m_reference[k] < LeastReference) {
-            // Nothing was connected so far: no sensation, and the voltage that appears is the new reference at once.
-            m_reference[k] += (square[k] - m_reference[k]) / SettleBlocks;
-            m_latest[k] = 0.0;
-            m_filters[k].settle(1.0);
-            continue;
-        }
-        m_reference[k] += (square[k] - m_reference[k]) * share;
-        m_latest[k] = std::max(m_filters[k].step(square[k] / m_reference[k]), 0.0);
+    // A plain mean at first, which becomes the lag of one minute as soon as that is the slower one.
+    m_reference[k] += (square - m_reference[k]) * std::max(1.0 / static_cast<double>(age), ReferenceShare);
+    if (m_reference[k] < LeastReference) {
+        m_age[k] = 0;
+        return;
     }
+    double x = square / m_reference[k];
+    if (age < SettleBlocks + FadeBlocks) {
+        const double part = static_cast<double>(age - SettleBlocks) / FadeBlocks;
+        x = 1.0 + part * part * (3.0 - 2.0 * part) * (x - 1.0);
+    }
+    m_latest[k] = std::max(m_filters[k].step(x), 0.0);
 }
 
 // Reads the values between the last two blocks that fall on the 2000-a-second grid. True when the payload is full.
@@ -95,7 +92,9 @@ bool FlickerMeter::deliver()
 bool FlickerMeter::advance(const SampleStore &store)
 {
     while (m_block < store.endBlock()) {
-        takeBlock(store.blockMeanSquare(m_block));
+        const SampleStore::Sums square = store.blockMeanSquare(m_block);
+        for (std::size_t k = 0; k < 3; ++k)
+            takePhase(k, square[k]);
         ++m_block;
         // Blocks come a little faster than values, so there is at most one value between two of them.
         if (deliver())

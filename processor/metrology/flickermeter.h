@@ -15,11 +15,14 @@ namespace processor {
 /// The squares of the samples are averaged in blocks of ten, which leaves 2048 values a second: the sidebands of the
 /// squared voltage below 42 Hz pass unchanged, and the filters run at a tenth of the rate. Block 1 divides by a mean
 /// square with a one-minute response; block 4's output is read off at 2000 values a second.
+///
+/// Connecting a voltage is no flicker: the mean square of its first 200 ms is the reference, and what differs from it
+/// is let into the filters little by little over the next two seconds.
 class FlickerMeter
 {
 public:
     void setSetup(const ProcessorSetup &setup);
-    /// Starts anew at the sample `frame`: 200 ms later the filters settle to the voltage found in between.
+    /// Starts anew at the sample `frame`.
     void restart(std::int64_t frame);
 
     /// Takes all blocks that the store has. True when a payload has become full: its values and the frame of the first
@@ -31,12 +34,12 @@ public:
     std::int64_t needs() const { return m_block * SampleStore::BlockLength; }
 
 private:
-    void takeBlock(const SampleStore::Sums &square);
-    void settle();
+    void takePhase(std::size_t k, double square);
     bool deliver();
 
     std::vector<FlickerFilter> m_filters; // one a phase
     std::array<double, 3> m_reference {}; // mean square that block 1 divides by
+    std::array<std::int64_t, 3> m_age {}; // blocks since a voltage appeared
     std::array<double, 3> m_last {}; // Pinst of the last two blocks
     std::array<double, 3> m_latest {};
     std::int64_t m_block = 0; // next block to take

@@ -12,7 +12,7 @@ namespace processor {
 ///
 /// For each slot of 4096 samples (200 ms) the sink sees, in this order: the flicker and aggregation payloads that
 /// became ready, the half-cycle values whose time lies in the slot, and the slot's wave. An event that a receiver finds
-/// in the half-cycle values therefore lies in the wave that follows next. Results come some 50 ms after the slot's last
+/// in the half-cycle values therefore lies in the wave that follows next. Results come within 80 ms of the slot's last
 /// sample.
 ///
 /// Results depend on the samples alone, not on the lengths in which they arrive.
