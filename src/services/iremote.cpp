@@ -1,0 +1,394 @@
+#include "services/iremote.h"
+
+#include "device/screenshot.h"
+#include "platform/target.h"
+#include "widgets/keymap.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QKeyEvent>
+#include <QWidget>
+#include <QtEndian>
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <netinet/in.h>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+IRemote *IRemote::m_iremote = nullptr;
+std::atomic<quint16> IRemote::m_port { 0 };
+
+namespace {
+
+enum Command : quint32 { Identify = 0, Key = 1, Screen = 2, KeepAlive = 3, ScreenToo = 4 };
+
+constexpr size_t kRequestBytes = 128; // read of a datagram; the rest is cut off
+constexpr size_t kKeyOffset = 8;
+constexpr size_t kMessageBytes = 32;
+constexpr char kNoSocket[] = "创建套接字失败了.\r";
+constexpr char kName[] = "QUVERA";
+constexpr size_t kPictureHead = 8;
+constexpr quint32 kPictureWord = 4;
+constexpr size_t kDatagramBytes = 1024;
+constexpr useconds_t kPause = 500; // us, so that the tool's receive buffer keeps up
+constexpr int kKeysPerRound = 32; // more than anybody presses while the event loop comes round once
+constexpr int kLongestRestMs = 1000;
+
+void putWord(char *at, quint32 word)
+{
+    qToLittleEndian(word, at);
+}
+
+quint64 packAddress(const sockaddr_in &address)
+{
+    return quint64(ntohl(address.sin_addr.s_addr)) << 32 | ntohs(address.sin_port);
+}
+
+sockaddr_in unpackAddress(quint64 packed)
+{
+    sockaddr_in address = {};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(quint32(packed >> 32));
+    address.sin_port = htons(quint16(packed & 0xffff));
+    return address;
+}
+
+// As required: an instrument without its remote control ends at once. Other threads run, so nothing is torn down.
+[[noreturn]] void endProcess(const char *text)
+{
+    std::printf("%s", text);
+    std::fflush(stdout);
+    std::_Exit(-1);
+}
+
+void print(const char *text)
+{
+    std::printf("%s", text);
+    std::fflush(stdout);
+}
+
+// Failures that repeat are waited out for longer and longer, so that a broken socket does not take a core.
+class Rest
+{
+public:
+    void afterFailure()
+    {
+        usleep(useconds_t(m_ms) * 1000);
+        m_ms = std::min(m_ms * 2, kLongestRestMs);
+    }
+    void afterSuccess() { m_ms = 1; }
+
+private:
+    int m_ms = 1;
+};
+
+// Where a key goes: to the focus, as a key of the panel does. On a desk another window may have the keyboard; then to
+// the widget that would have it.
+QObject *keyReceiver()
+{
+    if (QObject *focus = QGuiApplication::focusObject())
+        return focus;
+    QWidget *window = QApplication::activeModalWidget();
+    if (!window) {
+        const auto windows = QApplication::topLevelWidgets();
+        for (QWidget *candidate : windows) {
+            if (candidate->isVisible() && candidate->focusWidget())
+                window = candidate;
+        }
+    }
+    if (!window)
+        return nullptr;
+    return window->focusWidget() ? window->focusWidget() : window;
+}
+
+} // namespace
+
+IRemote::IRemote(QObject *parent) : QObject(parent)
+{
+    m_iremote = this;
+    m_round.setSingleShot(true);
+    connect(&m_round, &QTimer::timeout, this, &IRemote::loopCameRound);
+    // Two steps to the picture, as many as a key takes, so that they keep their order.
+    connect(this, &IRemote::saveScreen, this, &IRemote::takeScreen, Qt::QueuedConnection);
+    if (ScreenShot *screenShot = ScreenShot::iScreenShot()) {
+        connect(this, &IRemote::grabScreen, screenShot, &ScreenShot::grabScreenPixmap, Qt::QueuedConnection);
+        connect(screenShot, &ScreenShot::screenPixmap, this, QOverload<const QPixmap &>::of(&IRemote::respondScreen));
+    }
+    initThreadUdpRecv();
+}
+
+IRemote::~IRemote()
+{
+    if (m_threadRuns) {
+        const char end = 0;
+        if (write(m_wake[1], &end, 1) == 1)
+            pthread_join(m_thread, nullptr);
+    }
+    const int socket = m_socket.exchange(-1);
+    for (int descriptor : { m_wake[0], m_wake[1], socket }) {
+        if (descriptor >= 0)
+            close(descriptor);
+    }
+    m_port = 0;
+    if (m_iremote == this)
+        m_iremote = nullptr;
+}
+
+void IRemote::initThreadUdpRecv()
+{
+    if (m_threadRuns)
+        return;
+    if (pipe2(m_wake, O_CLOEXEC) != 0)
+        endProcess(kNoSocket); // no descriptors are left: there would be none for the socket either
+    m_threadRuns = pthread_create(&m_thread, nullptr, threadUdpRecv, this) == 0;
+}
+
+quint16 IRemote::port()
+{
+    return m_port;
+}
+
+void *IRemote::threadUdpRecv(void *self)
+{
+    // As required: signals 12 and 14 belong to the main thread.
+    sigset_t blocked;
+    sigemptyset(&blocked);
+    sigaddset(&blocked, 12);
+    sigaddset(&blocked, 14);
+    pthread_sigmask(SIG_BLOCK, &blocked, nullptr);
+    static_cast<IRemote *>(self)->serve();
+    return nullptr;
+}
+
+void IRemote::serve()
+{
+    const int descriptor = socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    if (descriptor < 0)
+        endProcess(kNoSocket);
+    sockaddr_in address = {};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_ANY);
+    address.sin_port = htons(Target::remotePort());
+    if (bind(descriptor, reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0) {
+        close(descriptor);
+        endProcess("bind() 函数使用失败了.\r");
+    }
+    socklen_t size = sizeof address;
+    getsockname(descriptor, reinterpret_cast<sockaddr *>(&address), &size);
+    m_socket = descriptor;
+    m_port = ntohs(address.sin_port);
+
+    char buffer[kRequestBytes] = {}; // As required: it keeps its bytes from request to request
+    Rest rest;
+    for (;;) {
+        pollfd waits[2] = { { descriptor, POLLIN, 0 }, { m_wake[0], POLLIN, 0 } };
+        const int ready = poll(waits, 2, -1);
+        if (ready > 0 && waits[1].revents)
+            return;
+        if (ready < 1 || waits[0].revents & POLLNVAL) {
+            print("err select");
+            rest.afterFailure();
+            continue;
+        }
+        if (!receive(buffer, sizeof buffer)) {
+            rest.afterFailure();
+            continue;
+        }
+        rest.afterSuccess();
+        act(buffer);
+    }
+}
+
+bool IRemote::receive(char *buffer, size_t size)
+{
+    sockaddr_in peer = {};
+    socklen_t peerSize = sizeof peer;
+    if (recvfrom(m_socket, buffer, size, MSG_DONTWAIT, reinterpret_cast<sockaddr *>(&peer), &peerSize) < 0) {
+        print("recvfrom()函数使用失败了.");
+        return false;
+    }
+    m_clientAddr = packAddress(peer);
+    return true;
+}
+
+void IRemote::act(const char *buffer)
+{
+    switch (qFromLittleEndian<quint32>(buffer)) {
+    case Identify:
+        respondMesg(Identify);
+        break;
+    case Key:
+        pressKey(qFromLittleEndian<qint32>(buffer + kKeyOffset));
+        break;
+    case Screen:
+    case ScreenToo:
+        requestScreen();
+        break;
+    case KeepAlive:
+        respondMesg(KeepAlive);
+        break;
+    default:
+        break;
+    }
+}
+
+// The focus is the GUI thread's, so the key is carried there before it is posted. Keys beyond what the loop can take in
+// one round are dropped.
+void IRemote::pressKey(int code)
+{
+    const std::lock_guard<std::mutex> guard(m_lock);
+    if (m_keysThisRound >= kKeysPerRound)
+        return;
+    ++m_keysThisRound;
+    m_keys.push_back(code);
+    if (!m_keyPosted) {
+        m_keyPosted = true;
+        QMetaObject::invokeMethod(this, "deliverKey", Qt::QueuedConnection);
+    }
+}
+
+void IRemote::deliverKey()
+{
+    int code = 0;
+    {
+        const std::lock_guard<std::mutex> guard(m_lock);
+        code = m_keys.front();
+        m_keys.pop_front();
+    }
+    postEvent(QEvent::KeyPress, code);
+    postEvent(QEvent::KeyRelease, code);
+    {
+        // The next key waits until this one has done its work: it may have brought another page to the front.
+        const std::lock_guard<std::mutex> guard(m_lock);
+        m_keyPosted = !m_keys.empty();
+        if (m_keyPosted)
+            QMetaObject::invokeMethod(this, "deliverKey", Qt::QueuedConnection);
+    }
+    if (!m_round.isActive())
+        m_round.start(0);
+}
+
+// A timer runs out only when all posted events have been handled: until then no more keys are taken.
+void IRemote::loopCameRound()
+{
+    const std::lock_guard<std::mutex> guard(m_lock);
+    m_keysThisRound = int(m_keys.size());
+}
+
+void IRemote::postEvent(QEvent::Type type, int code)
+{
+    QObject *receiver = keyReceiver();
+    if (!receiver)
+        return;
+    QCoreApplication::postEvent(
+        receiver, new QKeyEvent(type, keyMap::keyboardBackMap(code), Qt::NoModifier, QString(), false, 1));
+}
+
+void IRemote::requestScreen()
+{
+    if (m_iremote)
+        m_iremote->requestScr();
+}
+
+// One picture at a time: a request that comes before it is taken is answered by it, one that comes while it is being
+// sent by one more, whole, to the newest peer.
+void IRemote::requestScr()
+{
+    {
+        const std::lock_guard<std::mutex> guard(m_lock);
+        if (m_picturePending) {
+            m_pictureAgain = m_pictureSending;
+            return;
+        }
+        m_picturePending = true;
+    }
+    emit saveScreen();
+}
+
+void IRemote::takeScreen()
+{
+    bool keysFirst = false;
+    {
+        const std::lock_guard<std::mutex> guard(m_lock);
+        keysFirst = m_keyPosted;
+    }
+    if (keysFirst)
+        QMetaObject::invokeMethod(this, "takeScreen", Qt::QueuedConnection);
+    else
+        emit grabScreen();
+}
+
+void IRemote::respondScreen(const QPixmap &pixmap)
+{
+    {
+        const std::lock_guard<std::mutex> guard(m_lock);
+        m_pictureSending = true;
+    }
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    pixmap.save(&buffer, "png");
+    respondImage(png);
+    // By a timer, so that a storm of requests leaves the loop its rounds.
+    QTimer::singleShot(0, this, &IRemote::pictureDone);
+}
+
+void IRemote::pictureDone()
+{
+    bool again = false;
+    {
+        const std::lock_guard<std::mutex> guard(m_lock);
+        m_picturePending = false;
+        m_pictureSending = false;
+        again = m_pictureAgain;
+        m_pictureAgain = false;
+    }
+    if (again)
+        requestScr();
+}
+
+void IRemote::respondScreen()
+{
+    respondMesg(Screen);
+}
+
+void IRemote::respondMesg(int command)
+{
+    char answer[kMessageBytes] = {};
+    putWord(answer, quint32(command));
+    putWord(answer + 4, sizeof kName - 1);
+    std::memcpy(answer + 8, kName, sizeof kName);
+    sendToPeer(answer, sizeof answer);
+}
+
+void IRemote::respondImage(const QByteArray &png)
+{
+    QByteArray stream(int(kPictureHead), '\0');
+    putWord(stream.data(), kPictureWord);
+    putWord(stream.data() + 4, quint32(png.size()));
+    stream += png;
+    for (size_t at = 0; at < size_t(stream.size()); at += kDatagramBytes) {
+        const size_t size = std::min(kDatagramBytes, size_t(stream.size()) - at);
+        if (!sendToPeer(stream.constData() + at, size)) {
+            std::printf("sendto fail errno %s\r\n", std::strerror(errno));
+            std::fflush(stdout);
+            return;
+        }
+        usleep(kPause);
+    }
+}
+
+// As required: the peer is looked up for each datagram, so that a new request redirects the rest of a picture.
+bool IRemote::sendToPeer(const char *bytes, size_t size) const
+{
+    const sockaddr_in peer = unpackAddress(m_clientAddr);
+    const ssize_t sent
+        = sendto(m_socket, bytes, size, MSG_NOSIGNAL, reinterpret_cast<const sockaddr *>(&peer), sizeof peer);
+    return sent == ssize_t(size);
+}

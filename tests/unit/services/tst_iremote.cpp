@@ -1,0 +1,750 @@
+#include "device/screenshot.h"
+#include "services/iremote.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTest>
+#include <QUdpSocket>
+#include <QVBoxLayout>
+#include <QWidget>
+#include <QtEndian>
+#include <atomic>
+#include <clocale>
+#include <csignal>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <netinet/in.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+constexpr int kUnknownKey = 0x1FFFFFF;
+constexpr int kPatience = 30000;
+
+QByteArray request(quint32 command, qint32 key = 0)
+{
+    QByteArray bytes(12, '\0');
+    qToLittleEndian(command, bytes.data());
+    qToLittleEndian(key, bytes.data() + 8);
+    return bytes;
+}
+
+quint32 word(const QByteArray &bytes, int offset)
+{
+    return qFromLittleEndian<quint32>(bytes.constData() + offset);
+}
+
+/// A PC tool: one socket, and what came to it.
+class Peer
+{
+public:
+    Peer() { m_socket.bind(QHostAddress(QHostAddress::LocalHost), 0); }
+
+    void send(const QByteArray &bytes)
+    {
+        m_socket.writeDatagram(bytes, QHostAddress(QHostAddress::LocalHost), IRemote::port());
+    }
+    const QList<QByteArray> &received()
+    {
+        while (m_socket.hasPendingDatagrams()) {
+            QByteArray bytes(int(m_socket.pendingDatagramSize()), '\0');
+            m_socket.readDatagram(bytes.data(), bytes.size());
+            m_received << bytes;
+        }
+        return m_received;
+    }
+    /// Waits without the event loop: the remote control's thread answers by itself.
+    QByteArray answerWithoutLoop()
+    {
+        if (received().isEmpty() && m_socket.waitForReadyRead(kPatience))
+            received();
+        return m_received.isEmpty() ? QByteArray() : m_received.takeFirst();
+    }
+    /// True when all datagrams sent before have been read: the answer to a keep-alive has come.
+    bool isCaughtUp()
+    {
+        send(request(3));
+        for (;;) {
+            const QByteArray answer = answerWithoutLoop();
+            if (answer.isEmpty())
+                return false;
+            if (answer.size() == 32 && word(answer, 0) == 3)
+                return true;
+        }
+    }
+    void forget()
+    {
+        received();
+        m_received.clear();
+    }
+    /// The joined datagrams once the length that the stream tells has come; else empty.
+    QByteArray wholePicture()
+    {
+        QByteArray stream;
+        for (const QByteArray &bytes : received())
+            stream += bytes;
+        if (stream.size() < 8 || stream.size() < int(word(stream, 4)) + 8)
+            return {};
+        return stream.left(int(word(stream, 4)) + 8);
+    }
+
+private:
+    QUdpSocket m_socket;
+    QList<QByteArray> m_received;
+};
+
+/// A page: takes the focus, notes the keys, and changes its colour with each press.
+class Page : public QWidget
+{
+public:
+    explicit Page(QWidget *parent = nullptr) : QWidget(parent) { setFocusPolicy(Qt::StrongFocus); }
+    struct Seen
+    {
+        QEvent::Type type;
+        int key;
+        Qt::KeyboardModifiers modifiers;
+        QString text;
+        bool isAutoRepeat;
+        int count;
+    };
+    QList<Seen> seen;
+    QWidget *nextFocus = nullptr;
+
+    int presses() const
+    {
+        int count = 0;
+        for (const Seen &event : seen)
+            count += event.type == QEvent::KeyPress;
+        return count;
+    }
+
+protected:
+    void note(const QKeyEvent *event)
+    {
+        seen.append(
+            { event->type(), event->key(), event->modifiers(), event->text(), event->isAutoRepeat(), event->count() });
+    }
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        note(event);
+        update();
+        if (nextFocus)
+            nextFocus->setFocus();
+    }
+    void keyReleaseEvent(QKeyEvent *event) override { note(event); }
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter(this).fillRect(rect(), presses() ? QColor(0, 200, 0) : QColor(0, 0, 90));
+    }
+};
+
+/// Bytes without a pattern, the same in every run.
+QByteArray noise(int size, quint32 seed)
+{
+    QByteArray bytes(size, '\0');
+    for (char &byte : bytes) {
+        seed = seed * 1664525 + 1013904223;
+        byte = char(seed >> 24);
+    }
+    return bytes;
+}
+
+int openDescriptors()
+{
+    return int(QDir(QStringLiteral("/proc/self/fd")).count());
+}
+
+} // namespace
+
+class TstIRemote : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void identifyIsAnsweredWithTheNameIn32Bytes();
+    void keepAliveIsAnsweredWithItsCommand();
+    void respondScreenWithoutPictureAnswersCommand2();
+    void commandsTwoAndFourSendTheScreen_data();
+    void commandsTwoAndFourSendTheScreen();
+    void pictureIsCutIntoDatagramsOf1024Bytes();
+    void pictureOfExactlyTwoDatagramsHasNoThird();
+    void emptyPictureStillTellsItsLength();
+    void keyIsPressedAndReleasedAsTheFrontPanelSendsIt_data();
+    void keyIsPressedAndReleasedAsTheFrontPanelSendsIt();
+    void codesWithoutAKeyPostTheUnknownKey_data();
+    void codesWithoutAKeyPostTheUnknownKey();
+    void shortRequestUsesTheKeyCodeOfTheOneBefore();
+    void emptyRequestRepeatsTheOneBefore();
+    void bytesBehindThe128thAreNotRead();
+    void largerCommandsAreIgnored_data();
+    void largerCommandsAreIgnored();
+    void requestsOfAnyLengthLeaveItAnswering();
+    void hostileBytesLeaveItAnswering();
+    void newPeerGetsTheRestOfAPicture();
+    void oneOfManyPictureRequestsIsPending();
+    void requestWhileAPictureIsSentGetsAWholeOneAfterwards();
+    void pictureBehindAKeyShowsWhatTheKeyDid();
+    void secondKeyGoesToThePageThatTheFirstOpened();
+    void keysBeyondTheBoundOfOneRoundAreDropped();
+    void floodOfKeysAndPicturesLeavesTheTimersRunning();
+    void keyWithoutAnyWindowIsDropped();
+    void onlyItsThreadBlocksSignals12And14();
+    void socketIsClosedWithTheObject();
+    void takenPortEndsTheProcess();
+    void missingSocketEndsTheProcess();
+    void failedSendIsPrintedAndStopsThePicture();
+    void errorStormSpinsNoCore_data();
+    void errorStormSpinsNoCore();
+
+private:
+    QWidget *m_window = nullptr;
+    Page *m_page = nullptr;
+    Page *m_otherPage = nullptr;
+    IRemote *m_remote = nullptr;
+    Peer *m_peer = nullptr;
+};
+
+void TstIRemote::initTestCase()
+{
+    ScreenShot::initScreenShot();
+}
+
+void TstIRemote::init()
+{
+    m_window = new QWidget;
+    m_window->resize(640, 480);
+    auto *layout = new QVBoxLayout(m_window);
+    m_page = new Page;
+    m_otherPage = new Page;
+    layout->addWidget(m_page);
+    layout->addWidget(m_otherPage);
+    m_window->show();
+    m_page->setFocus();
+    QApplication::setActiveWindow(m_window);
+    QTRY_COMPARE(QGuiApplication::focusObject(), static_cast<QObject *>(m_page));
+    m_remote = new IRemote(nullptr);
+    QTRY_VERIFY(IRemote::port() != 0);
+    m_peer = new Peer;
+}
+
+void TstIRemote::cleanup()
+{
+    delete m_peer;
+    delete m_remote;
+    delete m_window;
+}
+
+void TstIRemote::identifyIsAnsweredWithTheNameIn32Bytes()
+{
+    m_peer->send(request(0));
+    const QByteArray answer = m_peer->answerWithoutLoop();
+    QCOMPARE(answer.size(), 32);
+    QCOMPARE(word(answer, 0), 0u);
+    QCOMPARE(word(answer, 4), 6u);
+    QCOMPARE(answer.mid(8, 7), QByteArray("QUVERA\0", 7));
+}
+
+void TstIRemote::keepAliveIsAnsweredWithItsCommand()
+{
+    m_peer->send(request(3));
+    const QByteArray answer = m_peer->answerWithoutLoop();
+    QCOMPARE(answer.size(), 32);
+    QCOMPARE(word(answer, 0), 3u);
+    QCOMPARE(word(answer, 4), 6u);
+    QCOMPARE(answer.mid(8, 7), QByteArray("QUVERA\0", 7));
+}
+
+void TstIRemote::respondScreenWithoutPictureAnswersCommand2()
+{
+    QVERIFY(m_peer->isCaughtUp());
+    m_remote->respondScreen();
+    const QByteArray answer = m_peer->answerWithoutLoop();
+    QCOMPARE(answer.size(), 32);
+    QCOMPARE(word(answer, 0), 2u);
+}
+
+void TstIRemote::commandsTwoAndFourSendTheScreen_data()
+{
+    QTest::addColumn<quint32>("command");
+    QTest::newRow("2") << 2u;
+    QTest::newRow("4") << 4u;
+}
+
+void TstIRemote::commandsTwoAndFourSendTheScreen()
+{
+    QFETCH(quint32, command);
+    m_peer->send(request(command));
+    QTRY_VERIFY_WITH_TIMEOUT(!m_peer->wholePicture().isEmpty(), kPatience);
+    const QByteArray stream = m_peer->wholePicture();
+    QCOMPARE(word(stream, 0), 4u);
+    QCOMPARE(int(word(stream, 4)), stream.size() - 8);
+    const QImage image = QImage::fromData(stream.mid(8), "PNG");
+    QVERIFY(!image.isNull());
+    const QPoint middle = m_page->mapTo(m_window, m_page->rect().center());
+    QCOMPARE(image.pixelColor(middle), QColor(0, 0, 90));
+}
+
+void TstIRemote::pictureIsCutIntoDatagramsOf1024Bytes()
+{
+    QVERIFY(m_peer->isCaughtUp());
+    const QByteArray png = noise(2500, 1); // with its head 2508 bytes: 1024, 1024, 460
+    m_remote->respondImage(png);
+    QTRY_COMPARE_WITH_TIMEOUT(m_peer->received().size(), 3, kPatience);
+    QCOMPARE(m_peer->received().at(0).size(), 1024);
+    QCOMPARE(m_peer->received().at(1).size(), 1024);
+    QCOMPARE(m_peer->received().at(2).size(), 460);
+    QCOMPARE(m_peer->wholePicture().mid(8), png);
+}
+
+void TstIRemote::pictureOfExactlyTwoDatagramsHasNoThird()
+{
+    QVERIFY(m_peer->isCaughtUp());
+    m_remote->respondImage(noise(2040, 2));
+    QVERIFY(m_peer->isCaughtUp()); // its answer stands behind the picture
+    m_peer->forget();
+    m_remote->respondImage(noise(2040, 2));
+    m_remote->respondMesg(0);
+    QTRY_COMPARE_WITH_TIMEOUT(m_peer->received().size(), 3, kPatience);
+    QCOMPARE(m_peer->received().at(0).size(), 1024);
+    QCOMPARE(m_peer->received().at(1).size(), 1024);
+    QCOMPARE(m_peer->received().at(2).size(), 32);
+}
+
+void TstIRemote::emptyPictureStillTellsItsLength()
+{
+    QVERIFY(m_peer->isCaughtUp());
+    m_remote->respondScreen(QPixmap());
+    QTRY_COMPARE_WITH_TIMEOUT(m_peer->received().size(), 1, kPatience);
+    QCOMPARE(m_peer->received().first(), QByteArray("\4\0\0\0\0\0\0\0", 8));
+}
+
+void TstIRemote::keyIsPressedAndReleasedAsTheFrontPanelSendsIt_data()
+{
+    QTest::addColumn<int>("code");
+    QTest::addColumn<int>("letter");
+    const struct
+    {
+        int code;
+        char letter;
+    } keys[] = { { 13, 'K' }, { 16, 'O' }, { 17, 'Q' }, { 18, 'D' }, { 19, 'T' }, { 40, 'W' },
+                 { 41, 'Y' }, { 42, 'P' }, { 43, 'F' }, { 44, 'L' }, { 45, 'E' }, { 46, 'A' },
+                 { 47, 'U' }, { 48, 'I' }, { 49, 'S' }, { 50, 'R' }, { 51, 'X' } };
+    for (const auto &key : keys)
+        QTest::addRow("%d: %c", key.code, key.letter) << key.code << int(key.letter);
+}
+
+void TstIRemote::keyIsPressedAndReleasedAsTheFrontPanelSendsIt()
+{
+    QFETCH(int, code);
+    QFETCH(int, letter);
+    m_peer->send(request(1, code));
+    QTRY_COMPARE_WITH_TIMEOUT(m_page->seen.size(), 2, kPatience);
+    QCOMPARE(m_page->seen.at(0).type, QEvent::KeyPress);
+    QCOMPARE(m_page->seen.at(1).type, QEvent::KeyRelease);
+    for (const Page::Seen &event : m_page->seen) {
+        QCOMPARE(event.key, letter);
+        QCOMPARE(event.modifiers, Qt::KeyboardModifiers(Qt::NoModifier));
+        QCOMPARE(event.text, QString());
+        QCOMPARE(event.isAutoRepeat, false);
+        QCOMPARE(event.count, 1);
+    }
+}
+
+void TstIRemote::codesWithoutAKeyPostTheUnknownKey_data()
+{
+    QTest::addColumn<int>("code");
+    const int codes[] = { 14, 15, 20, 39, 12, 52, 0, -1, 65, 1000, 0x7fffffff, int(0x80000000) };
+    for (int code : codes)
+        QTest::addRow("%d", code) << code;
+}
+
+void TstIRemote::codesWithoutAKeyPostTheUnknownKey()
+{
+    QFETCH(int, code);
+    m_peer->send(request(1, code));
+    QTRY_COMPARE_WITH_TIMEOUT(m_page->seen.size(), 2, kPatience);
+    QCOMPARE(m_page->seen.at(0).key, kUnknownKey);
+    QCOMPARE(m_page->seen.at(1).key, kUnknownKey);
+}
+
+void TstIRemote::shortRequestUsesTheKeyCodeOfTheOneBefore()
+{
+    m_peer->send(request(3, 43));
+    m_peer->send(request(1).left(8)); // a key press without its code
+    QTRY_COMPARE_WITH_TIMEOUT(m_page->seen.size(), 2, kPatience);
+    QCOMPARE(m_page->seen.at(0).key, int('F'));
+    // Two bytes of the code: 44 over the 43 of before, the upper two stay.
+    m_peer->send(request(1, 44).left(10));
+    QTRY_COMPARE_WITH_TIMEOUT(m_page->seen.size(), 4, kPatience);
+    QCOMPARE(m_page->seen.at(2).key, int('L'));
+}
+
+void TstIRemote::emptyRequestRepeatsTheOneBefore()
+{
+    m_peer->send(request(3));
+    QCOMPARE(word(m_peer->answerWithoutLoop(), 0), 3u);
+    m_peer->send(QByteArray());
+    QCOMPARE(word(m_peer->answerWithoutLoop(), 0), 3u);
+}
+
+void TstIRemote::bytesBehindThe128thAreNotRead()
+{
+    m_peer->send(request(0) + QByteArray(60000, '\x7f'));
+    QCOMPARE(word(m_peer->answerWithoutLoop(), 0), 0u);
+    m_peer->send(request(3) + QByteArray(116, '\x7f'));
+    QCOMPARE(word(m_peer->answerWithoutLoop(), 0), 3u);
+}
+
+void TstIRemote::largerCommandsAreIgnored_data()
+{
+    QTest::addColumn<quint32>("command");
+    for (quint32 command : { 5u, 6u, 255u, 256u, 0x01000000u, 0x80000000u, 0xffffffffu })
+        QTest::addRow("%u", command) << command;
+}
+
+void TstIRemote::largerCommandsAreIgnored()
+{
+    QFETCH(quint32, command);
+    m_peer->send(request(command, 43));
+    // The keep-alive's answer is the first datagram that comes back.
+    m_peer->send(request(3));
+    QCOMPARE(word(m_peer->answerWithoutLoop(), 0), 3u);
+    QCoreApplication::processEvents();
+    QVERIFY(m_page->seen.isEmpty());
+    QVERIFY(m_peer->received().isEmpty());
+}
+
+void TstIRemote::requestsOfAnyLengthLeaveItAnswering()
+{
+    for (quint32 command = 0; command <= 5; ++command) {
+        QByteArray bytes = request(command, 14);
+        for (int length = 0; length <= 2000; length += length < 140 ? 1 : 97) {
+            m_peer->send(length <= 12 ? bytes.left(length) : bytes + noise(length - 12, quint32(length)));
+            QVERIFY(m_peer->isCaughtUp());
+            QCoreApplication::processEvents();
+        }
+        m_peer->send(bytes + noise(65507 - 12, command));
+        QVERIFY(m_peer->isCaughtUp());
+    }
+    m_peer->forget();
+}
+
+void TstIRemote::hostileBytesLeaveItAnswering()
+{
+    for (quint32 seed = 0; seed < 3000; ++seed) {
+        m_peer->send(noise(int(seed * 7919 % 131), seed));
+        if (seed % 50 == 0) {
+            QVERIFY(m_peer->isCaughtUp());
+            QCoreApplication::processEvents();
+        }
+    }
+    QVERIFY(m_peer->isCaughtUp());
+}
+
+void TstIRemote::newPeerGetsTheRestOfAPicture()
+{
+    QVERIFY(m_peer->isCaughtUp());
+    std::atomic<bool> redirected { false };
+    // Comes in while the picture's 200 datagrams are on their way; what it gets of them is longer than an answer.
+    std::thread newPeer([&] {
+        QUdpSocket socket;
+        socket.bind(QHostAddress(QHostAddress::LocalHost), 0);
+        socket.writeDatagram(request(3), QHostAddress(QHostAddress::LocalHost), IRemote::port());
+        while (!redirected && socket.waitForReadyRead(kPatience)) {
+            while (socket.hasPendingDatagrams()) {
+                redirected = redirected || socket.pendingDatagramSize() == 1024;
+                socket.readDatagram(nullptr, 0);
+            }
+        }
+    });
+    for (int pictures = 0; pictures < 1000 && !redirected; ++pictures)
+        m_remote->respondImage(noise(200 * 1024, 3));
+    newPeer.join();
+    QVERIFY(redirected);
+}
+
+void TstIRemote::oneOfManyPictureRequestsIsPending()
+{
+    std::atomic<int> wanted { 0 };
+    connect(
+        m_remote, &IRemote::saveScreen, this, [&] { ++wanted; }, Qt::DirectConnection);
+    for (int i = 0; i < 300; ++i) {
+        m_peer->send(request(i % 2 ? 2 : 4));
+        if (i % 50 == 49)
+            QVERIFY(m_peer->isCaughtUp()); // the GUI thread does not run meanwhile
+    }
+    QCOMPARE(wanted.load(), 1);
+    QTRY_VERIFY_WITH_TIMEOUT(!m_peer->wholePicture().isEmpty(), kPatience);
+    // Done with it, it takes the next request.
+    m_peer->forget();
+    QTRY_VERIFY_WITH_TIMEOUT((m_peer->send(request(2)), QTest::qWait(1), wanted.load() > 1), kPatience);
+}
+
+void TstIRemote::requestWhileAPictureIsSentGetsAWholeOneAfterwards()
+{
+    Peer other;
+    QObject context;
+    std::atomic<int> wanted { 0 };
+    connect(
+        m_remote, &IRemote::saveScreen, &context, [&] { ++wanted; }, Qt::DirectConnection);
+    // Runs behind the remote control's own slot: its picture has left, but the loop has not come round yet.
+    connect(ScreenShot::iScreenShot(), &ScreenShot::screenPixmap, &context, [&] {
+        if (wanted == 1) {
+            other.send(request(2));
+            other.isCaughtUp();
+        }
+    });
+    m_peer->send(request(2));
+    QTRY_VERIFY_WITH_TIMEOUT(!other.wholePicture().isEmpty(), kPatience);
+    QVERIFY(!QImage::fromData(other.wholePicture().mid(8), "PNG").isNull());
+    QVERIFY(!m_peer->wholePicture().isEmpty());
+    QCOMPARE(wanted.load(), 2);
+}
+
+void TstIRemote::pictureBehindAKeyShowsWhatTheKeyDid()
+{
+    m_peer->send(request(1, 43));
+    m_peer->send(request(2));
+    QTRY_VERIFY_WITH_TIMEOUT(!m_peer->wholePicture().isEmpty(), kPatience);
+    const QImage image = QImage::fromData(m_peer->wholePicture().mid(8), "PNG");
+    QCOMPARE(image.pixelColor(m_page->mapTo(m_window, m_page->rect().center())), QColor(0, 200, 0));
+}
+
+void TstIRemote::secondKeyGoesToThePageThatTheFirstOpened()
+{
+    m_page->nextFocus = m_otherPage;
+    m_peer->send(request(1, 46));
+    m_peer->send(request(1, 13));
+    QVERIFY(m_peer->isCaughtUp());
+    QTRY_COMPARE_WITH_TIMEOUT(m_otherPage->presses(), 1, kPatience);
+    QCOMPARE(m_page->presses(), 1);
+    QCOMPARE(m_page->seen.first().key, int('A'));
+    QCOMPARE(m_otherPage->seen.first().key, int('K'));
+}
+
+void TstIRemote::keysBeyondTheBoundOfOneRoundAreDropped()
+{
+    for (int i = 0; i < 500; ++i) {
+        m_peer->send(request(1, 43));
+        if (i % 50 == 0)
+            QVERIFY(m_peer->isCaughtUp()); // so that the socket's own buffer loses none
+    }
+    QVERIFY(m_peer->isCaughtUp());
+    QTRY_COMPARE_WITH_TIMEOUT(m_page->seen.size(), 2 * 32, kPatience);
+    // The loop has come round: keys are taken again.
+    QTRY_VERIFY_WITH_TIMEOUT((m_peer->send(request(1, 44)), QTest::qWait(1), m_page->seen.last().key == 'L'),
+                             kPatience);
+}
+
+void TstIRemote::floodOfKeysAndPicturesLeavesTheTimersRunning()
+{
+    std::atomic<bool> ends { false };
+    std::thread flood([&] {
+        QUdpSocket socket;
+        const QByteArray key = request(1, 43), screen = request(2);
+        while (!ends) {
+            socket.writeDatagram(key, QHostAddress(QHostAddress::LocalHost), IRemote::port());
+            socket.writeDatagram(screen, QHostAddress(QHostAddress::LocalHost), IRemote::port());
+        }
+    });
+    int ticks = 0;
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, [&] { ++ticks; });
+    timer.start(1);
+    const bool ran = QTest::qWaitFor([&] { return ticks > 50 && m_page->presses() > 50; }, kPatience);
+    ends = true;
+    flood.join();
+    QVERIFY(ran);
+    m_peer->forget();
+    QVERIFY(m_peer->isCaughtUp());
+}
+
+void TstIRemote::keyWithoutAnyWindowIsDropped()
+{
+    delete m_window;
+    m_window = nullptr;
+    IRemote::postEvent(QEvent::KeyPress, 43);
+    m_peer->send(request(1, 43));
+    QVERIFY(m_peer->isCaughtUp());
+    QCoreApplication::processEvents();
+    QVERIFY(m_peer->isCaughtUp());
+}
+
+void TstIRemote::onlyItsThreadBlocksSignals12And14()
+{
+    constexpr quint64 both = 1ull << (12 - 1) | 1ull << (14 - 1);
+    const auto threadsThatBlock = [] {
+        int count = 0;
+        const QStringList threads
+            = QDir(QStringLiteral("/proc/self/task")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        for (const QString &thread : threads) {
+            QFile file(QStringLiteral("/proc/self/task/%1/status").arg(thread));
+            if (!file.open(QIODevice::ReadOnly))
+                continue;
+            const QByteArray status = file.readAll();
+            const int at = status.indexOf("SigBlk:");
+            const quint64 mask = status.mid(at + 7, 20).simplified().split(' ').first().toULongLong(nullptr, 16);
+            count += (mask & both) == both;
+        }
+        return count;
+    };
+    const int withRemote = threadsThatBlock();
+    delete m_remote;
+    QCOMPARE(threadsThatBlock(), withRemote - 1); // the toolkit may have others
+    m_remote = new IRemote(nullptr);
+    sigset_t own;
+    pthread_sigmask(SIG_BLOCK, nullptr, &own);
+    QCOMPARE(sigismember(&own, 12), 0);
+    QCOMPARE(sigismember(&own, 14), 0);
+}
+
+void TstIRemote::socketIsClosedWithTheObject()
+{
+    delete m_remote;
+    const int before = openDescriptors();
+    for (int i = 0; i < 20; ++i) {
+        IRemote remote(nullptr);
+        QTRY_VERIFY(IRemote::port() != 0);
+    }
+    QCOMPARE(openDescriptors(), before);
+    QCOMPARE(int(IRemote::port()), 0);
+    IRemote::requestScreen(); // nobody is there: nothing happens
+    m_remote = new IRemote(nullptr);
+}
+
+// The cases below end or break a process, so they run in one of their own: this executable with a word.
+
+void TstIRemote::takenPortEndsTheProcess()
+{
+    QUdpSocket taken;
+    QVERIFY(taken.bind(QHostAddress(QHostAddress::AnyIPv4), 0));
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QUVERA_REMOTE_PORT"), QString::number(taken.localPort()));
+    child.setProcessEnvironment(environment);
+    child.start(QCoreApplication::applicationFilePath(), { QStringLiteral("child-run") });
+    QVERIFY(child.waitForFinished(kPatience));
+    QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(child.exitCode(), 255);
+    QVERIFY(child.readAllStandardOutput().contains("bind() 函数使用失败了.\r"));
+}
+
+void TstIRemote::missingSocketEndsTheProcess()
+{
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(), { QStringLiteral("child-no-descriptors") });
+    QVERIFY(child.waitForFinished(kPatience));
+    QCOMPARE(child.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(child.exitCode(), 255);
+    QVERIFY(child.readAllStandardOutput().contains("创建套接字失败了.\r"));
+}
+
+void TstIRemote::failedSendIsPrintedAndStopsThePicture()
+{
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(), { QStringLiteral("child-send-to-nobody") });
+    QVERIFY(child.waitForFinished(kPatience));
+    QCOMPARE(child.exitCode(), 0);
+    // Once: the first datagram fails, the two behind it are not tried.
+    QCOMPARE(child.readAllStandardOutput().count("sendto fail errno Invalid argument\r\n"), 1);
+}
+
+void TstIRemote::errorStormSpinsNoCore_data()
+{
+    QTest::addColumn<QString>("word");
+    QTest::addColumn<QByteArray>("text");
+    QTest::newRow("closed socket") << QStringLiteral("child-closed-socket") << QByteArray("err select");
+    QTest::newRow("socket that cannot be read")
+        << QStringLiteral("child-unreadable-socket") << QByteArray("recvfrom()函数使用失败了.");
+}
+
+void TstIRemote::errorStormSpinsNoCore()
+{
+    QFETCH(QString, word);
+    QFETCH(QByteArray, text);
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(), { word });
+    QByteArray output;
+    while (output.count(text) < 8)
+        QVERIFY(child.waitForReadyRead(kPatience) && (output += child.readAllStandardOutput(), true));
+    // Pauses of 1, 2, 4 ... ms stood between the eight; without them there would be thousands by now.
+    QVERIFY2(output.count(text) < 100, QByteArray::number(output.count(text)));
+    child.kill();
+    child.waitForFinished(kPatience);
+}
+
+namespace {
+
+// The descriptor of the remote control's socket: the one that is bound to its port.
+int remoteDescriptor()
+{
+    for (int descriptor = 3; descriptor < 1000; ++descriptor) {
+        sockaddr_in address = {};
+        socklen_t size = sizeof address;
+        if (getsockname(descriptor, reinterpret_cast<sockaddr *>(&address), &size) == 0 && address.sin_family == AF_INET
+            && ntohs(address.sin_port) == IRemote::port())
+            return descriptor;
+    }
+    return -1;
+}
+
+void waitForPort()
+{
+    while (IRemote::port() == 0)
+        usleep(1000);
+}
+
+int runChild(const QByteArray &word)
+{
+    ScreenShot::initScreenShot();
+    if (word == "child-no-descriptors") {
+        const rlimit limit = { 0, 0 };
+        setrlimit(RLIMIT_NOFILE, &limit);
+    }
+    IRemote remote(nullptr);
+    if (word == "child-send-to-nobody") {
+        waitForPort();
+        remote.respondImage(QByteArray(3000, 'x'));
+        return 0;
+    }
+    if (word == "child-closed-socket" || word == "child-unreadable-socket") {
+        waitForPort();
+        const int descriptor = remoteDescriptor();
+        const int null = open("/dev/null", O_RDONLY);
+        if (word == "child-closed-socket")
+            close(descriptor);
+        else
+            dup2(null, descriptor);
+        // Wakes the thread: a poll that already waits holds on to the old socket.
+        QUdpSocket socket;
+        socket.writeDatagram(request(0), QHostAddress(QHostAddress::LocalHost), IRemote::port());
+    }
+    return QCoreApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    std::setlocale(LC_NUMERIC, "C");
+    if (argc > 1 && QByteArray(argv[1]).startsWith("child-"))
+        return runChild(argv[1]);
+    TstIRemote test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_iremote.moc"
