@@ -1,0 +1,113 @@
+#include "widgets/softkeydialog.h"
+
+#include "widgets/keymap.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+
+constexpr int kScreenBottom = 479; // last pixel row of the instrument's screen
+constexpr int kKeyPixels = 18;
+constexpr int kSmallestPixels = 10;
+
+// One sheet a dialog, set once.
+static const char *const kStyle = "QLabel { background-color: transparent; color: rgb(255, 255, 255); }"
+                                  "QLabel#btn_f1, QLabel#btn_f2, QLabel#btn_f3, QLabel#btn_f4, QLabel#btn_f5 {"
+                                  " background-image: url(:/button); color: rgb(0, 0, 0); }"
+                                  "QRadioButton { color: rgb(255, 255, 255); spacing: 8px; }"
+                                  "QRadioButton::indicator { width: 24px; height: 24px; }"
+                                  "QRadioButton::indicator:unchecked { image: url(:/radio_unchecked); }"
+                                  "QRadioButton::indicator:checked { image: url(:/radio_checked); }";
+
+SoftKeyDialog::SoftKeyDialog(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
+{
+    setAttribute(Qt::WA_DeleteOnClose, false);
+    setModal(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setStyleSheet(QString::fromLatin1(kStyle));
+    QFont plain = font();
+    plain.setPixelSize(20);
+    setFont(plain);
+}
+
+void SoftKeyDialog::finishForm()
+{
+    setFixedSize(size());
+    m_background = QPixmap(QStringLiteral(":/message_bg")).scaled(size());
+    for (int number = 1; number <= 5; ++number) {
+        if (const QLabel *key = softKey(number))
+            setKeyText(number, key->text());
+    }
+}
+
+QLabel *SoftKeyDialog::softKey(int number) const
+{
+    return findChild<QLabel *>(QStringLiteral("btn_f%1").arg(number));
+}
+
+void SoftKeyDialog::setKeyText(int number, const QString &text)
+{
+    QLabel *key = softKey(number);
+    if (!key)
+        return;
+    fitText(key, text, kKeyPixels);
+    key->setVisible(!text.isEmpty());
+}
+
+void SoftKeyDialog::fitText(QLabel *label, const QString &text, int largestPixels)
+{
+    const int flags = int(label->alignment()) | (label->wordWrap() ? Qt::TextWordWrap : 0);
+    QFont font = label->font();
+    for (int pixels = largestPixels; pixels >= kSmallestPixels; --pixels) {
+        font.setPixelSize(pixels);
+        const QSize needed = QFontMetrics(font).boundingRect(QRect(0, 0, label->width(), 2000), flags, text).size();
+        if (needed.width() <= label->width() && needed.height() <= label->height())
+            break;
+    }
+    label->setFont(font);
+    label->setText(text);
+}
+
+QPoint SoftKeyDialog::instrumentOrigin()
+{
+    const auto *active = QApplication::activeWindow();
+    if (const auto *dialog = qobject_cast<const SoftKeyDialog *>(active))
+        return dialog->m_origin;
+    if (active)
+        return active->mapToGlobal(QPoint(0, 0));
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window->windowType() != Qt::ToolTip && !qobject_cast<const SoftKeyDialog *>(window))
+            return window->mapToGlobal(QPoint(0, 0));
+    }
+    return {};
+}
+
+void SoftKeyDialog::setVisible(bool visible)
+{
+    if (visible && !isVisible()) {
+        m_origin = instrumentOrigin();
+        move(m_origin + QPoint(0, kScreenBottom - height()));
+    }
+    QDialog::setVisible(visible);
+}
+
+void SoftKeyDialog::keyPressEvent(QKeyEvent *event)
+{
+    if (!keyMap::recoverBackLight())
+        pressKey(keyMap::keyPressMap(event->key()));
+    event->accept();
+}
+
+void SoftKeyDialog::keyReleaseEvent(QKeyEvent *event)
+{
+    keyMap::keyReleaseMap(event->key());
+    event->accept();
+}
+
+void SoftKeyDialog::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), QColor(0x0a, 0x13, 0x22));
+    painter.drawPixmap(0, 0, m_background);
+}
