@@ -24,7 +24,8 @@ bool readLines(QIODevice::OpenMode mode, QStringList *lines)
     QFile file(path);
     if (!file.open(mode | QIODevice::Text))
         return false;
-    const QString text = QString::fromLatin1(file.read(kLargestIndex));
+    const QByteArray bytes = file.read(kLargestIndex);
+    const QString text = QString::fromLatin1(bytes.constData(), bytes.size()); // zero bytes end nothing
     for (const QString &line : text.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
         *lines << line;
     return true;
