@@ -10,7 +10,6 @@ __scope_data *g_scope_data = nullptr;
 __scope_data_ui *g_scope_data_ui = nullptr;
 __flicker_data *g_flicker_data = nullptr;
 __trans_data *g_trans_data = nullptr;
-QList<__trans_data *> g_trans_events;
 __rms_trend_data *g_inrush_data = nullptr;
 __rms_trend_data *g_inrush_trend_data = nullptr;
 __rms_trend_data *g_dipswell_trend = nullptr;
