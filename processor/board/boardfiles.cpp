@@ -3,9 +3,9 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <cmath>
+#include <cstdio>
 
 namespace board {
 
@@ -88,8 +88,12 @@ bool BoardFiles::prepare(QString *error)
 
 bool BoardFiles::write(const QString &boardPath, const QString &text) const
 {
-    QSaveFile file(path(boardPath));
-    return file.open(QIODevice::WriteOnly) && file.write(text.toLatin1()) == text.size() && file.commit();
+    const QString target = path(boardPath);
+    QFile file(target + QLatin1String(".new"));
+    if (!file.open(QIODevice::WriteOnly) || file.write(text.toLatin1()) != text.size() || !file.flush())
+        return false;
+    file.close();
+    return std::rename(QFile::encodeName(file.fileName()).constData(), QFile::encodeName(target).constData()) == 0;
 }
 
 std::optional<int> BoardFiles::line(int gpio) const

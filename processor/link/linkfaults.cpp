@@ -1,5 +1,7 @@
 #include "link/linkfaults.h"
 
+#include <QtEndian>
+
 #include <algorithm>
 #include <numeric>
 
@@ -76,8 +78,8 @@ bool LinkFaults::strikes(Fault fault, int package, int *tornBytes)
 QByteArray LinkFaults::noise()
 {
     QByteArray bytes(kPackageBytes, Qt::Uninitialized);
-    for (char &byte : bytes)
-        byte = char(m_random() & 0xFF);
+    for (int at = 0; at < kPackageBytes; at += int(sizeof(quint64)))
+        qToLittleEndian<quint64>(m_random(), bytes.data() + at);
     return bytes;
 }
 
