@@ -126,8 +126,8 @@ void DataTypes::aggregation_vif(__datagram_aggregation *record, const float *pay
         to.current = cleaned(from[kCurrent] * k_i[c]);
         to.currentPeak = cleaned(from[kCurrentPeak] * k_i[c]);
         to.currentOffset = cleaned(from[kCurrentOffset] * k_i[c]);
-        to.voltageCrest = div_sn(to.voltagePeak, to.voltage);
-        to.currentCrest = div_sn(to.currentPeak, to.current);
+        to.voltageCrest = cleaned(div_sn(to.voltagePeak, to.voltage));
+        to.currentCrest = cleaned(div_sn(to.currentPeak, to.current));
     }
 }
 
@@ -173,26 +173,16 @@ void DataTypes::aggregation_power(__datagram_aggregation *record, const float *p
 
     const PowerRule rule = powerRule(m_settingConfig_g.channels());
     const int rows = measuredRows(rule);
-    switch (rule) {
-    case PowerRule::ThreeRows:
-        for (int c = 0; c < rows; ++c)
-            row[c].apparent = cleaned(record->channel[c].voltage * record->channel[c].current);
-        row[kTotal].active = cleaned(row[0].active + row[1].active + row[2].active);
-        row[kTotal].apparent = jointApparent(*record, rows, 1.0);
-        break;
-    case PowerRule::LineRows:
-        for (int c = 0; c < rows; ++c)
-            row[c].apparent = 0;
-        row[kTotal].active = cleaned(row[0].active + row[2].active); // two wattmeters
-        row[kTotal].apparent = jointApparent(*record, rows, 3.0);
-        break;
-    case PowerRule::TwoRows:
-        row[kTotal].active = cleaned(row[0].active + row[1].active);
-        row[kTotal].apparent = jointApparent(*record, rows, 1.0);
-        break;
-    case PowerRule::OneRow:
-        break; // the total is the row
+    for (int c = 0; c < rows; ++c) {
+        // Between lines a row is no load by itself.
+        row[c].apparent
+            = rule == PowerRule::LineRows ? 0.0f : cleaned(record->channel[c].voltage * record->channel[c].current);
     }
+    if (rule == PowerRule::LineRows)
+        row[kTotal].active = cleaned(row[0].active + row[2].active); // two wattmeters
+    else if (rule != PowerRule::OneRow)
+        row[kTotal].active = cleaned(row[0].active + row[1].active + (rows == 3 ? row[2].active : 0.0f));
+    row[kTotal].apparent = jointApparent(*record, rows, rule == PowerRule::LineRows ? 3.0 : 1.0);
     for (int c = rows; c < kTotal; ++c)
         row[c] = {};
 
@@ -202,9 +192,10 @@ void DataTypes::aggregation_power(__datagram_aggregation *record, const float *p
         const SpectrumLine &i = record->spectrum[c].current[0];
         const double product = double(u.magnitude) * i.magnitude;
         const double difference = double(u.phase) - i.phase;
-        active += product * std::cos(difference);
-        reactive += product * std::sin(difference);
-        row[c].reactive = cleaned(static_cast<float>(product * std::sin(difference)));
+        const double sine = std::sin(difference), cosine = std::cos(difference);
+        active += product * cosine;
+        reactive += product * sine;
+        row[c].reactive = cleaned(static_cast<float>(product * sine));
         row[c].fundamentalFactor = static_cast<float>(std::cos(double(record->channel[c].angleDifference) * kPi / 180));
         finishFactors(row[c]);
     }

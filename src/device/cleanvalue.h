@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-/// Arithmetic that never leaves a NaN or an infinity behind, for measured values and the numbers made of them.
+/// What keeps numbers that are none out of measured values and of the quotients made of them.
 namespace SafeMath {
 
 constexpr float kSmallest = 0.0001f; // magnitudes below this are noise
