@@ -26,8 +26,10 @@ void PackageSocket::close()
     m_path.clear();
 }
 
-void PackageSocket::hangUp()
+void PackageSocket::hangUp(Events *events)
 {
+    if (events && connected())
+        events->push_back({ Event::Kind::Disconnected, {} });
     m_client.close();
     m_queue.clear();
 }
@@ -72,7 +74,7 @@ bool PackageSocket::farEndGone() const
     return ::poll(&poll, 1, 0) > 0 && (poll.revents & (POLLRDHUP | POLLHUP | POLLERR));
 }
 
-void PackageSocket::readFrames(Served *served)
+void PackageSocket::readFrames(Events *events)
 {
     while (connected()) {
         char peek;
@@ -80,8 +82,7 @@ void PackageSocket::readFrames(Served *served)
         if (length < 0 && (errno == EAGAIN || errno == EWOULDBLOCK || errno == EINTR))
             return;
         if (length < 0 || (length == 0 && farEndGone())) {
-            hangUp();
-            served->disconnected = true;
+            hangUp(events);
             return;
         }
         QByteArray frame(int(qMin<ssize_t>(length, kMaxFrameBytes)), Qt::Uninitialized);
@@ -89,24 +90,23 @@ void PackageSocket::readFrames(Served *served)
         if (got < 0)
             return;
         frame.resize(length > kMaxFrameBytes ? 1 : int(got)); // one byte is no frame, and is counted as such
-        served->frames.push_back(frame);
+        events->push_back({ Event::Kind::Frame, frame });
     }
 }
 
-PackageSocket::Served PackageSocket::serve()
+PackageSocket::Events PackageSocket::serve()
 {
-    Served served;
-    readFrames(&served);
+    Events events;
+    readFrames(&events);
     for (Descriptor next = acceptFrom(m_listener); next.isOpen(); next = acceptFrom(m_listener)) {
-        served.disconnected |= connected();
-        hangUp();
+        hangUp(&events);
         m_client = std::move(next);
         raiseBuffers(m_client, kBufferBytes);
-        served.connected = true;
+        events.push_back({ Event::Kind::Connected, {} });
+        readFrames(&events); // it may be gone again already, with something said
     }
-    readFrames(&served);
     flush();
-    return served;
+    return events;
 }
 
 } // namespace wire

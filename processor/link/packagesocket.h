@@ -42,17 +42,18 @@ public:
     /// Descriptors to wait on, with the events wished.
     void addPolls(std::vector<pollfd> *polls) const;
 
-    /// What one call of serve() brought.
-    struct Served
+    /// What happened at the node.
+    struct Event
     {
-        std::vector<QByteArray> frames; // in order
-        bool connected = false; // a new far end, or a replaced one
-        bool disconnected = false; // the far end went (before `connected` when both)
+        enum class Kind { Connected, Disconnected, Frame };
+        Kind kind;
+        QByteArray frame; // only of a frame
     };
-    /// Accepts, reads and sends whatever is possible without waiting. A newcomer takes the place of the far end that is
-    /// there, once what that one had still sent is read: an instrument may open the node anew before its old end is
-    /// gone.
-    Served serve();
+    using Events = std::vector<Event>;
+    /// Accepts, reads and sends whatever is possible without waiting; the events in their order. A newcomer takes the
+    /// place of the far end that is there, once what that one had still sent is read: an instrument may open the node
+    /// anew before its old end is gone.
+    Events serve();
 
     quint64 sentPackages() const { return m_sent; }
     quint64 droppedDatagrams() const { return m_dropped; }
@@ -60,9 +61,9 @@ public:
 
 private:
     void flush();
-    void readFrames(Served *served);
+    void readFrames(Events *events);
     bool farEndGone() const; // tells an empty message from the end, which both read as 0 bytes
-    void hangUp();
+    void hangUp(Events *events = nullptr);
 
     Descriptor m_listener;
     Descriptor m_client;

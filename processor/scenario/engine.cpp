@@ -177,18 +177,19 @@ void Engine::wait(Pacer::Nanoseconds time)
 
 void Engine::serve()
 {
-    const wire::PackageSocket::Served served = m_node.serve();
-    if (served.disconnected) {
-        m_link.disconnected();
-        say(QStringLiteral("instrument gone"));
+    using Kind = wire::PackageSocket::Event::Kind;
+    for (const wire::PackageSocket::Event &event : m_node.serve()) {
+        const bool streamed = m_link.streaming();
+        if (event.kind == Kind::Frame)
+            m_link.takeFrame(event.frame);
+        else if (event.kind == Kind::Disconnected)
+            m_link.disconnected();
+        if (event.kind != Kind::Frame)
+            say(event.kind == Kind::Connected ? QStringLiteral("instrument connected")
+                                              : QStringLiteral("instrument gone"));
+        else if (m_link.streaming() != streamed)
+            say(m_link.streaming() ? QStringLiteral("stream on") : QStringLiteral("stream off"));
     }
-    if (served.connected)
-        say(QStringLiteral("instrument connected"));
-    const bool streamed = m_link.streaming();
-    for (const QByteArray &frame : served.frames)
-        m_link.takeFrame(frame);
-    if (m_link.streaming() != streamed)
-        say(m_link.streaming() ? QStringLiteral("stream on") : QStringLiteral("stream off"));
     m_control.serve([this](const QString &line) { return m_commands->obey(line); });
 }
 
