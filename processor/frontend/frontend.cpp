@@ -1,6 +1,7 @@
 #include "frontend/frontend.h"
 
 #include "signal/synthesiser.h"
+#include "signal/vectorcode.h"
 
 #include <algorithm>
 #include <cmath>
@@ -109,7 +110,7 @@ void FrontEnd::differentiate(const double *in, double *slope, int n, int channel
     m_last[static_cast<std::size_t>(channel)] = last;
 }
 
-void FrontEnd::convertChannel(const double *in, std::int16_t *out, int n, int channel)
+PROCESSOR_VECTOR_CODE void FrontEnd::convertChannel(const double *in, std::int16_t *out, int n, int channel)
 {
     const auto c = static_cast<std::size_t>(channel);
     const double factor = m_factor[c];

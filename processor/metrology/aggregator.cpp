@@ -2,6 +2,7 @@
 
 #include "metrology/groups.h"
 #include "signal/synthesiser.h"
+#include "signal/vectorcode.h"
 
 #include <algorithm>
 #include <cmath>
@@ -28,7 +29,7 @@ void addFrame(const SampleStore::Frame &x, double weight, WindowSums &sums)
     sums.cross += weight * static_cast<double>(x[1] * x[6]);
 }
 
-WindowSums sumWindow(const SampleStore &store, double from, double to)
+PROCESSOR_VECTOR_CODE WindowSums sumWindow(const SampleStore &store, double from, double to)
 {
     // A sample counts for the unit interval around it; the first and the last count in part.
     const double low = from + 0.5;

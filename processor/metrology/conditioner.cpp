@@ -1,6 +1,7 @@
 #include "metrology/conditioner.h"
 
 #include "signal/synthesiser.h"
+#include "signal/vectorcode.h"
 
 #include <cmath>
 
@@ -31,7 +32,8 @@ void Conditioner::reset()
     m_integral.fill(0.0);
 }
 
-void Conditioner::condition(const std::int16_t *const samples[Channels], SampleStore::Frame *out, int n)
+PROCESSOR_VECTOR_CODE void Conditioner::condition(const std::int16_t *const samples[Channels], SampleStore::Frame *out,
+                                                  int n)
 {
     for (std::size_t c = 0; c < Channels; ++c) {
         const std::int16_t *in = samples[c];

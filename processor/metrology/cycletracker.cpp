@@ -1,6 +1,7 @@
 #include "metrology/cycletracker.h"
 
 #include "signal/synthesiser.h"
+#include "signal/vectorcode.h"
 
 #include <algorithm>
 #include <cmath>
@@ -65,8 +66,8 @@ std::int64_t CycleTracker::needs() const
 
 // Amplitude and phase of `channel` at the place `at` under a Hann window `cycles` wide: |z| is the amplitude of the
 // fundamental, arg z its phase as a cosine. Eight samples are rotated at a time.
-std::complex<double> CycleTracker::phasor(const SampleStore &store, int channel, double at, double frequency,
-                                          double cycles) const
+PROCESSOR_VECTOR_CODE std::complex<double> CycleTracker::phasor(const SampleStore &store, int channel, double at,
+                                                                double frequency, double cycles) const
 {
     const double width = cycles * SampleRate / frequency;
     const auto from = std::max(static_cast<std::int64_t>(std::ceil(at - width / 2.0)), store.first());

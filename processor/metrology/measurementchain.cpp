@@ -7,6 +7,7 @@
 #include "metrology/samplestore.h"
 #include "metrology/transientdetector.h"
 #include "signal/synthesiser.h"
+#include "signal/vectorcode.h"
 
 #include <algorithm>
 #include <cmath>
@@ -200,7 +201,7 @@ void MeasurementChain::Private::flushSlot()
     slot += WaveSamples;
 }
 
-void MeasurementChain::Private::fillWave()
+PROCESSOR_VECTOR_CODE void MeasurementChain::Private::fillWave()
 {
     const SampleStore::Frame *frames = &store.frame(slot);
     for (std::size_t i = 0; i < std::size_t(WaveSamples); ++i) {

@@ -1,5 +1,7 @@
 #include "metrology/resampler.h"
 
+#include "signal/vectorcode.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstring>
@@ -8,15 +10,9 @@ namespace processor {
 
 namespace {
 
-// Four channels in a vector register (an extension of GCC and Clang); the compiler does not find these loops by itself.
-typedef float Quad __attribute__((vector_size(16)));
-
-inline Quad load(const float *from)
-{
-    Quad value;
-    std::memcpy(&value, from, sizeof(value));
-    return value;
-}
+// A frame in vector registers (an extension of GCC and Clang); the compiler does not find these loops by itself.
+typedef float Eight __attribute__((vector_size(32)));
+static_assert(sizeof(Eight) == sizeof(SampleStore::Frame), "a frame fills the vector");
 
 constexpr double Pi = 3.14159265358979323846;
 constexpr double Width = Resampler::Taps;
@@ -76,7 +72,7 @@ double Resampler::correction(double cyclesPerFrame) const
     return m_correction[cell] + part * (m_correction[cell + 1] - m_correction[cell]);
 }
 
-void Resampler::resample(const SampleStore &store, double from, double length, double *out) const
+PROCESSOR_VECTOR_CODE void Resampler::resample(const SampleStore &store, double from, double length, double *out) const
 {
     const double step = length / Points;
     const double latest = static_cast<double>(store.end() - Taps + 2);
@@ -88,22 +84,20 @@ void Resampler::resample(const SampleStore &store, double from, double length, d
         const float part = static_cast<float>(fine - row);
         const Row &low = m_kernel[static_cast<std::size_t>(row)];
         const Row &high = m_kernel[static_cast<std::size_t>(row) + 1];
-        float weight[Taps];
-        for (std::size_t t = 0; t < Taps; ++t)
-            weight[t] = low[t] + part * (high[t] - low[t]);
+        Eight near, far;
+        std::memcpy(&near, low.data(), sizeof(near));
+        std::memcpy(&far, high.data(), sizeof(far));
+        const Eight weight = near + part * (far - near);
         const std::int64_t start = std::max(whole - 3, store.first());
         const SampleStore::Frame *frames = &store.frame(start);
-        Quad voltages = {};
-        Quad currents = {};
+        Eight sum = {};
         for (int t = 0; t < Taps; ++t) {
-            const Quad w = { weight[t], weight[t], weight[t], weight[t] };
-            voltages += w * load(frames[t].data());
-            currents += w * load(frames[t].data() + 4);
+            Eight x;
+            std::memcpy(&x, frames[t].data(), sizeof(x));
+            sum += weight[t] * x;
         }
-        for (int k = 0; k < 4; ++k) {
-            out[k * Stride + m] = static_cast<double>(voltages[k]);
-            out[(k + 4) * Stride + m] = static_cast<double>(currents[k]);
-        }
+        for (int c = 0; c < Channels; ++c)
+            out[c * Stride + m] = static_cast<double>(sum[c]);
     }
 }
 

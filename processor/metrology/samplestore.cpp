@@ -1,5 +1,7 @@
 #include "metrology/samplestore.h"
 
+#include "signal/vectorcode.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -58,7 +60,7 @@ void SampleStore::commit(int n)
     sumBlocks();
 }
 
-void SampleStore::sumBlocks()
+PROCESSOR_VECTOR_CODE void SampleStore::sumBlocks()
 {
     const std::size_t whole = static_cast<std::size_t>(m_count) / BlockLength;
     for (; m_blockCount < whole; ++m_blockCount) {

@@ -1,5 +1,7 @@
 #include "metrology/spectrum.h"
 
+#include "signal/vectorcode.h"
+
 #include <cmath>
 #include <fftw3.h>
 #include <mutex>
@@ -54,7 +56,7 @@ Spectrum::Spectrum() : m_plan(std::make_unique<Plan>()), m_power(std::size_t(Cha
 
 Spectrum::~Spectrum() = default;
 
-void Spectrum::analyse(const SampleStore &store, double from, double length)
+PROCESSOR_VECTOR_CODE void Spectrum::analyse(const SampleStore &store, double from, double length)
 {
     m_resampler.resample(store, from, length, m_plan->in);
     fftw_execute(m_plan->plan);

@@ -1,5 +1,7 @@
 #include "metrology/transientdetector.h"
 
+#include "signal/vectorcode.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -43,8 +45,8 @@ private:
 
 } // namespace
 
-std::uint32_t TransientDetector::find(const SampleStore &store, std::int64_t first, int count, double period,
-                                      float threshold)
+PROCESSOR_VECTOR_CODE std::uint32_t TransientDetector::find(const SampleStore &store, std::int64_t first, int count,
+                                                            double period, float threshold)
 {
     if (!(threshold > 0.0f) || !(period >= 4.0))
         return 0;

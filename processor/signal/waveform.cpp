@@ -1,5 +1,7 @@
 #include "signal/waveform.h"
 
+#include "signal/vectorcode.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -34,7 +36,7 @@ inline double sineOfQuarter(double r)
 
 } // namespace
 
-void sinCycles(const double *__restrict x, double amplitude, double *__restrict out, int n)
+PROCESSOR_VECTOR_CODE void sinCycles(const double *__restrict x, double amplitude, double *__restrict out, int n)
 {
     for (int i = 0; i < n; ++i) {
         const double r = x[i] - roundedToInteger(x[i]); // -0.5 to 0.5
@@ -54,7 +56,8 @@ WaveTable::WaveTable(const std::vector<HarmonicSpec> &harmonics) : m_harmonics(h
     }
 }
 
-void WaveTable::play(const double *__restrict x, double amplitude, double *__restrict out, int n) const
+PROCESSOR_VECTOR_CODE void WaveTable::play(const double *__restrict x, double amplitude, double *__restrict out,
+                                           int n) const
 {
     const double *points = m_points.data();
     for (int i = 0; i < n; ++i) {

@@ -116,7 +116,7 @@ void checkTable(int curve, ModulationSpec::Shape shape, const std::vector<TableP
 {
     const ProcessorSetup setup = lamp(curve);
     for (std::size_t first = 0; first < points.size(); first += 3) {
-        const auto pinst = meterOnly(modulated(setup, shape, points, first), setup, 24.0, 12.0);
+        const auto pinst = meterOnly(modulated(setup, shape, points, first), setup, 18.0, 9.0);
         for (std::size_t k = 0; k < 3; ++k)
             CHECK_NEAR(highest(pinst[k]), 1.0, 0.05);
     }
@@ -128,9 +128,20 @@ void checkSeverities(int curve, const std::vector<TablePoint> &points)
     for (std::size_t first = 0; first < points.size(); first += 3) {
         // Two changes make a cycle of the modulation.
         const SignalSpec spec = modulated(setup, ModulationSpec::Shape::Rectangular, points, first, 1.0 / 120.0);
-        const auto pinst = meterOnly(spec, setup, 720.0, 120.0);
-        for (std::size_t k = 0; k < 3; ++k)
-            CHECK_NEAR(shortTermSeverity(pinst[k]), 1.0, 0.05);
+        const auto pinst = meterOnly(spec, setup, 660.0, 60.0);
+        for (const std::vector<float> &values : pinst) {
+            CHECK_NEAR(shortTermSeverity(values), 1.0, 0.05);
+            // The instrument keeps means of 40 values, 30000 in ten minutes; Pst must not notice.
+            std::vector<float> means;
+            for (std::size_t i = 0; i + 40 <= values.size(); i += 40) {
+                double sum = 0.0;
+                for (std::size_t j = 0; j < 40; ++j)
+                    sum += double(values[i + j]);
+                means.push_back(float(sum / 40.0));
+            }
+            CHECK(means.size() == 30000);
+            CHECK_NEAR(shortTermSeverity(means), 1.0, 0.05);
+        }
     }
 }
 
@@ -194,26 +205,6 @@ TEST(wholeChainMeasuresTheTablesPoints)
         rig.run(25.0);
         for (int k = 0; k < 3; ++k)
             CHECK_NEAR(highest(rig.recorder.pinst(k, 12.0)), 1.0, 0.05);
-    }
-}
-
-TEST(instrumentsMeansGiveTheSamePst)
-{
-    // The instrument keeps the means of 40 values, 50 a second; Pst must not notice.
-    const ProcessorSetup setup = lamp(230);
-    const SignalSpec spec = modulated(setup, ModulationSpec::Shape::Rectangular,
-                                      { { 7.0, 1.450 }, { 39.0, 0.894 }, { 110.0, 0.722 } }, 0, 1.0 / 120.0);
-    const auto pinst = meterOnly(spec, setup, 660.0, 60.0);
-    for (const std::vector<float> &values : pinst) {
-        std::vector<float> means;
-        for (std::size_t i = 0; i + 40 <= values.size(); i += 40) {
-            double sum = 0.0;
-            for (std::size_t j = 0; j < 40; ++j)
-                sum += double(values[i + j]);
-            means.push_back(float(sum / 40.0));
-        }
-        CHECK(means.size() == 30000);
-        CHECK_NEAR(shortTermSeverity(means), 1.0, 0.05);
     }
 }
 
