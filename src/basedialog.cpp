@@ -157,8 +157,13 @@ void BaseDialog::refleshtime()
 
 void BaseDialog::showSysInfo(const QString &text)
 {
-    if (m_ui->sys_info->text() != text)
-        m_ui->sys_info->setText(text);
+    // The set-up line is too long for the place in one row: it breaks behind the frequency.
+    QString rows = text;
+    const int cut = rows.indexOf(QLatin1Char('\\'));
+    if (cut >= 0)
+        rows.insert(cut + 1, QLatin1Char('\n'));
+    if (m_ui->sys_info->text() != rows)
+        m_ui->sys_info->setText(rows);
 }
 
 void BaseDialog::showSysIcon(const QString &first, const QString &second)
