@@ -37,24 +37,29 @@ qint16 bandOffset(float value, float min, float max)
 
 bool findExtremes(__trend_data &record)
 {
-    if (record.series[0].isEmpty())
+    return findExtremes(record.series, record.max, record.min);
+}
+
+bool findExtremes(const QList<float> (&series)[kChannels], float *max, float *min)
+{
+    if (series[0].isEmpty())
         return false;
     for (int group = 0; group < 2; ++group) {
         const int first = group == 0 ? 0 : 3;
         const int last = group == 0 ? 2 : 3;
         bool any = false;
-        float max = 0;
-        float min = 0;
+        float highest = 0;
+        float lowest = 0;
         for (int c = first; c <= last; ++c) {
-            for (float raw : qAsConst(record.series[c])) {
+            for (float raw : series[c]) {
                 const float value = cleaned(raw);
-                max = any ? std::max(max, value) : value;
-                min = any ? std::min(min, value) : value;
+                highest = any ? std::max(highest, value) : value;
+                lowest = any ? std::min(lowest, value) : value;
                 any = true;
             }
         }
-        record.max[group] = upperTen(max);
-        record.min[group] = lowerTen(min);
+        max[group] = upperTen(highest);
+        min[group] = lowerTen(lowest);
     }
     return true;
 }
@@ -69,15 +74,20 @@ QVector<qint16> offsets(const QList<float> &values, float min, float max)
     return result;
 }
 
+void labelLimits(Picture &picture, const float *max, const float *min, double factor)
+{
+    for (int group = 0; group < 2; ++group) {
+        picture.upper[group] = QString::number(qint64(max[group] * factor));
+        picture.lower[group] = QString::number(qint64(min[group] * factor));
+    }
+}
+
 Picture scale(__trend_data &record, double factor)
 {
     Picture picture;
     if (!findExtremes(record))
         return picture;
-    for (int group = 0; group < 2; ++group) {
-        picture.upper[group] = QString::number(qint64(record.max[group] * factor));
-        picture.lower[group] = QString::number(qint64(record.min[group] * factor));
-    }
+    labelLimits(picture, record.max, record.min, factor);
     for (int c = 0; c < kChannels; ++c) {
         const int group = c < 3 ? 0 : 1;
         picture.series[c] = offsets(record.series[c], record.min[group], record.max[group]);

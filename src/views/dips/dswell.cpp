@@ -1,0 +1,61 @@
+#include "views/dips/dswell.h"
+
+#include "config/config_data.h"
+#include "device/displayrecords.h"
+#include "views/common/rmstrend.h"
+#include "views/dips/dipseventpage.h"
+#include "views/dips/dswellmain.h"
+
+QList<__event_item> m_ds_events_list;
+
+dswell::dswell(QWidget *parent)
+    : ViewContainer(UI_DIPS_SWELLS, { 3, "DipSwell" }, parent), m_main(new DswellMain), m_events(new DipsEventPage)
+{
+    addPage(m_main);
+    addPage(m_events);
+    connect(m_main, &DswellMain::goDispEvent, this, &dswell::showDispEvent);
+    connect(m_events, &DipsEventPage::goDispMain, this, &dswell::showDispMain);
+}
+
+void dswell::showDispMain()
+{
+    showPage(m_main);
+}
+
+void dswell::showDispEvent()
+{
+    showPage(m_events);
+}
+
+void dswell::initDisplayParam()
+{
+    // The addresses must stay: the task and the pages hold them for the life of the process.
+    for (__rms_trend_data **record : { &g_dipswell_trend, &g_dipswell_trend_ui }) {
+        if (!*record)
+            *record = new __rms_trend_data;
+        RmsTrend::clear(**record);
+    }
+    m_ds_events_list.clear();
+}
+
+void dswell::init_parameter()
+{
+    ViewContainer::init_parameter();
+    g_events_list.clear();
+}
+
+void dswell::refreshEventList(void *)
+{
+    m_ds_events_list.clear();
+    for (const __event_item &event : qAsConst(g_events_list)) {
+        if (event.type >= EventDip && event.type <= EventRvc)
+            m_ds_events_list.append(event);
+    }
+    m_events->refreshEventList(&m_ds_events_list);
+    m_main->showEventsCounts(m_ds_events_list.size());
+}
+
+QByteArray dswell::pqaData() const
+{
+    return g_dipswell_trend_ui ? RmsTrend::savedRecord(*g_dipswell_trend_ui, m_ds_events_list) : QByteArray();
+}

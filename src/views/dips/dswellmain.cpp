@@ -1,0 +1,64 @@
+#include "views/dips/dswellmain.h"
+#include "ui_dswellmain.h"
+
+#include "config/dipswellinfo.h"
+#include "device/displayrecords.h"
+
+DswellMain::DswellMain(QWidget *parent) : RmsTrendPage(UI_DIPS_SWELLS, parent), m_ui(new Ui::DswellMain)
+{
+    m_ui->setupUi(this);
+    setUp(m_ui->trend);
+}
+
+DswellMain::~DswellMain() = default;
+
+void DswellMain::init_parameter()
+{
+    DipSwellInfo::initInfoTimes();
+    RmsTrendPage::init_parameter();
+}
+
+__rms_trend_data *DswellMain::freshRecord() const
+{
+    return g_dipswell_trend;
+}
+
+__rms_trend_data *DswellMain::shownRecord() const
+{
+    return g_dipswell_trend_ui;
+}
+
+int DswellMain::valuesPerSecond() const
+{
+    return DipSwellInfo::m_rms_numb_per_sec;
+}
+
+QVector<TrendZoom> DswellMain::zoomSteps() const
+{
+    return QVector<TrendZoom>(DipSwellInfo::m_zoom_time, DipSwellInfo::m_zoom_time + 4);
+}
+
+int DswellMain::zoomIndex() const
+{
+    return DipSwellInfo::m_zoom_index;
+}
+
+void DswellMain::zoomIndexChanged(int index)
+{
+    DipSwellInfo::m_zoom_index = index;
+}
+
+int DswellMain::axisLabelCount() const
+{
+    return DipSwellInfo::m_zoom_time == DipSwellInfo::m_zoom_time_50 ? 6 : 5;
+}
+
+void DswellMain::showSeries(const __trend_chart_data &data)
+{
+    m_ui->trend->showDSData(&data);
+}
+
+void DswellMain::showChartCursor(int position)
+{
+    m_ui->trend->setCursorPosition(601 - position); // the chart counts from the left
+}

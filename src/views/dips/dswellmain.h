@@ -1,0 +1,41 @@
+#pragma once
+
+#include "views/common/rmstrendpage.h"
+
+#include <memory>
+
+namespace Ui {
+class DswellMain;
+}
+
+/// Trend of the half-cycle values over the last minute, in which dips and swells show.
+class DswellMain : public RmsTrendPage
+{
+    Q_OBJECT
+
+public:
+    explicit DswellMain(QWidget *parent = nullptr);
+    ~DswellMain() override;
+
+public slots:
+    void init_parameter() override;
+
+signals:
+    void goDispEvent();
+
+protected:
+    __rms_trend_data *freshRecord() const override;
+    __rms_trend_data *shownRecord() const override;
+    int valuesPerSecond() const override;
+    int keptSeconds() const override { return 60; }
+    QVector<TrendZoom> zoomSteps() const override;
+    int zoomIndex() const override;
+    void zoomIndexChanged(int index) override;
+    int axisLabelCount() const override;
+    void showSeries(const __trend_chart_data &data) override;
+    void showChartCursor(int position) override;
+    void openEvents() override { emit goDispEvent(); }
+
+private:
+    std::unique_ptr<Ui::DswellMain> m_ui;
+};
