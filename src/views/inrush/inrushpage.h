@@ -1,0 +1,44 @@
+#pragma once
+
+#include "config/pqaeventitem.h"
+#include "views/common/viewcontainer.h"
+
+class InrushEventPage;
+class InrushMain;
+class InrushStartPage;
+
+/// Inrush events, copied from the live list.
+extern QList<__event_item> m_inrush_events_list;
+
+/// Inrush currents: the levels that make one, the trend in which it shows, and the list of those found.
+class InrushPage : public ViewContainer
+{
+    Q_OBJECT
+
+public:
+    explicit InrushPage(QWidget *parent = nullptr);
+
+    QByteArray pqaData() const override;
+
+public slots:
+    void refreshEventList(void *);
+    void showInrushMain();
+    /// Arms the processor, where the switch is on, and shows the trend.
+    void showInrushStart();
+    void showInrushEvent();
+
+signals:
+    void startInrushTask();
+
+protected:
+    void initDisplayParam() override;
+
+private:
+    /// The raw inrush command to the processor.
+    static void sendCMD();
+    void backToStart();
+
+    InrushMain *m_main;
+    InrushStartPage *m_start;
+    InrushEventPage *m_events;
+};
