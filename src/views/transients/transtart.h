@@ -1,0 +1,30 @@
+#pragma once
+
+#include "views/transients/transscopepage.h"
+
+namespace Ui {
+class TranStart;
+}
+
+/// Live voltages while transients are being waited for, with the threshold in force and the number captured.
+class TranStart : public TransScopePage
+{
+    Q_OBJECT
+
+public:
+    explicit TranStart(QWidget *parent = nullptr);
+    ~TranStart() override;
+
+    void showCount();
+
+public slots:
+    void updateDisplay(void *) override;
+    void init_parameter() override;
+    void retranslateUi() override;
+
+signals:
+    void goTransView();
+
+private:
+    std::unique_ptr<Ui::TranStart> m_ui;
+};

@@ -1,0 +1,121 @@
+#include "views/transients/transview.h"
+#include "ui_transview.h"
+
+#include "views/common/scopecontrols.h"
+#include "widgets/localtime.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr quint32 kPlaceMask = 0x00FFFFFF;
+
+QString timeText(double msecs)
+{
+    constexpr double kLatest = 253402300799999.0; // end of the year 9999
+    if (!(msecs >= 0 && msecs <= kLatest))
+        return {};
+    return LocalTime::toLocalDateTime(QDateTime::fromMSecsSinceEpoch(qint64(msecs), Qt::UTC))
+        .toString(QStringLiteral("yyyy-MM-dd hh:mm:ss zzz"));
+}
+
+} // namespace
+
+TransView::TransView(QWidget *parent) : TransScopePage(parent), m_ui(new Ui::TransView)
+{
+    static const KeyRow<TransView> keys[] = {
+        { Qt::Key_F1, QT_TRANSLATE_NOOP("TransView", "Prev"), &TransView::selectPrev },
+        { Qt::Key_F2, QT_TRANSLATE_NOOP("TransView", "Next"), &TransView::selectNext },
+        { Qt::Key_F3, nullptr, &TransView::toggleCursor },
+        { Qt::Key_F4, nullptr, &TransView::toggleZoom },
+        { Qt::Key_F5, QT_TRANSLATE_NOOP("TransView", "Back"), &TransView::goTranStart },
+        { Qt::Key_Left, nullptr, &TransView::pressLeft },
+        { Qt::Key_Right, nullptr, &TransView::pressRight },
+        { Qt::Key_Up, nullptr, &TransView::pressUp },
+        { Qt::Key_Down, nullptr, &TransView::pressDown },
+    };
+    m_ui->setupUi(this);
+    setUp(m_ui->scope, m_ui->btn_f3, m_ui->btn_f4, m_ui->zoom_scale);
+    setKeys(keys);
+    showHeader(nullptr);
+}
+
+TransView::~TransView() = default;
+
+void TransView::init_parameter()
+{
+    TransScopePage::init_parameter();
+    select(g_trans_events.size() - 1);
+}
+
+void TransView::retranslateUi()
+{
+    TransScopePage::retranslateUi();
+    setText(m_ui->trigger_t, tr("TRIGGER ON:"));
+}
+
+void TransView::selectNewest()
+{
+    select(g_trans_events.size() - 1);
+}
+
+void TransView::selectPrev()
+{
+    followList();
+    if (m_index > 0)
+        select(m_index - 1);
+}
+
+void TransView::selectNext()
+{
+    followList();
+    if (m_index + 1 < g_trans_events.size())
+        select(m_index + 1);
+}
+
+bool TransView::isShown(int index) const
+{
+    if (index < 0 || index >= g_trans_events.size())
+        return false;
+    const __trans_data *record = g_trans_events.at(index);
+    return record->number == m_number && record->time == m_time;
+}
+
+void TransView::followList()
+{
+    if (g_trans_events.isEmpty()) {
+        if (m_number != 0)
+            select(0);
+        return;
+    }
+    // At its limit the list loses its head: what is shown moves towards it.
+    for (int index = std::min(m_index, int(g_trans_events.size()) - 1); index >= 0; --index) {
+        if (!isShown(index))
+            continue;
+        m_index = index;
+        showHeader(g_trans_events.at(index));
+        return;
+    }
+    select(m_number == 0 ? g_trans_events.size() - 1 : 0);
+}
+
+void TransView::select(int index)
+{
+    m_index = std::clamp(index, 0, std::max(int(g_trans_events.size()) - 1, 0));
+    const __trans_data *record = g_trans_events.isEmpty() ? nullptr : g_trans_events.at(m_index);
+    m_number = record ? record->number : 0;
+    m_time = record ? record->time : 0;
+    if (record)
+        controls().setCursorIndex(int(record->position & kPlaceMask));
+    showHeader(record);
+    showRecord(record);
+}
+
+void TransView::showHeader(const __trans_data *record)
+{
+    const int count = g_trans_events.size();
+    setText(m_ui->trans_number, QStringLiteral("#%1/%2(trans)").arg(record ? m_index + 1 : 0).arg(count));
+    setText(m_ui->trans_time, record ? timeText(record->time) : QString());
+    setText(m_ui->trigger, record ? ChannelLabels::channels().caption(int(record->position >> 24) - 1) : QString());
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "views/transients/transscopepage.h"
+
+namespace Ui {
+class TransView;
+}
+
+/// One captured transient of the list, which grows, drops its oldest entry at its limit and may be cleared at any time.
+/// The page keeps no pointer into it: it knows its transient by number and time.
+class TransView : public TransScopePage
+{
+    Q_OBJECT
+
+public:
+    explicit TransView(QWidget *parent = nullptr);
+    ~TransView() override;
+
+    /// Shows the transient captured last.
+    void selectNewest();
+    /// The list changed: the transient shown stays, wherever it stands now, or the nearest one takes its place.
+    void followList();
+    int index() const { return m_index; } // into g_trans_events; 0 for an empty list
+
+public slots:
+    void updateDisplay(void *) override { followList(); }
+    void init_parameter() override;
+    void retranslateUi() override;
+
+signals:
+    void goTranStart();
+
+private:
+    void selectPrev();
+    void selectNext();
+    void select(int index);
+    bool isShown(int index) const;
+    void showHeader(const __trans_data *record);
+
+    std::unique_ptr<Ui::TransView> m_ui;
+    int m_index = 0;
+    // Of the transient shown; number 0: none
+    qint32 m_number = 0;
+    double m_time = 0; // ms since 1970
+};
