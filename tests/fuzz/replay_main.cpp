@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <vector>
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size);
 extern "C" __attribute__((weak)) int LLVMFuzzerInitialize(int *argc, char ***argv);
@@ -12,13 +13,13 @@ extern "C" __attribute__((weak)) int LLVMFuzzerInitialize(int *argc, char ***arg
 namespace {
 
 constexpr int kCuts = 32; // torn forms of a file
-constexpr int kFlips = 64; // forms with a few changed bytes
+constexpr int kAllFlips = 4000; // forms with a few changed bytes, of all files together
 
 void feed(const QByteArray &bytes)
 {
     // A copy of the exact size, so that the sanitizer sees a read behind the end.
-    const QByteArray exact(bytes.constData(), bytes.size());
-    LLVMFuzzerTestOneInput(reinterpret_cast<const uint8_t *>(exact.constData()), size_t(exact.size()));
+    const std::vector<uint8_t> exact(bytes.begin(), bytes.end());
+    LLVMFuzzerTestOneInput(exact.data(), exact.size());
 }
 
 // Repeatable pseudo-random numbers (a 64-bit linear congruential generator, high bits).
@@ -28,7 +29,7 @@ quint32 next(quint64 *state)
     return quint32(*state >> 33);
 }
 
-void feedForms(const QByteArray &bytes)
+void feedForms(const QByteArray &bytes, int flips)
 {
     feed(bytes);
     if (bytes.isEmpty())
@@ -36,7 +37,7 @@ void feedForms(const QByteArray &bytes)
     quint64 state = quint64(bytes.size());
     for (int i = 0; i < kCuts; ++i)
         feed(bytes.left(int(qint64(bytes.size()) * i / kCuts)));
-    for (int i = 0; i < kFlips; ++i) {
+    for (int i = 0; i < flips; ++i) {
         QByteArray changed = bytes;
         for (int k = 0; k <= i % 4; ++k)
             changed[int(next(&state) % quint32(changed.size()))] = char(next(&state));
@@ -60,7 +61,7 @@ int main(int argc, char **argv)
         QFile file(folder.filePath(name));
         if (!file.open(QIODevice::ReadOnly))
             return 1;
-        feedForms(file.readAll());
+        feedForms(file.readAll(), kAllFlips / int(names.size()) + 1);
     }
     std::printf("%d files replayed\n", int(names.size()));
     return names.isEmpty() ? 1 : 0;
