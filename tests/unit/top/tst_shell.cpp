@@ -1,0 +1,421 @@
+#include "wholegraph.h"
+
+#include "basedialog.h"
+#include "config/recordinfo.h"
+#include "device/backlight.h"
+#include "menupage.h"
+#include "platform/target.h"
+#include "task/unitask.h"
+#include "taskmanage.h"
+#include "views/vif/vifmain.h"
+#include "views/vif/vifpage.h"
+#include "widgets/message.h"
+
+#include <QFile>
+#include <QSignalSpy>
+#include <QStackedWidget>
+
+namespace {
+
+// Letters that the front panel sends.
+constexpr auto kEnter = Qt::Key_K, kLeft = Qt::Key_O, kUp = Qt::Key_Q, kRight = Qt::Key_D, kDown = Qt::Key_T;
+constexpr auto kF1 = Qt::Key_W, kF4 = Qt::Key_F, kF5 = Qt::Key_L, kF6 = Qt::Key_E, kF7 = Qt::Key_A, kF8 = Qt::Key_U;
+constexpr auto kF12 = Qt::Key_X, kPower = Qt::Key_B;
+
+QString title()
+{
+    return m_basedialog->findChild<QLabel *>("name")->text();
+}
+
+QWidget *top()
+{
+    return m_basedialog->findChild<QStackedWidget *>("base_stackedWidget")->currentWidget();
+}
+
+QString current()
+{
+    return m_menupage->currentItem()->objectName();
+}
+
+void moveToTile(const QString &name)
+{
+    for (int row = 0; row < 3; ++row, QTest::keyClick(m_menupage, kDown)) {
+        for (int column = 0; column < 4; ++column, QTest::keyClick(m_menupage, kRight)) {
+            if (current() == name)
+                return;
+        }
+    }
+    QFAIL("no such tile");
+}
+
+} // namespace
+
+class TstShell : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void startsInTheMenu();
+    void menuIsATorus_data();
+    void menuIsATorus();
+    void currentTileIsHighlighted();
+    void menuAt400HzHasNoFlicker();
+    void tileOpensItsPageAndStartsTheTask();
+    void menuKeepsTheMeasurementRunning();
+    void goingToAnotherFunctionAsksAndCancelStays();
+    void goingToAnotherFunctionAsksAndQuitStartsAnew();
+    void closedQuestionEndsTheTask();
+    void recordingQuestionOffersSaveExitRestartCancel();
+    void functionNotBuiltAnswersWithAMessage();
+    void monitorKeyDoesNothingAt400Hz();
+    void firstPressOnADarkScreenOnlyLightsIt();
+    void lightKeyStepsTheLight();
+    void powerKeyAsksAfterAMomentAndCancelChangesNothing();
+    void powerKeySwitchesOffOnOk();
+    void processorTimeBecomesTheSystemTime();
+    void titleBarShowsIconsAndText();
+    void statusDialogRestartsTheTask();
+    void languageChangeSetsTheTitleOfTheUserPage();
+    void everyTileAndFunctionKeyIsSafe();
+
+private:
+    void enterVif()
+    {
+        moveToTile("vif");
+        QTest::keyClick(m_menupage, kEnter);
+    }
+};
+
+void TstShell::initTestCase()
+{
+    buildWholeGraph();
+}
+
+void TstShell::init()
+{
+    m_settingConfig_g.setNomFreq(1);
+    RecordInfo::m_in_recording = 0;
+    m_menupage->initMenuMatrix();
+}
+
+void TstShell::cleanup()
+{
+    RecordInfo::m_in_recording = 0;
+    m_taskmanage->exitTask();
+    m_basedialog->showMenu(UI_VIF, UI_MENU);
+}
+
+void TstShell::startsInTheMenu()
+{
+    QCOMPARE(title(), QStringLiteral("Menu"));
+    QCOMPARE(top(), static_cast<QWidget *>(m_menupage));
+    QCOMPARE(current(), QStringLiteral("vif"));
+    QVERIFY(!m_taskmanage->currentTask());
+    QCOMPARE(m_basedialog->size(), QSize(640, 480));
+    QCOMPARE(m_basedialog->findChild<QLabel *>("datetime")->text().size(), 19);
+    QCOMPARE(m_menupage->findChild<QLabel *>("menu_tips")->text(),
+             QStringLiteral("Press F1-F5 to show more infomation"));
+    QCOMPARE(m_menupage->findChild<QLabel *>("mainssignaling_t")->text(), QStringLiteral("Mains\nSignaling"));
+    QCOMPARE(m_menupage->findChild<QLabel *>("power_t")->text(), QStringLiteral("Power&Energy\n"));
+}
+
+void TstShell::menuIsATorus_data()
+{
+    QTest::addColumn<QString>("from");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("to");
+    const QStringList names { "power",  "vif",        "harmonics",      "unbalance", "flicker", "dips_swells",
+                              "inrush", "transients", "mainssignaling", "wave",      "logger",  "user" };
+    for (int i = 0; i < 12; ++i) {
+        const int row = i / 4;
+        const int column = i % 4;
+        QTest::newRow(qPrintable(names[i] + " left")) << names[i] << int(kLeft) << names[row * 4 + (column + 3) % 4];
+        QTest::newRow(qPrintable(names[i] + " right")) << names[i] << int(kRight) << names[row * 4 + (column + 1) % 4];
+        QTest::newRow(qPrintable(names[i] + " up")) << names[i] << int(kUp) << names[(row + 2) % 3 * 4 + column];
+        QTest::newRow(qPrintable(names[i] + " down")) << names[i] << int(kDown) << names[(row + 1) % 3 * 4 + column];
+    }
+}
+
+void TstShell::menuIsATorus()
+{
+    QFETCH(QString, from);
+    QFETCH(int, key);
+    QFETCH(QString, to);
+    moveToTile(from);
+    QTest::keyClick(m_menupage, Qt::Key(key));
+    QCOMPARE(current(), to);
+}
+
+void TstShell::currentTileIsHighlighted()
+{
+    moveToTile("harmonics");
+    const auto picture
+        = [](const char *name) { return m_menupage->findChild<QLabel *>(name)->pixmap(Qt::ReturnByValue).toImage(); };
+    QCOMPARE(picture("harmonics"), QImage(":/harmonics_hl"));
+    QTest::keyClick(m_menupage, kRight);
+    QCOMPARE(picture("harmonics"), QImage(":/harmonics"));
+    QCOMPARE(picture("unbalance"), QImage(":/unbalance_hl"));
+}
+
+void TstShell::menuAt400HzHasNoFlicker()
+{
+    moveToTile("flicker");
+    m_settingConfig_g.setNomFreq(3);
+    m_menupage->initMenuMatrix();
+    QCOMPARE(current(), QStringLiteral("vif")); // it stood on flicker
+    QVERIFY(m_menupage->findChild<QLabel *>("flicker")->isVisibleTo(m_menupage));
+
+    const struct
+    {
+        const char *from;
+        Qt::Key key;
+        const char *to;
+    } rows[] = {
+        { "dips_swells", kLeft, "transients" },
+        { "transients", kRight, "dips_swells" },
+        { "power", kDown, "mainssignaling" },
+        { "power", kUp, "mainssignaling" },
+        { "mainssignaling", kDown, "power" },
+        { "mainssignaling", kUp, "power" },
+        { "vif", kLeft, "power" },
+        { "wave", kLeft, "mainssignaling" },
+    };
+    for (const auto &row : rows) {
+        m_settingConfig_g.setNomFreq(1);
+        m_menupage->initMenuMatrix();
+        moveToTile(row.from);
+        m_settingConfig_g.setNomFreq(3);
+        m_menupage->initMenuMatrix();
+        QTest::keyClick(m_menupage, row.key);
+        QCOMPARE(current(), QLatin1String(row.to));
+    }
+}
+
+void TstShell::tileOpensItsPageAndStartsTheTask()
+{
+    enterVif();
+    QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
+    QCOMPARE(top(), static_cast<QWidget *>(m_vifpage));
+    QCOMPARE(m_taskmanage->curTaskType(), 13);
+    QCOMPARE(m_taskmanage->getUniFunction(), 1);
+    QVERIFY(!g_unitask->isTaskRunning()); // it starts in ten seconds
+    QCOMPARE(m_basedialog->currentPage(), static_cast<QWidget *>(m_vifpage));
+}
+
+void TstShell::menuKeepsTheMeasurementRunning()
+{
+    enterVif();
+    g_unitask->startTask();
+    UniTask *task = g_unitask;
+    QTest::keyClick(m_vifpage->findChild<VifMain *>(), kF7);
+    QCOMPARE(title(), QStringLiteral("Menu"));
+    QVERIFY(task->isTaskRunning());
+    enterVif();
+    QCOMPARE(g_unitask, task);
+    QVERIFY(task->isTaskRunning());
+    QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
+}
+
+void TstShell::goingToAnotherFunctionAsksAndCancelStays()
+{
+    m_basedialog->startWaveTask();
+    g_unitask->startTask();
+    UniTask *task = g_unitask;
+    DialogAnswer answer(kF5);
+    m_basedialog->showVif(UI_WAVE, UI_VIF);
+    QVERIFY(answer.asked);
+    QVERIFY(answer.text.contains("The task \"Power Quality\" is running.\ndo you want to quit?"));
+    QCOMPARE(g_unitask, task);
+    QVERIFY(task->isTaskRunning());
+    QCOMPARE(title(), QStringLiteral("Menu"));
+}
+
+void TstShell::goingToAnotherFunctionAsksAndQuitStartsAnew()
+{
+    m_basedialog->startWaveTask();
+    g_unitask->startTask();
+    QSignalSpy destroyed(g_unitask, &QObject::destroyed);
+    DialogAnswer answer(kF4);
+    m_basedialog->showVif(UI_WAVE, UI_VIF);
+    QVERIFY(answer.asked);
+    QCOMPARE(destroyed.count(), 1);
+    QCOMPARE(m_taskmanage->getUniFunction(), 1);
+    QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
+}
+
+void TstShell::closedQuestionEndsTheTask()
+{
+    m_basedialog->startWaveTask();
+    g_unitask->startTask();
+    DialogAnswer answer(Qt::Key_H); // no key of the dialog: it is closed
+    m_basedialog->showVif(UI_WAVE, UI_VIF);
+    QVERIFY(answer.asked);
+    QCOMPARE(m_taskmanage->getUniFunction(), 1);
+    QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
+}
+
+void TstShell::recordingQuestionOffersSaveExitRestartCancel()
+{
+    const struct
+    {
+        Qt::Key key;
+        bool left; // the way was free
+    } rows[] = { { kF5, false }, { kF4, true }, { kF1, true }, { Qt::Key_Y, false } };
+    for (const auto &row : rows) {
+        m_taskmanage->exitTask();
+        m_basedialog->showMenu(UI_VIF, UI_MENU);
+        m_basedialog->startWaveTask();
+        g_unitask->startTask();
+        RecordInfo::m_in_recording = 1;
+        DialogAnswer answer(row.key);
+        m_basedialog->showVif(UI_WAVE, UI_VIF);
+        QVERIFY(answer.text.contains("Logger is running!\nSave: save the data.\nExit: delete the data and exit.\n"
+                                     "Restart: delete the data and restart logger."));
+        QCOMPARE(title() == QLatin1String("Volts/Amps/Hertz"), row.left);
+        if (row.key == Qt::Key_Y) { // Restart: a new recording in a new task of the normal function
+            QCOMPARE(m_taskmanage->getUniFunction(), 1);
+            QVERIFY(g_unitask->recordEnabled());
+        }
+    }
+}
+
+void TstShell::functionNotBuiltAnswersWithAMessage()
+{
+    DialogAnswer answer(kF5);
+    moveToTile("user");
+    QTest::keyClick(m_menupage, kEnter);
+    QVERIFY(answer.asked);
+    QVERIFY(answer.text.contains("User is not available"));
+    QCOMPARE(title(), QStringLiteral("Menu"));
+}
+
+void TstShell::monitorKeyDoesNothingAt400Hz()
+{
+    m_settingConfig_g.setNomFreq(3);
+    DialogAnswer answer(kF5);
+    QTest::keyClick(m_menupage, kF8);
+    QTest::qWait(60);
+    QVERIFY(!answer.asked);
+    QCOMPARE(title(), QStringLiteral("Menu"));
+}
+
+void TstShell::firstPressOnADarkScreenOnlyLightsIt()
+{
+    moveToTile("vif");
+    BackLight::shutDownBL();
+    QTest::keyClick(m_menupage, kRight);
+    QCOMPARE(current(), QStringLiteral("vif"));
+    QTest::keyClick(m_menupage, kRight);
+    QCOMPARE(current(), QStringLiteral("harmonics"));
+    BackLight::shutDownBL();
+    DialogAnswer answer(kF5);
+    QTest::keyClick(m_basedialog, kPower);
+    QTest::qWait(250);
+    QVERIFY(!answer.asked);
+}
+
+void TstShell::lightKeyStepsTheLight()
+{
+    const auto level = [] {
+        QFile file(Target::path("/sys/class/backlight/backlight/brightness"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray("?");
+    };
+    BackLight::setBackLight(3);
+    QCOMPARE(level(), QByteArray("7"));
+    for (const char *text : { "5", "3", "1", "7" }) {
+        QTest::keyClick(m_menupage, kF12); // rises to the main window
+        QCOMPARE(level(), QByteArray(text));
+    }
+}
+
+void TstShell::powerKeyAsksAfterAMomentAndCancelChangesNothing()
+{
+    enterVif();
+    DialogAnswer answer(kF5);
+    QTest::keyClick(m_vifpage->findChild<VifMain *>(), kPower); // pressed and let go at once
+    QTRY_VERIFY(answer.asked);
+    QVERIFY(answer.text.contains("Power off?"));
+    QVERIFY(m_taskmanage->currentTask());
+}
+
+void TstShell::powerKeySwitchesOffOnOk()
+{
+    enterVif();
+    DialogAnswer answer(kF4);
+    QTest::keyClick(m_basedialog, kPower);
+    QTRY_VERIFY(answer.asked);
+    QTRY_VERIFY(!m_taskmanage->currentTask());
+    QFile latch(Target::path("/sys/class/gpio/gpio47/value"));
+    QVERIFY(latch.open(QIODevice::ReadOnly));
+    QCOMPARE(latch.readAll().trimmed(), QByteArray("1"));
+}
+
+void TstShell::processorTimeBecomesTheSystemTime()
+{
+    QFile log(Target::path("/var/log/commands"));
+    const auto commands = [&log] {
+        const bool open = log.open(QIODevice::ReadOnly);
+        const QByteArray text = open ? log.readAll() : QByteArray();
+        log.close();
+        return text;
+    };
+    m_basedialog->showDSPTimeStamp(0);
+    QVERIFY(!commands().contains("date"));
+    emit m_idevice->dspTimeStamp(1'700'000'000);
+    QVERIFY(commands().contains("date -s 2023-11-14 22:13:20"));
+}
+
+void TstShell::titleBarShowsIconsAndText()
+{
+    m_basedialog->showSysIcon("battery_f", "USB");
+    const auto picture
+        = [](const char *name) { return m_basedialog->findChild<QLabel *>(name)->pixmap(Qt::ReturnByValue).toImage(); };
+    QCOMPARE(picture("sys_icon_1"), QImage(":/battery_f"));
+    QCOMPARE(picture("sys_icon_2"), QImage(":/USB"));
+    m_basedialog->showSysIcon(QString(), "battery_1");
+    QVERIFY(picture("sys_icon_1").isNull());
+    m_basedialog->showSysInfo("230V;50Hz\\TARN-41A;TARN-41A\\3P WYE");
+    QCOMPARE(m_basedialog->findChild<QLabel *>("sys_info")->text(),
+             QStringLiteral("230V;50Hz\\\nTARN-41A;TARN-41A\\3P WYE"));
+}
+
+void TstShell::statusDialogRestartsTheTask()
+{
+    enterVif();
+    UniTask *task = g_unitask;
+    QTest::keyClick(m_vifpage->findChild<VifMain *>(), kF7);
+    DialogAnswer stay(kF5);
+    QTest::keyClick(m_menupage, kF4);
+    QVERIFY(stay.text.contains("System Status:"));
+    QCOMPARE(g_unitask, task);
+    QSignalSpy destroyed(task, &QObject::destroyed);
+    DialogAnswer restart(kF1);
+    QTest::keyClick(m_menupage, kF1);
+    QCOMPARE(destroyed.count(), 1);
+    QVERIFY(g_unitask);
+    QCOMPARE(m_taskmanage->getUniFunction(), 1);
+}
+
+void TstShell::languageChangeSetsTheTitleOfTheUserPage()
+{
+    m_basedialog->retranslateUi();
+    QCOMPARE(title(), QStringLiteral("User"));
+}
+
+void TstShell::everyTileAndFunctionKeyIsSafe()
+{
+    for (int key = Qt::Key_A; key <= Qt::Key_Y; ++key) {
+        DialogAnswer answer(kF5);
+        QWidget *page = top();
+        QTest::keyClick(page, Qt::Key(key));
+        QTest::qWait(key == kPower ? 200 : 0);
+    }
+    QVERIFY(top());
+}
+
+QTEST_MAIN(TstShell)
+#include "tst_shell.moc"
