@@ -1,5 +1,6 @@
 #include "frontend/frontend.h"
 
+#include "signal/angles.h"
 #include "signal/synthesiser.h"
 #include "signal/vectorcode.h"
 
@@ -101,7 +102,7 @@ void FrontEnd::updateFactors()
 // factor makes the output at the nominal frequency as large as the current.
 void FrontEnd::differentiate(const double *in, double *slope, int n, int channel)
 {
-    const double gain = SampleRate / (6.283185307179586 * m_nominalFrequency);
+    const double gain = SampleRate / (TwoPi * m_nominalFrequency);
     double last = m_last[static_cast<std::size_t>(channel)];
     for (int i = 0; i < n; ++i) {
         slope[i] = (in[i] - last) * gain;

@@ -1,5 +1,6 @@
 #include "metrology/conditioner.h"
 
+#include "signal/angles.h"
 #include "signal/synthesiser.h"
 #include "signal/vectorcode.h"
 
@@ -10,7 +11,6 @@ namespace processor {
 namespace {
 
 constexpr float UnitsPerStep = 10.0f / 32768.0f;
-constexpr double TwoPi = 6.283185307179586;
 // The integrators forget with this corner frequency, so that an offset of the converter cannot run away.
 constexpr double IntegratorCorner = 0.1; // Hz
 

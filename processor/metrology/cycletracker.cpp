@@ -1,5 +1,6 @@
 #include "metrology/cycletracker.h"
 
+#include "signal/angles.h"
 #include "signal/synthesiser.h"
 #include "signal/vectorcode.h"
 
@@ -10,7 +11,6 @@ namespace processor {
 
 namespace {
 
-constexpr double TwoPi = 6.283185307179586476925;
 constexpr double WindowCycles = 4.0;
 constexpr double LeastAmplitude = 0.02; // converter units: 0.2 % of full scale
 constexpr double LockRange = 0.15; // of the nominal frequency
@@ -22,12 +22,6 @@ constexpr double EdgePull = 0.02; // cycles that such an edge may seem to move a
 constexpr std::size_t LeastRun = 4; // ends of cycles in a row that a frequency is taken from
 constexpr int PatienceCycles = 8; // disturbed cycles after which the search begins anew
 constexpr int Lanes = 8;
-
-// -0.5 up to 0.5, for a finite x of any size.
-double centred(double cycles)
-{
-    return cycles - std::floor(cycles + 0.5);
-}
 
 // Phase of a sine in cycles from the correlation with a cosine wave.
 double sinePhase(const std::complex<double> &z)

@@ -1,5 +1,7 @@
 #include "metrology/flickerfilter.h"
 
+#include "signal/angles.h"
+
 #include <cmath>
 #include <complex>
 
@@ -7,7 +9,6 @@ namespace processor {
 
 namespace {
 
-constexpr double TwoPi = 6.283185307179586476925;
 constexpr double HighPassHz = 0.05;
 constexpr double MeanSeconds = 0.3;
 constexpr double PeakHz = 8.8; // where lamp and eye are most sensitive

@@ -1,5 +1,6 @@
 #include "metrology/resampler.h"
 
+#include "signal/angles.h"
 #include "signal/vectorcode.h"
 
 #include <algorithm>
@@ -14,7 +15,6 @@ namespace {
 typedef float Eight __attribute__((vector_size(32)));
 static_assert(sizeof(Eight) == sizeof(SampleStore::Frame), "a frame fills the vector");
 
-constexpr double Pi = 3.14159265358979323846;
 constexpr double Width = Resampler::Taps;
 // The kernel's pass band ends where the image of the highest frequency of interest (7 kHz) begins: 0.64 of the rate.
 constexpr double Shape = Pi * Width * 0.64;

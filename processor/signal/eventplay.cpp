@@ -1,5 +1,7 @@
 #include "signal/eventplay.h"
 
+#include "signal/angles.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -95,7 +97,7 @@ double EventPlay::addition(double sample) const
     const double seconds = (sample - start) / m_sampleRate;
     const double decay = std::exp(-seconds / event.decaySeconds);
     if (event.kind == EventKind::OscillatoryTransient)
-        return event.amplitude * decay * std::sin(6.283185307179586 * event.frequencyHz * seconds);
+        return event.amplitude * decay * std::sin(TwoPi * event.frequencyHz * seconds);
     const double front = hasFront(event) ? std::exp(-seconds / event.riseSeconds) : 0.0;
     return event.amplitude * m_impulseScale * (decay - front);
 }

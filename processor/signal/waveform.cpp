@@ -1,5 +1,6 @@
 #include "signal/waveform.h"
 
+#include "signal/angles.h"
 #include "signal/vectorcode.h"
 
 #include <algorithm>
@@ -8,8 +9,6 @@
 namespace processor {
 
 namespace {
-
-constexpr double TwoPi = 6.283185307179586476925;
 
 // Adding and taking off 1.5 * 2^52 rounds a double to the nearest integer, without a call and in vector registers.
 constexpr double RoundingMagic = 6755399441055744.0;

@@ -2,6 +2,7 @@
 
 #include "frontend/frontend.h"
 #include "metrology/measurementchain.h"
+#include "signal/angles.h"
 #include "signal/synthesiser.h"
 
 #include <cstdint>
@@ -11,8 +12,6 @@ namespace rig {
 
 using namespace processor;
 
-constexpr double Pi = 3.14159265358979323846;
-constexpr double Sqrt2 = 1.41421356237309504880;
 constexpr double VoltsPerUnit = 79.25; // voltage range 1
 constexpr double AmpsPerUnit = 99.4; // current range 0, clamp of 1 mV/A
 
