@@ -1,0 +1,77 @@
+#pragma once
+
+#include "config/config_data.h"
+#include "views/common/keyrepeat.h"
+
+#include <QLabel>
+#include <QTest>
+#include <QWidget>
+
+// What the tests of pages have in common: reading labels by name, and the letters that the front panel sends.
+
+namespace PageTest {
+
+enum FrontKey {
+    F1 = Qt::Key_W,
+    F2 = Qt::Key_Y,
+    F3 = Qt::Key_P,
+    F4 = Qt::Key_F,
+    F5 = Qt::Key_L,
+    F6 = Qt::Key_E,
+    F11 = Qt::Key_I,
+    Left = Qt::Key_O,
+    Up = Qt::Key_Q,
+    Right = Qt::Key_D,
+    Down = Qt::Key_T,
+};
+
+inline QString text(const QWidget *page, const char *name)
+{
+    const auto *label = page->findChild<QLabel *>(QString::fromLatin1(name));
+    return label ? label->text() : QStringLiteral("no label ") + QLatin1String(name);
+}
+
+inline QString sheet(const QWidget *page, const char *name)
+{
+    const auto *label = page->findChild<QLabel *>(QString::fromLatin1(name));
+    return label ? label->styleSheet() : QString();
+}
+
+/// A widget of a class that the toolkit's own search cannot tell from others, by its object name.
+template <typename Widget> Widget *named(const QWidget *page, const char *name)
+{
+    return dynamic_cast<Widget *>(page->findChild<QWidget *>(QString::fromLatin1(name)));
+}
+
+/// Wiring (1 to 10) and nominal frequency (1: 50, 2: 60, 3: 400 Hz); a setting that stands is not written again.
+inline void setUpMeasurement(int joinMode, int frequency = 1)
+{
+    if (m_settingConfig_g.getJoinMode() != joinMode)
+        m_settingConfig_g.setJoinMode(joinMode);
+    if (m_settingConfig_g.getNomFreqSelect() != frequency)
+        m_settingConfig_g.setNomFreq(frequency);
+}
+
+/// Press and release.
+inline void press(QWidget *page, FrontKey key, int times = 1)
+{
+    for (int i = 0; i < times; ++i)
+        QTest::keyClick(page, Qt::Key(key));
+}
+
+/// Press and hold for \a ticks periods of the repeat; the key stays down.
+inline void hold(QWidget *page, FrontKey key, int ticks)
+{
+    QTest::keyPress(page, Qt::Key(key));
+    auto *repeat = page->findChild<KeyRepeat *>();
+    QVERIFY(repeat);
+    for (int i = 0; i < ticks; ++i)
+        repeat->tick();
+}
+
+inline void release(QWidget *page, FrontKey key)
+{
+    QTest::keyRelease(page, Qt::Key(key));
+}
+
+} // namespace PageTest

@@ -1,0 +1,643 @@
+#include "config/config_data.h"
+#include "config/dipswellinfo.h"
+#include "device/displayrecords.h"
+#include "pagetest.h"
+#include "views/common/rmstrend.h"
+#include "views/dips/dipseventpage.h"
+#include "views/dips/dswell.h"
+#include "views/dips/dswellmain.h"
+#include "widgets/dstrendchart.h"
+#include "widgets/eventswidget.h"
+#include "widgets/f_to_str.h"
+#include "widgets/softkeybuttons.h"
+
+#include <QSignalSpy>
+#include <QStackedWidget>
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+#include <memory>
+
+using namespace PageTest;
+
+namespace {
+
+constexpr float kNominal = 230;
+
+__event_item eventOf(int type, int channel = 0)
+{
+    __event_item item;
+    item.type = type;
+    item.channel = channel;
+    return item;
+}
+
+QList<float> constant(int count, float value)
+{
+    QList<float> list;
+    for (int i = 0; i < count; ++i)
+        list << value;
+    return list;
+}
+
+} // namespace
+
+class TstDips : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    // thinning, cursor, axis
+    void aShortDipSurvivesAtEveryZoom_data();
+    void aShortDipSurvivesAtEveryZoom();
+    void eachGroupGivesTheValueFarthestFromTheReference();
+    void ofEquallyFarValuesTheNewestCounts();
+    void aPartialGroupAtTheOldEndGivesAPoint();
+    void offsetBeyondTheListGivesNothing();
+    void wildValuesCountAsZero();
+    void scaleTakesPhasesTogetherAndTheFourthAlone();
+    void valueAtTheCursorCountsBackFromTheWindow();
+    void axisLabelsAreSecondsMinutesOrBoth();
+    void takingValuesKeepsTheNewest();
+    void savedRecordHoldsTrendAndEvents();
+
+    // the trend page
+    void axisFollowsTheNominalFrequency_data();
+    void axisFollowsTheNominalFrequency();
+    void scaleStopsAtTheLastPair();
+    void scaleStopsAtTheFirstPair();
+    void zoomPairsSetSecondsAndValuesPerPoint_data();
+    void zoomPairsSetSecondsAndValuesPerPoint();
+    void exactlyOneOfCursorAndZoomIsOn();
+    void leftPastTheOldestWindowStopsThere();
+    void rightReturnsThroughTheWindowsToTheNewest();
+    void cursorDoesNotEnterTheEmptyPart();
+    void heldCursorGrowsToTwentyPointsPerTick();
+    void cursorValueShowsInTheLabels();
+    void f1SwapsVoltageAndCurrent();
+    void everyRestartBeginsWithTheVoltage();
+    void onePhaseWiringsShowASingleCurve_data();
+    void onePhaseWiringsShowASingleCurve();
+    void holdFreezesTheTrend();
+    void newValuesComeInOnceAndTheOldestGo();
+    void recordsKeepTheirAddresses();
+    void pagesLiveWithoutRecords();
+    void chartCursorStandsOnTheNewestPointAtTheStart();
+
+    // events
+    void withNoEventsTheCounterShowsZeroOfZero();
+    void unbalanceNeverShowsUp();
+    void eventsOfTheFamilyKeepTheirOrder();
+    void upAndDownMoveTheSelectionAndTheCounter();
+    void heldKeyGoesOnOneLineAtATime();
+    void eventKeysOpenTheListAndLeadBack();
+    void restartEmptiesTheLists();
+
+private:
+    DswellMain *mainPage() { return m_page->findChild<DswellMain *>(); }
+    DipsEventPage *eventPage() { return m_page->findChild<DipsEventPage *>(); }
+    DSTrendChart *chart() { return named<DSTrendChart>(mainPage(), "trend"); }
+    void feed(int count, float value = kNominal);
+
+    std::unique_ptr<dswell> m_page;
+};
+
+void TstDips::init()
+{
+    setUpMeasurement(1);
+    DipSwellInfo::m_zoom_index = 0;
+    m_page = std::make_unique<dswell>();
+    m_page->init_parameter();
+}
+
+/// \a count half-cycle values arrive on every phase, and the display is refreshed.
+void TstDips::feed(int count, float value)
+{
+    for (int i = 0; i < count; ++i) {
+        for (int c = 0; c < 3; ++c) {
+            g_dipswell_trend->voltage[c].append(value);
+            g_dipswell_trend->current[c].append(value / 100);
+        }
+    }
+    m_page->updateDisplay(nullptr);
+}
+
+void TstDips::aShortDipSurvivesAtEveryZoom_data()
+{
+    QTest::addColumn<int>("valuesPerPoint");
+    for (const int n : { 2, 4, 8, 10, 12 })
+        QTest::newRow(qPrintable(QString::number(n))) << n;
+}
+
+void TstDips::aShortDipSurvivesAtEveryZoom()
+{
+    QFETCH(int, valuesPerPoint);
+    const int count = 1200; // inside the window of every zoom
+    for (const int place : { 0, 1, 599, 600, 601, 1197, 1198, 1199 }) {
+        QList<float> values = constant(count, kNominal);
+        values[place] = 90;
+        const QVector<float> points = RmsTrend::decimate(values, { 0, valuesPerPoint }, kNominal);
+        QCOMPARE(int(std::count(points.begin(), points.end(), 90.0f)), 1);
+        // Counted from the newest: the point that holds the value.
+        QCOMPARE(points.at(points.size() - 1 - (count - 1 - place) / valuesPerPoint), 90.0f);
+    }
+}
+
+void TstDips::eachGroupGivesTheValueFarthestFromTheReference()
+{
+    const QList<float> values { 5, 230, 231, 233, 100, 229, 230, 228, 300 };
+    // Groups of three from the newest: 300 228 230 | 229 100 233 | 231 230 5
+    QCOMPARE(RmsTrend::decimate(values, { 0, 3 }, 230), QVector<float>({ 5, 100, 300 }));
+    // Against 0, as for a current, the highest: 300 | 233 | 231
+    QCOMPARE(RmsTrend::decimate(values, { 0, 3 }, 0), QVector<float>({ 231, 233, 300 }));
+    // Two values back the groups are 230 229 100 | 233 231 230 | 5
+    QCOMPARE(RmsTrend::decimate(values, { 2, 3 }, 230), QVector<float>({ 5, 233, 100 }));
+}
+
+void TstDips::ofEquallyFarValuesTheNewestCounts()
+{
+    QCOMPARE(RmsTrend::decimate({ 240, 230, 220 }, { 0, 3 }, 230), QVector<float>({ 220 }));
+    QCOMPARE(RmsTrend::decimate({ 220, 230, 240 }, { 0, 3 }, 230), QVector<float>({ 240 }));
+}
+
+void TstDips::aPartialGroupAtTheOldEndGivesAPoint()
+{
+    QCOMPARE(RmsTrend::decimate({ 1, 2, 3, 4 }, { 0, 3 }, 0), QVector<float>({ 1, 4 }));
+    QCOMPARE(RmsTrend::decimate(constant(6001, 1), { 0, 10 }, 0).size(), 600);
+}
+
+void TstDips::offsetBeyondTheListGivesNothing()
+{
+    QVERIFY(RmsTrend::decimate({ 1, 2 }, { 2, 1 }, 0).isEmpty());
+    QVERIFY(RmsTrend::decimate({}, { 0, 1 }, 0).isEmpty());
+    float max[2], min[2];
+    const QList<float> lists[kChannels] = { { 1, 2 }, {}, {}, {} };
+    QVERIFY(RmsTrend::scale(lists, { 2, 1 }, 0, 1.0, max, min).series[0].isEmpty());
+    QVERIFY(RmsTrend::scale(lists, { 2, 1 }, 0, 1.0, max, min).upper[0].isNull());
+}
+
+void TstDips::wildValuesCountAsZero()
+{
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const float inf = std::numeric_limits<float>::infinity();
+    QCOMPARE(RmsTrend::decimate({ nan, 5 }, { 0, 2 }, 0), QVector<float>({ 5 }));
+    QCOMPARE(RmsTrend::decimate({ inf, 5 }, { 0, 2 }, 0), QVector<float>({ 5 }));
+    QCOMPARE(RmsTrend::decimate({ 229, nan }, { 0, 2 }, 230), QVector<float>({ 0 }));
+}
+
+void TstDips::scaleTakesPhasesTogetherAndTheFourthAlone()
+{
+    const QList<float> lists[kChannels] = { { 225, 235 }, { 231, 232 }, { 208, 230 }, { 1, 19 } };
+    float max[2], min[2];
+    const TrendScaler::Picture picture = RmsTrend::scale(lists, { 0, 1 }, 230, 0.1, max, min);
+    // 208 to 235 goes out to 200 and 240, 1 to 19 to 0 and 20; labels are a tenth of it.
+    QCOMPARE(max[0], 240.0f);
+    QCOMPARE(min[0], 200.0f);
+    QCOMPARE(max[1], 20.0f);
+    QCOMPARE(picture.upper[0], QStringLiteral("24"));
+    QCOMPARE(picture.lower[0], QStringLiteral("20"));
+    QCOMPARE(picture.upper[1], QStringLiteral("2"));
+    // (1 - (225 - 200) / 40) x 75 = 28.1; (1 - 35 / 40) x 75 = 9.4
+    QCOMPARE(picture.series[0], QVector<qint16>({ 28, 9 }));
+    // (1 - 1 / 20) x 75 = 71.25; (1 - 19 / 20) x 75 = 3.75
+    QCOMPARE(picture.series[3], QVector<qint16>({ 71, 3 }));
+}
+
+void TstDips::valueAtTheCursorCountsBackFromTheWindow()
+{
+    QList<float> values;
+    for (int i = 0; i < 100; ++i)
+        values << i;
+    QCOMPARE(RmsTrend::valueAt(values, { 0, 1 }, 1), 99.0f);
+    QCOMPARE(RmsTrend::valueAt(values, { 0, 1 }, 100), 0.0f);
+    QCOMPARE(RmsTrend::valueAt(values, { 0, 10 }, 3), 70.0f);
+    QCOMPARE(RmsTrend::valueAt(values, { 20, 10 }, 3), 50.0f);
+    QCOMPARE(RmsTrend::valueAt(values, { 0, 10 }, 600), 0.0f); // held at the oldest
+    QCOMPARE(RmsTrend::valueAt(values, { 100, 1 }, 1), 0.0f); // offset beyond the list
+    QCOMPARE(RmsTrend::valueAt({}, { 0, 1 }, 1), 0.0f);
+}
+
+void TstDips::axisLabelsAreSecondsMinutesOrBoth()
+{
+    QCOMPARE(RmsTrend::axisLabels(6, 60), QStringList({ "1m", "50s", "40s", "30s", "20s", "10s" }));
+    QCOMPARE(RmsTrend::axisLabels(5, 60), QStringList({ "1m", "48s", "36s", "24s", "12s" }));
+    QCOMPARE(RmsTrend::axisLabels(6, 180), QStringList({ "3m", "2m30s", "2m", "1m30s", "1m", "30s" }));
+    QCOMPARE(RmsTrend::axisLabels(5, 40, 60), QStringList({ "1m40s", "1m20s", "1m", "40s", "20s" }));
+}
+
+void TstDips::takingValuesKeepsTheNewest()
+{
+    __rms_trend_data fresh, shown;
+    shown.voltage[0] = { 1, 2, 3 };
+    fresh.voltage[0] = { 4, 5 };
+    fresh.current[2] = { 6, 7, 8, 9, 10, 11 };
+    RmsTrend::takeValues(fresh, shown, 4);
+    QCOMPARE(shown.voltage[0], QList<float>({ 2, 3, 4, 5 }));
+    QCOMPARE(shown.current[2], QList<float>({ 8, 9, 10, 11 }));
+    QVERIFY(fresh.voltage[0].isEmpty());
+    QVERIFY(fresh.current[2].isEmpty());
+}
+
+void TstDips::savedRecordHoldsTrendAndEvents()
+{
+    g_dipswell_trend->voltage[0] = { 230, 231, 232 };
+    g_dipswell_trend->voltage[1] = { 1, 2, 3, 4 }; // longer: cut
+    g_dipswell_trend->current[3] = { 5 }; // shorter: filled up
+    m_page->updateDisplay(nullptr);
+    __event_item dip = eventOf(EventDip, 2);
+    dip.finished = 1;
+    dip.value = 80.5f;
+    dip.startSeconds = 1700000000;
+    dip.startTime = 1700000000123;
+    dip.endTime = 1700000000223;
+    dip.duration = 100;
+    g_events_list = { dip, eventOf(EventSwell) };
+    m_page->refreshEventList(nullptr);
+
+    const QByteArray record = m_page->pqaData();
+    QCOMPARE(record.size(), 8 + 8 * 3 * 4 + 2 * 48);
+    qint32 sizes[2];
+    std::memcpy(sizes, record.constData(), sizeof sizes);
+    QCOMPARE(sizes[0], 96);
+    QCOMPARE(sizes[1], 96);
+    float values[24];
+    std::memcpy(values, record.constData() + 8, sizeof values);
+    QCOMPARE(values[2], 232.0f);
+    QCOMPARE(values[5], 3.0f);
+    QCOMPARE(values[21], 5.0f);
+    QCOMPARE(values[23], 0.0f);
+    qint32 words[12];
+    std::memcpy(words, record.constData() + 8 + 96, sizeof words);
+    QCOMPARE(words[0], 2); // channel
+    QCOMPARE(words[1], int(EventDip));
+    QCOMPARE(words[2], 1); // finished
+    float level;
+    std::memcpy(&level, &words[3], 4);
+    QCOMPARE(level, 80.5f);
+    QCOMPARE(words[4], 1700000000);
+    qint64 times[2];
+    std::memcpy(times, &words[6], sizeof times);
+    QCOMPARE(times[0], qint64(1700000000123));
+    QCOMPARE(times[1], qint64(1700000000223));
+    QCOMPARE(words[10], 100);
+    QCOMPARE(words[5], 0);
+    QCOMPARE(words[11], 0);
+}
+
+void TstDips::axisFollowsTheNominalFrequency_data()
+{
+    QTest::addColumn<int>("select");
+    QTest::addColumn<QStringList>("labels");
+    QTest::addColumn<int>("valuesPerPoint");
+    const QStringList five { "1m", "48s", "36s", "24s", "12s" };
+    QTest::newRow("50 Hz") << 1 << QStringList { "1m", "50s", "40s", "30s", "20s", "10s" } << 10;
+    QTest::newRow("60 Hz") << 2 << five << 12;
+    QTest::newRow("400 Hz") << 3 << five << 10; // 100 a second over 60 s
+}
+
+void TstDips::axisFollowsTheNominalFrequency()
+{
+    QFETCH(int, select);
+    QFETCH(QStringList, labels);
+    QFETCH(int, valuesPerPoint);
+    setUpMeasurement(1, select);
+    m_page->init_parameter();
+    QCOMPARE(chart()->fullScale(), labels);
+    QCOMPARE(mainPage()->seconds(), 60);
+    QCOMPARE(mainPage()->window().valuesPerPoint, valuesPerPoint);
+}
+
+void TstDips::scaleStopsAtTheLastPair()
+{
+    press(mainPage(), Right, 3);
+    QCOMPARE(mainPage()->seconds(), 12);
+    QCOMPARE(chart()->fullScale(), QStringList({ "12s", "10s", "8s", "6s", "4s", "2s" }));
+    press(mainPage(), Right);
+    QCOMPARE(mainPage()->seconds(), 12);
+    QCOMPARE(mainPage()->window().valuesPerPoint, 2);
+    QCOMPARE(DipSwellInfo::m_zoom_index, 3);
+}
+
+void TstDips::scaleStopsAtTheFirstPair()
+{
+    press(mainPage(), Left);
+    QCOMPARE(mainPage()->seconds(), 60);
+    QCOMPARE(DipSwellInfo::m_zoom_index, 0);
+}
+
+void TstDips::zoomPairsSetSecondsAndValuesPerPoint_data()
+{
+    QTest::addColumn<int>("select");
+    QTest::addColumn<QVector<int>>("seconds");
+    QTest::addColumn<QVector<int>>("values");
+    QTest::newRow("50 Hz") << 1 << QVector<int> { 48, 24, 12, 24, 48, 60 } << QVector<int> { 8, 4, 2, 4, 8, 10 };
+    QTest::newRow("60 Hz") << 2 << QVector<int> { 40, 20, 10, 20, 40, 60 } << QVector<int> { 8, 4, 2, 4, 8, 12 };
+    QTest::newRow("400 Hz") << 3 << QVector<int> { 48, 24, 12, 24, 48, 60 } << QVector<int> { 8, 4, 2, 4, 8, 12 };
+}
+
+void TstDips::zoomPairsSetSecondsAndValuesPerPoint()
+{
+    QFETCH(int, select);
+    QFETCH(QVector<int>, seconds);
+    QFETCH(QVector<int>, values);
+    setUpMeasurement(1, select);
+    m_page->init_parameter();
+    for (int i = 0; i < 6; ++i) {
+        press(mainPage(), i < 3 ? Right : Left);
+        QCOMPARE(mainPage()->seconds(), seconds[i]);
+        QCOMPARE(mainPage()->window().valuesPerPoint, values[i]);
+        QCOMPARE(mainPage()->window().values(), 600 * values[i]);
+    }
+}
+
+void TstDips::exactlyOneOfCursorAndZoomIsOn()
+{
+    QVERIFY(mainPage()->zoomOn());
+    QVERIFY(!mainPage()->cursorOn());
+    for (const FrontKey key : { F3, F3, F4, F4, F4, F3 }) {
+        const bool cursor = mainPage()->cursorOn();
+        press(mainPage(), key);
+        QCOMPARE(mainPage()->cursorOn(), !cursor);
+        QCOMPARE(mainPage()->zoomOn(), cursor);
+        QCOMPARE(chart()->cursorOn(), !cursor);
+        QCOMPARE(mainPage()->findChild<Btn2 *>()->btnFlag(), int(!cursor));
+        QCOMPARE(mainPage()->findChild<Btn3 *>()->btnFlag(), int(cursor));
+    }
+}
+
+void TstDips::leftPastTheOldestWindowStopsThere()
+{
+    feed(6000);
+    press(mainPage(), Right, 3); // two values a point: a window of 1200
+    press(mainPage(), F3);
+    hold(mainPage(), Left, 1000);
+    release(mainPage(), Left);
+    // Windows move by 600 values as long as older ones lie behind: 4800 + 1200 reaches the oldest.
+    QCOMPARE(mainPage()->window().offset, 4800);
+    QCOMPARE(mainPage()->cursorPosition(), 600);
+    press(mainPage(), Left);
+    QCOMPARE(mainPage()->window().offset, 4800);
+    QCOMPARE(mainPage()->cursorPosition(), 600);
+}
+
+void TstDips::rightReturnsThroughTheWindowsToTheNewest()
+{
+    feed(6000);
+    press(mainPage(), Right, 3);
+    press(mainPage(), F3);
+    press(mainPage(), Left, 600); // 599 to the edge, then into the next window
+    QCOMPARE(mainPage()->window().offset, 600);
+    QCOMPARE(mainPage()->cursorPosition(), 1);
+    press(mainPage(), Right);
+    QCOMPARE(mainPage()->window().offset, 0);
+    QCOMPARE(mainPage()->cursorPosition(), 600);
+    QCOMPARE(chart()->cursorPosition(), 1);
+    press(mainPage(), Right, 599);
+    QCOMPARE(mainPage()->cursorPosition(), 1);
+    press(mainPage(), Right);
+    QCOMPARE(mainPage()->cursorPosition(), 1);
+    QCOMPARE(mainPage()->window().offset, 0);
+}
+
+void TstDips::cursorDoesNotEnterTheEmptyPart()
+{
+    feed(1000); // 100 points of ten values
+    press(mainPage(), F3);
+    hold(mainPage(), Left, 40);
+    release(mainPage(), Left);
+    QCOMPARE(mainPage()->cursorPosition(), 100);
+    QCOMPARE(chart()->cursorPosition(), 501);
+    QCOMPARE(mainPage()->window().offset, 0);
+    // Zoomed in and out again the cursor stays on the curve.
+    press(mainPage(), F4);
+    press(mainPage(), Right, 3);
+    press(mainPage(), F3);
+    hold(mainPage(), Left, 40);
+    release(mainPage(), Left);
+    QCOMPARE(mainPage()->cursorPosition(), 500);
+    press(mainPage(), F4);
+    press(mainPage(), Left, 3);
+    QCOMPARE(mainPage()->cursorPosition(), 100);
+}
+
+void TstDips::heldCursorGrowsToTwentyPointsPerTick()
+{
+    feed(6000);
+    press(mainPage(), F3);
+    hold(mainPage(), Left, 3);
+    QCOMPARE(mainPage()->cursorPosition(), 5);
+    auto *repeat = mainPage()->findChild<KeyRepeat *>();
+    for (int i = 0; i < 7; ++i)
+        repeat->tick();
+    QCOMPARE(mainPage()->cursorPosition(), 5 + 3 * 5 + 3 * 10 + 20);
+    release(mainPage(), Left);
+    QVERIFY(!repeat->isActive());
+}
+
+void TstDips::cursorValueShowsInTheLabels()
+{
+    for (int i = 0; i < 6000; ++i) {
+        for (int c = 0; c < 3; ++c)
+            g_dipswell_trend->voltage[c].append(i < 5970 ? 200.0f + c : 240.0f + c);
+    }
+    m_page->updateDisplay(nullptr);
+    QCOMPARE(text(mainPage(), "D1_Caption"), QStringLiteral("L1:"));
+    QCOMPARE(text(mainPage(), "D3_Value"), F_to_Str::number_V(242.0f));
+    press(mainPage(), F3);
+    press(mainPage(), Left, 3); // the fourth point is behind the last thirty values
+    QCOMPARE(text(mainPage(), "D1_Value"), F_to_Str::number_V(200.0f));
+    QCOMPARE(text(mainPage(), "D2_Value"), F_to_Str::number_V(201.0f));
+    press(mainPage(), Right);
+    QCOMPARE(text(mainPage(), "D1_Value"), F_to_Str::number_V(240.0f));
+}
+
+void TstDips::f1SwapsVoltageAndCurrent()
+{
+    feed(100);
+    QCOMPARE(text(mainPage(), "btn_f1"), QStringLiteral("U(%1)").arg(m_settingConfig_g.units().volt));
+    press(mainPage(), F1);
+    QCOMPARE(mainPage()->quantity(), int(RmsTrendPage::Current));
+    QCOMPARE(text(mainPage(), "btn_f1"), QStringLiteral("I(%1)").arg(m_settingConfig_g.units().ampere));
+    QCOMPARE(text(mainPage(), "D1_Value"), F_to_Str::number_A(2.3f));
+    press(mainPage(), F1);
+    QCOMPARE(mainPage()->quantity(), int(RmsTrendPage::Voltage));
+}
+
+void TstDips::everyRestartBeginsWithTheVoltage()
+{
+    for (int i = 0; i < 3; ++i) {
+        m_page->init_parameter();
+        QCOMPARE(mainPage()->quantity(), int(RmsTrendPage::Voltage));
+    }
+    press(mainPage(), F1);
+    m_page->init_parameter();
+    QCOMPARE(mainPage()->quantity(), int(RmsTrendPage::Voltage));
+}
+
+void TstDips::onePhaseWiringsShowASingleCurve_data()
+{
+    QTest::addColumn<int>("joinMode");
+    QTest::addColumn<int>("flags");
+    const int flags[] = { 15, 7, 1, 7, 11, 1, 15, 7, 15, 7 };
+    for (int mode = 1; mode <= 10; ++mode)
+        QTest::newRow(qPrintable(SettingConfig::getJoinModeName(mode))) << mode << flags[mode - 1];
+}
+
+void TstDips::onePhaseWiringsShowASingleCurve()
+{
+    QFETCH(int, joinMode);
+    QFETCH(int, flags);
+    setUpMeasurement(joinMode);
+    m_page->init_parameter();
+    feed(10);
+    QCOMPARE(chart()->flags(), flags);
+}
+
+void TstDips::holdFreezesTheTrend()
+{
+    feed(50);
+    emit m_page->taskPaused();
+    feed(50, 100);
+    QCOMPARE(g_dipswell_trend_ui->voltage[0].size(), 50);
+    QCOMPARE(text(mainPage(), "D1_Value"), F_to_Str::number_V(kNominal));
+    emit m_page->taskContinued();
+    m_page->updateDisplay(nullptr);
+    QCOMPARE(g_dipswell_trend_ui->voltage[0].size(), 100);
+    QCOMPARE(text(mainPage(), "D1_Value"), F_to_Str::number_V(100));
+}
+
+void TstDips::newValuesComeInOnceAndTheOldestGo()
+{
+    feed(5990);
+    m_page->updateDisplay(nullptr);
+    QCOMPARE(g_dipswell_trend_ui->voltage[1].size(), 5990);
+    feed(20, 100);
+    QCOMPARE(g_dipswell_trend_ui->voltage[1].size(), 6000); // a minute
+    QCOMPARE(g_dipswell_trend_ui->voltage[1].at(5979), kNominal);
+    QCOMPARE(g_dipswell_trend_ui->voltage[1].at(5980), 100.0f);
+}
+
+void TstDips::recordsKeepTheirAddresses()
+{
+    const auto *record = g_dipswell_trend;
+    const auto *copy = g_dipswell_trend_ui;
+    feed(10);
+    for (int i = 0; i < 3; ++i)
+        m_page->init_parameter();
+    QVERIFY(g_dipswell_trend == record && g_dipswell_trend_ui == copy);
+    QVERIFY(g_dipswell_trend_ui->voltage[0].isEmpty());
+}
+
+void TstDips::pagesLiveWithoutRecords()
+{
+    const auto record = std::exchange(g_dipswell_trend, nullptr);
+    const auto copy = std::exchange(g_dipswell_trend_ui, nullptr);
+    {
+        dswell page;
+        page.updateDisplay(nullptr);
+        page.refreshEventList(nullptr);
+        page.retranslateUi();
+        for (const FrontKey key : { F1, F2, F3, Left, Right, F4, Left, Right, F5 })
+            press(page.findChild<DswellMain *>(), key);
+        QVERIFY(page.pqaData().isEmpty());
+    }
+    g_dipswell_trend = record;
+    g_dipswell_trend_ui = copy;
+}
+
+void TstDips::chartCursorStandsOnTheNewestPointAtTheStart()
+{
+    QCOMPARE(chart()->cursorPosition(), 600);
+    QVERIFY(!chart()->cursorOn());
+    QCOMPARE(mainPage()->cursorPosition(), 1);
+}
+
+void TstDips::withNoEventsTheCounterShowsZeroOfZero()
+{
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("0/0"));
+    QCOMPARE(text(eventPage(), "events_t"), QStringLiteral("EVENTS :"));
+    press(eventPage(), Down, 2);
+    press(eventPage(), Up);
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("0/0"));
+}
+
+void TstDips::unbalanceNeverShowsUp()
+{
+    for (int type = 0; type <= 34; ++type)
+        g_events_list.append(eventOf(type));
+    m_page->refreshEventList(nullptr);
+    QCOMPARE(m_ds_events_list.size(), 4);
+    for (const __event_item &item : qAsConst(m_ds_events_list))
+        QVERIFY(item.type != EventUnbalance && item.type >= 27 && item.type <= 30);
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("1/4"));
+    QCOMPARE(text(mainPage(), "events_count"), QStringLiteral("4"));
+}
+
+void TstDips::eventsOfTheFamilyKeepTheirOrder()
+{
+    g_events_list = { eventOf(EventSwell),  eventOf(EventRms), eventOf(EventInterruption), eventOf(EventDip),
+                      eventOf(EventInrush), eventOf(EventRvc), eventOf(EventDip) };
+    m_page->refreshEventList(nullptr);
+    QList<int> types;
+    for (const __event_item &item : qAsConst(m_ds_events_list))
+        types << item.type;
+    QCOMPARE(types, QList<int>({ 28, 29, 27, 30, 27 }));
+    m_page->refreshEventList(nullptr);
+    QCOMPARE(m_ds_events_list.size(), 5);
+}
+
+void TstDips::upAndDownMoveTheSelectionAndTheCounter()
+{
+    for (int i = 0; i < 20; ++i)
+        g_events_list.append(eventOf(EventDip));
+    m_page->refreshEventList(nullptr);
+    press(eventPage(), Down, 14);
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("15/20"));
+    QCOMPARE(named<EventsWidget>(eventPage(), "events")->firstShown(), 2);
+    press(eventPage(), Up, 3);
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("12/20"));
+    press(eventPage(), Down, 30);
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("20/20"));
+    press(eventPage(), Up, 30);
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("1/20"));
+}
+
+void TstDips::heldKeyGoesOnOneLineAtATime()
+{
+    for (int i = 0; i < 50; ++i)
+        g_events_list.append(eventOf(EventDip));
+    m_page->refreshEventList(nullptr);
+    hold(eventPage(), Down, 12);
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("14/50"));
+    release(eventPage(), Down);
+    QVERIFY(!eventPage()->findChild<KeyRepeat *>()->isActive());
+}
+
+void TstDips::eventKeysOpenTheListAndLeadBack()
+{
+    QCOMPARE(text(mainPage(), "btn_f2"), QStringLiteral("Events"));
+    QCOMPARE(text(eventPage(), "btn_f5"), QStringLiteral("Back"));
+    press(mainPage(), F2);
+    QCOMPARE(static_cast<QWidget *>(m_page->currentPage()), static_cast<QWidget *>(eventPage()));
+    press(eventPage(), F5);
+    QCOMPARE(static_cast<QWidget *>(m_page->currentPage()), static_cast<QWidget *>(mainPage()));
+    emit m_page->taskPaused();
+    QCOMPARE(text(eventPage(), "btn_f5"), QStringLiteral("Back"));
+}
+
+void TstDips::restartEmptiesTheLists()
+{
+    g_events_list = { eventOf(EventDip) };
+    m_page->refreshEventList(nullptr);
+    m_page->init_parameter();
+    QVERIFY(g_events_list.isEmpty());
+    QVERIFY(m_ds_events_list.isEmpty());
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("0/0"));
+    QCOMPARE(text(mainPage(), "events_count"), QStringLiteral("0"));
+}
+
+QTEST_MAIN(TstDips)
+#include "tst_dips.moc"

@@ -1,0 +1,598 @@
+#include "config/config_data.h"
+#include "config/phasecolor.h"
+#include "device/displayrecords.h"
+#include "pagetest.h"
+#include "views/scope/linesample.h"
+#include "views/scope/scopepage.h"
+#include "widgets/f_to_str.h"
+#include "widgets/scopewidget.h"
+#include "widgets/softkeybuttons.h"
+
+#include <QSignalSpy>
+
+#include <cmath>
+#include <cstring>
+#include <memory>
+#include <vector>
+
+using namespace PageTest;
+
+namespace {
+
+constexpr double kPi = 3.14159265358979323846;
+constexpr double kPerSample = 10.0 / 32768.0; // converter volts
+
+/// Volts for one converter volt at unit transformer ratio, from the calibration block.
+double voltGain(int channel)
+{
+    return m_calib_data_g.data().volt[m_settingConfig_g.getVoltIndex()][channel];
+}
+
+/// Amperes for one converter volt: millivolts of the gain row over the clamp's mV/A.
+double ampereGain(int channel)
+{
+    return m_calib_data_g.data().current[m_settingConfig_g.getCurrentIndex()][channel]
+        / (m_settingConfig_g.curClamp()->ratio() / 1000.0);
+}
+
+} // namespace
+
+class TstScope : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    // lineSample
+    void oneCycleSpreadsTheFirstTenthOverAllPoints();
+    void eightCyclesReachTheLastPointOfTheEighth();
+    void pointsBetweenSamplesLieOnTheLine();
+    void negativeValuesAreCutTowardsZero();
+    void readingNeverLeavesTheSource();
+    void fullScaleJumpsDoNotOverflow();
+    void uselessNumbersWriteNothing();
+
+    // the page
+    void f1StepsThroughTheModesOfTheWiring_data();
+    void f1StepsThroughTheModesOfTheWiring();
+    void modesShowTheirCurves_data();
+    void modesShowTheirCurves();
+    void oneEightCyclesFillTheScreen_data();
+    void oneEightCyclesFillTheScreen();
+    void waveStepMovesThroughItsValues();
+    void waveStepShowsAlsoOnHold();
+    void cursorShowsTheSampleInVoltsAndAmperes();
+    void withoutCursorTheRmsValuesShow();
+    void oneChannelShowsVoltageAndCurrentInTwoRows();
+    void captionsFollowTheWiring();
+    void captionsHaveTheColoursOfTheCurves();
+    void holdKeepsSamplesWhileCursorAndZoomWork();
+    void heldCursorGrowsToTwentyPointsPerTick();
+    void cursorStopsAtBothEnds();
+    void releaseOfTheKeyStopsTheCursor();
+    void arrowsWithoutCursorAndZoomAreAcceptedAndDoNothing();
+    void zoomStepsThroughThirteenTexts();
+    void zoomOffLocksUpAndDown();
+    void nominalVoltagePeaksAtTheEdgeOfTheGrid();
+    void nominalCurrentPeaksAtTheEdgeOfTheGrid();
+    void savedRecordIsInPhysicalUnits();
+    void withoutLockTheFrequencyIsGrey();
+    void f6StaysHere();
+    void restartForgetsEverything();
+    void holdLabelFollowsTheTask();
+    void pageLivesWithoutRecords();
+    void refreshIsHarmlessWhenRepeated();
+
+private:
+    ScopeWidget *scope() { return named<ScopeWidget>(m_page.get(), "scope"); }
+    static void fillSine(int cycles, double amplitude);
+
+    std::unique_ptr<ScopePage> m_page;
+};
+
+void TstScope::init()
+{
+    setUpMeasurement(1);
+    m_page = std::make_unique<ScopePage>();
+    m_page->init_parameter();
+}
+
+void TstScope::fillSine(int cycles, double amplitude)
+{
+    for (int c = 0; c < 4; ++c) {
+        for (int i = 0; i < 4096; ++i) {
+            const double s = amplitude * std::sin(2 * kPi * cycles * (i + 0.5) / 4090.0);
+            g_scope_data->voltageSamples[c][i] = qint16(std::lround(s));
+            g_scope_data->currentSamples[c][i] = qint16(std::lround(-s));
+        }
+    }
+}
+
+void TstScope::oneCycleSpreadsTheFirstTenthOverAllPoints()
+{
+    std::vector<qint16> src(4096);
+    for (int i = 0; i < 4096; ++i)
+        src[i] = qint16(i);
+    qint16 dst[600];
+    lineSample(dst, src.data(), 600, 1, 4096, 10);
+    for (int i = 0; i < 600; ++i)
+        QCOMPARE(int(dst[i]), i * 409 / 599); // 4096 / 10 in whole samples
+}
+
+void TstScope::eightCyclesReachTheLastPointOfTheEighth()
+{
+    std::vector<qint16> src(4096);
+    for (int i = 0; i < 4096; ++i)
+        src[i] = qint16(i);
+    qint16 dst[600];
+    lineSample(dst, src.data(), 600, 8, 4096, 10);
+    QCOMPARE(int(dst[0]), 0);
+    QCOMPARE(int(dst[300]), 300 * 3272 / 599);
+    QCOMPARE(int(dst[599]), 8 * 409);
+}
+
+void TstScope::pointsBetweenSamplesLieOnTheLine()
+{
+    std::vector<qint16> src(4096, 0);
+    for (int i = 0; i < 420; ++i)
+        src[i] = qint16(10 * i);
+    qint16 dst[600];
+    lineSample(dst, src.data(), 600, 1, 4096, 10);
+    for (int i = 0; i < 600; ++i)
+        QCOMPARE(int(dst[i]), 4090 * i / 599);
+}
+
+void TstScope::negativeValuesAreCutTowardsZero()
+{
+    std::vector<qint16> src(4096, 0);
+    for (int i = 0; i < 420; ++i)
+        src[i] = qint16(-10 * i);
+    qint16 dst[600];
+    lineSample(dst, src.data(), 600, 1, 4096, 10);
+    for (int i = 0; i < 600; ++i)
+        QCOMPARE(int(dst[i]), -(4090 * i / 599));
+}
+
+void TstScope::readingNeverLeavesTheSource()
+{
+    std::vector<qint16> src(50, 7);
+    src.back() = 11;
+    for (const int step : { 1, 10, 11, 1000, 2000000000 }) {
+        qint16 dst[600];
+        lineSample(dst, src.data(), 600, step, 50, 10);
+        QCOMPARE(int(dst[0]), 7);
+        if (step > 10)
+            QCOMPARE(int(dst[599]), 11);
+    }
+}
+
+void TstScope::fullScaleJumpsDoNotOverflow()
+{
+    std::vector<qint16> src(4096);
+    for (int i = 0; i < 4096; ++i)
+        src[i] = i % 2 ? 32767 : -32768;
+    qint16 dst[600];
+    lineSample(dst, src.data(), 600, 1, 4096, 10);
+    // Point 300 lies at 300 x 409 / 599 = 204.841...: between -32768 and 32767.
+    const double p = 300 * 409 / 599.0;
+    QVERIFY(std::abs(dst[300] - (-32768 + (p - 204) * 65535)) < 8);
+}
+
+void TstScope::uselessNumbersWriteNothing()
+{
+    const qint16 src[4] = { 1, 2, 3, 4 };
+    qint16 dst[2] = { 9, 9 };
+    lineSample(dst, src, 0, 1, 4, 1);
+    lineSample(dst, src, 2, 0, 4, 1);
+    lineSample(dst, src, 2, 1, 0, 1);
+    lineSample(dst, src, 2, 1, 4, 0);
+    QCOMPARE(int(dst[0]), 9);
+    lineSample(dst, src, 1, 1, 4, 1);
+    QCOMPARE(int(dst[0]), 1);
+    QCOMPARE(int(dst[1]), 9);
+}
+
+void TstScope::f1StepsThroughTheModesOfTheWiring_data()
+{
+    QTest::addColumn<int>("joinMode");
+    QTest::addColumn<QVector<int>>("cycle");
+    const QVector<int> four { 1, 2, 3, 4, 5, 0 };
+    const QVector<int> three { 1, 3, 4, 5, 0 };
+    QTest::newRow("3P WYE") << 1 << four;
+    QTest::newRow("3P IT") << 2 << three;
+    QTest::newRow("1P") << 3 << QVector<int> { 1, 2, 3, 0 };
+    QTest::newRow("3P DELTA") << 4 << three;
+    QTest::newRow("1P SPLIT") << 5 << QVector<int> { 1, 2, 3, 4, 0 };
+    QTest::newRow("1P IT") << 6 << QVector<int> { 1, 3, 0 };
+    QTest::newRow("H-LEG") << 7 << four;
+    QTest::newRow("O-LEG") << 8 << three;
+    QTest::newRow("2.5-ELMT") << 9 << four;
+    QTest::newRow("2-ELMT") << 10 << three;
+}
+
+void TstScope::f1StepsThroughTheModesOfTheWiring()
+{
+    QFETCH(int, joinMode);
+    QFETCH(QVector<int>, cycle);
+    setUpMeasurement(joinMode);
+    m_page->init_parameter();
+    QCOMPARE(m_page->displayMode(), 0);
+    for (const int mode : cycle) {
+        press(m_page.get(), F1);
+        QCOMPARE(m_page->displayMode(), mode);
+        QCOMPARE(m_page->findChild<Btn1 *>()->btnFlag(), mode);
+    }
+}
+
+void TstScope::modesShowTheirCurves_data()
+{
+    QTest::addColumn<int>("joinMode");
+    QTest::addColumn<QVector<int>>("flags"); // in the order of the cycle
+    QTest::newRow("3P WYE") << 1 << QVector<int> { 15, 240, 136, 17, 34, 68 };
+    QTest::newRow("3P DELTA") << 4 << QVector<int> { 7, 112, 17, 34, 68 };
+    QTest::newRow("1P") << 3 << QVector<int> { 9, 144, 136, 17 };
+    QTest::newRow("1P SPLIT") << 5 << QVector<int> { 11, 176, 136, 17, 34 };
+    QTest::newRow("1P IT") << 6 << QVector<int> { 1, 16, 17 };
+}
+
+void TstScope::modesShowTheirCurves()
+{
+    QFETCH(int, joinMode);
+    QFETCH(QVector<int>, flags);
+    setUpMeasurement(joinMode);
+    m_page->init_parameter();
+    for (const int expected : flags) {
+        QCOMPARE(int(scope()->flags()), expected);
+        press(m_page.get(), F1);
+    }
+}
+
+void TstScope::oneEightCyclesFillTheScreen_data()
+{
+    QTest::addColumn<int>("step");
+    for (const int step : { 1, 2, 4, 6, 8 })
+        QTest::newRow(qPrintable(QString::number(step))) << step;
+}
+
+void TstScope::oneEightCyclesFillTheScreen()
+{
+    QFETCH(int, step);
+    fillSine(10, 10000);
+    wave_step = step;
+    m_page->updateDisplay(nullptr);
+    int falling = 0; // once in the middle of each cycle
+    const qint16 *s = g_scope_data_ui->voltageSamples[2];
+    for (int i = 1; i < 600; ++i)
+        falling += s[i - 1] >= 0 && s[i] < 0;
+    QCOMPARE(falling, step);
+}
+
+void TstScope::waveStepMovesThroughItsValues()
+{
+    QCOMPARE(wave_step, 1);
+    press(m_page.get(), F3); // cursor off, zoom is on
+    QVector<int> up, down;
+    for (int i = 0; i < 5; ++i) {
+        press(m_page.get(), Right);
+        up << wave_step;
+    }
+    for (int i = 0; i < 5; ++i) {
+        press(m_page.get(), Left);
+        down << wave_step;
+    }
+    QCOMPARE(up, QVector<int>({ 2, 4, 6, 8, 8 }));
+    QCOMPARE(down, QVector<int>({ 6, 4, 2, 1, 1 }));
+}
+
+void TstScope::waveStepShowsAlsoOnHold()
+{
+    fillSine(10, 10000);
+    m_page->updateDisplay(nullptr);
+    emit m_page->taskPaused();
+    const qint16 before = g_scope_data_ui->voltageSamples[0][150];
+    press(m_page.get(), F3);
+    press(m_page.get(), Right);
+    QVERIFY(g_scope_data_ui->voltageSamples[0][150] != before);
+}
+
+void TstScope::cursorShowsTheSampleInVoltsAndAmperes()
+{
+    for (int i = 0; i < 4096; ++i) {
+        for (int c = 0; c < 4; ++c) {
+            g_scope_data->voltageSamples[c][i] = qint16(1000 * (c + 1));
+            g_scope_data->currentSamples[c][i] = qint16(-2000 * (c + 1));
+        }
+    }
+    m_page->updateDisplay(nullptr);
+    const char *const places[] = { "D1_Value", "D2_Value", "D3_Value", "D4_Value" };
+    for (int c = 0; c < 4; ++c)
+        QCOMPARE(text(m_page.get(), places[c]), F_to_Str::number_V(float(1000 * (c + 1) * kPerSample * voltGain(c))));
+    press(m_page.get(), F1);
+    for (int c = 0; c < 4; ++c)
+        QCOMPARE(text(m_page.get(), places[c]),
+                 F_to_Str::number_A(float(-2000 * (c + 1) * kPerSample * ampereGain(c))));
+}
+
+void TstScope::withoutCursorTheRmsValuesShow()
+{
+    for (int c = 0; c < 4; ++c) {
+        g_scope_data->voltage[c] = 230.5f + c;
+        g_scope_data->current[c] = 1.25f + c;
+    }
+    press(m_page.get(), F3);
+    m_page->updateDisplay(nullptr);
+    QCOMPARE(text(m_page.get(), "D2_Value"), F_to_Str::number_V(231.5f));
+    QCOMPARE(text(m_page.get(), "D4_Value"), F_to_Str::number_V(233.5f));
+    press(m_page.get(), F1);
+    QCOMPARE(text(m_page.get(), "D1_Value"), F_to_Str::number_A(1.25f));
+}
+
+void TstScope::oneChannelShowsVoltageAndCurrentInTwoRows()
+{
+    for (int c = 0; c < 4; ++c) {
+        g_scope_data->voltage[c] = 100.0f + c;
+        g_scope_data->current[c] = 10.0f + c;
+    }
+    press(m_page.get(), F3);
+    press(m_page.get(), F1, 4); // L2
+    QCOMPARE(m_page->displayMode(), 4);
+    m_page->updateDisplay(nullptr);
+    QCOMPARE(text(m_page.get(), "D1_Caption"), QStringLiteral("L2:"));
+    QCOMPARE(text(m_page.get(), "D2_Caption"), QStringLiteral("L2:"));
+    QCOMPARE(text(m_page.get(), "D1_Value"), F_to_Str::number_V(101.0f));
+    QCOMPARE(text(m_page.get(), "D2_Value"), F_to_Str::number_A(11.0f));
+    QCOMPARE(text(m_page.get(), "D3_Caption"), QString());
+    QCOMPARE(text(m_page.get(), "D3_Value"), QString());
+    QCOMPARE(text(m_page.get(), "D4_Value"), QString());
+}
+
+void TstScope::captionsFollowTheWiring()
+{
+    QCOMPARE(text(m_page.get(), "D4_Caption"), QStringLiteral("N:"));
+    setUpMeasurement(4);
+    m_page->init_parameter();
+    QCOMPARE(text(m_page.get(), "D1_Caption"), QStringLiteral("L12:"));
+    QCOMPARE(text(m_page.get(), "D2_Caption"), QStringLiteral("L23:"));
+    QCOMPARE(text(m_page.get(), "D3_Caption"), QStringLiteral("L31:"));
+    QCOMPARE(text(m_page.get(), "D4_Caption"), QString());
+    setUpMeasurement(3);
+    m_page->init_parameter();
+    QCOMPARE(text(m_page.get(), "D1_Caption"), QStringLiteral("L1:"));
+    QCOMPARE(text(m_page.get(), "D2_Caption"), QString());
+    QCOMPARE(text(m_page.get(), "D4_Caption"), QStringLiteral("N:"));
+}
+
+void TstScope::captionsHaveTheColoursOfTheCurves()
+{
+    QCOMPARE(sheet(m_page.get(), "D2_Caption"), QStringLiteral("color: %1;").arg(PhaseColor::colorUB().name()));
+    press(m_page.get(), F1);
+    QCOMPARE(sheet(m_page.get(), "D2_Caption"), QStringLiteral("color: %1;").arg(PhaseColor::colorIB().name()));
+}
+
+void TstScope::holdKeepsSamplesWhileCursorAndZoomWork()
+{
+    for (int i = 0; i < 4096; ++i)
+        g_scope_data->voltageSamples[0][i] = qint16(i * 7);
+    m_page->updateDisplay(nullptr);
+    emit m_page->taskPaused();
+    QCOMPARE(text(m_page.get(), "btn_f5"), QStringLiteral("Run"));
+    const QString first = text(m_page.get(), "D1_Value");
+    hold(m_page.get(), Right, 8);
+    release(m_page.get(), Right);
+    // 1 + 3 x 1 + 3 x 5 + 2 x 10 = 39 points on: position 39 x 409 / 599 of a ramp of 7 for a sample
+    const int sample = int(7 * 39 * 409 / 599.0);
+    QCOMPARE(text(m_page.get(), "D1_Value"), F_to_Str::number_V(float(sample * kPerSample * voltGain(0))));
+    QVERIFY(text(m_page.get(), "D1_Value") != first);
+    press(m_page.get(), Up);
+    QCOMPARE(text(m_page.get(), "zoom_scale"), QStringLiteral("2X"));
+}
+
+void TstScope::heldCursorGrowsToTwentyPointsPerTick()
+{
+    const auto index = [this] { return scope()->cursorPosition() - 1; };
+    QCOMPARE(index(), 0);
+    hold(m_page.get(), Right, 3);
+    QCOMPARE(index(), 4);
+    auto *repeat = m_page->findChild<KeyRepeat *>();
+    repeat->tick();
+    QCOMPARE(index(), 9);
+    for (int i = 0; i < 3; ++i)
+        repeat->tick();
+    QCOMPARE(index(), 29); // 5, 5, 10
+    for (int i = 0; i < 3; ++i)
+        repeat->tick();
+    QCOMPARE(index(), 69); // 10, 10, 20
+    release(m_page.get(), Right);
+    press(m_page.get(), Left);
+    QCOMPARE(index(), 68);
+}
+
+void TstScope::cursorStopsAtBothEnds()
+{
+    press(m_page.get(), Left);
+    QCOMPARE(scope()->cursorPosition(), 1);
+    hold(m_page.get(), Right, 60);
+    QCOMPARE(scope()->cursorPosition(), 600);
+    release(m_page.get(), Right);
+}
+
+void TstScope::releaseOfTheKeyStopsTheCursor()
+{
+    auto *repeat = m_page->findChild<KeyRepeat *>();
+    QTest::keyPress(m_page.get(), Qt::Key(Right));
+    QVERIFY(repeat->isActive());
+    QTest::keyRelease(m_page.get(), Qt::Key(Up));
+    QVERIFY(repeat->isActive());
+    QTest::keyRelease(m_page.get(), Qt::Key(Right));
+    QVERIFY(!repeat->isActive());
+}
+
+void TstScope::arrowsWithoutCursorAndZoomAreAcceptedAndDoNothing()
+{
+    press(m_page.get(), F3);
+    press(m_page.get(), F4);
+    for (const FrontKey key : { Left, Right, Up, Down }) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        event.ignore();
+        QCoreApplication::sendEvent(m_page.get(), &event);
+        QVERIFY(event.isAccepted());
+    }
+    QCOMPARE(wave_step, 1);
+    QCOMPARE(scope()->getZoomIndex(), 6);
+    QCOMPARE(scope()->cursorPosition(), 1);
+}
+
+void TstScope::zoomStepsThroughThirteenTexts()
+{
+    QCOMPARE(text(m_page.get(), "zoom_t"), QStringLiteral("1 *"));
+    QCOMPARE(text(m_page.get(), "zoom_scale"), QStringLiteral("1X"));
+    press(m_page.get(), Down, 20);
+    QStringList seen { text(m_page.get(), "zoom_scale") };
+    for (int i = 0; i < 13; ++i) {
+        press(m_page.get(), Up);
+        seen << text(m_page.get(), "zoom_scale");
+    }
+    QCOMPARE(seen,
+             QStringList({ "1/32X", "1/16X", "1/10X", "1/8X", "1/4X", "1/2X", "1X", "2X", "4X", "8X", "10X", "16X",
+                           "32X", "32X" }));
+    press(m_page.get(), F2);
+    QCOMPARE(text(m_page.get(), "zoom_scale"), QStringLiteral("1X"));
+}
+
+void TstScope::zoomOffLocksUpAndDown()
+{
+    press(m_page.get(), F4);
+    press(m_page.get(), Up);
+    press(m_page.get(), Down, 2);
+    QCOMPARE(text(m_page.get(), "zoom_scale"), QStringLiteral("1X"));
+}
+
+void TstScope::nominalVoltagePeaksAtTheEdgeOfTheGrid()
+{
+    // Raw peak of a sine of the nominal r.m.s. voltage.
+    const double peak = m_settingConfig_g.getNomVolt() * std::sqrt(2.0) / (kPerSample * voltGain(0));
+    QVERIFY(std::abs(peak * scope()->getScaleU() - 146.0) < 0.1);
+}
+
+void TstScope::nominalCurrentPeaksAtTheEdgeOfTheGrid()
+{
+    const double peak = m_settingConfig_g.curClamp()->range() * std::sqrt(2.0) / (kPerSample * ampereGain(0));
+    QVERIFY(std::abs(peak * scope()->getScaleI() - 146.0) < 0.1);
+}
+
+void TstScope::savedRecordIsInPhysicalUnits()
+{
+    g_scope_data->frequency = 49.5f;
+    for (int c = 0; c < 4; ++c) {
+        g_scope_data->voltage[c] = 200.0f + c;
+        g_scope_data->current[c] = 20.0f + c;
+    }
+    for (int i = 0; i < 4096; ++i)
+        g_scope_data->currentSamples[3][i] = 1234;
+    g_scope_data->voltageSamples[0][0] = -321;
+    m_page->updateDisplay(nullptr);
+    const QByteArray record = m_page->pqaData();
+    QCOMPARE(record.size(), 19236);
+    float words[4809];
+    std::memcpy(words, record.constData(), sizeof words);
+    QCOMPARE(words[0], 49.5f);
+    QCOMPARE(words[4], 203.0f);
+    QCOMPARE(words[8], 23.0f);
+    QCOMPARE(words[9], float(-321 * kPerSample * voltGain(0)));
+    const double gain = m_calib_data_g.data().current[m_settingConfig_g.getCurrentNIndex()][3]
+        / (m_settingConfig_g.curClampN()->ratio() / 1000.0);
+    QCOMPARE(words[4808], float(1234 * kPerSample * gain));
+    QCOMPARE(words[9 + 7 * 600], float(1234 * kPerSample * gain));
+    QCOMPARE(words[9 + 7 * 600 - 1], 0.0f);
+}
+
+void TstScope::withoutLockTheFrequencyIsGrey()
+{
+    g_scope_data->frequency = 50.02f;
+    m_page->updateDisplay(nullptr);
+    QCOMPARE(text(m_page.get(), "freq"), QStringLiteral("50.02Hz"));
+    QCOMPARE(sheet(m_page.get(), "freq"), QStringLiteral("color: #ffffff;"));
+    g_scope_data->frequency = -47.5f;
+    m_page->updateDisplay(nullptr);
+    QCOMPARE(text(m_page.get(), "freq"), QStringLiteral("47.50Hz"));
+    QCOMPARE(sheet(m_page.get(), "freq"), QStringLiteral("color: #808080;"));
+}
+
+void TstScope::f6StaysHere()
+{
+    QSignalSpy spy(m_page.get(), &ViewPage::goScope);
+    QKeyEvent event(QEvent::KeyPress, F6, Qt::NoModifier);
+    QCoreApplication::sendEvent(m_page.get(), &event);
+    QCOMPARE(spy.count(), 0);
+    QVERIFY(event.isAccepted());
+}
+
+void TstScope::restartForgetsEverything()
+{
+    const __scope_data *record = g_scope_data;
+    fillSine(10, 1000);
+    m_page->updateDisplay(nullptr);
+    press(m_page.get(), F1, 2);
+    hold(m_page.get(), Right, 5);
+    press(m_page.get(), F3);
+    press(m_page.get(), Up, 2);
+    press(m_page.get(), Right);
+    emit m_page->taskPaused();
+    m_page->init_parameter();
+    QCOMPARE(static_cast<const __scope_data *>(g_scope_data), record);
+    QCOMPARE(int(g_scope_data->voltageSamples[0][100]), 0);
+    QCOMPARE(int(g_scope_data_ui->voltageSamples[0][100]), 0);
+    QCOMPARE(m_page->displayMode(), 0);
+    QCOMPARE(wave_step, 1);
+    QCOMPARE(scope()->cursorPosition(), 1);
+    QVERIFY(scope()->cursorOn());
+    QVERIFY(m_page->isRunning());
+    QCOMPARE(text(m_page.get(), "zoom_scale"), QStringLiteral("1X"));
+    QCOMPARE(m_page->findChild<Btn2 *>()->btnFlag(), 1);
+    QCOMPARE(m_page->findChild<Btn3 *>()->btnFlag(), 1);
+    QVERIFY(!m_page->findChild<KeyRepeat *>()->isActive());
+}
+
+void TstScope::holdLabelFollowsTheTask()
+{
+    QSignalSpy paused(m_page.get(), &ViewPage::pause);
+    QSignalSpy run(m_page.get(), &ViewPage::run);
+    press(m_page.get(), F5);
+    QCOMPARE(paused.count(), 1);
+    QCOMPARE(text(m_page.get(), "btn_f5"), QStringLiteral("Hold"));
+    emit m_page->taskPaused();
+    QCOMPARE(text(m_page.get(), "btn_f5"), QStringLiteral("Run"));
+    press(m_page.get(), F5);
+    QCOMPARE(run.count(), 1);
+    emit m_page->taskContinued();
+    QCOMPARE(text(m_page.get(), "btn_f5"), QStringLiteral("Hold"));
+}
+
+void TstScope::pageLivesWithoutRecords()
+{
+    const auto data = std::exchange(g_scope_data, nullptr);
+    const auto ui = std::exchange(g_scope_data_ui, nullptr);
+    {
+        ScopePage page;
+        page.updateDisplay(nullptr);
+        page.retranslateUi();
+        for (const FrontKey key : { F1, F2, F3, F4, F5, Left, Right, Up, Down })
+            press(&page, key);
+        QVERIFY(page.pqaData().isEmpty());
+    }
+    g_scope_data = data;
+    g_scope_data_ui = ui;
+}
+
+void TstScope::refreshIsHarmlessWhenRepeated()
+{
+    fillSine(10, 5000);
+    m_page->updateDisplay(nullptr);
+    const __scope_data_ui first = *g_scope_data_ui;
+    m_page->updateDisplay(nullptr);
+    QCOMPARE(std::memcmp(&first, g_scope_data_ui, sizeof first), 0);
+}
+
+QTEST_MAIN(TstScope)
+#include "tst_scope.moc"
