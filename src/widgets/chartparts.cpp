@@ -78,6 +78,14 @@ void drawFlagTag(QPainter &painter, int x, int y, const QColor &color, const QSt
     painter.restore();
 }
 
+QPixmap scaledPicture(const QString &alias, const QSize &size)
+{
+    const QPixmap picture(alias);
+    if (picture.isNull() || size.isEmpty())
+        return {};
+    return picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 double boundedPixel(double value)
 {
     constexpr double kRasterLimit = 16000.0;

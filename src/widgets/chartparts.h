@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QPainterPath>
 #include <QPen>
+#include <QPixmap>
 #include <QVector>
 
 class QPainter;
@@ -37,6 +38,9 @@ void drawTriangle(QPainter &painter, int x, int y, const QColor &color);
 
 /// Five-cornered tag with a letter in black, at the right end of a curve.
 void drawFlagTag(QPainter &painter, int x, int y, const QColor &color, const QString &letter);
+
+/// A picture of the resource tree in another size; null where the picture or the size is.
+QPixmap scaledPicture(const QString &alias, const QSize &size);
 
 /// `value` as a pixel coordinate inside what the rasteriser takes; not a number gives 0.
 double boundedPixel(double value);

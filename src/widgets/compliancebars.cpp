@@ -31,6 +31,7 @@ void ComplianceBars::paintEvent(QPaintEvent *)
     drawScale(painter);
     drawCursor(painter);
     drawBars(painter);
+    drawLegends(painter); // readable above the last bars
 }
 
 void ComplianceBars::drawScale(QPainter &painter) const
@@ -41,7 +42,10 @@ void ComplianceBars::drawScale(QPainter &painter) const
     // 100 percent of the allowed time, 100 percent of the limit, and the base on the widget's last row.
     for (const int y : { H / 8, H * 2 / 8, H - 1 })
         painter.drawLine(0, y, right, y);
+}
 
+void ComplianceBars::drawLegends(QPainter &painter) const
+{
     const struct
     {
         const QPixmap &sign;

@@ -32,6 +32,7 @@ protected:
 
 private:
     void drawScale(QPainter &painter) const;
+    void drawLegends(QPainter &painter) const;
     void drawCursor(QPainter &painter) const;
     void drawBars(QPainter &painter) const;
     void drawPart(QPainter &painter, int position, int reach, float percent, double pixelsPerPercent) const;

@@ -175,8 +175,8 @@ static QRect cell(int column, int top, int height, int widgetWidth)
 
 void EventsWidget::resizeEvent(QResizeEvent *)
 {
-    m_background = QPixmap(QStringLiteral(":/eventwidget_bg")).scaled(size());
-    m_bar = QPixmap(QStringLiteral(":/eventwidget_bar")).scaled(std::max(width() - 6, 1), kRowStep);
+    m_background = ChartParts::scaledPicture(QStringLiteral(":/eventwidget_bg"), size());
+    m_bar = ChartParts::scaledPicture(QStringLiteral(":/eventwidget_bar"), QSize(width() - 6, kRowStep));
 }
 
 void EventsWidget::paintEvent(QPaintEvent *)

@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+
 constexpr int kPathRole = Qt::UserRole;
 constexpr int kFolderRole = Qt::UserRole + 1;
 
@@ -13,11 +15,12 @@ static const char *const kUsableStyle
     = "background-color: transparent;background-image: url(:/button);color: rgb(0, 0, 0);";
 static const char *const kUselessStyle
     = "background-color: transparent;background-image: url(:/button);color: rgb(144, 144, 144);";
-static const char *const kListStyle = "QListWidget { background-color: rgb(5, 8, 15); color: rgb(255, 255, 255);"
-                                      " border: 1px solid rgb(60, 90, 134); outline: none; }"
-                                      "QListWidget::item { height: 30px; padding-left: 6px; }"
-                                      "QListWidget::item:selected { background-color: rgb(31, 111, 208);"
-                                      " color: rgb(255, 255, 255); }";
+static const char *const kListStyle
+    = "QListWidget { background-color: rgb(5, 8, 15); color: rgb(255, 255, 255);"
+      " border: 1px solid rgb(60, 90, 134); outline: none; }"
+      "QListWidget::item { height: 30px; padding-left: 6px; border: 0px; background: transparent; }"
+      "QListWidget::item:selected { background-color: rgb(31, 111, 208);"
+      " color: rgb(255, 255, 255); }";
 
 QString FileManager::getExistFileName()
 {
@@ -45,7 +48,10 @@ bool FileManager::isFolder(const QListWidgetItem *item) const
 
 void FileManager::addItem(const char *icon, const QString &text, const QString &path, bool isFolder)
 {
-    auto *item = new QListWidgetItem(QIcon(QString::fromLatin1(icon)), text, m_ui->list);
+    const QPixmap picture(QString::fromLatin1(icon));
+    QIcon plain(picture);
+    plain.addPixmap(picture, QIcon::Selected); // not tinted by the selection
+    auto *item = new QListWidgetItem(plain, text, m_ui->list);
     item->setData(kPathRole, path);
     item->setData(kFolderRole, isFolder);
 }

@@ -2,7 +2,7 @@
 
 #include "config/config_data.h"
 #include "config/recordinfo.h"
-#include "device/displayrecords.h"
+#include "config/transparam.h"
 #include "ui_runinfo.h"
 
 #include <algorithm>

@@ -1,5 +1,6 @@
 #include "widgets/softkeydialog.h"
 
+#include "widgets/chartparts.h"
 #include "widgets/keymap.h"
 
 #include <QApplication>
@@ -9,6 +10,7 @@
 
 constexpr int kScreenBottom = 479; // last pixel row of the instrument's screen
 constexpr int kKeyPixels = 18;
+constexpr int kKeyMargin = 5;
 constexpr int kSmallestPixels = 10;
 
 // One sheet a dialog, set once.
@@ -34,7 +36,7 @@ SoftKeyDialog::SoftKeyDialog(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt:
 void SoftKeyDialog::finishForm()
 {
     setFixedSize(size());
-    m_background = QPixmap(QStringLiteral(":/message_bg")).scaled(size());
+    m_background = ChartParts::scaledPicture(QStringLiteral(":/message_bg"), size());
     for (int number = 1; number <= 5; ++number) {
         if (const QLabel *key = softKey(number))
             setKeyText(number, key->text());
@@ -51,6 +53,7 @@ void SoftKeyDialog::setKeyText(int number, const QString &text)
     QLabel *key = softKey(number);
     if (!key)
         return;
+    key->setMargin(kKeyMargin);
     fitText(key, text, kKeyPixels);
     key->setVisible(!text.isEmpty());
 }
@@ -58,11 +61,12 @@ void SoftKeyDialog::setKeyText(int number, const QString &text)
 void SoftKeyDialog::fitText(QLabel *label, const QString &text, int largestPixels)
 {
     const int flags = int(label->alignment()) | (label->wordWrap() ? Qt::TextWordWrap : 0);
+    const QSize room = label->size() - 2 * QSize(label->margin(), label->margin());
     QFont font = label->font();
     for (int pixels = largestPixels; pixels >= kSmallestPixels; --pixels) {
         font.setPixelSize(pixels);
-        const QSize needed = QFontMetrics(font).boundingRect(QRect(0, 0, label->width(), 2000), flags, text).size();
-        if (needed.width() <= label->width() && needed.height() <= label->height())
+        const QSize needed = QFontMetrics(font).boundingRect(QRect(0, 0, room.width(), 2000), flags, text).size();
+        if (needed.width() <= room.width() && needed.height() <= room.height())
             break;
     }
     label->setFont(font);

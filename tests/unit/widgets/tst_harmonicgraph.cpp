@@ -41,7 +41,7 @@ static QList<__graphdata> bars(int count, float value = 50.0f)
 {
     QList<__graphdata> list;
     for (int i = 0; i < count; ++i)
-        list.append({ { value, value, value, value } });
+        list << __graphdata { { value, value, value, value } };
     return list;
 }
 
@@ -258,7 +258,7 @@ void TstHarmonicGraph::barsOfAllChannelsStandSideBySide()
     prepare(graph);
     graph.setgraphType(GraphAll);
     QList<__graphdata> list = bars(4, 0.0f);
-    list[3] = { { 10.0f, 20.0f, 30.0f, 40.0f } }; // order 2, group at 100
+    list[3] = __graphdata { { 10.0f, 20.0f, 30.0f, 40.0f } }; // order 2, group at 100
     graph.showGraph(&list, 1, 2);
     graph.setCursorPosition(0);
     const QImage image = painted(graph);
@@ -275,7 +275,7 @@ void TstHarmonicGraph::splitPhaseShowsTwoBarsAGroup()
     graph.setgraphType(GraphAll);
     graph.setgraphTypeEx(GraphTwoPhases);
     QList<__graphdata> list = bars(3, 0.0f);
-    list[2] = { { 10.0f, 20.0f, 30.0f, 40.0f } }; // order 1, group at 80
+    list[2] = __graphdata { { 10.0f, 20.0f, 30.0f, 40.0f } }; // order 1, group at 80
     graph.showGraph(&list, 1, 1);
     graph.setCursorPosition(0);
     const QImage image = painted(graph);

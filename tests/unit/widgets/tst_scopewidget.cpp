@@ -3,9 +3,11 @@
 #include "config/phasecolor.h"
 #include "widgets/scopewidget.h"
 
+#include <QPainter>
 #include <QtTest>
 
 #include <cmath>
+#include <cstring>
 #include <memory>
 
 static const QColor kGrey(Qt::darkGray);

@@ -99,12 +99,15 @@ void TstSoftKeyButtons::selectedTextIsBlackAndTheOthersGrey()
     HarmBtn1 button; // two short texts: the left and the right half
     const QRect left(0, 0, 62, 34);
     const QRect right(62, 0, 62, 34);
+    // A smoothed letter comes within a few steps of its colour.
+    const auto isBlack = [](int value) { return value < 16; };
+    const auto isGrey = [](int value) { return value >= 0x40 && value < 0x40 + 16; };
     button.setBtnFlag(1);
-    QCOMPARE(darkest(overWhite(button), left), 0);
-    QCOMPARE(darkest(overWhite(button), right), 0x40);
+    QVERIFY(isBlack(darkest(overWhite(button), left)));
+    QVERIFY(isGrey(darkest(overWhite(button), right)));
     button.setBtnFlag(2);
-    QCOMPARE(darkest(overWhite(button), left), 0x40);
-    QCOMPARE(darkest(overWhite(button), right), 0);
+    QVERIFY(isGrey(darkest(overWhite(button), left)));
+    QVERIFY(isBlack(darkest(overWhite(button), right)));
 }
 
 void TstSoftKeyButtons::captionStaysBlack()

@@ -107,7 +107,7 @@ void TstTrendChart::curvesOfAllFourBandsStandInTheirBands()
         QCOMPARE(countPixels(image, edges(1, y, 599, y), color), 599);
         QCOMPARE(countPixels(image, edges(100, kBandTops[band] + 1, 599, y - 6), color), 0);
         // The tag at the right end, from x = 600: its body spans x + 4 to x + 9 and y - 5 to y + 4.
-        QVERIFY(countPixels(image, edges(604, y - 5, 608, y + 4), color) > 10);
+        QVERIFY(countPixels(image, edges(604, y - 5, 608, y + 4), color) > 4);
         QVERIFY(countPixels(image, edges(601, y - 5, 608, y + 4), Qt::black) > 5); // the letter and the tag's corners
     }
 }
@@ -365,8 +365,9 @@ void TstTrendChart::cursorMarkStandsOnTheEntryUnderTheCursor()
     const QColor color = PhaseColor::colorB();
     QVERIFY(countPixels(image, edges(297, 96, 303, 96), color) >= 6);
     QVERIFY(countPixels(image, edges(299, 99, 301, 99), color) >= 1);
-    QCOMPARE(countPixels(image, edges(290, 102, 310, 120), color), 0);
-    QCOMPARE(countPixels(image, edges(290, 80, 310, 94), color), 0);
+    // Beside the curve's own spike at the cursor
+    QCOMPARE(countPixels(image, edges(290, 101, 297, 120), color), 0);
+    QCOMPARE(countPixels(image, edges(290, 80, 297, 94), color), 0);
 }
 
 void TstTrendChart::cursorOutsideTheSeriesHasNoMark()
