@@ -49,6 +49,8 @@ public:
     /// \name What frames change
     /// @{
     bool streaming() const { return m_streaming; }
+    /// Whether something waits for simulated time to go on: the stream, or an answer that takes its time.
+    bool needsTime() const { return m_streaming || !m_pending.empty(); }
     void setStreaming(bool on);
     const processor::ProcessorSetup &setup() const { return m_setup; }
     void setSetup(const processor::ProcessorSetup &setup) { m_setup = setup; }

@@ -130,12 +130,22 @@ double Engine::seconds() const
     return m_simulator ? m_simulator->seconds() : m_replaySeconds;
 }
 
+void Engine::watchClock()
+{
+    if (m_clockSeen == m_link.clockCount())
+        return;
+    m_clockSeen = m_link.clockCount();
+    m_clockSetAt = QDateTime::currentMSecsSinceEpoch();
+}
+
 void Engine::begin()
 {
     m_begun = true;
     m_pacer.start(seconds(), Pacer::Clock::now());
-    if (m_simulator && !m_options.clockStart && m_simulator->scenario().clockStart < 0 && m_link.clockCount() == 1)
-        m_link.setClock(QDateTime::currentMSecsSinceEpoch()); // nobody has set it: the wait for the instrument counts
+    // The clock went on while time stood still, unless a repeatable run gave it its start.
+    const bool given = m_simulator && (m_options.clockStart || m_simulator->scenario().clockStart >= 0);
+    if (m_simulator && !(given && m_link.clockCount() == 1))
+        m_link.shiftClock(QDateTime::currentMSecsSinceEpoch() - m_clockSetAt);
 }
 
 int Engine::run()
@@ -148,7 +158,8 @@ int Engine::run()
     while (!m_ended) {
         const Pacer::Clock::time_point now = Pacer::Clock::now();
         readBoard(now);
-        if (!m_begun && m_link.streaming())
+        watchClock();
+        if (!m_begun && m_link.needsTime())
             begin();
         Pacer::Nanoseconds left = kIdleWait;
         if (m_begun) {

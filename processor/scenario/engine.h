@@ -43,6 +43,7 @@ private:
     bool prepareSignals(QString *error);
     void wait(Pacer::Nanoseconds time);
     void serve();
+    void watchClock();
     void begin();
     void advance();
     void advanceReplay();
@@ -69,6 +70,8 @@ private:
     Pacer::Clock::time_point m_boardRead;
     QString m_scenarioName;
     board::RangeSelectors m_ranges;
+    unsigned m_clockSeen = 0; // clock changes of the link
+    qint64 m_clockSetAt = 0; // host ms of the last one
     double m_replaySeconds = 0.0;
     bool m_begun = false;
     bool m_ended = false;

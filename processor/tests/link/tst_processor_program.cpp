@@ -93,6 +93,7 @@ private slots:
     void recordedStreamReplaysByteForByte();
     void damagedRecordingIsPlayedToTheDamage();
     void firmwareUpdateOverTheNode();
+    void clockSetInSilenceRunsOn();
     void framesAreLogged();
     void commaLocaleChangesNothing();
 
@@ -384,7 +385,7 @@ void TstProcessorProgram::damagedRecordingIsPlayedToTheDamage()
 
 void TstProcessorProgram::firmwareUpdateOverTheNode()
 {
-    QVERIFY(start({ "--speed", "50", "--stream" }));
+    QVERIFY(start({ "--speed", "50" })); // in silence, as the instrument does it
     const Descriptor node = connectNode();
     const auto answer = [&node] {
         for (int i = 0; i < 5000; ++i) {
@@ -406,6 +407,22 @@ void TstProcessorProgram::firmwareUpdateOverTheNode()
     say(node, buildFrame(196, { 2, 1, 0x34333231, 0x38373635, 0x9AE0DAAF }));
     QCOMPARE(answer(), std::pair(0xC402u, 0u));
     QCOMPARE(answer(), std::pair(0xC403u, 1u));
+}
+
+void TstProcessorProgram::clockSetInSilenceRunsOn()
+{
+    QVERIFY(start());
+    const Descriptor node = connectNode();
+    say(node, buildFrame(195, { 0x04000000, 0x07E80112 })); // 2024-01-18T00:00:00
+    QTRY_VERIFY_WITH_TIMEOUT(statusValue("clock").startsWith("2024-01-18T00:00:00"), 30000);
+    QTest::qWait(300);
+    say(node, buildFrame(194, { 0 }));
+    say(node, buildFrame(193, { 1 }));
+    const QByteArray text = receive(node, 30000);
+    const quint64 stamp = wordAt(text, 32) * quint64(1000) + wordAt(text, 36);
+    QVERIFY(stamp <= 1705536000000 + 60000);
+    const QByteArray next = receive(node, 30000);
+    QVERIFY(wordAt(next, 32) * quint64(1000) + wordAt(next, 36) >= 1705536000000 + 300);
 }
 
 void TstProcessorProgram::framesAreLogged()
