@@ -11,6 +11,11 @@
 #include "modbuspublisher.h"
 #include "services/iremote.h"
 #include "taskmanage.h"
+#include "views/common/functionpage.h"
+#include "views/dips/dswell.h"
+#include "views/inrush/inrushpage.h"
+#include "views/scope/scopepage.h"
+#include "views/transients/trans.h"
 #include "views/vif/vifpage.h"
 #include "widgets/systemtray.h"
 
@@ -21,6 +26,10 @@
 TaskManage *m_taskmanage = nullptr;
 MenuPage *m_menupage = nullptr;
 VifPage *m_vifpage = nullptr;
+dswell *m_dswellpage = nullptr;
+trans *m_transpage = nullptr;
+InrushPage *m_inrushpage = nullptr;
+ScopePage *m_scopepage = nullptr;
 BaseDialog *m_basedialog = nullptr;
 IRemote *m_remote_ctrl = nullptr;
 SystemTray *systemTray = nullptr;
@@ -28,14 +37,42 @@ uDiskStorage *udisk = nullptr;
 UniTask *g_unitask = nullptr;
 QSplashScreen *splash = nullptr;
 
+namespace {
+
+/// The pages built into this software, by their type.
+FunctionPage *s_pages[kUiTypes] = {};
+
+template <typename Page> void makePage(Page *&global)
+{
+    global = new Page;
+    s_pages[global->uiType()] = global;
+}
+
+/// In this order; each may read settings, none the main window or a display record.
+void makePages()
+{
+    m_menupage = new MenuPage;
+    makePage(m_vifpage);
+    makePage(m_dswellpage);
+    makePage(m_transpage);
+    makePage(m_inrushpage);
+    makePage(m_scopepage);
+}
+
+constexpr _quvera_ui_type kInitOrder[]
+    = { UI_VIF,   UI_DIPS_SWELLS, UI_HARMONICS, UI_POWER, UI_FLICKER,   UI_UNBALANCE,
+        UI_SCOPE, UI_TRANSIENTS,  UI_INRUSH,    UI_WAVE,  UI_MAINS_SIG, UI_POWER_INVERTER };
+
+constexpr _quvera_ui_type kLanguageOrder[]
+    = { UI_USER,       UI_VIF,       UI_DIPS_SWELLS, UI_FLICKER,   UI_HARMONICS,     UI_POWER,
+        UI_TRANSIENTS, UI_UNBALANCE, UI_INRUSH,      UI_LOGGER,    UI_MONITOR,       UI_SCOPE,
+        UI_WAVE,       UI_SETUP,     UI_MEMORY,      UI_MAINS_SIG, UI_POWER_INVERTER };
+
+} // namespace
+
 FunctionPage *functionPage(_quvera_ui_type type)
 {
-    switch (type) {
-    case UI_VIF:
-        return m_vifpage;
-    default:
-        return nullptr;
-    }
+    return type >= 0 && type < kUiTypes ? s_pages[type] : nullptr;
 }
 
 void showSplash()
@@ -62,8 +99,7 @@ void appInit()
     // Before any page exists: the processor sets itself up while the pages are built.
     DeviceInit::initAnalogDevice2();
 
-    m_menupage = new MenuPage;
-    m_vifpage = new VifPage;
+    makePages();
     m_basedialog = new BaseDialog;
     m_basedialog->show();
 
@@ -105,6 +141,8 @@ void appConnection()
     QObject::connect(m_menupage, &MenuPage::restartTask, m_basedialog, &BaseDialog::restartTask);
     for (const auto &row : navigation)
         QObject::connect(m_menupage, row.signal, m_basedialog, row.slot);
+    QObject::connect(m_transpage, &trans::startTransTask, m_basedialog, &BaseDialog::startTransTask);
+    QObject::connect(m_inrushpage, &InrushPage::startInrushTask, m_basedialog, &BaseDialog::startInrushTask);
     QObject::connect(systemTray, &SystemTray::refreshSystemInfo, m_basedialog, &BaseDialog::showSysInfo);
     QObject::connect(systemTray, &SystemTray::refreshSystemIcon, m_basedialog, &BaseDialog::showSysIcon);
     QObject::connect(m_idevice, SIGNAL(dspTimeStamp(quint32)), m_basedialog, SLOT(showDSPTimeStamp(quint32)));
@@ -118,11 +156,17 @@ void langConnection()
     const auto changed = &LangTranslation::languageChanged;
     QObject::connect(&languageTranslator, changed, m_basedialog, &BaseDialog::retranslateUi);
     QObject::connect(&languageTranslator, changed, m_menupage, &MenuPage::retranslateUi);
-    QObject::connect(&languageTranslator, changed, m_vifpage, &VifPage::retranslateUi);
+    for (_quvera_ui_type type : kLanguageOrder) {
+        if (FunctionPage *page = functionPage(type))
+            QObject::connect(&languageTranslator, changed, page, &FunctionPage::retranslateUi);
+    }
 }
 
 void initUiParameter()
 {
     g_events_list.clear();
-    m_vifpage->init_parameter();
+    for (_quvera_ui_type type : kInitOrder) {
+        if (FunctionPage *page = functionPage(type))
+            page->init_parameter();
+    }
 }

@@ -13,7 +13,11 @@ class QSplashScreen;
 class SystemTray;
 class TaskManage;
 class UniTask;
+class InrushPage;
+class ScopePage;
 class VifPage;
+class dswell;
+class trans;
 class uDiskStorage;
 
 // The flat object graph: long-lived objects, made once by appInit in one fixed order and never deleted. What a lower
@@ -22,6 +26,10 @@ class uDiskStorage;
 extern TaskManage *m_taskmanage;
 extern MenuPage *m_menupage;
 extern VifPage *m_vifpage;
+extern dswell *m_dswellpage;
+extern trans *m_transpage;
+extern InrushPage *m_inrushpage;
+extern ScopePage *m_scopepage;
 extern BaseDialog *m_basedialog;
 extern IRemote *m_remote_ctrl;
 extern SystemTray *systemTray;
