@@ -1,0 +1,90 @@
+#include "views/common/trendpage.h"
+
+#include "config/phasecolor.h"
+#include "widgets/viftrendchart.h"
+
+#include <QLabel>
+
+TrendPage::TrendPage(_quvera_ui_type type, const std::vector<Quantity> &cycle, QWidget *parent)
+    : ViewPage(type, parent), m_cycle(cycle)
+{ }
+
+void TrendPage::initTrend(const QStringList &axis)
+{
+    // The chart has no meta-object of its own: it is found by its name.
+    m_chart = static_cast<VifTrendChart *>(findChild<QWidget *>(QStringLiteral("trend")));
+    m_typeLabel = findChild<QLabel *>(QStringLiteral("type"));
+    m_captions = ChannelLabels::numberedRow(this, "D%1_Caption");
+    m_values = ChannelLabels::numberedRow(this, "D%1_Value");
+    m_chart->setFullScale(axis);
+}
+
+void TrendPage::init_parameter()
+{
+    ViewPage::init_parameter();
+    initTrendFlags();
+    showType();
+    showTrend();
+}
+
+void TrendPage::retranslateUi()
+{
+    ViewPage::retranslateUi();
+    initTrendFlags();
+    showType();
+}
+
+void TrendPage::nextType()
+{
+    m_index = (m_index + 1) % m_cycle.size();
+    initTrendFlags();
+    showType();
+    showTrend();
+}
+
+void TrendPage::initTrendFlags()
+{
+    m_chart->setFlags(quantity().flags());
+}
+
+void TrendPage::showType()
+{
+    setText(m_typeLabel, quantity().caption());
+    ChannelLabels::clear(m_captions);
+    ChannelLabels::clear(m_values);
+    if (quantity().single)
+        return;
+    ChannelLabels::showHeaders(m_captions, QStringLiteral(":"));
+    if (quantity().fourthCaption && m_captions[3]) {
+        setText(m_captions[3], QString::fromLatin1(quantity().fourthCaption));
+        m_captions[3]->setStyleSheet(QStringLiteral("color: %1;").arg(PhaseColor::colorN().name()));
+    }
+}
+
+void TrendPage::showTrend()
+{
+    __trend_data *record = quantity().record();
+    if (!record)
+        return;
+    m_picture = TrendScaler::scale(*record, quantity().factor());
+    if (!m_picture.upper[0].isNull())
+        m_chart->setLimits(m_picture.upper, m_picture.lower);
+    __trend_chart_data data;
+    for (int c = 0; c < kChannels; ++c)
+        data.series[c] = &m_picture.series[c];
+    m_chart->showVifData(&data);
+    showValue();
+}
+
+void TrendPage::showValue()
+{
+    const Quantity &q = quantity();
+    if (q.single) {
+        ChannelLabels::showFrequency(m_values[0], *q.values(), QString());
+        return;
+    }
+    ChannelLabels::showValues(m_values, q.values(), q.format);
+    // A total stands in the fourth place whatever the wiring; where there is none the place stays empty.
+    if (q.fourthCaption)
+        setText(m_values[3], *q.fourthCaption ? q.format(q.values()[3]) : QString());
+}
