@@ -6,7 +6,8 @@
 
 #include <QDateTime>
 
-#include <functional>
+#include <algorithm>
+#include <cmath>
 
 namespace scenario {
 
@@ -42,6 +43,59 @@ int which(const QString &word, std::initializer_list<const char *> names)
         ++at;
     }
     return -1;
+}
+
+/// The fault called \a word, or -1.
+int faultKind(const QString &word)
+{
+    for (int kind = 0; kind < wire::kFaultCount; ++kind) {
+        if (word == QLatin1String(wire::kFaultNames[kind]))
+            return kind;
+    }
+    return -1;
+}
+
+/// What stands behind the inputs of an event.
+struct EventWords
+{
+    QMap<QString, double> values;
+    double waitSeconds = 0.0;
+};
+
+/// Reads the required values in their order and the others as key=value. Empty on success, otherwise why not.
+QString readEventWords(const EventForm &form, const QStringList &words, EventWords *read)
+{
+    const auto wrong = [](const EventValue &value) {
+        return QStringLiteral("%1: expected %2").arg(QLatin1String(value.key), value.expectation());
+    };
+    auto required = form.values.begin();
+    for (const QString &word : words) {
+        const bool named = word.contains(QLatin1Char('='));
+        const QString text = word.section(QLatin1Char('='), -1);
+        if (word.startsWith(QLatin1String("in="))) {
+            const auto seconds = quantity(text, Unit::Seconds);
+            if (!seconds || *seconds < 0.0)
+                return QStringLiteral("in: expected %1").arg(expectation(Unit::Seconds));
+            read->waitSeconds = *seconds;
+            continue;
+        }
+        if (!named)
+            required = std::find_if(required, form.values.end(), [](const EventValue &one) { return one.required; });
+        const EventValue *value = named     ? form.value(word.section(QLatin1Char('='), 0, 0))
+            : required == form.values.end() ? nullptr
+                                            : &*required++;
+        if (!value)
+            return QStringLiteral("%1: expected event %2").arg(word, form.usage());
+        const auto number = quantity(text, value->unit);
+        if (!number || *number < value->least || *number > value->most)
+            return wrong(*value);
+        read->values.insert(QString::fromLatin1(value->key), *number);
+    }
+    for (const EventValue &value : form.values) {
+        if (value.required && !read->values.contains(QString::fromLatin1(value.key)))
+            return wrong(value);
+    }
+    return {};
 }
 
 } // namespace
@@ -136,49 +190,20 @@ QString Commands::event(const Words &words)
     const processor::InputMask mask = inputs(words.value(1), form->side);
     if (mask == 0)
         return error(QStringLiteral("expected inputs as l1, all or l1+l2 behind %1").arg(words[0]));
-    QMap<QString, double> values;
-    double wait = 0.0;
-    auto required = form->values.begin();
-    for (const QString &word : words.mid(2)) {
-        const EventValue *value = nullptr;
-        const QString key = word.section(QLatin1Char('='), 0, 0);
-        const QString text = word.section(QLatin1Char('='), -1);
-        if (word.startsWith(QLatin1String("in="))) {
-            const auto seconds = quantity(text, Unit::Seconds);
-            if (!seconds || *seconds < 0.0)
-                return error(QStringLiteral("in: expected %1").arg(expectation(Unit::Seconds)));
-            wait = *seconds;
-            continue;
-        }
-        if (word.contains(QLatin1Char('='))) {
-            value = form->value(key);
-        } else {
-            required = std::find_if(required, form->values.end(), [](const EventValue &one) { return one.required; });
-            value = required == form->values.end() ? nullptr : &*required++;
-        }
-        if (!value)
-            return error(QStringLiteral("%1: expected event %2").arg(word, form->usage()));
-        const auto number = quantity(text, value->unit);
-        if (!number || *number < value->least || *number > value->most)
-            return error(QStringLiteral("%1: expected %2").arg(QLatin1String(value->key), value->expectation()));
-        values.insert(QString::fromLatin1(value->key), *number);
-    }
-    for (const EventValue &value : form->values) {
-        if (value.required && !values.contains(QString::fromLatin1(value.key)))
-            return error(QStringLiteral("%1: expected %2").arg(QLatin1String(value.key), value.expectation()));
-    }
-    const processor::SignalEvent event = makeEvent(*form, mask, values);
-    const std::string problem = processor::validate(event);
-    if (!problem.empty())
-        return error(QString::fromStdString(problem));
-    m_on.simulator->addEvent(event, wait);
+    EventWords read;
+    QString problem = readEventWords(*form, words.mid(2), &read);
+    if (!problem.isEmpty())
+        return error(problem);
+    const processor::SignalEvent event = makeEvent(*form, mask, read.values);
+    problem = QString::fromStdString(processor::validate(event));
+    if (!problem.isEmpty())
+        return error(problem);
+    m_on.simulator->addEvent(event, read.waitSeconds);
     return ok();
 }
 
 QString Commands::fault(const Words &words)
 {
-    static const std::initializer_list<const char *> kinds = { "drop", "repeat", "torn", "reorder", "garbage" };
-    static_assert(wire::kFaultCount == 5, "one word per fault");
     wire::LinkFaults &faults = m_on.link->faults();
     const QString what = words.value(0);
     if (what == QLatin1String("update"))
@@ -195,14 +220,14 @@ QString Commands::fault(const Words &words)
         return ok();
     }
     if (what == QLatin1String("rate")) {
-        const int kind = which(words.value(1), kinds);
+        const int kind = faultKind(words.value(1));
         const auto rate = quantity(words.value(2), Unit::None);
         if (words.size() != 3 || kind < 0 || !rate || *rate < 0.0 || *rate > 1.0)
             return error(QStringLiteral("expected fault rate drop|repeat|torn|reorder|garbage 0..1"));
         faults.random(wire::Fault(kind), *rate);
         return ok();
     }
-    const int kind = which(what, kinds);
+    const int kind = faultKind(what);
     bool number = false;
     const int count = words.value(1).toInt(&number);
     if (words.size() != 2 || kind < 0 || !number || count < 0)
