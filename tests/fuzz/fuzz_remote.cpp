@@ -18,9 +18,11 @@ int connectedSocket()
     static int argc = 1;
     static char name[] = "fuzz_remote";
     static char *argv[] = { name, nullptr };
-    static QApplication application(argc, argv);
+    static const auto *application = new QApplication(argc, argv); // for the life of the process
+    Q_UNUSED(application)
     std::setlocale(LC_NUMERIC, "C");
-    static IRemote remote;
+    static const auto *remote = new IRemote;
+    Q_UNUSED(remote)
     while (IRemote::port() == 0)
         usleep(1000);
     const int descriptor = socket(AF_INET, SOCK_DGRAM, 0);

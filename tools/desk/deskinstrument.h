@@ -1,5 +1,4 @@
-#ifndef DESKINSTRUMENT_H
-#define DESKINSTRUMENT_H
+#pragma once
 
 #include "remote/remoteclient.h"
 
@@ -78,5 +77,3 @@ private:
     QProcess m_instrument;
     QString m_error;
 };
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef CONTACTSHEET_H
-#define CONTACTSHEET_H
+#pragma once
 
 #include <QString>
 #include <QVector>
@@ -18,5 +17,3 @@ bool writeContactSheet(const QString &folder, const QVector<Picture> &pictures, 
 
 /// Writes index.html, one row for each page, one column for each variant.
 bool writeIndex(const QString &folder, const QVector<Picture> &pictures);
-
-#endif

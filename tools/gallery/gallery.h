@@ -1,5 +1,4 @@
-#ifndef GALLERY_H
-#define GALLERY_H
+#pragma once
 
 #include "desk/deskinstrument.h"
 #include "gallery/contactsheet.h"
@@ -39,5 +38,3 @@ private:
     QVector<Picture> m_pictures;
     QString m_error;
 };
-
-#endif

@@ -1,5 +1,4 @@
-#ifndef PAGES_H
-#define PAGES_H
+#pragma once
 
 #include <QString>
 #include <QStringList>
@@ -37,5 +36,3 @@ QString wiringName(int joinMode);
 
 /// The key words of the languages in their order; the first, EN, is built in.
 const QStringList &languageWords();
-
-#endif

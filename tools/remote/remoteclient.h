@@ -1,5 +1,4 @@
-#ifndef REMOTECLIENT_H
-#define REMOTECLIENT_H
+#pragma once
 
 #include <QByteArray>
 #include <QHostAddress>
@@ -49,5 +48,3 @@ private:
     int m_attempts = 3;
     QString m_error;
 };
-
-#endif
