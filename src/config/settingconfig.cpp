@@ -3,6 +3,7 @@
 #include <QDir>
 
 #include "config/inrushinfo.h"
+#include "config/transparam.h"
 #include "platform/target.h"
 
 #include <cstring>
@@ -60,6 +61,7 @@ void SettingConfig::loadSettingConfig()
     readRows(file,
              { "NOM_VOLT_SELECT", "NOM_VOLT_LINE_SELECT", "NOM_VOLT_CUSTOM", "NOM_VOLT_LINE_CUSTOM", "NOM_FREQ",
                "JOINMODE", "CLAMP_TYPE", "TRANS_THRESHOLD", "LOGGER_FLAG" });
+    TransParam::m_trans_threshold = m_values.transThreshold;
     readRows(file,
              { "RATIO_IFENMU", "RATIO_IFENZI", "RATIO_VFENMU", "RATIO_VFENZI", "RATIO_ICUSTOM", "RATIO_VCUSTOM",
                "RATIO_INFENMU", "RATIO_INFENZI", "RATIO_VNFENMU", "RATIO_VNFENZI", "RATIO_INCUSTOM", "RATIO_VNCUSTOM",
@@ -95,6 +97,7 @@ void SettingConfig::saveClampConfig()
     m_clamps.save(QLatin1String(kClamps));
     m_clampsN.save(QLatin1String(kClampsN));
     followSettings();
+    InrushInfo::changeInfoCuzClamp(*this);
 }
 
 template <typename T> void SettingConfig::store(T SettingValues::*member, T value)
@@ -152,7 +155,6 @@ FOLLOWED_SETTER(setRatioVNFenmu, ratioVNFenmu)
     {                                                                                                                  \
         store(&SettingValues::member, value);                                                                          \
     }
-SETTER(int, setNomFreq, nomFreqSelect)
 SETTER(int, setClampType, clampType)
 SETTER(int, setRatioICustom, ratioICustom)
 SETTER(int, setRatioVCustom, ratioVCustom)
@@ -163,7 +165,6 @@ SETTER(int, setInrushIndex, inrushIndex)
 SETTER(double, setInrushNomAmps, inrushNomAmps)
 SETTER(int, setInrushThreshold, inrushThreshold)
 SETTER(int, setInrushHysteresis, inrushHysteresis)
-SETTER(int, setTransThreshold, transThreshold)
 SETTER(unsigned, setLoggerFlag, loggerFlag)
 SETTER(int, setkFactorMethod, kFactorMethod)
 SETTER(double, setkFactorE, kFactorE)
@@ -173,6 +174,18 @@ SETTER(double, setMainsSigThreshold1, mainsSigThreshold1)
 SETTER(double, setMainsSigFreq2, mainsSigFreq2)
 SETTER(double, setMainsSigThreshold2, mainsSigThreshold2)
 #undef SETTER
+
+void SettingConfig::setNomFreq(int select)
+{
+    store(&SettingValues::nomFreqSelect, select);
+    InrushInfo::changeInfoCuzFreq(getNomFreq());
+}
+
+void SettingConfig::setTransThreshold(int percent)
+{
+    TransParam::m_trans_threshold = percent;
+    store(&SettingValues::transThreshold, percent);
+}
 
 void SettingConfig::setClampRatio(int microvoltsPerAmp)
 {

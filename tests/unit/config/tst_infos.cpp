@@ -292,6 +292,16 @@ private slots:
         QCOMPARE(settings.getInrushHysteresis(), 2);
     }
 
+    void theInrushTablesAndLevelsFollowTheSetUp()
+    {
+        m_settingConfig_g.setNomFreq(2);
+        QVERIFY(InrushInfo::m_dura_time == InrushInfo::m_dura_time_60);
+        m_settingConfig_g.clamps()->setCurClamp("TARN-45"); // 1000 A
+        m_settingConfig_g.saveClampConfig();
+        QCOMPARE(InrushInfo::m_nom_amps, 250.0);
+        QCOMPARE(Config::readConfigFile(SettingConfig::filePath(), "INRUSH_NOMAMPS"), QString("250"));
+    }
+
     void theInrushLevelsAreStoredOnlyWhenTheyChange()
     {
         QFile::remove(Target::path("/var/log/commands"));
@@ -300,6 +310,14 @@ private slots:
         m_settingConfig_g.setInrushThreshold(150);
         InrushInfo::initInfoTimes();
         QCOMPARE(Config::readConfigFile(SettingConfig::filePath(), "INRUSH_THRESHOLD"), QString("200"));
+    }
+
+    void theTransientThresholdFollowsTheSetting()
+    {
+        QCOMPARE(TransParam::m_trans_threshold, 50);
+        m_settingConfig_g.setTransThreshold(120);
+        QCOMPARE(TransParam::m_trans_threshold, 120);
+        QCOMPARE(Config::readConfigFile(SettingConfig::filePath(), "TRANS_THRESHOLD"), QString("120"));
     }
 
     void transientsStartEmpty()

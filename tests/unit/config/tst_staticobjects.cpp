@@ -22,10 +22,9 @@ private slots:
         write(root, "/mnt/userfs/sys/setting.conf", "JOINMODE=4\nNOM_VOLT_LINE_SELECT=6\nNOM_FREQ=2\n");
         write(root, "/mnt/userfs/config/user.conf", "LANG=RU\nPHASECOLOR=20134\n");
         write(root, "/mnt/userfs/sys/limits.xml", "<LimitsConfig><Active>GOST32144</Active></LimitsConfig>");
-        QByteArray calibration(280, '\0');
         const float gain = 100.0f;
-        for (int i = 32; i < 64; ++i)
-            memcpy(calibration.data() + 4 * i, &gain, 4);
+        const QByteArray gains = QByteArray(reinterpret_cast<const char *>(&gain), sizeof(gain)).repeated(32);
+        const QByteArray calibration = QByteArray(128, '\0') + gains + QByteArray(24, '\0');
         write(root, "/mnt/calibration/calibration.dat", calibration);
         // 480 V line to line: voltage row 2 of 100; the scale table holds the prepared gain.
         QCOMPARE(shownBy(root),
