@@ -3,13 +3,27 @@
 #include "config/config_data.h"
 #include "views/common/keyrepeat.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QTest>
 #include <QWidget>
 
+#include <clocale>
+
 // What the tests of pages have in common: reading labels by name, and the letters that the front panel sends.
 
 namespace PageTest {
+
+/// A QTEST_MAIN for pages: with the pictures and the decimal point that the program has.
+#define PAGE_TEST_MAIN(TestClass)                                                                                      \
+    int main(int argc, char **argv)                                                                                    \
+    {                                                                                                                  \
+        QApplication app(argc, argv);                                                                                  \
+        setlocale(LC_NUMERIC, "C");                                                                                    \
+        Q_INIT_RESOURCE(skin);                                                                                         \
+        TestClass test;                                                                                                \
+        return QTest::qExec(&test, argc, argv);                                                                        \
+    }
 
 enum FrontKey {
     F1 = Qt::Key_W,

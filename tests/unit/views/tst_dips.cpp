@@ -388,14 +388,18 @@ void TstDips::rightReturnsThroughTheWindowsToTheNewest()
     feed(6000);
     press(mainPage(), Right, 3);
     press(mainPage(), F3);
-    press(mainPage(), Left, 600); // 599 to the edge, then into the next window
+    hold(mainPage(), Left, 36); // 1 + 3 x 1 + 3 x 5 + 3 x 10 + 27 x 20 = 589
+    release(mainPage(), Left);
+    press(mainPage(), Left, 11); // to the edge and into the next window
     QCOMPARE(mainPage()->window().offset, 600);
     QCOMPARE(mainPage()->cursorPosition(), 1);
     press(mainPage(), Right);
     QCOMPARE(mainPage()->window().offset, 0);
     QCOMPARE(mainPage()->cursorPosition(), 600);
     QCOMPARE(chart()->cursorPosition(), 1);
-    press(mainPage(), Right, 599);
+    hold(mainPage(), Right, 36);
+    release(mainPage(), Right);
+    press(mainPage(), Right, 10);
     QCOMPARE(mainPage()->cursorPosition(), 1);
     press(mainPage(), Right);
     QCOMPARE(mainPage()->cursorPosition(), 1);
@@ -639,5 +643,5 @@ void TstDips::restartEmptiesTheLists()
     QCOMPARE(text(mainPage(), "events_count"), QStringLiteral("0"));
 }
 
-QTEST_MAIN(TstDips)
+PAGE_TEST_MAIN(TstDips)
 #include "tst_dips.moc"

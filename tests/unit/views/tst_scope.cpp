@@ -594,5 +594,5 @@ void TstScope::refreshIsHarmlessWhenRepeated()
     QCOMPARE(std::memcmp(&first, g_scope_data_ui, sizeof first), 0);
 }
 
-QTEST_MAIN(TstScope)
+PAGE_TEST_MAIN(TstScope)
 #include "tst_scope.moc"
