@@ -11,7 +11,7 @@ namespace Ui {
 class FileManager;
 }
 
-/// Picks a file on a USB disk: first the disks, then their folders. Keys: docs/keys.md.
+/// Picks a file on a USB disk: first the disks, then their folders. Keys: docs/widgets.md.
 class FileManager : public SoftKeyDialog
 {
     Q_OBJECT

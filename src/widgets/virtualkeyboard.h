@@ -10,7 +10,7 @@ namespace Ui {
 class VirtualKeyBoard;
 }
 
-/// A keyboard on the screen: the arrows choose a key, Enter presses it. Keys: docs/keys.md.
+/// A keyboard on the screen: the arrows choose a key, Enter presses it. Keys: docs/widgets.md.
 class VirtualKeyBoard : public SoftKeyDialog
 {
     Q_OBJECT
