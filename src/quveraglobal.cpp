@@ -14,6 +14,7 @@
 #include "views/common/functionpage.h"
 #include "views/dips/dswell.h"
 #include "views/inrush/inrushpage.h"
+#include "views/power/powen.h"
 #include "views/scope/scopepage.h"
 #include "views/transients/trans.h"
 #include "views/vif/vifpage.h"
@@ -27,6 +28,7 @@ TaskManage *m_taskmanage = nullptr;
 MenuPage *m_menupage = nullptr;
 VifPage *m_vifpage = nullptr;
 dswell *m_dswellpage = nullptr;
+powen *m_powerpage = nullptr;
 trans *m_transpage = nullptr;
 InrushPage *m_inrushpage = nullptr;
 ScopePage *m_scopepage = nullptr;
@@ -54,6 +56,7 @@ void makePages()
     m_menupage = new MenuPage;
     makePage(m_vifpage);
     makePage(m_dswellpage);
+    makePage(m_powerpage);
     makePage(m_transpage);
     makePage(m_inrushpage);
     makePage(m_scopepage);

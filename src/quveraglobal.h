@@ -17,6 +17,7 @@ class InrushPage;
 class ScopePage;
 class VifPage;
 class dswell;
+class powen;
 class trans;
 class uDiskStorage;
 
@@ -27,6 +28,7 @@ extern TaskManage *m_taskmanage;
 extern MenuPage *m_menupage;
 extern VifPage *m_vifpage;
 extern dswell *m_dswellpage;
+extern powen *m_powerpage;
 extern trans *m_transpage;
 extern InrushPage *m_inrushpage;
 extern ScopePage *m_scopepage;

@@ -1,0 +1,89 @@
+#include "views/power/powen.h"
+
+#include "device/displayrecords.h"
+#include "views/power/powermain.h"
+#include "views/power/powertrendpage.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+constexpr int kTrends = 8;
+constexpr int kRecordWords = 48;
+
+/// What a saved data file of this page holds (76,996 bytes): the 48 words of the record, the points in use, and the
+/// trends P, S, Q, PF, cos phi, tan phi, U rms, I rms of L1, L2, L3 and total. Only the first count points are filled.
+struct _power_pqa_data
+{
+    quint32 record[kRecordWords];
+    qint32 count; // length of the shortest P series, at most 600
+    float series[kTrends][kChannels][kTrendPoints];
+};
+static_assert(sizeof(_power_pqa_data) == 76996, "told size of the saved record");
+static_assert(offsetof(__power_data, hours) == 45 * 4 && offsetof(__power_data, row) == 19 * 4, "words of the record");
+
+void renew(__power_data *&record)
+{
+    if (!record)
+        record = new __power_data;
+    else
+        *record = __power_data();
+}
+
+} // namespace
+
+powen::powen(QWidget *parent)
+    : ViewContainer(UI_POWER, { 6, "Power" }, parent), m_main(new PowerMain), m_trend(new PowerTrendPage)
+{
+    addPage(m_main);
+    addPage(m_trend);
+    connect(m_main, &PowerMain::goPowerTrend, this, &powen::showPowerTrend);
+    connect(m_main, &PowerMain::resetEnergy, this, &powen::resetEnergy);
+    connect(m_trend, &PowerTrendPage::goPowerMain, this, &powen::showPowerMain);
+}
+
+void powen::showPowerTrend()
+{
+    showPage(m_trend);
+}
+
+void powen::showPowerMain()
+{
+    showPage(m_main);
+}
+
+void powen::initDisplayParam()
+{
+    renew(g_power_data);
+    renew(g_power_data_ui);
+}
+
+void powen::updateDisplay(void *data)
+{
+    // The sub pages show a copy, so that both show the same moment. Lists share their values until the task writes.
+    if (g_power_data && g_power_data_ui)
+        *g_power_data_ui = *g_power_data;
+    ViewContainer::updateDisplay(data);
+}
+
+QByteArray powen::pqaData() const
+{
+    if (!g_power_data_ui)
+        return {};
+    QByteArray bytes(int(sizeof(_power_pqa_data)), '\0');
+    auto *data = reinterpret_cast<_power_pqa_data *>(bytes.data());
+    std::memcpy(data->record, g_power_data_ui, sizeof(data->record));
+
+    int count = kTrendPoints;
+    for (const QList<float> &series : g_power_data_ui->trend[0].series)
+        count = std::min(count, int(series.size()));
+    data->count = count;
+    for (int q = 0; q < kTrends; ++q) {
+        for (int c = 0; c < kChannels; ++c) {
+            const QList<float> &series = g_power_data_ui->trend[q].series[c];
+            std::copy_n(series.begin(), std::min(count, int(series.size())), data->series[q][c]);
+        }
+    }
+    return bytes;
+}

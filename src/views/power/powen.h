@@ -1,0 +1,33 @@
+#pragma once
+
+#include "views/common/viewcontainer.h"
+
+class PowerMain;
+class PowerTrendPage;
+
+/// Power and energy: the table of powers with its energy panel, and the ten-minute trend.
+class powen : public ViewContainer
+{
+    Q_OBJECT
+
+public:
+    explicit powen(QWidget *parent = nullptr);
+
+    QByteArray pqaData() const override;
+
+public slots:
+    void showPowerTrend();
+    void showPowerMain();
+    void updateDisplay(void *data) override;
+
+signals:
+    /// The user wants the energy counters at zero.
+    void resetEnergy();
+
+protected:
+    void initDisplayParam() override;
+
+private:
+    PowerMain *m_main;
+    PowerTrendPage *m_trend;
+};

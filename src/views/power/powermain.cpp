@@ -1,0 +1,205 @@
+#include "views/power/powermain.h"
+#include "ui_powermain.h"
+
+#include "config/config_data.h"
+#include "config/phasecolor.h"
+#include "device/displayrecords.h"
+#include "widgets/f_to_str.h"
+
+#include <cmath>
+
+namespace {
+
+const char *const kColumns[kChannels] = { "L1", "L2", "L3", "Tot" };
+
+/// One line of the table.
+struct Row
+{
+    const char *name; // labels <name>_t and <name>_L1 to <name>_Tot
+    const char *caption; // "%1" stands for the unit
+    QString DisplayUnits::*unit;
+    float PowerDisplayRow::*power; // null: one of the two below
+    float (__power_data::*phases)[3];
+    bool hasTotal;
+    QString (*format)(float);
+};
+
+const Row kRows[] = {
+    { "P", QT_TRANSLATE_NOOP("PowerMain", "P(%1)"), &DisplayUnits::watt, &PowerDisplayRow::active, nullptr, true,
+      F_to_Str::number_P },
+    { "S", QT_TRANSLATE_NOOP("PowerMain", "S(%1)"), &DisplayUnits::voltAmpere, &PowerDisplayRow::apparent, nullptr,
+      true, F_to_Str::number_P },
+    { "Q", QT_TRANSLATE_NOOP("PowerMain", "Q1(%1)"), &DisplayUnits::var, &PowerDisplayRow::reactive, nullptr, true,
+      F_to_Str::number_P },
+    { "TPF", QT_TRANSLATE_NOOP("PowerMain", "PF"), nullptr, &PowerDisplayRow::factor, nullptr, true,
+      F_to_Str::number_2 },
+    { "DPF", QT_TRANSLATE_NOOP("PowerMain", "cosΦ"), nullptr, &PowerDisplayRow::fundamentalFactor, nullptr, false,
+      F_to_Str::number_2 },
+    { "tan", QT_TRANSLATE_NOOP("PowerMain", "tanΦ"), nullptr, &PowerDisplayRow::tangent, nullptr, true,
+      F_to_Str::number_2 },
+    { "Urms", QT_TRANSLATE_NOOP("PowerMain", "Urms(%1)"), &DisplayUnits::volt, nullptr, &__power_data::voltage, false,
+      F_to_Str::number_V },
+    { "Irms", QT_TRANSLATE_NOOP("PowerMain", "Irms(%1)"), &DisplayUnits::ampere, nullptr, &__power_data::current, false,
+      F_to_Str::number_A },
+};
+
+/// One line of the energy panel.
+struct EnergyLine
+{
+    const char *name; // labels <name> and <name>_1 to <name>_4
+    QString DisplayUnits::*unit;
+    float (__power_data::*values)[kChannels];
+};
+
+const EnergyLine kEnergies[] = {
+    { "kwh", &DisplayUnits::wattHour, &__power_data::activeEnergy },
+    { "kvah", &DisplayUnits::voltAmpereHour, &__power_data::apparentEnergy },
+    { "kvarh", &DisplayUnits::varHour, &__power_data::reactiveEnergy },
+};
+
+/// The phases of the wiring, and the total where it is asked for.
+bool isShown(int column, bool hasTotal)
+{
+    return column < 3 ? ChannelLabels::channels().has(column) : hasTotal;
+}
+
+} // namespace
+
+PowerMain::PowerMain(QWidget *parent) : ViewPage(UI_POWER, parent), m_ui(new Ui::PowerMain)
+{
+    static const KeyRow<PowerMain> keys[] = {
+        { Qt::Key_F2, nullptr, &PowerMain::pressReset },
+        { Qt::Key_F3, nullptr, &PowerMain::toggleEnergy },
+        { Qt::Key_F4, QT_TRANSLATE_NOOP("PowerMain", "Trend"), &PowerMain::goPowerTrend },
+    };
+    m_ui->setupUi(this);
+    m_headers = ChannelLabels::numberedRow(this, "header_%1");
+    for (const Row &row : kRows) {
+        ChannelLabels::LabelRow labels = ChannelLabels::namedRow(this, row.name);
+        labels[3] = findChild<QLabel *>(QString::fromLatin1(row.name) + QLatin1String("_Tot"));
+        m_rows.push_back(labels);
+    }
+    for (const EnergyLine &row : kEnergies)
+        m_energies.push_back(ChannelLabels::numberedRow(this, (QByteArray(row.name) + "_%1").constData()));
+    m_flags = ChannelLabels::numberedRow(this, "q_flag%1");
+    setKeys(keys);
+    show_Energy();
+}
+
+PowerMain::~PowerMain() = default;
+
+void PowerMain::init_parameter()
+{
+    ViewPage::init_parameter();
+    m_energyShown = false;
+    show_Energy();
+    showTitle();
+    showCurParams();
+}
+
+void PowerMain::retranslateUi()
+{
+    ViewPage::retranslateUi();
+    showTitle();
+    show_Energy();
+}
+
+void PowerMain::pressReset()
+{
+    if (m_energyShown)
+        emit resetEnergy();
+}
+
+void PowerMain::toggleEnergy()
+{
+    m_energyShown = !m_energyShown;
+    show_Energy();
+}
+
+void PowerMain::show_Energy()
+{
+    m_ui->energy->setVisible(m_energyShown);
+    m_ui->btn_f3->setBtnFlag(m_energyShown ? 1 : 0);
+    setKeyCaption(2, m_energyShown ? tr("Reset") : QString());
+}
+
+void PowerMain::showTitle()
+{
+    const DisplayUnits &units = m_settingConfig_g.units();
+    ChannelLabels::showHeaders(m_headers);
+    // The fourth column is the total, in every wiring.
+    setText(m_headers[3], tr("Total"));
+    m_headers[3]->setStyleSheet(QStringLiteral("color: %1;").arg(PhaseColor::colorN().name()));
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        const QString caption = tr(kRows[i].caption);
+        setText(findChild<QLabel *>(QString::fromLatin1(kRows[i].name) + QLatin1String("_t")),
+                kRows[i].unit ? caption.arg(units.*kRows[i].unit) : caption);
+        for (int c = 0; c < kChannels; ++c) {
+            if (!isShown(c, kRows[i].hasTotal))
+                setText(m_rows[i][c], QString());
+        }
+    }
+    setText(m_ui->energy_t, tr("E(%1)").arg(units.wattHour));
+    for (std::size_t i = 0; i < m_energies.size(); ++i) {
+        setText(findChild<QLabel *>(QString::fromLatin1(kEnergies[i].name)), units.*kEnergies[i].unit);
+        for (int c = 0; c < kChannels; ++c) {
+            if (!isShown(c, true))
+                setText(m_energies[i][c], QString());
+        }
+    }
+}
+
+void PowerMain::showRow(const ChannelLabels::LabelRow &row, const float *values, bool hasTotal,
+                        QString (*format)(float)) const
+{
+    for (int c = 0; c < (hasTotal ? kChannels : 3); ++c) {
+        if (isShown(c, hasTotal))
+            setText(row[c], format(values[c]));
+    }
+}
+
+void PowerMain::showCurParams()
+{
+    if (!g_power_data_ui)
+        return;
+    const __power_data &data = *g_power_data_ui;
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        const Row &row = kRows[i];
+        float values[kChannels] = {};
+        for (int c = 0; c < kChannels; ++c)
+            values[c] = row.power ? data.row[c].*row.power : c < 3 ? (data.*row.phases)[c] : 0.0f;
+        showRow(m_rows[i], values, row.hasTotal, row.format);
+    }
+    showEnergies();
+    showCaporInd();
+}
+
+void PowerMain::showEnergies()
+{
+    const __power_data &data = *g_power_data_ui;
+    for (std::size_t i = 0; i < m_energies.size(); ++i)
+        showRow(m_energies[i], data.*kEnergies[i].values, true, F_to_Str::number_E);
+    const QLatin1Char zero('0');
+    setText(m_ui->energy_time,
+            QStringLiteral("%1:%2:%3")
+                .arg(data.hours, 2, 10, zero)
+                .arg(data.minutes, 2, 10, zero)
+                .arg(data.seconds, 2, 10, zero));
+}
+
+void PowerMain::showCaporInd()
+{
+    constexpr float kNothing = 1e-5f; // var
+
+    for (int c = 0; c < kChannels; ++c) {
+        const float reactive = g_power_data_ui->row[c].reactive;
+        QString sheet;
+        if (isShown(c, true) && reactive < -kNothing)
+            sheet = QStringLiteral("background-image: url(:/capacitance);");
+        else if (isShown(c, true) && reactive > kNothing)
+            sheet = QStringLiteral("background-image: url(:/incuctor);");
+        // Only when the sign turned: a sheet costs a new polish.
+        if (m_flags[c]->styleSheet() != sheet)
+            m_flags[c]->setStyleSheet(sheet);
+    }
+}

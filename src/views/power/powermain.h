@@ -1,0 +1,50 @@
+#pragma once
+
+#include "views/common/channellabels.h"
+#include "views/common/viewpage.h"
+
+#include <memory>
+#include <vector>
+
+namespace Ui {
+class PowerMain;
+}
+
+/// Table of powers, power factors, voltages and currents, with a panel of the energies since the last reset.
+class PowerMain : public ViewPage
+{
+    Q_OBJECT
+
+public:
+    explicit PowerMain(QWidget *parent = nullptr);
+    ~PowerMain() override;
+
+    bool isEnergyShown() const { return m_energyShown; }
+
+public slots:
+    void updateDisplay(void *) override { showCurParams(); }
+    void init_parameter() override;
+    void retranslateUi() override;
+
+signals:
+    void goPowerTrend();
+    void resetEnergy();
+
+private:
+    void pressReset();
+    void toggleEnergy();
+    void show_Energy();
+    void showTitle();
+    void showCurParams();
+    void showRow(const ChannelLabels::LabelRow &row, const float *values, bool hasTotal,
+                 QString (*format)(float)) const;
+    void showEnergies();
+    void showCaporInd();
+
+    std::unique_ptr<Ui::PowerMain> m_ui;
+    bool m_energyShown = false;
+    ChannelLabels::LabelRow m_headers;
+    std::vector<ChannelLabels::LabelRow> m_rows; // in the order of the table of rows
+    std::vector<ChannelLabels::LabelRow> m_energies; // active, apparent, reactive
+    ChannelLabels::LabelRow m_flags;
+};
