@@ -9,6 +9,8 @@
 #include <QRegularExpression>
 #include <QtTest>
 
+#include <csignal>
+#include <functional>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -479,54 +481,72 @@ void TstPqa2FF::tornTailThatCannotBeCutIsOverwritten()
 
 namespace {
 
-/// The real file, in a process that dies before its n-th call.
-class MortalDevice : public Pqa2Device
+/// The real file; something else happens before each call that reaches it.
+class WatchedDevice : public Pqa2Device
 {
 public:
-    explicit MortalDevice(int calls) : m_left(calls) { }
-    bool open(const QString &path) override { return live(), Pqa2Device::open(path); }
-    qint64 write(const char *data, qint64 size) override { return live(), Pqa2Device::write(data, size); }
-    bool seek(qint64 position) override { return live(), Pqa2Device::seek(position); }
+    explicit WatchedDevice(std::function<void(int)> before) : m_before(std::move(before)) { }
+    bool open(const QString &path) override { return tell(), Pqa2Device::open(path); }
+    qint64 write(const char *data, qint64 size) override { return tell(), Pqa2Device::write(data, size); }
+    bool seek(qint64 position) override { return tell(), Pqa2Device::seek(position); }
     float freeSize() override { return 1000.0f; }
 
 private:
-    void live()
-    {
-        if (m_left-- <= 0)
-            ::_exit(0);
-    }
-    int m_left;
+    void tell() { m_before(m_calls++); }
+    std::function<void(int)> m_before; // takes the number of calls made so far
+    int m_calls = 0;
 };
+
+constexpr int kRunBlocks = 200;
+
+/// Whether the file is what a process leaves that dies after so many calls.
+bool isLeftAfter(const QByteArray &file, int calls)
+{
+    constexpr int kOpening = 1 + 1 + 1 + 1 + 2 * 4; // open, head, first block, seek; block, seek, link, seek
+    if (calls < kOpening)
+        return readBlocks(file).size() <= 3;
+    // Four calls a block: block, seek, link, seek. The block counts once its link is written.
+    const int linked = qMin((calls - kOpening + 1) / 4, kRunBlocks);
+    return isRun(readBlocks(file), linked, linked);
+}
 
 } // namespace
 
 void TstPqa2FF::processKilledAtEveryCallLeavesWholeBlocks()
 {
-    constexpr int kBlocks = 200;
+    // What a process wrote stays when it is killed, so that the file before each call is what the kill would leave.
     const QString path = QStringLiteral("/mnt/storage/killed.pqa2");
-    constexpr int kOpening
-        = 1 + 1 + 1 + 2 * 4 + 1; // open, head, first block, two linked ones, and a seek behind the first
-    bool ended = false;
-    for (int calls = 0; !ended; ++calls) {
+    bool whole = true;
+    int calls = 0;
+    {
+        Pqa2FF file(std::make_unique<WatchedDevice>([&](int made) {
+            calls = made + 1;
+            whole = whole && isLeftAfter(fileBytes(path), made);
+        }));
+        QVERIFY(file.open(path));
+        writeRun(file, kRunBlocks);
+    }
+    QVERIFY(whole);
+    QCOMPARE(calls, 12 + 4 * kRunBlocks);
+    QVERIFY(isLeftAfter(fileBytes(path), calls));
+    // And with processes that really die.
+    for (int last = 5; last < calls; last += 61) {
         const pid_t child = ::fork();
         QVERIFY(child >= 0);
         if (child == 0) {
-            Pqa2FF file(std::make_unique<MortalDevice>(calls));
+            Pqa2FF file(std::make_unique<WatchedDevice>([last](int made) {
+                if (made == last)
+                    ::kill(::getpid(), SIGKILL);
+            }));
             if (file.open(path))
-                writeRun(file, kBlocks);
+                writeRun(file, kRunBlocks);
             ::_exit(1);
         }
         int status = 0;
         QCOMPARE(::waitpid(child, &status, 0), child);
-        QVERIFY(WIFEXITED(status));
-        ended = WEXITSTATUS(status) == 1;
-        if (calls < kOpening)
-            continue;
-        // Four calls a block: block, seek, link, seek. The block counts once its link is written.
-        const int linked = (calls - kOpening + 1) / 4;
-        QVERIFY(isRun(readBlocks(fileBytes(path)), qMin(linked, kBlocks), qMin(linked, kBlocks)));
+        QVERIFY(WIFSIGNALED(status));
+        QVERIFY(isLeftAfter(fileBytes(path), last));
     }
-    QVERIFY(isRun(readBlocks(fileBytes(path)), kBlocks, kBlocks));
 }
 
 void TstPqa2FF::offsetsReachUpToTheLastLink()
