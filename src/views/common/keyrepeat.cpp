@@ -1,6 +1,6 @@
 #include "views/common/keyrepeat.h"
 
-#include <QEvent>
+#include <QKeyEvent>
 #include <QWidget>
 
 KeyRepeat::KeyRepeat(QWidget *page, int ticksPerStep, Steps steps)
@@ -42,6 +42,12 @@ void KeyRepeat::tick()
 
 bool KeyRepeat::eventFilter(QObject *watched, QEvent *event)
 {
+    // A keyboard that repeats by itself, releases included, must neither stop this nor begin it anew.
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    if (isActive() && isKey && static_cast<QKeyEvent *>(event)->isAutoRepeat()) {
+        event->accept();
+        return true;
+    }
     if (event->type() == QEvent::Hide || event->type() == QEvent::WindowDeactivate)
         stop();
     return QObject::eventFilter(watched, event);

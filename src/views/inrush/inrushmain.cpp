@@ -8,14 +8,22 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <utility>
 
 namespace {
 
 constexpr int kTicksPerStep = 3;
 constexpr int kLastDuration = 6;
-constexpr int kMostThreshold = 1000; // percent
-constexpr int kMostHysteresis = 100; // percent
+constexpr double kMostThreshold = 1000; // percent
+constexpr double kMostHysteresis = 100; // percent
 constexpr double kRounding = 1e-6; // of a step: what stands on the grid in floating point
+
+/// Keeps \a value; false if it stood there already: a key held at a bound must not write the settings file over and
+/// over.
+template <typename T> bool store(T &place, T value)
+{
+    return std::exchange(place, value) != value;
+}
 
 /// One ampere at the clamp in the shown unit.
 double shownPerAmp()
@@ -94,8 +102,8 @@ void InrushMain::initInrushMain()
     m_repeat->stop();
     InrushInfo::initInfoTimes();
     m_switchOn = true;
-    InrushInfo::m_duration_index = 0;
-    m_settingConfig_g.setInrushIndex(0);
+    if (store(InrushInfo::m_duration_index, 0))
+        m_settingConfig_g.setInrushIndex(0);
     showFields();
 }
 
@@ -145,27 +153,27 @@ void InrushMain::changeNomAmps(int step)
     const double places = InrushInfo::m_nom_amps * scale / grid;
     const double moved = (step < 0 ? std::ceil(places - kRounding) : std::floor(places + kRounding)) + step;
     const double shown = std::clamp(moved * grid, grid, std::max(grid, InrushInfo::inrush_range));
-    InrushInfo::m_nom_amps = shown / scale;
-    m_settingConfig_g.setInrushNomAmps(InrushInfo::m_nom_amps);
+    if (store(InrushInfo::m_nom_amps, shown / scale))
+        m_settingConfig_g.setInrushNomAmps(InrushInfo::m_nom_amps);
 }
 
 void InrushMain::changeThreshold(int step)
 {
-    InrushInfo::m_threshold = std::clamp(InrushInfo::m_threshold + step, 1.0, double(kMostThreshold));
-    m_settingConfig_g.setInrushThreshold(int(InrushInfo::m_threshold));
+    if (store(InrushInfo::m_threshold, std::clamp(InrushInfo::m_threshold + step, 1.0, kMostThreshold)))
+        m_settingConfig_g.setInrushThreshold(int(InrushInfo::m_threshold));
 }
 
 void InrushMain::changeHysteresis(int step)
 {
-    InrushInfo::m_hysteresis = std::clamp(InrushInfo::m_hysteresis + step, 1.0, double(kMostHysteresis));
-    m_settingConfig_g.setInrushHysteresis(int(InrushInfo::m_hysteresis));
+    if (store(InrushInfo::m_hysteresis, std::clamp(InrushInfo::m_hysteresis + step, 1.0, kMostHysteresis)))
+        m_settingConfig_g.setInrushHysteresis(int(InrushInfo::m_hysteresis));
 }
 
 void InrushMain::changeDuration(int step)
 {
     const int moved = InrushInfo::m_duration_index + (step < 0 ? -1 : 1); // seven rows: no larger steps
-    InrushInfo::m_duration_index = std::clamp(moved, 0, kLastDuration);
-    m_settingConfig_g.setInrushIndex(InrushInfo::m_duration_index);
+    if (store(InrushInfo::m_duration_index, std::clamp(moved, 0, kLastDuration)))
+        m_settingConfig_g.setInrushIndex(InrushInfo::m_duration_index);
 }
 
 void InrushMain::changeSwitch(int step)

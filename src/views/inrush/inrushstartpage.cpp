@@ -27,7 +27,6 @@ InrushStartPage::~InrushStartPage() = default;
 
 void InrushStartPage::init_parameter()
 {
-    InrushInfo::changeInfoCuzFreq();
     chooseScale();
     RmsTrendPage::init_parameter();
 }

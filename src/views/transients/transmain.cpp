@@ -2,7 +2,6 @@
 #include "ui_transmain.h"
 
 #include "config/config_data.h"
-#include "config/transparam.h"
 #include "views/common/keyrepeat.h"
 
 #include <algorithm>
@@ -41,7 +40,6 @@ bool TransMain::takeChanged()
 void TransMain::init_parameter()
 {
     ViewPage::init_parameter();
-    TransParam::m_trans_threshold = m_settingConfig_g.getTransThreshold();
     showTransThreshold();
 }
 
@@ -92,7 +90,6 @@ void TransMain::setThreshold(int percent)
         m_settingConfig_g.setTransThreshold(percent);
         m_changed = true;
     }
-    TransParam::m_trans_threshold = percent;
     showTransThreshold();
 }
 

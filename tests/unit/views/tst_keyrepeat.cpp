@@ -1,5 +1,6 @@
 #include "views/common/keyrepeat.h"
 
+#include <QKeyEvent>
 #include <QSignalSpy>
 #include <QTest>
 #include <QWidget>
@@ -105,6 +106,14 @@ void TstKeyRepeat::aKeyThatRepeatsByItselfChangesNothing()
     repeat.start(1);
     QCOMPARE(spy.count(), 0);
     QCOMPARE(repeat.step(), 5);
+    // The page sees neither the keyboard's own presses nor its releases in between.
+    for (const QEvent::Type type : { QEvent::KeyRelease, QEvent::KeyPress }) {
+        QKeyEvent event(type, Qt::Key_O, Qt::NoModifier, QString(), true);
+        event.ignore();
+        QCoreApplication::sendEvent(&page, &event);
+        QVERIFY(event.isAccepted());
+        QVERIFY(repeat.isActive());
+    }
 }
 
 void TstKeyRepeat::theOppositeKeyStartsAnew()
