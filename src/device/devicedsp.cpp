@@ -314,7 +314,8 @@ void DeviceDSP::emitDatagram()
     // A deep copy: the store is filled again while the receiver still holds the array.
     const char *datagram = reinterpret_cast<const char *>(&g_store) + offsetof(DatagramStore, data);
     const QByteArray bytes(datagram + kind.skippedBytes, emittedBytes(kind));
-    emit(this->*kSignals[g_store.type])(kind.type, bytes);
+    const DatagramSignal signal = kSignals[kind.type];
+    emit(this->*signal)(kind.type, bytes);
 }
 
 /// The processor's clock is the master: every so often, and at each r.m.s. datagram while it has BDS time, its stamp is
