@@ -130,10 +130,18 @@ void PqaFile::saveDataFile(const QString &name)
 
 void PqaFile::store(const QString &temporary, const QString &name)
 {
-    const QString stored = Target::path(FileInfo::storagePath() + name);
-    const QString source = Target::path(temporary);
-    QFile::remove(stored);
-    QFile::copy(source, stored);
-    QFile::remove(source);
+    QFile stored(Target::path(FileInfo::storagePath() + name));
+    QFile source(Target::path(temporary));
+    stored.remove();
+    // Piece by piece, so that a full disk keeps what it could take: a short file may still show its picture.
+    if (source.open(QIODevice::ReadOnly) && stored.open(QIODevice::WriteOnly)) {
+        constexpr qint64 kPiece = 64 * 1024;
+        for (QByteArray piece = source.read(kPiece); !piece.isEmpty(); piece = source.read(kPiece)) {
+            if (stored.write(piece) != piece.size())
+                break;
+        }
+    }
+    stored.close();
+    source.remove();
     Target::shell(QStringLiteral("sync"));
 }

@@ -32,7 +32,11 @@ FileCopingProgressBar::FileCopingProgressBar(const QString &source, const QStrin
     m_turn.start(0);
 }
 
-FileCopingProgressBar::~FileCopingProgressBar() = default;
+FileCopingProgressBar::~FileCopingProgressBar()
+{
+    if (m_out.isOpen())
+        m_out.remove();
+}
 
 void FileCopingProgressBar::copyPiece()
 {

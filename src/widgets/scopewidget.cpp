@@ -170,11 +170,11 @@ void ScopeWidget::initLinePath()
     for (int curve = 0; curve < kCurves; ++curve) {
         const qint16 *s = samples(curve);
         const double scale = scaleOf(curve);
+        QPolygonF points(ChartParts::kPlotPoints);
+        for (int x = 0; x < ChartParts::kPlotPoints; ++x)
+            points[x] = QPointF(x, ChartParts::boundedPixel(kCentre - (s[x] * scale + 0.5)));
         QPainterPath path;
-        path.reserve(ChartParts::kPlotPoints);
-        path.moveTo(0, ChartParts::boundedPixel(kCentre - (s[0] * scale + 0.5)));
-        for (int x = 1; x < ChartParts::kPlotPoints; ++x)
-            path.lineTo(x, ChartParts::boundedPixel(kCentre - (s[x] * scale + 0.5)));
+        path.addPolygon(points);
         m_path[curve] = path;
     }
 }

@@ -37,6 +37,10 @@ void SoftKeyDialog::finishForm()
 {
     setFixedSize(size());
     m_background = ChartParts::scaledPicture(QStringLiteral(":/message_bg"), size());
+    for (QLabel *label : findChildren<QLabel *>()) {
+        if (!label->text().isEmpty())
+            fitText(label, label->text(), label->font().pixelSize()); // a translation may be longer than its place
+    }
     for (int number = 1; number <= 5; ++number) {
         if (const QLabel *key = softKey(number))
             setKeyText(number, key->text());

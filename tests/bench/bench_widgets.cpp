@@ -248,6 +248,6 @@ int main(int argc, char **argv)
             { "phasors repaint, beside four polylines", "vectors", "fourPolylines", 0 },
             { "event table repaint, beside four polylines", "eventTable", "fourPolylines", 0 },
             { "event table refresh of 100,000, beside one copy", "eventRefresh", "eventCopy", 2.5 },
-            { "trend data taken over, beside filling polylines", "takeTrend", "fillPolylines", 1.0 },
+            { "trend data taken over, beside filling polylines", "takeTrend", "fillPolylines", 2.5 },
         });
 }
