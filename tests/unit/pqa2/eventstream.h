@@ -55,3 +55,12 @@ struct EventStream
     PowerEvents &events;
     qint64 time; // ms, of the next half cycle
 };
+
+/// Brings the counter to the given number with unbalance events.
+inline void countTo(PowerEvents &events, int number)
+{
+    while (events.eventCounter() < number) {
+        events.checkEventUnbal({ 0, 3 });
+        events.checkEventUnbal({ 1, 1 });
+    }
+}

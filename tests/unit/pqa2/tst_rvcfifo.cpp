@@ -257,10 +257,7 @@ void TstRvcFifo::recordedStepIsAFinishedEventWithoutCurves()
 void TstRvcFifo::stepAtTenThousandEventsIsNotAnEvent()
 {
     PowerEvents events(lowReference(), 1);
-    while (events.eventCounter() < 10'000) {
-        events.checkEventUnbal({ 0, 3 });
-        events.checkEventUnbal({ 1, 1 });
-    }
+    countTo(events, 10'000);
     EventStream in(events);
     in.feed(110, 5);
     in.feed(600, 15);
