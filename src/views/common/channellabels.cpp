@@ -69,6 +69,23 @@ void showHeaders(const LabelRow &row, const QString &suffix)
     }
 }
 
+void showPairHeaders(const LabelRow &row)
+{
+    const ChannelSet &set = channels();
+    for (int c = 0; c < kChannels; ++c)
+        setText(row[c],
+                set.has(c) && !set.star() ? set.caption(c) + QLatin1Char('/') + QLatin1String(kSuffixes[c])
+                    : set.has(c)          ? set.caption(c)
+                                          : QString());
+    showColors(row);
+}
+
+void showColors(const LabelRow &row)
+{
+    for (int c = 0; c < kChannels; ++c)
+        setColor(row[c], PhaseColor::color(c).name());
+}
+
 void showValues(const LabelRow &row, const float *values, Format format)
 {
     const ChannelSet &set = channels();

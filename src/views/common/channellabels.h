@@ -28,6 +28,10 @@ LabelRow numberedRow(const QWidget *form, const char *pattern);
 /// Column headers: "L1" and so on, or "L12" and so on in a delta wiring, in the colours of the phases.
 /// \a suffix follows each text, such as ":".
 void showHeaders(const LabelRow &row, const QString &suffix = QString());
+/// The same for quantities that belong to a voltage and to a current: "L12/L1" and so on in a delta wiring.
+void showPairHeaders(const LabelRow &row);
+/// Gives the labels the colours of the phases.
+void showColors(const LabelRow &row);
 void showValues(const LabelRow &row, const float *values, Format format);
 void clearUnused(const LabelRow &row);
 void clear(const LabelRow &row);

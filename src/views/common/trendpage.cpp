@@ -52,13 +52,26 @@ void TrendPage::showType()
     setText(m_typeLabel, quantity().caption());
     ChannelLabels::clear(m_captions);
     ChannelLabels::clear(m_values);
+    // The grey of a lost frequency must not stay with the next quantity.
+    if (!m_values[0]->styleSheet().isEmpty())
+        m_values[0]->setStyleSheet(QString());
     if (quantity().single)
         return;
-    ChannelLabels::showHeaders(m_captions, QStringLiteral(":"));
+    ChannelLabels::showHeaders(drawn(m_captions), QStringLiteral(":"));
     if (quantity().fourthCaption && m_captions[3]) {
         setText(m_captions[3], QString::fromLatin1(quantity().fourthCaption));
         m_captions[3]->setStyleSheet(QStringLiteral("color: %1;").arg(PhaseColor::colorN().name()));
     }
+}
+
+ChannelLabels::LabelRow TrendPage::drawn(ChannelLabels::LabelRow row) const
+{
+    const int flags = quantity().flags();
+    for (int phase = 0; phase < 3; ++phase) {
+        if (!(flags >> phase & 1))
+            row[phase] = nullptr;
+    }
+    return row;
 }
 
 void TrendPage::showTrend()
@@ -80,10 +93,13 @@ void TrendPage::showValue()
 {
     const Quantity &q = quantity();
     if (q.single) {
-        ChannelLabels::showFrequency(m_values[0], *q.values(), QString());
+        if (q.plain)
+            setText(m_values[0], q.format(*q.values()));
+        else
+            ChannelLabels::showFrequency(m_values[0], *q.values(), QString());
         return;
     }
-    ChannelLabels::showValues(m_values, q.values(), q.format);
+    ChannelLabels::showValues(drawn(m_values), q.values(), q.format);
     // A total stands in the fourth place whatever the wiring; where there is none the place stays empty.
     if (q.fourthCaption)
         setText(m_values[3], *q.fourthCaption ? q.format(q.values()[3]) : QString());

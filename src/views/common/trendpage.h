@@ -31,6 +31,7 @@ public:
         QString (*format)(float);
         bool single = false; // one value without a channel: the frequency, with its grey rule
         const char *fourthCaption = nullptr; // in place of the neutral's, such as "T :"
+        bool plain = false; // single: a value with its own sign, without the grey rule
     };
 
     int type() const { return quantity().type; }
@@ -58,6 +59,8 @@ private:
     void initTrendFlags();
     void showType();
     void showValue();
+    /// \a row without the phases that have no curve.
+    ChannelLabels::LabelRow drawn(ChannelLabels::LabelRow row) const;
 
     const std::vector<Quantity> &m_cycle;
     std::size_t m_index = 0;
