@@ -1,0 +1,182 @@
+#include "views/harmonics/harmmeterpage.h"
+#include "ui_harmmeterpage.h"
+
+#include "config/harmdata.h"
+#include "device/displayrecords.h"
+#include "views/common/keyrepeat.h"
+#include "views/harmonics/harmvalues.h"
+#include "widgets/f_to_str.h"
+
+#include <cstdlib>
+
+using namespace HarmValues;
+
+namespace {
+
+constexpr int kTicksPerStep = 3;
+
+/// Name of a line; "%1" stands for the order.
+const char *name(const Line &line)
+{
+    static const char *const names[][2] = {
+        { QT_TRANSLATE_NOOP("HarmMeterPage", "Uthd"), QT_TRANSLATE_NOOP("HarmMeterPage", "Ithd") },
+        { QT_TRANSLATE_NOOP("HarmMeterPage", "Udc"), QT_TRANSLATE_NOOP("HarmMeterPage", "Idc") },
+        { QT_TRANSLATE_NOOP("HarmMeterPage", "Uharm %1"), QT_TRANSLATE_NOOP("HarmMeterPage", "Iharm %1") },
+        { QT_TRANSLATE_NOOP("HarmMeterPage", "Uinharm %1"), QT_TRANSLATE_NOOP("HarmMeterPage", "Iinharm %1") },
+    };
+    return names[line.item.kind][line.quantity == Voltage ? 0 : 1];
+}
+
+bool hasOrder(const Line &line)
+{
+    return line.item.kind == Harmonic || line.item.kind == Interharmonic;
+}
+
+int tableLines()
+{
+    return lineCount(HarmData::m_harm_max_numb, HarmData::m_bewith_inharm);
+}
+
+} // namespace
+
+HarmMeterPage::HarmMeterPage(QWidget *parent)
+    : ViewPage(UI_HARMONICS, parent), m_ui(new Ui::HarmMeterPage), m_repeat(new KeyRepeat(this, kTicksPerStep))
+{
+    static const KeyRow<HarmMeterPage> keys[] = {
+        { Qt::Key_F3, nullptr, &HarmMeterPage::changeReference },
+        { Qt::Key_F4, QT_TRANSLATE_NOOP("HarmMeterPage", "Harmonic"), &HarmMeterPage::goHarmMain },
+        { Qt::Key_Up, nullptr, &HarmMeterPage::pressUp },
+        { Qt::Key_Down, nullptr, &HarmMeterPage::pressDown },
+    };
+    m_ui->setupUi(this);
+    m_ui->verticalScrollBar->setFocusPolicy(Qt::NoFocus);
+    m_headers = ChannelLabels::numberedRow(this, "header_%1");
+    for (int i = 0; i < kLines; ++i) {
+        const QByteArray row = QByteArrayLiteral("row") + QByteArray::number(i + 1);
+        m_names[i] = findChild<QLabel *>(QString::fromLatin1(row + "_t"));
+        m_cells[i] = ChannelLabels::namedRow(this, row.constData());
+    }
+    connect(m_repeat, &KeyRepeat::repeated, this, &HarmMeterPage::scroll);
+    setKeys(keys);
+}
+
+HarmMeterPage::~HarmMeterPage() = default;
+
+void HarmMeterPage::init_parameter()
+{
+    ViewPage::init_parameter();
+    m_position = 0;
+    m_ui->verticalScrollBar->setRange(0, lastPosition());
+    m_ui->verticalScrollBar->setPageStep(kLines);
+    initTitle();
+    VerticalScrollBar();
+    showReference();
+}
+
+void HarmMeterPage::retranslateUi()
+{
+    ViewPage::retranslateUi();
+    showNames();
+}
+
+void HarmMeterPage::updateDisplay(void *)
+{
+    showReference();
+    showCurValue();
+}
+
+void HarmMeterPage::initTitle()
+{
+    ChannelLabels::showPairHeaders(m_headers);
+    for (const ChannelLabels::LabelRow &cells : m_cells)
+        ChannelLabels::clear(cells);
+}
+
+void HarmMeterPage::changeReference()
+{
+    if (g_harm_data)
+        emit changeFlag(g_harm_data->reference);
+}
+
+void HarmMeterPage::showReference()
+{
+    if (g_harm_data)
+        m_ui->btn_f3->setBtnFlag(g_harm_data->reference);
+}
+
+void HarmMeterPage::pressUp()
+{
+    m_repeat->start(-1);
+}
+
+void HarmMeterPage::pressDown()
+{
+    m_repeat->start(1);
+}
+
+void HarmMeterPage::releaseKey(int key)
+{
+    if (key == Qt::Key_Up || key == Qt::Key_Down)
+        m_repeat->stop();
+}
+
+int HarmMeterPage::lastPosition() const
+{
+    return (tableLines() - 1) / kLines * kLines; // 399 with 100 orders, 21 at 400 Hz
+}
+
+void HarmMeterPage::setScrollBarNext()
+{
+    if (m_position < lastPosition())
+        m_position += kLines;
+}
+
+void HarmMeterPage::setScrollBarPrev()
+{
+    if (m_position > 0)
+        m_position -= kLines;
+}
+
+void HarmMeterPage::scroll(int step)
+{
+    for (int i = 0; i < std::abs(step); ++i)
+        step < 0 ? setScrollBarPrev() : setScrollBarNext();
+    VerticalScrollBar();
+}
+
+void HarmMeterPage::VerticalScrollBar()
+{
+    m_ui->verticalScrollBar->setValue(m_position);
+    showNames();
+    showCurValue();
+}
+
+void HarmMeterPage::showNames()
+{
+    for (int i = 0; i < kLines; ++i) {
+        if (m_position + i >= tableLines()) {
+            setText(m_names[i], QString());
+            continue;
+        }
+        const Line shown = line(m_position + i, HarmData::m_harm_max_numb);
+        const QString text = tr(name(shown));
+        setText(m_names[i], hasOrder(shown) ? text.arg(shown.item.order) : text);
+    }
+}
+
+void HarmMeterPage::showCurValue()
+{
+    if (!g_harm_data)
+        return;
+    for (int i = 0; i < kLines; ++i) {
+        if (m_position + i >= tableLines()) {
+            ChannelLabels::clear(m_cells[i]); // behind the last order
+            continue;
+        }
+        const Line shown = line(m_position + i, HarmData::m_harm_max_numb);
+        float values[kChannels];
+        for (int c = 0; c < kChannels; ++c)
+            values[c] = percent(*g_harm_data, shown.quantity, c, shown.item);
+        ChannelLabels::showValues(m_cells[i], values, F_to_Str::number_3);
+    }
+}

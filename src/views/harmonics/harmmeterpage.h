@@ -1,0 +1,60 @@
+#pragma once
+
+#include "views/common/channellabels.h"
+#include "views/common/viewpage.h"
+
+#include <array>
+#include <memory>
+
+namespace Ui {
+class HarmMeterPage;
+}
+class KeyRepeat;
+
+/// Table of all orders of voltage and current in percent, seven lines at a time.
+class HarmMeterPage : public ViewPage
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kLines = 7;
+
+    explicit HarmMeterPage(QWidget *parent = nullptr);
+    ~HarmMeterPage() override;
+
+    int scrollPosition() const { return m_position; } // first line shown, a multiple of 7
+
+public slots:
+    void updateDisplay(void *) override;
+    void init_parameter() override;
+    void retranslateUi() override;
+
+signals:
+    void goHarmMain();
+    /// The reference in force, 1 percent of r.m.s. or 2 percent of the fundamental, is to change.
+    void changeFlag(int flag);
+
+protected:
+    void releaseKey(int key) override;
+
+private:
+    void changeReference();
+    void pressUp();
+    void pressDown();
+    void scroll(int step);
+    int lastPosition() const;
+    void setScrollBarNext();
+    void setScrollBarPrev();
+    void VerticalScrollBar();
+    void initTitle();
+    void showNames();
+    void showReference();
+    void showCurValue();
+
+    std::unique_ptr<Ui::HarmMeterPage> m_ui;
+    KeyRepeat *m_repeat;
+    ChannelLabels::LabelRow m_headers;
+    std::array<QLabel *, kLines> m_names {};
+    std::array<ChannelLabels::LabelRow, kLines> m_cells {};
+    int m_position = 0;
+};
