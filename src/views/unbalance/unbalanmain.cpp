@@ -1,0 +1,121 @@
+#include "views/unbalance/unbalanmain.h"
+#include "ui_unbalanmain.h"
+
+#include "config/config_data.h"
+#include "views/unbalance/unbalancevalues.h"
+#include "widgets/f_to_str.h"
+
+namespace {
+
+using Values = const float *(*)(); // of the four channels; null: no record
+
+template <float (__vif_data::*values)[kChannels]> const float *live()
+{
+    return g_vif_data ? g_vif_data->*values : nullptr;
+}
+
+template <float (__unbalance_data::*values)[kChannels]> const float *own()
+{
+    return g_unbalance_data ? g_unbalance_data->*values : nullptr;
+}
+
+struct Row
+{
+    const char *name; // labels <name>_t, <name>_L1 ... <name>_N
+    const char *caption; // "%1" stands for the unit
+    QString DisplayUnits::*unit;
+    Values values;
+    QString (*format)(float);
+};
+
+const Row kRows[] = {
+    { "U", QT_TRANSLATE_NOOP("UnbalanMain", "Urms(%1)"), &DisplayUnits::volt, live<&__vif_data::voltage>,
+      F_to_Str::number_V },
+    { "I", QT_TRANSLATE_NOOP("UnbalanMain", "Irms(%1)"), &DisplayUnits::ampere, live<&__vif_data::current>,
+      F_to_Str::number_A },
+    { "Uf", QT_TRANSLATE_NOOP("UnbalanMain", "Ufund(%1)"), &DisplayUnits::volt,
+      own<&__unbalance_data::voltageFundamental>, F_to_Str::number_V },
+    { "If", QT_TRANSLATE_NOOP("UnbalanMain", "Ifund(%1)"), &DisplayUnits::ampere,
+      own<&__unbalance_data::currentFundamental>, F_to_Str::number_A },
+    { "IU", QT_TRANSLATE_NOOP("UnbalanMain", "\u0424I-U(\u00b0):"), nullptr, own<&__unbalance_data::angleDifference>,
+      F_to_Str::number_Ang },
+};
+
+struct Ratio
+{
+    const char *name; // labels <name> and <name>_v
+    const char *caption;
+    float __unbalance_data::*value; // percent
+};
+
+const Ratio kRatios[] = {
+    { "uneg", QT_TRANSLATE_NOOP("UnbalanMain", "Uneg"), &__unbalance_data::voltageNegativeRatio },
+    { "uzero", QT_TRANSLATE_NOOP("UnbalanMain", "Uzero"), &__unbalance_data::voltageZeroRatio },
+    { "Ineg", QT_TRANSLATE_NOOP("UnbalanMain", "Ineg"), &__unbalance_data::currentNegativeRatio },
+    { "Izero", QT_TRANSLATE_NOOP("UnbalanMain", "Izero"), &__unbalance_data::currentZeroRatio },
+};
+
+} // namespace
+
+UnbalanMain::UnbalanMain(QWidget *parent) : ViewPage(UI_UNBALANCE, parent), m_ui(new Ui::UnbalanMain)
+{
+    static const KeyRow<UnbalanMain> keys[] = {
+        { Qt::Key_F4, QT_TRANSLATE_NOOP("UnbalanMain", "Vector"), &UnbalanMain::goUnbalanVector },
+    };
+    m_ui->setupUi(this);
+    m_headers = ChannelLabels::numberedRow(this, "header_%1");
+    for (const Row &row : kRows)
+        m_rows.push_back(ChannelLabels::namedRow(this, row.name));
+    for (const Ratio &ratio : kRatios)
+        m_ratios.push_back(findChild<QLabel *>(QString::fromLatin1(ratio.name) + QLatin1String("_v")));
+    setKeys(keys);
+}
+
+UnbalanMain::~UnbalanMain() = default;
+
+void UnbalanMain::init_parameter()
+{
+    ViewPage::init_parameter();
+    showTitle();
+    showCurParams();
+}
+
+void UnbalanMain::retranslateUi()
+{
+    ViewPage::retranslateUi();
+    setText(m_ui->freq_t, tr("Freq ="));
+    showTitle();
+}
+
+void UnbalanMain::showTitle()
+{
+    ChannelLabels::showHeaders(m_headers);
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        const Row &row = kRows[i];
+        const QString caption = tr(row.caption);
+        setText(findChild<QLabel *>(QString::fromLatin1(row.name) + QLatin1String("_t")),
+                row.unit ? caption.arg(m_settingConfig_g.units().*row.unit) : caption);
+        ChannelLabels::clearUnused(m_rows[i]);
+    }
+    const bool shown = UnbalanceValues::hasSequences();
+    for (std::size_t i = 0; i < m_ratios.size(); ++i) {
+        setText(findChild<QLabel *>(QString::fromLatin1(kRatios[i].name)), shown ? tr(kRatios[i].caption) : QString());
+        if (!shown)
+            setText(m_ratios[i], QString());
+    }
+}
+
+void UnbalanMain::showCurParams()
+{
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        if (const float *values = kRows[i].values())
+            ChannelLabels::showValues(m_rows[i], values, kRows[i].format);
+    }
+    if (!g_unbalance_data)
+        return;
+    if (UnbalanceValues::hasSequences()) {
+        for (std::size_t i = 0; i < m_ratios.size(); ++i)
+            setText(m_ratios[i], F_to_Str::number_2(g_unbalance_data->*kRatios[i].value) + QLatin1Char('%'));
+    }
+    ChannelLabels::showFrequency(m_ui->freq_v, UnbalanceValues::signedFrequency(*g_unbalance_data));
+}

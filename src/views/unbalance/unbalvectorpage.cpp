@@ -1,0 +1,182 @@
+#include "views/unbalance/unbalvectorpage.h"
+#include "ui_unbalvectorpage.h"
+
+#include "config/config_data.h"
+#include "config/phasecolor.h"
+#include "views/unbalance/unbalancevalues.h"
+#include "widgets/f_to_str.h"
+
+#include <algorithm>
+
+namespace {
+
+enum Selector { AllVoltages = 1, AllCurrents = 2, FirstPhase = 3 };
+
+using SetAngle = void (VectorChart::*)(double, bool);
+
+/// Of the three voltages, then of the three currents.
+constexpr SetAngle kSetAngle[2][3] = {
+    { &VectorChart::setAngleU1, &VectorChart::setAngleU2, &VectorChart::setAngleU3 },
+    { &VectorChart::setAngleA1, &VectorChart::setAngleA2, &VectorChart::setAngleA3 },
+};
+
+const char *const kCaptions[2][3] = {
+    { QT_TRANSLATE_NOOP("UnbalVectorPage", "U1fund(%1):"), QT_TRANSLATE_NOOP("UnbalVectorPage", "U2fund(%1):"),
+      QT_TRANSLATE_NOOP("UnbalVectorPage", "U3fund(%1):") },
+    { QT_TRANSLATE_NOOP("UnbalVectorPage", "I1fund(%1):"), QT_TRANSLATE_NOOP("UnbalVectorPage", "I2fund(%1):"),
+      QT_TRANSLATE_NOOP("UnbalVectorPage", "I3fund(%1):") },
+};
+
+const char *const kAngleCaptions[3] = {
+    QT_TRANSLATE_NOOP("UnbalVectorPage", "\u04241(\u00b0):"),
+    QT_TRANSLATE_NOOP("UnbalVectorPage", "\u04242(\u00b0):"),
+    QT_TRANSLATE_NOOP("UnbalVectorPage", "\u04243(\u00b0):"),
+};
+
+} // namespace
+
+UnbalVectorPage::UnbalVectorPage(QWidget *parent) : ViewPage(UI_UNBALANCE, parent), m_ui(new Ui::UnbalVectorPage)
+{
+    static const KeyRow<UnbalVectorPage> keys[] = {
+        { Qt::Key_F1, nullptr, &UnbalVectorPage::nextSelector },
+        { Qt::Key_F4, QT_TRANSLATE_NOOP("UnbalVectorPage", "Back"), &UnbalVectorPage::goUnbalanMain },
+    };
+    m_ui->setupUi(this);
+    m_captions = labels("v%1");
+    m_values = labels("v%1_v");
+    m_angleCaptions = labels("L%1");
+    m_angles = labels("L%1_V");
+    setKeys(keys);
+}
+
+UnbalVectorPage::~UnbalVectorPage() = default;
+
+UnbalVectorPage::Places UnbalVectorPage::labels(const char *pattern) const
+{
+    Places row;
+    for (int i = 0; i < kPlaces; ++i)
+        row[i] = findChild<QLabel *>(QString::fromLatin1(pattern).arg(i + 1));
+    return row;
+}
+
+void UnbalVectorPage::init_parameter()
+{
+    ViewPage::init_parameter();
+    set_vectorFlag();
+    m_selector = AllVoltages;
+    initvectorFlag();
+    showTitle();
+    showCurParams();
+}
+
+void UnbalVectorPage::retranslateUi()
+{
+    ViewPage::retranslateUi();
+    setText(m_ui->freq, tr("Freq ="));
+    showTitle();
+}
+
+void UnbalVectorPage::nextSelector()
+{
+    m_selector = m_selector >= m_maximum ? int(AllVoltages) : m_selector + 1;
+    initvectorFlag();
+    showTitle();
+    showCurParams();
+}
+
+void UnbalVectorPage::set_vectorFlag()
+{
+    // A wiring outside the table leaves the maximum as it is.
+    if (const ChannelSet *set = m_settingConfig_g.channels())
+        m_maximum = set->vectorSelectors();
+}
+
+void UnbalVectorPage::initvectorFlag()
+{
+    m_ui->btn_f1->setBtnFlag(m_selector);
+}
+
+/// What the selector shows, from top to bottom.
+std::vector<UnbalVectorPage::Vector> UnbalVectorPage::vectors() const
+{
+    if (m_selector >= FirstPhase) {
+        const int phase = std::min(m_selector - FirstPhase, kPlaces - 1);
+        return { { false, phase }, { true, phase } };
+    }
+    std::vector<Vector> all;
+    for (int phase = 0; phase < kPlaces; ++phase) {
+        if (ChannelLabels::channels().has(phase))
+            all.push_back({ m_selector == AllCurrents, phase });
+    }
+    return all;
+}
+
+bool UnbalVectorPage::showsSequences() const
+{
+    return m_selector < FirstPhase && UnbalanceValues::hasSequences();
+}
+
+void UnbalVectorPage::showTitle()
+{
+    const DisplayUnits &units = m_settingConfig_g.units();
+    const std::vector<Vector> shown = vectors();
+    for (std::size_t i = 0; i < kPlaces; ++i) {
+        if (i >= shown.size()) {
+            for (QLabel *label : { m_captions[i], m_values[i], m_angleCaptions[i], m_angles[i] })
+                setText(label, QString());
+            continue;
+        }
+        const Vector &vector = shown[i];
+        setText(m_captions[i],
+                tr(kCaptions[vector.current][vector.phase]).arg(vector.current ? units.ampere : units.volt));
+        setText(m_angleCaptions[i], tr(kAngleCaptions[i]));
+        const QString sheet = QStringLiteral("color: %1;").arg(PhaseColor::color(vector.phase).name());
+        for (QLabel *label : { m_captions[i], m_values[i], m_angleCaptions[i], m_angles[i] }) {
+            if (label->styleSheet() != sheet)
+                label->setStyleSheet(sheet);
+        }
+    }
+    setText(m_ui->neg, showsSequences() ? tr("Neg.") : QString());
+    setText(m_ui->zero, showsSequences() ? tr("Zero") : QString());
+    if (!showsSequences()) {
+        setText(m_ui->neg_v, QString());
+        setText(m_ui->zero_v, QString());
+    }
+}
+
+void UnbalVectorPage::showCurParams()
+{
+    if (!g_unbalance_data)
+        return;
+    const __unbalance_data &data = *g_unbalance_data;
+    const std::vector<Vector> shown = vectors();
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+        const auto [current, phase] = shown[i];
+        setText(m_values[i],
+                current ? F_to_Str::number_A(data.currentFundamental[phase])
+                        : F_to_Str::number_V(data.voltageFundamental[phase]));
+        setText(m_angles[i], F_to_Str::number_Ang(current ? data.currentAngle[phase] : data.voltageAngle[phase]));
+    }
+    if (showsSequences()) {
+        const bool current = m_selector == AllCurrents;
+        const float negative = current ? data.currentNegativeRatio : data.voltageNegativeRatio;
+        const float zero = current ? data.currentZeroRatio : data.voltageZeroRatio;
+        setText(m_ui->neg_v, F_to_Str::number_2(negative) + QLatin1Char('%'));
+        setText(m_ui->zero_v, F_to_Str::number_2(zero) + QLatin1Char('%'));
+    }
+    ChannelLabels::showFrequency(m_ui->freq_v, UnbalanceValues::signedFrequency(data));
+    showChart();
+}
+
+void UnbalVectorPage::showChart()
+{
+    bool visible[2][kPlaces] = {};
+    for (const Vector &vector : vectors())
+        visible[vector.current][vector.phase] = true;
+    const float *angles[] = { g_unbalance_data->voltageAngle, g_unbalance_data->currentAngle };
+    for (int kind = 0; kind < 2; ++kind) {
+        for (int phase = 0; phase < kPlaces; ++phase)
+            (m_ui->vector_chart->*kSetAngle[kind][phase])(double(angles[kind][phase]), visible[kind][phase]);
+    }
+    m_ui->vector_chart->update();
+}
