@@ -1,0 +1,94 @@
+#include "views/flicker/flicker.h"
+
+#include "device/displayrecords.h"
+#include "views/flicker/flickermain.h"
+#include "views/flicker/flickerpage.h"
+#include "views/flicker/flickerparam.h"
+
+#include <algorithm>
+#include <cstring>
+
+QString FlickerParam::m_cur_title;
+
+namespace {
+
+constexpr int kPhases = 3;
+
+/// What a saved data file of this page holds (7,240 bytes). Only the first count values of a phase are filled.
+struct __flicker_pqa_data
+{
+    float values[9]; // flickerMax, pst, plt of the three phases
+    qint32 count; // length of the shortest trend, at most 600
+    float pinst[kPhases][kTrendPoints]; // oldest first
+};
+static_assert(sizeof(__flicker_pqa_data) == 7240, "told size of the saved record");
+
+} // namespace
+
+flicker::flicker(QWidget *parent)
+    : ViewContainer(UI_FLICKER, { 9, "Flicker" }, parent), m_main(new FlickerMain), m_trend(new FlickerPage)
+{
+    addPage(m_main);
+    addPage(m_trend);
+    connect(m_main, &FlickerMain::goFlickerTrend, this, &flicker::showFlickerTrend);
+    connect(m_trend, &FlickerPage::goFlickerMain, this, &flicker::showFlickerMain);
+    showTitle();
+}
+
+void flicker::showFlickerMain()
+{
+    showPage(m_main);
+    showTitle();
+}
+
+void flicker::showFlickerTrend()
+{
+    showPage(m_trend);
+    showTitle();
+}
+
+void flicker::retranslateUi()
+{
+    ViewContainer::retranslateUi();
+    showTitle();
+}
+
+void flicker::showTitle()
+{
+    FlickerParam::m_cur_title = currentPage() == m_trend ? tr("pinst") : tr("Flicker");
+}
+
+void flicker::initDisplayParam()
+{
+    // The address must stay: the task and the pages hold it for the life of the process.
+    if (!g_flicker_data)
+        g_flicker_data = new __flicker_data;
+    *g_flicker_data = {};
+}
+
+QByteArray flicker::pqaData() const
+{
+    if (!g_flicker_data)
+        return {};
+    QByteArray bytes(int(sizeof(__flicker_pqa_data)), '\0');
+    __flicker_pqa_data data = {};
+    int count = kTrendPoints;
+    for (const QList<float> &trend : g_flicker_data->pinstTrend) {
+        // A phase that the wiring does not measure has no trend and does not shorten the others.
+        if (!trend.isEmpty())
+            count = std::min(count, int(trend.size()));
+    }
+    if (g_flicker_data->pinstTrend[0].isEmpty())
+        count = 0;
+    data.count = count;
+    for (int p = 0; p < kPhases; ++p) {
+        data.values[p] = g_flicker_data->flickerMax[p];
+        data.values[kPhases + p] = g_flicker_data->pst[p];
+        data.values[2 * kPhases + p] = g_flicker_data->plt[p];
+        const QList<float> &trend = g_flicker_data->pinstTrend[p];
+        const int used = std::min(count, int(trend.size()));
+        std::copy(trend.end() - used, trend.end(), data.pinst[p]);
+    }
+    std::memcpy(bytes.data(), &data, sizeof(data));
+    return bytes;
+}

@@ -1,0 +1,74 @@
+#include "views/flicker/flickermain.h"
+#include "ui_flickermain.h"
+
+#include "device/displayrecords.h"
+#include "widgets/f_to_str.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kPhases = 3;
+
+struct Row
+{
+    const char *name; // labels <name>_t, <name>_L1 ... <name>_L3
+    const char *caption;
+    float (__flicker_data::*values)[kPhases];
+};
+
+const Row kRows[] = {
+    { "Pst", QT_TRANSLATE_NOOP("FlickerMain", "Pst"), &__flicker_data::pst },
+    { "Plt", QT_TRANSLATE_NOOP("FlickerMain", "Plt"), &__flicker_data::plt },
+    { "P1", QT_TRANSLATE_NOOP("FlickerMain", "pinst"), &__flicker_data::flickerMax },
+};
+
+} // namespace
+
+FlickerMain::FlickerMain(QWidget *parent) : ViewPage(UI_FLICKER, parent), m_ui(new Ui::FlickerMain)
+{
+    static const KeyRow<FlickerMain> keys[] = {
+        { Qt::Key_F4, QT_TRANSLATE_NOOP("FlickerMain", "Trend"), &FlickerMain::goFlickerTrend },
+    };
+    m_ui->setupUi(this);
+    m_headers = ChannelLabels::numberedRow(this, "header_%1");
+    for (const Row &row : kRows)
+        m_rows.push_back(ChannelLabels::namedRow(this, row.name));
+    setKeys(keys);
+}
+
+FlickerMain::~FlickerMain() = default;
+
+void FlickerMain::init_parameter()
+{
+    ViewPage::init_parameter();
+    showTitle();
+    showCurParams();
+}
+
+void FlickerMain::retranslateUi()
+{
+    ViewPage::retranslateUi();
+    showTitle();
+}
+
+void FlickerMain::showTitle()
+{
+    ChannelLabels::showPairHeaders(m_headers);
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        setText(findChild<QLabel *>(QString::fromLatin1(kRows[i].name) + QLatin1String("_t")), tr(kRows[i].caption));
+        ChannelLabels::clearUnused(m_rows[i]);
+    }
+}
+
+void FlickerMain::showCurParams()
+{
+    if (!g_flicker_data)
+        return;
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        // The label rows have a place for the neutral, the record has none.
+        float values[kChannels] = {};
+        std::copy_n(g_flicker_data->*kRows[i].values, kPhases, values);
+        ChannelLabels::showValues(m_rows[i], values, F_to_Str::number_2);
+    }
+}

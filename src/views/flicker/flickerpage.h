@@ -1,0 +1,38 @@
+#pragma once
+
+#include "views/common/channellabels.h"
+#include "views/common/trendscaler.h"
+#include "views/common/viewpage.h"
+
+#include <memory>
+
+namespace Ui {
+class FlickerPage;
+}
+
+/// Trend of the instantaneous flicker sensation of the phases, with the latest values.
+class FlickerPage : public ViewPage
+{
+    Q_OBJECT
+
+public:
+    explicit FlickerPage(QWidget *parent = nullptr);
+    ~FlickerPage() override;
+
+public slots:
+    void updateDisplay(void *) override { showFlickerTrend(); }
+    void init_parameter() override;
+    void retranslateUi() override;
+
+signals:
+    void goFlickerMain();
+
+private:
+    void showTitle();
+    void showFlickerTrend();
+
+    std::unique_ptr<Ui::FlickerPage> m_ui;
+    ChannelLabels::LabelRow m_captions;
+    ChannelLabels::LabelRow m_values;
+    TrendScaler::Picture m_picture; // kept alive for the chart
+};
