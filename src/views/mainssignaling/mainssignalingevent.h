@@ -1,0 +1,12 @@
+#pragma once
+
+#include "views/common/eventspage.h"
+
+/// List of the mains-signalling events.
+class MainsSignalingEvent : public EventsPage
+{
+    Q_OBJECT
+
+public:
+    explicit MainsSignalingEvent(QWidget *parent = nullptr) : EventsPage(UI_MAINS_SIG, parent) { }
+};

@@ -1,0 +1,96 @@
+#include "views/mainssignaling/mainssignalingmain.h"
+#include "ui_mainssignalingmain.h"
+
+#include "config/config_data.h"
+#include "device/displayrecords.h"
+#include "widgets/f_to_str.h"
+
+namespace {
+
+struct Row
+{
+    const char *name; // labels <name>_t, <name>_L1 ... <name>_N
+    const char *caption; // "%1" stands for the unit
+    QString DisplayUnits::*unit;
+    float (__mains_sig_data::*values)[kChannels];
+    float scale;
+    QString (*format)(float);
+};
+
+constexpr float kPercent = 100;
+
+const Row kRows[] = {
+    { "sig1", QT_TRANSLATE_NOOP("MainsSignalingMain", "Sig 1(%)"), nullptr, &__mains_sig_data::signal1, kPercent,
+      F_to_Str::number_2 },
+    { "sig1mean", QT_TRANSLATE_NOOP("MainsSignalingMain", "Sig 1(%1)"), &DisplayUnits::volt,
+      &__mains_sig_data::signal1Mean, 1, F_to_Str::number_V },
+    { "sig2", QT_TRANSLATE_NOOP("MainsSignalingMain", "Sig 2(%)"), nullptr, &__mains_sig_data::signal2, kPercent,
+      F_to_Str::number_2 },
+    { "sig2mean", QT_TRANSLATE_NOOP("MainsSignalingMain", "Sig 2(%1)"), &DisplayUnits::volt,
+      &__mains_sig_data::signal2Mean, 1, F_to_Str::number_V },
+    { "rms1", QT_TRANSLATE_NOOP("MainsSignalingMain", "Urms\u00bd(%1)"), &DisplayUnits::volt, &__mains_sig_data::rms1,
+      1, F_to_Str::number_V },
+    { "rms2", QT_TRANSLATE_NOOP("MainsSignalingMain", "Irms\u00bd(%1)"), &DisplayUnits::ampere, &__mains_sig_data::rms2,
+      1, F_to_Str::number_A },
+};
+
+} // namespace
+
+MainsSignalingMain::MainsSignalingMain(QWidget *parent)
+    : ViewPage(UI_MAINS_SIG, parent), m_ui(new Ui::MainsSignalingMain)
+{
+    static const KeyRow<MainsSignalingMain> keys[] = {
+        { Qt::Key_F2, QT_TRANSLATE_NOOP("MainsSignalingMain", "Events"), &MainsSignalingMain::goMainsSignalingEvent },
+        { Qt::Key_F4, QT_TRANSLATE_NOOP("MainsSignalingMain", "Trend"), &MainsSignalingMain::goMainsSignalingTrend },
+    };
+    m_ui->setupUi(this);
+    m_headers = ChannelLabels::numberedRow(this, "header_%1");
+    for (const Row &row : kRows)
+        m_rows.push_back(ChannelLabels::namedRow(this, row.name));
+    setKeys(keys);
+}
+
+MainsSignalingMain::~MainsSignalingMain() = default;
+
+void MainsSignalingMain::init_parameter()
+{
+    ViewPage::init_parameter();
+    showTitle();
+    showCurParams();
+}
+
+void MainsSignalingMain::retranslateUi()
+{
+    ViewPage::retranslateUi();
+    setText(m_ui->freq_t, tr("Freq ="));
+    showTitle();
+}
+
+void MainsSignalingMain::showTitle()
+{
+    ChannelLabels::showHeaders(m_headers);
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        const Row &row = kRows[i];
+        const QString caption = tr(row.caption);
+        setText(findChild<QLabel *>(QString::fromLatin1(row.name) + QLatin1String("_t")),
+                row.unit ? caption.arg(m_settingConfig_g.units().*row.unit) : caption);
+        ChannelLabels::clearUnused(m_rows[i]);
+    }
+    setText(m_ui->carriers,
+            QStringLiteral("1: %1Hz  2: %2Hz")
+                .arg(m_settingConfig_g.getMainsSigFreq1(), 0, 'f', 0)
+                .arg(m_settingConfig_g.getMainsSigFreq2(), 0, 'f', 0));
+}
+
+void MainsSignalingMain::showCurParams()
+{
+    if (!g_mains_sig)
+        return;
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        float values[kChannels];
+        for (int c = 0; c < kChannels; ++c)
+            values[c] = (g_mains_sig->*kRows[i].values)[c] * kRows[i].scale;
+        ChannelLabels::showValues(m_rows[i], values, kRows[i].format);
+    }
+    ChannelLabels::showFrequency(m_ui->freq, g_mains_sig->frequency);
+}

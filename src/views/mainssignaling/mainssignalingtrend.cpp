@@ -1,0 +1,64 @@
+#include "views/mainssignaling/mainssignalingtrend.h"
+#include "ui_mainssignalingtrend.h"
+
+#include "config/config_data.h"
+#include "widgets/f_to_str.h"
+#include "widgets/viftrendchart.h"
+
+namespace {
+
+/// Places in __mains_sig_data::trend.
+enum Trend { Signal1 = 0, Signal2 = 2, Rms1 = 4, Rms2 = 5 };
+
+template <int trend> __trend_data *record()
+{
+    return g_mains_sig ? &g_mains_sig->trend[trend] : nullptr;
+}
+
+template <float (__mains_sig_data::*values)[kChannels]> const float *latest()
+{
+    return g_mains_sig->*values;
+}
+
+/// In percent, as the trend.
+template <float (__mains_sig_data::*values)[kChannels]> const float *percent()
+{
+    static float shown[kChannels];
+    for (int c = 0; c < kChannels; ++c)
+        shown[c] = (g_mains_sig->*values)[c] * 100.0f;
+    return shown;
+}
+
+} // namespace
+
+/// In the order in which F1 steps through them.
+const std::vector<TrendPage::Quantity> &MainsSignalingTrend::cycle()
+{
+    static const std::vector<Quantity> quantities {
+        { 1, [] { return tr("Sig 1(%)"); }, record<Signal1>, unscaled, wiringFlags, percent<&__mains_sig_data::signal1>,
+          F_to_Str::number_2 },
+        { 2, [] { return tr("Sig 2(%)"); }, record<Signal2>, unscaled, wiringFlags, percent<&__mains_sig_data::signal2>,
+          F_to_Str::number_2 },
+        { 3, [] { return tr("Urms\u00bd(%1)").arg(m_settingConfig_g.units().volt); }, record<Rms1>,
+          [] { return m_settingConfig_g.units().factorVolt; }, wiringFlags, latest<&__mains_sig_data::rms1>,
+          F_to_Str::number_V },
+        { 4, [] { return tr("Irms\u00bd(%1)").arg(m_settingConfig_g.units().ampere); }, record<Rms2>,
+          [] { return m_settingConfig_g.units().factorAmpere; }, wiringFlags, latest<&__mains_sig_data::rms2>,
+          F_to_Str::number_A },
+    };
+    return quantities;
+}
+
+MainsSignalingTrend::MainsSignalingTrend(QWidget *parent)
+    : TrendPage(UI_MAINS_SIG, cycle(), parent), m_ui(new Ui::MainsSignalingTrend)
+{
+    static const KeyRow<MainsSignalingTrend> keys[] = {
+        { Qt::Key_F1, QT_TRANSLATE_NOOP("MainsSignalingTrend", "Type"), &MainsSignalingTrend::nextType },
+        { Qt::Key_F4, QT_TRANSLATE_NOOP("MainsSignalingTrend", "Back"), &MainsSignalingTrend::goBack },
+    };
+    m_ui->setupUi(this);
+    initTrend({ "10m", "8m", "6m", "4m", "2m" });
+    setKeys(keys);
+}
+
+MainsSignalingTrend::~MainsSignalingTrend() = default;

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "views/common/trendpage.h"
+
+#include <memory>
+
+namespace Ui {
+class MainsSignalingTrend;
+}
+
+/// Ten-minute trend of the two carriers and of the half-cycle r.m.s. values.
+class MainsSignalingTrend : public TrendPage
+{
+    Q_OBJECT
+
+public:
+    explicit MainsSignalingTrend(QWidget *parent = nullptr);
+    ~MainsSignalingTrend() override;
+
+signals:
+    void goBack();
+
+private:
+    static const std::vector<Quantity> &cycle();
+
+    std::unique_ptr<Ui::MainsSignalingTrend> m_ui;
+};
