@@ -1,0 +1,42 @@
+#pragma once
+
+#include "views/common/channellabels.h"
+#include "views/common/viewpage.h"
+
+#include <memory>
+#include <vector>
+
+namespace Ui {
+class PowerInverterMain;
+}
+
+/// Table of the inverter's direct-current input, its output phases and its efficiency.
+class PowerInverterMain : public ViewPage
+{
+    Q_OBJECT
+
+public:
+    explicit PowerInverterMain(QWidget *parent = nullptr);
+    ~PowerInverterMain() override;
+
+    /// Captions for the wiring, the units and the output in force.
+    void showTitle();
+
+public slots:
+    void updateDisplay(void *) override { showCurParams(); }
+    void init_parameter() override;
+    void retranslateUi() override;
+
+signals:
+    void goPowerInverterTrend();
+
+private:
+    void showCurParams();
+    /// \a row without the places of phases that the inverter does not have.
+    static ChannelLabels::LabelRow outputs(ChannelLabels::LabelRow row);
+
+    std::unique_ptr<Ui::PowerInverterMain> m_ui;
+    ChannelLabels::LabelRow m_headers;
+    std::vector<QLabel *> m_inputs; // in the order of the table of inputs
+    std::vector<ChannelLabels::LabelRow> m_rows; // in the order of the table of outputs
+};
