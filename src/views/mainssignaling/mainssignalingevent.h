@@ -8,5 +8,5 @@ class MainsSignalingEvent : public EventsPage
     Q_OBJECT
 
 public:
-    explicit MainsSignalingEvent(QWidget *parent = nullptr) : EventsPage(UI_MAINS_SIG, parent) { }
+    explicit MainsSignalingEvent(QWidget *parent = nullptr);
 };
