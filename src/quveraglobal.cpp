@@ -13,10 +13,15 @@
 #include "taskmanage.h"
 #include "views/common/functionpage.h"
 #include "views/dips/dswell.h"
+#include "views/flicker/flicker.h"
+#include "views/harmonics/harm.h"
 #include "views/inrush/inrushpage.h"
+#include "views/mainssignaling/mainssignaling.h"
 #include "views/power/powen.h"
+#include "views/powerinverter/powerinverter.h"
 #include "views/scope/scopepage.h"
 #include "views/transients/trans.h"
+#include "views/unbalance/unbalan.h"
 #include "views/vif/vifpage.h"
 #include "widgets/systemtray.h"
 
@@ -28,10 +33,15 @@ TaskManage *m_taskmanage = nullptr;
 MenuPage *m_menupage = nullptr;
 VifPage *m_vifpage = nullptr;
 dswell *m_dswellpage = nullptr;
+flicker *m_flickerpage = nullptr;
+harm *m_harmpage = nullptr;
 powen *m_powerpage = nullptr;
 trans *m_transpage = nullptr;
+unbalan *m_unbalpage = nullptr;
 InrushPage *m_inrushpage = nullptr;
 ScopePage *m_scopepage = nullptr;
+MainsSignaling *m_msignaling = nullptr;
+PowerInverter *m_powerinverter = nullptr;
 BaseDialog *m_basedialog = nullptr;
 IRemote *m_remote_ctrl = nullptr;
 SystemTray *systemTray = nullptr;
@@ -56,10 +66,15 @@ void makePages()
     m_menupage = new MenuPage;
     makePage(m_vifpage);
     makePage(m_dswellpage);
+    makePage(m_flickerpage);
+    makePage(m_harmpage);
     makePage(m_powerpage);
     makePage(m_transpage);
+    makePage(m_unbalpage);
     makePage(m_inrushpage);
     makePage(m_scopepage);
+    makePage(m_msignaling);
+    makePage(m_powerinverter);
 }
 
 constexpr _quvera_ui_type kInitOrder[]
@@ -146,6 +161,8 @@ void appConnection()
         QObject::connect(m_menupage, row.signal, m_basedialog, row.slot);
     QObject::connect(m_transpage, &trans::startTransTask, m_basedialog, &BaseDialog::startTransTask);
     QObject::connect(m_inrushpage, &InrushPage::startInrushTask, m_basedialog, &BaseDialog::startInrushTask);
+    QObject::connect(m_powerinverter, &PowerInverter::startPowerInverterTask, m_basedialog,
+                     &BaseDialog::startPowerInverterTask);
     QObject::connect(systemTray, &SystemTray::refreshSystemInfo, m_basedialog, &BaseDialog::showSysInfo);
     QObject::connect(systemTray, &SystemTray::refreshSystemIcon, m_basedialog, &BaseDialog::showSysIcon);
     QObject::connect(m_idevice, SIGNAL(dspTimeStamp(quint32)), m_basedialog, SLOT(showDSPTimeStamp(quint32)));

@@ -8,7 +8,9 @@
 class BaseDialog;
 class FunctionPage;
 class IRemote;
+class MainsSignaling;
 class MenuPage;
+class PowerInverter;
 class QSplashScreen;
 class SystemTray;
 class TaskManage;
@@ -17,8 +19,11 @@ class InrushPage;
 class ScopePage;
 class VifPage;
 class dswell;
+class flicker;
+class harm;
 class powen;
 class trans;
+class unbalan;
 class uDiskStorage;
 
 // The flat object graph: long-lived objects, made once by appInit in one fixed order and never deleted. What a lower
@@ -28,10 +33,15 @@ extern TaskManage *m_taskmanage;
 extern MenuPage *m_menupage;
 extern VifPage *m_vifpage;
 extern dswell *m_dswellpage;
+extern flicker *m_flickerpage;
+extern harm *m_harmpage;
 extern powen *m_powerpage;
 extern trans *m_transpage;
+extern unbalan *m_unbalpage;
 extern InrushPage *m_inrushpage;
 extern ScopePage *m_scopepage;
+extern MainsSignaling *m_msignaling;
+extern PowerInverter *m_powerinverter;
 extern BaseDialog *m_basedialog;
 extern IRemote *m_remote_ctrl;
 extern SystemTray *systemTray;
