@@ -71,6 +71,7 @@ void PowerInverter::showPowerInverterMain()
 void PowerInverter::showPowerInverterTrend()
 {
     m_trend->retranslateUi(); // likewise
+    m_trend->updateDisplay(nullptr);
     showPage(m_trend);
 }
 

@@ -1,0 +1,264 @@
+#include "device/displayrecords.h"
+#include "pagetest.h"
+#include "views/mainssignaling/mainssignaling.h"
+#include "views/mainssignaling/mainssignalingevent.h"
+#include "views/mainssignaling/mainssignalingmain.h"
+#include "views/mainssignaling/mainssignalingtrend.h"
+#include "widgets/eventswidget.h"
+#include "widgets/viftrendchart.h"
+
+#include <cstring>
+#include <limits>
+#include <memory>
+
+using namespace PageTest;
+
+class TstMainsSignaling : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void tableShowsCarriersInPercentAndVolts();
+    void tableShowsTheFrequenciesOfTheCarriers();
+    void tableShowsOnlyTheChannelsOfTheWiring_data();
+    void tableShowsOnlyTheChannelsOfTheWiring();
+    void lostFrequencyIsGreyAndPositive();
+    void recordKeepsItsAddressAndIsEmptiedByEachStart();
+    void pagesLiveWithoutARecord();
+    void f4OpensTheTrendAndLeadsBack();
+    void f2OpensTheEventsAndF5LeadsBack();
+
+    void trendQuantityCycles();
+    void trendShowsThePercentOfItsSeries();
+    void trendFlagsFollowTheWiring_data();
+    void trendFlagsFollowTheWiring();
+
+    void withoutEventsTheCounterShowsZeroOfZero();
+    void upAndDownScrollTheEvents();
+    void savedRecordHoldsTheEvents();
+
+private:
+    MainsSignalingMain *mainPage() { return m_page->findChild<MainsSignalingMain *>(); }
+    MainsSignalingTrend *trendPage() { return m_page->findChild<MainsSignalingTrend *>(); }
+    MainsSignalingEvent *eventPage() { return m_page->findChild<MainsSignalingEvent *>(); }
+    void start(int joinMode);
+    static void addEvents(int count);
+
+    std::unique_ptr<MainsSignaling> m_page;
+};
+
+void TstMainsSignaling::start(int joinMode)
+{
+    setUpMeasurement(joinMode);
+    m_page->init_parameter();
+    for (int c = 0; c < 4; ++c) {
+        g_mains_sig->signal1[c] = 0.0125f + 0.01f * float(c);
+        g_mains_sig->signal1Mean[c] = 2.5f + float(c);
+        g_mains_sig->signal2[c] = 0.05f;
+        g_mains_sig->signal2Mean[c] = 11.5f;
+        g_mains_sig->rms1[c] = 230.0f + float(c);
+        g_mains_sig->rms2[c] = 5.0f + float(c);
+    }
+    g_mains_sig->frequency = 50;
+    m_page->updateDisplay(nullptr);
+}
+
+void TstMainsSignaling::init()
+{
+    m_page = std::make_unique<MainsSignaling>();
+    start(1);
+}
+
+void TstMainsSignaling::addEvents(int count)
+{
+    for (int i = 0; i < count; ++i) {
+        __event_item item;
+        item.type = EventMainsSignaling;
+        item.channel = i % 3;
+        item.value = float(i);
+        m_ms_events_list.append(item);
+    }
+}
+
+void TstMainsSignaling::tableShowsCarriersInPercentAndVolts()
+{
+    QCOMPARE(text(mainPage(), "sig1_t"), QStringLiteral("Sig 1(%)"));
+    QCOMPARE(text(mainPage(), "sig2_t"), QStringLiteral("Sig 2(%)"));
+    QCOMPARE(text(mainPage(), "sig1mean_t"), QStringLiteral("Sig 1(V)"));
+    QCOMPARE(text(mainPage(), "rms1_t"), QString::fromUtf8("Urms\u00bd(V)"));
+    QCOMPARE(text(mainPage(), "rms2_t"), QString::fromUtf8("Irms\u00bd(A)"));
+    QCOMPARE(text(mainPage(), "sig1_L1"), QStringLiteral("1.25")); // 0.0125 of the nominal voltage
+    QCOMPARE(text(mainPage(), "sig1_N"), QStringLiteral("4.25"));
+    QCOMPARE(text(mainPage(), "sig1mean_L2"), QStringLiteral("3.50"));
+    QCOMPARE(text(mainPage(), "sig2_L3"), QStringLiteral("5.00"));
+    QCOMPARE(text(mainPage(), "sig2mean_L3"), QStringLiteral("11.50"));
+    QCOMPARE(text(mainPage(), "rms1_L2"), QStringLiteral("231.00"));
+    QVERIFY(text(mainPage(), "rms2_N").startsWith(QStringLiteral("8.")));
+    QCOMPARE(text(mainPage(), "freq"), QStringLiteral("50.00Hz"));
+}
+
+void TstMainsSignaling::tableShowsTheFrequenciesOfTheCarriers()
+{
+    m_settingConfig_g.setMainsSigFreq1(1350);
+    m_settingConfig_g.setMainsSigFreq2(175);
+    m_page->init_parameter();
+    QCOMPARE(text(mainPage(), "carriers"), QStringLiteral("1: 1350Hz  2: 175Hz"));
+}
+
+void TstMainsSignaling::tableShowsOnlyTheChannelsOfTheWiring_data()
+{
+    QTest::addColumn<int>("joinMode");
+    QTest::addColumn<QStringList>("headers");
+    QTest::newRow("3P WYE") << 1 << QStringList { "L1", "L2", "L3", "N" };
+    QTest::newRow("1P") << 3 << QStringList { "L1", "", "", "N" };
+    QTest::newRow("3P DELTA") << 4 << QStringList { "L12", "L23", "L31", "" };
+    QTest::newRow("1P SPLIT") << 5 << QStringList { "L1", "L2", "", "N" };
+    QTest::newRow("1P IT") << 6 << QStringList { "L12", "", "", "" };
+}
+
+void TstMainsSignaling::tableShowsOnlyTheChannelsOfTheWiring()
+{
+    QFETCH(int, joinMode);
+    QFETCH(QStringList, headers);
+    start(joinMode);
+    const char *const suffixes[] = { "L1", "L2", "L3", "N" };
+    for (int c = 0; c < 4; ++c) {
+        QCOMPARE(text(mainPage(), qPrintable(QStringLiteral("header_%1").arg(c + 1))), headers[c]);
+        for (const char *row : { "sig1", "sig1mean", "sig2", "sig2mean", "rms1", "rms2" })
+            QCOMPARE(text(mainPage(), qPrintable(QStringLiteral("%1_%2").arg(row, suffixes[c]))).isEmpty(),
+                     headers[c].isEmpty());
+    }
+}
+
+void TstMainsSignaling::lostFrequencyIsGreyAndPositive()
+{
+    g_mains_sig->frequency = -49.5f;
+    m_page->updateDisplay(nullptr);
+    QCOMPARE(text(mainPage(), "freq"), QStringLiteral("49.50Hz"));
+    QCOMPARE(sheet(mainPage(), "freq"), QStringLiteral("color: #808080;"));
+}
+
+void TstMainsSignaling::recordKeepsItsAddressAndIsEmptiedByEachStart()
+{
+    const __mains_sig_data *record = g_mains_sig;
+    g_mains_sig->trend[3].series[1].append(1);
+    g_mains_sig->mean2[0].append(1);
+    g_mains_sig->frequencyTrend.append(50);
+    addEvents(2);
+    m_page->init_parameter();
+    QCOMPARE(static_cast<const __mains_sig_data *>(g_mains_sig), record);
+    QCOMPARE(g_mains_sig->signal1[0], 0.0f);
+    QVERIFY(g_mains_sig->trend[3].series[1].isEmpty());
+    QVERIFY(g_mains_sig->mean2[0].isEmpty());
+    QVERIFY(g_mains_sig->frequencyTrend.isEmpty());
+    QVERIFY(m_ms_events_list.isEmpty());
+}
+
+void TstMainsSignaling::pagesLiveWithoutARecord()
+{
+    __mains_sig_data *kept = g_mains_sig;
+    g_mains_sig = nullptr;
+    {
+        MainsSignaling page;
+        page.updateDisplay(nullptr);
+        page.retranslateUi();
+        press(page.findChild<MainsSignalingTrend *>(), F1, 5);
+        page.showMainsSignalingEvent();
+    }
+    g_mains_sig = kept;
+}
+
+void TstMainsSignaling::f4OpensTheTrendAndLeadsBack()
+{
+    press(mainPage(), F4);
+    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(trendPage()));
+    press(trendPage(), F4);
+    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
+}
+
+void TstMainsSignaling::f2OpensTheEventsAndF5LeadsBack()
+{
+    QCOMPARE(text(mainPage(), "btn_f2"), QStringLiteral("Events"));
+    press(mainPage(), F2);
+    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(eventPage()));
+    press(eventPage(), F5);
+    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
+}
+
+void TstMainsSignaling::trendQuantityCycles()
+{
+    const QStringList captions { "Sig 1(%)", "Sig 2(%)", QString::fromUtf8("Urms\u00bd(V)"),
+                                 QString::fromUtf8("Irms\u00bd(A)"), "Sig 1(%)" };
+    for (const QString &caption : captions) {
+        QCOMPARE(text(trendPage(), "type"), caption);
+        press(trendPage(), F1);
+    }
+    QCOMPARE(named<VifTrendChart>(trendPage(), "trend")->fullScale(), QStringList({ "10m", "8m", "6m", "4m", "2m" }));
+}
+
+void TstMainsSignaling::trendShowsThePercentOfItsSeries()
+{
+    QCOMPARE(text(trendPage(), "D2_Value"), QStringLiteral("2.25"));
+    press(trendPage(), F1);
+    QCOMPARE(text(trendPage(), "D1_Value"), QStringLiteral("5.00"));
+    press(trendPage(), F1);
+    QCOMPARE(text(trendPage(), "D3_Value"), QStringLiteral("232.00"));
+    press(trendPage(), F1);
+    QVERIFY(text(trendPage(), "D1_Value").startsWith(QStringLiteral("5.")));
+}
+
+void TstMainsSignaling::trendFlagsFollowTheWiring_data()
+{
+    QTest::addColumn<int>("joinMode");
+    QTest::addColumn<int>("flags");
+    const int flags[] = { 15, 7, 9, 7, 11, 1, 15, 7, 15, 7 };
+    for (int mode = 1; mode <= 10; ++mode)
+        QTest::addRow("wiring %d", mode) << mode << flags[mode - 1];
+}
+
+void TstMainsSignaling::trendFlagsFollowTheWiring()
+{
+    QFETCH(int, joinMode);
+    QFETCH(int, flags);
+    start(joinMode);
+    QCOMPARE(named<VifTrendChart>(trendPage(), "trend")->flags(), flags);
+}
+
+void TstMainsSignaling::withoutEventsTheCounterShowsZeroOfZero()
+{
+    press(mainPage(), F2);
+    QCOMPARE(text(eventPage(), "events_t"), QStringLiteral("EVENTS :"));
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("0/0"));
+    press(eventPage(), Up);
+    press(eventPage(), Down);
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("0/0"));
+}
+
+void TstMainsSignaling::upAndDownScrollTheEvents()
+{
+    addEvents(20);
+    press(mainPage(), F2);
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("1/20"));
+    press(eventPage(), Down, 14);
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("15/20"));
+    press(eventPage(), Up);
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("14/20"));
+    QCOMPARE(named<EventsWidget>(eventPage(), "events")->lineTexts(0).value(1), QStringLiteral("L1 MSIG"));
+}
+
+void TstMainsSignaling::savedRecordHoldsTheEvents()
+{
+    QCOMPARE(m_page->pqaData().size(), 8);
+    addEvents(3);
+    const QByteArray bytes = m_page->pqaData();
+    QCOMPARE(bytes.size(), 8 + 3 * 48);
+    qint32 word[2];
+    std::memcpy(word, bytes.constData(), sizeof word);
+    QCOMPARE(word[0], 0);
+    QCOMPARE(word[1], 3 * 48);
+}
+
+QTEST_MAIN(TstMainsSignaling)
+#include "tst_mainssignaling.moc"

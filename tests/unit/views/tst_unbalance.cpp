@@ -1,0 +1,315 @@
+#include "config/phasecolor.h"
+#include "device/displayrecords.h"
+#include "pagetest.h"
+#include "views/unbalance/unbalan.h"
+#include "views/unbalance/unbalanmain.h"
+#include "views/unbalance/unbalvectorpage.h"
+#include "widgets/softkeybuttons.h"
+#include "widgets/vectorchart.h"
+
+#include <QImage>
+
+#include <cstring>
+#include <limits>
+#include <memory>
+
+using namespace PageTest;
+
+class TstUnbalance : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+
+    void tableShowsEveryQuantityWithItsFormat();
+    void fieldsOfMissingPhasesStayEmpty_data();
+    void fieldsOfMissingPhasesStayEmpty();
+    void lostFrequencyIsGreyAndPositive();
+    void recordKeepsItsAddressAndIsEmptiedByEachStart();
+    void savedRecordIsTheLiveOne();
+    void pagesLiveWithoutARecord();
+    void f4OpensThePhasorsRefreshedAndLeadsBack();
+
+    void selectorRunsByTheWiringAndWraps_data();
+    void selectorRunsByTheWiringAndWraps();
+    void selectorChoosesCaptionsAndValues();
+    void selectorOfAPhaseShowsVoltageAndCurrent();
+    void missingPhasesHaveNoPhasor();
+    void startGoesBackToTheVoltages();
+    void hiddenPhasorsAreNotDrawn();
+    void wildRecordIsShown();
+
+private:
+    UnbalanMain *mainPage() { return m_page->findChild<UnbalanMain *>(); }
+    UnbalVectorPage *vectorPage() { return m_page->findChild<UnbalVectorPage *>(); }
+    VectorChart *chart() { return named<VectorChart>(vectorPage(), "vector_chart"); }
+    void start(int joinMode);
+    static bool hasColor(const QImage &image, const QColor &color);
+
+    std::unique_ptr<unbalan> m_page;
+    __vif_data m_live;
+};
+
+void TstUnbalance::start(int joinMode)
+{
+    setUpMeasurement(joinMode);
+    m_page->init_parameter();
+    *g_unbalance_data = { 50,
+                          1.5f,
+                          2.25f,
+                          3.5f,
+                          4.75f,
+                          { 230, 231, 232, 3 },
+                          { 10, 11, 12, 1 },
+                          { 0, -120, -240, -10 },
+                          { -30, -150, -270, -20 },
+                          { 30, 31.5f, 32, 33 } };
+    m_page->updateDisplay(nullptr);
+}
+
+void TstUnbalance::init()
+{
+    m_live = {};
+    for (int c = 0; c < 4; ++c) {
+        m_live.voltage[c] = 240.0f + float(c);
+        m_live.current[c] = 20.0f + float(c);
+    }
+    m_live.frequency = 50;
+    g_vif_data = &m_live;
+    m_page = std::make_unique<unbalan>();
+    start(1);
+}
+
+void TstUnbalance::tableShowsEveryQuantityWithItsFormat()
+{
+    QCOMPARE(text(mainPage(), "U_t"), QStringLiteral("Urms(V)"));
+    QCOMPARE(text(mainPage(), "I_t"), QStringLiteral("Irms(A)"));
+    QCOMPARE(text(mainPage(), "Uf_t"), QStringLiteral("Ufund(V)"));
+    QCOMPARE(text(mainPage(), "If_t"), QStringLiteral("Ifund(A)"));
+    QCOMPARE(text(mainPage(), "IU_t"), QString::fromUtf8("\u0424I-U(\u00b0):"));
+    QCOMPARE(text(mainPage(), "U_L2"), QStringLiteral("241.00"));
+    QVERIFY(text(mainPage(), "I_N").startsWith(QStringLiteral("23.")));
+    QCOMPARE(text(mainPage(), "Uf_L3"), QStringLiteral("232.00"));
+    QVERIFY(text(mainPage(), "If_L1").startsWith(QStringLiteral("10.")));
+    QCOMPARE(text(mainPage(), "IU_L2"), QStringLiteral("31.5"));
+    QCOMPARE(text(mainPage(), "uneg"), QStringLiteral("Uneg"));
+    QCOMPARE(text(mainPage(), "Izero"), QStringLiteral("Izero"));
+    QCOMPARE(text(mainPage(), "uneg_v"), QStringLiteral("1.50%"));
+    QCOMPARE(text(mainPage(), "uzero_v"), QStringLiteral("2.25%"));
+    QCOMPARE(text(mainPage(), "Ineg_v"), QStringLiteral("3.50%"));
+    QCOMPARE(text(mainPage(), "Izero_v"), QStringLiteral("4.75%"));
+    QCOMPARE(text(mainPage(), "freq_t"), QStringLiteral("Freq ="));
+    QCOMPARE(text(mainPage(), "freq_v"), QStringLiteral("50.00Hz"));
+}
+
+void TstUnbalance::fieldsOfMissingPhasesStayEmpty_data()
+{
+    QTest::addColumn<int>("joinMode");
+    QTest::addColumn<QList<bool>>("shown");
+    QTest::newRow("3P WYE") << 1 << QList<bool> { true, true, true, true };
+    QTest::newRow("3P IT") << 2 << QList<bool> { true, true, true, false };
+    QTest::newRow("1P") << 3 << QList<bool> { true, false, false, true };
+    QTest::newRow("1P SPLIT") << 5 << QList<bool> { true, true, false, true };
+    QTest::newRow("1P IT") << 6 << QList<bool> { true, false, false, false };
+    QTest::newRow("2-ELMT") << 10 << QList<bool> { true, true, true, false };
+}
+
+void TstUnbalance::fieldsOfMissingPhasesStayEmpty()
+{
+    QFETCH(int, joinMode);
+    QFETCH(QList<bool>, shown);
+    start(joinMode);
+    const char *const suffixes[] = { "L1", "L2", "L3", "N" };
+    for (int c = 0; c < 4; ++c) {
+        for (const char *row : { "U", "I", "Uf", "If", "IU" })
+            QCOMPARE(!text(mainPage(), qPrintable(QStringLiteral("%1_%2").arg(row, suffixes[c]))).isEmpty(), shown[c]);
+    }
+    for (const char *ratio : { "uneg", "uzero_v", "Ineg_v", "Izero" })
+        QCOMPARE(!text(mainPage(), ratio).isEmpty(), shown[2]);
+    QCOMPARE(!text(vectorPage(), "v3_v").isEmpty(), shown[2]);
+    QCOMPARE(!text(vectorPage(), "L2_V").isEmpty(), shown[1]);
+    QCOMPARE(!text(vectorPage(), "neg_v").isEmpty(), shown[2]);
+}
+
+void TstUnbalance::lostFrequencyIsGreyAndPositive()
+{
+    m_live.frequency = -49.5f;
+    g_unbalance_data->frequency = 49.5f; // the record keeps the magnitude
+    m_page->updateDisplay(nullptr);
+    for (const QWidget *page : { static_cast<QWidget *>(mainPage()), static_cast<QWidget *>(vectorPage()) }) {
+        QCOMPARE(text(page, "freq_v"), QStringLiteral("49.50Hz"));
+        QCOMPARE(sheet(page, "freq_v"), QStringLiteral("color: #808080;"));
+    }
+    m_live.frequency = 50;
+    m_page->updateDisplay(nullptr);
+    QCOMPARE(sheet(mainPage(), "freq_v"), QStringLiteral("color: #ffffff;"));
+}
+
+void TstUnbalance::recordKeepsItsAddressAndIsEmptiedByEachStart()
+{
+    const __unbalance_data *record = g_unbalance_data;
+    m_page->init_parameter();
+    QCOMPARE(static_cast<const __unbalance_data *>(g_unbalance_data), record);
+    QCOMPARE(g_unbalance_data->voltageFundamental[0], 0.0f);
+}
+
+void TstUnbalance::savedRecordIsTheLiveOne()
+{
+    const QByteArray bytes = m_page->pqaData();
+    QCOMPARE(bytes.size(), 100);
+    float word[25];
+    std::memcpy(word, bytes.constData(), sizeof word);
+    QCOMPARE(word[0], 50.0f);
+    QCOMPARE(word[4], 4.75f); // zero sequence of the current
+    QCOMPARE(word[5 + 4 + 2], 12.0f); // fundamental current of L3
+    QCOMPARE(word[24], 33.0f);
+}
+
+void TstUnbalance::pagesLiveWithoutARecord()
+{
+    __unbalance_data *kept = g_unbalance_data;
+    g_unbalance_data = nullptr;
+    g_vif_data = nullptr;
+    {
+        unbalan page;
+        page.updateDisplay(nullptr);
+        page.retranslateUi();
+        page.showUnbalanVector();
+        press(page.findChild<UnbalVectorPage *>(), F1, 6);
+        QVERIFY(page.pqaData().isEmpty());
+    }
+    g_unbalance_data = kept;
+}
+
+void TstUnbalance::f4OpensThePhasorsRefreshedAndLeadsBack()
+{
+    QCOMPARE(text(mainPage(), "btn_f4"), QStringLiteral("Vector"));
+    g_unbalance_data->voltageFundamental[0] = 100;
+    press(mainPage(), F4);
+    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(vectorPage()));
+    QCOMPARE(text(vectorPage(), "v1_v"), QStringLiteral("100.00"));
+    press(vectorPage(), F4);
+    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
+}
+
+void TstUnbalance::selectorRunsByTheWiringAndWraps_data()
+{
+    QTest::addColumn<int>("joinMode");
+    QTest::addColumn<int>("maximum");
+    const int maxima[] = { 5, 5, 3, 5, 4, 3, 5, 5, 5, 5 };
+    for (int mode = 1; mode <= 10; ++mode)
+        QTest::addRow("wiring %d", mode) << mode << maxima[mode - 1];
+}
+
+void TstUnbalance::selectorRunsByTheWiringAndWraps()
+{
+    QFETCH(int, joinMode);
+    QFETCH(int, maximum);
+    start(joinMode);
+    QCOMPARE(vectorPage()->selectorMaximum(), maximum);
+    for (int selector = 1; selector <= maximum; ++selector) {
+        QCOMPARE(vectorPage()->selector(), selector);
+        QCOMPARE(named<UnbalBtn1>(vectorPage(), "btn_f1")->btnFlag(), selector);
+        press(vectorPage(), F1);
+    }
+    QCOMPARE(vectorPage()->selector(), 1);
+}
+
+void TstUnbalance::selectorChoosesCaptionsAndValues()
+{
+    QCOMPARE(text(vectorPage(), "v1"), QStringLiteral("U1fund(V):"));
+    QCOMPARE(text(vectorPage(), "v3"), QStringLiteral("U3fund(V):"));
+    QCOMPARE(text(vectorPage(), "v3_v"), QStringLiteral("232.00"));
+    QCOMPARE(text(vectorPage(), "L2"), QString::fromUtf8("\u04242(\u00b0):"));
+    QCOMPARE(text(vectorPage(), "L2_V"), QStringLiteral("-120.0"));
+    QCOMPARE(text(vectorPage(), "neg"), QStringLiteral("Neg."));
+    QCOMPARE(text(vectorPage(), "neg_v"), QStringLiteral("1.50%"));
+    QCOMPARE(text(vectorPage(), "zero"), QStringLiteral("Zero"));
+    QCOMPARE(text(vectorPage(), "zero_v"), QStringLiteral("2.25%"));
+    press(vectorPage(), F1);
+    QCOMPARE(text(vectorPage(), "v2"), QStringLiteral("I2fund(A):"));
+    QVERIFY(text(vectorPage(), "v2_v").startsWith(QStringLiteral("11.")));
+    QCOMPARE(text(vectorPage(), "L3_V"), QStringLiteral("-270.0"));
+    QCOMPARE(text(vectorPage(), "neg_v"), QStringLiteral("3.50%"));
+    QCOMPARE(text(vectorPage(), "zero_v"), QStringLiteral("4.75%"));
+}
+
+void TstUnbalance::selectorOfAPhaseShowsVoltageAndCurrent()
+{
+    press(vectorPage(), F1, 3);
+    QCOMPARE(text(vectorPage(), "v1"), QStringLiteral("U2fund(V):"));
+    QCOMPARE(text(vectorPage(), "v2"), QStringLiteral("I2fund(A):"));
+    QCOMPARE(text(vectorPage(), "v3"), QString());
+    QCOMPARE(text(vectorPage(), "v3_v"), QString());
+    QCOMPARE(text(vectorPage(), "v1_v"), QStringLiteral("231.00"));
+    QCOMPARE(text(vectorPage(), "L1_V"), QStringLiteral("-120.0"));
+    QCOMPARE(text(vectorPage(), "L2_V"), QStringLiteral("-150.0"));
+    QCOMPARE(text(vectorPage(), "L3_V"), QString());
+    QCOMPARE(text(vectorPage(), "neg"), QString());
+    QCOMPARE(text(vectorPage(), "zero_v"), QString());
+}
+
+bool TstUnbalance::hasColor(const QImage &image, const QColor &color)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixelColor(x, y) == color)
+                return true;
+        }
+    }
+    return false;
+}
+
+void TstUnbalance::missingPhasesHaveNoPhasor()
+{
+    start(5);
+    QCOMPARE(text(vectorPage(), "v2"), QStringLiteral("U2fund(V):"));
+    QCOMPARE(text(vectorPage(), "v3"), QString());
+    QImage image = chart()->grab().toImage();
+    QVERIFY(hasColor(image, PhaseColor::colorA()));
+    QVERIFY(hasColor(image, PhaseColor::colorB()));
+    QVERIFY(!hasColor(image, PhaseColor::colorC()));
+    press(vectorPage(), F1, 3);
+    QCOMPARE(vectorPage()->selector(), 4);
+    QCOMPARE(text(vectorPage(), "v1"), QStringLiteral("U2fund(V):"));
+}
+
+void TstUnbalance::startGoesBackToTheVoltages()
+{
+    press(vectorPage(), F1, 2);
+    start(3);
+    QCOMPARE(vectorPage()->selector(), 1);
+    QCOMPARE(text(vectorPage(), "v1"), QStringLiteral("U1fund(V):"));
+    QCOMPARE(text(vectorPage(), "v2"), QString());
+}
+
+void TstUnbalance::hiddenPhasorsAreNotDrawn()
+{
+    press(vectorPage(), F1, 2); // phase 1
+    const QImage image = chart()->grab().toImage();
+    QVERIFY(hasColor(image, PhaseColor::colorA()));
+    QVERIFY(!hasColor(image, PhaseColor::colorB()));
+    QVERIFY(!hasColor(image, PhaseColor::colorC()));
+    QCOMPARE(chart()->angleU1(), 0.0);
+    QCOMPARE(chart()->angleA1(), -30.0);
+}
+
+void TstUnbalance::wildRecordIsShown()
+{
+    for (float value : { std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(), 1e30f }) {
+        for (int c = 0; c < 4; ++c) {
+            g_unbalance_data->voltageAngle[c] = g_unbalance_data->currentAngle[c] = value;
+            g_unbalance_data->voltageFundamental[c] = value;
+        }
+        g_unbalance_data->frequency = value;
+        for (int i = 0; i < 5; ++i) {
+            press(vectorPage(), F1);
+            m_page->updateDisplay(nullptr);
+            chart()->grab();
+        }
+    }
+}
+
+QTEST_MAIN(TstUnbalance)
+#include "tst_unbalance.moc"
