@@ -76,10 +76,12 @@ void MainsSignalingMain::showTitle()
                 row.unit ? caption.arg(m_settingConfig_g.units().*row.unit) : caption);
         ChannelLabels::clearUnused(m_rows[i]);
     }
+    // The frequencies that the processor measures are those of the limit set in use.
+    const monitor_limit *limits = m_limits_g.getLimitsInUsed();
     setText(m_ui->carriers,
             QStringLiteral("1: %1Hz  2: %2Hz")
-                .arg(m_settingConfig_g.getMainsSigFreq1(), 0, 'f', 0)
-                .arg(m_settingConfig_g.getMainsSigFreq2(), 0, 'f', 0));
+                .arg(double(limits->frequency1.value), 0, 'f', 0)
+                .arg(double(limits->frequency2.value), 0, 'f', 0));
 }
 
 void MainsSignalingMain::showCurParams()
