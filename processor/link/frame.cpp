@@ -144,14 +144,16 @@ Frame parseFrame(const QByteArray &bytes)
 std::vector<quint32> wordsOf(const QByteArray &bytes)
 {
     std::vector<quint32> words(std::size_t(bytes.size()) / 4);
-    qFromLittleEndian<quint32>(bytes.constData(), qsizetype(words.size()), words.data());
+    if (!words.empty()) // an empty vector has no address to copy to
+        qFromLittleEndian<quint32>(bytes.constData(), qsizetype(words.size()), words.data());
     return words;
 }
 
 QByteArray bytesOf(const std::vector<quint32> &words)
 {
     QByteArray bytes(int(words.size() * 4), Qt::Uninitialized);
-    qToLittleEndian<quint32>(words.data(), qsizetype(words.size()), bytes.data());
+    if (!words.empty())
+        qToLittleEndian<quint32>(words.data(), qsizetype(words.size()), bytes.data());
     return bytes;
 }
 
