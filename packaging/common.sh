@@ -6,11 +6,11 @@ die() { printf 'quvera: %s\n' "$*" >&2; exit 1; }
 # Names of the packages of the list that are not installed.
 missing_packages()
 {
-    sed -e 's/#.*//' -e '/^[[:space:]]*$/d' "$top/packaging/debian-packages.txt" | while read -r package; do
-        case "$(dpkg-query -W -f='${Status}' "$package" 2>/dev/null)" in
-        *' installed') ;;
-        *) printf '%s ' "$package" ;;
-        esac
+    wanted=$(sed -e 's/#.*//' "$top/packaging/debian-packages.txt")
+    # shellcheck disable=SC2086  # a list of names
+    installed=$(dpkg-query -W -f='${Package} ${Status}\n' $wanted 2>/dev/null | sed -n 's/ install ok installed$//p')
+    for package in $wanted; do
+        printf '%s\n' "$installed" | grep -qxF "$package" || printf '%s ' "$package"
     done
 }
 

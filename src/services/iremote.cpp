@@ -88,23 +88,33 @@ private:
     int m_ms = 1;
 };
 
-// Where a key goes: to the focus, as a key of the panel does. On a desk another window may have the keyboard; then to
-// the widget that would have it.
+// The window that would have the keyboard: the dialog that is open, else the one with the pages. Not the splash behind
+// it.
+QWidget *keyboardWindow()
+{
+    QWidget *window = QApplication::activeModalWidget();
+    const auto candidates = window ? QWidgetList() : QApplication::topLevelWidgets();
+    for (QWidget *candidate : candidates) {
+        if (candidate->isVisible() && candidate->focusWidget())
+            window = candidate;
+    }
+    return window;
+}
+
+// Where a key goes: to the focus, as a key of the panel does. On a desk another program may have the keyboard, or a
+// closed dialog may have left it to nobody; then the window is made active inside this program, so that pages pass the
+// focus on as they do on the board.
 QObject *keyReceiver()
 {
     if (QObject *focus = QGuiApplication::focusObject())
         return focus;
-    QWidget *window = QApplication::activeModalWidget();
-    if (!window) {
-        const auto windows = QApplication::topLevelWidgets();
-        for (QWidget *candidate : windows) {
-            if (candidate->isVisible() && candidate->focusWidget())
-                window = candidate;
-        }
-    }
+    QWidget *window = keyboardWindow();
     if (!window)
         return nullptr;
-    return window->focusWidget() ? window->focusWidget() : window;
+    if (QApplication::activeWindow() != window)
+        QApplication::setActiveWindow(window);
+    QWidget *focus = QApplication::focusWidget();
+    return focus ? focus : window;
 }
 
 } // namespace

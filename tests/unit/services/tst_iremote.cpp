@@ -3,10 +3,12 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTest>
@@ -118,7 +120,8 @@ public:
         int count;
     };
     QList<Seen> seen;
-    QWidget *nextFocus = nullptr;
+    QWidget *nextFocus = nullptr; // gets the focus with the next press
+    QWidget *passesFocusTo = nullptr; // gets it when this page gets it
 
     int presses() const
     {
@@ -142,6 +145,11 @@ protected:
             nextFocus->setFocus();
     }
     void keyReleaseEvent(QKeyEvent *event) override { note(event); }
+    void focusInEvent(QFocusEvent *) override
+    {
+        if (passesFocusTo)
+            passesFocusTo->setFocus();
+    }
     void paintEvent(QPaintEvent *) override
     {
         QPainter(this).fillRect(rect(), presses() ? QColor(0, 200, 0) : QColor(0, 0, 90));
@@ -205,6 +213,7 @@ private slots:
     void secondKeyGoesToThePageThatTheFirstOpened();
     void keysBeyondTheBoundOfOneRoundAreDropped();
     void floodOfKeysAndPicturesLeavesTheTimersRunning();
+    void keyAfterADialogReachesThePageThatPassesTheFocusOn();
     void keyWithoutAnyWindowIsDropped();
     void onlyItsThreadBlocksSignals12And14();
     void socketIsClosedWithTheObject();
@@ -573,6 +582,23 @@ void TstIRemote::floodOfKeysAndPicturesLeavesTheTimersRunning()
     QVERIFY(ran);
     m_peer->forget();
     QVERIFY(m_peer->isCaughtUp());
+}
+
+void TstIRemote::keyAfterADialogReachesThePageThatPassesTheFocusOn()
+{
+    QPointer<QDialog> dialog = new QDialog(m_window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setModal(true);
+    dialog->show();
+    QTRY_VERIFY(QApplication::activeModalWidget() == dialog);
+    dialog->close();
+    QTRY_VERIFY(dialog.isNull());
+    // A container hands the focus to its page in its focus event, which only an active window brings.
+    m_otherPage->passesFocusTo = m_page;
+    m_otherPage->setFocus();
+    m_peer->send(request(1, 43));
+    QTRY_COMPARE_WITH_TIMEOUT(m_page->presses(), 1, kPatience);
+    QCOMPARE(m_otherPage->presses(), 0);
 }
 
 void TstIRemote::keyWithoutAnyWindowIsDropped()

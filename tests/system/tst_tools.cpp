@@ -1,0 +1,159 @@
+#include "instrument.h"
+
+#include <QBuffer>
+#include <QDir>
+
+using namespace SystemTest;
+
+/// quvera-remote and quvera-gallery as a user calls them.
+class TstTools : public QObject
+{
+    Q_OBJECT
+private slots:
+    void remoteTellsWrongUse_data();
+    void remoteTellsWrongUse();
+    void remoteTellsThatNobodyAnswers();
+    void remoteIdentifiesPressesAndSavesTheScreen();
+    void pictureWithAFlippedBitIsNotWhole();
+    void keyNamesAndNumbersGiveTheRemoteNumber();
+    void galleryPicturesTheMenuAndVoltsAmpsHertz();
+
+private:
+    struct Result
+    {
+        int code;
+        QByteArray output;
+        QByteArray error;
+    };
+    static Result run(const QString &tool, const QStringList &arguments)
+    {
+        QProcess process;
+        process.start(QStringLiteral(QUVERA_BIN_DIR "/") + tool, arguments);
+        process.waitForFinished(240000);
+        return { process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                 process.readAllStandardOutput(), process.readAllStandardError() };
+    }
+};
+
+void TstTools::remoteTellsWrongUse_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("error");
+    QTest::newRow("no command") << QStringList {} << QByteArray("no command given");
+    QTest::newRow("unknown command") << QStringList { "dance" } << QByteArray("no command is called \"dance\"");
+    QTest::newRow("no key") << QStringList { "key" } << QByteArray("wrong number of arguments for key");
+    QTest::newRow("unknown key") << QStringList { "key", "F4", "F13" } << QByteArray("no key is called \"F13\"");
+    QTest::newRow("two files") << QStringList { "screen", "a.png", "b.png" }
+                               << QByteArray("screen takes one file name");
+    QTest::newRow("bad port") << QStringList { "--port", "70000", "identify" } << QByteArray("\"70000\" is no port");
+    QTest::newRow("bad time") << QStringList { "--timeout", "soon", "identify" } << QByteArray("times are in ms");
+}
+
+void TstTools::remoteTellsWrongUse()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, error);
+    const Result result = run(QStringLiteral("quvera-remote"), arguments);
+    QCOMPARE(result.code, 2);
+    QVERIFY2(result.error.contains(error), result.error);
+    QCOMPARE(result.error.count('\n'), 1);
+}
+
+void TstTools::remoteTellsThatNobodyAnswers()
+{
+    const QString port = QString::number(DeskInstrument::freeUdpPort());
+    for (const QStringList &command : { QStringList { "identify" }, QStringList { "keepalive" },
+                                        QStringList { "key", "F4" }, QStringList { "screen", "never.png" } }) {
+        const Result result
+            = run(QStringLiteral("quvera-remote"), QStringList { "--port", port, "--timeout", "50" } + command);
+        QCOMPARE(result.code, 1);
+        QVERIFY2(result.error.contains("no answer from 127.0.0.1 port " + port.toLatin1()), result.error);
+    }
+    QVERIFY(!QFile::exists(QStringLiteral("never.png")));
+}
+
+void TstTools::remoteIdentifiesPressesAndSavesTheScreen()
+{
+    Instrument desk;
+    VERIFY_DESK(desk.start(), desk);
+    const QStringList port { "--port", QString::number(desk.remotePort()) };
+    QCOMPARE(run(QStringLiteral("quvera-remote"), port + QStringList { "identify" }).output, QByteArray("QUVERA\n"));
+    QCOMPARE(run(QStringLiteral("quvera-remote"), port + QStringList { "keepalive" }).code, 0);
+    const QString before = desk.path(QStringLiteral("/before.png"));
+    const QString after = desk.path(QStringLiteral("/after.png"));
+    QCOMPARE(run(QStringLiteral("quvera-remote"), port + QStringList { "screen", before }).code, 0);
+    QCOMPARE(run(QStringLiteral("quvera-remote"), port + QStringList { "key", "Right", "19", "enter" }).code, 0);
+    QCOMPARE(run(QStringLiteral("quvera-remote"), port + QStringList { "screen", after }).code, 0);
+    QCOMPARE(QImage(before).size(), QSize(640, 480));
+    QVERIFY(page(QImage(before)) != page(QImage(after)));
+    const Result unwritable
+        = run(QStringLiteral("quvera-remote"), port + QStringList { "screen", "/no/such/folder/a.png" });
+    QCOMPARE(unwritable.code, 1);
+    QVERIFY(unwritable.error.contains("/no/such/folder/a.png"));
+}
+
+void TstTools::pictureWithAFlippedBitIsNotWhole()
+{
+    QImage image(40, 30, QImage::Format_RGB32);
+    image.fill(Qt::darkGreen);
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    QVERIFY(image.save(&buffer, "PNG"));
+    QVERIFY(RemoteClient::isWholePng(png));
+    for (int at = 0; at < png.size(); ++at) {
+        QByteArray damaged = png;
+        damaged[at] = char(damaged.at(at) ^ 0x10);
+        QVERIFY2(!RemoteClient::isWholePng(damaged), QByteArray::number(at));
+        QVERIFY2(!RemoteClient::isWholePng(png.left(at)), QByteArray::number(at));
+    }
+    QVERIFY(!RemoteClient::isWholePng(png + 'x'));
+}
+
+void TstTools::keyNamesAndNumbersGiveTheRemoteNumber()
+{
+    QCOMPARE(RemoteClient::keyCode(QStringLiteral("F1")), 40);
+    QCOMPARE(RemoteClient::keyCode(QStringLiteral("f5")), 44);
+    QCOMPARE(RemoteClient::keyCode(QStringLiteral("F9")), 49);
+    QCOMPARE(RemoteClient::keyCode(QStringLiteral("Setup")), 49);
+    QCOMPARE(RemoteClient::keyCode(QStringLiteral("F10")), 50);
+    QCOMPARE(RemoteClient::keyCode(QStringLiteral("F11")), 48);
+    QCOMPARE(RemoteClient::keyCode(QStringLiteral("save")), 48);
+    QCOMPARE(RemoteClient::keyCode(QStringLiteral("Enter")), 13);
+    QCOMPARE(RemoteClient::keyCode(QStringLiteral("Down")), 19);
+    QCOMPARE(RemoteClient::keyCode(QStringLiteral("14")), 14);
+    QCOMPARE(RemoteClient::keyCode(QStringLiteral("-1")), -1);
+    QCOMPARE(RemoteClient::keyCode(QStringLiteral("Escape")), -1);
+    QCOMPARE(RemoteClient::keyCode(QString()), -1);
+}
+
+void TstTools::galleryPicturesTheMenuAndVoltsAmpsHertz()
+{
+    QTemporaryDir folder;
+    const Result result
+        = run(QStringLiteral("quvera-gallery"),
+              { "--out", folder.path(), "--pages", "menu,vif", "--wirings", "1,4", "--settle", "0", "--sheet" });
+    QVERIFY2(result.code == 0, result.error);
+    const QStringList pictures = QDir(folder.path()).entryList({ QStringLiteral("*.png") });
+    QFile index(folder.filePath(QStringLiteral("index.html")));
+    QVERIFY(index.open(QIODevice::ReadOnly));
+    const QByteArray html = index.readAll();
+    int shown = 0;
+    for (const QString &picture : pictures) {
+        if (picture == QLatin1String("sheet.png"))
+            continue;
+        ++shown;
+        QCOMPARE(QImage(folder.filePath(picture)).size(), QSize(640, 480));
+        QVERIFY2(html.contains("src=\"" + picture.toUtf8() + '"'), qPrintable(picture));
+    }
+    // The menu's two pictures once, those of Volts/Amps/Hertz in both wirings.
+    QCOMPARE(shown, 2 + 2 * 5);
+    QVERIFY(!QImage(folder.filePath(QStringLiteral("sheet.png"))).isNull());
+    QCOMPARE(run(QStringLiteral("quvera-gallery"), { "--pages", "garden" }).code, 2);
+    QCOMPARE(run(QStringLiteral("quvera-gallery"), { "--wirings", "11" }).code, 2);
+    QCOMPARE(run(QStringLiteral("quvera-gallery"), { "--languages", "XX" }).code, 2);
+}
+
+QTEST_GUILESS_MAIN(TstTools)
+
+#include "tst_tools.moc"

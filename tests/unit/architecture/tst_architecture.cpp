@@ -1,0 +1,385 @@
+// Reads the sources and holds them to the rules of docs/architecture.md.
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QRegularExpression>
+#include <QSet>
+#include <QTest>
+
+namespace {
+
+const QString kTop = QStringLiteral(QUVERA_SOURCE_DIR);
+const QString kTopLevel = QStringLiteral("top"); // the sources that stand in src/ itself
+
+QString read(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// Paths of the sources and headers below a folder of the repository, seen from its top.
+QStringList sources(const QString &folder)
+{
+    QStringList paths;
+    QDirIterator files(kTop + QLatin1Char('/') + folder, { QStringLiteral("*.cpp"), QStringLiteral("*.h") },
+                       QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        paths << files.next().mid(kTop.size() + 1);
+    paths.sort();
+    return paths;
+}
+
+/// The text with its comments taken out, line by line; "//" inside a literal stays.
+QString code(const QString &path)
+{
+    static const QRegularExpression comment(QStringLiteral(R"re(("(?:[^"\\\n]|\\.)*")|//[^\n]*|/\*.*?\*/)re"),
+                                            QRegularExpression::DotMatchesEverythingOption);
+    return read(kTop + QLatin1Char('/') + path).replace(comment, QStringLiteral("\\1"));
+}
+
+/// "src/config/config.h" stands in "config", "src/main.cpp" in "top".
+QString folderOf(const QString &path)
+{
+    const QStringList parts = path.split(QLatin1Char('/'));
+    return parts.size() > 2 ? parts.at(1) : kTopLevel;
+}
+
+QStringList includesOf(const QString &path)
+{
+    static const QRegularExpression line(QStringLiteral("^[ \\t]*#[ \\t]*include[ \\t]+\"([^\"]+)\""),
+                                         QRegularExpression::MultilineOption);
+    QStringList includes;
+    auto found = line.globalMatch(read(kTop + QLatin1Char('/') + path));
+    while (found.hasNext())
+        includes << found.next().captured(1);
+    return includes;
+}
+
+/// Rows of the table behind a heading of docs/architecture.md, without its head.
+QVector<QStringList> documentTable(const QString &heading)
+{
+    QVector<QStringList> rows;
+    const QString text = read(kTop + QStringLiteral("/docs/architecture.md"));
+    const int at = text.indexOf(QStringLiteral("\n## ") + heading + QLatin1Char('\n'));
+    if (at < 0)
+        return rows;
+    const int next = text.indexOf(QStringLiteral("\n## "), at + 4);
+    const QStringList lines = text.mid(at, next < 0 ? -1 : next - at).split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        if (!line.startsWith(QLatin1Char('|')))
+            continue;
+        QStringList cells = line.mid(1).split(QLatin1Char('|'));
+        cells.removeLast();
+        for (QString &cell : cells)
+            cell = cell.trimmed().remove(QLatin1Char('`'));
+        rows << cells;
+    }
+    return rows.mid(2);
+}
+
+/// Folder and rank of the document's table; an include may point to a lower rank only.
+QHash<QString, int> folderRanks()
+{
+    QHash<QString, int> ranks;
+    const auto rows = documentTable(QStringLiteral("Folders"));
+    for (const QStringList &row : rows)
+        ranks.insert(row.value(0), row.value(1).toInt());
+    return ranks;
+}
+
+/// Lines of code outside the platform folder that match, as "file: text".
+QStringList offenders(const QRegularExpression &pattern, const QString &exceptFolder)
+{
+    QStringList found;
+    const auto paths = sources(QStringLiteral("src"));
+    for (const QString &path : paths) {
+        if (folderOf(path) == exceptFolder)
+            continue;
+        const QStringList lines = code(path).split(QLatin1Char('\n'));
+        for (const QString &line : lines) {
+            if (pattern.match(line).hasMatch())
+                found << path + QStringLiteral(": ") + line.trimmed();
+        }
+    }
+    return found;
+}
+
+QByteArray list(const QStringList &lines)
+{
+    return lines.join(QLatin1Char('\n')).toUtf8();
+}
+
+} // namespace
+
+/// The house rules that a compiler does not check.
+class TstArchitecture : public QObject
+{
+    Q_OBJECT
+private slots:
+    void documentNamesEveryFolder();
+    void buildHasTheFolderOrderOfTheDocument();
+    void includesPointDownTheFolderList();
+    void everyExceptionIsStillNeeded();
+    void everyFolderHasAShortReadme();
+    void processorIncludesNothingOfTheInstrument();
+    void toolsIncludeNothingOfTheInstrument();
+    void onlyThePlatformFolderKnowsBoardFromDesk();
+    void unitsThatOpenBoardFilesGoThroughTarget();
+    void shellCommandsGoThroughTarget();
+    void timeOfDayComesFromTheClock();
+    void executablesKeepTheNumbersOfC();
+    void documentIndexNamesEveryDocument();
+    void noTestIsSwitchedOff();
+    void packagesOfTheBuildAreInTheList();
+};
+
+void TstArchitecture::documentNamesEveryFolder()
+{
+    const auto ranks = folderRanks();
+    const auto folders = QDir(kTop + QStringLiteral("/src")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    QVERIFY(!folders.isEmpty());
+    for (const QString &folder : folders)
+        QVERIFY2(ranks.contains(folder), qPrintable(folder));
+    QVERIFY(ranks.contains(kTopLevel));
+}
+
+void TstArchitecture::buildHasTheFolderOrderOfTheDocument()
+{
+    const QRegularExpression line(QStringLiteral("set\\(QUVERA_FOLDER_ORDER ([^)]*)\\)"));
+    const QStringList built = line.match(read(kTop + QStringLiteral("/cmake/QuveraFolder.cmake")))
+                                  .captured(1)
+                                  .split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    QVERIFY(!built.isEmpty());
+    const auto ranks = folderRanks();
+    for (int i = 1; i < built.size(); ++i)
+        QVERIFY2(ranks.value(built.at(i - 1), -1) <= ranks.value(built.at(i), -1), qPrintable(built.at(i)));
+}
+
+void TstArchitecture::includesPointDownTheFolderList()
+{
+    const auto ranks = folderRanks();
+    QSet<QString> allowed;
+    const auto exceptions = documentTable(QStringLiteral("Exceptions"));
+    for (const QStringList &row : exceptions)
+        allowed.insert(row.value(0) + QLatin1Char(' ') + row.value(1));
+    QStringList upward;
+    int checked = 0;
+    const auto paths = sources(QStringLiteral("src"));
+    for (const QString &path : paths) {
+        const QString folder = folderOf(path);
+        const auto includes = includesOf(path);
+        for (const QString &include : includes) {
+            QString target;
+            if (QFile::exists(kTop + QStringLiteral("/src/") + include))
+                target = folderOf(QStringLiteral("src/") + include);
+            else
+                continue; // a header beside it, or one that the build generates from a form
+            ++checked;
+            const bool isBelow = target == folder || ranks.value(target, 1000) < ranks.value(folder, -1);
+            if (!isBelow && !allowed.contains(path.mid(4) + QLatin1Char(' ') + include))
+                upward << path + QStringLiteral(" includes ") + include;
+        }
+    }
+    QVERIFY(checked > 100);
+    QVERIFY2(upward.isEmpty(), list(upward));
+}
+
+void TstArchitecture::everyExceptionIsStillNeeded()
+{
+    const auto exceptions = documentTable(QStringLiteral("Exceptions"));
+    for (const QStringList &row : exceptions) {
+        if (row.value(0) == QLatin1String("none"))
+            continue;
+        QVERIFY2(includesOf(QStringLiteral("src/") + row.value(0)).contains(row.value(1)), list(row));
+        QVERIFY2(!row.value(2).isEmpty(), "an exception has its reason");
+    }
+}
+
+void TstArchitecture::everyFolderHasAShortReadme()
+{
+    const auto folders = QDir(kTop + QStringLiteral("/src")).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &folder : folders) {
+        const QString text = read(kTop + QStringLiteral("/src/%1/README.md").arg(folder));
+        const int lines = text.trimmed().count(QLatin1Char('\n')) + 1;
+        QVERIFY2(text.startsWith(QStringLiteral("# %1/").arg(folder)), qPrintable(folder));
+        QVERIFY2(lines >= 3 && lines <= 15, qPrintable(QStringLiteral("%1: %2 lines").arg(folder).arg(lines)));
+    }
+}
+
+void TstArchitecture::processorIncludesNothingOfTheInstrument()
+{
+    QStringList found;
+    const auto paths = sources(QStringLiteral("processor"));
+    QVERIFY(!paths.isEmpty());
+    for (const QString &path : paths) {
+        const auto includes = includesOf(path);
+        for (const QString &include : includes) {
+            const bool isItsOwn = QFile::exists(kTop + QStringLiteral("/processor/") + include)
+                || QFile::exists(QFileInfo(kTop + QLatin1Char('/') + path).path() + QLatin1Char('/') + include);
+            if (!isItsOwn
+                && (include.contains(QStringLiteral("src/"))
+                    || QFile::exists(kTop + QStringLiteral("/src/") + include)))
+                found << path + QStringLiteral(" includes ") + include;
+        }
+    }
+    QVERIFY2(found.isEmpty(), list(found));
+}
+
+void TstArchitecture::toolsIncludeNothingOfTheInstrument()
+{
+    QStringList found;
+    const auto paths = sources(QStringLiteral("tools"));
+    QVERIFY(!paths.isEmpty());
+    for (const QString &path : paths) {
+        const auto includes = includesOf(path);
+        for (const QString &include : includes) {
+            if (QFile::exists(kTop + QStringLiteral("/src/") + include))
+                found << path + QStringLiteral(" includes ") + include;
+        }
+    }
+    QVERIFY2(found.isEmpty(), list(found));
+}
+
+void TstArchitecture::onlyThePlatformFolderKnowsBoardFromDesk()
+{
+    const QRegularExpression pattern(QStringLiteral("QUVERA_(ROOT|REMOTE_PORT|MODBUS_PORT)|\\bgetenv\\b|\\bqgetenv\\b|qEnvironmentVariable|"
+                                                    "Target::root\\(|#\\s*if.*(__arm__|__x86_64__|_DESK)"));
+    const QStringList found = offenders(pattern, QStringLiteral("platform"));
+    QVERIFY2(found.isEmpty(), list(found));
+}
+
+void TstArchitecture::unitsThatOpenBoardFilesGoThroughTarget()
+{
+    const QRegularExpression boardPath(QStringLiteral("\"/(mnt|sys|tmp|run|var|etc|usr|dev|proc)/"));
+    const QRegularExpression opener(QStringLiteral(
+        "\\b(QFile|QDir|QFileInfo|QSaveFile|QTemporaryFile|QFileSystemWatcher|QDirIterator|QStorageInfo|fopen|ofstream|"
+        "ifstream|fstream|statfs|statvfs|open|mkdir|rename|unlink|opendir|QTranslator|addApplicationFont)\\b"));
+    QStringList found;
+    int checked = 0;
+    const auto paths = sources(QStringLiteral("src"));
+    for (const QString &path : paths) {
+        const QString text = code(path);
+        if (folderOf(path) == QLatin1String("platform") || !boardPath.match(text).hasMatch())
+            continue;
+        ++checked;
+        if (opener.match(text).hasMatch() && !text.contains(QStringLiteral("Target::")))
+            found << path;
+        // On one line there is no doubt: a literal goes into an opener as it is.
+        const QStringList lines = text.split(QLatin1Char('\n'));
+        for (const QString &line : lines) {
+            const QRegularExpression bare(opener.pattern()
+                                          + QStringLiteral("[^;]*[({]\\s*(QStringLiteral\\(|QLatin1String\\()?")
+                                          + boardPath.pattern());
+            if (bare.match(line).hasMatch() && !line.contains(QStringLiteral("Target::")))
+                found << path + QStringLiteral(": ") + line.trimmed();
+        }
+    }
+    QVERIFY(checked > 3);
+    QVERIFY2(found.isEmpty(), list(found));
+}
+
+void TstArchitecture::shellCommandsGoThroughTarget()
+{
+    const QRegularExpression pattern(
+        QStringLiteral("\\b(system|popen|execl?v?p?e?|posix_spawn\\w*)\\s*\\(|\\bQProcess\\b"));
+    QStringList found = offenders(pattern, QStringLiteral("platform"));
+    // Dialogs of the toolkit have a function of that name too.
+    found = found.filter(QRegularExpression(QStringLiteral("^(?!.*(\\.|->|::|int )exec\\s*\\()")));
+    QVERIFY2(found.isEmpty(), list(found));
+}
+
+void TstArchitecture::timeOfDayComesFromTheClock()
+{
+    const QRegularExpression pattern(QStringLiteral(
+        "(QDateTime|QDate|QTime)::current|\\bgettimeofday\\s*\\(|\\btime\\s*\\(\\s*(nullptr|NULL|0)\\s*\\)|"
+        "CLOCK_REALTIME|system_clock"));
+    const QStringList found = offenders(pattern, QStringLiteral("platform"));
+    QVERIFY2(found.isEmpty(), list(found));
+}
+
+// The toolkit's application object takes over the environment's locale, and "%.3f" would print commas.
+void TstArchitecture::executablesKeepTheNumbersOfC()
+{
+    const QRegularExpression application(QStringLiteral("\\bQ(Core|Gui)?Application\\s+\\w+\\s*\\("));
+    int checked = 0;
+    const auto paths
+        = sources(QStringLiteral("src")) + sources(QStringLiteral("tools")) + sources(QStringLiteral("processor"));
+    for (const QString &path : paths) {
+        const QString text = code(path);
+        if (!path.endsWith(QStringLiteral("main.cpp")) || !application.match(text).hasMatch())
+            continue;
+        ++checked;
+        QVERIFY2(QRegularExpression(QStringLiteral("setlocale\\(LC_NUMERIC, \"C\"\\)")).match(text).hasMatch(),
+                 qPrintable(path));
+    }
+    QVERIFY(checked >= 3);
+}
+
+void TstArchitecture::documentIndexNamesEveryDocument()
+{
+    const QString index = read(kTop + QStringLiteral("/docs/README.md"));
+    QDirIterator files(kTop + QStringLiteral("/docs"), { QStringLiteral("*.md") }, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString name = files.next().mid(kTop.size() + 6);
+        if (name != QLatin1String("README.md"))
+            QVERIFY2(index.contains(QStringLiteral("(%1)").arg(name)), qPrintable(name));
+    }
+    // And no name that is not there.
+    auto links = QRegularExpression(QStringLiteral("\\]\\(([^)#:]+\\.md)\\)")).globalMatch(index);
+    while (links.hasNext()) {
+        const QString name = links.next().captured(1);
+        QVERIFY2(QFile::exists(kTop + QStringLiteral("/docs/") + name), qPrintable(name));
+    }
+}
+
+void TstArchitecture::noTestIsSwitchedOff()
+{
+    // Put together here, so that this file does not find itself.
+    const QString skip = QStringLiteral("QSK") + QStringLiteral("IP");
+    const QString emptyCheck = QStringLiteral("QVERIFY(") + QStringLiteral("true)");
+    QStringList found;
+    const auto paths = sources(QStringLiteral("tests")) + sources(QStringLiteral("processor/tests"));
+    for (const QString &path : paths) {
+        const QString text = read(kTop + QLatin1Char('/') + path);
+        if (text.contains(skip) || text.contains(emptyCheck))
+            found << path;
+    }
+    QVERIFY2(found.isEmpty(), list(found));
+}
+
+// What CMake asks for must come with the packages that run.sh and test.sh install.
+void TstArchitecture::packagesOfTheBuildAreInTheList()
+{
+    const struct
+    {
+        const char *wanted;
+        const char *package;
+    } rows[] = {
+        { "Qt5", "qtbase5-dev" },           { "LinguistTools", "qttools5-dev" },
+        { "libmodbus", "libmodbus-dev" },   { "fftw3", "libfftw3-dev" },
+        { "ZLIB", "zlib1g-dev" },           { "benchmark", "libbenchmark-dev" },
+        { "rsvg-convert", "librsvg2-bin" }, { "sqlite3", "libsqlite3-dev" },
+    };
+    const QStringList packages = read(kTop + QStringLiteral("/packaging/debian-packages.txt")).split(QLatin1Char('\n'));
+    QString build;
+    QDirIterator files(kTop, { QStringLiteral("CMakeLists.txt"), QStringLiteral("*.cmake") }, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        if (!path.startsWith(kTop + QStringLiteral("/build")))
+            build += read(path);
+    }
+    int used = 0;
+    for (const auto &row : rows) {
+        if (!build.contains(QLatin1String(row.wanted), Qt::CaseInsensitive))
+            continue;
+        ++used;
+        QVERIFY2(packages.contains(QLatin1String(row.package)), row.package);
+    }
+    QVERIFY(used >= 5);
+}
+
+QTEST_GUILESS_MAIN(TstArchitecture)
+
+#include "tst_architecture.moc"
