@@ -261,5 +261,5 @@ void TstFlicker::wildValuesAreShown()
     QVERIFY(!text(mainPage(), "Pst_L1").contains(QStringLiteral("nan")));
 }
 
-QTEST_MAIN(TstFlicker)
+PAGE_TEST_MAIN(TstFlicker)
 #include "tst_flicker.moc"

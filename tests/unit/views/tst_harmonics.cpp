@@ -569,5 +569,5 @@ void TstHarmonics::deltaWiringsNameBothVoltageAndPhase()
     QCOMPARE(text(mainPage(), "D1"), QStringLiteral("L12/L1"));
 }
 
-QTEST_MAIN(TstHarmonics)
+PAGE_TEST_MAIN(TstHarmonics)
 #include "tst_harmonics.moc"

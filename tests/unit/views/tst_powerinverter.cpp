@@ -408,5 +408,5 @@ void TstPowerInverter::wildValuesAreShown()
     }
 }
 
-QTEST_MAIN(TstPowerInverter)
+PAGE_TEST_MAIN(TstPowerInverter)
 #include "tst_powerinverter.moc"

@@ -311,5 +311,5 @@ void TstUnbalance::wildRecordIsShown()
     }
 }
 
-QTEST_MAIN(TstUnbalance)
+PAGE_TEST_MAIN(TstUnbalance)
 #include "tst_unbalance.moc"
