@@ -1,0 +1,104 @@
+#include "desk/deskinstrument.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QThread>
+
+#include <clocale>
+#include <cstdio>
+#include <unistd.h>
+
+// The whole instrument on the live stream: processor time with each page shown, resident memory and its growth.
+// Seconds behind each page: QUVERA_BENCH_SECONDS (default 10); for the growth over ten minutes set 60.
+
+namespace {
+
+struct Usage
+{
+    double seconds = 0; // of processor time, user and system
+    double mebibytes = 0; // resident
+};
+
+Usage usageOf(qint64 pid)
+{
+    Usage usage;
+    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
+    if (!stat.open(QIODevice::ReadOnly))
+        return usage;
+    // The name in parentheses may hold blanks; what follows it does not.
+    const QByteArray line = stat.readAll();
+    const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
+    if (fields.size() < 22)
+        return usage;
+    usage.seconds = (fields[11].toDouble() + fields[12].toDouble()) / double(sysconf(_SC_CLK_TCK));
+    usage.mebibytes = fields[21].toDouble() * double(sysconf(_SC_PAGESIZE)) / 1048576.0;
+    return usage;
+}
+
+struct PageKeys
+{
+    const char *name;
+    QStringList keys; // from the page before
+};
+
+void printRatio(const char *what, double figure, double goal, const char *unit)
+{
+    std::printf("%s: %.2f %s (goal: at most %.2f)%s\n", what, figure, unit, goal, figure <= goal ? "" : " MISSED");
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    setlocale(LC_NUMERIC, "C");
+    const int seconds = qMax(
+        1,
+        qEnvironmentVariableIsSet("QUVERA_BENCH_SECONDS") ? qEnvironmentVariableIntValue("QUVERA_BENCH_SECONDS") : 10);
+
+    DeskInstrument desk(QStringLiteral(QUVERA_BIN_DIR));
+    QElapsedTimer clock;
+    if (!desk.startProcessor()) {
+        std::fprintf(stderr, "%s\n", qPrintable(desk.error()));
+        return 1;
+    }
+    clock.start();
+    if (!desk.startInstrument()) {
+        std::fprintf(stderr, "%s\n", qPrintable(desk.error()));
+        return 1;
+    }
+    std::printf("start to the answering menu: %lld ms\n", clock.elapsed());
+
+    const qint64 pid = desk.instrument().processId();
+    const PageKeys pages[] = {
+        { "menu", {} },
+        { "Volts/Amps/Hertz", { "Enter" } },
+        { "Volts/Amps/Hertz trend", { "F4" } },
+        { "Scope", { "F6" } },
+        { "Dips&Swells", { "F7", "Down", "Enter" } },
+        { "Harmonics", { "F7", "Up", "Right", "Enter" } },
+        { "Unbalance", { "F7", "Right", "Enter" } },
+        { "Power&Energy", { "F7", "Right", "Enter" } },
+    };
+    QThread::sleep(1);
+    const double first = usageOf(pid).mebibytes;
+    for (const PageKeys &page : pages) {
+        if (!desk.press(page.keys)) {
+            std::fprintf(stderr, "%s\n", qPrintable(desk.error()));
+            return 1;
+        }
+        if (page.keys.size() == 1 && page.keys[0] == QLatin1String("Enter"))
+            QThread::sleep(11); // a measurement begins ten seconds after it was asked for
+        const Usage before = usageOf(pid);
+        QThread::sleep(quint32(seconds));
+        const double share = (usageOf(pid).seconds - before.seconds) / seconds * 100.0;
+        printRatio(page.name, share, 3.0, "percent of a core");
+    }
+    const double last = usageOf(pid).mebibytes;
+    printRatio("resident memory", last, 64.0, "MiB");
+    std::printf("growth since the menu, trends filling included: %.2f MiB\n", last - first);
+    desk.stop();
+    return 0;
+}

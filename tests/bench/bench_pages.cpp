@@ -1,0 +1,136 @@
+#include "config/config_data.h"
+#include "device/displayrecords.h"
+#include "ratios.h"
+#include "views/common/viewcontainer.h"
+#include "views/harmonics/harm.h"
+#include "views/power/powen.h"
+#include "views/scope/scopepage.h"
+#include "views/unbalance/unbalan.h"
+#include "views/vif/vifpage.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QPainter>
+
+#include <clocale>
+#include <memory>
+
+// One refresh of a page with its repaint, beside the same number of plain labels that take new texts.
+
+namespace {
+
+constexpr int kWidth = 640;
+constexpr int kHeight = 448;
+
+void paint(QWidget &widget)
+{
+    static QImage screen(kWidth, kHeight, QImage::Format_RGB32);
+    widget.render(&screen);
+    benchmark::DoNotOptimize(screen.bits());
+}
+
+/// As many labels as the page shows, in a plain widget.
+class PlainLabels : public QWidget
+{
+public:
+    explicit PlainLabels(int count)
+    {
+        resize(kWidth, kHeight);
+        for (int i = 0; i < count; ++i) {
+            auto *label = new QLabel(this);
+            label->setGeometry(10 + i % 5 * 124, 10 + i / 5 * 34, 120, 30);
+            m_labels.append(label);
+        }
+    }
+    void refresh(float value)
+    {
+        for (QLabel *label : qAsConst(m_labels))
+            label->setText(QString::number(double(value), 'f', 2));
+    }
+
+private:
+    QList<QLabel *> m_labels;
+};
+
+void feed(float value)
+{
+    for (int c = 0; c < kChannels; ++c) {
+        g_vif_data->voltage[c] = g_vif_data->voltagePeak[c] = g_vif_data->current[c] = value;
+        if (g_power_data)
+            g_power_data->row[c] = { value, value, value, 0.9f, 0.9f, 0.1f };
+    }
+}
+
+template <typename Page> void refreshPage(benchmark::State &state)
+{
+    static auto *page = [] {
+        auto *made = new Page;
+        made->init_parameter();
+        return made;
+    }();
+    float value = 100;
+    for (auto _ : state) {
+        feed(value += 0.01f);
+        page->updateDisplay(nullptr);
+        paint(*page);
+    }
+}
+
+void vif(benchmark::State &state)
+{
+    refreshPage<VifPage>(state);
+}
+void power(benchmark::State &state)
+{
+    refreshPage<powen>(state);
+}
+void harmonics(benchmark::State &state)
+{
+    refreshPage<harm>(state);
+}
+void unbalance(benchmark::State &state)
+{
+    refreshPage<unbalan>(state);
+}
+void scope(benchmark::State &state)
+{
+    refreshPage<ScopePage>(state);
+}
+
+/// The Volts/Amps/Hertz table shows 43 labels.
+void labels(benchmark::State &state)
+{
+    static auto *plain = new PlainLabels(43);
+    float value = 100;
+    for (auto _ : state) {
+        plain->refresh(value += 0.01f);
+        paint(*plain);
+    }
+}
+
+BENCHMARK(vif)->Unit(benchmark::kMicrosecond);
+BENCHMARK(power)->Unit(benchmark::kMicrosecond);
+BENCHMARK(harmonics)->Unit(benchmark::kMicrosecond);
+BENCHMARK(unbalance)->Unit(benchmark::kMicrosecond);
+BENCHMARK(scope)->Unit(benchmark::kMicrosecond);
+BENCHMARK(labels)->Unit(benchmark::kMicrosecond);
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    setlocale(LC_NUMERIC, "C");
+    VifPage first; // allocates the record that all of them are fed through
+    first.init_parameter();
+    return Ratios::run(
+        argc, argv, Ratios::ProcessorTime,
+        {
+            { "Volts/Amps/Hertz refresh and repaint, beside as many plain labels", "vif", "labels", 1.3 },
+            { "power refresh and repaint, beside plain labels", "power", "labels", 0 },
+            { "harmonics refresh and repaint, beside plain labels", "harmonics", "labels", 0 },
+            { "unbalance refresh and repaint, beside plain labels", "unbalance", "labels", 0 },
+            { "scope refresh and repaint, beside plain labels", "scope", "labels", 0 },
+        });
+}
