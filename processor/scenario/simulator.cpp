@@ -34,6 +34,9 @@ double endOf(const processor::SignalEvent &event)
     }
 }
 
+// Microvolts per ampere: the clamps that an instrument with factory settings is set to.
+constexpr double kDeliveredClamp = 10000.0;
+
 } // namespace
 
 Simulator::Simulator(const Scenario &scenario, quint64 seed, wire::ProcessorLink *link)
@@ -44,8 +47,7 @@ Simulator::Simulator(const Scenario &scenario, quint64 seed, wire::ProcessorLink
     const FrontEndSpec &given = scenario.frontEnd;
     if (given.noise)
         m_frontEnd.setNoise(*given.noise);
-    m_frontEnd.setClampRatio(given.clamp.value_or(m_frontEnd.phaseClampRatio()),
-                             given.neutralClamp.value_or(m_frontEnd.neutralClampRatio()));
+    m_frontEnd.setClampRatio(given.clamp.value_or(kDeliveredClamp), given.neutralClamp.value_or(kDeliveredClamp));
     for (const wire::DatagramFault &fault : scenario.faults)
         link->faults().schedule(fault);
     for (int i = 0; i < wire::kFaultCount; ++i)
