@@ -1,32 +1,15 @@
+#include "applicationfont.h"
 #include "quveraglobal.h"
 
 #include "config/langtranslation.h"
 #include "config/userconfig.h"
 #include "platform/deskroot.h"
-#include "platform/target.h"
 
 #include <QApplication>
-#include <QFontDatabase>
 #include <QTextCodec>
 
 #include <clocale>
 #include <cstdio>
-
-namespace {
-
-void loadFonts()
-{
-    QFontDatabase::addApplicationFont(Target::path(QStringLiteral("/usr/lib/fonts/arial.ttf")));
-    const int id
-        = QFontDatabase::addApplicationFont(Target::path(QStringLiteral("/usr/lib/fonts/WenQuanYiZenHei.ttf")));
-    if (id < 0)
-        return;
-    const QStringList families = QFontDatabase::applicationFontFamilies(id);
-    if (!families.isEmpty())
-        QApplication::setFont(QFont(families.first()));
-}
-
-} // namespace
 
 int main(int argc, char **argv)
 {
@@ -43,7 +26,7 @@ int main(int argc, char **argv)
     setlocale(LC_NUMERIC, "C");
     showSplash();
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
-    loadFonts();
+    loadApplicationFont();
     languageTranslator.initLangTranslation(m_userConfig_g.getLang());
 
     appInit();

@@ -20,7 +20,7 @@ namespace {
 // Letters that the front panel sends.
 constexpr auto kEnter = Qt::Key_K, kLeft = Qt::Key_O, kUp = Qt::Key_Q, kRight = Qt::Key_D, kDown = Qt::Key_T;
 constexpr auto kF1 = Qt::Key_W, kF4 = Qt::Key_F, kF5 = Qt::Key_L, kF6 = Qt::Key_E, kF7 = Qt::Key_A, kF8 = Qt::Key_U;
-constexpr auto kF12 = Qt::Key_X, kPower = Qt::Key_B;
+constexpr auto kF10 = Qt::Key_R, kF12 = Qt::Key_X, kPower = Qt::Key_B;
 
 QString title()
 {
@@ -69,6 +69,11 @@ private slots:
     void goingToAnotherFunctionAsksAndCancelStays();
     void goingToAnotherFunctionAsksAndQuitStartsAnew();
     void closedQuestionEndsTheTask();
+    void menuKeyOnARunningCaptureAsks_data();
+    void menuKeyOnARunningCaptureAsks();
+    void scopeKeyOnARunningMonitorAsks();
+    void memoryKeyWhileRecordingAsksNothing();
+    void backFromMemoryRestoresPageAndTitle();
     void recordingQuestionOffersSaveExitRestartCancel();
     void functionNotBuiltAnswersWithAMessage();
     void monitorKeyDoesNothingAt400Hz();
@@ -258,6 +263,95 @@ void TstShell::closedQuestionEndsTheTask()
     QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
 }
 
+void TstShell::menuKeyOnARunningCaptureAsks_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::newRow("wave") << int(UI_WAVE);
+    QTest::newRow("monitor") << int(UI_MONITOR);
+    QTest::newRow("power inverter") << int(UI_POWER_INVERTER);
+}
+
+void TstShell::menuKeyOnARunningCaptureAsks()
+{
+    QFETCH(int, page);
+    const auto type = _quvera_ui_type(page);
+    enterVif(); // a page that is not the menu stands in front
+    m_taskmanage->exitTask();
+    switch (type) {
+    case UI_WAVE:
+        m_basedialog->startWaveTask();
+        break;
+    case UI_MONITOR:
+        m_basedialog->startMonitorTask();
+        break;
+    default:
+        m_basedialog->startPowerInverterTask();
+    }
+    g_unitask->startTask();
+    UniTask *task = g_unitask;
+
+    DialogAnswer cancel(kF5);
+    m_basedialog->showMenu(type, UI_MENU);
+    QVERIFY(cancel.text.contains("do you want to quit?"));
+    QCOMPARE(top(), static_cast<QWidget *>(m_vifpage));
+    QCOMPARE(g_unitask, task);
+    QVERIFY(task->isTaskRunning());
+
+    DialogAnswer quit(kF4);
+    m_basedialog->showMenu(type, UI_MENU);
+    QVERIFY(quit.asked);
+    QCOMPARE(top(), static_cast<QWidget *>(m_menupage));
+    QVERIFY(!m_taskmanage->currentTask());
+}
+
+void TstShell::scopeKeyOnARunningMonitorAsks()
+{
+    enterVif();
+    m_taskmanage->exitTask();
+    m_basedialog->startMonitorTask();
+    g_unitask->startTask();
+    DialogAnswer cancel(kF5);
+    m_basedialog->showScope(UI_MONITOR, UI_SCOPE);
+    QVERIFY(cancel.text.contains("do you want to quit?"));
+    QCOMPARE(top(), static_cast<QWidget *>(m_vifpage));
+    QCOMPARE(m_taskmanage->getUniFunction(), 4);
+}
+
+void TstShell::memoryKeyWhileRecordingAsksNothing()
+{
+    enterVif();
+    g_unitask->startTask();
+    RecordInfo::m_in_recording = 1;
+    UniTask *task = g_unitask;
+    DialogAnswer answer(kF5);
+    QTest::keyClick(m_vifpage->findChild<VifMain *>(), kF10);
+    QVERIFY(!answer.text.contains("Logger is running!"));
+    QVERIFY(!answer.text.contains("do you want to quit?"));
+    QCOMPARE(g_unitask, task);
+    QVERIFY(task->isTaskRunning());
+    QCOMPARE(m_basedialog->currentPage(), static_cast<QWidget *>(m_vifpage));
+}
+
+void TstShell::backFromMemoryRestoresPageAndTitle()
+{
+    auto *stack = m_basedialog->findChild<QStackedWidget *>("base_stackedWidget");
+    QWidget *other = stack->widget(stack->count() - 1);
+    enterVif();
+    QVERIFY(other != top());
+    stack->setCurrentWidget(other);
+    m_basedialog->displayTaskName("Memory");
+    m_basedialog->showLast();
+    QCOMPARE(top(), static_cast<QWidget *>(m_vifpage));
+    QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
+
+    m_basedialog->showMenu(UI_VIF, UI_MENU);
+    stack->setCurrentWidget(other);
+    m_basedialog->displayTaskName("Memory");
+    m_basedialog->showLast();
+    QCOMPARE(top(), static_cast<QWidget *>(m_menupage));
+    QCOMPARE(title(), QStringLiteral("Menu"));
+}
+
 void TstShell::recordingQuestionOffersSaveExitRestartCancel()
 {
     const struct
@@ -371,6 +465,8 @@ void TstShell::processorTimeBecomesTheSystemTime()
 
 void TstShell::titleBarShowsIconsAndText()
 {
+    QCOMPARE(m_basedialog->findChild<QWidget *>("widget")->styleSheet(),
+             QStringLiteral("QWidget#widget{\nbackground-image: url(:/base_title);}\n"));
     m_basedialog->showSysIcon("battery_f", "USB");
     const auto picture
         = [](const char *name) { return m_basedialog->findChild<QLabel *>(name)->pixmap(Qt::ReturnByValue).toImage(); };

@@ -3,6 +3,7 @@
 #include "platform/clock.h"
 #include "task/unitask.h"
 #include "taskmanage.h"
+#include "views/power/powen.h"
 #include "views/vif/vifpage.h"
 
 #include <QSignalSpy>
@@ -28,6 +29,8 @@ private slots:
     void pagesHoldAndRunTheTask();
     void displayLinkMovesAndUnlinks();
     void aSecondLinkRedrawsTwiceAndOneUnlinkEndsBoth();
+    void energyResetIsShownAtOnce();
+    void stoppedRunTellsItsTimeToTheWavePage();
     void functionChangesReachTheTask();
     void runEmptiesThePages();
     void datagramsReachTheTaskAndTheScreen();
@@ -183,6 +186,29 @@ void TstTaskManage::aSecondLinkRedrawsTwiceAndOneUnlinkEndsBoth()
     g_vif_data->voltage[0] = 321.0f;
     emit g_unitask->updateDisplay(nullptr);
     QVERIFY(label->text().startsWith("123"));
+}
+
+void TstTaskManage::energyResetIsShownAtOnce()
+{
+    m_taskmanage->startTask(m_taskmanage->initTask(TaskManage::Universal));
+    m_taskmanage->connectDisplay(UI_POWER);
+    auto *label = m_powerpage->findChild<QLabel *>("kwh_1");
+    g_power_data->activeEnergy[0] = 9000.0f;
+    emit g_unitask->updateDisplay(nullptr);
+    QCOMPARE(label->text(), QStringLiteral("9.000"));
+    emit m_powerpage->resetEnergy();
+    QCOMPARE(label->text(), QStringLiteral("0.000"));
+    m_taskmanage->disconnectDisplay(UI_POWER);
+    g_power_data->activeEnergy[0] = 9000.0f;
+    emit m_powerpage->resetEnergy(); // no longer linked
+    QCOMPARE(g_power_data->activeEnergy[0], 9000.0f);
+}
+
+void TstTaskManage::stoppedRunTellsItsTimeToTheWavePage()
+{
+    // The link is made by the text of the signal, with another name of the same type.
+    m_taskmanage->startTask(m_taskmanage->initTask(TaskManage::Universal));
+    QVERIFY(g_unitask->metaObject()->indexOfSignal("taskStoped(uint)") >= 0);
 }
 
 void TstTaskManage::functionChangesReachTheTask()
