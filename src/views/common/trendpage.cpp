@@ -9,10 +9,11 @@ TrendPage::TrendPage(_quvera_ui_type type, const std::vector<Quantity> &cycle, Q
     : ViewPage(type, parent), m_cycle(cycle)
 { }
 
-void TrendPage::initTrend(const QStringList &axis)
+void TrendPage::initTrend(const QStringList &axis, const char *chart, const char *captionEnd)
 {
     // The chart has no meta-object of its own: it is found by its name.
-    m_chart = static_cast<VifTrendChart *>(findChild<QWidget *>(QStringLiteral("trend")));
+    m_chart = static_cast<VifTrendChart *>(findChild<QWidget *>(QLatin1String(chart)));
+    m_captionEnd = QLatin1String(captionEnd);
     m_typeLabel = findChild<QLabel *>(QStringLiteral("type"));
     m_captions = ChannelLabels::numberedRow(this, "D%1_Caption");
     m_values = ChannelLabels::numberedRow(this, "D%1_Value");
@@ -57,7 +58,7 @@ void TrendPage::showType()
         m_values[0]->setStyleSheet(QString());
     if (quantity().single)
         return;
-    ChannelLabels::showHeaders(drawn(m_captions), QStringLiteral(":"));
+    ChannelLabels::showHeaders(drawn(m_captions), m_captionEnd);
     if (quantity().fourthCaption && m_captions[3]) {
         setText(m_captions[3], QString::fromLatin1(quantity().fourthCaption));
         m_captions[3]->setStyleSheet(QStringLiteral("color: %1;").arg(PhaseColor::colorN().name()));

@@ -46,7 +46,8 @@ protected:
     TrendPage(_quvera_ui_type type, const std::vector<Quantity> &cycle, QWidget *parent);
 
     /// To be called once the form exists, before setKeys.
-    void initTrend(const QStringList &axis);
+    /// \a chart: name of the chart in the form; \a captionEnd follows the channel in the captions of the values.
+    void initTrend(const QStringList &axis, const char *chart = "trend", const char *captionEnd = ":");
     /// F1: the next quantity.
     void nextType();
     virtual void showTrend();
@@ -65,6 +66,7 @@ private:
     const std::vector<Quantity> &m_cycle;
     std::size_t m_index = 0;
     VifTrendChart *m_chart = nullptr;
+    QString m_captionEnd;
     QLabel *m_typeLabel = nullptr;
     ChannelLabels::LabelRow m_captions = {};
     ChannelLabels::LabelRow m_values = {};

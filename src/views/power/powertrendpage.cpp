@@ -89,7 +89,7 @@ PowerTrendPage::PowerTrendPage(QWidget *parent) : TrendPage(UI_POWER, cycle(), p
         { Qt::Key_F4, QT_TRANSLATE_NOOP("PowerTrendPage", "Back"), &PowerTrendPage::goPowerMain },
     };
     m_ui->setupUi(this);
-    initTrend({ "10m", "8m", "6m", "4m", "2m" });
+    initTrend({ "10m", "8m", "6m", "4m", "2m" }, "trend_power", " :");
     setKeys(keys);
 }
 

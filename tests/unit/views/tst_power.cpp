@@ -199,12 +199,12 @@ void TstPower::trendCycleHasEightQuantities()
 
 void TstPower::trendFlagsShowTheTotalInTheFourthBand()
 {
-    auto *chart = static_cast<VifTrendChart *>(trendPage()->findChild<QWidget *>("trend"));
+    auto *chart = static_cast<VifTrendChart *>(trendPage()->findChild<QWidget *>("trend_power"));
     QCOMPARE(chart->flags(), 7 | 64);
     g_power_data->row[3].active = 9000.0f;
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(trendPage(), "D4_Caption"), QStringLiteral("T :"));
-    QCOMPARE(text(trendPage(), "D1_Caption"), QStringLiteral("L1:"));
+    QCOMPARE(text(trendPage(), "D1_Caption"), QStringLiteral("L1 :"));
     g_power_data->trend[0].series[0].append(1.0f);
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(trendPage(), "D4_Value"), QStringLiteral("9.00"));
@@ -221,7 +221,7 @@ void TstPower::trendFlagsShowTheTotalInTheFourthBand()
 void TstPower::savedRecordHoldsWordsAndTrends()
 {
     g_power_data->row[3].tangent = 0.5f; // word 42
-    g_power_data->seconds = 59;          // word 47
+    g_power_data->seconds = 59; // word 47
     for (int c = 0; c < 4; ++c) {
         for (int i = 0; i < 5; ++i) {
             g_power_data->trend[0].series[c].append(float(10 * c + i));
@@ -244,8 +244,8 @@ void TstPower::savedRecordHoldsWordsAndTrends()
     QCOMPARE(word(19 + 6 * 3 + 5), 0.5f);
     QCOMPARE(integer(47), 59);
     QCOMPARE(integer(48), 5);
-    QCOMPARE(word(49 + 600 * 3 + 4), 34.0f);             // P of the total, fifth point
-    QCOMPARE(word(49 + 600 * (7 * 4 + 2) + 1), 201.0f);  // I rms of L3
+    QCOMPARE(word(49 + 600 * 3 + 4), 34.0f); // P of the total, fifth point
+    QCOMPARE(word(49 + 600 * (7 * 4 + 2) + 1), 201.0f); // I rms of L3
 }
 
 void TstPower::pagesLiveWithoutARecord()

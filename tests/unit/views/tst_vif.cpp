@@ -302,6 +302,9 @@ void TstVif::trendValuesUseTheChannelsOfTheWiring()
     QCOMPARE(text(trendPage(), "D1_Value"), QStringLiteral("50.02"));
     QCOMPARE(trendPage()->findChild<QLabel *>("D1_Value")->styleSheet(), QStringLiteral("color: #808080;"));
     QCOMPARE(text(trendPage(), "D2_Value"), QString());
+    QTest::keyClick(trendPage(), Qt::Key_W); // the grey goes with the frequency
+    QCOMPARE(text(trendPage(), "D1_Value"), QStringLiteral("100.00"));
+    QCOMPARE(trendPage()->findChild<QLabel *>("D1_Value")->styleSheet(), QString());
 }
 
 void TstVif::stopWatchReachesAllSubPages()
