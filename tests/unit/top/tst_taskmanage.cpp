@@ -232,7 +232,7 @@ void TstTaskManage::datagramsReachTheTaskAndTheScreen()
     g_unitask->startTask();
     QByteArray bytes(13000, '\0');
     const float raw = 2.0f;
-    std::memcpy(bytes.data() + 4 * 8, &raw, 4);
+    bytes.replace(4 * 8, 4, reinterpret_cast<const char *>(&raw), 4);
     emit m_idevice->datagramAggregation(bytes);
     g_unitask->updatedata();
     QCOMPARE(m_vifpage->findChild<QLabel *>("Urms_L1")->text(), QStringLiteral("158.50")); // 2 x 79.25 V
