@@ -292,7 +292,7 @@ bool DeviceDSP::storePayload(quint32 flag)
         const bool single = flag & kLastPackage;
         // As required: a single package counts all words of its kind as payload, the two time words with them. What
         // lies behind the package's end keeps the store's old contents.
-        const int words = single ? g_store.wordCount : Link::kFirstPayloadWords;
+        const int words = single ? int(g_store.wordCount) : int(Link::kFirstPayloadWords);
         storeWords(Link::kFirstHeadBytes, words);
         g_store.receivedWords += words;
         m_waitFirst = single;

@@ -150,7 +150,7 @@ const char *F_to_Str::utf8(const QString &text)
     for (int in = 0; out < kRoom && in <= kMostInput && at(in) != 0; ++in) {
         char16_t c = at(in);
         if (c == '\\') { // the "x" behind it is skipped
-            c = char16_t((digit(at(in + 2)) << 4 | digit(at(in + 3))) & 0xff);
+            c = char16_t(((digit(at(in + 2)) * 16) | digit(at(in + 3))) & 0xff);
             in += 3;
         } else if (c > 255) {
             c = 208;

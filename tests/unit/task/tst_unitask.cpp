@@ -156,6 +156,8 @@ void TstUniTask::init()
 void TstUniTask::cleanup()
 {
     m_task.reset();
+    qDeleteAll(g_trans_events);
+    g_trans_events.clear();
     Clock::useSystem();
 }
 
