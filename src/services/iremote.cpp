@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QKeyEvent>
+#include <QSplashScreen>
 #include <QWidget>
 #include <QtEndian>
 #include <algorithm>
@@ -106,8 +107,9 @@ QWidget *keyboardWindow()
 // focus on as they do on the board.
 QObject *keyReceiver()
 {
-    if (QObject *focus = QGuiApplication::focusObject())
-        return focus;
+    QObject *owner = QGuiApplication::focusObject();
+    if (owner && !qobject_cast<QSplashScreen *>(owner)) // it has the focus until the loop runs for the first time
+        return owner;
     QWidget *window = keyboardWindow();
     if (!window)
         return nullptr;

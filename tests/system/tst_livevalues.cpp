@@ -79,7 +79,8 @@ void TstLiveValues::tell(const QString &command)
 void TstLiveValues::voltsAmpsHertzShowTheSupplyWithinATenthOfAPercent()
 {
     for (const char *label : { "Urms_L1", "Urms_L2", "Urms_L3" })
-        QTRY_VERIFY2_WITH_TIMEOUT(isNear(label, 230.0, 0.23), qPrintable(label + QLatin1Char(' ') + text(label)), 60000);
+        QTRY_VERIFY2_WITH_TIMEOUT(isNear(label, 230.0, 0.23), qPrintable(label + QLatin1Char(' ') + text(label)),
+                                  60000);
     // 10 A on the clamp's range: the last shown digit may be coarser than the tenth of a percent.
     for (const char *label : { "Irms_L1", "Irms_L2", "Irms_L3" })
         QTRY_VERIFY2_WITH_TIMEOUT(isNear(label, 10.0, 0.1), qPrintable(label + QLatin1Char(' ') + text(label)), 60000);

@@ -10,7 +10,6 @@ class TstProcessorNode : public QObject
     Q_OBJECT
 private slots:
     void withoutANodeTheInterfaceRuns();
-    void nodeThatComesLaterIsTaken();
     void valuesGoOnAfterTheNodeWasAway();
     void faultsOnTheLinkLeaveTheScreenAlive_data();
     void faultsOnTheLinkLeaveTheScreenAlive();
@@ -40,15 +39,6 @@ void TstProcessorNode::withoutANodeTheInterfaceRuns()
     VERIFY_DESK(desk.press({ QStringLiteral("Menu") }), desk);
     QCOMPARE(title(desk.screen()), title(menu));
     QVERIFY(desk.isInstrumentRunning());
-}
-
-void TstProcessorNode::nodeThatComesLaterIsTaken()
-{
-    Instrument desk;
-    QVERIFY2(desk.startInstrument(), qPrintable(desk.error()));
-    VERIFY_DESK(desk.press({ QStringLiteral("Enter") }), desk);
-    VERIFY_DESK(desk.startProcessor({ QStringLiteral("--stream") }), desk);
-    VERIFY_DESK(showsLiveValues(desk), desk);
 }
 
 void TstProcessorNode::valuesGoOnAfterTheNodeWasAway()

@@ -28,6 +28,9 @@ private:
     static Result run(const QString &tool, const QStringList &arguments)
     {
         QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.remove(QStringLiteral("QUVERA_REMOTE_PORT")); // the test run's; a user has none
+        process.setProcessEnvironment(environment);
         process.start(QStringLiteral(QUVERA_BIN_DIR "/") + tool, arguments);
         process.waitForFinished(240000);
         return { process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
@@ -130,9 +133,9 @@ void TstTools::keyNamesAndNumbersGiveTheRemoteNumber()
 void TstTools::galleryPicturesTheMenuAndVoltsAmpsHertz()
 {
     QTemporaryDir folder;
-    const Result result
-        = run(QStringLiteral("quvera-gallery"),
-              { "--out", folder.path(), "--pages", "menu,vif", "--wirings", "1,4", "--settle", "0", "--sheet" });
+    const Result result = run(QStringLiteral("quvera-gallery"),
+                              { "--out", folder.path(), "--pages", "menu,vif", "--wirings", "1,4", "--settle", "0",
+                                "--warm-up", "0", "--sheet" });
     QVERIFY2(result.code == 0, result.error);
     const QStringList pictures = QDir(folder.path()).entryList({ QStringLiteral("*.png") });
     QFile index(folder.filePath(QStringLiteral("index.html")));

@@ -69,6 +69,10 @@ bool Gallery::runVariant(int wiring, int frequency, const QString &language, boo
         m_error = desk.error();
         return false;
     }
+    if (m_options.warmUpMs > 0 && !warmUp(desk)) {
+        m_error = variant + QStringLiteral(": ") + desk.error();
+        return false;
+    }
     QString item = QLatin1String(kFirstItem);
     for (const Page &page : galleryPages()) {
         const bool wanted = m_options.pages.isEmpty() || m_options.pages.contains(page.name);
@@ -84,6 +88,20 @@ bool Gallery::runVariant(int wiring, int frequency, const QString &language, boo
         return false;
     }
     return true;
+}
+
+// A measurement counts down before it runs, and goes on when its page is left. Its first values change the table of the
+// first item, which stands between header and soft keys.
+bool Gallery::warmUp(DeskInstrument &desk)
+{
+    const auto table = [](const QImage &screen) { return screen.copy(0, 110, 640, 320); };
+    if (!desk.press({ QStringLiteral("Enter") }))
+        return false;
+    const QImage empty = desk.screen();
+    if (desk.waitForScreen([&](const QImage &now) { return table(now) != table(empty); }, 60000).isNull())
+        return false;
+    QThread::msleep(ulong(m_options.warmUpMs));
+    return desk.press({ QStringLiteral("Menu") });
 }
 
 // From the menu to the page, through its pictures, and back to the menu.

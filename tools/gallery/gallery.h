@@ -15,6 +15,7 @@ struct GalleryOptions
     QVector<int> frequencies; // Hz: 50, 60, 400
     QStringList languages; // key words of LANG; EN is built in
     int settleMs = 1200; // before each picture: two refreshes of the display
+    int warmUpMs = 8000; // with live values before the first picture, so that trends have something to show
     bool sheet = false;
 };
 
@@ -31,6 +32,7 @@ public:
 
 private:
     bool runVariant(int wiring, int frequency, const QString &language, bool isFirst);
+    bool warmUp(DeskInstrument &desk);
     bool showPage(DeskInstrument &desk, const Page &page, const QString &variant, bool at400Hz, QString *item);
     bool take(DeskInstrument &desk, const Page &page, const QString &shot, const QString &variant);
 

@@ -77,6 +77,8 @@ int main(int argc, char **argv)
     const auto pages = option("pages", "Names with commas (default: all).", "list", "");
     const auto scenario = option("scenario", "Scenario file of the processor stand-in.", "file", "");
     const auto settle = option("settle", "Wait before each picture (default: 1200).", "ms", "1200");
+    const auto warmUp
+        = option("warm-up", "Live values before the first picture (default: 8000); 0: none.", "ms", "8000");
     const QCommandLineOption sheet(QStringLiteral("sheet"), QStringLiteral("Also write a contact sheet, sheet.png."));
     parser.addOption(sheet);
     parser.process(application);
@@ -106,8 +108,10 @@ int main(int argc, char **argv)
         return fail(2, QStringLiteral("a list holds numbers that do not exist (quvera-gallery --help)"));
     bool isNumber = false;
     options.settleMs = parser.value(settle).toInt(&isNumber);
-    if (!isNumber || options.settleMs < 0)
-        return fail(2, QStringLiteral("--settle takes ms"));
+    bool isWarmUp = false;
+    options.warmUpMs = parser.value(warmUp).toInt(&isWarmUp);
+    if (!isNumber || !isWarmUp || options.settleMs < 0 || options.warmUpMs < 0)
+        return fail(2, QStringLiteral("--settle and --warm-up take ms"));
     options.sheet = parser.isSet(sheet);
 
     Gallery gallery(options);

@@ -160,10 +160,10 @@ void TstShell::currentTileIsHighlighted()
     moveToTile("harmonics");
     const auto picture
         = [](const char *name) { return m_menupage->findChild<QLabel *>(name)->pixmap(Qt::ReturnByValue).toImage(); };
-    QCOMPARE(picture("harmonics"), QImage(":/harmonics_hl"));
+    QCOMPARE(picture("harmonics"), QPixmap(":/harmonics_hl").toImage());
     QTest::keyClick(m_menupage, kRight);
-    QCOMPARE(picture("harmonics"), QImage(":/harmonics"));
-    QCOMPARE(picture("unbalance"), QImage(":/unbalance_hl"));
+    QCOMPARE(picture("harmonics"), QPixmap(":/harmonics").toImage());
+    QCOMPARE(picture("unbalance"), QPixmap(":/unbalance_hl").toImage());
 }
 
 void TstShell::menuAt400HzHasNoFlicker()
@@ -470,8 +470,8 @@ void TstShell::titleBarShowsIconsAndText()
     m_basedialog->showSysIcon("battery_f", "USB");
     const auto picture
         = [](const char *name) { return m_basedialog->findChild<QLabel *>(name)->pixmap(Qt::ReturnByValue).toImage(); };
-    QCOMPARE(picture("sys_icon_1"), QImage(":/battery_f"));
-    QCOMPARE(picture("sys_icon_2"), QImage(":/USB"));
+    QCOMPARE(picture("sys_icon_1"), QPixmap(":/battery_f").toImage());
+    QCOMPARE(picture("sys_icon_2"), QPixmap(":/USB").toImage());
     m_basedialog->showSysIcon(QString(), "battery_1");
     QVERIFY(picture("sys_icon_1").isNull());
     m_basedialog->showSysInfo("230V;50Hz\\TARN-41A;TARN-41A\\3P WYE");

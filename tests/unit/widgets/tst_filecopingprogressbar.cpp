@@ -108,7 +108,7 @@ void TstFileCopingProgressBar::aMissingDiskIsAnError()
 
 void TstFileCopingProgressBar::cancelLeavesNothingBehind()
 {
-    write(kSource, content(40000000));
+    write(kSource, QByteArray(40000000, 'x'));
     FileCopingProgressBar bar(kSource, kTarget);
     bar.show();
     QTRY_VERIFY(bar.findChild<QProgressBar *>()->value() > 0);
