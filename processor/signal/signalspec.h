@@ -118,7 +118,7 @@ struct SignalSpec
     std::array<InputSpec, InputCount> inputs;
     std::vector<SignallingSpec> signalling;
     std::vector<SignalEvent> events;
-    /// The neutral clamp sees the sum of the three phase currents besides what the spec gives for IN.
+    /// The neutral clamp sees the sum of the three phase currents besides what the description gives for IN.
     bool neutralCarriesPhaseCurrents = true;
 
     /// A balanced three-phase supply: L1 at 0, L2 at -120, L3 at +120 degrees, `volts` between phase and neutral,

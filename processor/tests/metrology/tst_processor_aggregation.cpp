@@ -109,7 +109,7 @@ TEST(harmonicsToOrder100HaveTheirMagnitudesAndPhases)
                 for (int h = 1; h < 100; ++h) {
                     const SpectralEntry &row = p.spectrum[channel][std::size_t(h)];
                     CHECK_NEAR(row.magnitude, 0.01 * fundamental, LineTolerance);
-                    // Referred to L1 in the instrument's way, what is left is the spec's own phase, counted from the
+                    // Referred to L1 in the instrument's way, what is left is the given phase, counted from the
                     // zero crossing of the channel's fundamental, which lies at phaseDeg of L1.
                     const double expected = (double((h + 1) * 37 % 360) + (h + 1) * input.phaseDeg) * Pi / 180.0;
                     const double tolerance = channel < 4 ? 0.002 : 0.01; // currents are 6 times smaller

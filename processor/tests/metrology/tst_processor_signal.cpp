@@ -23,7 +23,7 @@ Rendered render(Synthesiser &synthesiser, int n, int step)
     return all;
 }
 
-// Everything that the spec can say, on one supply.
+// Everything that a description can say, on one supply.
 SignalSpec busySpec()
 {
     SignalSpec spec = SignalSpec::threePhase(230.0, 50.3, 16.0, 0.8);
