@@ -1,6 +1,7 @@
 #include "link/processorlink.h"
 
 #include "link/setupframe.h"
+#include "link/transientrecord.h"
 
 #include <algorithm>
 #include <cstring>
@@ -171,6 +172,11 @@ void ProcessorLink::rms(const processor::RmsPayload &payload, std::int64_t timeM
 void ProcessorLink::wave(const processor::WavePayload &payload, std::int64_t timeMs)
 {
     sendMeasurement(Kind::Wave, payload, timeMs);
+    if (payload.transient == 0 || !m_streaming)
+        return;
+    TransientPayload record;
+    cutTransient(payload, &record);
+    sendMeasurement(Kind::Transient, record, timeMs);
 }
 
 void ProcessorLink::flicker(const processor::FlickerPayload &payload, std::int64_t timeMs)

@@ -61,6 +61,8 @@ private slots:
     void firmwareTextWaitsForTheStream();
     void firmwareTextFillsItsDatagramWithZeros();
     void everyMeasurementBecomesItsKind();
+    void transientIsSentBehindItsWave_data();
+    void transientIsSentBehindItsWave();
     void measurementsKeepTheirTime();
     void payloadWordsStandWhereTheInstrumentReadsThem();
     void bdsShowsInHalfCycleDatagrams();
@@ -152,6 +154,49 @@ void TstProcessorLink::everyMeasurementBecomesItsKind()
     desk.link.flicker(*flicker, 0);
     QCOMPARE(desk.word(11, 16), 4u);
     QCOMPARE(desk.messages.size(), std::size_t(12));
+}
+
+void TstProcessorLink::transientIsSentBehindItsWave_data()
+{
+    QTest::addColumn<quint32>("sample");
+    QTest::addColumn<quint32>("first");
+    QTest::newRow("first sample of the wave") << 0u << 0u;
+    QTest::newRow("in the middle") << 1700u << 1200u;
+    QTest::newRow("last sample of the wave") << 4095u << 2096u;
+}
+
+void TstProcessorLink::transientIsSentBehindItsWave()
+{
+    QFETCH(quint32, sample);
+    QFETCH(quint32, first);
+    const auto wave = std::make_unique<processor::WavePayload>();
+    for (std::size_t k = 0; k < 4; ++k) {
+        for (std::size_t i = 0; i < 4096; ++i)
+            wave->pair[k].voltage[i] = qint16(i + 5000 * k);
+    }
+    wave->transient = (2u << 24) | sample;
+    Desk desk;
+    desk.link.wave(*wave, kNoon + 5);
+    QVERIFY(desk.messages.empty()); // the stream is off
+    desk.stream(true);
+    desk.link.wave(*wave, kNoon + 5);
+    QCOMPARE(desk.messages.size(), std::size_t(11)); // nine packages of the wave, two of the transient
+    QCOMPARE(desk.word(9, 16), 2u);
+    QCOMPARE(desk.word(9, 4), desk.word(0, 4) + 1);
+    QCOMPARE(desk.word(9, 32), quint32(kNoon / 1000));
+    QCOMPARE(desk.word(9, 40), (2u << 24) | sample);
+    QCOMPARE(desk.word(9, 44), first);
+    QCOMPARE(desk.word(9, 48), 0u);
+    const auto voltage = [&desk](int k, int i) { // 1000 words a voltage behind the three words of the head
+        const int payloadByte = 12 + 4000 * k + 2 * i;
+        const bool inFirst = payloadByte < 8152;
+        const char *bytes = desk.messages.at(inFirst ? 9 : 10).constData();
+        return int(qFromLittleEndian<qint16>(bytes + (inFirst ? 40 + payloadByte : 16 + payloadByte - 8152)));
+    };
+    for (int k = 0; k < 4; ++k) {
+        QCOMPARE(voltage(k, 0), int(first) + 5000 * k);
+        QCOMPARE(voltage(k, 1999), int(first) + 1999 + 5000 * k);
+    }
 }
 
 void TstProcessorLink::measurementsKeepTheirTime()
