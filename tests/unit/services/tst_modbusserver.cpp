@@ -206,6 +206,9 @@ void TstModbusServer::publishersAndReadersMeetUnharmed()
             own.registers->mb_set_bd_buffer(kScopeStart, kScopeRegisters, data.constData());
         }
     };
+    // The first read may come before the writers' first step.
+    const QVector<quint16> uniform(kScopeRegisters, 0);
+    own.registers->mb_mapping_setdata(100, 172, uniform.constData());
     std::thread one(publish, quint16(1));
     std::thread two(publish, quint16(7));
     bool whole = true;
