@@ -27,6 +27,11 @@
 // measurement processor on purpose), beside the toolkit alone: an empty widget, and as many plain pages and labels.
 // The bench starts itself as the instrument: bench_start --splash | --menu
 
+void usePictures() // the macro wants to stand outside a namespace
+{
+    Q_INIT_RESOURCE(skin);
+}
+
 namespace {
 
 constexpr int kRounds = 7;
@@ -61,6 +66,7 @@ public:
 
 int runInstrument(int argc, char **argv, bool toTheMenu)
 {
+    usePictures();
     QString error;
     if (!DeskRoot::prepare(&error)) {
         std::fprintf(stderr, "%s\n", qPrintable(error));
@@ -151,6 +157,7 @@ bool compare(const char *what, const std::vector<std::string> &figure, const std
 
 int main(int argc, char **argv)
 {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     const std::string mode = argc > 1 ? argv[1] : "";
     if (mode == "--splash" || mode == "--menu")
         return runInstrument(argc, argv, mode == "--menu");
