@@ -5,8 +5,11 @@
 #include "config/dipswellinfo.h"
 #include "config/harmdata.h"
 #include "config/inrushinfo.h"
+#include "config/monitorinfo.h"
+#include "config/waveinfo.h"
 #include "device/datatypes.h"
 #include "device/displayrecords.h"
+#include "device/trace.h"
 #include "platform/clock.h"
 #include "pqa2/flickerprocessor.h"
 #include "pqa2/powerevents.h"
@@ -15,6 +18,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <limits>
 
 namespace {
 
@@ -22,11 +26,21 @@ namespace {
 /// in which energy was measured: nothing is counted for it.
 constexpr qint64 kLongestGap = 60'000'000; // us
 
+/// As required: seconds of a monitor's run for each of its hours.
+constexpr qint64 kMonitorHour = 3601;
+
 template <typename T> std::unique_ptr<T> makeRecord()
 {
     auto record = std::unique_ptr<T>(new T);
     std::memset(static_cast<void *>(record.get()), 0, sizeof(T));
     return record;
+}
+
+/// Length of a monitor's run; -1, the longest, for hours that no run can have.
+int monitorSeconds(int hours)
+{
+    const qint64 seconds = kMonitorHour * hours;
+    return seconds > 0 && seconds <= std::numeric_limits<int>::max() ? int(seconds) : -1;
 }
 
 } // namespace
@@ -39,6 +53,7 @@ UniTask::UniTask(QObject *parent) : AbstractTask(parent)
     connect(m_events, &PowerEvents::eventListChanged, this, &UniTask::changeEventsList);
     connect(m_events, &PowerEvents::eventFinished, this, &UniTask::eventFinished);
     connect(m_events, &PowerEvents::eventFinishedWithRMS, this, &UniTask::eventFinishedWithRMS);
+    connect(m_events, &PowerEvents::changeEventsWave, this, &UniTask::changeEventsWave);
     connect(m_events, &PowerEvents::mbEventsChanged, this, &UniTask::eventTableChanged);
 
     m_aggregation = makeRecord<__datagram_aggregation>();
@@ -67,10 +82,30 @@ void UniTask::initUniFunction(AbstractTask::UniFunction function)
     m_channels = set ? set->taskPhases : 3;
     g_events_list.clear();
     m_function = function;
-    // The longest window for the logger too: it ends by the user's key. The set-up of the recording functions
-    // comes with their files.
-    if (function >= UniBasic && function <= UniPowerInverter)
+    // The set-up of the recording functions comes with their files.
+    switch (function) {
+    case UniWave:
+        setTaskLifeCycle(WaveInfo::m_begain_time, -1);
+        break;
+    case UniMonitor:
+        setTaskLifeCycle(MonitorInfo::m_begain_time, monitorSeconds(MonitorInfo::m_duration));
+        break;
+    case UniPowerInverter:
+        QV_TRACE("task/unitask") << "Uni_PowerInverter";
+        initPowerInverterData();
         setTaskLifeCycle(0, -1);
+        break;
+    case UniBasic:
+    case UniLogger: // it ends by the user's key
+        setTaskLifeCycle(0, -1);
+        break;
+    }
+}
+
+void UniTask::initPowerInverterData()
+{
+    // The page makes its record out of the live ones: the task has nothing to hold for it.
+    QV_TRACE("task/unitask") << "initPowerInverterData";
 }
 
 void UniTask::setFiles(Pqa2FF *common, Pqa2FF *monitor)

@@ -2,6 +2,7 @@
 
 #include "device/datagramrecords.h"
 #include "task/abstracttask.h"
+#include "task/eventwave.h"
 #include "task/rmsring.h"
 
 #include <QByteArray>
@@ -66,6 +67,8 @@ public slots:
     void changeEventsList(const QList<PQAEventItem> &events);
     void eventFinished(const PQAEventItem &event);
     void eventFinishedWithRMS(const PQAEventItem &event);
+    /// The waveform around \a time (ms since 1970) is wanted for the recorder.
+    void changeEventsWave(long long time);
 
 signals:
     void updateDisplay(void *);
@@ -88,6 +91,7 @@ private:
     void integrateEnergy();
     void feedDisplayRecords(float signedFrequency);
     void appendSecondTrends();
+    void initPowerInverterData();
     void copyScope();
     // unitask_events.cpp
     void pushHalfCycles();
@@ -96,6 +100,7 @@ private:
     void saveEvents(bool finished);
     // unitask_wave.cpp
     void captureTransient();
+    void fillEventWaves();
     static QByteArray transientBlock(const __trans_data &record);
 
     std::unique_ptr<__datagram_aggregation> m_aggregation;
@@ -107,6 +112,7 @@ private:
     Pqa2FF *m_commonFile = nullptr;
     Pqa2FF *m_monitorFile = nullptr;
 
+    QList<EventWave> m_eventWaves; // oldest first
     RmsRing m_rings[2 * kChannels]; // voltages, then currents
     int m_dipTrendLimit = 0; // values
     int m_inrushTrendLimit = 0; // values

@@ -10,7 +10,7 @@
 #include <cmath>
 #include <cstring>
 
-// The waveform stream: recording clock, transients and, once a second, the trends.
+// The waveform stream: recording clock, transients, waveforms of events and, once a second, the trends.
 
 void UniTask::datagramWave(const QByteArray &bytes)
 {
@@ -22,6 +22,7 @@ void UniTask::datagramWave(const QByteArray &bytes)
         return;
     appendSecondTrends();
     captureTransient();
+    fillEventWaves();
     emit waveTaken(m_wave.get());
 }
 
@@ -48,6 +49,29 @@ void UniTask::captureTransient()
     g_trans_events.append(record.release());
     emit hasTransEvents();
     emit transientTaken(g_trans_events.last());
+}
+
+void UniTask::changeEventsWave(long long time)
+{
+    m_eventWaves.append({ time, {} });
+}
+
+void UniTask::fillEventWaves()
+{
+    if (m_eventWaves.isEmpty())
+        return;
+    const auto datagram = std::make_shared<const __datagram_wave>(*m_wave);
+    const ChannelSet *wiring = m_settingConfig_g.channels();
+    const bool stored = wiring && m_function == UniBasic && isRecording() && m_commonFile && m_commonFile->isOpen();
+    QList<EventWave> waiting;
+    for (EventWave &wave : m_eventWaves) {
+        wave.samples.append(datagram);
+        if (wave.samples.size() < EventWaveCutter::kDatagrams)
+            waiting.append(wave);
+        else if (stored)
+            m_commonFile->addDataBlock(Pqa2EventWave, EventWaveCutter::block(wave, wiring->mask));
+    }
+    m_eventWaves = waiting;
 }
 
 QByteArray UniTask::transientBlock(const __trans_data &record)

@@ -1,3 +1,4 @@
+#include "task/eventwave.h"
 #include "task/rmsring.h"
 #include "task/transientcutter.h"
 #include "task/triggersearch.h"
@@ -5,6 +6,8 @@
 #include <QTest>
 
 #include <cmath>
+#include <cstring>
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -23,7 +26,13 @@ private slots:
     void triggerNeverLeavesTheWindow();
     void transientWindow_data();
     void transientWindow();
+    void transientAt100BeginsAtSample0AndAt4000At3495();
     void transientTimeIsThatOfTheFirstSample();
+    void eventWaveBegins810SamplesBeforeTheEvent_data();
+    void eventWaveBegins810SamplesBeforeTheEvent();
+    void eventWaveHoldsVoltageAndCurrentOfEachChannelInTurn();
+    void eventWaveSpansBothDatagrams();
+    void eventWaveOfOneDatagramIsEmpty();
 };
 
 void TstTaskParts::ringGivesValuesInTheirOrder()
@@ -150,6 +159,125 @@ void TstTaskParts::transientTimeIsThatOfTheFirstSample()
     auto record = std::make_unique<__trans_data>();
     TransientCutter::cut(*wave, *record);
     QCOMPARE(record->time, 1'700'000'000'100.0);
+}
+
+void TstTaskParts::transientAt100BeginsAtSample0AndAt4000At3495()
+{
+    const auto cutAt = [](quint32 position) {
+        auto wave = std::make_unique<__datagram_wave>();
+        for (int i = 0; i < kWaveSamples; ++i)
+            wave->voltage[0][i] = qint16(i);
+        wave->transient = 1u << 24 | position;
+        auto record = std::make_unique<__trans_data>();
+        TransientCutter::cut(*wave, *record);
+        return record;
+    };
+    QCOMPARE(cutAt(100)->samples[0][0], qint16(0));
+    QCOMPARE(cutAt(100)->position, 1u << 24 | 100u);
+    QCOMPARE(cutAt(4000)->samples[0][0], qint16(3495));
+    QCOMPARE(cutAt(4000)->position, 1u << 24 | 505u);
+}
+
+namespace {
+
+constexpr qint64 kFirst = 1'700'000'000'000; // ms: first sample of the first datagram
+
+/// Two datagrams in a row; sample i of channel c holds i + 100 c, the second goes on with 5000, currents are negative.
+EventWave eventWave(qint64 eventTime)
+{
+    EventWave wave { eventTime, {} };
+    for (int d = 0; d < 2; ++d) {
+        auto datagram = std::make_shared<__datagram_wave>();
+        datagram->time = kFirst + 200 * d;
+        for (int c = 0; c < kChannels; ++c) {
+            for (int i = 0; i < kWaveSamples; ++i) {
+                datagram->voltage[c][i] = qint16(5000 * d + i + 100 * c);
+                datagram->current[c][i] = qint16(-(5000 * d + i + 100 * c));
+            }
+        }
+        wave.samples.append(datagram);
+    }
+    return wave;
+}
+
+double timeOf(const QByteArray &block)
+{
+    double time = 0;
+    std::memcpy(&time, block.constData(), sizeof time);
+    return time;
+}
+
+/// Sample \a index of the \a series th series of 2048 behind the time.
+qint16 sampleOf(const QByteArray &block, int series, int index)
+{
+    qint16 value = 0;
+    std::memcpy(&value, block.constData() + 8 + 2 * (2048 * series + index), sizeof value);
+    return value;
+}
+
+} // namespace
+
+void TstTaskParts::eventWaveBegins810SamplesBeforeTheEvent_data()
+{
+    QTest::addColumn<qint64>("eventTime");
+    QTest::addColumn<int>("first"); // sample the window begins with
+    QTest::addColumn<double>("time");
+    QTest::newRow("at the first sample: nothing before it") << kFirst << 0 << double(kFirst);
+    QTest::newRow("39 ms: 798 samples, still the start") << kFirst + 39 << 0 << double(kFirst);
+    QTest::newRow("40 ms: 819.2 samples") << kFirst + 40 << 9 << double(kFirst) + 9 * 200.0 / 4096;
+    QTest::newRow("100 ms: 2048 samples") << kFirst + 100 << 1238 << double(kFirst) + 1238 * 200.0 / 4096;
+    QTest::newRow("before the datagram") << kFirst - 500 << 0 << double(kFirst);
+    QTest::newRow("340 ms: 6963.2 samples, behind the last start") << kFirst + 340 << 6144 << double(kFirst) + 300;
+    QTest::newRow("a day late") << kFirst + 86'400'000 << 6144 << double(kFirst) + 300;
+    QTest::newRow("latest time") << std::numeric_limits<qint64>::max() << 6144 << double(kFirst) + 300;
+    QTest::newRow("earliest time") << std::numeric_limits<qint64>::min() << 0 << double(kFirst);
+}
+
+void TstTaskParts::eventWaveBegins810SamplesBeforeTheEvent()
+{
+    QFETCH(qint64, eventTime);
+    QFETCH(int, first);
+    QFETCH(double, time);
+    const QByteArray block = EventWaveCutter::block(eventWave(eventTime), 0b0001);
+    QCOMPARE(block.size(), 8 + 2 * 4096);
+    QCOMPARE(timeOf(block), time);
+    QCOMPARE(int(sampleOf(block, 0, 0)), first < 4096 ? first : 5000 + first - 4096);
+    const int last = first + 2047;
+    QCOMPARE(int(sampleOf(block, 0, 2047)), last < 4096 ? last : 5000 + last - 4096);
+}
+
+void TstTaskParts::eventWaveHoldsVoltageAndCurrentOfEachChannelInTurn()
+{
+    const EventWave wave = eventWave(kFirst);
+    const QByteArray all = EventWaveCutter::block(wave, 0b1111);
+    QCOMPARE(all.size(), 8 + 8 * 4096);
+    for (int c = 0; c < 4; ++c) {
+        QCOMPARE(int(sampleOf(all, 2 * c, 1)), 1 + 100 * c);
+        QCOMPARE(int(sampleOf(all, 2 * c + 1, 1)), -(1 + 100 * c));
+    }
+    const QByteArray split = EventWaveCutter::block(wave, 0b1011); // L1, L2, N
+    QCOMPARE(split.size(), 8 + 6 * 4096);
+    QCOMPARE(int(sampleOf(split, 4, 1)), 301);
+    QCOMPARE(int(sampleOf(split, 5, 1)), -301);
+}
+
+void TstTaskParts::eventWaveSpansBothDatagrams()
+{
+    const QByteArray block = EventWaveCutter::block(eventWave(kFirst + 200), 0b0001); // 4096 - 810 = 3286
+    QCOMPARE(int(sampleOf(block, 0, 0)), 3286);
+    QCOMPARE(int(sampleOf(block, 0, 809)), 4095);
+    QCOMPARE(int(sampleOf(block, 0, 810)), 5000);
+    QCOMPARE(int(sampleOf(block, 0, 2047)), 5000 + 1237);
+    QCOMPARE(int(sampleOf(block, 1, 810)), -5000);
+}
+
+void TstTaskParts::eventWaveOfOneDatagramIsEmpty()
+{
+    EventWave wave = eventWave(kFirst);
+    wave.samples.removeLast();
+    QVERIFY(EventWaveCutter::block(wave, 0b1111).isEmpty());
+    wave.samples.clear();
+    QVERIFY(EventWaveCutter::block(wave, 0b1111).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TstTaskParts)

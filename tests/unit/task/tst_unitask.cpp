@@ -1,10 +1,13 @@
 #include "config/config_data.h"
+#include "config/monitorinfo.h"
+#include "config/waveinfo.h"
 #include "device/datagramtypes.h"
 #include "device/displayrecords.h"
 #include "platform/clock.h"
 #include "pqa2/pqa2ff.h"
 #include "task/unitask.h"
 
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -98,6 +101,10 @@ private slots:
 
     void isCalledPowerQuality();
     void startsInTenSecondsForTheLongestTime();
+    void waveAndMonitorStartAtTheirPlannedTime();
+    void monitorRunsASecondMoreForEachHour_data();
+    void monitorRunsASecondMoreForEachHour();
+    void loggerAndInverterRunLikeBasicMeasuring();
     void functionOutsideTheTableOnlyClearsTheEvents();
     void channelsFollowTheWiring_data();
     void channelsFollowTheWiring();
@@ -123,6 +130,9 @@ private slots:
     void shortPayloadsAreDropped();
     void wildValuesHurtNothing();
     void recordersStoreTransientAndEvents();
+    void recorderStoresTheWaveformOfAnEvent();
+    void transientOfCode3IsIgnoredInSplitPhase();
+    void inverterFunctionTellsTheDebugLog();
 
 private:
     void start()
@@ -173,6 +183,56 @@ void TstUniTask::startsInTenSecondsForTheLongestTime()
     QCOMPARE(m_task->startTime(), quint32(kNow / 1000 + 10));
     QCOMPARE(m_task->lifeCycle(), 86400000);
     QCOMPARE(m_task->getUniFunction(), AbstractTask::UniBasic);
+}
+
+void TstUniTask::waveAndMonitorStartAtTheirPlannedTime()
+{
+    const quint32 planned = quint32(kNow / 1000) + 3600;
+    WaveInfo::m_begain_time = planned;
+    m_task->initUniFunction(AbstractTask::UniWave);
+    QCOMPARE(m_task->startTime(), planned);
+    QCOMPARE(m_task->lifeCycle(), 86400000);
+    WaveInfo::m_begain_time = 0; // no time planned: ten seconds from now
+    m_task->initUniFunction(AbstractTask::UniWave);
+    QCOMPARE(m_task->startTime(), quint32(kNow / 1000 + 10));
+    MonitorInfo::m_begain_time = planned + 60;
+    m_task->initUniFunction(AbstractTask::UniMonitor);
+    QCOMPARE(m_task->startTime(), planned + 60);
+    QCOMPARE(m_task->endTime(), planned + 60 + 2 * 3601);
+    MonitorInfo::m_begain_time = 0;
+}
+
+void TstUniTask::monitorRunsASecondMoreForEachHour_data()
+{
+    QTest::addColumn<int>("hours");
+    QTest::addColumn<int>("seconds");
+    QTest::newRow("2 h") << 2 << 7202;
+    QTest::newRow("a week") << 168 << 604968;
+    QTest::newRow("none: the longest") << 0 << 86400000;
+    QTest::newRow("less than none") << -5 << 86400000;
+    QTest::newRow("beyond the longest") << 23994 << 86400000; // 86402394 s
+    QTest::newRow("beyond 32 bits") << 1193047 << 86400000; // 4296162247 s: cut to 32 bits it were 1194951
+    QTest::newRow("the largest number") << std::numeric_limits<int>::max() << 86400000;
+}
+
+void TstUniTask::monitorRunsASecondMoreForEachHour()
+{
+    QFETCH(int, hours);
+    QFETCH(int, seconds);
+    MonitorInfo::m_duration = hours;
+    m_task->initUniFunction(AbstractTask::UniMonitor);
+    MonitorInfo::m_duration = 2;
+    QCOMPARE(m_task->lifeCycle(), seconds);
+}
+
+void TstUniTask::loggerAndInverterRunLikeBasicMeasuring()
+{
+    for (auto function : { AbstractTask::UniLogger, AbstractTask::UniPowerInverter }) {
+        m_task->initUniFunction(function);
+        QCOMPARE(m_task->getUniFunction(), function);
+        QCOMPARE(m_task->startTime(), quint32(kNow / 1000 + 10));
+        QCOMPARE(m_task->lifeCycle(), 86400000);
+    }
 }
 
 void TstUniTask::functionOutsideTheTableOnlyClearsTheEvents()
@@ -565,6 +625,56 @@ void TstUniTask::recordersStoreTransientAndEvents()
     // Block head, then time, frequency, position and 600 samples of the channel.
     QCOMPARE(common.size() - before, 12 + (12 + 16 + 1200));
     m_task->setFiles(nullptr, nullptr);
+}
+
+void TstUniTask::recorderStoresTheWaveformOfAnEvent()
+{
+    Pqa2FF common("/tmp/common.pqa2");
+    if (!common.open())
+        QFAIL("no room for the file");
+    start();
+    m_task->setFiles(&common, nullptr);
+    m_task->startRecordTask();
+    const qint64 before = common.size();
+    m_task->datagramRMS_1_2(halfCycles(10, 1.5f, 0.001f).bytes()); // a dip
+    m_task->datagramWave(wave(0, kNow - 100).bytes());
+    QCOMPARE(common.size(), before);
+    m_task->datagramWave(wave(0, kNow + 100).bytes());
+    // Block head, time, eight channels of 2048 samples.
+    QCOMPARE(common.size() - before, 12 + 8 + 8 * 4096);
+    m_task->datagramWave(wave(0, kNow + 300).bytes()); // stored once
+    QCOMPARE(common.size() - before, 12 + 8 + 8 * 4096);
+
+    m_task->stopRecordTask(); // without a recording the queue empties all the same
+    m_task->changeEventsWave(kNow + 400);
+    m_task->datagramWave(wave(0, kNow + 300).bytes());
+    m_task->datagramWave(wave(0, kNow + 500).bytes());
+    m_task->startRecordTask();
+    m_task->datagramWave(wave(0, kNow + 700).bytes());
+    QCOMPARE(common.size() - before, 12 + 8 + 8 * 4096);
+    m_task->setFiles(nullptr, nullptr);
+}
+
+void TstUniTask::transientOfCode3IsIgnoredInSplitPhase()
+{
+    m_settingConfig_g.setJoinMode(5);
+    m_task = std::make_unique<UniTask>();
+    start();
+    QSignalSpy told(m_task.get(), &UniTask::hasTransEvents);
+    m_task->datagramWave(wave((3u << 24) | 2000).bytes());
+    QCOMPARE(told.count(), 0);
+    QVERIFY(g_trans_events.isEmpty());
+    m_task->datagramWave(wave((2u << 24) | 2000).bytes());
+    QCOMPARE(told.count(), 1);
+    QCOMPARE(g_trans_events.last()->number, 1); // what is ignored is not counted
+}
+
+void TstUniTask::inverterFunctionTellsTheDebugLog()
+{
+    QTest::ignoreMessage(QtDebugMsg, QRegularExpression("^F: task/unitask L: \\d+ > Uni_PowerInverter$"));
+    QTest::ignoreMessage(QtDebugMsg, QRegularExpression("^F: task/unitask L: \\d+ > initPowerInverterData$"));
+    m_task->initUniFunction(AbstractTask::UniPowerInverter);
+    QCOMPARE(m_task->getUniFunction(), AbstractTask::UniPowerInverter);
 }
 
 QTEST_GUILESS_MAIN(TstUniTask)
