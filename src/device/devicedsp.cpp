@@ -9,11 +9,13 @@
 #include <QSocketNotifier>
 #include <QTimer>
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
 #include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <limits>
+#include <poll.h>
 #include <pthread.h>
 #include <unistd.h>
 
@@ -29,7 +31,7 @@ constexpr double kClockTolerance = 2000.0; // ms
 constexpr qint32 kClockReload = 86400; // r.m.s. datagrams
 constexpr int kSetupRepeats = 3;
 constexpr int kSetupInterval = 1000; // ms
-constexpr int kReopenInterval = 1000; // ms
+constexpr int kReadPause = 1000; // ms between looks at a node that cannot be read
 constexpr useconds_t kStopPause = 500000; // microseconds that the processor gets to fall silent
 
 #pragma pack(push, 1)
@@ -169,25 +171,41 @@ void DeviceDSP::resetDSP()
     writeNode(frame, sizeof(frame));
 }
 
-void DeviceDSP::farEndClosed()
+/// The node cannot be read: its notifier would fire for ever.
+void DeviceDSP::pauseReading(bool nodeIsGone)
 {
+    m_nodeGone = m_nodeGone || nodeIsGone;
     if (m_notifier)
-        m_notifier->setEnabled(false); // it would fire for ever
-    if (!m_reopenTimer) {
-        m_reopenTimer = new QTimer(this);
-        m_reopenTimer->setInterval(kReopenInterval);
-        connect(m_reopenTimer, &QTimer::timeout, this, &DeviceDSP::tryReopen);
+        m_notifier->setEnabled(false);
+    if (!m_pauseTimer) {
+        m_pauseTimer = new QTimer(this);
+        m_pauseTimer->setInterval(kReadPause);
+        connect(m_pauseTimer, &QTimer::timeout, this, &DeviceDSP::resumeReading);
     }
-    if (!m_reopenTimer->isActive())
-        m_reopenTimer->start();
+    if (!m_pauseTimer->isActive())
+        m_pauseTimer->start();
 }
 
-void DeviceDSP::tryReopen()
+bool DeviceDSP::isNodeHungUp() const
 {
+    pollfd node { m_fd, POLLIN, 0 };
+    return ::poll(&node, 1, 0) == 1 && (node.revents & (POLLERR | POLLHUP | POLLNVAL)) != 0;
+}
+
+void DeviceDSP::resumeReading()
+{
+    // A failed read alone is no reason to disturb the processor: all state survives it.
+    if (!m_nodeGone && !isNodeHungUp()) {
+        m_pauseTimer->stop();
+        m_notifier->setEnabled(true);
+        return;
+    }
+    m_nodeGone = true;
     closeDSPDev();
     if (!openDSPDev())
         return;
-    m_reopenTimer->stop();
+    m_nodeGone = false;
+    m_pauseTimer->stop();
     m_waitFirst = 1;
     g_store.id = 0; // the far end counts anew, which is no loss
     emit reopened();
@@ -220,7 +238,9 @@ int DeviceDSP::handleDatagram()
 {
     const int length = DSPRead(g_datagram, sizeof(g_datagram));
     if (length == 0)
-        farEndClosed();
+        pauseReading(true);
+    else if (length < 0 && m_fd >= 0 && errno != EAGAIN && errno != EINTR)
+        pauseReading(false);
     if (length <= 0)
         return -1;
     memcpy(&g_head, g_datagram, sizeof(g_head));

@@ -33,7 +33,7 @@ signals:
     /// The processor's time comes from its BDS receiver; the value is its word of the head, never 0.
     void usingBDS(quint32 word);
     void dspUpdateStatus(int status, quint32 value); // As required: declared and relayed, never emitted
-    /// The node had gone and is open again: the processor must be set up anew. Never on a device file.
+    /// The node had gone and is open again: the processor must be set up anew.
     void reopened();
 
 public slots:
@@ -72,8 +72,9 @@ private:
     void emitDatagram();
     void checkClock();
     void writeNode(const void *data, int len);
-    void farEndClosed();
-    void tryReopen();
+    void pauseReading(bool nodeIsGone);
+    bool isNodeHungUp() const;
+    void resumeReading();
 
     QTimer *m_recvTimer = nullptr;
     qint32 m_clockCountDown = 30; // r.m.s. datagrams until the clocks are compared, which is at 1; may run negative
@@ -87,5 +88,6 @@ private:
     quint8 m_setupPending = 0;
     qint32 m_setupRetries = 0;
     char m_setupFrame[104] = {};
-    QTimer *m_reopenTimer = nullptr; // runs while the far end is gone
+    QTimer *m_pauseTimer = nullptr; // runs while reading is paused
+    bool m_nodeGone = false; // to be opened anew when the pause ends
 };

@@ -77,17 +77,6 @@ quint32 configurationWord()
         | (clamp && clamp->flexible() ? quint32(1) << 15 : 0) | code;
 }
 
-int selectorOfCurrent(int index)
-{
-    constexpr int kSelectors[] = { 0, 2, 1, 3 };
-    return index >= 0 && index < 4 ? kSelectors[index] : 1;
-}
-
-int selectorOfVolt(int index)
-{
-    return index >= 0 && index < 4 ? index : 1;
-}
-
 } // namespace
 
 quint32 DeviceInit::nominalFrequencyWord(double hertz)
@@ -95,6 +84,17 @@ quint32 DeviceInit::nominalFrequencyWord(double hertz)
     if (std::fabs(hertz - 50.0) <= 1.0)
         return 50;
     return std::fabs(hertz - 60.0) <= 1.0 ? 60 : 400;
+}
+
+int DeviceInit::selectorOfCurrent(int index)
+{
+    constexpr int kSelectors[] = { 0, 2, 1, 3 };
+    return index >= 0 && index < 4 ? kSelectors[index] : 1;
+}
+
+int DeviceInit::selectorOfVolt(int index)
+{
+    return index >= 0 && index < 4 ? index : 1;
 }
 
 void DeviceInit::initAnalogDevice2()

@@ -28,4 +28,8 @@ public:
 
     /// Hertz that the set-up frame carries: 50 or 60 when `hertz` lies within 1 of it, else 400.
     static quint32 nominalFrequencyWord(double hertz);
+    /// Selector value of a current channel for a range index 0 to 3; 1 for any other.
+    static int selectorOfCurrent(int index);
+    /// The same of a voltage channel.
+    static int selectorOfVolt(int index);
 };

@@ -26,6 +26,12 @@ private slots:
     void gapInTheIdsIsReportedAndTheDatagramUsed();
     void newFirstPackageDropsThePartialDatagramSilently();
     void wrongNumberLosesTheDatagramAndTheRestIsRefused();
+    void repeatedPackageLosesTheDatagramInProgress();
+    void repeatedDatagramIsEmittedAgainAndReported();
+    void swappedPackagesLoseTheDatagramAndTheNextIsWhole();
+    void swappedDatagramsAreEmittedInTheirNewOrder();
+    void tornPackageOfZeroesIsUnknownAndTheDatagramGoesOn();
+    void garbageYieldsNoDatagram();
     void emptyNodeAndRefusedPackagesEndABurstAfterFive();
     void numberZeroWithoutFirstBitBeginsADatagramWhenWaiting();
     void earlyLastPackageEmitsTheOldContentsBehind();
@@ -239,6 +245,88 @@ void TstDeviceDsp::wrongNumberLosesTheDatagramAndTheRestIsRefused()
         expected << QStringLiteral("L: 0 > Wrong first package No. %1!").arg(number);
     QCOMPARE(m_out->linesWithoutNumbers(), expected);
     m_link->takeRms(6, 0);
+    QCOMPARE(m_link->datagrams.size(), 1);
+}
+
+void TstDeviceDsp::repeatedPackageLosesTheDatagramInProgress()
+{
+    QVector<QByteArray> wire = makeDatagram(head(kSingle, 5, DatagramWave), countingPayload(16385, 1));
+    wire.insert(3, wire[2]);
+    m_link->take(wire.mid(0, 4));
+    QVERIFY(m_link->datagrams.isEmpty());
+    QCOMPARE(
+        m_out->linesWithoutNumbers(),
+        QStringList { QStringLiteral("L: 0 > Wrong package number! id = 5; flag = 00A5FF02; msec = 0; wanted = 3") });
+    m_link->takeRms(6, 0);
+    QCOMPARE(m_link->datagrams.size(), 1);
+    // A first package that comes twice only begins the datagram again.
+    wire = makeDatagram(head(kSingle, 7, DatagramAggregation), countingPayload(3248, 9));
+    wire.prepend(wire[0]);
+    m_link->take(wire);
+    QCOMPARE(m_link->datagrams.size(), 2);
+    QCOMPARE(m_link->datagrams[1].bytes, timeBytes(0) + countingPayload(3248, 9));
+}
+
+void TstDeviceDsp::repeatedDatagramIsEmittedAgainAndReported()
+{
+    m_link->takeRms(5, 0);
+    m_link->takeRms(5, 0);
+    QCOMPARE(m_link->datagrams.size(), 2);
+    const QStringList lines = m_out->linesWithoutNumbers();
+    QCOMPARE(lines.size(), 3);
+    QCOMPARE(lines[1], QStringLiteral("L: 0 > last_id = 5; curr_id = 5"));
+}
+
+void TstDeviceDsp::swappedPackagesLoseTheDatagramAndTheNextIsWhole()
+{
+    QVector<QByteArray> wire = makeDatagram(head(kSingle, 5, DatagramWave), countingPayload(16385, 1));
+    std::swap(wire[4], wire[5]);
+    m_link->take(wire.mid(0, 6));
+    QVERIFY(m_link->datagrams.isEmpty());
+    QCOMPARE(
+        m_out->linesWithoutNumbers(),
+        (QStringList { QStringLiteral("L: 0 > Wrong package number! id = 5; flag = 00A5FF05; msec = 0; wanted = 4"),
+                       QStringLiteral("L: 0 > Wrong first package No. 4!") }));
+    m_link->take(makeDatagram(head(kSingle, 6, DatagramWave), countingPayload(16385, 2)));
+    QCOMPARE(m_link->datagrams.size(), 1);
+    QCOMPARE(m_link->datagrams[0].bytes, timeBytes(0) + countingPayload(16385, 2));
+    QVERIFY(m_out->lines().isEmpty());
+}
+
+void TstDeviceDsp::swappedDatagramsAreEmittedInTheirNewOrder()
+{
+    m_link->take(makePackage(head(kSingle, 6, DatagramUpdate), countingPayload(4, 60)));
+    m_link->take(makePackage(head(kSingle, 5, DatagramUpdate), countingPayload(4, 50)));
+    QCOMPARE(m_link->datagrams.size(), 2);
+    QCOMPARE(m_link->datagrams[0].bytes, timeBytes(0) + countingPayload(4, 60));
+    QCOMPARE(m_link->datagrams[1].bytes, timeBytes(0) + countingPayload(4, 50));
+    QCOMPARE(m_out->linesWithoutNumbers().value(1), QStringLiteral("L: 0 > last_id = 6; curr_id = 5"));
+}
+
+void TstDeviceDsp::tornPackageOfZeroesIsUnknownAndTheDatagramGoesOn()
+{
+    const QVector<QByteArray> wire = makeDatagram(head(kSingle, 1, DatagramAggregation), countingPayload(3248, 4));
+    m_link->take(wire[0]);
+    m_link->take(QByteArray(1000, '\0') + wire[1].mid(1000));
+    QCOMPARE(m_out->linesWithoutNumbers(), QStringList { QStringLiteral("L: 0 > Unkown package!") });
+    m_link->take(wire[1]);
+    QCOMPARE(m_link->datagrams.size(), 1);
+    QCOMPARE(m_link->datagrams[0].bytes, timeBytes(0) + countingPayload(3248, 4));
+}
+
+void TstDeviceDsp::garbageYieldsNoDatagram()
+{
+    QByteArray noise(Link::kPackageBytes, Qt::Uninitialized);
+    quint32 state = 12345;
+    for (int i = 0; i < 256; ++i) {
+        for (char &byte : noise)
+            byte = static_cast<char>((state = state * 1664525u + 1013904223u) >> 24);
+        noise[1] = static_cast<char>(i == 255 ? 0 : i); // bits 15 to 8 of the flag: never all set
+        m_link->take(noise);
+    }
+    QVERIFY(m_link->datagrams.isEmpty());
+    QCOMPARE(m_out->linesWithoutNumbers().count(QStringLiteral("L: 0 > Unkown package!")), 256);
+    m_link->takeRms(1, 0);
     QCOMPARE(m_link->datagrams.size(), 1);
 }
 

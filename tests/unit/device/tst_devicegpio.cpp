@@ -30,6 +30,8 @@ private slots:
     void onlyTwoBitsOfAValueCount();
     void rangesFollowTheIndices_data();
     void rangesFollowTheIndices();
+    void currentIndexOf0SelectsTheValue0();
+    void indexOutsideTheTableSelectsTheValue1();
     void analogSwitchesSetPhaseThenNeutral();
     void openingALine();
     void powerOffLatchesTheSupply();
@@ -202,6 +204,24 @@ void TstDeviceGpio::rangesFollowTheIndices()
     DeviceInit::set_analog_channel();
     QCOMPARE(this->written(), written);
     delete m_idevice;
+}
+
+void TstDeviceGpio::currentIndexOf0SelectsTheValue0()
+{
+    // No clamp leads to index 0; the table has the row all the same.
+    const int current[] = { 0, 2, 1, 3 };
+    for (int index = 0; index < 4; ++index) {
+        QCOMPARE(DeviceInit::selectorOfCurrent(index), current[index]);
+        QCOMPARE(DeviceInit::selectorOfVolt(index), index);
+    }
+}
+
+void TstDeviceGpio::indexOutsideTheTableSelectsTheValue1()
+{
+    for (int index : { 4, 5, 1000000, -1 }) {
+        QCOMPARE(DeviceInit::selectorOfCurrent(index), 1);
+        QCOMPARE(DeviceInit::selectorOfVolt(index), 1);
+    }
 }
 
 void TstDeviceGpio::analogSwitchesSetPhaseThenNeutral()

@@ -5,7 +5,9 @@
 #include <QSignalSpy>
 #include <QSocketNotifier>
 #include <QTest>
+#include <fcntl.h>
 #include <memory>
+#include <unistd.h>
 
 /// The node: start-up on the wire, writes with their repeats, a node that is missing, goes and comes back.
 class TstLinkNode : public QObject
@@ -24,6 +26,8 @@ private slots:
     void updateFramesPassWhole();
     void farEndThatClosesIsTriedAgainQuietly();
     void nodeThatDisappearsAndComesBackIsReopened();
+    void readErrorThatPassesLeavesAllStateAndSpinsNothing();
+    void nodeThatIsLostForGoodIsOpenedAnew();
     void writesToAClosedFarEndFailUnnoticed();
     void readAnswersWhatTheNodeAnswers();
 };
@@ -209,6 +213,52 @@ void TstLinkNode::nodeThatDisappearsAndComesBackIsReopened()
         link.peer.send(makePackage({ 0xC0A5FF00, 1, DatagramUpdate, 0, 0, 0 }));
         QTRY_COMPARE(link.datagrams.size(), round);
     }
+    QVERIFY(out.lines().isEmpty());
+}
+
+void TstLinkNode::readErrorThatPassesLeavesAllStateAndSpinsNothing()
+{
+    OpenLink link;
+    QVERIFY(link.open());
+    StdoutCapture out;
+    QSignalSpy reopened(&link.dsp, &DeviceDSP::reopened);
+    QSocketNotifier *notifier = link.dsp.findChild<QSocketNotifier *>();
+    QVERIFY(notifier);
+    const QVector<QByteArray> wire = makeDatagram({ 0, 1, DatagramWave, 0, 0, 0 }, countingPayload(16385, 1));
+    link.take(wire.mid(0, 4));
+    const int node = static_cast<int>(notifier->socket());
+    const int kept = ::dup(node), folder = ::open("/", O_RDONLY | O_DIRECTORY);
+    QVERIFY(kept >= 0 && folder >= 0);
+    ::dup2(folder, node); // always ready, and every read of it fails
+    QTRY_VERIFY(!notifier->isEnabled());
+    ::dup2(kept, node);
+    ::close(kept);
+    ::close(folder);
+    QTRY_VERIFY(notifier->isEnabled());
+    link.peer.send(wire.mid(4));
+    QTRY_COMPARE(link.datagrams.size(), 1);
+    QCOMPARE(link.datagrams[0].bytes, timeBytes(0) + countingPayload(16385, 1));
+    QVERIFY(reopened.isEmpty());
+    QVERIFY(out.lines().isEmpty());
+}
+
+void TstLinkNode::nodeThatIsLostForGoodIsOpenedAnew()
+{
+    OpenLink link;
+    QVERIFY(link.open());
+    StdoutCapture out;
+    QSignalSpy reopened(&link.dsp, &DeviceDSP::reopened);
+    const int node = static_cast<int>(link.dsp.findChild<QSocketNotifier *>()->socket());
+    int ends[2];
+    QCOMPARE(::pipe(ends), 0);
+    ::close(ends[0]);
+    ::dup2(ends[1], node); // like a driver that went: reads fail, poll() tells an error
+    ::close(ends[1]);
+    link.pump();
+    QTRY_COMPARE(reopened.size(), 1);
+    QVERIFY(link.peer.accept());
+    link.peer.send(makePackage({ 0xC0A5FF00, 1, DatagramUpdate, 0, 0, 0 }));
+    QTRY_COMPARE(link.datagrams.size(), 1);
     QVERIFY(out.lines().isEmpty());
 }
 
