@@ -5,6 +5,7 @@
 #include "config/config.h"
 #include "config/safefile.h"
 #include "filelimit.h"
+#include "ordinaryuser.h"
 #include "rootfiles.h"
 
 #include <csignal>
@@ -160,6 +161,43 @@ private slots:
     {
         Config::writeConfigFile(kPath, "USER_NAME", "a\nJOINMODE=9\r" + QString(QChar(0)) + "b");
         QCOMPARE(RootFiles::read(kPath), QByteArray("\nUSER_NAME=a JOINMODE=9  b"));
+    }
+
+    void writingToADamagedFileBeyondAllSizesStartsItAnew()
+    {
+        // Its values count as missing when read, so none of them is kept.
+        RootFiles::write(kPath, "LANG=ZH\n" + QByteArray(3 * 1024 * 1024, '\n'));
+        Config::writeConfigFile(kPath, "SLEEP", "5");
+        QCOMPARE(RootFiles::read(kPath), QByteArray("\nSLEEP=5"));
+    }
+
+    void anUnreadableFileCountsAsMissingAndKeepsWhatItHolds()
+    {
+        RootFiles::write(kPath, "LANG=ZH\n");
+        const QByteArray path = QFile::encodeName(Target::path(kPath));
+        QVERIFY(::chmod(path.constData(), 0) == 0);
+        {
+            OrdinaryUser user;
+            QCOMPARE(Config::readConfigFile(kPath, "LANG"), QString());
+            Config::writeConfigFile(kPath, "LANG", "RU");
+        }
+        QVERIFY(::chmod(path.constData(), 0644) == 0);
+        QCOMPARE(RootFiles::read(kPath), QByteArray("LANG=ZH\n"));
+        QCOMPARE(RootFiles::read(kStaging), QByteArray("\nLANG=RU")); // waits for someone who may
+    }
+
+    void aReadOnlyFolderLosesTheWriteAndNothingElse()
+    {
+        RootFiles::write(kPath, "LANG=ZH\n");
+        {
+            OrdinaryUser user;
+            const QByteArray folder = QFile::encodeName(Target::path("/mnt/userfs/config"));
+            user.setFolderMode(folder, 0555);
+            Config::writeConfigFile(kPath, "LANG", "RU");
+            QCOMPARE(Config::readConfigFile(kPath, "LANG"), QString("ZH"));
+        }
+        QCOMPARE(RootFiles::read(kPath), QByteArray("LANG=ZH\n"));
+        QVERIFY(!RootFiles::exists(kStaging));
     }
 
     // Crashes and full disks

@@ -2,6 +2,7 @@
 
 #include "config/config.h"
 #include "config/netconfig.h"
+#include "filelimit.h"
 #include "rootfiles.h"
 
 /// The wired network's settings.
@@ -21,6 +22,39 @@ private slots:
         QCOMPARE(config.getGateWay(), QString("192.168.2.1"));
         QCOMPARE(config.getNetWork(), QString("192.168.2.0"));
         QCOMPARE(config.getMAC(), QString("6E:69:75:53:01:0A"));
+    }
+
+    void filesThatAreNoneOfOursGiveTheDefaults_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        const QByteArray keys = "USE_DHCP=0\nIPADDR=10.0.0.1\nMAC=x\n";
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("empty values") << QByteArray("USE_DHCP=\nIPADDR=\nMAC=\n");
+        QTest::newRow("binary") << QByteArray::fromHex("ff00fe0180c0dead3d0a0a3d3d3d").repeated(1000);
+        QTest::newRow("a zero byte in front") << '\0' + keys;
+        QTest::newRow("huge") << keys.repeated(100000);
+    }
+    void filesThatAreNoneOfOursGiveTheDefaults()
+    {
+        QFETCH(QByteArray, file);
+        RootFiles::write(NetConfig::filePath(), file);
+        const NetConfig config;
+        QVERIFY(config.getIsDHCP());
+        QCOMPARE(config.getIPAddr(), QString("192.168.2.100"));
+        QCOMPARE(config.getMAC(), QString("6E:69:75:53:01:0A"));
+    }
+
+    void aFullDiskKeepsTheOldAddress()
+    {
+        const QByteArray old = "IPADDR=10.0.0.1\n";
+        RootFiles::write(NetConfig::filePath(), old);
+        {
+            FileLimit full(3);
+            NetConfig config;
+            config.setIPAddr("10.0.0.2");
+            QCOMPARE(config.getIPAddr(), QString("10.0.0.2")); // until the next start
+        }
+        QCOMPARE(RootFiles::read(NetConfig::filePath()), old);
     }
 
     void onlyZeroTurnsDhcpOff_data()

@@ -183,6 +183,13 @@ private slots:
         }
     }
 
+    void wiringsAndFrequenciesOutsideTheirBoundsReadAsTheNearest()
+    {
+        QCOMPARE(started("JOINMODE", "JOINMODE=0\n"), 1.0);
+        QCOMPARE(started("JOINMODE", "JOINMODE=11\n"), 10.0);
+        QCOMPARE(started("NOM_FREQ", "NOM_FREQ=7\n"), 3.0);
+    }
+
     void everyKeyIsStoredAtOnceAndReadBackAtTheNextStart_data() { everyKey_data(); }
     void everyKeyIsStoredAtOnceAndReadBackAtTheNextStart()
     {

@@ -47,6 +47,34 @@ private slots:
         QCOMPARE(config.getInstrumentSN(), QString("1AA000000"));
     }
 
+    void filesThatAreNoneOfOursGiveTheDefaults_data()
+    {
+        QTest::addColumn<QByteArray>("file");
+        const QByteArray keys = "USER_NAME=a\nLANG=ZH\nSLEEP=5\nPHASECOLOR=55555\nTZ=Asia/Tokyo\nTYPE=QUVERAE\nSN=1\n";
+        QTest::newRow("binary") << QByteArray::fromHex("ff00fe0180c0dead3d0a0a3d3d3d").repeated(1000);
+        QTest::newRow("a zero byte in front") << '\0' + keys;
+        QTest::newRow("huge") << keys.repeated(30000);
+        QTest::newRow("a folder") << QByteArray("folder");
+    }
+    void filesThatAreNoneOfOursGiveTheDefaults()
+    {
+        QFETCH(QByteArray, file);
+        for (const QString &path : { kUser, kType, kSerial }) {
+            if (file == "folder")
+                QVERIFY(QDir().mkpath(Target::path(path)));
+            else
+                RootFiles::write(path, file);
+        }
+        const UserConfig config;
+        QCOMPARE(config.getUserName(), QString("root"));
+        QCOMPARE(config.getLang(), int(UserConfig::EN));
+        QCOMPARE(config.sleepDelay(), 0);
+        QCOMPARE(config.getPhaseColors(), QString("01231"));
+        QCOMPARE(config.getTimeZone(), QString("UTC"));
+        QCOMPARE(config.getInstrumentModel(), 2);
+        QCOMPARE(config.getInstrumentSN(), QString("1AA000000"));
+    }
+
     void theFoldersOfTheInstrumentAreMade()
     {
         QDir(Target::path("/mnt/userfs")).removeRecursively();
