@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QVector>
 #include <QtGlobal>
 
 #pragma pack(push, 1)
@@ -43,10 +44,13 @@ struct __event_item
     qint32 duration = 0; // ms, low 32 bits; 0 until finished
 };
 
+/// R.m.s. curve of one input. Thousands of events keep theirs: a vector takes 12 bytes a sample, a list 40.
+using RmsCurve = QVector<_value_with_time>;
+
 /// One power-quality event with the r.m.s. curves around its start and its end.
 /// Lists by input: 0 to 3 the voltages L1, L2, L3, N; 4 to 7 the currents I1, I2, I3, IN.
 struct PQAEventItem : __event_item
 {
-    QList<_value_with_time> startRms[8];
-    QList<_value_with_time> endRms[8];
+    RmsCurve startRms[8];
+    RmsCurve endRms[8];
 };

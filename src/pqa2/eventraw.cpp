@@ -4,10 +4,8 @@
 
 namespace {
 
-using Curve = QList<_value_with_time>;
-
 /// Splits the curves of one input into the part for the first section and the part for the second.
-void mergeCurves(const Curve &start, const Curve &end, Curve *first, Curve *second)
+void mergeCurves(const RmsCurve &start, const RmsCurve &end, RmsCurve *first, RmsCurve *second)
 {
     if (start.isEmpty())
         return;
@@ -25,14 +23,13 @@ void mergeCurves(const Curve &start, const Curve &end, Curve *first, Curve *seco
     }
 }
 
-void appendCurve(QByteArray *out, const Curve &curve)
+void appendCurve(QByteArray *out, const RmsCurve &curve)
 {
-    for (const _value_with_time &sample : curve)
-        out->append(reinterpret_cast<const char *>(&sample), int(sizeof sample));
+    out->append(reinterpret_cast<const char *>(curve.constData()), curve.size() * int(sizeof(_value_with_time)));
 }
 
 /// One section: its byte count, then for each voltage with a curve this curve and that of the same current.
-void appendSection(QByteArray *out, const Curve *first, const Curve *curves)
+void appendSection(QByteArray *out, const RmsCurve *first, const RmsCurve *curves)
 {
     QByteArray samples;
     for (int i = 0; i < 4; ++i) {
@@ -56,8 +53,8 @@ QByteArray PowerEvents::rawHead(const __event_item &event)
 
 QByteArray PowerEvents::toRawData(const PQAEventItem &event)
 {
-    Curve first[8];
-    Curve second[8];
+    RmsCurve first[8];
+    RmsCurve second[8];
     for (int i = 0; i < 8; ++i)
         mergeCurves(event.startRms[i], event.endRms[i], &first[i], &second[i]);
     if (first[0].isEmpty() && first[1].isEmpty() && first[2].isEmpty() && first[3].isEmpty())

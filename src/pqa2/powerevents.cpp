@@ -115,14 +115,14 @@ bool PowerEvents::historyReaches(const PQAEventItem &event, qint64 time, quint64
     return !list.empty() && quint64(list.back().time) - quint64(time) > wait;
 }
 
-void PowerEvents::copyHistory(quint8 phases, QList<_value_with_time> *lists) const
+void PowerEvents::copyHistory(quint8 phases, RmsCurve *curves) const
 {
     for (int i = 0; i < kEventInputs; ++i) {
         if (!(phases & (1u << (i & 3))))
             continue;
-        lists[i].reserve(lists[i].size() + int(m_history[i].size()));
+        curves[i].reserve(curves[i].size() + int(m_history[i].size()));
         for (const _value_with_time &sample : m_history[i])
-            lists[i].append(sample);
+            curves[i].append(sample);
     }
 }
 

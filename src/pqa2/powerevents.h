@@ -106,7 +106,7 @@ private:
     // powerevents.cpp: history, list of events
     void appendHistory(const Samples &values);
     void walkPending(quint8 phases);
-    void copyHistory(quint8 phases, QList<_value_with_time> *lists) const;
+    void copyHistory(quint8 phases, RmsCurve *curves) const;
     bool historyReaches(const PQAEventItem &event, qint64 time, quint64 wait) const;
     int addEventItem(qint32 type, qint32 channel, int &counter, float value, qint64 time);
     void finishEvent(qint32 type, qint32 channel, float value, qint64 time);

@@ -16,6 +16,9 @@ private slots:
     void historyDropsOneSampleACallBeyondThreeSeconds();
     void historyMeasuresTheFirstInputAlone();
     void historyStaysBoundedWhenTimeStandsStill();
+    void historyGoesSampleBySampleAfterAStepOfTheClock_data();
+    void historyGoesSampleBySampleAfterAStepOfTheClock();
+    void clockSetBackTakesTheCurvesAtOnce();
     void startCurveIsTakenAfterMoreThan1500Ms();
     void interruptionWaits1800And1600Ms();
     void completeEventLeavesThePendingListOnce();
@@ -33,12 +36,10 @@ private slots:
 
 namespace {
 
-using Curve = QList<_value_with_time>;
-
 /// `count` samples from `time` on, 10 ms apart, values from `value` up.
-Curve curve(qint64 time, int count, float value)
+RmsCurve curve(qint64 time, int count, float value)
 {
-    Curve list;
+    RmsCurve list;
     for (int i = 0; i < count; ++i)
         list.append({ time + 10 * i, value + i });
     return list;
@@ -67,7 +68,7 @@ void TstEventCurves::historyDropsOneSampleACallBeyondThreeSeconds()
     in.feed(230, 200, 200); // swell at 1005000
     in.feed(200, 200);
     const PQAEventItem event = events.getAllEvents().at(0);
-    const Curve &start = event.startRms[0];
+    const RmsCurve &start = event.startRms[0];
     // Taken at the first sample more than 1500 ms later, 1006510. A sample goes when the span before the append is
     // beyond 3000 ms, so that 302 samples stay: 1003500 to 1006510.
     QCOMPARE(start.constLast().time, qint64(1'006'510));
@@ -104,6 +105,50 @@ void TstEventCurves::historyStaysBoundedWhenTimeStandsStill()
     const PQAEventItem event = events.getAllEvents().at(0);
     QVERIFY(event.startRms[0].size() > 0);
     QVERIFY(event.startRms[0].size() <= 8192);
+}
+
+void TstEventCurves::historyGoesSampleBySampleAfterAStepOfTheClock_data()
+{
+    QTest::addColumn<qint64>("step"); // ms
+    QTest::newRow("a day on") << qint64(86'400'000);
+    QTest::newRow("a day back") << qint64(-86'400'000);
+    QTest::newRow("a year back") << qint64(-365) * 86'400'000;
+}
+
+void TstEventCurves::historyGoesSampleBySampleAfterAStepOfTheClock()
+{
+    QFETCH(qint64, step);
+    PowerEvents events(exactSettings(), 1);
+    EventStream in(events);
+    in.feed(500, 200); // the history holds 302 samples
+    in.time += step;
+    const qint64 start = in.time;
+    in.feed(230, 200, 200);
+    in.feed(151, 200);
+    // Whatever the step, the span is more than three seconds, and one sample goes for each that comes: 152 new ones
+    // stand behind 150 old ones when the curve is taken, 1510 ms after the start.
+    const RmsCurve curve = events.getAllEvents().at(0).startRms[0];
+    QCOMPARE(curve.size(), 302);
+    QCOMPARE(curve.at(149).time, start - step - 10);
+    QCOMPARE(curve.at(150).time, start);
+    in.feed(600, 200);
+    QCOMPARE(events.getFullEvents().size(), 1);
+    QCOMPARE(events.getFullEvents().at(0).duration, 10);
+}
+
+void TstEventCurves::clockSetBackTakesTheCurvesAtOnce()
+{
+    PowerEvents events(exactSettings(), 1);
+    EventStream in(events);
+    in.feed(100, 200);
+    in.feed(2, 230); // from 1001000
+    in.time -= 86'400'000;
+    // As required: times are subtracted without a sign, and what lies in the future counts as long ago.
+    in.feed(1, 230);
+    QCOMPARE(events.getAllEvents().at(0).startRms[0].size(), 103);
+    in.feed(1, 200); // ends a day and 30 ms before it began
+    QCOMPARE(events.getAllEvents().at(0).finished, 1);
+    QCOMPARE(events.getAllEvents().at(0).duration, -86'400'000 + 30);
 }
 
 void TstEventCurves::startCurveIsTakenAfterMoreThan1500Ms()

@@ -30,6 +30,7 @@ private slots:
     void indicesBeyondTheTablesAreIgnored();
     void notNumbersEndNothingEarlyAndHangNothing();
     void aMillionEventsStopAtTheLimit();
+    void aMillionSwellsLeaveListsCurvesAndTableBounded();
 };
 
 using Check = void (*)(PowerEvents &, const _value_with_time &);
@@ -334,6 +335,52 @@ void TstEventList::aMillionEventsStopAtTheLimit()
     }
     QCOMPARE(events.eventCounter(), 10'000);
     QCOMPARE(events.getAllEvents().size(), 10'000);
+}
+
+void TstEventList::aMillionSwellsLeaveListsCurvesAndTableBounded()
+{
+    EventSettings settings = exactSettings();
+    settings.rvc = {}; // not what is looked at, and most of the work
+    PowerEvents events(settings, 1);
+    ModbusEventTable table;
+    connect(&events, &PowerEvents::mbEventsChanged, this,
+            [&](const QByteArray &bytes) { memcpy(&table, bytes.constData(), sizeof table); });
+    int complete = 0;
+    connect(&events, &PowerEvents::eventFinishedWithRMS, this, [&] { ++complete; });
+
+    // Two seconds between half cycles: the history spans three seconds with two samples, and three at most are copied.
+    qint64 time = 0;
+    QList<_value_with_time> values;
+    for (int input = 0; input < 8; ++input)
+        values.append({ 0, input < 4 ? 200.0f : 0.0f });
+    const auto feed = [&](float volts) {
+        for (_value_with_time &value : values)
+            value.time = time;
+        values[0].value = volts;
+        events.checkPowerEvents(values);
+        time += 2000;
+    };
+    for (int i = 0; i < 1'000'000; ++i) {
+        feed(230);
+        feed(200);
+    }
+    QCOMPARE(events.eventCounter(), 10'001);
+    const QList<PQAEventItem> full = events.getFullEvents();
+    QCOMPARE(events.getAllEvents().size(), 10'001);
+    QCOMPARE(full.size(), 10'001);
+    QCOMPARE(complete, 10'001);
+    for (const PQAEventItem &event : full) {
+        for (int input = 0; input < 8; ++input) {
+            QVERIFY(event.startRms[input].size() <= 3);
+            QVERIFY(event.endRms[input].size() <= 3);
+        }
+    }
+    // Swell n began at 4 n seconds; the last is number 10000.
+    for (int row = 0; row < 10; ++row) {
+        QCOMPARE(table.row[row].valid, quint16(1));
+        QCOMPARE(table.row[row].startSeconds, quint32(4 * (9'991 + row)));
+        QCOMPARE(table.row[row].duration, 2000);
+    }
 }
 
 QTEST_GUILESS_MAIN(TstEventList)

@@ -15,6 +15,7 @@ class TstRvcFifo : public QObject
 private slots:
     void ringHoldsFourWindows_data();
     void ringHoldsFourWindows();
+    void ringAt60HzAndOneSecondHolds480Samples();
     void steadyAfterOneWindow();
     void unsteadyWindowKeepsSeeking();
     void referenceFollowsTheWindow();
@@ -80,6 +81,13 @@ void TstRvcFifo::ringHoldsFourWindows()
     fifo.init_rvc_fifo(frequency, seconds, 0.2f, 0.2f, 5, 1);
     QCOMPARE(fifo.capacity(), samples);
     QCOMPARE(fifo.state(), RvcFifo::Seeking);
+}
+
+void TstRvcFifo::ringAt60HzAndOneSecondHolds480Samples()
+{
+    RvcFifo fifo;
+    fifo.init_rvc_fifo(60, 1, 0.2f, 0.2f, 5, 1);
+    QCOMPARE(fifo.capacity(), 480); // four windows of 60 x 1 x 2 half cycles
 }
 
 void TstRvcFifo::steadyAfterOneWindow()

@@ -363,6 +363,11 @@ void TstModbusBlocks::oddFloatsPassUnchanged()
     fillModbus(&power, *record);
     QVERIFY(std::isinf(power.energy[0][0]));
     QCOMPARE(power.energy[2][0], 0.0f);
+    record->frequency = std::numeric_limits<float>::denorm_min();
+    record->channel[0].voltage = -std::numeric_limits<float>::infinity(); // 0xFF800000
+    fillModbus(&vif, *record);
+    QCOMPARE(long32(registers(vif), 0), 1u);
+    QCOMPARE(long32(registers(vif), 2), 0xFF800000u);
 }
 
 namespace {

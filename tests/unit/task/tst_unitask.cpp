@@ -130,6 +130,8 @@ private slots:
     void shortPayloadsAreDropped();
     void wildValuesHurtNothing();
     void recordersStoreTransientAndEvents();
+    void countsOutOfRangeFeedAtMostThirtyHalfCycles_data();
+    void countsOutOfRangeFeedAtMostThirtyHalfCycles();
     void recorderStoresTheWaveformOfAnEvent();
     void transientOfCode3IsIgnoredInSplitPhase();
     void inverterFunctionTellsTheDebugLog();
@@ -625,6 +627,36 @@ void TstUniTask::recordersStoreTransientAndEvents()
     // Block head, then time, frequency, position and 600 samples of the channel.
     QCOMPARE(common.size() - before, 12 + (12 + 16 + 1200));
     m_task->setFiles(nullptr, nullptr);
+}
+
+void TstUniTask::countsOutOfRangeFeedAtMostThirtyHalfCycles_data()
+{
+    QTest::addColumn<quint32>("count");
+    QTest::addColumn<int>("entries");
+    QTest::newRow("0") << 0u << 0;
+    QTest::newRow("1: half an entry") << 1u << 0;
+    QTest::newRow("59") << 59u << 29;
+    QTest::newRow("60") << 60u << 30;
+    QTest::newRow("61") << 61u << 30;
+    QTest::newRow("not a number as a float") << 0x7FC00000u << 30;
+    QTest::newRow("negative as an integer") << 0x80000000u << 30;
+    QTest::newRow("all ones") << 0xFFFFFFFFu << 30;
+}
+
+void TstUniTask::countsOutOfRangeFeedAtMostThirtyHalfCycles()
+{
+    QFETCH(quint32, count);
+    QFETCH(int, entries);
+    start();
+    Payload payload = halfCycles(30, 2.9f, 0.001f);
+    for (int c = 0; c < 3; ++c)
+        payload.set(2 + 181 * c, count);
+    m_task->datagramRMS_1_2(payload.bytes());
+    for (int c = 0; c < 3; ++c) {
+        QCOMPARE(g_dipswell_trend->voltage[c].size(), entries);
+        QCOMPARE(g_dipswell_trend->current[c].size(), entries);
+    }
+    QVERIFY(std::isfinite(g_mains_sig->rms1[0]));
 }
 
 void TstUniTask::recorderStoresTheWaveformOfAnEvent()
