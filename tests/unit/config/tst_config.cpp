@@ -189,6 +189,8 @@ private slots:
     void aReadOnlyFolderLosesTheWriteAndNothingElse()
     {
         RootFiles::write(kPath, "LANG=ZH\n");
+        // The file itself might be written: it must not be written in place.
+        QVERIFY(::chmod(QFile::encodeName(Target::path(kPath)).constData(), 0666) == 0);
         {
             OrdinaryUser user;
             const QByteArray folder = QFile::encodeName(Target::path("/mnt/userfs/config"));
