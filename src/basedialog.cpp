@@ -97,7 +97,7 @@ BaseDialog::~BaseDialog() = default;
 
 void BaseDialog::keyPressEvent(QKeyEvent *event)
 {
-    if (keyMap::recoverBackLight()) {
+    if (keyMap::recoverBackLight() || keyMap::isDroppedRepeat(*event)) {
         event->accept();
         return;
     }

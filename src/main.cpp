@@ -3,7 +3,9 @@
 
 #include "config/langtranslation.h"
 #include "config/userconfig.h"
+#include "platform/deskkeys.h"
 #include "platform/deskroot.h"
+#include "widgets/keymap.h"
 
 #include <QApplication>
 #include <QTextCodec>
@@ -24,6 +26,7 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     // The toolkit takes over the environment's locale; formats of files and of the link are those of C.
     setlocale(LC_NUMERIC, "C");
+    DeskKeys::install(&app, keyMap::panelLetter);
     showSplash();
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     loadApplicationFont();

@@ -163,7 +163,7 @@ void MenuPage::saveSnapshot()
 
 void MenuPage::keyPressEvent(QKeyEvent *event)
 {
-    if (keyMap::recoverBackLight()) {
+    if (keyMap::recoverBackLight() || keyMap::isDroppedRepeat(*event)) {
         event->accept();
         return;
     }

@@ -2,7 +2,7 @@
 
 #include "device/backlight.h"
 
-#include <Qt>
+#include <QKeyEvent>
 
 namespace {
 /// A key of the front panel: the letter it sends, its Qt key, and its number for the remote control (0: none).
@@ -64,6 +64,30 @@ int keyMap::keyMapping(int code)
             return front.key;
     }
     return Qt::Key_unknown;
+}
+
+int keyMap::panelLetter(int key)
+{
+    for (const FrontKey &front : kFrontKeys) {
+        if (front.key == key)
+            return front.letter;
+    }
+    return Qt::Key_unknown;
+}
+
+bool keyMap::isDroppedRepeat(const QKeyEvent &press)
+{
+    if (!press.isAutoRepeat())
+        return false;
+    switch (keyMapping(press.key())) {
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+        return false;
+    default:
+        return true;
+    }
 }
 
 int keyMap::keyboardBackMap(int code)

@@ -102,7 +102,7 @@ void SoftKeyDialog::setVisible(bool visible)
 
 void SoftKeyDialog::keyPressEvent(QKeyEvent *event)
 {
-    if (!keyMap::recoverBackLight())
+    if (!keyMap::recoverBackLight() && !keyMap::isDroppedRepeat(*event))
         pressKey(keyMap::keyPressMap(event->key()));
     event->accept();
 }

@@ -10,8 +10,6 @@
 
 constexpr int kCycle = 1000; // ms
 constexpr int kFirstReadings = 3; // of the battery, until its steps have settled
-// The processor tells about its receiver on every r.m.s. datagram, but never that it lost the satellites.
-constexpr int kBdsCycles = 10;
 
 // Icons that the collecting itself adds and removes, in the order in which they take turns: what the user acts on
 // first.
@@ -87,10 +85,10 @@ void SystemTray::changeBatteryIcon(int status)
     m_batteryIcon = batteryIcon(status);
 }
 
-void SystemTray::usingBDS(quint32)
+void SystemTray::usingBDS(quint32 word)
 {
-    m_bdsCycles = kBdsCycles;
-    setIcon(kBds, true);
+    // As required: it is kept. The processor never tells that it lost its satellites, so once shown the icon stays.
+    setIcon(kBds, word != 0);
 }
 
 QString SystemTray::infoInTurn() const
@@ -109,10 +107,8 @@ void SystemTray::collectSystemInfo()
     changeBatteryIcon(Battery::batteryStatus());
     setIcon(kRecording, RecordInfo::m_in_recording);
     setIcon(kUsb, m_disks.hasMassStorage());
-    setIcon(kBds, m_bdsCycles > 0);
     setIcon(kWired, NetWork::checkNetwireStatus(QStringLiteral("eth0")));
     setIcon(kWireless, m_wirelessJoined && m_wirelessJoined());
-    m_bdsCycles = std::max(m_bdsCycles - 1, 0);
 
     emit refreshSystemInfo(infoInTurn());
     emit refreshSystemIcon(iconInTurn(), m_batteryIcon);

@@ -35,7 +35,7 @@ public:
 public slots:
     /// One cycle: reads battery, network, recorder and disks, and emits both signals.
     void collectSystemInfo();
-    /// The processor's time comes from its satellite receiver; `word` is not 0.
+    /// Whether the processor's time comes from its satellite receiver: `word` is not 0.
     void usingBDS(quint32 word);
 
 signals:
@@ -55,5 +55,4 @@ private:
     QString m_batteryIcon;
     std::function<bool()> m_wirelessJoined;
     int m_turn = 0; // cycles, for taking turns
-    int m_bdsCycles = 0; // left until the satellite icon goes
 };

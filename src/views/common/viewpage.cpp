@@ -81,8 +81,8 @@ void ViewPage::init_parameter()
 
 void ViewPage::keyPressEvent(QKeyEvent *event)
 {
-    // The press that wakes the screen does nothing else.
-    if (keyMap::recoverBackLight())
+    // The press that wakes the screen does nothing else. A held F5 does not toggle again and again.
+    if (keyMap::recoverBackLight() || keyMap::isDroppedRepeat(*event))
         event->accept();
     else
         event->setAccepted(pressKey(keyMap::keyPressMap(event->key())));

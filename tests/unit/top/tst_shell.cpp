@@ -78,6 +78,11 @@ private slots:
     void functionNotBuiltAnswersWithAMessage();
     void monitorKeyDoesNothingAt400Hz();
     void firstPressOnADarkScreenOnlyLightsIt();
+    void firstPressOnADarkScreenDoesNothingElseWhicheverKeyItIs_data();
+    void firstPressOnADarkScreenDoesNothingElseWhicheverKeyItIs();
+    void heldFunctionKeyActsOnce();
+    void heldArrowGoesOn();
+    void heldPowerKeyAsksLikeAShortPress();
     void lightKeyStepsTheLight();
     void powerKeyAsksAfterAMomentAndCancelChangesNothing();
     void powerKeySwitchesOffOnOk();
@@ -160,6 +165,8 @@ void TstShell::currentTileIsHighlighted()
     moveToTile("harmonics");
     const auto picture
         = [](const char *name) { return m_menupage->findChild<QLabel *>(name)->pixmap(Qt::ReturnByValue).toImage(); };
+    QVERIFY(!picture("harmonics").isNull());
+    QVERIFY(picture("harmonics") != QPixmap(":/harmonics").toImage());
     QCOMPARE(picture("harmonics"), QPixmap(":/harmonics_hl").toImage());
     QTest::keyClick(m_menupage, kRight);
     QCOMPARE(picture("harmonics"), QPixmap(":/harmonics").toImage());
@@ -412,6 +419,101 @@ void TstShell::firstPressOnADarkScreenOnlyLightsIt()
     QVERIFY(!answer.asked);
 }
 
+void TstShell::firstPressOnADarkScreenDoesNothingElseWhicheverKeyItIs_data()
+{
+    QTest::addColumn<int>("letter");
+    for (const char letter : QByteArray("WYPFLEAUSRIXBOQDTK"))
+        QTest::addRow("%c", letter) << int(letter);
+}
+
+void TstShell::firstPressOnADarkScreenDoesNothingElseWhicheverKeyItIs()
+{
+    QFETCH(int, letter);
+    const auto light = [] { return BackLight::level(); };
+    DialogAnswer answer(kF5);
+    BackLight::setBackLight(2);
+
+    moveToTile("vif");
+    BackLight::shutDownBL();
+    QTest::keyPress(m_menupage, Qt::Key(letter));
+    QVERIFY(!BackLight::isShut());
+    QCOMPARE(current(), QStringLiteral("vif"));
+    QCOMPARE(title(), QStringLiteral("Menu"));
+    QCOMPARE(light(), 2);
+
+    enterVif();
+    QSignalSpy pause(m_vifpage, &ViewPage::pause);
+    auto *main = m_vifpage->findChild<VifMain *>();
+    BackLight::shutDownBL();
+    QTest::keyPress(main, Qt::Key(letter));
+    QVERIFY(!BackLight::isShut());
+    QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
+    QVERIFY(main->isVisible());
+    QCOMPARE(pause.count(), 0);
+    QCOMPARE(light(), 2);
+    QTest::qWait(letter == kPower ? 250 : 0);
+    QVERIFY(!answer.asked);
+}
+
+void TstShell::heldFunctionKeyActsOnce()
+{
+    const auto repeat = [](QWidget *page, int letter) {
+        QKeyEvent event(QEvent::KeyPress, letter, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(page, &event);
+    };
+    enterVif();
+    auto *page = m_vifpage->findChild<VifMain *>();
+    QSignalSpy pause(m_vifpage, &ViewPage::pause);
+    QSignalSpy run(m_vifpage, &ViewPage::run);
+    g_unitask->startTask();
+    QTest::keyPress(page, kF5);
+    for (int i = 0; i < 5; ++i)
+        repeat(page, kF5);
+    QCOMPARE(pause.count(), 1);
+    QCOMPARE(run.count(), 0);
+    repeat(page, kF7);
+    QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
+
+    QTest::keyPress(page, kF7);
+    QCOMPARE(title(), QStringLiteral("Menu"));
+    DialogAnswer answer(kF5);
+    for (const auto letter : { kEnter, kF1, kF6, kF10 })
+        repeat(m_menupage, letter);
+    QTest::qWait(60);
+    QVERIFY(!answer.asked);
+    QCOMPARE(title(), QStringLiteral("Menu"));
+
+    BackLight::setBackLight(3);
+    repeat(m_menupage, kF12);
+    repeat(m_basedialog, kF12);
+    QCOMPARE(BackLight::level(), 3);
+}
+
+void TstShell::heldArrowGoesOn()
+{
+    moveToTile("vif");
+    for (const char *tile : { "harmonics", "unbalance" }) {
+        QKeyEvent event(QEvent::KeyPress, kRight, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(m_menupage, &event);
+        QCOMPARE(current(), QLatin1String(tile));
+    }
+}
+
+void TstShell::heldPowerKeyAsksLikeAShortPress()
+{
+    DialogAnswer answer(kF5);
+    QTest::keyPress(m_basedialog, kPower);
+    // Repeats come faster than the timer runs; each one would start it anew.
+    QTimer keyboard;
+    connect(&keyboard, &QTimer::timeout, this, [] {
+        QKeyEvent event(QEvent::KeyPress, kPower, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(m_basedialog, &event);
+    });
+    keyboard.start(10);
+    QTRY_VERIFY(answer.asked);
+    QVERIFY(answer.text.contains("Power off?"));
+}
+
 void TstShell::lightKeyStepsTheLight()
 {
     const auto level = [] {
@@ -470,6 +572,8 @@ void TstShell::titleBarShowsIconsAndText()
     m_basedialog->showSysIcon("battery_f", "USB");
     const auto picture
         = [](const char *name) { return m_basedialog->findChild<QLabel *>(name)->pixmap(Qt::ReturnByValue).toImage(); };
+    QVERIFY(!picture("sys_icon_1").isNull());
+    QVERIFY(!picture("sys_icon_2").isNull());
     QCOMPARE(picture("sys_icon_1"), QPixmap(":/battery_f").toImage());
     QCOMPARE(picture("sys_icon_2"), QPixmap(":/USB").toImage());
     m_basedialog->showSysIcon(QString(), "battery_1");

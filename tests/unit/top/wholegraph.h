@@ -15,6 +15,7 @@
 /// The whole object graph of the instrument, built once as main builds it, for tests of the shell.
 inline void buildWholeGraph()
 {
+    Q_INIT_RESOURCE(skin);
     showSplash();
     appInit();
     appConnection();

@@ -1,6 +1,7 @@
 #include "device/backlight.h"
 #include "widgets/keymap.h"
 
+#include <QKeyEvent>
 #include <QtTest>
 
 class TstKeyMap : public QObject
@@ -18,6 +19,8 @@ private slots:
     void aPressOnADimmedScreenOnlyWakesIt();
     void aPressWakesTheScreenAndMaps();
     void aReleaseMaps();
+    void eachKeyOfThePanelLeadsBackToItsLetter();
+    void aHeldKeyRepeatsForTheArrowsOnly();
 };
 
 void TstKeyMap::eachLetterIsItsKey_data()
@@ -111,6 +114,33 @@ void TstKeyMap::aPressWakesTheScreenAndMaps()
 void TstKeyMap::aReleaseMaps()
 {
     QCOMPARE(keyMap::keyReleaseMap('O'), int(Qt::Key_Left));
+}
+
+void TstKeyMap::eachKeyOfThePanelLeadsBackToItsLetter()
+{
+    const struct
+    {
+        int key;
+        char letter;
+    } rows[] = { { Qt::Key_F1, 'W' },       { Qt::Key_F2, 'Y' },   { Qt::Key_F3, 'P' },  { Qt::Key_F4, 'F' },
+                 { Qt::Key_F5, 'L' },       { Qt::Key_F6, 'E' },   { Qt::Key_F7, 'A' },  { Qt::Key_F8, 'U' },
+                 { Qt::Key_F9, 'S' },       { Qt::Key_F10, 'R' },  { Qt::Key_F11, 'I' }, { Qt::Key_F12, 'X' },
+                 { Qt::Key_PowerOff, 'B' }, { Qt::Key_Left, 'O' }, { Qt::Key_Up, 'Q' },  { Qt::Key_Right, 'D' },
+                 { Qt::Key_Down, 'T' },     { Qt::Key_Enter, 'K' } };
+    for (const auto &row : rows)
+        QCOMPARE(keyMap::panelLetter(row.key), int(row.letter));
+    for (const int key : { int(Qt::Key_Escape), int(Qt::Key_W), int(Qt::Key_F13), 0 })
+        QCOMPARE(keyMap::panelLetter(key), int(Qt::Key_unknown));
+}
+
+void TstKeyMap::aHeldKeyRepeatsForTheArrowsOnly()
+{
+    for (int letter = 'A'; letter <= 'Z'; ++letter) {
+        const QKeyEvent first(QEvent::KeyPress, letter, Qt::NoModifier);
+        QVERIFY(!keyMap::isDroppedRepeat(first));
+        const QKeyEvent repeat(QEvent::KeyPress, letter, Qt::NoModifier, QString(), true);
+        QCOMPARE(keyMap::isDroppedRepeat(repeat), !QByteArray("OQDT").contains(char(letter)));
+    }
 }
 
 QTEST_GUILESS_MAIN(TstKeyMap)

@@ -20,6 +20,7 @@ private slots:
     void newMessageHasTheReturnValueEight();
     void anUnknownTypeShowsAsInformation();
     void thePressThatWakesTheScreenDoesNothingElse();
+    void theHeldKeyThatOpenedItDoesNotAnswerIt();
     void standsAtTheBottomOfTheInstrumentsWindow();
     void aMessageOverADialogStandsAtTheSameBottom();
     void longTextsAreNotCutOff();
@@ -152,6 +153,22 @@ void TstMessage::thePressThatWakesTheScreenDoesNothingElse()
     QTest::keyClick(&message, 'F');
     QVERIFY(!message.isVisible());
     QCOMPARE(message.getRet(), 0);
+}
+
+void TstMessage::theHeldKeyThatOpenedItDoesNotAnswerIt()
+{
+    Message message(Message::Warning, QStringLiteral("Power off?"));
+    message.show();
+    for (const char letter : { 'F', 'L' }) { // Ok and Cancel
+        QKeyEvent repeat(QEvent::KeyPress, letter, Qt::NoModifier, QString(), true);
+        QCoreApplication::sendEvent(&message, &repeat);
+        QVERIFY(repeat.isAccepted());
+        QVERIFY(message.isVisible());
+        QCOMPARE(message.getRet(), int(Message::None));
+    }
+    QTest::keyClick(&message, 'L');
+    QVERIFY(!message.isVisible());
+    QCOMPARE(message.getRet(), int(Message::Cancel));
 }
 
 void TstMessage::standsAtTheBottomOfTheInstrumentsWindow()
