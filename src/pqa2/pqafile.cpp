@@ -9,11 +9,21 @@
 
 #include <QFile>
 
+#include <algorithm>
 #include <cstring>
+#include <limits>
 
 static constexpr unsigned char kTrailer[] = { 0xAA, 0x55 };
 static constexpr quint32 kVersion
     = quint32(kSoftwareMajor) << 24 | quint32(kSoftwareMinor) << 16 | quint32(kSoftwareBuild);
+
+/// A setting without its fraction; a ratio that someone wrote into the settings may lead beyond 32 bits.
+static qint32 truncated(double value)
+{
+    constexpr double kLowest = std::numeric_limits<qint32>::min();
+    constexpr double kHighest = std::numeric_limits<qint32>::max();
+    return qint32(std::clamp(value, kLowest, kHighest));
+}
 
 QString PqaFile::imagePath()
 {
@@ -67,8 +77,8 @@ void PqaFile::initFileHeader()
     const Clamp *clamp = m_settingConfig_g.curClamp();
     m_header.page = m_winId;
     m_header.time = Clock::seconds();
-    m_header.nominalVolt = qint32(m_settingConfig_g.getRealNominalVolt());
-    m_header.nominalFrequency = qint32(m_settingConfig_g.getNomFreq());
+    m_header.nominalVolt = truncated(double(m_settingConfig_g.getRealNominalVolt()));
+    m_header.nominalFrequency = truncated(m_settingConfig_g.getNomFreq());
     m_header.joinMode = m_settingConfig_g.getJoinMode();
     m_header.clampRatio = clamp ? clamp->ratio() : 0;
     m_header.version = kVersion;

@@ -12,6 +12,7 @@
 #include <QtTest>
 
 #include <cstring>
+#include <limits>
 
 class TstPqaFile : public QObject
 {
@@ -22,6 +23,7 @@ private slots:
     void init();
     void cleanup() { Clock::useSystem(); }
     void headerHasItsFieldsAtTheirOffsets();
+    void nominalVoltsAreTruncatedAndHeldTo32Bits();
     void pictureRecordAndTrailerFollowTheHeader();
     void formatPageTellsTheHeaderAndItsExample();
     void snapshotIsAPlainPngOfTheScreen();
@@ -80,14 +82,38 @@ void TstPqaFile::headerHasItsFieldsAtTheirOffsets()
     QVERIFY(bytes.size() > 40);
     QCOMPARE(word(bytes, 0), 4u);
     QCOMPARE(word(bytes, 4), 1700000000u);
-    QCOMPARE(word(bytes, 8), quint32(m_settingConfig_g.getRealNominalVolt()));
-    QCOMPARE(word(bytes, 12), quint32(m_settingConfig_g.getNomFreq()));
-    QCOMPARE(word(bytes, 16), quint32(m_settingConfig_g.getJoinMode()));
-    QCOMPARE(word(bytes, 20), quint32(m_settingConfig_g.curClamp()->ratio()));
+    // A new instrument: 230 V, 50 Hz, 3P WYE, TARN-41A.
+    QCOMPARE(word(bytes, 8), 230u);
+    QCOMPARE(word(bytes, 12), 50u);
+    QCOMPARE(word(bytes, 16), 1u);
+    QCOMPARE(word(bytes, 20), 10000u);
     QCOMPARE(word(bytes, 24), quint32(image.size()));
     QCOMPARE(word(bytes, 28), 100u);
     QCOMPARE(word(bytes, 32), 0x02020006u);
     QCOMPARE(word(bytes, 36), 0xCC33C3C3u);
+}
+
+void TstPqaFile::nominalVoltsAreTruncatedAndHeldTo32Bits()
+{
+    const struct
+    {
+        int numerator, denominator;
+        quint32 expected;
+    } rows[] = {
+        { 1, 3, 76 }, // 230 V / 3 = 76.67 V
+        { std::numeric_limits<int>::max(), 1, 0x7fffffff },
+        { std::numeric_limits<int>::min(), 1, 0x80000000 },
+    };
+    QCOMPARE(m_settingConfig_g.getNomVolt(), 230);
+    for (const auto &row : rows) {
+        m_settingConfig_g.setRatioVFenzi(row.numerator);
+        m_settingConfig_g.setRatioVFenmu(row.denominator);
+        PqaFile file(4);
+        file.writeFileData("", 0);
+        QCOMPARE(word(read(PqaFile::dataPath()), 8), row.expected);
+    }
+    m_settingConfig_g.setRatioVFenzi(1);
+    m_settingConfig_g.setRatioVFenmu(1);
 }
 
 void TstPqaFile::pictureRecordAndTrailerFollowTheHeader()

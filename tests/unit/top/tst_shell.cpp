@@ -4,16 +4,21 @@
 #include "config/recordinfo.h"
 #include "device/backlight.h"
 #include "menupage.h"
+#include "platform/deskkeys.h"
 #include "platform/target.h"
 #include "task/unitask.h"
 #include "taskmanage.h"
 #include "views/vif/vifmain.h"
 #include "views/vif/vifpage.h"
+#include "widgets/keymap.h"
 #include "widgets/message.h"
 
 #include <QFile>
 #include <QSignalSpy>
 #include <QStackedWidget>
+#include <QWindow>
+
+#include <memory>
 
 namespace {
 
@@ -80,6 +85,7 @@ private slots:
     void firstPressOnADarkScreenOnlyLightsIt();
     void firstPressOnADarkScreenDoesNothingElseWhicheverKeyItIs_data();
     void firstPressOnADarkScreenDoesNothingElseWhicheverKeyItIs();
+    void keysOfAPcDriveTheInstrumentOnADesk();
     void heldFunctionKeyActsOnce();
     void heldArrowGoesOn();
     void heldPowerKeyAsksLikeAShortPress();
@@ -455,6 +461,41 @@ void TstShell::firstPressOnADarkScreenDoesNothingElseWhicheverKeyItIs()
     QVERIFY(!answer.asked);
 }
 
+void TstShell::keysOfAPcDriveTheInstrumentOnADesk()
+{
+    // Through the window, as the toolkit's input layer delivers them.
+    const std::unique_ptr<DeskKeys> desk(DeskKeys::install(qApp, keyMap::panelLetter));
+    QVERIFY(desk);
+    QWindow *window = m_basedialog->windowHandle();
+    QApplication::setActiveWindow(m_basedialog);
+    moveToTile("power");
+    QTest::keyClick(window, Qt::Key_Right);
+    QCOMPARE(current(), QStringLiteral("vif"));
+    QTest::keyClick(window, Qt::Key_Down);
+    QTest::keyClick(window, Qt::Key_Up);
+    QTest::keyClick(window, Qt::Key_Return);
+    QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
+    QTest::keyClick(window, Qt::Key_F6);
+    QCOMPARE(title(), QStringLiteral("Scope"));
+    QTest::keyClick(window, Qt::Key_Escape);
+    QCOMPARE(title(), QStringLiteral("Menu"));
+
+    // Escape cancels the status dialog; F1 would restart.
+    UniTask *task = g_unitask;
+    bool open = false;
+    QTimer user;
+    connect(&user, &QTimer::timeout, this, [&open] {
+        if (QWidget *dialog = QApplication::activeModalWidget()) {
+            open = true;
+            QTest::keyClick(dialog, Qt::Key_Escape);
+        }
+    });
+    user.start(10);
+    QTest::keyClick(window, Qt::Key_F3);
+    QVERIFY(open);
+    QCOMPARE(g_unitask, task);
+}
+
 void TstShell::heldFunctionKeyActsOnce()
 {
     const auto repeat = [](QWidget *page, int letter) {
@@ -548,6 +589,9 @@ void TstShell::powerKeySwitchesOffOnOk()
     QFile latch(Target::path("/sys/class/gpio/gpio47/value"));
     QVERIFY(latch.open(QIODevice::ReadOnly));
     QCOMPARE(latch.readAll().trimmed(), QByteArray("1"));
+    QFile direction(Target::path("/sys/class/gpio/gpio47/direction"));
+    QVERIFY(direction.open(QIODevice::ReadOnly));
+    QCOMPARE(direction.readAll().trimmed(), QByteArray("out"));
 }
 
 void TstShell::processorTimeBecomesTheSystemTime()

@@ -45,6 +45,8 @@ void TstTaskManage::initTestCase()
 
 void TstTaskManage::splashShowsThePictureOfTheLanguage()
 {
+    QVERIFY(!splash->pixmap().isNull());
+    QVERIFY(QImage(":/splash") != QImage(":/splash_ru"));
     QCOMPARE(splash->pixmap().toImage(), QImage(":/splash"));
     const int russian = 12;
     while (m_userConfig_g.getLang() < russian)

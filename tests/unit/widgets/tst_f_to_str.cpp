@@ -123,12 +123,22 @@ void TstFToStr::voltagePrintsInTheUnitInForce()
 
 void TstFToStr::currentDecimalsAreTheClampsPlusOne()
 {
-    const int digits = m_settingConfig_g.currentDigits() + 1;
-    const double factor = m_settingConfig_g.units().factorAmpere;
-    QCOMPARE(F_to_Str::number_A(123.456f), QString::number(123.456f * factor, 'f', digits));
-    const int digitsN = m_settingConfig_g.currentNDigits() + 1;
-    const double factorN = m_settingConfig_g.unitsN().factorAmpere;
-    QCOMPARE(F_to_Str::number_AN(123.456f), QString::number(123.456f * factorN, 'f', digitsN));
+    // A fresh instrument: TARN-41A with 10000 uV/A: above 1000, so p is 1, and below a million, so the unit is A.
+    m_settingConfig_g.loadSettingConfig();
+    QCOMPARE(F_to_Str::number_A(123.456f), QStringLiteral("123.46"));
+    QCOMPARE(F_to_Str::number_AN(-123.456f), QStringLiteral("-123.46"));
+
+    m_settingConfig_g.setRatioIFenzi(10); // 1000 uV/A: no longer above 1000, so p is 0; the neutral keeps its own
+    m_settingConfig_g.loadSettingConfig();
+    QCOMPARE(F_to_Str::number_A(123.456f), QStringLiteral("123.5"));
+    QCOMPARE(F_to_Str::number_AN(123.456f), QStringLiteral("123.46"));
+
+    m_settingConfig_g.setRatioIFenzi(100); // 100 uV/A: p is -1, in kA + 3, so three decimals
+    m_settingConfig_g.loadSettingConfig();
+    QCOMPARE(m_settingConfig_g.units().ampere, QStringLiteral("kA"));
+    QCOMPARE(F_to_Str::number_A(123.456f), QStringLiteral("0.123"));
+    m_settingConfig_g.setRatioIFenzi(1);
+    m_settingConfig_g.loadSettingConfig();
 }
 
 void TstFToStr::powerAndEnergyAreScaled()
