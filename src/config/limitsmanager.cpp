@@ -10,6 +10,26 @@
 #include "platform/debuglog.h"
 #include "platform/target.h"
 
+namespace {
+
+/// The file that a set of this name is stored in.
+QString pathOf(const QString &name)
+{
+    return LimitsManager::folder().chopped(1) + QDir::separator() + name + QStringLiteral(".xml");
+}
+
+/// The file that would bring a set back at the next start; empty when there is none.
+QString storedFileOf(const MonitorLimits2 &set)
+{
+    if (!set.file().isEmpty() || !LimitsManager::isPlainName(set.name()))
+        return set.file();
+    // A save that was lost leaves the file of before.
+    MonitorLimits2 stored;
+    return stored.loadFile(pathOf(set.name())) && stored.name() == set.name() ? stored.file() : QString();
+}
+
+} // namespace
+
 QString LimitsManager::folder()
 {
     return QStringLiteral("/mnt/userfs/sys//limits/"); // as required: with the double slash
@@ -116,7 +136,7 @@ void LimitsManager::add(MonitorLimits2 *set)
         return;
     // A name that would leave the folder gets no file; the set then lasts until the program ends.
     if (isPlainName(set->name()))
-        set->saveFile(folder().chopped(1) + QDir::separator() + set->name() + QStringLiteral(".xml"));
+        set->saveFile(pathOf(set->name()));
     if (MonitorLimits2 *present = find(set->name()))
         *present = *set;
     else
@@ -143,7 +163,7 @@ void LimitsManager::remove(const QString &name)
     for (auto it = m_sets.begin(); it != m_sets.end(); ++it) {
         if ((*it)->name() != name)
             continue;
-        const QString file = (*it)->file();
+        const QString file = storedFileOf(**it);
         m_sets.erase(it);
         if (!file.isEmpty())
             QFile::remove(Target::path(file));

@@ -277,6 +277,33 @@ private slots:
         QCOMPARE(LimitsManager().activeLimitsName(), QString("EN50160"));
     }
 
+    void aSetWhoseLastSaveWasLostIsRemovedWithItsFile()
+    {
+        LimitsManager manager;
+        manager.add("Mine", withDips(80));
+        {
+            FileLimit full(10);
+            manager.add("Mine", withDips(70));
+        }
+        QVERIFY(RootFiles::exists(kFolder + "Mine.xml"));
+        manager.remove("Mine");
+        QVERIFY(!RootFiles::exists(kFolder + "Mine.xml"));
+        QVERIFY(!LimitsManager().allLimitsList().contains("Mine"));
+    }
+
+    void removingASetWithoutAFileLeavesTheFileOfAnother()
+    {
+        RootFiles::write(kFolder + "Mine.xml", set("Other"));
+        LimitsManager manager;
+        {
+            FileLimit full(10);
+            manager.add("Mine", withDips(70));
+        }
+        manager.remove("Mine");
+        QVERIFY(RootFiles::exists(kFolder + "Mine.xml"));
+        QVERIFY(LimitsManager().allLimitsList().contains("Other"));
+    }
+
     void namesInAllLettersSurvive()
     {
         LimitsManager manager;
