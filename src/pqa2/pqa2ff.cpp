@@ -1,10 +1,10 @@
 #include "pqa2/pqa2ff.h"
 
+#include "device/trace.h"
 #include "platform/clock.h"
 #include "pqa2/pqa2device.h"
 #include "pqa2/pqa2info.h"
 
-#include <QDebug>
 #include <QFileInfo>
 
 #include <cstring>
@@ -120,7 +120,7 @@ int Pqa2FF::addDataBlock(const _pqa2_data_block &block)
 {
     const int result = appendBlock(block.type, block.data, block.size);
     if (result < 0)
-        qDebug() << "availableRoom" << m_device->freeSize();
+        QV_TRACE("pqa2/pqa2ff") << "availableRoom" << m_device->freeSize();
     return result;
 }
 

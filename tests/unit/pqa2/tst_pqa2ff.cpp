@@ -335,7 +335,8 @@ void TstPqa2FF::blockNeedsFiveMegabytes()
     const int before = fake.state.content.size();
     fake.state.free = 4.99f;
     QCOMPARE(fake.file->addDataBlock(Pqa2DBType(0x5000), "abc", 3), -1);
-    QTest::ignoreMessage(QtDebugMsg, QRegularExpression(QStringLiteral("availableRoom.*4\\.99")));
+    QTest::ignoreMessage(QtDebugMsg,
+                         QRegularExpression(QStringLiteral("^F: pqa2/pqa2ff L: \\d+ > availableRoom 4\\.99$")));
     QCOMPARE(fake.file->addDataBlock(_pqa2_data_block { 0, 0x5000, 3, "abc" }), -1);
     QCOMPARE(fake.state.content.size(), before);
     fake.state.free = 5.0f; // room again: the file has a gap in time and goes on

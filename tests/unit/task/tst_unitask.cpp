@@ -132,6 +132,7 @@ private slots:
     void recordersStoreTransientAndEvents();
     void countsOutOfRangeFeedAtMostThirtyHalfCycles_data();
     void countsOutOfRangeFeedAtMostThirtyHalfCycles();
+    void anyPayloadAtAnyTimeInAnyWiringKeepsTheListsBounded();
     void recorderStoresTheWaveformOfAnEvent();
     void transientOfCode3IsIgnoredInSplitPhase();
     void inverterFunctionTellsTheDebugLog();
@@ -657,6 +658,56 @@ void TstUniTask::countsOutOfRangeFeedAtMostThirtyHalfCycles()
         QCOMPARE(g_dipswell_trend->current[c].size(), entries);
     }
     QVERIFY(std::isfinite(g_mains_sig->rms1[0]));
+}
+
+void TstUniTask::anyPayloadAtAnyTimeInAnyWiringKeepsTheListsBounded()
+{
+    // Bits of: 0, -0, the smallest denormal, 1, -1, 10, 1e30, the infinities, two that are no numbers, and counts.
+    const quint32 words[]
+        = { 0,           0x80000000u, 1,           0x3F800000u, 0xBF800000u, 0x41200000u, 0x7149F2CAu,
+            0x7F800000u, 0xFF800000u, 0x7FC00000u, 0xFFFFFFFFu, 60,          61,          1u << 24 | 4095 };
+    constexpr qint64 kDay = 86'400'000;
+    const qint64 times[] = { kNow,
+                             kNow - kDay,
+                             kNow + 3 * kDay,
+                             0,
+                             -1,
+                             std::numeric_limits<qint64>::min(),
+                             std::numeric_limits<qint64>::max() };
+    quint32 pick = 1;
+    const auto next = [&pick](std::size_t of) {
+        pick = pick * 1664525u + 1013904223u;
+        return (pick >> 8) % of;
+    };
+    const auto any = [&](int count) {
+        Payload payload(count, times[next(std::size(times))]);
+        for (int word = 2; word < count; ++word)
+            payload.set(word, words[next(std::size(words))]);
+        return payload.bytes();
+    };
+    for (int joinMode = 1; joinMode <= 10; ++joinMode) {
+        m_settingConfig_g.setJoinMode(joinMode);
+        m_task = std::make_unique<UniTask>();
+        start();
+        for (int i = 0; i < 40; ++i) {
+            m_task->datagramAggregation(any(Link::kAggregationWords));
+            m_task->datagramRMS_1_2(any(Link::kRmsWords));
+            m_task->datagramFlicker(any(Link::kFlickerWords));
+            m_task->datagramWave(any(Link::kWaveWords));
+            Clock::setForTest(times[next(3)]);
+            m_task->updatedata();
+        }
+        QVERIFY(m_task->isTaskRunning());
+        QVERIFY(g_events_list.size() <= 10'001);
+        QVERIFY(g_trans_events.size() <= 1000);
+        for (int p = 0; p < kFlickerPhases; ++p)
+            QVERIFY(g_flicker_data->pinstTrend[p].size() <= 600);
+        for (int c = 0; c < kChannels; ++c) {
+            QVERIFY(g_dipswell_trend->voltage[c].size() <= 6000);
+            QVERIFY(g_inrush_data->current[c].size() <= 600);
+            QVERIFY(g_mains_sig->mean1[c].size() <= 15);
+        }
+    }
 }
 
 void TstUniTask::recorderStoresTheWaveformOfAnEvent()
