@@ -57,6 +57,20 @@ template <typename Widget> Widget *named(const QWidget *page, const char *name)
     return dynamic_cast<Widget *>(page->findChild<QWidget *>(QString::fromLatin1(name)));
 }
 
+/// Whether a label has room for \a text and \a spare pixels, in the wider of the instrument's fonts: a digit takes 0.6
+/// of the font's pixels, points, colons, blanks and signs half of that; no letter of a channel's name takes more.
+inline bool holds(const QWidget *page, const QString &name, const QString &text, double spare = 0)
+{
+    auto *label = page->findChild<QLabel *>(name);
+    if (!label)
+        return false;
+    label->ensurePolished();
+    double needed = spare;
+    for (const QChar &sign : text)
+        needed += (QStringLiteral(".: -").contains(sign) ? 0.3 : 0.6) * label->font().pixelSize();
+    return needed <= label->width() + 1e-6;
+}
+
 /// Wiring (1 to 10) and nominal frequency (1: 50, 2: 60, 3: 400 Hz); a setting that stands is not written again.
 inline void setUpMeasurement(int joinMode, int frequency = 1)
 {

@@ -30,6 +30,7 @@ private slots:
     void f4OpensTheTrendAndLeadsBack();
     void f2OpensTheEventsAndF5LeadsBack();
 
+    void longReadingsFitTheirLabels();
     void trendQuantityCycles();
     void trendShowsThePercentOfItsSeries();
     void trendFlagsFollowTheWiring_data();
@@ -111,9 +112,11 @@ void TstMainsSignaling::tableShowsOnlyTheChannelsOfTheWiring_data()
 {
     QTest::addColumn<int>("joinMode");
     QTest::addColumn<QStringList>("headers");
-    QTest::newRow("3P WYE") << 1 << QStringList { "L1", "L2", "L3", "N" };
+    for (int mode : { 1, 7, 9 })
+        QTest::addRow("star %d", mode) << mode << QStringList { "L1", "L2", "L3", "N" };
+    for (int mode : { 2, 4, 8, 10 })
+        QTest::addRow("delta %d", mode) << mode << QStringList { "L12", "L23", "L31", "" };
     QTest::newRow("1P") << 3 << QStringList { "L1", "", "", "N" };
-    QTest::newRow("3P DELTA") << 4 << QStringList { "L12", "L23", "L31", "" };
     QTest::newRow("1P SPLIT") << 5 << QStringList { "L1", "L2", "", "N" };
     QTest::newRow("1P IT") << 6 << QStringList { "L12", "", "", "" };
 }
@@ -185,6 +188,19 @@ void TstMainsSignaling::f2OpensTheEventsAndF5LeadsBack()
     QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(eventPage()));
     press(eventPage(), F5);
     QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
+}
+
+void TstMainsSignaling::longReadingsFitTheirLabels()
+{
+    // Half as much again as the largest full scale in one unit.
+    for (const char *row : { "sig1_%1", "sig1mean_%1", "sig2_%1", "sig2mean_%1", "rms1_%1", "rms2_%1" }) {
+        for (const char *suffix : { "L1", "L2", "L3", "N" })
+            QVERIFY(holds(mainPage(), QString(row).arg(suffix), QStringLiteral("15000.00")));
+    }
+    for (int c = 1; c <= 4; ++c) {
+        QVERIFY(holds(trendPage(), QStringLiteral("D%1_Caption").arg(c), QStringLiteral("L31:"), 4));
+        QVERIFY(holds(trendPage(), QStringLiteral("D%1_Value").arg(c), QStringLiteral("15000.00")));
+    }
 }
 
 void TstMainsSignaling::trendQuantityCycles()

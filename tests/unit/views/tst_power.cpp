@@ -1,5 +1,6 @@
 #include "config/config_data.h"
 #include "device/displayrecords.h"
+#include "pagetest.h"
 #include "views/power/powen.h"
 #include "views/power/powermain.h"
 #include "views/power/powertrendpage.h"
@@ -38,7 +39,10 @@ private slots:
     void panelShowsEnergiesAndRunningTime();
     void reactiveFlagFollowsTheSign_data();
     void reactiveFlagFollowsTheSign();
+    void longReadingsFitTheirLabels_data();
+    void longReadingsFitTheirLabels();
     void trendCycleHasEightQuantities();
+    void trendCaptionsEndBeforeTheirValues();
     void trendFlagsShowTheTotalInTheFourthBand();
     void savedRecordHoldsWordsAndTrends();
     void pagesLiveWithoutARecord();
@@ -99,9 +103,11 @@ void TstPower::columnsFollowTheWiring_data()
 {
     QTest::addColumn<int>("joinMode");
     QTest::addColumn<QStringList>("headers");
-    QTest::newRow("3P WYE") << 1 << QStringList { "L1", "L2", "L3", "Total" };
+    for (int mode : { 1, 7, 9 })
+        QTest::addRow("star %d", mode) << mode << QStringList { "L1", "L2", "L3", "Total" };
+    for (int mode : { 2, 4, 8, 10 })
+        QTest::addRow("delta %d", mode) << mode << QStringList { "L12", "L23", "L31", "Total" };
     QTest::newRow("1P") << 3 << QStringList { "L1", "", "", "Total" };
-    QTest::newRow("3P DELTA") << 4 << QStringList { "L12", "L23", "L31", "Total" };
     QTest::newRow("1P SPLIT") << 5 << QStringList { "L1", "L2", "", "Total" };
     QTest::newRow("1P IT") << 6 << QStringList { "L12", "", "", "Total" };
 }
@@ -182,6 +188,40 @@ void TstPower::reactiveFlagFollowsTheSign()
     QCOMPARE(mainPage()->findChild<QLabel *>("q_flag1")->styleSheet(), QString());
 }
 
+void TstPower::longReadingsFitTheirLabels_data()
+{
+    QTest::addColumn<QString>("names"); // %1: the column
+    QTest::addColumn<QString>("reading");
+    // The unit is chosen so that the full scale of a phase has four places; the total is three times as much.
+    for (const char *row : { "P_%1", "S_%1", "Q_%1" })
+        QTest::newRow(row) << QString(row) << QStringLiteral("-29999.97");
+    QTest::newRow("tan_%1") << QStringLiteral("tan_%1") << QStringLiteral("9999.00");
+    QTest::newRow("Urms_%1") << QStringLiteral("Urms_%1") << QStringLiteral("15000.00");
+    // 30 days at three times full scale.
+    for (const char *row : { "kwh_%1", "kvah_%1", "kvarh_%1" })
+        QTest::newRow(row) << QString(row) << QStringLiteral("21600000.000");
+}
+
+void TstPower::longReadingsFitTheirLabels()
+{
+    QFETCH(QString, names);
+    QFETCH(QString, reading);
+    const QStringList columns
+        = names.startsWith('k') ? QStringList { "1", "2", "3", "4" } : QStringList { "L1", "L2", "L3", "Tot" };
+    for (const QString &column : columns) {
+        if (names != "Urms_%1" || column != "Tot")
+            QVERIFY(PageTest::holds(mainPage(), names.arg(column), reading));
+    }
+}
+
+void TstPower::trendCaptionsEndBeforeTheirValues()
+{
+    for (int c = 1; c <= 4; ++c) {
+        QVERIFY(PageTest::holds(trendPage(), QStringLiteral("D%1_Caption").arg(c), QStringLiteral("L31 :"), 4));
+        QVERIFY(PageTest::holds(trendPage(), QStringLiteral("D%1_Value").arg(c), QStringLiteral("-29999.97")));
+    }
+}
+
 void TstPower::trendCycleHasEightQuantities()
 {
     QTest::keyClick(mainPage(), Qt::Key_F);
@@ -259,5 +299,5 @@ void TstPower::pagesLiveWithoutARecord()
     g_power_data_ui = kept;
 }
 
-QTEST_MAIN(TstPower)
+PAGE_TEST_MAIN(TstPower)
 #include "tst_power.moc"

@@ -38,6 +38,7 @@ private slots:
     void singlePhaseShowsL1Only();
     void outputsFollowTheWiring_data();
     void outputsFollowTheWiring();
+    void longReadingsFitTheirLabels();
     void trendTakesOnePointASecondHoweverOftenItIsRefreshed();
     void trendKeepsTenMinutes();
     void trendQuantityCycles();
@@ -244,6 +245,17 @@ void TstPowerInverter::outputsFollowTheWiring()
             QCOMPARE(!text(mainPage(), qPrintable(QString(row).arg(p))).isEmpty(), p <= phases);
     }
     QCOMPARE(text(mainPage(), "Uin"), QStringLiteral("400.00")); // in every wiring
+}
+
+void TstPowerInverter::longReadingsFitTheirLabels()
+{
+    const QString reading = QStringLiteral("-29999.97");
+    for (const char *name : { "Uin", "Iin", "Pin", "Uout_L1", "Iout_L2", "Pout_L3" })
+        QVERIFY(holds(mainPage(), QString(name), reading));
+    for (int c = 1; c <= 4; ++c) {
+        QVERIFY(holds(trendPage(), QStringLiteral("D%1_Caption").arg(c), QStringLiteral("L31:"), 4));
+        QVERIFY(holds(trendPage(), QStringLiteral("D%1_Value").arg(c), reading));
+    }
 }
 
 void TstPowerInverter::trendTakesOnePointASecondHoweverOftenItIsRefreshed()

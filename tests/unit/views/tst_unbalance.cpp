@@ -23,6 +23,7 @@ private slots:
     void init();
 
     void tableShowsEveryQuantityWithItsFormat();
+    void longReadingsFitTheirLabels();
     void fieldsOfMissingPhasesStayEmpty_data();
     void fieldsOfMissingPhasesStayEmpty();
     void lostFrequencyIsGreyAndPositive();
@@ -101,6 +102,19 @@ void TstUnbalance::tableShowsEveryQuantityWithItsFormat()
     QCOMPARE(text(mainPage(), "Izero_v"), QStringLiteral("4.75%"));
     QCOMPARE(text(mainPage(), "freq_t"), QStringLiteral("Freq ="));
     QCOMPARE(text(mainPage(), "freq_v"), QStringLiteral("50.00Hz"));
+}
+
+void TstUnbalance::longReadingsFitTheirLabels()
+{
+    // Half as much again as the largest full scale in one unit.
+    for (const char *row : { "U_%1", "I_%1", "Uf_%1", "If_%1" }) {
+        for (const char *suffix : { "L1", "L2", "L3", "N" })
+            QVERIFY(holds(mainPage(), QString(row).arg(suffix), QStringLiteral("15000.00")));
+    }
+    for (int i = 1; i <= 3; ++i) {
+        QVERIFY(holds(vectorPage(), QStringLiteral("v%1_v").arg(i), QStringLiteral("15000.00")));
+        QVERIFY(holds(vectorPage(), QStringLiteral("v%1").arg(i), QStringLiteral("U1fund(V):")));
+    }
 }
 
 void TstUnbalance::fieldsOfMissingPhasesStayEmpty_data()
