@@ -253,6 +253,6 @@ void ScopeWidget::drawCursorMarks(QPainter &painter) const
             continue;
         const int sample = samples(curve)[index];
         const int y = curve < kChannels ? getCursorPosUY(sample) : getCursorPosIY(sample);
-        ChartParts::drawTriangle(painter, m_cursor, y - 4, PhaseColor::color(curve % kChannels));
+        ChartParts::drawTriangle(painter, m_cursor, y, PhaseColor::color(curve % kChannels)); // base on the curve
     }
 }

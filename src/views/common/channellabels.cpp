@@ -58,6 +58,8 @@ LabelRow numberedRow(const QWidget *form, const char *pattern)
 
 void showHeaders(const LabelRow &row, const QString &suffix)
 {
+    if (!m_settingConfig_g.channels())
+        return;
     const ChannelSet &set = channels();
     for (int c = 0; c < kChannels; ++c) {
         if (!set.has(c)) {
@@ -71,6 +73,8 @@ void showHeaders(const LabelRow &row, const QString &suffix)
 
 void showPairHeaders(const LabelRow &row)
 {
+    if (!m_settingConfig_g.channels())
+        return;
     const ChannelSet &set = channels();
     for (int c = 0; c < kChannels; ++c)
         setText(row[c],
@@ -97,6 +101,8 @@ void showValues(const LabelRow &row, const float *values, Format format)
 
 void clearUnused(const LabelRow &row)
 {
+    if (!m_settingConfig_g.channels())
+        return;
     const ChannelSet &set = channels();
     for (int c = 0; c < kChannels; ++c) {
         if (!set.has(c))

@@ -37,15 +37,19 @@ private slots:
     void startShowsTheNominalFrequency();
     void showsOnlyTheChannelsOfTheWiring_data();
     void showsOnlyTheChannelsOfTheWiring();
+    void singlePhaseWithoutNeutralFillsOnlyTheFirstColumnOfTableAndTrend();
+    void aWiringOutsideTheTableLeavesTheFieldsUntouched();
     void tableShowsEveryQuantityWithItsFormat();
     void pagesLiveWithoutARecord();
     void negativeFrequencyIsShownGreyAndPositive();
     void f4OpensTheTrendAndLeadsBack();
     void f5AsksToPauseAndMovesOnlyOnTheAnswer();
+    void f5WithoutATaskChangesNothing();
     void functionKeysTellCurrentAndTarget_data();
     void functionKeysTellCurrentAndTarget();
     void unusedKeysDoNothingAndOthersRise();
     void trendQuantityCycles();
+    void f1AtTheFrequencyReturnsToTheVoltage();
     void trendFlagsFollowTheWiringAndTheFrequencyIsSingle();
     void trendValuesUseTheChannelsOfTheWiring();
     void stopWatchReachesAllSubPages();
@@ -124,6 +128,39 @@ void TstVif::showsOnlyTheChannelsOfTheWiring()
             QCOMPARE(value.isEmpty(), headers[c].isEmpty());
         }
     }
+}
+
+void TstVif::singlePhaseWithoutNeutralFillsOnlyTheFirstColumnOfTableAndTrend()
+{
+    for (int c = 0; c < 4; ++c)
+        g_vif_data->voltage[c] = 100.0f + c;
+    m_page->updateDisplay(nullptr); // all four columns of the wiring before
+    m_settingConfig_g.setJoinMode(6);
+    m_page->init_parameter();
+    for (int c = 0; c < 4; ++c)
+        g_vif_data->voltage[c] = 100.0f + c;
+    m_page->updateDisplay(nullptr);
+    const QStringList values { "100.00", "", "", "" };
+    const QStringList captions { "L12:", "", "", "" };
+    for (int c = 0; c < 4; ++c) {
+        QCOMPARE(text(mainPage(), QStringLiteral("Urms_%1").arg(kColumns[c])), values[c]);
+        QCOMPARE(text(trendPage(), QStringLiteral("D%1_Value").arg(c + 1)), values[c]);
+        QCOMPARE(text(trendPage(), QStringLiteral("D%1_Caption").arg(c + 1)), captions[c]);
+    }
+    auto *chart = static_cast<VifTrendChart *>(trendPage()->findChild<QWidget *>("trend"));
+    QCOMPARE(chart->flags(), 1);
+}
+
+void TstVif::aWiringOutsideTheTableLeavesTheFieldsUntouched()
+{
+    g_vif_data->voltage[0] = 230.0f;
+    m_page->updateDisplay(nullptr);
+    m_settingConfig_g.setJoinMode(11);
+    m_page->init_parameter();
+    m_page->updateDisplay(nullptr);
+    QCOMPARE(text(mainPage(), "header_1"), QStringLiteral("L1"));
+    QCOMPARE(text(mainPage(), "header_4"), QStringLiteral("N"));
+    QCOMPARE(text(mainPage(), "Urms_L1"), QStringLiteral("230.00"));
 }
 
 void TstVif::tableShowsEveryQuantityWithItsFormat()
@@ -208,6 +245,18 @@ void TstVif::f5AsksToPauseAndMovesOnlyOnTheAnswer()
     QCOMPARE(text(trendPage(), "btn_f5"), QStringLiteral("Hold"));
 }
 
+void TstVif::f5WithoutATaskChangesNothing()
+{
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(mainPage(), Qt::Key_L);
+        QTest::keyClick(trendPage(), Qt::Key_L);
+    }
+    QVERIFY(mainPage()->isRunning());
+    QVERIFY(trendPage()->isRunning());
+    QCOMPARE(text(mainPage(), "btn_f5"), QStringLiteral("Hold"));
+    QCOMPARE(text(trendPage(), "btn_f5"), QStringLiteral("Hold"));
+}
+
 void TstVif::functionKeysTellCurrentAndTarget_data()
 {
     QTest::addColumn<int>("letter");
@@ -265,6 +314,16 @@ void TstVif::trendQuantityCycles()
         QTest::keyClick(trendPage(), Qt::Key_W);
     }
     QCOMPARE(text(trendPage(), "type"), expected[0]);
+}
+
+void TstVif::f1AtTheFrequencyReturnsToTheVoltage()
+{
+    while (trendPage()->type() != 9)
+        QTest::keyClick(trendPage(), Qt::Key_W);
+    QCOMPARE(text(trendPage(), "type"), QStringLiteral("Freq(Hz)"));
+    QTest::keyClick(trendPage(), Qt::Key_W);
+    QCOMPARE(trendPage()->type(), 1);
+    QCOMPARE(text(trendPage(), "type"), QStringLiteral("U rms(V)"));
 }
 
 void TstVif::trendFlagsFollowTheWiringAndTheFrequencyIsSingle()

@@ -326,9 +326,10 @@ void TstScopeWidget::cursorMarksEachCurveInItsPhaseColour()
     QVERIFY(countPixels(image, edges(100, 1, 100, 301), Qt::white) > 290);
     QCOMPARE(image.pixelColor(98, 5), QColor(Qt::white));
     QCOMPARE(image.pixelColor(97, 7), QColor(Qt::white));
-    // The tip on the curve: base four pixels above it.
-    QVERIFY(countPixels(image, edges(96, 96, 104, 96), PhaseColor::colorB()) >= 7);
-    QCOMPARE(countPixels(image, edges(90, 80, 96, 95), PhaseColor::colorB()), 0);
+    // The base on the curve, the tip four pixels below it.
+    QVERIFY(countPixels(image, edges(96, 100, 104, 100), PhaseColor::colorB()) >= 7);
+    QCOMPARE(countPixels(image, edges(90, 80, 105, 99), PhaseColor::colorB()), 0);
+    QVERIFY(countPixels(image, edges(96, 101, 104, 104), PhaseColor::colorB()) >= 9);
 }
 
 void TstScopeWidget::switchedOffCursorDrawsNothing()
