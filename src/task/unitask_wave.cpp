@@ -38,6 +38,9 @@ void UniTask::captureTransient()
     for (int c = 0; c < kChannels; ++c)
         record->rms[c] = m_aggregation->channel[c].voltage;
     TransientCutter::cut(*m_wave, *record);
+    // Until the next refresh puts the running waveform there.
+    if (g_trans_data)
+        *g_trans_data = *record;
 
     Pqa2FF *file
         = m_function == UniMonitor ? m_monitorFile : (m_function == UniBasic && isRecording() ? m_commonFile : nullptr);

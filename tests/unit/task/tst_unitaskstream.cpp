@@ -21,6 +21,7 @@ private slots:
     void singlePhaseWiringFeedsOneChannel();
     void dipIsListed();
     void transientIsCutAndListed();
+    void transientNumberRestartsWithTheTask();
     void transientCodesFollowTheWiring();
     void transientOfCode3IsIgnoredInSplitPhase();
     void oldestTransientGoesAtThousand();
@@ -123,7 +124,17 @@ void TstUniTaskStream::transientIsCutAndListed()
     QCOMPARE(g_trans_events[0]->position, (2u << 24) | 301u);
     QCOMPARE(g_trans_events[0]->frequency, 50.1f);
     QCOMPARE(g_trans_events[0]->rms[0], 2.0f * kVolt);
-    m_task = std::make_unique<UniTask>(); // the number restarts with the task
+    QCOMPARE(g_trans_data->number, 2); // the last one, until the next refresh
+    QCOMPARE(g_trans_data->rms[0], 2.0f * kVolt);
+}
+
+void TstUniTaskStream::transientNumberRestartsWithTheTask()
+{
+    start();
+    m_task->datagramWave(wave((2u << 24) | 2000).bytes());
+    m_task->datagramWave(wave((2u << 24) | 2000).bytes());
+    QCOMPARE(g_trans_events.last()->number, 2);
+    m_task = std::make_unique<UniTask>();
     start();
     m_task->datagramWave(wave((2u << 24) | 2000).bytes());
     QCOMPARE(g_trans_events.last()->number, 1);
