@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <complex>
+#include <cstring>
 
 namespace processor {
 
@@ -68,12 +69,12 @@ FilterSection FilterSection::fromAnalog(const std::array<double, 3> &n, const st
     return section;
 }
 
-double FilterSection::settle(double x)
+double FilterSection::settle(std::size_t lane, double x)
 {
     const double gain = (m_b[0] + m_b[1] + m_b[2]) / (1.0 + m_a[0] + m_a[1]);
     const double y = gain * x;
-    m_s[1] = m_b[2] * x - m_a[1] * y;
-    m_s[0] = m_b[1] * x - m_a[0] * y + m_s[1];
+    m_s[1][lane] = m_b[2] * x - m_a[1] * y;
+    m_s[0][lane] = m_b[1] * x - m_a[0] * y + m_s[1][lane];
     return y;
 }
 
@@ -102,20 +103,24 @@ FlickerFilter::FlickerFilter(int curve, int systemHz, double rate)
     m_scale = 1.0 / (a * a / 2.0 * (1.0 + ripple));
 }
 
-double FlickerFilter::step(double square)
+PROCESSOR_VECTOR_CODE void FlickerFilter::step(Values &squares)
 {
-    double x = square;
+    Four x;
+    std::memcpy(&x, squares.data(), sizeof(x));
     for (FilterSection &section : m_sections)
-        x = section.step(x);
-    return m_mean.step(x * x) * m_scale;
+        section.step(x);
+    x *= x;
+    m_mean.step(x);
+    x *= m_scale;
+    std::memcpy(squares.data(), &x, sizeof(x));
 }
 
-void FlickerFilter::settle(double square)
+void FlickerFilter::settle(std::size_t phase, double square)
 {
     double x = square;
     for (FilterSection &section : m_sections)
-        x = section.settle(x);
-    m_mean.settle(x * x);
+        x = section.settle(phase, x);
+    m_mean.settle(phase, x * x);
 }
 
 double FlickerFilter::response(int curve, int systemHz, double hertz)

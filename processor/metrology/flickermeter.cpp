@@ -22,7 +22,7 @@ constexpr double LeastReference = 1e-4; // mean square in converter units: 0.01 
 
 void FlickerMeter::setSetup(const ProcessorSetup &setup)
 {
-    m_filters.assign(3, FlickerFilter(setup.flickerCurve, setup.nominalFrequency, BlockRate));
+    m_filter = FlickerFilter(setup.flickerCurve, setup.nominalFrequency, BlockRate);
 }
 
 void FlickerMeter::restart(std::int64_t frame)
@@ -38,33 +38,42 @@ void FlickerMeter::restart(std::int64_t frame)
     m_payload.samplesPerWindow = FlickerRate;
 }
 
-void FlickerMeter::takePhase(std::size_t k, double square)
+// Block 1: the mean square of phase k over its reference; 1 while there is nothing to compare.
+double FlickerMeter::relativeSquare(std::size_t k, double square)
 {
-    m_last[k] = m_latest[k];
-    m_latest[k] = 0.0;
     if (m_age[k] == 0) {
         if (square < LeastReference)
-            return; // nothing is connected
+            return 1.0; // nothing is connected
         m_reference[k] = 0.0;
+        m_filter.settle(k, 1.0);
     }
     const std::int64_t age = ++m_age[k];
     if (age <= SettleBlocks) {
         m_reference[k] += (square - m_reference[k]) / static_cast<double>(age);
-        m_filters[k].settle(1.0);
-        return;
+        return 1.0;
     }
     // A plain mean at first, which becomes the lag of one minute as soon as that is the slower one.
     m_reference[k] += (square - m_reference[k]) * std::max(1.0 / static_cast<double>(age), ReferenceShare);
     if (m_reference[k] < LeastReference) {
         m_age[k] = 0;
-        return;
+        return 1.0;
     }
-    double x = square / m_reference[k];
-    if (age < SettleBlocks + FadeBlocks) {
-        const double part = static_cast<double>(age - SettleBlocks) / FadeBlocks;
-        x = 1.0 + part * part * (3.0 - 2.0 * part) * (x - 1.0);
-    }
-    m_latest[k] = std::max(m_filters[k].step(x), 0.0);
+    const double x = square / m_reference[k];
+    if (age >= SettleBlocks + FadeBlocks)
+        return x;
+    const double part = static_cast<double>(age - SettleBlocks) / FadeBlocks;
+    return 1.0 + part * part * (3.0 - 2.0 * part) * (x - 1.0);
+}
+
+void FlickerMeter::takeBlock(const SampleStore::Sums &square)
+{
+    FlickerFilter::Values values = { { 1.0, 1.0, 1.0, 1.0 } }; // the fourth is a spare
+    for (std::size_t k = 0; k < 3; ++k)
+        values[k] = relativeSquare(k, square[k]);
+    m_filter.step(values);
+    m_last = m_latest;
+    for (std::size_t k = 0; k < 3; ++k)
+        m_latest[k] = m_age[k] > SettleBlocks ? std::max(values[k], 0.0) : 0.0;
 }
 
 // Reads the values between the last two blocks that fall on the 2000-a-second grid. True when the payload is full.
@@ -92,9 +101,7 @@ bool FlickerMeter::deliver()
 bool FlickerMeter::advance(const SampleStore &store)
 {
     while (m_block < store.endBlock()) {
-        const SampleStore::Sums square = store.blockMeanSquare(m_block);
-        for (std::size_t k = 0; k < 3; ++k)
-            takePhase(k, square[k]);
+        takeBlock(store.blockMeanSquare(m_block));
         ++m_block;
         // Blocks come a little faster than values, so there is at most one value between two of them.
         if (deliver())

@@ -4,9 +4,9 @@
 #include "metrology/measurementsink.h"
 #include "metrology/samplestore.h"
 #include "metrology/setup.h"
+#include "signal/synthesiser.h"
 
 #include <cstdint>
-#include <vector>
 
 namespace processor {
 
@@ -34,10 +34,11 @@ public:
     std::int64_t needs() const { return m_block * SampleStore::BlockLength; }
 
 private:
-    void takePhase(std::size_t k, double square);
+    double relativeSquare(std::size_t k, double square);
+    void takeBlock(const SampleStore::Sums &square);
     bool deliver();
 
-    std::vector<FlickerFilter> m_filters; // one a phase
+    FlickerFilter m_filter { 230, 50, SampleRate / SampleStore::BlockLength };
     std::array<double, 3> m_reference {}; // mean square that block 1 divides by
     std::array<std::int64_t, 3> m_age {}; // blocks since a voltage appeared
     std::array<double, 3> m_last {}; // Pinst of the last two blocks

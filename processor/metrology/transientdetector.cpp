@@ -5,13 +5,22 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstring>
 
 namespace processor {
 
 namespace {
 
-// The wave at a fixed distance, read by Lagrange's cubic between samples: three phases at once. The fourth channel is
-// carried along so that the four fill a vector register.
+// The four voltages of a frame in a vector register. The neutral is carried along and never judged.
+typedef float Voltages __attribute__((vector_size(16)));
+constexpr std::size_t Judged = 3;
+
+__attribute__((always_inline)) inline void load(const SampleStore::Frame &frame, Voltages &out)
+{
+    std::memcpy(&out, frame.data(), sizeof(out));
+}
+
+// The wave at a fixed distance, read by Lagrange's cubic between samples.
 class Delayed
 {
 public:
@@ -27,15 +36,18 @@ public:
     std::int64_t low() const { return m_whole - 1; }
     std::int64_t high() const { return m_whole + 2; }
 
-    std::array<float, 4> at(const SampleStore::Frame *frame) const
+    /// Distance of each voltage of `x` from this wave.
+    __attribute__((always_inline)) inline void distance(const SampleStore::Frame *frame, const Voltages &x,
+                                                        Voltages &out) const
     {
-        std::array<float, 4> value {};
+        Voltages wave = {};
         for (std::size_t j = 0; j < 4; ++j) {
-            const SampleStore::Frame &x = frame[m_whole - 1 + static_cast<std::int64_t>(j)];
-            for (std::size_t c = 0; c < 4; ++c)
-                value[c] += m_weight[j] * x[c];
+            Voltages y;
+            load(frame[m_whole - 1 + static_cast<std::int64_t>(j)], y);
+            wave += m_weight[j] * y;
         }
-        return value;
+        const Voltages d = x - wave;
+        out = d < 0.0f ? -d : d;
     }
 
 private:
@@ -57,18 +69,16 @@ PROCESSOR_VECTOR_CODE std::uint32_t TransientDetector::find(const SampleStore &s
     const std::int64_t to = std::min(first + count, store.end() - after.high());
     for (std::int64_t n = from; n < to; ++n) {
         const SampleStore::Frame *frame = &store.frame(n);
-        const std::array<float, 4> expected = before.at(frame);
-        float largest = 0.0f;
-        for (std::size_t c = 0; c < 3; ++c)
-            largest = std::max(largest, std::fabs((*frame)[c] - expected[c]));
-        if (largest <= threshold)
+        Voltages x, distance;
+        load(*frame, x);
+        before.distance(frame, x, distance);
+        if (!(std::max({ distance[0], distance[1], distance[2] }) > threshold))
             continue;
-        const std::array<float, 4> older = twoBefore.at(frame);
-        const std::array<float, 4> later = after.at(frame);
-        for (std::size_t c = 0; c < 3; ++c) {
-            const float x = (*frame)[c];
-            if (std::fabs(x - expected[c]) > threshold && std::fabs(x - older[c]) > threshold
-                && std::fabs(x - later[c]) > threshold)
+        Voltages older, later;
+        twoBefore.distance(frame, x, older);
+        after.distance(frame, x, later);
+        for (std::size_t c = 0; c < Judged; ++c) {
+            if (distance[c] > threshold && older[c] > threshold && later[c] > threshold)
                 return (static_cast<std::uint32_t>(c + 1) << 24) | static_cast<std::uint32_t>(n - first);
         }
     }

@@ -7,14 +7,25 @@
 
 namespace processor {
 
+namespace {
+
+/// Time since the start of the burst that is due at a moment; negative before the first.
+double burstAge(const SignallingSpec &s, double seconds)
+{
+    const double t = seconds - s.startSeconds;
+    return t >= 0.0 && s.periodSeconds > 0.0 ? std::fmod(t, s.periodSeconds) : t;
+}
+
+bool isOnAtAge(const SignallingSpec &s, double age)
+{
+    return age >= 0.0 && (s.onSeconds <= 0.0 || age < s.onSeconds);
+}
+
+} // namespace
+
 bool burstOn(const SignallingSpec &s, double seconds)
 {
-    double t = seconds - s.startSeconds;
-    if (t < 0.0)
-        return false;
-    if (s.periodSeconds > 0.0)
-        t = std::fmod(t, s.periodSeconds);
-    return s.onSeconds <= 0.0 || t < s.onSeconds;
+    return isOnAtAge(s, burstAge(s, seconds));
 }
 
 double modulationAt(const ModulationSpec &m, double seconds)
@@ -149,8 +160,19 @@ void Synthesiser::Private::addSine(double frequencyHz, double phaseDeg, double a
 void Synthesiser::Private::addBursts(int input, std::int64_t first, Block &out) const
 {
     const double amplitude = spec.inputs[std::size_t(input)].rms * Sqrt2;
+    const double from = static_cast<double>(first) / sampleRate;
+    const double to = static_cast<double>(first + BlockLength - 1) / sampleRate;
     for (const SignallingSpec &s : spec.signalling) {
         if ((s.inputs & maskOf(input)) == 0)
+            continue;
+        // Most blocks lie wholly inside or wholly outside of a burst: its age then grows from end to end.
+        const double age = burstAge(s, from), lastAge = burstAge(s, to);
+        const bool on = isOnAtAge(s, age);
+        const bool whole = on == isOnAtAge(s, lastAge) && lastAge > age && (age >= 0.0 || lastAge < 0.0)
+            && (s.periodSeconds <= 0.0 || to - from < s.periodSeconds);
+        if (whole && on)
+            addSine(s.frequencyHz, 0.0, amplitude * s.percent / 100.0, first, out);
+        if (whole)
             continue;
         Block tone {};
         addSine(s.frequencyHz, 0.0, amplitude * s.percent / 100.0, first, tone);
@@ -164,6 +186,16 @@ void Synthesiser::Private::addBursts(int input, std::int64_t first, Block &out) 
 void Synthesiser::Private::modulate(const ModulationSpec &m, std::int64_t first, Block &out) const
 {
     if (m.shape == ModulationSpec::Shape::Rectangular) {
+        // No edge between the block's ends: one factor for all of it.
+        const auto halves = [&](std::int64_t sample) {
+            return std::floor(2.0 * (m.rateHz * (static_cast<double>(sample) / sampleRate) + m.phaseDeg / 360.0));
+        };
+        if (halves(first) == halves(first + BlockLength - 1)) {
+            const double factor = modulationAt(m, static_cast<double>(first) / sampleRate);
+            for (double &value : out)
+                value *= factor;
+            return;
+        }
         for (int i = 0; i < BlockLength; ++i)
             out[std::size_t(i)] *= modulationAt(m, static_cast<double>(first + i) / sampleRate);
         return;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace processor {
 
@@ -44,34 +45,44 @@ PROCESSOR_VECTOR_CODE void sinCycles(const double *__restrict x, double amplitud
     }
 }
 
-WaveTable::WaveTable(const std::vector<HarmonicSpec> &harmonics) : m_harmonics(harmonics), m_points(Points + 3)
+WaveTable::WaveTable(const std::vector<HarmonicSpec> &harmonics) : m_harmonics(harmonics), m_cells(Points + 1)
 {
-    for (int i = 0; i < Points + 3; ++i) {
+    std::vector<double> points(Points + 4); // one before the cycle and three past it
+    for (int i = 0; i < Points + 4; ++i) {
         const double angle = TwoPi * (i - 1) / Points;
         double value = std::sin(angle);
         for (const HarmonicSpec &h : harmonics)
             value += h.percent / 100.0 * std::sin(h.order * angle + h.phaseDeg * TwoPi / 360.0);
-        m_points[static_cast<std::size_t>(i)] = value;
+        points[static_cast<std::size_t>(i)] = value;
+    }
+    // Lagrange's cubic through the four points around, by powers of the place in the cell.
+    for (std::size_t cell = 0; cell < m_cells.size(); ++cell) {
+        const double *p = points.data() + cell; // p[1] stands at the cell's start
+        m_cells[cell] = { { p[1], p[2] - p[0] / 3.0 - p[1] / 2.0 - p[3] / 6.0, (p[0] + p[2]) / 2.0 - p[1],
+                            (p[3] - p[0]) / 6.0 + (p[1] - p[2]) / 2.0 } };
     }
 }
 
 PROCESSOR_VECTOR_CODE void WaveTable::play(const double *__restrict x, double amplitude, double *__restrict out,
                                            int n) const
 {
-    const double *points = m_points.data();
-    for (int i = 0; i < n; ++i) {
-        const double r = x[i] - roundedToInteger(x[i]);
-        const double place = (r < 0.0 ? r + 1.0 : r) * Points;
-        const int cell = std::min(static_cast<int>(place), Points - 1);
-        const double t = place - cell;
-        const double *p = points + cell; // p[1] stands at the cell's start
-        // Lagrange's cubic through the four points around.
-        const double a = t + 1.0;
-        const double b = t - 1.0;
-        const double c = t - 2.0;
-        out[i] = amplitude
-            * (t * b * c * (-1.0 / 6.0) * p[0] + a * b * c * 0.5 * p[1] - a * t * c * 0.5 * p[2]
-               + a * t * b * (1.0 / 6.0) * p[3]);
+    typedef int FourCells __attribute__((vector_size(16)));
+    static_assert(sizeof(Cell) == sizeof(Four), "a cell fills the vector");
+    const Four none = {};
+    const Cell *cells = m_cells.data();
+    for (int i = 0; i + 4 <= n; i += 4) {
+        Four place;
+        std::memcpy(&place, x + i, sizeof(place));
+        place -= (place + RoundingMagic) - RoundingMagic; // -0.5 to 0.5
+        place = (place < none ? place + 1.0 : place) * Points; // 0 to Points, which is the cell past the cycle's end
+        const FourCells cell = __builtin_convertvector(place, FourCells);
+        const Four t = place - __builtin_convertvector(cell, Four);
+        Four rows[4], factor[4];
+        for (int j = 0; j < 4; ++j)
+            std::memcpy(&rows[j], cells[cell[j]].data(), sizeof(Four));
+        transpose(rows, factor);
+        const Four value = amplitude * (factor[0] + t * (factor[1] + t * (factor[2] + t * factor[3])));
+        std::memcpy(out + i, &value, sizeof(value));
     }
 }
 

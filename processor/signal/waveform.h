@@ -3,6 +3,7 @@
 #include "signal/signalspec.h"
 
 #include <memory>
+#include <array>
 #include <vector>
 
 namespace processor {
@@ -18,14 +19,16 @@ class WaveTable
 public:
     explicit WaveTable(const std::vector<HarmonicSpec> &harmonics);
 
-    /// out[i] = amplitude * wave(x[i]), x in cycles.
+    /// out[i] = amplitude * wave(x[i]), x in cycles; n is a multiple of four.
     void play(const double *x, double amplitude, double *out, int n) const;
     bool holds(const std::vector<HarmonicSpec> &harmonics) const;
 
 private:
     static constexpr int Points = 8192;
     std::vector<HarmonicSpec> m_harmonics;
-    std::vector<double> m_points; // one before and two after the cycle
+    /// The wave between two points, as a cubic of the way from the one (0) to the other (1): its four factors.
+    using Cell = std::array<double, 4>;
+    std::vector<Cell> m_cells; // one for each point, and the first once more
 };
 
 } // namespace processor

@@ -85,6 +85,29 @@ TEST(samplesAreTheTrueValuesOfEverythingTheSpecCanSay)
     }
 }
 
+TEST(telegramsAndRectangularSwingsChangeAtTheirSample)
+{
+    // Periods longer and shorter than the 256 samples that are made at once, bursts that fill their period, single and
+    // endless ones, one that begins inside of a block; swings slower and faster than a block.
+    struct Case
+    {
+        double start, on, period, rate;
+    };
+    for (const Case &c : { Case { 0.0, 0.1, 0.3, 0.7 }, Case { 0.0371, 0.0123, 0.0, 8.8 },
+                           Case { 0.01, 0.0, 0.0, 40.0 }, Case { 0.2, 0.25, 0.25, 100.0 / 3.0 },
+                           Case { 0.003, 0.002, 0.005, 310.0 }, Case { 0.0, 0.0125, 0.0125, 80.0 } }) {
+        SignalSpec spec = SignalSpec::threePhase(230.0, 50.0);
+        spec.signalling.push_back({ PhaseVoltages, 285.0, 10.0, c.start, c.on, c.period });
+        spec.inputs[U2].modulation = { ModulationSpec::Shape::Rectangular, c.rate, 10.0, 77.0 };
+        Synthesiser synthesiser(spec);
+        const Rendered samples = render(synthesiser, 16384, 1000);
+        for (int input : { U1, U2 }) {
+            for (std::int64_t n = 0; n < 16384; ++n)
+                CHECK_NEAR(samples[std::size_t(input)][std::size_t(n)], synthesiser.valueAt(input, n), 1e-5);
+        }
+    }
+}
+
 TEST(pureSineIsExactAfterAWeek)
 {
     // At the start of a week's last second the sample number is 1.2e10; the phase is still the formula's.
