@@ -121,7 +121,6 @@ bool Gallery::showPage(DeskInstrument &desk, const Page &page, const QString &va
         if (!desk.press(shot.keys) || !take(desk, page, shot.name, variant))
             return false;
     }
-    // F5 closes the message that a function not built yet answers with; where there is none it only holds the display.
     return desk.press(page.leave) && desk.press({ QStringLiteral("F7") });
 }
 

@@ -47,6 +47,7 @@ const QVector<Page> &galleryPages()
     constexpr bool kNotAt400Hz = false;
     constexpr bool kOneWiring = false;
     static const QVector<Page> pages = {
+        // F5 closes the message that a function which is not built yet answers with.
         byKey("menu", "", { "menu", "F1: status" }, "F5", true, kOneWiring),
         fromMenu("power", "power", { "table", "F3: energy", "F3 F4: trend" }),
         fromMenu("vif", "vif", { "table", "F5: held", "F5 F4: trend", "F1 F1: trend-u-dc", "F1 F1: trend-i-rms" }),
@@ -59,14 +60,14 @@ const QVector<Page> &galleryPages()
         fromMenu("inrush", "inrush", { "setup", "F5: trend", "F2: events" }),
         fromMenu("transients", "transients", { "setup", "F5: live", "F1: captured" }),
         fromMenu("mains-signaling", "mainssignaling", { "table", "F4: trend", "F1: trend-next" }),
-        fromMenu("wave", "wave", { "setup" }, "", true, kOneWiring),
-        fromMenu("logger", "logger", { "setup", "F2: parameters" }, "F5", true, kOneWiring),
-        fromMenu("user", "user", { "user" }, "", true, kOneWiring),
+        fromMenu("wave", "wave", { "message" }, "F5", true, kOneWiring),
+        fromMenu("logger", "logger", { "message" }, "F5", true, kOneWiring),
+        fromMenu("user", "user", { "message" }, "F5", true, kOneWiring),
         byKey("scope", "F6",
               { "voltage", "F1: next", "F1: next-2", "F1: next-3", "F1: next-4", "F3: cursor", "F3 F4 Up: zoom" }),
-        byKey("monitor", "F8", { "setup" }, "", kNotAt400Hz, kOneWiring),
-        byKey("setup", "F9", { "setup", "F5: page-2" }),
-        byKey("memory", "F10", { "memory" }, "F5", true, kOneWiring),
+        byKey("monitor", "F8", { "message" }, "F5", kNotAt400Hz, kOneWiring),
+        byKey("setup", "F9", { "message" }, "F5", true, kOneWiring),
+        byKey("memory", "F10", { "message" }, "F5", true, kOneWiring),
     };
     return pages;
 }
