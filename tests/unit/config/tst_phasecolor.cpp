@@ -63,7 +63,7 @@ private slots:
     void anotherLengthThanFiveGivesTheUsualColours_data()
     {
         QTest::addColumn<QString>("digits");
-        for (const char *digits : { "", "0123", "012312", "5" })
+        for (const char *digits : { "", "0123", "012312", "543210", "5" })
             QTest::newRow(digits) << QString::fromLatin1(digits);
     }
     void anotherLengthThanFiveGivesTheUsualColours()

@@ -23,6 +23,7 @@ private slots:
     void percentilesNeverReadOutsideTheList();
     void pstOfEqualValues();
     void pstWeighsTheSmoothedPercentiles();
+    void pstOfARampFollowsEveryFraction();
     void pstOfNegativeValuesIsNoNumber();
     void floatsAreResampledTo600();
     void resamplingOfAStraightLineStaysStraight();
@@ -136,6 +137,19 @@ void TstDerivedQuantities::pstWeighsTheSmoothedPercentiles()
         values << (i < 30 ? 100.0f : i < 600 ? 50.0f : i < 1500 ? 20.0f : i < 6000 ? 10.0f : 1.0f);
     const double expected = std::sqrt(0.0314 * 100 + 0.0525 * 50 + 0.0657 * 20 + 0.28 * 10 + 0.08 * 1);
     QVERIFY(std::fabs(DataTypes::pst10min(&values, 30000) - expected) < 1e-3);
+}
+
+void TstDerivedQuantities::pstOfARampFollowsEveryFraction()
+{
+    // 1000, 999 ... 1: the value at fraction p is 1001 - 1000 p, so each mean is that of its fractions.
+    QList<float> values;
+    for (int i = 1000; i > 0; --i)
+        values << float(i);
+    const double p1 = (0.007 + 0.01 + 0.015) / 3, p3 = (0.022 + 0.03 + 0.04) / 3;
+    const double p10 = (0.06 + 0.08 + 0.1 + 0.13 + 0.17) / 5, p50 = (0.3 + 0.5 + 0.8) / 3;
+    const double square = 0.5096 * 1001 - 1000 * (0.0314 * 0.001 + 0.0525 * p1 + 0.0657 * p3 + 0.28 * p10 + 0.08 * p50);
+    const double pst = DataTypes::pst10min(&values, 1000);
+    QVERIFY(std::fabs(pst * pst - square) < 1e-3); // a fraction that is 0.001 off moves it by 0.0175 at least
 }
 
 void TstDerivedQuantities::pstOfNegativeValuesIsNoNumber()

@@ -9,6 +9,7 @@
 #include <QThread>
 #include <cmath>
 #include <cstring>
+#include <limits>
 #include <memory>
 
 /// The facade: frames to the wire in their order, datagrams into the main thread.
@@ -199,7 +200,10 @@ void TstIDevice::nominalFrequencyIsTakenWithinOneHertz_data()
     QTest::addColumn<quint32>("sent");
     QTest::newRow("50.9") << 50.9 << 50u;
     QTest::newRow("49.1") << 49.1 << 50u;
+    QTest::newRow("51: still within") << 51.0 << 50u;
+    QTest::newRow("59: still within") << 59.0 << 60u;
     QTest::newRow("51.1") << 51.1 << 400u;
+    QTest::newRow("no number") << std::numeric_limits<double>::quiet_NaN() << 400u;
     QTest::newRow("59.5") << 59.5 << 60u;
     QTest::newRow("400") << 400.0 << 400u;
     QTest::newRow("55") << 55.0 << 400u;

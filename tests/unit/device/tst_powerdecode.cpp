@@ -82,6 +82,9 @@ void TstPowerDecode::sequenceRatios_data()
         << Row { 200, 100, 100 } << Row { 0, -120, 120 } << Row { 133.3333f, 33.33333f, 25, 33.33333f, 25 };
     QTest::newRow("equal phases: only zero sequence")
         << Row { 90, 90, 90 } << Row { 0, 0, 0 } << Row { 0, 0, 0, 90, 100 };
+    // 30 |1 + 2 cos 110|, 30 |1 + 2 cos 230|, 30 (1 + 2 cos 10): the zero sequence is 940 percent, held to 100.
+    QTest::newRow("nearly equal phases: the ratio is capped")
+        << Row { 90, 90, 90 } << Row { 0, -10, -20 } << Row { 9.478791f, 8.567256f, 90.38342f, 89.08847f, 100 };
     QTest::newRow("nothing") << Row { 0, 0, 0 } << Row { 0, 0, 0 } << Row { 0, 0, 0, 0, 0 };
 }
 

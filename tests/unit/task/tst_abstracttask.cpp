@@ -250,6 +250,7 @@ void TstAbstractTask::baseTickCountsDownStartsAndEndsAtTheLifeCycle()
     }
     QCOMPARE(texts, QStringList({ "-00:00:02", "-00:00:01", "-00:00:00", "00:00:01", "00:00:02", "00:00:03" }));
     QVERIFY(task.isTaskStoped());
+    QCOMPARE(Clock::seconds(), kNow + 5); // in the second of its end, not behind it
 }
 
 void TstAbstractTask::dataTimerRunsOnlyAfterTheStart()
