@@ -85,10 +85,15 @@ void UniTask::drainRings()
 
 void UniTask::changeEventsList(const QList<PQAEventItem> &events)
 {
-    g_events_list.clear();
-    g_events_list.reserve(events.size());
-    for (const PQAEventItem &event : events)
-        g_events_list.append(event);
+    // Entries are overwritten where they stand: ten thousand of them made anew at each change would hold up the pages.
+    while (g_events_list.size() > events.size())
+        g_events_list.removeLast();
+    for (int i = 0; i < events.size(); ++i) {
+        if (i < g_events_list.size())
+            g_events_list[i] = events.at(i);
+        else
+            g_events_list.append(events.at(i));
+    }
     emit refreshEventList(nullptr);
     emit hasEvents();
 }

@@ -1,3 +1,4 @@
+#include "config/pqaeventitem.h"
 #include "pqa2/pqa2ff.h"
 #include "unitaskcase.h"
 
@@ -20,6 +21,7 @@ private slots:
     void trendsKeepTheirLength();
     void singlePhaseWiringFeedsOneChannel();
     void dipIsListed();
+    void listFollowsTheDetectorWhateverItHeld();
     void transientIsCutAndListed();
     void transientNumberRestartsWithTheTask();
     void transientCodesFollowTheWiring();
@@ -108,6 +110,32 @@ void TstUniTaskStream::dipIsListed()
     QCOMPARE(g_events_list[0].finished, 1);
     QCOMPARE(g_events_list[0].duration, 100);
     QCOMPARE(g_events_list[0].value, 1.5f * kVolt);
+}
+
+void TstUniTaskStream::listFollowsTheDetectorWhateverItHeld()
+{
+    PQAEventItem first;
+    first.type = EventDip;
+    first.startTime = 1;
+    PQAEventItem second = first;
+    second.type = EventSwell;
+    second.value = 253;
+    m_task->changeEventsList({ first, second });
+    QCOMPARE(g_events_list.size(), 2);
+    const QList<__event_item> kept = g_events_list; // a page's copy stays as it is
+    first.type = EventInterruption;
+    first.finished = 1;
+    m_task->changeEventsList({ first });
+    QCOMPARE(g_events_list.size(), 1);
+    QCOMPARE(g_events_list[0].type, qint32(EventInterruption));
+    QCOMPARE(g_events_list[0].finished, 1);
+    QCOMPARE(kept[0].type, qint32(EventDip));
+    QCOMPARE(kept[1].value, 253.0f);
+    m_task->changeEventsList({ first, second, second });
+    QCOMPARE(g_events_list.size(), 3);
+    QCOMPARE(g_events_list[2].type, qint32(EventSwell));
+    m_task->changeEventsList({});
+    QVERIFY(g_events_list.isEmpty());
 }
 
 void TstUniTaskStream::transientIsCutAndListed()
