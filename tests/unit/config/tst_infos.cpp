@@ -318,6 +318,10 @@ private slots:
         m_settingConfig_g.setTransThreshold(120);
         QCOMPARE(TransParam::m_trans_threshold, 120);
         QCOMPARE(Config::readConfigFile(SettingConfig::filePath(), "TRANS_THRESHOLD"), QString("120"));
+        Config::writeConfigFile(SettingConfig::filePath(), "TRANS_THRESHOLD", "75");
+        m_settingConfig_g.loadSettingConfig();
+        QCOMPARE(TransParam::m_trans_threshold, 75);
+        m_settingConfig_g.setTransThreshold(50);
     }
 
     void transientsStartEmpty()

@@ -51,7 +51,7 @@ private slots:
         QCOMPARE(changed.count(), 1);
     }
 
-    void chineseHasAFontOfItsOwn()
+    void chineseAndJapaneseHaveAFontOfTheirOwn()
     {
         if (!RootFiles::exists("/usr/lib/fonts/WenQuanYiZenHei.ttf") || !RootFiles::exists("/usr/lib/fonts/arial.ttf"))
             QFAIL("the fonts of docs/desk-set-up.md are not installed");
@@ -61,6 +61,9 @@ private slots:
         QCOMPARE(QApplication::font("QWidget").family(), QString("WenQuanYi Zen Hei"));
         languageTranslator.initLangTranslation(UserConfig::RU);
         QCOMPARE(QApplication::font("QWidget").family(), QString("Liberation Sans"));
+        QVERIFY(QFile::copy(QStringLiteral(TEST_LANGUAGE_FILE), Target::path("/mnt/userfs/language/lang_jp.qm")));
+        languageTranslator.initLangTranslation(UserConfig::JP);
+        QCOMPARE(QApplication::font("QWidget").family(), QString("WenQuanYi Zen Hei"));
     }
 
     void filesThatAreNoTranslationDoNotHurt_data()

@@ -321,6 +321,8 @@ private slots:
         QCOMPARE(config.getStepSize(), 10);
         config.changeStepSize(7);
         QCOMPARE(config.getStepSize(), 7);
+        config.loadSettingConfig();
+        QCOMPARE(config.getStepSize(), 2);
     }
 
     void theLegacyTableEndsWithTheCustomClamp()

@@ -257,6 +257,7 @@ private slots:
         QTest::newRow("QUVERAE") << QByteArray("QUVERAE") << 1 << "QUVERAE";
         QTest::newRow("QUVERA") << QByteArray("QUVERA") << 2 << "QUVERA";
         QTest::newRow("other") << QByteArray("quverae") << 2 << "QUVERA";
+        QTest::newRow("more behind the word") << QByteArray("QUVERAE2") << 2 << "QUVERA";
     }
     void theModelComesFromItsWord()
     {

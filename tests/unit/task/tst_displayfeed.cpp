@@ -167,10 +167,12 @@ void TstDisplayFeed::trendOfSignalsIsInPercent()
 {
     __mains_sig_data data;
     data.signal1[1] = 0.05f;
+    data.signal2[1] = 0.04f;
     data.signal2Mean[1] = 3.0f;
     data.frequency = -49.5f;
     DisplayFeed::trendMainsSignal(data);
     QCOMPARE(data.trend[0].series[1].last(), 5.0f);
+    QCOMPARE(data.trend[2].series[1].last(), 4.0f);
     QCOMPARE(data.trend[3].series[1].last(), 3.0f);
     QCOMPARE(data.frequencyTrend.last(), 49.5f);
 }

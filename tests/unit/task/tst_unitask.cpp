@@ -1,3 +1,4 @@
+#include "config/inrushinfo.h"
 #include "config/monitorinfo.h"
 #include "config/waveinfo.h"
 #include "unitaskcase.h"
@@ -38,6 +39,8 @@ private slots:
     void changeFlagSetsTheReference();
     void resetEnergyClearsCountersAndShowsIt();
     void secondTrendsNeedAFreshAggregation();
+    void secondTrendsAreKeptByBasicMeasuringOnly();
+    void inrushTrendHoldsTheChosenDuration();
     void scopeStartsAtTheTrigger();
     void inverterFunctionTellsTheDebugLog();
 
@@ -218,6 +221,8 @@ void TstUniTask::energyIntegratesByTheLocalClock()
     start();
     Payload p = aggregation();
     p.set(5, 4.0f);
+    // Fundamentals of U1 and I1, the current a quarter turn behind.
+    p.set(44, 3.0f).set(1644, 1.0f).set(1645, -1.5707964f);
     const double watts = 4.0 * kVolt * kAmpere;
     for (int i = 0; i < 3600; ++i) { // an hour by the local clock; the stamps of the processor stand still
         Clock::advance(1000);
@@ -227,6 +232,9 @@ void TstUniTask::energyIntegratesByTheLocalClock()
     QVERIFY(std::fabs(g_power_data->activeEnergy[0] / watts - 1.0) < 1e-4);
     const double voltAmperes = 2.0 * kVolt * 1.0 * kAmpere;
     QVERIFY(std::fabs(m_task->aggregation().energy[0].apparent / voltAmperes - 1.0) < 1e-4);
+    const double vars = 3.0 * kVolt * 1.0 * kAmpere;
+    QVERIFY(std::fabs(m_task->aggregation().energy[0].reactive / vars - 1.0) < 1e-4);
+    QVERIFY(std::fabs(g_power_data->reactiveEnergy[0] / vars - 1.0) < 1e-4);
     QCOMPARE(g_power_data->hours, 1);
     QCOMPARE(g_power_data->minutes, 0);
     QCOMPARE(g_power_data->seconds, 0);
@@ -303,6 +311,32 @@ void TstUniTask::resetEnergyClearsCountersAndShowsIt()
     QCOMPARE(g_power_data->seconds, 0);
     QCOMPARE(m_task->aggregation().energy[0].active, 0.0);
     QCOMPARE(display.count(), 1);
+}
+
+void TstUniTask::secondTrendsAreKeptByBasicMeasuringOnly()
+{
+    start();
+    for (auto function : { AbstractTask::UniWave, AbstractTask::UniLogger, AbstractTask::UniMonitor }) {
+        m_task->initUniFunction(function);
+        Clock::advance(1000);
+        m_task->datagramAggregation(aggregation().bytes());
+        m_task->datagramWave(wave().bytes());
+        QVERIFY(g_vif_data->trend[VifTrendURms].series[0].isEmpty());
+    }
+}
+
+void TstUniTask::inrushTrendHoldsTheChosenDuration()
+{
+    for (int row : { 0, 1 }) { // 6 s, 60 s
+        InrushInfo::m_duration_index = row;
+        renew(g_inrush_data);
+        m_task = std::make_unique<UniTask>();
+        InrushInfo::m_duration_index = 0;
+        start();
+        for (int i = 0; i < 301; ++i)
+            m_task->datagramRMS_1_2(halfCycles(20, 2.9f, 1.0f, kNow + 200 * i).bytes());
+        QCOMPARE(g_inrush_data->voltage[0].size(), row == 0 ? 600 : 6000); // 100 a second
+    }
 }
 
 void TstUniTask::secondTrendsNeedAFreshAggregation()
