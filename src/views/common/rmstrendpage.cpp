@@ -64,6 +64,7 @@ void RmsTrendPage::retranslateUi()
     setKeyCaption(2, tr("Events"));
     setText(findChild<QLabel *>(QStringLiteral("events_t")), tr("EVENTS :"));
     showType();
+    showCurVal(); // on hold no refresh would bring the values back
 }
 
 void RmsTrendPage::showEventsCounts(int count)

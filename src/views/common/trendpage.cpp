@@ -33,6 +33,8 @@ void TrendPage::retranslateUi()
     ViewPage::retranslateUi();
     initTrendFlags();
     showType();
+    if (quantity().record())
+        showValue(); // on hold no refresh would bring it back
 }
 
 void TrendPage::nextType()

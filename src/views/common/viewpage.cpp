@@ -22,7 +22,6 @@ void ViewPage::setNoKeys()
 void ViewPage::finishKeys()
 {
     retranslateUi();
-    showHold();
 }
 
 bool ViewPage::hasOwnKey(int key) const
@@ -37,6 +36,7 @@ void ViewPage::retranslateUi()
             setKeyCaption(row.key - Qt::Key_F1 + 1,
                           QCoreApplication::translate(metaObject()->className(), row.caption));
     }
+    showHold();
 }
 
 void ViewPage::setKeyCaption(int number, const QString &text)

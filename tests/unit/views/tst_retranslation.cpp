@@ -1,0 +1,136 @@
+#include "device/idevice.h"
+#include "pagetest.h"
+#include "views/dips/dswell.h"
+#include "views/flicker/flicker.h"
+#include "views/harmonics/harm.h"
+#include "views/inrush/inrushpage.h"
+#include "views/mainssignaling/mainssignaling.h"
+#include "views/power/powen.h"
+#include "views/powerinverter/powerinverter.h"
+#include "views/scope/scopepage.h"
+#include "views/transients/trans.h"
+#include "views/unbalance/unbalan.h"
+#include "views/vif/vifpage.h"
+
+#include <QAbstractButton>
+#include <QMap>
+#include <QTranslator>
+
+#include <functional>
+#include <memory>
+
+namespace {
+
+/// A language in which every text begins with a sign of its own.
+class MarkedLanguage : public QTranslator
+{
+public:
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        return QLatin1Char('~') + QString::fromUtf8(source);
+    }
+    bool isEmpty() const override { return false; }
+};
+
+/// Texts of all labels and buttons, by the classes and names on the way down to each.
+QMap<QString, QString> texts(const QWidget *page)
+{
+    QMap<QString, QString> result;
+    for (const QWidget *widget : page->findChildren<QWidget *>()) {
+        QString path = widget->objectName();
+        for (const QWidget *above = widget->parentWidget(); above != page; above = above->parentWidget())
+            path.prepend(QString::fromLatin1(above->metaObject()->className()) + QLatin1Char('/'));
+        if (const auto *label = qobject_cast<const QLabel *>(widget))
+            result.insert(path, label->text());
+        else if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
+            result.insert(path, button->text());
+    }
+    return result;
+}
+
+using MakePage = std::function<FunctionPage *()>;
+
+template <typename Page> FunctionPage *makePage()
+{
+    return new Page;
+}
+
+} // namespace
+Q_DECLARE_METATYPE(MakePage)
+
+/// Every measuring function after the user chose another language.
+class TstRetranslation : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void languageChangeReachesEveryText_data();
+    void languageChangeReachesEveryText();
+    void heldPageSaysRunInTheNewLanguage();
+};
+
+void TstRetranslation::initTestCase()
+{
+    PageTest::setUpMeasurement(1);
+    if (!m_idevice)
+        m_idevice = new IDevice;
+}
+
+void TstRetranslation::languageChangeReachesEveryText_data()
+{
+    QTest::addColumn<MakePage>("make");
+    QTest::newRow("vif") << MakePage(makePage<VifPage>);
+    QTest::newRow("scope") << MakePage(makePage<ScopePage>);
+    QTest::newRow("dips and swells") << MakePage(makePage<dswell>);
+    QTest::newRow("harmonics") << MakePage(makePage<harm>);
+    QTest::newRow("power") << MakePage(makePage<powen>);
+    QTest::newRow("flicker") << MakePage(makePage<flicker>);
+    QTest::newRow("unbalance") << MakePage(makePage<unbalan>);
+    QTest::newRow("transients") << MakePage(makePage<trans>);
+    QTest::newRow("inrush") << MakePage(makePage<InrushPage>);
+    QTest::newRow("mains signaling") << MakePage(makePage<MainsSignaling>);
+    QTest::newRow("power inverter") << MakePage(makePage<PowerInverter>);
+}
+
+void TstRetranslation::languageChangeReachesEveryText()
+{
+    QFETCH(MakePage, make);
+    std::unique_ptr<FunctionPage> page(make());
+    page->init_parameter();
+    page->updateDisplay(nullptr);
+    const QMap<QString, QString> english = texts(page.get());
+
+    MarkedLanguage language;
+    QVERIFY(QCoreApplication::installTranslator(&language));
+    page->retranslateUi();
+    // What a page shows that never knew another language.
+    std::unique_ptr<FunctionPage> fresh(make());
+    fresh->init_parameter();
+    fresh->updateDisplay(nullptr);
+    const QMap<QString, QString> expected = texts(fresh.get());
+    QVERIFY(expected != english);
+    const QMap<QString, QString> shown = texts(page.get());
+    QCOMPARE(shown.keys(), expected.keys());
+    for (const QString &name : expected.keys())
+        QVERIFY2(shown[name] == expected[name], qPrintable(name + ": " + shown[name] + " for " + expected[name]));
+
+    QCoreApplication::removeTranslator(&language);
+    page->retranslateUi();
+    QCOMPARE(texts(page.get()), english);
+}
+
+void TstRetranslation::heldPageSaysRunInTheNewLanguage()
+{
+    harm page;
+    page.init_parameter();
+    emit page.taskPaused();
+    MarkedLanguage language;
+    QCoreApplication::installTranslator(&language);
+    page.retranslateUi();
+    QCOMPARE(PageTest::text(page.currentPage(), "btn_f5"), QStringLiteral("~Run"));
+    QCoreApplication::removeTranslator(&language);
+}
+
+PAGE_TEST_MAIN(TstRetranslation)
+#include "tst_retranslation.moc"
