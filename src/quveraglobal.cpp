@@ -120,6 +120,7 @@ void appInit()
     makePages();
     m_basedialog = new BaseDialog;
     m_basedialog->show();
+    m_basedialog->activateWindow(); // not the splash; on a desk a window manager may be missing
 
     initUiParameter();
     ScreenShot::initScreenShot();

@@ -77,27 +77,37 @@ void SoftKeyDialog::fitText(QLabel *label, const QString &text, int largestPixel
     label->setText(text);
 }
 
-QPoint SoftKeyDialog::instrumentOrigin()
+QWidget *SoftKeyDialog::openerWindow()
 {
-    const auto *active = QApplication::activeWindow();
-    if (const auto *dialog = qobject_cast<const SoftKeyDialog *>(active))
-        return dialog->m_origin;
-    if (active)
-        return active->mapToGlobal(QPoint(0, 0));
-    for (const QWidget *window : QApplication::topLevelWidgets()) {
-        if (window->isVisible() && window->windowType() != Qt::ToolTip && !qobject_cast<const SoftKeyDialog *>(window))
-            return window->mapToGlobal(QPoint(0, 0));
+    if (QWidget *active = QApplication::activeWindow())
+        return active;
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        const bool page = window->windowType() != Qt::ToolTip && window->windowType() != Qt::SplashScreen;
+        if (window->isVisible() && page && !qobject_cast<const SoftKeyDialog *>(window))
+            return window;
     }
-    return {};
+    return nullptr;
 }
 
 void SoftKeyDialog::setVisible(bool visible)
 {
-    if (visible && !isVisible()) {
-        m_origin = instrumentOrigin();
+    if (visible == isVisible())
+        return QDialog::setVisible(visible);
+    if (visible) {
+        m_opener = openerWindow();
+        if (const auto *dialog = qobject_cast<const SoftKeyDialog *>(m_opener.data()))
+            m_origin = dialog->m_origin;
+        else
+            m_origin = m_opener ? m_opener->mapToGlobal(QPoint(0, 0)) : QPoint();
         move(m_origin + QPoint(0, kScreenBottom - height()));
     }
+    const bool hadKeyboard = isActiveWindow();
     QDialog::setVisible(visible);
+    // Where no window manager does it, the keyboard comes to the dialog and goes back to the page.
+    if (visible)
+        activateWindow();
+    else if (hadKeyboard && m_opener)
+        m_opener->activateWindow();
 }
 
 void SoftKeyDialog::keyPressEvent(QKeyEvent *event)

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 #include <QPixmap>
+#include <QPointer>
 
 class QLabel;
 
@@ -34,8 +35,10 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    static QPoint instrumentOrigin();
+    /// The window that a dialog opens over: the one with the keyboard, else that of the pages.
+    static QWidget *openerWindow();
 
+    QPointer<QWidget> m_opener;
     QPoint m_origin; // of the instrument's window on the desk's screen
     QPixmap m_background;
 };

@@ -23,6 +23,7 @@ private slots:
     void theHeldKeyThatOpenedItDoesNotAnswerIt();
     void standsAtTheBottomOfTheInstrumentsWindow();
     void aMessageOverADialogStandsAtTheSameBottom();
+    void theKeyboardComesToTheDialogAndGoesBack();
     void longTextsAreNotCutOff();
     void eventsGoOnWhileItIsOpen();
 };
@@ -198,6 +199,25 @@ void TstMessage::aMessageOverADialogStandsAtTheSameBottom()
     Message above(2, QStringLiteral("two"));
     above.show();
     QCOMPARE(above.pos(), below.pos());
+}
+
+void TstMessage::theKeyboardComesToTheDialogAndGoesBack()
+{
+    QWidget instrument;
+    instrument.setFixedSize(640, 480);
+    instrument.show();
+    instrument.activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), &instrument);
+    Message question(4, QStringLiteral("text"));
+    question.show();
+    QTRY_COMPARE(QApplication::activeWindow(), static_cast<QWidget *>(&question));
+    Message upon(0, QStringLiteral("text"));
+    upon.show();
+    QTRY_COMPARE(QApplication::activeWindow(), static_cast<QWidget *>(&upon));
+    QTest::keyClick(&upon, 'L');
+    QTRY_COMPARE(QApplication::activeWindow(), static_cast<QWidget *>(&question));
+    QTest::keyClick(&question, 'L');
+    QTRY_COMPARE(QApplication::activeWindow(), &instrument);
 }
 
 void TstMessage::longTextsAreNotCutOff()
