@@ -59,7 +59,7 @@ private slots:
         QCOMPARE(RootFiles::read(kIndex), QByteArray("a.png,2023-11-14 22:13:20\n"));
     }
 
-    void namesAreReadUpToTheFirstComma()
+    void namesAreReadUpToTheFirstCommaOrAreTheWholeLine()
     {
         RootFiles::write(kIndex, "a.pqa,2023-01-01 00:00:00\nno comma\nb.png,x,y\n");
         QCOMPARE(FileInfo().readInfo(), QStringList({ "a.pqa,2023-01-01 00:00:00", "no comma", "b.png,x,y" }));

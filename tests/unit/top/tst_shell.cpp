@@ -80,6 +80,7 @@ private slots:
     void memoryKeyWhileRecordingAsksNothing();
     void backFromMemoryRestoresPageAndTitle();
     void recordingQuestionOffersSaveExitRestartCancel();
+    void restartInTheRecorderQuestionStaysAndBeginsANewRecording();
     void functionNotBuiltAnswersWithAMessage();
     void monitorKeyDoesNothingAt400Hz();
     void firstPressOnADarkScreenOnlyLightsIt();
@@ -388,6 +389,24 @@ void TstShell::recordingQuestionOffersSaveExitRestartCancel()
             QVERIFY(g_unitask->recordEnabled());
         }
     }
+}
+
+void TstShell::restartInTheRecorderQuestionStaysAndBeginsANewRecording()
+{
+    enterVif();
+    m_taskmanage->exitTask();
+    m_basedialog->startMonitorTask();
+    g_unitask->startTask();
+    RecordInfo::m_in_recording = 1;
+    QSignalSpy destroyed(g_unitask, &QObject::destroyed);
+    DialogAnswer restart(Qt::Key_Y);
+    m_basedialog->showScope(UI_VIF, UI_SCOPE);
+    QVERIFY(restart.text.contains("Logger is running!"));
+    QCOMPARE(destroyed.count(), 1);
+    QVERIFY(g_unitask->recordEnabled());
+    QCOMPARE(m_taskmanage->getUniFunction(), 1);
+    QCOMPARE(top(), static_cast<QWidget *>(m_vifpage));
+    QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
 }
 
 void TstShell::functionNotBuiltAnswersWithAMessage()
