@@ -198,8 +198,9 @@ QString Commands::event(const Words &words)
     problem = QString::fromStdString(processor::validate(event));
     if (!problem.isEmpty())
         return error(problem);
-    m_on.simulator->addEvent(event, read.waitSeconds);
-    return ok();
+    if (m_on.simulator->addEvent(event, read.waitSeconds))
+        return ok();
+    return error(QStringLiteral("%1 events are not over, event clear ends them").arg(Simulator::kMostRunning));
 }
 
 QString Commands::fault(const Words &words)

@@ -5,11 +5,14 @@
 #include "scenario/eventforms.h"
 #include "scenario/jsonkeys.h"
 #include "scenario/signalreader.h"
+#include "signal/eventplay.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
+
+#include <cmath>
 
 namespace scenario {
 
@@ -17,6 +20,7 @@ namespace {
 
 constexpr double kMaxSeconds = 1e7;
 constexpr double kLeastPeriod = 0.02; // s
+constexpr double kMostAtOnce = 64.0; // of one recurring event
 constexpr qint64 kMaxFileBytes = 4 << 20;
 constexpr char kOwnScenarios[] = ":/scenarios/";
 
@@ -35,6 +39,21 @@ Times readTimes(JsonKeys *keys)
         keys->wrong(QStringLiteral("every"),
                     QStringLiteral("0 for once, or a period of %1 s or more").arg(kLeastPeriod));
     return { at, every };
+}
+
+/// An event that comes again has to end, and soon enough that they do not pile up.
+void checkRecurrence(JsonKeys *keys, const TimedEvent &timed)
+{
+    const double length = processor::lengthOf(timed.event);
+    if (timed.every <= 0.0 || length <= kMostAtOnce * timed.every)
+        return;
+    if (std::isinf(length))
+        keys->wrong(QStringLiteral("length"), QStringLiteral("more than 0, since the event comes again"));
+    else
+        keys->wrong(QStringLiteral("every"),
+                    QStringLiteral("%1 s or more, so that at most %2 of these run at once")
+                        .arg(length / kMostAtOnce)
+                        .arg(kMostAtOnce));
 }
 
 TimedEvent readEvent(JsonErrors *errors, const QString &path, const QJsonValue &value)
@@ -64,6 +83,7 @@ TimedEvent readEvent(JsonErrors *errors, const QString &path, const QJsonValue &
     const std::string problem = processor::validate(timed.event);
     if (!problem.empty())
         errors->add(path, QString::fromStdString(problem));
+    checkRecurrence(&keys, timed);
     return timed;
 }
 

@@ -1,5 +1,7 @@
 #include "scenario/simulator.h"
 
+#include "signal/eventplay.h"
+
 #include <QFile>
 
 #include <algorithm>
@@ -10,7 +12,7 @@ namespace scenario {
 namespace {
 
 constexpr int kEventsKept = 256; // begun since the last clearing; more make the synthesiser's list be cleared
-constexpr double kDecays = 20.0; // time constants after which nothing of a decaying event is left
+constexpr double kLongestWait = 1.1; // s, for a point on wave: one cycle of 1 Hz, the lowest frequency there is
 
 processor::SignalSpec withoutEvents(processor::SignalSpec signal)
 {
@@ -21,17 +23,7 @@ processor::SignalSpec withoutEvents(processor::SignalSpec signal)
 /// Second at which \a event is over for certain; a change that stays for good never is.
 double endOf(const processor::SignalEvent &event)
 {
-    using processor::EventKind;
-    const double start = event.startSeconds + 0.2; // the wait for a point on wave, at 10 Hz at most 100 ms
-    switch (event.kind) {
-    case EventKind::ImpulsiveTransient:
-    case EventKind::OscillatoryTransient:
-    case EventKind::Inrush:
-        return start + kDecays * (event.decaySeconds + event.riseSeconds);
-    default:
-        return event.durationSeconds > 0.0 ? start + event.durationSeconds + 2.0 * event.riseSeconds
-                                           : std::numeric_limits<double>::infinity();
-    }
+    return event.startSeconds + kLongestWait + processor::lengthOf(event);
 }
 
 // Microvolts per ampere: the clamps that an instrument with factory settings is set to.
@@ -126,16 +118,25 @@ void Simulator::takeDue(double until, QStringList *commands)
     }
 }
 
-void Simulator::addEvent(processor::SignalEvent event, double secondsFromNow)
+bool Simulator::addEvent(processor::SignalEvent event, double secondsFromNow)
 {
+    forgetOver();
+    if (m_running.size() >= kMostRunning)
+        return false;
     event.startSeconds = seconds() + std::max(0.0, secondsFromNow);
     begin(event);
+    return true;
+}
+
+void Simulator::forgetOver()
+{
+    const auto over = [this](const processor::SignalEvent &running) { return endOf(running) < seconds(); };
+    m_running.erase(std::remove_if(m_running.begin(), m_running.end(), over), m_running.end());
 }
 
 void Simulator::begin(const processor::SignalEvent &event)
 {
-    const auto over = [this](const processor::SignalEvent &running) { return endOf(running) < seconds(); };
-    m_running.erase(std::remove_if(m_running.begin(), m_running.end(), over), m_running.end());
+    forgetOver();
     m_running.push_back(event);
     if (++m_begun > kEventsKept)
         applySignal();

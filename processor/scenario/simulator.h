@@ -40,8 +40,11 @@ public:
     double seconds() const { return m_synthesiser.seconds(); }
     qint64 milliseconds() const { return m_synthesiser.position() * 1000 / qint64(processor::SampleRate); }
 
-    /// Begins \a event so many seconds from now.
-    void addEvent(processor::SignalEvent event, double secondsFromNow);
+    /// Events that can be asked for at a time: those that stay for good would else slow a long run down without end.
+    static constexpr std::size_t kMostRunning = 256;
+
+    /// Begins \a event so many seconds from now. False, and nothing begins, while kMostRunning are not over.
+    bool addEvent(processor::SignalEvent event, double secondsFromNow);
     void clearEvents();
     /// The steady signal, without events. Running events go on when it is replaced.
     const processor::SignalSpec &signal() const { return m_signal; }
@@ -60,6 +63,7 @@ private:
     void followLink();
     void takeDue(double until, QStringList *commands);
     void begin(const processor::SignalEvent &event);
+    void forgetOver();
     void applySignal();
 
     Scenario m_scenario; // times of its events and steps move on as they recur

@@ -27,23 +27,27 @@ bool hasFront(const SignalEvent &event)
 
 } // namespace
 
-EventPlay::EventPlay(const SignalEvent &e, double startSample, double sampleRate)
-    : event(e), start(startSample), end(std::numeric_limits<double>::infinity()), m_sampleRate(sampleRate)
+double lengthOf(const SignalEvent &e)
 {
     switch (e.kind) {
     case EventKind::Inrush:
     case EventKind::ImpulsiveTransient:
     case EventKind::OscillatoryTransient:
-        end = start + std::max(e.decaySeconds, 0.0) * DecayLength * sampleRate;
-        break;
+        return std::max(e.decaySeconds, 0.0) * DecayLength;
     case EventKind::RapidChange:
         if (e.durationSeconds > 0.0)
-            end = start + (e.durationSeconds + e.riseSeconds) * sampleRate;
+            return e.durationSeconds + e.riseSeconds;
         break;
     default:
         if (e.durationSeconds > 0.0)
-            end = start + e.durationSeconds * sampleRate;
+            return e.durationSeconds;
     }
+    return std::numeric_limits<double>::infinity();
+}
+
+EventPlay::EventPlay(const SignalEvent &e, double startSample, double sampleRate)
+    : event(e), start(startSample), end(startSample + lengthOf(e) * sampleRate), m_sampleRate(sampleRate)
+{
     if (e.kind == EventKind::ImpulsiveTransient && hasFront(e))
         m_impulseScale = 1.0 / doubleExponentialPeak(e.riseSeconds, e.decaySeconds);
 }

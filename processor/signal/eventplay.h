@@ -35,6 +35,9 @@ private:
     double m_impulseScale = 1.0; // makes the double exponential's peak 1
 };
 
+/// Seconds from an event's begin until nothing of it is left; infinite for one that stays for good.
+double lengthOf(const SignalEvent &event);
+
 /// Whether both describe the same thing.
 bool sameEvent(const SignalEvent &a, const SignalEvent &b);
 

@@ -20,6 +20,7 @@ private slots:
     void setSpeaksToTheInputStage();
     void eventsBegin_data();
     void eventsBegin();
+    void eventsThatStayAreRefusedWhenTooManyRun();
     void wrongCommandsSayWhatWasExpected_data();
     void wrongCommandsSayWhatWasExpected();
     void wrongSetChangesNothing();
@@ -152,6 +153,21 @@ void TstProcessorCommands::eventsBegin()
     QFETCH(QString, line);
     QCOMPARE(tell(line), QString("ok"));
     m_simulator->step(nullptr);
+}
+
+void TstProcessorCommands::eventsThatStayAreRefusedWhenTooManyRun()
+{
+    for (std::size_t i = 0; i < Simulator::kMostRunning; ++i)
+        QCOMPARE(tell("event dip l1 99% 0"), QString("ok"));
+    QCOMPARE(tell("event dip l1 99% 0"), QString("error: 256 events are not over, event clear ends them"));
+    QCOMPARE(tell("event clear"), QString("ok"));
+    // Events that end make room by themselves.
+    for (std::size_t i = 0; i < Simulator::kMostRunning; ++i)
+        QCOMPARE(tell("event dip l1 99% 20ms"), QString("ok"));
+    QVERIFY(tell("event dip l1 99% 20ms").startsWith("error: "));
+    while (m_simulator->seconds() < 1.5)
+        m_simulator->step(nullptr);
+    QCOMPARE(tell("event dip l1 99% 20ms"), QString("ok"));
 }
 
 void TstProcessorCommands::wrongCommandsSayWhatWasExpected_data()
