@@ -15,7 +15,6 @@ constexpr char kGpio[] = "/sys/class/gpio/";
 constexpr char kGauge[] = "/sys/bus/iio/devices/iio:device0/in_voltage0_raw";
 constexpr char kBackLight[] = "/sys/class/backlight/backlight/brightness";
 constexpr char kCarrier[] = "/sys/class/net/eth0/carrier";
-constexpr char kOperState[] = "/sys/class/net/eth0/operstate";
 
 // The gauge counts 1/4096 of 1.8 V; a divider of 1.5 and a factor of 11.5 lie between it and the battery.
 constexpr double kVoltsPerCount = 0.000244140625 * 1.8 / 1.5 * 11.5;
@@ -83,7 +82,7 @@ bool BoardFiles::prepare(QString *error)
     }
     const QString gauge = QString::number(gaugeReading(kBatteryAtStart)) + '\n';
     return good && makeFile(QLatin1String(kGpio) + "export", "", error) && makeFile(kGauge, gauge, error)
-        && makeFile(kBackLight, "7", error) && makeFile(kCarrier, "1\n", error) && makeFile(kOperState, "up\n", error);
+        && makeFile(kBackLight, "7", error) && makeFile(kCarrier, "1\n", error);
 }
 
 bool BoardFiles::write(const QString &boardPath, const QString &text) const
@@ -141,7 +140,7 @@ bool BoardFiles::setCharger(Charger charger)
 
 bool BoardFiles::setNetwork(bool up)
 {
-    return write(kCarrier, up ? "1\n" : "0\n") && write(kOperState, up ? "up\n" : "down\n");
+    return write(kCarrier, up ? "1\n" : "0\n");
 }
 
 } // namespace board

@@ -1,5 +1,6 @@
 #include "device/network.h"
 
+#include "platform/cable.h"
 #include "platform/target.h"
 
 #include <QStringList>
@@ -43,7 +44,7 @@ QString address(unsigned long request, const QString &name)
 bool NetWork::checkNetwireStatus(const QString &name)
 {
     ifreq answer;
-    return ask(SIOCGIFFLAGS, name, &answer) && (answer.ifr_flags & IFF_RUNNING);
+    return Cable::isIn(name, ask(SIOCGIFFLAGS, name, &answer) && (answer.ifr_flags & IFF_RUNNING));
 }
 
 QString NetWork::getIfIpaddr(const QString &name)

@@ -33,6 +33,7 @@ private slots:
     void keyPressRestoresTheLight();
     void missingLightIsReported();
     void loopbackAnswers();
+    void cableOfADeskStandsInAFile();
     void unknownInterfacesAnswerNothing();
     void gatewayIsTheThirdWordOfTheDefaultRoute_data();
     void gatewayIsTheThirdWordOfTheDefaultRoute();
@@ -261,6 +262,22 @@ void TstBoardServices::loopbackAnswers()
     QCOMPARE(NetWork::getIfIpaddr(QStringLiteral("lo")), QStringLiteral("127.0.0.1"));
     QCOMPARE(NetWork::getIfNetmask(QStringLiteral("lo")), QStringLiteral("255.0.0.0"));
     QCOMPARE(NetWork::getIfHwaddr(QStringLiteral("lo")), QStringLiteral("0:0:0:0:0:0"));
+}
+
+void TstBoardServices::cableOfADeskStandsInAFile()
+{
+    const QString file = QStringLiteral("/sys/class/net/eth7/carrier");
+    QVERIFY(!NetWork::checkNetwireStatus(QStringLiteral("eth7"))); // unknown to the kernel
+    write(file, "1\n");
+    QVERIFY(NetWork::checkNetwireStatus(QStringLiteral("eth7")));
+    write(file, "0\n");
+    QVERIFY(!NetWork::checkNetwireStatus(QStringLiteral("eth7")));
+    write(file, "");
+    QVERIFY(!NetWork::checkNetwireStatus(QStringLiteral("eth7"))); // nothing to read: the kernel's answer
+    QVERIFY(NetWork::checkNetwireStatus(QStringLiteral("lo")));
+    write(QStringLiteral("/sys/class/net/lo/carrier"), "0\n");
+    QVERIFY(!NetWork::checkNetwireStatus(QStringLiteral("lo")));
+    QVERIFY(QFile::remove(Target::path(QStringLiteral("/sys/class/net/lo/carrier"))));
 }
 
 void TstBoardServices::unknownInterfacesAnswerNothing()
