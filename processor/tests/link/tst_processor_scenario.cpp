@@ -216,6 +216,12 @@ void TstProcessorScenario::wrongFilesAreToldWithKeyAndExpectation_data()
     QTest::newRow("dip that is a swell") << QByteArray(
         R"({"events": [{"at": 1, "type": "dip", "level": 140, "length": 1}]})")
                                          << "s.json: events[0].level: expected a number from 0 to 100, found 140";
+    QTest::newRow("event that comes again and never ends")
+        << QByteArray(R"({"events": [{"at": 1, "every": 5, "type": "dip", "level": 40, "length": 0}]})")
+        << "s.json: events[0].length: expected more than 0, since the event comes again, found 0";
+    QTest::newRow("events that pile up")
+        << QByteArray(R"({"events": [{"at": 1, "every": 0.5, "type": "dip", "level": 40, "length": 64}]})")
+        << "s.json: events[0].every: expected 1 s or more, so that at most 64 of these run at once, found 0.5";
     QTest::newRow("event without a time") << QByteArray(R"({"events": [{"type": "dip", "level": 40, "length": 1}]})")
                                           << "s.json: events[0].at: expected a time in seconds, found nothing";
     QTest::newRow("event again too soon")
@@ -400,8 +406,8 @@ void TstProcessorScenario::sensationScenariosPlayTheirTable_data()
     QTest::addColumn<double>("lastPercent");
     QTest::newRow("pinst-sinusoidal-230v") << 37 << 2.325 << 0.250 << 100.0 / 3.0 << 2.128;
     QTest::newRow("pinst-rectangular-230v") << 37 << 0.510 << 0.196 << 100.0 / 3.0 << 1.671;
-    QTest::newRow("pinst-sinusoidal-120v") << 36 << 2.453 << 0.321 << 25.0 << 1.476;
-    QTest::newRow("pinst-rectangular-120v") << 35 << 0.600 << 0.252 << 24.0 << 1.067;
+    QTest::newRow("pinst-sinusoidal-120v") << 38 << 2.453 << 0.321 << 40.0 << 4.394;
+    QTest::newRow("pinst-rectangular-120v") << 38 << 0.600 << 0.252 << 40.0 << 3.451;
 }
 
 void TstProcessorScenario::sensationScenariosPlayTheirTable()
