@@ -162,6 +162,8 @@ private slots:
                                                      + QByteArray("</a>").repeated(20000) + clamp + "</PQA>");
         QTest::newRow("document type") << QByteArray("<!DOCTYPE PQA [<!ENTITY a 'x'>]><PQA version='1.0' inUsed='X'>"
                                                      + clamp + "</PQA>");
+        QTest::newRow("too large behind its end")
+            << QByteArray("<PQA version='1.0' inUsed='X'>" + clamp + "</PQA>" + QByteArray(300000, ' '));
         QTest::newRow("too large") << QByteArray("<PQA version='1.0' inUsed='X'>" + clamp + QByteArray(300000, ' ')
                                                  + "</PQA>");
     }

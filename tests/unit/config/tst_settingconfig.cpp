@@ -238,6 +238,8 @@ private slots:
         QCOMPARE(started("CLAMP_RATIO", "CLAMP_RATIO=65.9\n"), 65.0);
         QCOMPARE(started("CLAMP_RATIO", "CLAMP_RATIO=1e3\n"), 1000.0);
         QCOMPARE(started("CLAMP_RATIO", "CLAMP_RATIO=1e20\n"), 0.0); // no int holds it
+        QCOMPARE(started("CLAMP_RATIO", "CLAMP_RATIO=-2147483904\n"), 0.0); // the next float below all of them
+        QCOMPARE(started("CLAMP_RATIO", "CLAMP_RATIO=-2147483648\n"), -2147483648.0);
         QCOMPARE(started("RANGE_I", "RANGE_I=65.9\n"), 0.0); // the others are whole numbers
     }
 

@@ -398,6 +398,7 @@ void TstDataTypes::at400HzTwelveOrdersAreReadAndTheRestKept()
             payload.set(73 + 400 * input + 32 * h, 0.0f);
         }
     }
+    payload.set(72 + 400 * 2 + 32 * 3, -1.0f); // L3, order 4
     memset(static_cast<void *>(m_record.get()), 0, sizeof(*m_record));
     for (ChannelSpectrum &spectrum : m_record->spectrum) {
         for (int h = 0; h < 100; ++h) {
@@ -417,6 +418,8 @@ void TstDataTypes::at400HzTwelveOrdersAreReadAndTheRestKept()
     NEAR(l2.voltageInter[1].frequency, 200.0 + 401.0);
     QCOMPARE(float(l2.voltageInter[12].frequency), 68.0f);
     NEAR(l2.voltageDistortion, std::sqrt(11.0));
+    QCOMPARE(float(m_record->spectrum[2].voltage[3].magnitude), 0.0f);
+    NEAR(m_record->spectrum[2].voltageDistortion, std::sqrt(10.0));
 }
 
 void TstDataTypes::interharmonicsLieHalfTheNominalFrequencyOn()

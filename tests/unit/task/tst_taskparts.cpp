@@ -101,6 +101,11 @@ void TstTaskParts::triggerWithoutCrossingStartsAtZero()
     QCOMPARE(TriggerSearch::findTrigger(flat.data()), 0);
     std::vector<qint16> zero(4096, 0);
     QCOMPARE(TriggerSearch::findTrigger(zero.data()), 0);
+    // A wave that never falls below zero: its rising slope from sample 205 on is no crossing.
+    std::vector<qint16> raised(4096);
+    for (int i = 0; i < 4096; ++i)
+        raised[std::size_t(i)] = qint16(1000 + std::lround(900 * std::cos(2 * M_PI * i / 410)));
+    QCOMPARE(TriggerSearch::findTrigger(raised.data()), 0);
 }
 
 void TstTaskParts::triggerNeverLeavesTheWindow()
