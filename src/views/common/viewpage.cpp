@@ -1,5 +1,6 @@
 #include "views/common/viewpage.h"
 
+#include "config/phasecolor.h"
 #include "widgets/keymap.h"
 
 #include <QCoreApplication>
@@ -8,7 +9,8 @@
 
 #include <algorithm>
 
-ViewPage::ViewPage(_quvera_ui_type type, QWidget *parent) : QDialog(parent), m_type(type)
+ViewPage::ViewPage(_quvera_ui_type type, QWidget *parent)
+    : QDialog(parent), m_type(type), m_phaseColors(PhaseColor::digits())
 {
     setFocusPolicy(Qt::StrongFocus);
 }
@@ -98,6 +100,16 @@ void ViewPage::focusInEvent(QFocusEvent *)
 {
     if (auto *button = findChild<QWidget *>(QStringLiteral("nouse"), Qt::FindDirectChildrenOnly))
         button->setFocus();
+}
+
+void ViewPage::showEvent(QShowEvent *event)
+{
+    const QString colors = PhaseColor::digits();
+    if (m_phaseColors != colors) {
+        m_phaseColors = colors;
+        retranslateUi(); // every caption anew, with its colour
+    }
+    QDialog::showEvent(event);
 }
 
 bool ViewPage::pressKey(int key)

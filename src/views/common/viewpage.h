@@ -71,6 +71,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
     void keyReleaseEvent(QKeyEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
+    /// Takes over phase colours that were chosen since: labels and charts must never tell a phase by two colours.
+    void showEvent(QShowEvent *event) override;
 
     /// Handles a key that is already mapped; false: let it rise.
     virtual bool pressKey(int key);
@@ -90,5 +92,6 @@ private:
 
     const _quvera_ui_type m_type;
     bool m_running = true;
+    QString m_phaseColors; // digits of the palette that the labels have
     std::vector<Key> m_keys;
 };

@@ -52,6 +52,8 @@ void HarmMain::init_parameter()
 void HarmMain::retranslateUi()
 {
     ViewPage::retranslateUi();
+    ChannelLabels::showColors(m_captions);
+    ChannelLabels::showColors(m_values);
     for (QWidget *button : { static_cast<QWidget *>(m_ui->btn_f2), static_cast<QWidget *>(m_ui->btn_f3) })
         button->update(); // their words
 }

@@ -76,6 +76,7 @@ void HarmMeterPage::init_parameter()
 void HarmMeterPage::retranslateUi()
 {
     ViewPage::retranslateUi();
+    ChannelLabels::showColors(m_headers);
     showNames();
 }
 

@@ -1,3 +1,4 @@
+#include "config/phasecolor.h"
 #include "device/idevice.h"
 #include "pagetest.h"
 #include "views/dips/dswell.h"
@@ -48,6 +49,15 @@ QMap<QString, QString> texts(const QWidget *page)
     return result;
 }
 
+/// Style sheets of all labels, in the order of the page's widgets.
+QStringList sheets(const QWidget *page)
+{
+    QStringList result;
+    for (const QLabel *label : page->findChildren<QLabel *>())
+        result.append(label->objectName() + QLatin1Char(' ') + label->styleSheet());
+    return result;
+}
+
 using MakePage = std::function<FunctionPage *()>;
 
 template <typename Page> FunctionPage *makePage()
@@ -58,7 +68,7 @@ template <typename Page> FunctionPage *makePage()
 } // namespace
 Q_DECLARE_METATYPE(MakePage)
 
-/// Every measuring function after the user chose another language.
+/// Every measuring function after the user chose another language or other phase colours.
 class TstRetranslation : public QObject
 {
     Q_OBJECT
@@ -68,6 +78,8 @@ private slots:
     void languageChangeReachesEveryText_data();
     void languageChangeReachesEveryText();
     void heldPageSaysRunInTheNewLanguage();
+    void newPhaseColoursReachTheLabelsWhenThePageIsShown_data() { languageChangeReachesEveryText_data(); }
+    void newPhaseColoursReachTheLabelsWhenThePageIsShown();
 };
 
 void TstRetranslation::initTestCase()
@@ -130,6 +142,29 @@ void TstRetranslation::heldPageSaysRunInTheNewLanguage()
     page.retranslateUi();
     QCOMPARE(PageTest::text(page.currentPage(), "btn_f5"), QStringLiteral("~Run"));
     QCoreApplication::removeTranslator(&language);
+}
+
+void TstRetranslation::newPhaseColoursReachTheLabelsWhenThePageIsShown()
+{
+    QFETCH(MakePage, make);
+    PhaseColor::setPhaseColors(QStringLiteral("01231"));
+    std::unique_ptr<FunctionPage> page(make());
+    page->init_parameter();
+    page->updateDisplay(nullptr);
+    page->show();
+    const QStringList before = sheets(page.get());
+    page->hide();
+    PhaseColor::setPhaseColors(QStringLiteral("23015"));
+    page->show();
+    const QStringList shown = sheets(page.get());
+
+    // What a page shows that never knew other colours.
+    std::unique_ptr<FunctionPage> fresh(make());
+    fresh->init_parameter();
+    fresh->updateDisplay(nullptr);
+    PhaseColor::setPhaseColors(QStringLiteral("01231"));
+    QCOMPARE(shown, sheets(fresh.get()));
+    QVERIFY(shown != before);
 }
 
 PAGE_TEST_MAIN(TstRetranslation)
