@@ -78,6 +78,7 @@ private slots:
     void heldCursorGrowsToTwentyPointsPerTick();
     void cursorValueShowsInTheLabels();
     void f1SwapsVoltageAndCurrent();
+    void longReadingsAndCaptionsFitTheirLabels();
     void everyRestartBeginsWithTheVoltage();
     void onePhaseWiringsShowASingleCurve_data();
     void onePhaseWiringsShowASingleCurve();
@@ -456,6 +457,17 @@ void TstDips::cursorValueShowsInTheLabels()
     QCOMPARE(text(mainPage(), "D2_Value"), F_to_Str::number_V(201.0f));
     press(mainPage(), Right);
     QCOMPARE(text(mainPage(), "D1_Value"), F_to_Str::number_V(240.0f));
+}
+
+void TstDips::longReadingsAndCaptionsFitTheirLabels()
+{
+    // The unit is chosen for four places of the nominal value; a crest can be twice as high.
+    for (int c = 1; c <= 4; ++c) {
+        QVERIFY(holds(mainPage(), QStringLiteral("D%1_Caption").arg(c), QStringLiteral("L31:"), 4));
+        QVERIFY(holds(mainPage(), QStringLiteral("D%1_Value").arg(c), QStringLiteral("-21213.00")));
+    }
+    QVERIFY(holds(mainPage(), QStringLiteral("events_t"), QStringLiteral("EVENTS :"), 4));
+    QVERIFY(holds(mainPage(), QStringLiteral("events_count"), QStringLiteral("100000")));
 }
 
 void TstDips::f1SwapsVoltageAndCurrent()

@@ -55,6 +55,7 @@ private slots:
     void valuesAtTheCursorAreThoseOfTheTask();
     void wiringDecidesCaptionsAndCurves();
     void pagesLiveWithoutRecords();
+    void longReadingsAndCaptionsFitTheirLabels();
 
     // events
     void onlyInrushEventsAreListed();
@@ -429,6 +430,15 @@ void TstInrush::wiringDecidesCaptionsAndCurves()
     feed(10, 1);
     QCOMPARE(chart()->flags(), 1);
     QCOMPARE(text(startPage(), "D2_Caption"), QString());
+}
+
+void TstInrush::longReadingsAndCaptionsFitTheirLabels()
+{
+    // The unit is chosen for four places of the nominal value; a crest can be twice as high.
+    for (int c = 1; c <= 4; ++c) {
+        QVERIFY(holds(startPage(), QStringLiteral("D%1_Caption").arg(c), QStringLiteral("L31:"), 4));
+        QVERIFY(holds(startPage(), QStringLiteral("D%1_Value").arg(c), QStringLiteral("-21213.00")));
+    }
 }
 
 void TstInrush::pagesLiveWithoutRecords()

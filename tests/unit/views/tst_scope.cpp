@@ -83,6 +83,7 @@ private slots:
     void holdLabelFollowsTheTask();
     void pageLivesWithoutRecords();
     void refreshIsHarmlessWhenRepeated();
+    void longReadingsAndCaptionsFitTheirLabels();
 
 private:
     ScopeWidget *scope() { return named<ScopeWidget>(m_page.get(), "scope"); }
@@ -583,6 +584,15 @@ void TstScope::pageLivesWithoutRecords()
     }
     g_scope_data = data;
     g_scope_data_ui = ui;
+}
+
+void TstScope::longReadingsAndCaptionsFitTheirLabels()
+{
+    // The unit is chosen for four places of the nominal value; a crest can be twice as high.
+    for (int c = 1; c <= 4; ++c) {
+        QVERIFY(holds(m_page.get(), QStringLiteral("D%1_Caption").arg(c), QStringLiteral("L31:"), 4));
+        QVERIFY(holds(m_page.get(), QStringLiteral("D%1_Value").arg(c), QStringLiteral("-21213.00")));
+    }
 }
 
 void TstScope::refreshIsHarmlessWhenRepeated()

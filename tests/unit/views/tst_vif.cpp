@@ -1,5 +1,6 @@
 #include "config/config_data.h"
 #include "device/displayrecords.h"
+#include "pagetest.h"
 #include "views/common/trendscaler.h"
 #include "views/vif/vifmain.h"
 #include "views/vif/vifpage.h"
@@ -40,6 +41,7 @@ private slots:
     void singlePhaseWithoutNeutralFillsOnlyTheFirstColumnOfTableAndTrend();
     void aWiringOutsideTheTableLeavesTheFieldsUntouched();
     void tableShowsEveryQuantityWithItsFormat();
+    void longReadingsAndCaptionsFitTheirLabels();
     void pagesLiveWithoutARecord();
     void negativeFrequencyIsShownGreyAndPositive();
     void f4OpensTheTrendAndLeadsBack();
@@ -187,6 +189,21 @@ void TstVif::tableShowsEveryQuantityWithItsFormat()
     QCOMPARE(text(mainPage(), "Upk_t"), QStringLiteral("Upk(V)"));
     QCOMPARE(text(mainPage(), "Irms_t"), QStringLiteral("Irms(A)"));
     QCOMPARE(text(mainPage(), "Ucf_t"), QStringLiteral("CF"));
+}
+
+void TstVif::longReadingsAndCaptionsFitTheirLabels()
+{
+    // The unit is chosen for four places of the nominal value; a crest can be twice as high.
+    for (const char *column : kColumns) {
+        for (const char *row : { "Urms", "Upk", "Ucf", "Irms", "Ipk", "Icf" })
+            QVERIFY(PageTest::holds(mainPage(), QStringLiteral("%1_%2").arg(row, column), QStringLiteral("21213.00")));
+    }
+    for (const char *row : { "Urms_t", "Upk_t", "Irms_t", "Ipk_t" })
+        QVERIFY(PageTest::holds(mainPage(), QString::fromLatin1(row), QStringLiteral("Urms(mV)"), 4));
+    for (int c = 1; c <= 4; ++c) {
+        QVERIFY(PageTest::holds(trendPage(), QStringLiteral("D%1_Caption").arg(c), QStringLiteral("L31:"), 4));
+        QVERIFY(PageTest::holds(trendPage(), QStringLiteral("D%1_Value").arg(c), QStringLiteral("-21213.00")));
+    }
 }
 
 void TstVif::pagesLiveWithoutARecord()
