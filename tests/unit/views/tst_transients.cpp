@@ -89,6 +89,7 @@ private slots:
     void zoomTextsAreThoseOfTheScope();
     void savedRecordHoldsEveryTransient();
     void pagesLiveWithoutRecords();
+    void longReadingsAndCaptionsFitTheirLabels();
 
 private:
     TransMain *mainPage() { return m_page->findChild<TransMain *>(); }
@@ -523,6 +524,20 @@ void TstTransients::savedRecordHoldsEveryTransient()
     qint16 sample;
     std::memcpy(&sample, record.constData() + 8 + 2 * 4836 - 2, sizeof sample);
     QCOMPARE(int(sample), 24); // last sample of N
+}
+
+void TstTransients::longReadingsAndCaptionsFitTheirLabels()
+{
+    // The unit is chosen for four places of the nominal value; a crest can be twice as high.
+    for (const QWidget *page :
+         { static_cast<const QWidget *>(startPage()), static_cast<const QWidget *>(viewPage()) }) {
+        for (int c = 1; c <= 4; ++c) {
+            QVERIFY(holds(page, QStringLiteral("D%1_Caption").arg(c), QStringLiteral("L31:"), 4));
+            QVERIFY(holds(page, QStringLiteral("D%1_Value").arg(c), QStringLiteral("-21213.00")));
+        }
+    }
+    QVERIFY(holds(viewPage(), QStringLiteral("trans_time"), QStringLiteral("2026-11-21 07:44:30 171"), 4));
+    QVERIFY(holds(startPage(), QStringLiteral("trans_count"), QStringLiteral("#1000")));
 }
 
 void TstTransients::pagesLiveWithoutRecords()
