@@ -89,8 +89,12 @@ const std::vector<EventForm> &eventForms()
         { "loadstep",
           EventKind::LoadStep,
           Side::Current,
-          { level(0, 5000), kLength, { "angle", Unit::Degrees, -360.0, 360.0, false }, kPhase },
-          "current becomes LEVEL percent, angle= degrees ahead" },
+          { level(0, 5000),
+            kLength,
+            { "angle", Unit::Degrees, -360.0, 360.0, false },
+            { "pf", Unit::None, -1.0, 1.0, false },
+            kPhase },
+          "current becomes LEVEL percent, angle= degrees ahead, or of the power factor pf=" },
     };
     return forms;
 }
@@ -126,6 +130,7 @@ processor::SignalEvent makeEvent(const EventForm &form, processor::InputMask mas
     take("amplitude", &event.amplitude);
     take("f", &event.frequencyHz);
     take("angle", &event.angleDeg);
+    take("pf", &event.powerFactor);
     take("decay", &event.decaySeconds);
     take("rise", &event.riseSeconds);
     take("ramp", &event.riseSeconds);

@@ -118,7 +118,7 @@ bool setFlicker(Change &change)
     double changes = 0.0;
     if (change.words != QStringList { QStringLiteral("off") }) {
         if (!change.count(3, 4, "INPUTS CHANGES-PER-MINUTE PERCENT [sinusoidal], or off")
-            || !change.mask(0, Side::Voltage, &mask) || !change.value(1, Unit::None, 0.001, 12000, &changes)
+            || !change.mask(0, Side::Voltage, &mask) || !change.value(1, Unit::None, 0.001, 1.2e6, &changes)
             || !change.value(2, Unit::Percent, 0, 100, &modulation.depthPercent))
             return false;
         if (change.words.size() == 4 && change.words[3] != QLatin1String("sinusoidal"))
@@ -135,12 +135,38 @@ bool setSignalling(Change &change)
     change.signal.signalling.clear();
     if (change.words == QStringList { QStringLiteral("off") })
         return true;
-    processor::SignallingSpec burst;
-    burst.onSeconds = 0.0;
-    if (!change.count(2, 2, "HERTZ PERCENT, or off") || !change.value(0, Unit::Hertz, 1, 10000, &burst.frequencyHz)
-        || !change.value(1, Unit::Percent, 0, 100, &burst.percent))
+    const char usage[] = "HERTZ PERCENT [HERTZ PERCENT], or off";
+    if (!change.count(2, 4, usage))
         return false;
-    change.signal.signalling.push_back(burst);
+    for (int at = 0; at < change.words.size(); at += 2) {
+        processor::SignallingSpec tone;
+        tone.onSeconds = 0.0;
+        if (at + 1 == change.words.size())
+            return change.fail(QString::fromLatin1(usage));
+        if (!change.value(at, Unit::Hertz, 1, 10000, &tone.frequencyHz)
+            || !change.value(at + 1, Unit::Percent, 0, 100, &tone.percent))
+            return false;
+        change.signal.signalling.push_back(tone);
+    }
+    return true;
+}
+
+/// Lets inputs run at a frequency of their own, or with all others again.
+bool setFrequency(Change &change)
+{
+    InputMask mask = 0;
+    double hertz = 0.0, drift = 0.0;
+    if (!change.count(2, 3, "INPUTS HERTZ [HERTZ-PER-SECOND], or INPUTS off") || !change.mask(0, Side::Voltage, &mask))
+        return false;
+    const bool off = change.words.size() == 2 && change.words[1] == QLatin1String("off");
+    if (!off
+        && (!change.value(1, Unit::Hertz, 10, 1000, &hertz)
+            || (change.words.size() > 2 && !change.value(2, Unit::None, -10, 10, &drift))))
+        return false;
+    change.each(mask, [&](InputSpec &input) {
+        input.frequencyHz = hertz;
+        input.driftHzPerSecond = drift;
+    });
     return true;
 }
 
@@ -205,6 +231,8 @@ bool setOne(Change &change, const QString &key)
     if (key == QLatin1String("drift"))
         return change.count(1, 1, "hertz per second")
             && change.value(0, Unit::None, -10, 10, &change.signal.driftHzPerSecond);
+    if (key == QLatin1String("frequency"))
+        return setFrequency(change);
     if (key == QLatin1String("harmonic"))
         return setHarmonic(change);
     if (key == QLatin1String("interharmonic"))
@@ -226,12 +254,13 @@ QStringList setUsage()
              QStringLiteral("i|i1|i2|i3|in AMPERES"),
              QStringLiteral("f HERTZ"),
              QStringLiteral("drift HERTZ-PER-SECOND"),
+             QStringLiteral("frequency INPUTS HERTZ [HERTZ-PER-SECOND] | off"),
              QStringLiteral("pf|pf1|pf2|pf3 FACTOR [cap]"),
              QStringLiteral("phase INPUTS DEGREES"),
              QStringLiteral("harmonic INPUTS ORDER PERCENT [DEGREES]"),
              QStringLiteral("interharmonic INPUTS HERTZ PERCENT [DEGREES]"),
              QStringLiteral("flicker INPUTS CHANGES-PER-MINUTE PERCENT [sinusoidal] | off"),
-             QStringLiteral("signalling HERTZ PERCENT | off"),
+             QStringLiteral("signalling HERTZ PERCENT [HERTZ PERCENT] | off"),
              QStringLiteral("noise INPUTS RMS"),
              QStringLiteral("dc INPUTS LEVEL"),
              QStringLiteral("clamp|neutralclamp MICROVOLTS-PER-AMPERE") };

@@ -87,8 +87,8 @@ void readModulation(JsonErrors *errors, SignalSpec *spec, const QString &path, c
     else
         keys.wrong(QStringLiteral("shape"), QStringLiteral("\"rectangular\" or \"sinusoidal\""));
     // A period of a rectangle holds two changes.
-    modulation.rateHz = keys.number(QStringLiteral("changesPerMinute"), 0.0, 0.0, 12000.0) / 120.0;
-    modulation.rateHz = keys.number(QStringLiteral("rate"), modulation.rateHz, 0.0, 100.0);
+    modulation.rateHz = keys.number(QStringLiteral("changesPerMinute"), 0.0, 0.0, 120.0 * kMaxHertz) / 120.0;
+    modulation.rateHz = keys.number(QStringLiteral("rate"), modulation.rateHz, 0.0, kMaxHertz);
     if (keys.has(QStringLiteral("rate")) == keys.has(QStringLiteral("changesPerMinute")))
         keys.wrong(QStringLiteral("rate"), QStringLiteral("either \"rate\" in hertz or \"changesPerMinute\""));
     keys.require(QStringLiteral("percent"), QStringLiteral("the relative change dV/V in percent"));
@@ -133,6 +133,18 @@ void readComponents(JsonKeys *keys, JsonErrors *errors, SignalSpec *spec)
         const double level = one.number(QStringLiteral("level"), 0.0, -kMaxVolts, kMaxVolts);
         one.finish();
         forEach(spec, mask, [&](InputSpec &input) { input.dc = level; });
+    });
+    keys->list(QStringLiteral("frequencies"), [&](const QString &path, const QJsonValue &value) {
+        JsonKeys one(errors, path, value);
+        const InputMask mask = readInputs(&one);
+        one.require(QStringLiteral("f"), QStringLiteral("a frequency in hertz"));
+        const double hertz = one.number(QStringLiteral("f"), 0.0, 10.0, 1000.0);
+        const double drift = one.number(QStringLiteral("drift"), 0.0, -10.0, 10.0);
+        one.finish();
+        forEach(spec, mask, [&](InputSpec &input) {
+            input.frequencyHz = hertz;
+            input.driftHzPerSecond = drift;
+        });
     });
     keys->list(QStringLiteral("signalling"), [&](const QString &path, const QJsonValue &value) {
         JsonKeys one(errors, path, value);

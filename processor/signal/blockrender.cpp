@@ -107,7 +107,7 @@ void Synthesiser::Private::renderWave(int input, std::int64_t first, const Block
         if (!play.changesPhase() || !runs(play, input, first))
             continue;
         for (int i = 0; i < BlockLength; ++i)
-            x[std::size_t(i)] += play.phaseAdvance(from + i);
+            x[std::size_t(i)] += play.phaseAdvance(input, from + i);
     }
     if (tables[std::size_t(input)])
         tables[std::size_t(input)]->play(x.data(), amplitude, out.data(), BlockLength);

@@ -45,9 +45,15 @@ double lengthOf(const SignalEvent &e)
     return std::numeric_limits<double>::infinity();
 }
 
-EventPlay::EventPlay(const SignalEvent &e, double startSample, double sampleRate)
+EventPlay::EventPlay(const SignalEvent &e, double startSample, double sampleRate, const SignalSpec &signal)
     : event(e), start(startSample), end(startSample + lengthOf(e) * sampleRate), m_sampleRate(sampleRate)
 {
+    if (changesPhase())
+        m_advance.fill(e.angleDeg / 360.0);
+    for (std::size_t line = 0; line < 3 && e.kind == EventKind::LoadStep && !std::isnan(e.powerFactor); ++line) {
+        const double target = signal.inputs[U1 + line].phaseDeg - loadAngle(e.powerFactor);
+        m_advance[I1 + line] = (target - signal.inputs[I1 + line].phaseDeg) / 360.0;
+    }
     if (e.kind == EventKind::ImpulsiveTransient && hasFront(e))
         m_impulseScale = 1.0 / doubleExponentialPeak(e.riseSeconds, e.decaySeconds);
 }
@@ -87,11 +93,11 @@ double EventPlay::amplitudeFactor(double sample) const
     }
 }
 
-double EventPlay::phaseAdvance(double sample) const
+double EventPlay::phaseAdvance(int input, double sample) const
 {
-    if (!changesPhase() || sample < start || sample >= end)
+    if (sample < start || sample >= end)
         return 0.0;
-    return event.angleDeg / 360.0;
+    return m_advance[static_cast<std::size_t>(input)];
 }
 
 double EventPlay::addition(double sample) const
@@ -123,12 +129,12 @@ bool EventPlay::adds() const
 
 bool sameEvent(const SignalEvent &a, const SignalEvent &b)
 {
-    const bool samePhase
-        = a.startPhaseDeg == b.startPhaseDeg || (std::isnan(a.startPhaseDeg) && std::isnan(b.startPhaseDeg));
+    const auto same = [](double x, double y) { return x == y || (std::isnan(x) && std::isnan(y)); };
     return a.kind == b.kind && a.inputs == b.inputs && a.startSeconds == b.startSeconds
         && a.durationSeconds == b.durationSeconds && a.percent == b.percent && a.amplitude == b.amplitude
         && a.frequencyHz == b.frequencyHz && a.angleDeg == b.angleDeg && a.riseSeconds == b.riseSeconds
-        && a.decaySeconds == b.decaySeconds && samePhase;
+        && a.decaySeconds == b.decaySeconds && same(a.powerFactor, b.powerFactor)
+        && same(a.startPhaseDeg, b.startPhaseDeg);
 }
 
 } // namespace processor

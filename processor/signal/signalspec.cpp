@@ -81,11 +81,16 @@ SignalSpec SignalSpec::threePhase(double volts, double frequencyHz, double amps,
     return spec;
 }
 
+double loadAngle(double powerFactor)
+{
+    return std::acos(std::clamp(powerFactor, -1.0, 1.0)) * DegreesPerRadian;
+}
+
 void setLoad(SignalSpec &spec, int line, double amps, double powerFactor, bool capacitive)
 {
     if (line < 0 || line > 2)
         return;
-    const double shift = std::acos(std::clamp(powerFactor, -1.0, 1.0)) * DegreesPerRadian;
+    const double shift = loadAngle(powerFactor);
     InputSpec &current = spec.inputs[static_cast<std::size_t>(I1 + line)];
     current.rms = amps;
     current.phaseDeg = spec.inputs[static_cast<std::size_t>(U1 + line)].phaseDeg + (capacitive ? shift : -shift);
@@ -96,6 +101,7 @@ std::string validate(const SignalEvent &event)
     const bool decays = event.kind == EventKind::Inrush || event.kind == EventKind::ImpulsiveTransient
         || event.kind == EventKind::OscillatoryTransient;
     const double phase = std::isnan(event.startPhaseDeg) ? 0.0 : event.startPhaseDeg;
+    const double powerFactor = std::isnan(event.powerFactor) ? 1.0 : event.powerFactor;
     const Range ranges[] = { { "inputs", double(event.inputs), 1.0, double(AllInputs) },
                              { "startSeconds", event.startSeconds, 0.0, 1e9 },
                              { "durationSeconds", event.durationSeconds, 0.0, 1e9 },
@@ -104,6 +110,7 @@ std::string validate(const SignalEvent &event)
                              { "amplitude", event.amplitude, -TopValue, TopValue },
                              { "frequencyHz", event.frequencyHz, 0.0, TopFrequency },
                              { "angleDeg", event.angleDeg, -360.0, 360.0 },
+                             { "powerFactor", powerFactor, -1.0, 1.0 },
                              { "riseSeconds", event.riseSeconds, 0.0, 1e6 },
                              { "decaySeconds", event.decaySeconds, decays ? 1e-6 : 0.0, 1e6 },
                              { "startPhaseDeg", phase, -360.0, 360.0 } };

@@ -102,6 +102,9 @@ struct SignalEvent
     double amplitude = 0.0; ///< peak of a transient, V or A, either sign
     double frequencyHz = 1000.0; ///< ring of an oscillatory transient
     double angleDeg = 0.0; ///< PhaseJump, LoadStep
+    /// LoadStep: the power factor that the load of each line gets, inductive as in setLoad, whatever it was before. Not
+    /// a number: angleDeg counts.
+    double powerFactor = std::numeric_limits<double>::quiet_NaN();
     double riseSeconds = 0.0; ///< RapidChange: ramp; ImpulsiveTransient: time constant of the front
     double decaySeconds = 0.001; ///< Inrush and transients: time constant
     /// Point on wave, degrees of the fundamental of the first input of the mask: the event waits, up to one cycle, from
@@ -126,6 +129,9 @@ struct SignalSpec
     static SignalSpec threePhase(double volts, double frequencyHz, double amps = 0.0, double powerFactor = 1.0,
                                  bool capacitive = false);
 };
+
+/// Degrees by which a current of that power factor stands behind its voltage, 0 to 180.
+double loadAngle(double powerFactor);
 
 /// Makes the current of `line` (0 to 2) that of a load: `amps`, shifted against the voltage of the same line by
 /// acos(powerFactor), behind it, or before it with `capacitive`. A negative power factor feeds power back.

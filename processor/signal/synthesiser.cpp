@@ -45,7 +45,7 @@ void Synthesiser::Private::takeEvents(const std::vector<SignalEvent> &list)
         const auto known = std::find_if(before.begin(), before.end(),
                                         [&](const EventPlay &play) { return sameEvent(play.event, event); });
         current.push_back(events.size());
-        events.emplace_back(event, known != before.end() ? known->start : startOf(event), sampleRate);
+        events.emplace_back(event, known != before.end() ? known->start : startOf(event), sampleRate, spec);
     }
     blockNumber = -1;
 }
@@ -97,7 +97,7 @@ void Synthesiser::addEvent(const SignalEvent &event)
 {
     d->spec.events.push_back(event);
     d->current.push_back(d->events.size());
-    d->events.emplace_back(event, d->startOf(event), d->sampleRate);
+    d->events.emplace_back(event, d->startOf(event), d->sampleRate, d->spec);
     d->blockNumber = -1; // the rest of the block in hand may be touched by it
 }
 
@@ -145,7 +145,7 @@ double Synthesiser::valueAt(int input, std::int64_t sample) const
     for (const EventPlay &play : d->events) {
         if (!play.touches(input))
             continue;
-        cycles += play.phaseAdvance(at);
+        cycles += play.phaseAdvance(input, at);
         factor *= play.amplitudeFactor(at);
         added += play.addition(at);
     }

@@ -124,6 +124,16 @@ void TstProcessorCommands::setComponentsReplaceAndEnd()
     QCOMPARE(int(input.modulation.shape), int(processor::ModulationSpec::Shape::None));
     QCOMPARE(tell("set signalling 1375 2%"), QString("ok"));
     QCOMPARE(m_simulator->signal().signalling.size(), std::size_t(1));
+    QCOMPARE(tell("set signalling 1375 2% 285Hz 1.5"), QString("ok"));
+    QCOMPARE(m_simulator->signal().signalling.size(), std::size_t(2));
+    QCOMPARE(m_simulator->signal().signalling[1].frequencyHz, 285.0);
+    QCOMPARE(tell("set signalling 1375 2 285"), QString("error: expected HERTZ PERCENT [HERTZ PERCENT], or off"));
+    QCOMPARE(m_simulator->signal().signalling.size(), std::size_t(2));
+    QCOMPARE(tell("set frequency i3 47Hz 0.5"), QString("ok"));
+    QCOMPARE(m_simulator->signal().inputs[processor::I3].frequencyHz, 47.0);
+    QCOMPARE(m_simulator->signal().inputs[processor::I3].driftHzPerSecond, 0.5);
+    QCOMPARE(tell("set frequency i3 off"), QString("ok"));
+    QCOMPARE(m_simulator->signal().inputs[processor::I3].frequencyHz, 0.0);
     QCOMPARE(tell("set signalling off"), QString("ok"));
     QVERIFY(m_simulator->signal().signalling.empty());
 }
@@ -144,7 +154,7 @@ void TstProcessorCommands::eventsBegin_data()
            "event interruption all 80ms", "event interruption l1 80ms level=5%", "event rvc all -4% 3s ramp=20ms",
            "event phasejump all 30deg 1s", "event transient l1 500V decay=1ms rise=50us phase=90",
            "event ring l1 400 1kHz decay=2ms", "event inrush all 600% 500ms", "event loadstep l2 200% 2s angle=-20",
-           "event clear" })
+           "event loadstep all 150% 2s pf=0.6", "event clear" })
         QTest::newRow(line) << line;
 }
 

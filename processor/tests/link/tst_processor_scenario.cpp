@@ -116,6 +116,7 @@ void TstProcessorScenario::everyKeyArrivesWhereItBelongs()
             "flicker": [ { "inputs": "u2", "changesPerMinute": 39, "percent": 0.9 } ],
             "noise": [ { "inputs": "un", "rms": 0.1 } ],
             "dc": [ { "inputs": "i1", "level": -0.5 } ],
+            "frequencies": [ { "inputs": "i3", "f": 47, "drift": 0.5 } ],
             "signalling": [ { "inputs": "u", "f": 1375, "percent": 2, "start": 1, "on": 3, "period": 9 } ]
         },
         "events": [ { "at": 2, "every": 5, "type": "dip", "inputs": "l1+l3", "level": 40, "length": 0.2, "phase": 90 } ],
@@ -149,6 +150,9 @@ void TstProcessorScenario::everyKeyArrivesWhereItBelongs()
     QCOMPARE(signal.inputs[processor::U2].modulation.rateHz, 0.325); // 39 changes a minute: 19.5 periods
     QCOMPARE(signal.inputs[processor::UN].noiseRms, 0.1);
     QCOMPARE(signal.inputs[processor::I1].dc, -0.5);
+    QCOMPARE(signal.inputs[processor::I3].frequencyHz, 47.0);
+    QCOMPARE(signal.inputs[processor::I3].driftHzPerSecond, 0.5);
+    QCOMPARE(signal.inputs[processor::I2].frequencyHz, 0.0); // that of all
     QCOMPARE(signal.signalling.at(0).periodSeconds, 9.0);
     QCOMPARE(scenario->events.at(0).every, 5.0);
     QCOMPARE(scenario->events.at(0).event.percent, 60.0); // 40 percent are left

@@ -336,6 +336,36 @@ TEST(loadHasItsPowerFactor)
     CHECK_NEAR(synthesiser.truePower(U1, I1, 0, 4096), -230.0 * 5.0, 1e-6);
 }
 
+TEST(loadStepGivesEachLineThePowerFactor)
+{
+    // Lines of different loads before; during the step all have 0.6: P / S over whole cycles.
+    SignalSpec spec = SignalSpec::threePhase(230.0, 50.0, 10.0, 0.9);
+    setLoad(spec, 1, 5.0, 0.5, true);
+    SignalEvent step;
+    step.kind = EventKind::LoadStep;
+    step.inputs = PhaseCurrents;
+    step.percent = 150.0;
+    step.powerFactor = 0.6;
+    step.startSeconds = 0.2;
+    step.durationSeconds = 0.2;
+    spec.events = { step };
+    Synthesiser synthesiser(spec);
+    for (int line = 0; line < 3; ++line) {
+        for (std::int64_t first : { 0, 4096, 8192 }) {
+            const double before = line == 1 ? 0.5 : 0.9;
+            const double apparent
+                = synthesiser.trueRms(U1 + line, first, 4096) * synthesiser.trueRms(I1 + line, first, 4096);
+            const double amps = (line == 1 ? 5.0 : 10.0) * (first == 4096 ? 1.5 : 1.0);
+            CHECK_NEAR(synthesiser.trueRms(I1 + line, first, 4096), amps, 1e-6);
+            CHECK_NEAR(synthesiser.truePower(U1 + line, I1 + line, first, 4096) / apparent,
+                       first == 4096 ? 0.6 : before, 1e-6);
+        }
+    }
+    const Rendered samples = render(synthesiser, 12288, 1000);
+    for (std::int64_t n = 0; n < 12288; n += 5)
+        CHECK_NEAR(samples[I2][std::size_t(n)], synthesiser.valueAt(I2, n), 1e-5);
+}
+
 TEST(modulationSwingsByItsDepth)
 {
     SignalSpec spec;
