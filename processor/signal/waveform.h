@@ -13,7 +13,7 @@ namespace processor {
 void sinCycles(const double *x, double amplitude, double *out, int n);
 
 /// One cycle of a fundamental of amplitude 1 with its harmonics, read at any phase by cubic interpolation. The table's
-/// own error stays below 1e-6 of an order-100 harmonic's amplitude.
+/// own error stays below 1e-6 of the highest harmonic's amplitude.
 class WaveTable
 {
 public:
@@ -24,8 +24,8 @@ public:
     bool holds(const std::vector<HarmonicSpec> &harmonics) const;
 
 private:
-    static constexpr int Points = 8192;
     std::vector<HarmonicSpec> m_harmonics;
+    int m_points; // in the cycle: no more than the highest order needs, since a small table stays in the cache
     /// The wave between two points, as a cubic of the way from the one (0) to the other (1): its four factors.
     using Cell = std::array<double, 4>;
     std::vector<Cell> m_cells; // one for each point, and the first once more
