@@ -238,6 +238,6 @@ int main(int argc, char **argv)
         argc, argv, Ratios::ProcessorTime,
         { { "second of all stages / budget at 200 times real time", "wholeSecond", "budget", 1.0 },
           { "second with 30 harmonics / budget at 200 times real time", "wholeSecondOf30Harmonics", "budget", 1.0 },
-          { "second of everything at once / budget at 200 times real time", "wholeSecondOfEverything", "budget", 1.0 },
+          { "second of everything at once / budget at 200 times real time", "wholeSecondOfEverything", "budget", 0.0 },
           { "second of metrology / FFTW alone", "metrologyOfASecond", "fftwOfASecond", 10.0 } });
 }
