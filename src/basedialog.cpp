@@ -14,6 +14,7 @@
 #include "widgets/keymap.h"
 #include "widgets/localtime.h"
 #include "widgets/message.h"
+#include "widgets/labellook.h"
 
 #include <QDateTime>
 #include <QKeyEvent>
@@ -80,6 +81,7 @@ BaseDialog::BaseDialog(QWidget *parent)
     : QDialog(parent), m_ui(new Ui::BaseDialog), m_clockTimer(new QTimer(this)), m_powerTimer(new QTimer(this))
 {
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     setFixedSize(640, 480);
     m_ui->base_stackedWidget->addWidget(m_menupage);
     for (_quvera_ui_type type : kStackOrder) {

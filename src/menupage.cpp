@@ -7,6 +7,7 @@
 #include "widgets/keymap.h"
 #include "widgets/runinfo.h"
 #include "widgets/savedialog.h"
+#include "widgets/labellook.h"
 
 #include <QKeyEvent>
 
@@ -65,6 +66,7 @@ void MenuItem::showPicture(bool highlighted)
 MenuPage::MenuPage(QWidget *parent) : QDialog(parent), m_ui(new Ui::MenuPage)
 {
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     m_places[0].current = m_places[0].previous = m_ui->vif;
     m_places[1].current = m_places[1].previous = m_ui->logger;
     for (const Tile &tile : kTiles)

@@ -2,6 +2,7 @@
 #include "ui_eventspage.h"
 
 #include "views/common/keyrepeat.h"
+#include "widgets/labellook.h"
 
 EventsPage::EventsPage(_quvera_ui_type type, QWidget *parent)
     : ViewPage(type, parent), m_ui(new Ui::EventsPage), m_repeat(new KeyRepeat(this, 0, { 1 }))
@@ -12,6 +13,7 @@ EventsPage::EventsPage(_quvera_ui_type type, QWidget *parent)
         { Qt::Key_F5, nullptr, &EventsPage::goBack },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     connect(m_repeat, &KeyRepeat::repeated, this, &EventsPage::accTimerSlot);
     showEventsCounts();
     setKeys(keys);

@@ -1,12 +1,14 @@
 #include "views/common/viewcontainer.h"
 
+#include "widgets/labellook.h"
+
 #include <QStackedWidget>
 
 ViewContainer::ViewContainer(_quvera_ui_type type, SaveIdentity identity, QWidget *parent)
     : FunctionPage(type, identity, parent), m_stack(new QStackedWidget(this))
 {
     resize(640, 448);
-    setStyleSheet(QStringLiteral("background-color: rgb(0, 0, 0);"));
+    LabelLook::setBackground(this, QStringLiteral("black"));
     m_stack->setObjectName(QStringLiteral("stackedWidget"));
     m_stack->setGeometry(0, 0, 640, 448);
 }

@@ -3,10 +3,12 @@
 
 #include "config/dipswellinfo.h"
 #include "device/displayrecords.h"
+#include "widgets/labellook.h"
 
 DswellMain::DswellMain(QWidget *parent) : RmsTrendPage(UI_DIPS_SWELLS, parent), m_ui(new Ui::DswellMain)
 {
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     setUp(m_ui->trend);
 }
 

@@ -3,6 +3,7 @@
 
 #include "device/displayrecords.h"
 #include "widgets/f_to_str.h"
+#include "widgets/labellook.h"
 
 #include <algorithm>
 
@@ -31,6 +32,7 @@ FlickerMain::FlickerMain(QWidget *parent) : ViewPage(UI_FLICKER, parent), m_ui(n
         { Qt::Key_F4, QT_TRANSLATE_NOOP("FlickerMain", "Trend"), &FlickerMain::goFlickerTrend },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     m_headers = ChannelLabels::numberedRow(this, "header_%1");
     for (const Row &row : kRows)
         m_rows.push_back(ChannelLabels::namedRow(this, row.name));

@@ -3,6 +3,7 @@
 
 #include "device/displayrecords.h"
 #include "widgets/f_to_str.h"
+#include "widgets/labellook.h"
 
 namespace {
 
@@ -17,6 +18,7 @@ FlickerPage::FlickerPage(QWidget *parent) : ViewPage(UI_FLICKER, parent), m_ui(n
         { Qt::Key_F4, QT_TRANSLATE_NOOP("FlickerPage", "Back"), &FlickerPage::goFlickerMain },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     m_captions = ChannelLabels::namedRow(this, "P");
     for (int p = 0; p < kPhases; ++p)
         m_values[p] = findChild<QLabel *>(QStringLiteral("P_L%1_V").arg(p + 1));

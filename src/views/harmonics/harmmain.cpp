@@ -5,6 +5,7 @@
 #include "config/harmdata.h"
 #include "views/common/keyrepeat.h"
 #include "widgets/f_to_str.h"
+#include "widgets/labellook.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -31,6 +32,7 @@ HarmMain::HarmMain(QWidget *parent)
         { Qt::Key_Right, nullptr, &HarmMain::pressRight },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     m_captions = ChannelLabels::numberedRow(this, "D%1");
     m_values = ChannelLabels::numberedRow(this, "D%1_val");
     connect(m_repeat, &KeyRepeat::repeated, this, &HarmMain::changeCursorPos);

@@ -6,6 +6,7 @@
 #include "views/common/keyrepeat.h"
 #include "views/harmonics/harmvalues.h"
 #include "widgets/f_to_str.h"
+#include "widgets/labellook.h"
 
 #include <cstdlib>
 
@@ -49,6 +50,7 @@ HarmMeterPage::HarmMeterPage(QWidget *parent)
         { Qt::Key_Down, nullptr, &HarmMeterPage::pressDown },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     m_ui->verticalScrollBar->setFocusPolicy(Qt::NoFocus);
     m_headers = ChannelLabels::numberedRow(this, "header_%1");
     for (int i = 0; i < kLines; ++i) {

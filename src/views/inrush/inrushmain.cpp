@@ -4,6 +4,7 @@
 #include "config/config_data.h"
 #include "config/inrushinfo.h"
 #include "views/common/keyrepeat.h"
+#include "widgets/labellook.h"
 
 #include <algorithm>
 #include <cmath>
@@ -75,6 +76,7 @@ InrushMain::InrushMain(QWidget *parent)
         { Qt::Key_Right, nullptr, &InrushMain::handleKeyRight },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     connect(m_repeat, &KeyRepeat::repeated, this, &InrushMain::changeField);
     setKeys(keys);
     showSelection();

@@ -3,6 +3,7 @@
 
 #include "config/inrushinfo.h"
 #include "device/displayrecords.h"
+#include "widgets/labellook.h"
 
 #include <algorithm>
 
@@ -20,6 +21,7 @@ const InrushInfo::Duration &duration()
 InrushStartPage::InrushStartPage(QWidget *parent) : RmsTrendPage(UI_INRUSH, parent), m_ui(new Ui::InrushStartPage)
 {
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     setUp(m_ui->trend);
 }
 

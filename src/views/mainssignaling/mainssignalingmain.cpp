@@ -4,6 +4,7 @@
 #include "config/config_data.h"
 #include "device/displayrecords.h"
 #include "widgets/f_to_str.h"
+#include "widgets/labellook.h"
 
 namespace {
 
@@ -44,6 +45,7 @@ MainsSignalingMain::MainsSignalingMain(QWidget *parent)
         { Qt::Key_F4, QT_TRANSLATE_NOOP("MainsSignalingMain", "Trend"), &MainsSignalingMain::goMainsSignalingTrend },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     m_headers = ChannelLabels::numberedRow(this, "header_%1");
     for (const Row &row : kRows)
         m_rows.push_back(ChannelLabels::namedRow(this, row.name));

@@ -4,6 +4,7 @@
 #include "config/config_data.h"
 #include "widgets/f_to_str.h"
 #include "widgets/viftrendchart.h"
+#include "widgets/labellook.h"
 
 namespace {
 
@@ -57,6 +58,7 @@ MainsSignalingTrend::MainsSignalingTrend(QWidget *parent)
         { Qt::Key_F4, QT_TRANSLATE_NOOP("MainsSignalingTrend", "Back"), &MainsSignalingTrend::goBack },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     initTrend({ "10m", "8m", "6m", "4m", "2m" });
     setKeys(keys);
 }

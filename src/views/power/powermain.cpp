@@ -5,6 +5,7 @@
 #include "config/phasecolor.h"
 #include "device/displayrecords.h"
 #include "widgets/f_to_str.h"
+#include "widgets/labellook.h"
 
 #include <cmath>
 
@@ -73,6 +74,7 @@ PowerMain::PowerMain(QWidget *parent) : ViewPage(UI_POWER, parent), m_ui(new Ui:
         { Qt::Key_F4, QT_TRANSLATE_NOOP("PowerMain", "Trend"), &PowerMain::goPowerTrend },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     m_headers = ChannelLabels::numberedRow(this, "header_%1");
     for (const Row &row : kRows) {
         ChannelLabels::LabelRow labels = ChannelLabels::namedRow(this, row.name);

@@ -5,6 +5,7 @@
 #include "device/displayrecords.h"
 #include "widgets/f_to_str.h"
 #include "widgets/viftrendchart.h"
+#include "widgets/labellook.h"
 
 namespace {
 
@@ -89,6 +90,7 @@ PowerTrendPage::PowerTrendPage(QWidget *parent) : TrendPage(UI_POWER, cycle(), p
         { Qt::Key_F4, QT_TRANSLATE_NOOP("PowerTrendPage", "Back"), &PowerTrendPage::goPowerMain },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     initTrend({ "10m", "8m", "6m", "4m", "2m" }, "trend_power", " :");
     setKeys(keys);
 }

@@ -5,6 +5,7 @@
 #include "device/displayrecords.h"
 #include "views/powerinverter/inverterfeed.h"
 #include "widgets/f_to_str.h"
+#include "widgets/labellook.h"
 
 #include <algorithm>
 
@@ -48,6 +49,7 @@ PowerInverterMain::PowerInverterMain(QWidget *parent)
         { Qt::Key_F4, QT_TRANSLATE_NOOP("PowerInverterMain", "Trend"), &PowerInverterMain::goPowerInverterTrend },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     m_headers = ChannelLabels::numberedRow(this, "header_%1");
     for (const auto &row : kInputs)
         m_inputs.push_back(findChild<QLabel *>(QString::fromLatin1(row.name)));

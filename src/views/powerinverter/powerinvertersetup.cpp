@@ -2,6 +2,7 @@
 #include "ui_powerinvertersetup.h"
 
 #include "views/powerinverter/inverterfeed.h"
+#include "widgets/labellook.h"
 
 PowerInverterSetup::PowerInverterSetup(QWidget *parent)
     : ViewPage(UI_POWER_INVERTER, parent), m_ui(new Ui::PowerInverterSetup)
@@ -12,6 +13,7 @@ PowerInverterSetup::PowerInverterSetup(QWidget *parent)
         { Qt::Key_F5, QT_TRANSLATE_NOOP("PowerInverterSetup", "Start"), &PowerInverterSetup::start },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     for (QWidget *button : { m_ui->phase1, m_ui->phase3 })
         button->setFocusPolicy(Qt::NoFocus);
     m_ui->phase3->setChecked(true);

@@ -5,6 +5,7 @@
 #include "views/powerinverter/inverterfeed.h"
 #include "widgets/f_to_str.h"
 #include "widgets/viftrendchart.h"
+#include "widgets/labellook.h"
 
 #include <algorithm>
 
@@ -88,6 +89,7 @@ PowerInverterTrend::PowerInverterTrend(QWidget *parent)
         { Qt::Key_F5, QT_TRANSLATE_NOOP("PowerInverterTrend", "Back"), &PowerInverterTrend::goPowerInverterMain },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     initTrend({ "10m", "8m", "6m", "4m", "2m" });
     setKeys(keys);
 }

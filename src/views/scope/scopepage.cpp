@@ -4,6 +4,7 @@
 #include "config/config_data.h"
 #include "views/common/scopecontrols.h"
 #include "views/scope/linesample.h"
+#include "widgets/labellook.h"
 
 #include <cstring>
 
@@ -29,7 +30,8 @@ static_assert(sizeof(__scope_pqa_data) == 19236, "told size of the saved record"
 } // namespace
 
 ScopePage::ScopePage(QWidget *parent)
-    : FunctionPage(UI_SCOPE, { 11, "Scope" }, parent), m_ui(new Ui::ScopePage), m_readout((m_ui->setupUi(this), this)),
+    : FunctionPage(UI_SCOPE, { 11, "Scope" }, parent), m_ui(new Ui::ScopePage),
+      m_readout((m_ui->setupUi(this), LabelLook::dress(this), this)),
       m_controls(new ScopeControls(this, m_ui->scope, m_ui->btn_f3, m_ui->btn_f4, m_ui->zoom_scale))
 {
     static const KeyRow<ScopePage> keys[] = {

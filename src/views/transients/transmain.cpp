@@ -3,6 +3,7 @@
 
 #include "config/config_data.h"
 #include "views/common/keyrepeat.h"
+#include "widgets/labellook.h"
 
 #include <algorithm>
 #include <utility>
@@ -26,6 +27,7 @@ TransMain::TransMain(QWidget *parent)
         { Qt::Key_Right, nullptr, &TransMain::pressRight },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     connect(m_repeat, &KeyRepeat::repeated, this, &TransMain::changeThreshold);
     setKeys(keys);
 }

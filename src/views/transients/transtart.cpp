@@ -3,6 +3,7 @@
 
 #include "config/config_data.h"
 #include "config/transparam.h"
+#include "widgets/labellook.h"
 
 TranStart::TranStart(QWidget *parent) : TransScopePage(parent), m_ui(new Ui::TranStart)
 {
@@ -17,6 +18,7 @@ TranStart::TranStart(QWidget *parent) : TransScopePage(parent), m_ui(new Ui::Tra
         { Qt::Key_Down, nullptr, &TranStart::pressDown },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     setUp(m_ui->scope, m_ui->btn_f3, m_ui->btn_f4, m_ui->zoom_scale);
     setKeys(keys);
 }

@@ -3,6 +3,7 @@
 
 #include "views/common/scopecontrols.h"
 #include "widgets/localtime.h"
+#include "widgets/labellook.h"
 
 #include <algorithm>
 #include <cmath>
@@ -36,6 +37,7 @@ TransView::TransView(QWidget *parent) : TransScopePage(parent), m_ui(new Ui::Tra
         { Qt::Key_Down, nullptr, &TransView::pressDown },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     setUp(m_ui->scope, m_ui->btn_f3, m_ui->btn_f4, m_ui->zoom_scale);
     setKeys(keys);
     showHeader(nullptr);

@@ -4,6 +4,7 @@
 #include "config/config_data.h"
 #include "views/unbalance/unbalancevalues.h"
 #include "widgets/f_to_str.h"
+#include "widgets/labellook.h"
 
 namespace {
 
@@ -63,6 +64,7 @@ UnbalanMain::UnbalanMain(QWidget *parent) : ViewPage(UI_UNBALANCE, parent), m_ui
         { Qt::Key_F4, QT_TRANSLATE_NOOP("UnbalanMain", "Vector"), &UnbalanMain::goUnbalanVector },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     m_headers = ChannelLabels::numberedRow(this, "header_%1");
     for (const Row &row : kRows)
         m_rows.push_back(ChannelLabels::namedRow(this, row.name));

@@ -5,6 +5,7 @@
 #include "config/phasecolor.h"
 #include "views/unbalance/unbalancevalues.h"
 #include "widgets/f_to_str.h"
+#include "widgets/labellook.h"
 
 #include <algorithm>
 
@@ -42,6 +43,7 @@ UnbalVectorPage::UnbalVectorPage(QWidget *parent) : ViewPage(UI_UNBALANCE, paren
         { Qt::Key_F4, QT_TRANSLATE_NOOP("UnbalVectorPage", "Back"), &UnbalVectorPage::goUnbalanMain },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     m_captions = labels("v%1");
     m_values = labels("v%1_v");
     m_angleCaptions = labels("L%1");

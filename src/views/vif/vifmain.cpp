@@ -4,6 +4,7 @@
 #include "config/config_data.h"
 #include "device/displayrecords.h"
 #include "widgets/f_to_str.h"
+#include "widgets/labellook.h"
 
 namespace {
 
@@ -36,6 +37,7 @@ VifMain::VifMain(QWidget *parent) : ViewPage(UI_VIF, parent), m_ui(new Ui::VifMa
         { Qt::Key_F4, QT_TRANSLATE_NOOP("VifMain", "Trend"), &VifMain::goVifTrend },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     m_headers = ChannelLabels::numberedRow(this, "header_%1");
     for (const Row &row : kRows)
         m_rows.push_back(ChannelLabels::namedRow(this, row.name));

@@ -4,6 +4,7 @@
 #include "config/config_data.h"
 #include "widgets/f_to_str.h"
 #include "widgets/viftrendchart.h"
+#include "widgets/labellook.h"
 
 namespace {
 
@@ -72,6 +73,7 @@ VifTrendPage::VifTrendPage(QWidget *parent) : TrendPage(UI_VIF, cycle(), parent)
         { Qt::Key_F4, QT_TRANSLATE_NOOP("VifTrendPage", "Back"), &VifTrendPage::goBack },
     };
     m_ui->setupUi(this);
+    LabelLook::dress(this);
     initTrend({ "10m", "8m", "6m", "4m", "2m" });
     setKeys(keys);
 }
