@@ -63,8 +63,9 @@ bool Gallery::runVariant(int wiring, int frequency, const QString &language, boo
     desk.setSetting(QLatin1String(kSettingFile), QStringLiteral("NOM_FREQ"), QString::number(frequencyCode(frequency)));
     desk.setSetting(QLatin1String(kUserFile), QStringLiteral("LANG"), language);
     QStringList arguments;
-    if (!m_options.scenario.isEmpty())
-        arguments << QStringLiteral("--scenario") << m_options.scenario;
+    // Without a wish the supply has the nominal frequency, or every page would show a frequency that is lost.
+    const QString nominal = frequency == 50 ? QStringLiteral("nominal") : QStringLiteral("nominal-%1").arg(frequency);
+    arguments << QStringLiteral("--scenario") << (m_options.scenario.isEmpty() ? nominal : m_options.scenario);
     if (!desk.start(arguments)) {
         m_error = desk.error();
         return false;

@@ -64,7 +64,7 @@ const QVector<Page> &galleryPages()
         fromMenu("logger", "logger", { "message" }, "F5", true, kOneWiring),
         fromMenu("user", "user", { "message" }, "F5", true, kOneWiring),
         byKey("scope", "F6",
-              { "voltage", "F1: next", "F1: next-2", "F1: next-3", "F1: next-4", "F3: cursor", "F3 F4 Up: zoom" }),
+              { "voltage", "F1: next", "F1: next-2", "F1: next-3", "F1: next-4", "F3: cursor", "F3 Up: zoom" }),
         byKey("monitor", "F8", { "message" }, "F5", kNotAt400Hz, kOneWiring),
         byKey("setup", "F9", { "message" }, "F5", true, kOneWiring),
         byKey("memory", "F10", { "message" }, "F5", true, kOneWiring),
