@@ -2,9 +2,6 @@
 
 #include "config/config_data.h"
 
-const TrendZoom DipSwellInfo::m_zoom_time_50[4] = { { 60, 10 }, { 48, 8 }, { 24, 4 }, { 12, 2 } };
-const TrendZoom DipSwellInfo::m_zoom_time_60[4] = { { 60, 12 }, { 40, 8 }, { 20, 4 }, { 10, 2 } };
-const TrendZoom DipSwellInfo::m_zoom_time_400[4] = { { 60, 12 }, { 48, 8 }, { 24, 4 }, { 12, 2 } };
 int DipSwellInfo::m_rms_numb_per_sec = 100;
 const TrendZoom *DipSwellInfo::m_zoom_time = DipSwellInfo::m_zoom_time_50;
 int DipSwellInfo::m_zoom_index = 0;
@@ -19,14 +16,5 @@ void DipSwellInfo::initInfoTimes()
 
 void DipSwellInfo::initInfoTimes(double nominalFrequency)
 {
-    if (isNominal(nominalFrequency, 50.0)) {
-        m_rms_numb_per_sec = 100;
-        m_zoom_time = m_zoom_time_50;
-    } else if (isNominal(nominalFrequency, 60.0)) {
-        m_rms_numb_per_sec = 120;
-        m_zoom_time = m_zoom_time_60;
-    } else if (isNominal(nominalFrequency, 400.0)) {
-        m_rms_numb_per_sec = 100;
-        m_zoom_time = m_zoom_time_400;
-    }
+    choose(nominalFrequency, &m_rms_numb_per_sec, &m_zoom_time);
 }

@@ -3,12 +3,11 @@
 #include "config/trendzoom.h"
 
 /// Parameters of the r.m.s. trend of dips and swells.
-class DipSwellInfo
+class DipSwellInfo : public RmsTrendTables
 {
 public:
     static int m_rms_numb_per_sec;
     static const TrendZoom *m_zoom_time; // the four steps in force
-    static const TrendZoom m_zoom_time_50[4], m_zoom_time_60[4], m_zoom_time_400[4];
     static int m_zoom_index; // 0 to 3
     static double m_threshold, m_hysteresis; // percent
     static double m_nom_amps; // A

@@ -1,7 +1,11 @@
 #include "config/harmdata.h"
 
 #include "config/config_data.h"
-#include "config/trendzoom.h"
+#include "config/nominalfrequency.h"
+
+namespace {
+constexpr int kOrders400 = 12;
+}
 
 int HarmData::m_harm_max_numb = 100;
 bool HarmData::m_bewith_inharm = true;
@@ -13,11 +17,6 @@ void HarmData::initHarmMaxNumb()
 
 void HarmData::initHarmMaxNumb(double nominalFrequency)
 {
-    if (isNominal(nominalFrequency, 50.0) || isNominal(nominalFrequency, 60.0)) {
-        m_harm_max_numb = 100;
-        m_bewith_inharm = true;
-    } else if (isNominal(nominalFrequency, 400.0)) {
-        m_harm_max_numb = 12;
-        m_bewith_inharm = false;
-    }
+    m_harm_max_numb = highestOrder(nominalFrequency, kOrders400, m_harm_max_numb);
+    m_bewith_inharm = m_harm_max_numb > kOrders400;
 }

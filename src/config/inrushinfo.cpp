@@ -11,9 +11,6 @@ const InrushInfo::Duration InrushInfo::m_dura_time_60[7]
     = { { 5, 1 }, { 60, 1 }, { 120, 2 }, { 240, 2 }, { 480, 5 }, { 960, 10 }, { 1920, 10 } };
 const InrushInfo::Duration InrushInfo::m_dura_time_400[7]
     = { { 6, 1 }, { 60, 1 }, { 120, 2 }, { 240, 2 }, { 480, 5 }, { 960, 10 }, { 1920, 10 } };
-const TrendZoom InrushInfo::m_zoom_time_50[4] = { { 60, 10 }, { 48, 8 }, { 24, 4 }, { 12, 2 } };
-const TrendZoom InrushInfo::m_zoom_time_60[4] = { { 60, 12 }, { 40, 8 }, { 20, 4 }, { 10, 2 } };
-const TrendZoom InrushInfo::m_zoom_time_400[4] = { { 60, 12 }, { 48, 8 }, { 24, 4 }, { 12, 2 } };
 
 int InrushInfo::m_rms_numb_per_sec = 100;
 int InrushInfo::m_duration_index = 0;
@@ -103,17 +100,10 @@ void InrushInfo::changeInfoCuzFreq()
 
 void InrushInfo::changeInfoCuzFreq(double nominalFrequency)
 {
-    if (isNominal(nominalFrequency, 50.0)) {
-        m_rms_numb_per_sec = 100;
+    if (!choose(nominalFrequency, &m_rms_numb_per_sec, &m_zoom_time))
+        return;
+    if (m_zoom_time == m_zoom_time_50)
         m_dura_time = m_dura_time_50;
-        m_zoom_time = m_zoom_time_50;
-    } else if (isNominal(nominalFrequency, 60.0)) {
-        m_rms_numb_per_sec = 120;
-        m_dura_time = m_dura_time_60;
-        m_zoom_time = m_zoom_time_60;
-    } else if (isNominal(nominalFrequency, 400.0)) {
-        m_rms_numb_per_sec = 100;
-        m_dura_time = m_dura_time_400;
-        m_zoom_time = m_zoom_time_400;
-    }
+    else
+        m_dura_time = m_zoom_time == m_zoom_time_60 ? m_dura_time_60 : m_dura_time_400;
 }

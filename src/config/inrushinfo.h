@@ -7,7 +7,7 @@
 class SettingConfig;
 
 /// Parameters of the inrush function: length and zoom of its trend, the levels of the detector, steps of the editor.
-class InrushInfo
+class InrushInfo : public RmsTrendTables
 {
 public:
     /// One length of the trend: seconds kept, values per stored step.
@@ -22,7 +22,6 @@ public:
     static const Duration *m_dura_time; // the seven rows in force
     static const Duration m_dura_time_50[7], m_dura_time_60[7], m_dura_time_400[7];
     static const TrendZoom *m_zoom_time; // the four steps in force
-    static const TrendZoom m_zoom_time_50[4], m_zoom_time_60[4], m_zoom_time_400[4];
     static int m_zoom_index;
     static double m_nom_amps; // A at the clamp
     static double m_threshold, m_hysteresis; // percent of m_nom_amps

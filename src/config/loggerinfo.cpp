@@ -4,7 +4,7 @@
 #include "config/config_data.h"
 #include "config/fileinfo.h"
 #include "config/massstorage.h"
-#include "config/trendzoom.h"
+#include "config/nominalfrequency.h"
 
 #include <limits>
 
@@ -17,6 +17,8 @@ constexpr quint32 kSingleBits = 0x3ff9e7; // bits 0, 1, 2, 5, 6, 7, 8, 11 and 12
 constexpr quint32 kSequenceBits = 0x618; // bits 3, 4, 9, 10: one for all of them
 constexpr quint32 kHarmonicBits = 0xfc00000; // bits 22 to 27: one per order
 constexpr quint32 kFlickerBit = 0x10000000; // bit 28: three
+
+constexpr int kOrders400 = 13; // As required: one more than the other functions have
 
 int bitCount(quint32 bits)
 {
@@ -52,16 +54,12 @@ void LoggerInfo::writeSelectedParam()
 
 void LoggerInfo::initHarmMaxNumb()
 {
-    const double nominal = m_settingConfig_g.getNomFreq();
-    if (isNominal(nominal, 50.0) || isNominal(nominal, 60.0))
-        m_harm_max_numb = 100;
-    else if (isNominal(nominal, 400.0))
-        m_harm_max_numb = 13;
+    m_harm_max_numb = highestOrder(m_settingConfig_g.getNomFreq(), kOrders400, m_harm_max_numb);
 }
 
 int LoggerInfo::countParamNumb(quint32 selected, double nominalFrequency)
 {
-    const int orders = isNominal(nominalFrequency, 400.0) ? 13 : 100;
+    const int orders = highestOrder(nominalFrequency, kOrders400, 100);
     return bitCount(selected & kSingleBits) + ((selected & kSequenceBits) ? 1 : 0)
         + bitCount(selected & kHarmonicBits) * orders + ((selected & kFlickerBit) ? 3 : 0);
 }

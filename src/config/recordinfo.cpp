@@ -2,7 +2,7 @@
 
 #include "config/config.h"
 #include "config/config_data.h"
-#include "config/trendzoom.h"
+#include "config/nominalfrequency.h"
 
 namespace {
 const char kFile[] = "/mnt/userfs/config/record.conf";
@@ -35,9 +35,6 @@ void RecordInfo::writeSelectedParam()
 
 void RecordInfo::initHarmMaxNumb()
 {
-    const double nominal = m_settingConfig_g.getNomFreq();
-    if (isNominal(nominal, 50.0) || isNominal(nominal, 60.0))
-        m_harm_max_numb = 100;
-    else if (isNominal(nominal, 400.0))
-        m_harm_max_numb = 12;
+    constexpr int kOrders400 = 12;
+    m_harm_max_numb = highestOrder(m_settingConfig_g.getNomFreq(), kOrders400, m_harm_max_numb);
 }

@@ -7,9 +7,14 @@ struct TrendZoom
     int valuesPerPixel;
 };
 
-/// Whether a frequency counts as `nominal`: within 1.0 Hz.
-inline bool isNominal(double frequency, double nominal)
+/// What the nominal frequency decides about an r.m.s. trend: the same for each function that shows one, while each
+/// keeps its own choice among the steps.
+class RmsTrendTables
 {
-    const double difference = frequency - nominal;
-    return difference < 1.0 && difference > -1.0;
-}
+public:
+    static const TrendZoom m_zoom_time_50[4], m_zoom_time_60[4], m_zoom_time_400[4];
+
+protected:
+    /// Gives values per second and zoom steps; false, and nothing given, for another frequency than 50, 60, 400 Hz.
+    static bool choose(double nominalFrequency, int *valuesPerSecond, const TrendZoom **zoom);
+};

@@ -1,7 +1,7 @@
 #include "config/waveinfo.h"
 
 #include "config/config_data.h"
-#include "config/trendzoom.h"
+#include "config/nominalfrequency.h"
 
 int WaveInfo::m_in_waving = 0;
 QString *WaveInfo::m_wave_file = new QString;

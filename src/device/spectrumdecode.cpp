@@ -1,9 +1,9 @@
 #include "config/config_data.h"
+#include "config/nominalfrequency.h"
 #include "device/aggregationpayload.h"
 #include "device/cleanvalue.h"
 #include "device/datatypes.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -195,7 +195,7 @@ float decodeInput400(const float *wire, float scale, const SharedLines &shared, 
 void DataTypes::aggregation_harm(__datagram_aggregation *record, const float *payload, const quint32 *)
 {
     const double nominal = m_settingConfig_g.getNomFreq();
-    const bool at400 = std::fabs(nominal - 400.0) <= 1.0;
+    const bool at400 = isNominal(nominal, 400.0);
     const WireLines &lines = at400 ? kLines400 : kUsualLines;
     const float reference = payload[spectrumWord(0) + kLineWords * lines.firstLine + kPhase];
     const double p0 = std::isfinite(reference) ? double(reference) : 0.0;
