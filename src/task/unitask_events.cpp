@@ -103,7 +103,7 @@ void UniTask::eventFinished(const PQAEventItem &) { }
 void UniTask::eventFinishedWithRMS(const PQAEventItem &event)
 {
     if (m_function == UniBasic && isRecording() && m_commonFile && m_commonFile->isOpen())
-        m_commonFile->addDataBlock(Pqa2DBType(0xA1010083), PowerEvents::toRawData(event));
+        m_commonFile->addDataBlock(Pqa2EventCurves, PowerEvents::toRawData(event));
 }
 
 namespace {
@@ -124,7 +124,7 @@ void UniTask::saveAllEvents()
     for (const PQAEventItem &event : events) {
         for (Pqa2FF *file : { m_commonFile, m_monitorFile }) {
             if (file && file->isOpen())
-                file->addDataBlock(Pqa2DBType(0xA1010080), eventHead(event));
+                file->addDataBlock(Pqa2EventHead, eventHead(event));
         }
     }
 }
@@ -136,9 +136,9 @@ void UniTask::saveEvents(bool finished)
         if ((event.finished != 0) != finished)
             continue;
         if (m_commonFile && m_commonFile->isOpen())
-            m_commonFile->addDataBlock(Pqa2DBType(0xA1010083), PowerEvents::toRawData(event));
+            m_commonFile->addDataBlock(Pqa2EventCurves, PowerEvents::toRawData(event));
         if (m_monitorFile && m_monitorFile->isOpen())
-            m_monitorFile->addDataBlock(Pqa2DBType(0xA1010080), eventHead(event));
+            m_monitorFile->addDataBlock(Pqa2EventHead, eventHead(event));
     }
 }
 
@@ -148,7 +148,7 @@ void UniTask::saveFinishedEvents()
     if (!m_commonFile || !m_commonFile->isOpen())
         return;
     for (const __trans_data *record : qAsConst(g_trans_events))
-        m_commonFile->addDataBlock(Pqa2DBType(0xA1000025), transientBlock(*record));
+        m_commonFile->addDataBlock(Pqa2Transient, transientBlock(*record));
 }
 
 void UniTask::saveUnFinishedEvents()

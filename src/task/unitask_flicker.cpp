@@ -10,22 +10,20 @@
 
 namespace {
 
-constexpr quint32 kFlickerItem = 32; // bit of the recorded items
-
 template <typename T> QByteArray blockHead(T value)
 {
     return QByteArray(reinterpret_cast<const char *>(&value), sizeof(value));
 }
 
 /// Adds the blocks that hold a value behind their head.
-void writeFlickerBlocks(Pqa2FF *file, const FlickerOutput &out, quint32 shortType, quint32 longType)
+void writeFlickerBlocks(Pqa2FF *file, const FlickerOutput &out, Pqa2DBType shortType, Pqa2DBType longType)
 {
     if (!file || !file->isOpen())
         return;
     if (out.shortTerm)
-        file->addDataBlock(Pqa2DBType(shortType), out.shortBlock);
+        file->addDataBlock(shortType, out.shortBlock);
     if (out.longTerm)
-        file->addDataBlock(Pqa2DBType(longType), out.longBlock);
+        file->addDataBlock(longType, out.longBlock);
 }
 
 } // namespace
@@ -44,9 +42,9 @@ void UniTask::datagramFlicker(const QByteArray &bytes)
     const FlickerOutput out = m_flickerProcessor->process(*m_flicker, head, *g_flicker_data);
 
     if (monitoring) {
-        writeFlickerBlocks(m_monitorFile, out, 0xA1010002, 0xA1010003);
-    } else if (m_function == UniBasic && isRecording() && (RecordInfo::m_recordItems & kFlickerItem)) {
-        writeFlickerBlocks(m_commonFile, out, 0xA1000026, 0xA1000027);
+        writeFlickerBlocks(m_monitorFile, out, Pqa2MonitorFlickerShort, Pqa2MonitorFlickerLong);
+    } else if (m_function == UniBasic && isRecording() && (RecordInfo::m_recordItems & RecordInfo::Flicker)) {
+        writeFlickerBlocks(m_commonFile, out, Pqa2FlickerShort, Pqa2FlickerLong);
     }
     if (m_function == UniBasic || monitoring)
         emit flickerTaken();

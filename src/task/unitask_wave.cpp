@@ -8,7 +8,6 @@
 #include "task/transientcutter.h"
 
 #include <cmath>
-#include <cstring>
 
 // The waveform stream: recording clock, transients, waveforms of events and, once a second, the trends.
 
@@ -45,7 +44,7 @@ void UniTask::captureTransient()
     Pqa2FF *file
         = m_function == UniMonitor ? m_monitorFile : (m_function == UniBasic && isRecording() ? m_commonFile : nullptr);
     if (file && file->isOpen())
-        file->addDataBlock(Pqa2DBType(0xA1000025), transientBlock(*record));
+        file->addDataBlock(Pqa2Transient, transientBlock(*record));
 
     if (g_trans_events.size() >= TransParam::kMaxEvents)
         delete g_trans_events.takeFirst();
