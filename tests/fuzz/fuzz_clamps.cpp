@@ -1,34 +1,26 @@
 // Clamp files of any content: loaded, changed, saved, loaded again.
 #include "config/clampif.h"
+#include "fuzz/fuzztarget.h"
 #include "unit/config/rootfiles.h"
 
-#include <QLoggingCategory>
-
-#include <cstdint>
-#include <cstdlib>
+using FuzzTarget::expect;
 
 namespace {
 
 const QString kFile = QStringLiteral("/mnt/userfs/sys/fuzz.xcl");
 const QString kCopy = QStringLiteral("/mnt/userfs/sys/copy.xcl");
 
-void expect(bool holds)
-{
-    if (!holds)
-        abort();
-}
-
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
-    QLoggingCategory::setFilterRules("*.debug=false");
+    FuzzTarget::silenceDebugLog();
     return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    RootFiles::write(kFile, QByteArray(reinterpret_cast<const char *>(data), int(size)));
+    RootFiles::write(kFile, FuzzTarget::bytes(data, size));
     ClampIF clamps(kFile);
     expect(clamps.count() >= 9 && clamps.getCurClamp());
     expect(clamps.getCurClamp()->name() == clamps.inUsed());

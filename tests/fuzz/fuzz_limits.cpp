@@ -1,35 +1,28 @@
 // Limit-set files and the file of the active name, of any content: loaded, saved, loaded again.
 #include "config/limitsmanager.h"
+#include "fuzz/fuzztarget.h"
 #include "unit/config/rootfiles.h"
 
-#include <QLoggingCategory>
-
 #include <cmath>
-#include <cstdint>
-#include <cstdlib>
+
+using FuzzTarget::expect;
 
 namespace {
 
 const QString kSet = QStringLiteral("/mnt/userfs/sys//limits/fuzz.xml");
 const QString kCopy = QStringLiteral("/mnt/userfs/sys/copy.xml");
 
-void expect(bool holds)
-{
-    if (!holds)
-        abort();
-}
-
 } // namespace
 
 extern "C" int LLVMFuzzerInitialize(int *, char ***)
 {
-    QLoggingCategory::setFilterRules("*.debug=false");
+    FuzzTarget::silenceDebugLog();
     return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    const QByteArray file(reinterpret_cast<const char *>(data), int(size));
+    const QByteArray file = FuzzTarget::bytes(data, size);
     RootFiles::write(kSet, file);
     RootFiles::write(LimitsManager::confPath(), file);
 

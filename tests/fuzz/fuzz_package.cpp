@@ -5,23 +5,18 @@
 // package: a whole one), byte 42 the payload's filling, bit 0 of byte 43 puts the pattern of good flags in.
 #include "device/datagramkinds.h"
 #include "device/devicedsp.h"
+#include "fuzz/fuzztarget.h"
 #include "unit/device/processorpeer.h"
 
 #include <QCoreApplication>
 
-#include <cstdint>
 #include <cstdio>
-#include <cstdlib>
+
+using FuzzTarget::fail;
 
 namespace {
 
 constexpr size_t kRecord = 44;
-
-[[noreturn]] void fail(const char *what)
-{
-    std::fprintf(stderr, "%s\n", what);
-    std::abort();
-}
 
 /// The link with a far end that this target plays, on one thread.
 struct FuzzedLink

@@ -2,26 +2,18 @@
 // Input: byte 0 the wiring, byte 1 the frequency, byte 2 the scales; the rest fills the payload again and again.
 #include "config/config_data.h"
 #include "device/datatypes.h"
+#include "fuzz/fuzztarget.h"
 
 #include <QList>
 
 #include <cmath>
-#include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <vector>
 
-namespace {
+using FuzzTarget::expect;
 
-void check(bool ok, const char *what)
-{
-    if (ok)
-        return;
-    std::fprintf(stderr, "%s\n", what);
-    std::abort();
-}
+namespace {
 
 /// The setters store the file at once, so a value is set only where it changes.
 void setUp(int joinMode, int frequency)
@@ -35,19 +27,19 @@ void setUp(int joinMode, int frequency)
 void checkAggregation(const __datagram_aggregation &record)
 {
     for (const ChannelRms &row : record.channel) {
-        check(std::isfinite(row.voltage) && std::isfinite(row.currentOffset) && std::isfinite(row.voltageCrest),
-              "a channel value that is no number");
-        check(row.voltageAngle <= 0 && row.voltageAngle >= -360, "a voltage angle out of range");
-        check(row.currentAngle <= 0 && row.currentAngle >= -360, "a current angle out of range");
-        check(std::fabs(row.angleDifference) <= 180, "an angle difference out of range");
+        expect(std::isfinite(row.voltage) && std::isfinite(row.currentOffset) && std::isfinite(row.voltageCrest),
+               "a channel value that is no number");
+        expect(row.voltageAngle <= 0 && row.voltageAngle >= -360, "a voltage angle out of range");
+        expect(row.currentAngle <= 0 && row.currentAngle >= -360, "a current angle out of range");
+        expect(std::fabs(row.angleDifference) <= 180, "an angle difference out of range");
     }
     for (const PowerRow &row : record.power)
-        check(std::isfinite(row.active) && std::isfinite(row.apparent) && std::isfinite(row.reactive),
-              "a power that is no number");
+        expect(std::isfinite(row.active) && std::isfinite(row.apparent) && std::isfinite(row.reactive),
+               "a power that is no number");
     for (const ChannelSpectrum &spectrum : record.spectrum) {
         for (int h = 0; h < kHarmonicOrders; ++h) {
-            check(std::fabs(spectrum.voltage[h].phase) <= 3.1415930f, "a phase out of range");
-            check(!(spectrum.voltage[h].magnitude < 0), "a negative magnitude");
+            expect(std::fabs(spectrum.voltage[h].phase) <= 3.1415930f, "a phase out of range");
+            expect(!(spectrum.voltage[h].magnitude < 0), "a negative magnitude");
         }
     }
 }
@@ -80,8 +72,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     checkAggregation(*aggregation);
     DataTypes::datagramRMS_1_2(rms.get(), filled(Link::kRmsWords).data());
     for (int c = 0; c < 3; ++c)
-        check(rms->voltage[c].count <= kRmsEntries && rms->current[c].count <= kRmsEntries,
-              "a count beyond the record");
+        expect(rms->voltage[c].count <= kRmsEntries && rms->current[c].count <= kRmsEntries,
+               "a count beyond the record");
     DataTypes::datagramWave(wave.get(), filled(Link::kWaveWords).data());
     DataTypes::datagramFlicker(flicker.get(), filled(Link::kFlickerWords).data());
 
@@ -95,7 +87,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     DataTypes::lineInterpolation(out, flicker->pinst[2], kFlickerSamples);
     short samples[600];
     DataTypes::lineInterpolation(samples, wave->voltage[0], data[0] % 601, kWaveSamples);
-    check(!(std::fabs(DataTypes::iu_pahse_difference(flicker->pinst[0][0], flicker->pinst[0][1])) > 180),
-          "a difference out of range");
+    expect(!(std::fabs(DataTypes::iu_pahse_difference(flicker->pinst[0][0], flicker->pinst[0][1])) > 180),
+           "a difference out of range");
     return 0;
 }

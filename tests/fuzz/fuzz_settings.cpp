@@ -3,24 +3,14 @@
 #include "config/netconfig.h"
 #include "config/settingconfig.h"
 #include "config/userconfig.h"
+#include "fuzz/fuzztarget.h"
 #include "unit/config/rootfiles.h"
 
-#include <cstdint>
-#include <cstdlib>
-
-namespace {
-
-void expect(bool holds)
-{
-    if (!holds)
-        abort();
-}
-
-} // namespace
+using FuzzTarget::expect;
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    const QByteArray file(reinterpret_cast<const char *>(data), int(size));
+    const QByteArray file = FuzzTarget::bytes(data, size);
     // The levels that the clamp gives stand there already, so that the start stores nothing and a campaign is quick.
     RootFiles::write(SettingConfig::filePath(),
                      file + "\nINRUSH_NOMAMPS=1.25\nINRUSH_THRESHOLD=200\nINRUSH_HYSTERESIS=2\n");
