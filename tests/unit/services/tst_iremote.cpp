@@ -1,109 +1,28 @@
 #include "device/screenshot.h"
 #include "services/iremote.h"
+#include "remotepeer.h"
 
 #include <QApplication>
-#include <QBuffer>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QProcess>
-#include <QSignalSpy>
 #include <QTest>
 #include <QUdpSocket>
 #include <QVBoxLayout>
 #include <QWidget>
-#include <QtEndian>
 #include <atomic>
 #include <clocale>
 #include <csignal>
-#include <cstdio>
-#include <cstring>
-#include <fcntl.h>
-#include <netinet/in.h>
-#include <sys/resource.h>
-#include <sys/socket.h>
 #include <thread>
-#include <unistd.h>
+
+using namespace RemotePeer;
 
 namespace {
 
 constexpr int kUnknownKey = 0x1FFFFFF;
-constexpr int kPatience = 30000;
-
-QByteArray request(quint32 command, qint32 key = 0)
-{
-    QByteArray bytes(12, '\0');
-    qToLittleEndian(command, bytes.data());
-    qToLittleEndian(key, bytes.data() + 8);
-    return bytes;
-}
-
-quint32 word(const QByteArray &bytes, int offset)
-{
-    return qFromLittleEndian<quint32>(bytes.constData() + offset);
-}
-
-/// A PC tool: one socket, and what came to it.
-class Peer
-{
-public:
-    Peer() { m_socket.bind(QHostAddress(QHostAddress::LocalHost), 0); }
-
-    void send(const QByteArray &bytes)
-    {
-        m_socket.writeDatagram(bytes, QHostAddress(QHostAddress::LocalHost), IRemote::port());
-    }
-    const QList<QByteArray> &received()
-    {
-        while (m_socket.hasPendingDatagrams()) {
-            QByteArray bytes(int(m_socket.pendingDatagramSize()), '\0');
-            m_socket.readDatagram(bytes.data(), bytes.size());
-            m_received << bytes;
-        }
-        return m_received;
-    }
-    /// Waits without the event loop: the remote control's thread answers by itself.
-    QByteArray answerWithoutLoop()
-    {
-        if (received().isEmpty() && m_socket.waitForReadyRead(kPatience))
-            received();
-        return m_received.isEmpty() ? QByteArray() : m_received.takeFirst();
-    }
-    /// True when all datagrams sent before have been read: the answer to a keep-alive has come.
-    bool isCaughtUp()
-    {
-        send(request(3));
-        for (;;) {
-            const QByteArray answer = answerWithoutLoop();
-            if (answer.isEmpty())
-                return false;
-            if (answer.size() == 32 && word(answer, 0) == 3)
-                return true;
-        }
-    }
-    void forget()
-    {
-        received();
-        m_received.clear();
-    }
-    /// The joined datagrams once the length that the stream tells has come; else empty.
-    QByteArray wholePicture()
-    {
-        QByteArray stream;
-        for (const QByteArray &bytes : received())
-            stream += bytes;
-        if (stream.size() < 8 || stream.size() < int(word(stream, 4)) + 8)
-            return {};
-        return stream.left(int(word(stream, 4)) + 8);
-    }
-
-private:
-    QUdpSocket m_socket;
-    QList<QByteArray> m_received;
-};
 
 /// A page: takes the focus, notes the keys, and changes its colour with each press.
 class Page : public QWidget
@@ -217,11 +136,6 @@ private slots:
     void keyWithoutAnyWindowIsDropped();
     void onlyItsThreadBlocksSignals12And14();
     void socketIsClosedWithTheObject();
-    void takenPortEndsTheProcess();
-    void missingSocketEndsTheProcess();
-    void failedSendIsPrintedAndStopsThePicture();
-    void errorStormSpinsNoCore_data();
-    void errorStormSpinsNoCore();
 
 private:
     QWidget *m_window = nullptr;
@@ -655,130 +569,10 @@ void TstIRemote::socketIsClosedWithTheObject()
     m_remote = new IRemote(nullptr);
 }
 
-// The cases below end or break a process, so they run in one of their own: this executable with a word.
-
-void TstIRemote::takenPortEndsTheProcess()
-{
-    QUdpSocket taken;
-    QVERIFY(taken.bind(QHostAddress(QHostAddress::AnyIPv4), 0));
-    QProcess child;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("QUVERA_REMOTE_PORT"), QString::number(taken.localPort()));
-    child.setProcessEnvironment(environment);
-    child.start(QCoreApplication::applicationFilePath(), { QStringLiteral("child-run") });
-    QVERIFY(child.waitForFinished(kPatience));
-    QCOMPARE(child.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(child.exitCode(), 255);
-    QVERIFY(child.readAllStandardOutput().contains("bind() 函数使用失败了.\r"));
-}
-
-void TstIRemote::missingSocketEndsTheProcess()
-{
-    QProcess child;
-    // A leak checker needs descriptors at the end, and there are none to be had.
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
-    child.setProcessEnvironment(environment);
-    child.start(QCoreApplication::applicationFilePath(), { QStringLiteral("child-no-descriptors") });
-    QVERIFY(child.waitForFinished(kPatience));
-    QCOMPARE(child.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(child.exitCode(), 255);
-    QVERIFY(child.readAllStandardOutput().contains("创建套接字失败了.\r"));
-}
-
-void TstIRemote::failedSendIsPrintedAndStopsThePicture()
-{
-    QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), { QStringLiteral("child-send-to-nobody") });
-    QVERIFY(child.waitForFinished(kPatience));
-    QCOMPARE(child.exitCode(), 0);
-    // Once: the first datagram fails, the two behind it are not tried.
-    QCOMPARE(child.readAllStandardOutput().count("sendto fail errno Invalid argument\r\n"), 1);
-}
-
-void TstIRemote::errorStormSpinsNoCore_data()
-{
-    QTest::addColumn<QString>("word");
-    QTest::addColumn<QByteArray>("text");
-    QTest::newRow("closed socket") << QStringLiteral("child-closed-socket") << QByteArray("err select");
-    QTest::newRow("socket that cannot be read")
-        << QStringLiteral("child-unreadable-socket") << QByteArray("recvfrom()函数使用失败了.");
-}
-
-void TstIRemote::errorStormSpinsNoCore()
-{
-    QFETCH(QString, word);
-    QFETCH(QByteArray, text);
-    QProcess child;
-    child.start(QCoreApplication::applicationFilePath(), { word });
-    QByteArray output;
-    while (output.count(text) < 8)
-        QVERIFY(child.waitForReadyRead(kPatience) && (output += child.readAllStandardOutput(), true));
-    // Pauses of 1, 2, 4 ... ms stood between the eight; without them there would be thousands by now.
-    QVERIFY2(output.count(text) < 100, QByteArray::number(output.count(text)));
-    child.kill();
-    child.waitForFinished(kPatience);
-}
-
-namespace {
-
-// The descriptor of the remote control's socket: the one that is bound to its port.
-int remoteDescriptor()
-{
-    for (int descriptor = 3; descriptor < 1000; ++descriptor) {
-        sockaddr_in address = {};
-        socklen_t size = sizeof address;
-        if (getsockname(descriptor, reinterpret_cast<sockaddr *>(&address), &size) == 0 && address.sin_family == AF_INET
-            && ntohs(address.sin_port) == IRemote::port())
-            return descriptor;
-    }
-    return -1;
-}
-
-void waitForPort()
-{
-    while (IRemote::port() == 0)
-        usleep(1000);
-}
-
-int runChild(const QByteArray &word)
-{
-    ScreenShot::initScreenShot();
-    if (word == "child-no-descriptors") {
-        const rlimit limit = { 0, 0 };
-        setrlimit(RLIMIT_NOFILE, &limit);
-    }
-    IRemote remote(nullptr);
-    if (word == "child-send-to-nobody") {
-        waitForPort();
-        remote.respondImage(QByteArray(3000, 'x'));
-        return 0;
-    }
-    if (word == "child-closed-socket" || word == "child-unreadable-socket") {
-        waitForPort();
-        const int descriptor = remoteDescriptor();
-        const int null = open("/dev/null", O_RDONLY);
-        QUdpSocket socket; // bound before, so that it does not get the number of the closed one
-        socket.bind(QHostAddress(QHostAddress::LocalHost), 0);
-        const quint16 port = IRemote::port();
-        if (word == "child-closed-socket")
-            close(descriptor);
-        else
-            dup2(null, descriptor);
-        // Wakes the thread: a poll that already waits holds on to the old socket.
-        socket.writeDatagram(request(0), QHostAddress(QHostAddress::LocalHost), port);
-    }
-    return QCoreApplication::exec();
-}
-
-} // namespace
-
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
-    if (argc > 1 && QByteArray(argv[1]).startsWith("child-"))
-        return runChild(argv[1]);
     TstIRemote test;
     return QTest::qExec(&test, argc, argv);
 }
