@@ -45,6 +45,73 @@ QVector<int> upTo(int last)
     return numbers;
 }
 
+void addOptions(QCommandLineParser &parser)
+{
+    static const struct
+    {
+        const char *name, *text, *value, *usual;
+    } kOptions[] = {
+        { "out", "Folder of the pictures (default: gallery).", "folder", "gallery" },
+        { "wirings", "JOINMODE numbers, such as 1,4-6, or all (default: 1).", "list", "1" },
+        { "frequencies", "50, 60, 400 or all (default: 50).", "list", "50" },
+        { "languages", "Words such as EN,ZH,RU, or all (default: EN).", "list", "EN" },
+        { "pages", "Names with commas (default: all).", "list", "" },
+        { "scenario", "Scenario file of the processor stand-in.", "file", "" },
+        { "settle", "Wait before each picture (default: 1200).", "ms", "1200" },
+        { "warm-up", "Live values before the first picture (default: 8000); 0: none.", "ms", "8000" },
+    };
+    for (const auto &option : kOptions)
+        parser.addOption({ QString::fromLatin1(option.name), QString::fromLatin1(option.text),
+                           QString::fromLatin1(option.value), QString::fromLatin1(option.usual) });
+    parser.addOption({ QStringLiteral("sheet"), QStringLiteral("Also write a contact sheet, sheet.png.") });
+}
+
+QStringList words(const QString &list)
+{
+    return list.split(QLatin1Char(','), Qt::SkipEmptyParts);
+}
+
+// The first of the words that is none of the known ones; null when there is none.
+QString unknownWord(const QStringList &words, const QStringList &known)
+{
+    for (const QString &word : words) {
+        if (!known.contains(word))
+            return word;
+    }
+    return {};
+}
+
+// What is wrong with the options; empty when they are good.
+QString readOptions(const QCommandLineParser &parser, const QStringList &pageNames, GalleryOptions *options)
+{
+    options->folder = parser.value(QStringLiteral("out"));
+    options->scenario = parser.value(QStringLiteral("scenario"));
+    options->sheet = parser.isSet(QStringLiteral("sheet"));
+    options->pages = words(parser.value(QStringLiteral("pages")));
+    const QString page = unknownWord(options->pages, pageNames);
+    if (!page.isNull())
+        return QStringLiteral("no page is called \"%1\" (pages: %2)").arg(page, pageNames.join(QLatin1Char(' ')));
+
+    const QString languages = parser.value(QStringLiteral("languages"));
+    options->languages = languages == QLatin1String("all") ? languageWords() : words(languages);
+    const QString language = unknownWord(options->languages, languageWords());
+    if (!language.isNull())
+        return QStringLiteral("no language has the word \"%1\" (words: %2)")
+            .arg(language, languageWords().join(QLatin1Char(' ')));
+
+    options->wirings = parseList(parser.value(QStringLiteral("wirings")), upTo(10));
+    options->frequencies = parseList(parser.value(QStringLiteral("frequencies")), { 50, 60, 400 });
+    if (options->wirings.isEmpty() || options->frequencies.isEmpty() || options->languages.isEmpty())
+        return QStringLiteral("a list holds numbers that do not exist (quvera-gallery --help)");
+
+    bool isSettle = false, isWarmUp = false;
+    options->settleMs = parser.value(QStringLiteral("settle")).toInt(&isSettle);
+    options->warmUpMs = parser.value(QStringLiteral("warm-up")).toInt(&isWarmUp);
+    if (!isSettle || !isWarmUp || options->settleMs < 0 || options->warmUpMs < 0)
+        return QStringLiteral("--settle and --warm-up take ms");
+    return {};
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -55,65 +122,23 @@ int main(int argc, char **argv)
     std::setlocale(LC_NUMERIC, "C");
     QCoreApplication::setApplicationName(QStringLiteral("quvera-gallery"));
 
-    QStringList names;
+    QStringList pageNames;
     for (const Page &page : galleryPages())
-        names << page.name;
+        pageNames << page.name;
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Drives an instrument of its own through its pages and writes their "
                        "pictures with an index.html.\nPages: %1")
-            .arg(names.join(QLatin1Char(' '))));
+            .arg(pageNames.join(QLatin1Char(' '))));
     parser.addHelpOption();
-    const auto option = [&parser](const char *name, const char *text, const char *value, const char *usual) {
-        const QCommandLineOption result(QString::fromLatin1(name), QString::fromLatin1(text),
-                                        QString::fromLatin1(value), QString::fromLatin1(usual));
-        parser.addOption(result);
-        return result;
-    };
-    const auto out = option("out", "Folder of the pictures (default: gallery).", "folder", "gallery");
-    const auto wirings = option("wirings", "JOINMODE numbers, such as 1,4-6, or all (default: 1).", "list", "1");
-    const auto frequencies = option("frequencies", "50, 60, 400 or all (default: 50).", "list", "50");
-    const auto languages = option("languages", "Words such as EN,ZH,RU, or all (default: EN).", "list", "EN");
-    const auto pages = option("pages", "Names with commas (default: all).", "list", "");
-    const auto scenario = option("scenario", "Scenario file of the processor stand-in.", "file", "");
-    const auto settle = option("settle", "Wait before each picture (default: 1200).", "ms", "1200");
-    const auto warmUp
-        = option("warm-up", "Live values before the first picture (default: 8000); 0: none.", "ms", "8000");
-    const QCommandLineOption sheet(QStringLiteral("sheet"), QStringLiteral("Also write a contact sheet, sheet.png."));
-    parser.addOption(sheet);
+    addOptions(parser);
     parser.process(application);
 
     GalleryOptions options;
     options.binDir = QCoreApplication::applicationDirPath();
-    options.folder = parser.value(out);
-    options.scenario = parser.value(scenario);
-    options.pages = parser.value(pages).split(QLatin1Char(','), Qt::SkipEmptyParts);
-    for (const QString &page : qAsConst(options.pages)) {
-        if (!names.contains(page))
-            return fail(2,
-                        QStringLiteral("no page is called \"%1\" (pages: %2)").arg(page, names.join(QLatin1Char(' '))));
-    }
-    options.wirings = parseList(parser.value(wirings), upTo(10));
-    options.frequencies = parseList(parser.value(frequencies), { 50, 60, 400 });
-    options.languages = parser.value(languages) == QLatin1String("all")
-        ? languageWords()
-        : parser.value(languages).split(QLatin1Char(','), Qt::SkipEmptyParts);
-    for (const QString &language : qAsConst(options.languages)) {
-        if (!languageWords().contains(language))
-            return fail(2,
-                        QStringLiteral("no language has the word \"%1\" (words: %2)")
-                            .arg(language, languageWords().join(QLatin1Char(' '))));
-    }
-    if (options.wirings.isEmpty() || options.frequencies.isEmpty() || options.languages.isEmpty())
-        return fail(2, QStringLiteral("a list holds numbers that do not exist (quvera-gallery --help)"));
-    bool isNumber = false;
-    options.settleMs = parser.value(settle).toInt(&isNumber);
-    bool isWarmUp = false;
-    options.warmUpMs = parser.value(warmUp).toInt(&isWarmUp);
-    if (!isNumber || !isWarmUp || options.settleMs < 0 || options.warmUpMs < 0)
-        return fail(2, QStringLiteral("--settle and --warm-up take ms"));
-    options.sheet = parser.isSet(sheet);
-
+    const QString misuse = readOptions(parser, pageNames, &options);
+    if (!misuse.isEmpty())
+        return fail(2, misuse);
     Gallery gallery(options);
     if (!gallery.run())
         return fail(1, gallery.error());

@@ -1,5 +1,7 @@
 #include "gallery/pages.h"
 
+#include <iterator>
+
 namespace {
 
 constexpr int kRows = 3;

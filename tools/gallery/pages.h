@@ -3,7 +3,6 @@
 #include <QString>
 #include <QStringList>
 #include <QVector>
-#include <iterator>
 
 /// One picture: the keys that lead to it from the picture before, and its name.
 struct Shot
