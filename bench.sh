@@ -8,8 +8,7 @@ case "${1:-}" in -h|--help) sed -n '2,3s/^# //p' "$0"; exit 0 ;; esac
 install_packages
 configure release
 export QT_QPA_PLATFORM=offscreen
-names=$(sed -n 's/^ *add_test(NAME \(bench_[a-z0-9_]*\).*/\1/p; s/^ *quvera_bench(\(bench_[a-z0-9_]*\).*/\1/p' \
-    "$top"/tests/bench/CMakeLists.txt | sort -u)
+names=$(sed -n 's/^ *quvera_bench(\(bench_[a-z0-9_]*\).*/\1/p' "$top"/tests/bench/CMakeLists.txt | sort)
 [ $# -eq 0 ] || names=$(for name in "$@"; do echo "bench_$name"; done)
 [ -n "$names" ] || die "there are no benchmarks"
 # shellcheck disable=SC2086  # a list of names
@@ -17,7 +16,6 @@ build "$top/build" quvera quvera-processor $names
 status=0
 for name in $names; do
     echo "== ${name#bench_}"
-    program=$(find "$top/build/bench" "$top/build/bin" "$top/build/tests" -maxdepth 1 -name "$name" -type f 2>/dev/null | head -n 1)
-    "$top/tests/with-root" "$program" || status=1
+    "$top/tests/with-root" "$top/build/bench/$name" || status=1
 done
 exit $status
