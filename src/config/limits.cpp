@@ -2,8 +2,8 @@
 
 #include <QDomDocument>
 
-#include "config/config_data.h"
 #include "config/limitbuiltins.h"
+#include "config/limitsmanager.h"
 #include "config/safefile.h"
 #include "config/xmlguard.h"
 #include "config/xmltext.h"
@@ -12,7 +12,6 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
-#include <vector>
 
 namespace {
 

@@ -1,7 +1,6 @@
 #include "config/settingrow.h"
 
 #include <cmath>
-#include <limits>
 
 int SettingText::toInt(const QString &text)
 {

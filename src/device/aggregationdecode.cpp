@@ -3,7 +3,6 @@
 #include "device/cleanvalue.h"
 #include "device/datatypes.h"
 
-#include <algorithm>
 #include <cmath>
 #include <complex>
 

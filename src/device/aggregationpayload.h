@@ -21,8 +21,7 @@ constexpr int kCurrentOffset = 8;
 constexpr int kSpectrumFirst = 42;
 constexpr int kSpectrumWords = 400; // of one input
 constexpr int kLineWords = 4;
-// Offsets in the four words of a line.
-constexpr int kInterMagnitude = 0;
+// Offsets in the four words of a line; word 0 is the magnitude of the interharmonic, word 1 is not read.
 constexpr int kMagnitude = 2;
 constexpr int kPhase = 3; // radians
 constexpr int kLineStep400 = 8; // lines from one order of a 400 Hz system to the next; the first is line 7

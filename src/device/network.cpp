@@ -4,7 +4,6 @@
 #include "platform/target.h"
 
 #include <QStringList>
-#include <cstdio>
 #include <cstring>
 #include <net/if.h>
 #include <netinet/in.h>

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "pqa2/modbusheader.h"
-
 #include <QtGlobal>
 
 #include <modbus.h>

@@ -2,9 +2,7 @@
 
 #include <QtGlobal>
 
-#include <condition_variable>
 #include <memory>
-#include <mutex>
 #include <thread>
 
 class ModbusRegisters;

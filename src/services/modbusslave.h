@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pqa2/modbusheader.h"
 #include "services/modbusregisters.h"
 
 #include <memory>

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <QtGlobal>
-
 /// Ring of half-cycle r.m.s. values of one input, between the datagram and the trends.
 /// As required, a full ring reads as empty: the count is write minus read, plus the size if negative.
 class RmsRing

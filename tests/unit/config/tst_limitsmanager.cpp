@@ -1,7 +1,5 @@
 #include <QtTest>
 
-#include <QDomDocument>
-
 #include "config/limitsmanager.h"
 #include "filelimit.h"
 #include "rootfiles.h"

@@ -6,7 +6,6 @@
 #include "rootfiles.h"
 
 #include <functional>
-#include <limits>
 
 namespace {
 

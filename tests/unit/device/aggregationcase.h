@@ -2,8 +2,6 @@
 
 #include "payloads.h"
 
-#include <QtGlobal>
-
 #include <algorithm>
 #include <cmath>
 #include <limits>

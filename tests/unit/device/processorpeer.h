@@ -9,7 +9,6 @@
 #include <QFileInfo>
 #include <QVector>
 
-#include <cerrno>
 #include <cstring>
 #include <poll.h>
 #include <sys/socket.h>

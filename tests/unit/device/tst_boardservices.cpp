@@ -6,7 +6,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QNetworkInterface>
 #include <QRegularExpression>
 #include <QTest>
 

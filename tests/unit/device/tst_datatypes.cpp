@@ -5,7 +5,6 @@
 
 #include <QTest>
 #include <cmath>
-#include <limits>
 #include <memory>
 #include <random>
 

@@ -11,7 +11,6 @@
 #include <QRegularExpression>
 #include <QTest>
 #include <fcntl.h>
-#include <memory>
 #include <sys/stat.h>
 #include <unistd.h>
 

@@ -7,7 +7,6 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QThread>
-#include <cmath>
 #include <cstring>
 #include <limits>
 #include <memory>

@@ -5,7 +5,6 @@
 #include "documentpage.h"
 #include "openlink.h"
 
-#include <QDir>
 #include <QTest>
 #include <cstring>
 

@@ -4,7 +4,6 @@
 
 #include <QTest>
 #include <cmath>
-#include <limits>
 #include <memory>
 
 /// Sequences, angles, powers by wiring and mains signals, with values worked out by hand. Scales are 1.

@@ -2,7 +2,6 @@
 
 #include <QDialog>
 #include <QImage>
-#include <QMenu>
 #include <QSignalSpy>
 #include <QSplashScreen>
 #include <QTest>

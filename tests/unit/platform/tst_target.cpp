@@ -1,7 +1,6 @@
 #include <QtTest>
 
 #include <QProcess>
-#include <QTemporaryDir>
 
 #include "platform/debuglog.h"
 #include "platform/deskroot.h"

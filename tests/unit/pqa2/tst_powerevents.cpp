@@ -3,9 +3,6 @@
 #include <QSignalSpy>
 #include <QtTest>
 
-#include <cmath>
-#include <limits>
-
 // Times: the first half cycle is at 1000000 ms, each next one 10 ms later.
 
 class TstPowerEvents : public QObject

@@ -11,7 +11,6 @@
 #include <QWidget>
 #include <QtTest>
 
-#include <cstring>
 #include <limits>
 
 class TstPqaFile : public QObject

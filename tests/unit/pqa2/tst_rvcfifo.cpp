@@ -68,7 +68,6 @@ void TstRvcFifo::ringHoldsFourWindows_data()
     QTest::addColumn<int>("seconds");
     QTest::addColumn<int>("samples");
     QTest::newRow("50 Hz, 1 s") << 50 << 1 << 400;
-    QTest::newRow("60 Hz, 1 s") << 60 << 1 << 480;
     QTest::newRow("400 Hz, 2 s") << 400 << 2 << 6400;
 }
 

@@ -8,7 +8,6 @@
 #include "task/unitask.h"
 
 #include <cstring>
-#include <memory>
 #include <vector>
 
 // Payloads as they leave the link, and fresh records behind a universal task at a fixed time.
