@@ -7,6 +7,8 @@
 #include <QSaveFile>
 #include <QTcpServer>
 #include <QThread>
+#include <csignal>
+#include <sys/prctl.h>
 
 namespace {
 
@@ -29,6 +31,12 @@ bool waitUntil(const std::function<bool()> &condition, int waitMs)
 }
 
 } // namespace
+
+// Between fork and exec: system calls only.
+void DeskInstrument::Child::setupChildProcess()
+{
+    ::prctl(PR_SET_PDEATHSIG, SIGTERM);
+}
 
 DeskInstrument::DeskInstrument(const QString &binDir, const QString &root)
     : m_binDir(binDir), m_root(root), m_remotePort(freeUdpPort()), m_modbusPort(freeTcpPort())
@@ -187,7 +195,7 @@ void DeskInstrument::stop()
 bool DeskInstrument::isInstrumentRunning() const
 {
     // QProcess learns of an end only when it is asked to look.
-    auto &process = const_cast<QProcess &>(m_instrument);
+    auto &process = const_cast<Child &>(m_instrument);
     if (process.state() == QProcess::Running)
         process.waitForFinished(0);
     return process.state() == QProcess::Running;

@@ -67,13 +67,19 @@ private:
     QByteArray readLog(const QString &name) const;
     bool end(QProcess &process);
 
+    /// A program that the kernel ends with this one, should this one end without a farewell.
+    class Child : public QProcess
+    {
+        void setupChildProcess() override;
+    };
+
     QScopedPointer<QTemporaryDir> m_temporary;
     QString m_binDir;
     QString m_root;
     quint16 m_remotePort;
     quint16 m_modbusPort;
     QScopedPointer<RemoteClient> m_remote;
-    QProcess m_processor;
-    QProcess m_instrument;
+    Child m_processor;
+    Child m_instrument;
     QString m_error;
 };
