@@ -55,6 +55,17 @@ QString oneLine(const QString &name)
     return line;
 }
 
+/// prefix + n + suffix with the first n of 1 to 999 that is not taken; empty when all are.
+QString firstFreeName(const QString &prefix, const QString &suffix, const QStringList &taken)
+{
+    for (int n = 1; n <= 999; ++n) {
+        const QString candidate = prefix + QString::number(n) + suffix;
+        if (!taken.contains(candidate))
+            return candidate;
+    }
+    return {};
+}
+
 QString localTime()
 {
     const QTimeZone zone(m_userConfig_g.getTimeZone().toLatin1());
@@ -171,13 +182,7 @@ QStringList FileInfo::getRecordInfos() const
 
 QString FileInfo::getDefaultFileName(const QString &prefix, const QString &suffix) const
 {
-    const QStringList taken = getInfoFiles();
-    for (int n = 1; n <= 999; ++n) {
-        const QString candidate = prefix + QString::number(n) + suffix;
-        if (!taken.contains(candidate))
-            return candidate;
-    }
-    return {};
+    return firstFreeName(prefix, suffix, getInfoFiles());
 }
 
 QString FileInfo::getDefaultRecordName(const QString &prefix) const
@@ -185,10 +190,5 @@ QString FileInfo::getDefaultRecordName(const QString &prefix) const
     QStringList taken;
     for (const QString &entry : getRecordInfos())
         taken << entry.section(QLatin1Char(' '), 1); // behind "yyMMdd_hhmmss "
-    for (int n = 1; n <= 999; ++n) {
-        const QString candidate = prefix + QString::number(n);
-        if (!taken.contains(candidate))
-            return candidate;
-    }
-    return {};
+    return firstFreeName(prefix, QString(), taken);
 }

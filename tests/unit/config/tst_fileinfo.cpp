@@ -202,8 +202,8 @@ private slots:
             index += "Vif_" + QByteArray::number(n) + ".png,x\n";
         RootFiles::write(kIndex, index);
         QCOMPARE(FileInfo().getDefaultFileName("Vif_", ".png"), QString());
-        RootFiles::write(kIndex, index.replace("Vif_998.png", "other.png"));
-        QCOMPARE(FileInfo().getDefaultFileName("Vif_", ".png"), QString("Vif_998.png"));
+        RootFiles::write(kIndex, index.replace("Vif_999.png", "other.png"));
+        QCOMPARE(FileInfo().getDefaultFileName("Vif_", ".png"), QString("Vif_999.png"));
     }
 
     void defaultRecordNamesLookBehindTheDate()

@@ -361,7 +361,7 @@ private slots:
                                                   + QByteArray("</a>").repeated(20000));
         QTest::newRow("entities that grow")
             << QByteArray("<!DOCTYPE l [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '&a;&a;&a;&a;&a;'>]><limits name='&b;'/>");
-        QTest::newRow("257 kB") << limitsFile(QByteArray(257 * 1024, ' '));
+        QTest::newRow("a byte over 256 kB") << limitsFile(QByteArray(256 * 1024 + 1 - limitsFile("").size(), ' '));
     }
     void filesThatAreNoLimitSetAreRefused()
     {
@@ -377,6 +377,15 @@ private slots:
         QVERIFY(!set.loadFile(kPath));
         QVERIFY(QDir().mkpath(Target::path(kPath)));
         QVERIFY(!set.loadFile(kPath));
+    }
+
+    void exactly256KilobytesAreStillRead()
+    {
+        const QByteArray file = limitsFile(QByteArray(256 * 1024 - limitsFile("").size(), ' '));
+        QCOMPARE(file.size(), 262144);
+        RootFiles::write(kPath, file);
+        MonitorLimits2 set;
+        QVERIFY(set.loadFile(kPath));
     }
 
     void sixteenDeepIsStillRead()
