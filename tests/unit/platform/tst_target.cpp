@@ -79,6 +79,9 @@ private slots:
                                            << "udhcpc -i wlan0 > /dev/null 2>&1 &";
         QTest::newRow("init script") << "networking.sh eth0;/etc/init.d/networking restart; sleep 1"
                                      << "networking.sh eth0;R/etc/init.d/networking restart; sleep 1";
+        QTest::newRow("whole path before other words")
+            << "cp /etc/resolv.conf /tmp; cat /etc/wpa_supplicant.conf|wc"
+            << "cp R/etc/resolv.conf R/tmp; cat R/etc/wpa_supplicant.conf|wc";
         QTest::newRow("supplicant") << "ls /var/run/wpa_supplicant"
                                     << "ls R/var/run/wpa_supplicant";
         QTest::newRow("fonts") << "ls /usr/lib/fonts/"
