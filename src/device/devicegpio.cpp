@@ -67,11 +67,10 @@ void DeviceGPIO::initDeviceGPIO()
 
 void DeviceGPIO::initGPIO(QString number)
 {
-    const QString path = QStringLiteral("/sys/class/gpio/gpio") + number;
-    if (!QFile::exists(Target::path(path)))
-        Target::shell(QStringLiteral("echo ") + number + QStringLiteral(" > /sys/class/gpio/export"));
-    Target::shell(QStringLiteral("echo ") + QStringLiteral("out") + QStringLiteral(" > /sys/class/gpio/gpio") + number
-                  + QStringLiteral("/direction"));
+    const int line = number.toInt();
+    if (!QFile::exists(Target::path(QStringLiteral("/sys/class/gpio/gpio") + number)))
+        GpioFiles::exportLine(line);
+    GpioFiles::setDirection(line, QStringLiteral("out"));
 }
 
 int DeviceGPIO::openGPIODev(QString number)
