@@ -1,4 +1,6 @@
 // Reads the sources and holds them to the rules of docs/architecture.md.
+#include "unit/documentpage.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
@@ -58,23 +60,7 @@ QStringList includesOf(const QString &path)
 /// Rows of the table behind a heading of docs/architecture.md, without its head.
 QVector<QStringList> documentTable(const QString &heading)
 {
-    QVector<QStringList> rows;
-    const QString text = read(kTop + QStringLiteral("/docs/architecture.md"));
-    const int at = text.indexOf(QStringLiteral("\n## ") + heading + QLatin1Char('\n'));
-    if (at < 0)
-        return rows;
-    const int next = text.indexOf(QStringLiteral("\n## "), at + 4);
-    const QStringList lines = text.mid(at, next < 0 ? -1 : next - at).split(QLatin1Char('\n'));
-    for (const QString &line : lines) {
-        if (!line.startsWith(QLatin1Char('|')))
-            continue;
-        QStringList cells = line.mid(1).split(QLatin1Char('|'));
-        cells.removeLast();
-        for (QString &cell : cells)
-            cell = cell.trimmed().remove(QLatin1Char('`'));
-        rows << cells;
-    }
-    return rows.mid(2);
+    return DocumentPage(QStringLiteral("architecture.md")).table(QStringLiteral("## ") + heading);
 }
 
 /// Folder and rank of the document's table; an include may point to a lower rank only.
@@ -242,8 +228,9 @@ void TstArchitecture::toolsIncludeNothingOfTheInstrument()
 
 void TstArchitecture::onlyThePlatformFolderKnowsBoardFromDesk()
 {
-    const QRegularExpression pattern(QStringLiteral("QUVERA_(ROOT|REMOTE_PORT|MODBUS_PORT)|\\bgetenv\\b|\\bqgetenv\\b|qEnvironmentVariable|"
-                                                    "Target::root\\(|#\\s*if.*(__arm__|__x86_64__|_DESK)"));
+    const QRegularExpression pattern(
+        QStringLiteral("QUVERA_(ROOT|REMOTE_PORT|MODBUS_PORT)|\\bgetenv\\b|\\bqgetenv\\b|qEnvironmentVariable|"
+                       "Target::root\\(|#\\s*if.*(__arm__|__x86_64__|_DESK)"));
     const QStringList found = offenders(pattern, QStringLiteral("platform"));
     QVERIFY2(found.isEmpty(), list(found));
 }

@@ -7,13 +7,13 @@
 #include "config/limitsmanager.h"
 #include "platform/clock.h"
 #include "rootfiles.h"
+#include "unit/documentpage.h"
 
 namespace {
 
 QString page(const char *name)
 {
-    QFile file(QStringLiteral(QUVERA_SOURCE_DIR "/docs/formats/") + QLatin1String(name));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return DocumentPage(QLatin1String("formats/") + QLatin1String(name)).text();
 }
 
 /// The n-th example of a page.

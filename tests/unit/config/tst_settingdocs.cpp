@@ -3,6 +3,7 @@
 #include "config/netconfig.h"
 #include "config/settingconfig.h"
 #include "config/userconfig.h"
+#include "unit/documentpage.h"
 
 namespace {
 
@@ -22,13 +23,6 @@ class TstSettingDocs : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        QFile file(QStringLiteral(QUVERA_SOURCE_DIR "/docs/settings.md"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        m_page = QString::fromUtf8(file.readAll());
-    }
-
     void theTableOfKeysIsThatOfTheCode()
     {
         QStringList expected;
@@ -67,7 +61,7 @@ private slots:
     }
 
 private:
-    QString m_page;
+    const QString m_page = DocumentPage(QStringLiteral("settings.md")).text();
 };
 
 QTEST_GUILESS_MAIN(TstSettingDocs)

@@ -2,7 +2,7 @@
 #include "device/controlframe.h"
 #include "device/deviceinit.h"
 #include "device/idevice.h"
-#include "documentpage.h"
+#include "unit/documentpage.h"
 #include "openlink.h"
 
 #include <QTest>

@@ -1,6 +1,6 @@
 #include "device/datagramrecords.h"
 #include "device/displayrecords.h"
-#include "documentpage.h"
+#include "unit/documentpage.h"
 
 #include <QTest>
 #include <cstring>

@@ -4,6 +4,7 @@
 #include "platform/target.h"
 #include "pqa2/pqa2info.h"
 #include "pqa2reader.h"
+#include "unit/documentpage.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -78,8 +79,7 @@ QByteArray fileBytes(const QString &boardPath)
 
 QString page()
 {
-    QFile file(QStringLiteral(QUVERA_SOURCE_DIR "/docs/formats/pqa2.md"));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return DocumentPage(QStringLiteral("formats/pqa2.md")).text();
 }
 
 /// Payload of the n-th block of the runs below: 0 to 16 bytes.

@@ -3,6 +3,7 @@
 #include "platform/clock.h"
 #include "platform/target.h"
 #include "pqa2/pqafile.h"
+#include "unit/documentpage.h"
 
 #include <QDir>
 #include <QFile>
@@ -133,9 +134,7 @@ void TstPqaFile::pictureRecordAndTrailerFollowTheHeader()
 
 void TstPqaFile::formatPageTellsTheHeaderAndItsExample()
 {
-    QFile page(QStringLiteral(QUVERA_SOURCE_DIR "/docs/formats/pqa.md"));
-    QVERIFY(page.open(QIODevice::ReadOnly));
-    const QString text = QString::fromUtf8(page.readAll());
+    const QString text = DocumentPage(QStringLiteral("formats/pqa.md")).text();
     const struct
     {
         std::size_t offset;

@@ -1,5 +1,6 @@
 #include "device/displayrecords.h"
 #include "services/modbusblocks.h"
+#include "unit/documentpage.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -514,9 +515,7 @@ QList<MapRow> mapOfTheCode()
 
 void TstModbusBlocks::pageTellsTheSameMap()
 {
-    QFile page(QStringLiteral(QUVERA_SOURCE_DIR "/docs/modbus.md"));
-    QVERIFY(page.open(QIODevice::ReadOnly));
-    const QString text = QString::fromUtf8(page.readAll());
+    const QString text = DocumentPage(QStringLiteral("modbus.md")).text();
     const QString section
         = text.section(QStringLiteral("## Input registers"), 1).section(QStringLiteral("\n### "), 0, 0);
     static const QRegularExpression line(QStringLiteral("^\\| (\\d+) \\| ([^|]+) \\| [^|]*\\| ([^|]+) \\|"),

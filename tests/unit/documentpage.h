@@ -18,6 +18,9 @@ public:
             m_text = QString::fromUtf8(file.readAll());
     }
 
+    /// The whole page; empty when it is missing.
+    const QString &text() const { return m_text; }
+
     /// Cells of the first table under a heading ("## Kinds"), without its head.
     QVector<QStringList> table(const QString &heading) const
     {
