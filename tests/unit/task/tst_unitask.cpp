@@ -257,6 +257,12 @@ void TstUniTask::clockStepsCountNoEnergy()
     m_task->datagramAggregation(p.bytes());
     QCOMPARE(m_task->energySeconds(), 2);
     QVERIFY(m_task->aggregation().energy[0].active > 0);
+    Clock::advance(60'001);
+    m_task->datagramAggregation(p.bytes());
+    QCOMPARE(m_task->energySeconds(), 2);
+    Clock::advance(60'000); // the longest gap that counts
+    m_task->datagramAggregation(p.bytes());
+    QCOMPARE(m_task->energySeconds(), 62);
 }
 
 void TstUniTask::pausedTaskStillTakesData()

@@ -1,14 +1,29 @@
 #include "config/pqaeventitem.h"
+#include "config/recordinfo.h"
+#include "platform/target.h"
 #include "pqa2/pqa2ff.h"
+#include "unit/pqa2/pqa2reader.h"
 #include "unitaskcase.h"
 
+#include <QFile>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <cmath>
 #include <limits>
 
-/// Half cycles, transients, what is stored of them, and payloads of any bytes.
+namespace {
+
+/// The blocks of a file behind those that every file opens with.
+QList<ReadBlock> storedBlocks(const Pqa2FF &file)
+{
+    QFile stored(Target::path(file.fullFilePath()));
+    return stored.open(QIODevice::ReadOnly) ? readBlocks(stored.readAll()).mid(3) : QList<ReadBlock>();
+}
+
+} // namespace
+
+/// Half cycles, transients, flicker, what is stored of them, and payloads of any bytes.
 class TstUniTaskStream : public QObject
 {
     Q_OBJECT
@@ -34,6 +49,8 @@ private slots:
     void anyPayloadAtAnyTimeInAnyWiringKeepsTheListsBounded();
     void recordersStoreTransientAndEvents();
     void recorderStoresTheWaveformOfAnEvent();
+    void flickerValuesGoToTheFileOfTheFunction_data();
+    void flickerValuesGoToTheFileOfTheFunction();
 
 private:
     void start()
@@ -346,15 +363,26 @@ void TstUniTaskStream::recordersStoreTransientAndEvents()
     Pqa2FF monitor("/tmp/monitor.pqa2");
     if (!common.open() || !monitor.open())
         QFAIL("no room for the files");
-    const qint64 before = common.size();
-    const qint64 beforeMonitor = monitor.size();
     m_task->setFiles(&common, &monitor);
     m_task->saveUnFinishedEvents(); // the dip runs and has no curves yet: no record but an empty block
-    QCOMPARE(monitor.size() - beforeMonitor, 12 + 32);
     m_task->saveFinishedEvents();
-    // Block head, then time, frequency, position and 600 samples of the channel.
-    QCOMPARE(common.size() - before, 12 + (12 + 16 + 1200));
+    m_task->saveAllEvents();
     m_task->setFiles(nullptr, nullptr);
+
+    const QList<ReadBlock> recorded = storedBlocks(common);
+    QCOMPARE(recorded.size(), 3);
+    QCOMPARE(recorded[0].type, 0xA1010083u);
+    QCOMPARE(recorded[0].payload.size(), 0);
+    QCOMPARE(recorded[1].type, 0xA1000025u);
+    QCOMPARE(recorded[1].payload.size(), 16 + 1200); // time, frequency, position, 600 samples of the channel
+    QCOMPARE(recorded[2].type, 0xA1010080u);
+    QCOMPARE(recorded[2].payload.size(), 32);
+    const QList<ReadBlock> monitored = storedBlocks(monitor);
+    QCOMPARE(monitored.size(), 2);
+    for (const ReadBlock &block : monitored) {
+        QCOMPARE(block.type, 0xA1010080u);
+        QCOMPARE(block.payload, recorded[2].payload);
+    }
 }
 
 void TstUniTaskStream::recorderStoresTheWaveformOfAnEvent()
@@ -383,6 +411,59 @@ void TstUniTaskStream::recorderStoresTheWaveformOfAnEvent()
     m_task->datagramWave(wave(0, kNow + 700).bytes());
     QCOMPARE(common.size() - before, 12 + 8 + 8 * 4096);
     m_task->setFiles(nullptr, nullptr);
+    QCOMPARE(storedBlocks(common).first().type, 0xA100002Au);
+}
+
+void TstUniTaskStream::flickerValuesGoToTheFileOfTheFunction_data()
+{
+    QTest::addColumn<int>("function");
+    QTest::addColumn<int>("timeBytes");
+    QTest::addColumn<quint32>("shortKind");
+    QTest::addColumn<quint32>("longKind");
+    QTest::newRow("recorder: milliseconds") << int(AbstractTask::UniBasic) << 8 << 0xA1000026u << 0xA1000027u;
+    QTest::newRow("monitor: seconds") << int(AbstractTask::UniMonitor) << 4 << 0xA1010002u << 0xA1010003u;
+}
+
+void TstUniTaskStream::flickerValuesGoToTheFileOfTheFunction()
+{
+    QFETCH(int, function);
+    QFETCH(int, timeBytes);
+    QFETCH(quint32, shortKind);
+    QFETCH(quint32, longKind);
+    Pqa2FF common("/tmp/common.pqa2");
+    Pqa2FF monitor("/tmp/monitor.pqa2");
+    if (!common.open() || !monitor.open())
+        QFAIL("no room for the files");
+    m_task->setFiles(&common, &monitor);
+    m_task->initUniFunction(AbstractTask::UniFunction(function));
+    m_task->startTask();
+    RecordInfo::m_recordItems = RecordInfo::Flicker;
+    if (function == AbstractTask::UniBasic)
+        m_task->startRecordTask();
+
+    // 30000 means of 40 samples make a short-term value: 2400 datagrams of 500 samples. Twelve make a long-term value.
+    constexpr int kInterval = 2400;
+    for (int i = 0; i < 12 * kInterval; ++i) {
+        Payload p(Link::kFlickerWords, kNow + qint64(1000) * i);
+        for (int word = 2; word < 1502; ++word)
+            p.set(word, float(kInterval - i % kInterval));
+        m_task->datagramFlicker(p.set(1502, 500u).bytes());
+    }
+    m_task->setFiles(nullptr, nullptr);
+    RecordInfo::m_recordItems = RecordInfo::Frequency10s;
+
+    const bool monitoring = function == AbstractTask::UniMonitor;
+    const QList<ReadBlock> blocks = storedBlocks(monitoring ? monitor : common);
+    QVERIFY(storedBlocks(monitoring ? common : monitor).isEmpty());
+    QCOMPARE(blocks.size(), 12 + 1);
+    for (int i = 0; i < blocks.size(); ++i) {
+        QCOMPARE(blocks[i].type, i < 12 ? shortKind : longKind);
+        QCOMPARE(blocks[i].payload.size(), timeBytes + 3 * 4); // a value for each phase
+        quint64 time = 0;
+        memcpy(&time, blocks[i].payload.constData(), size_t(timeBytes));
+        const quint64 end = quint64(kNow) + 1000u * (quint64(qMin(i + 1, 12)) * kInterval - 1);
+        QCOMPARE(time, monitoring ? end / 1000 : end);
+    }
 }
 
 QTEST_GUILESS_MAIN(TstUniTaskStream)
