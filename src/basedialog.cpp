@@ -1,6 +1,7 @@
 #include "basedialog.h"
 #include "ui_basedialog.h"
 
+#include "config/nominalfrequency.h"
 #include "config/recordinfo.h"
 #include "config/settingconfig.h"
 #include "device/backlight.h"
@@ -19,8 +20,6 @@
 #include <QDateTime>
 #include <QKeyEvent>
 #include <QTimer>
-
-#include <cmath>
 
 namespace {
 
@@ -67,7 +66,7 @@ QString title(_quvera_ui_type type)
 
 bool is400Hz()
 {
-    return std::fabs(m_settingConfig_g.getNomFreq() - 400.0) < 1.0;
+    return isNominal(m_settingConfig_g.getNomFreq(), 400.0);
 }
 
 QPixmap iconPixmap(const QString &name)

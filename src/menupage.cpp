@@ -2,16 +2,15 @@
 #include "ui_menupage.h"
 
 #include "config/config_data.h"
-#include "device/displayrecords.h"
+#include "config/nominalfrequency.h"
+#include "config/transparam.h"
 #include "pqa2/pqafile.h"
 #include "widgets/keymap.h"
+#include "widgets/labellook.h"
 #include "widgets/runinfo.h"
 #include "widgets/savedialog.h"
-#include "widgets/labellook.h"
 
 #include <QKeyEvent>
-
-#include <cmath>
 
 namespace {
 
@@ -87,7 +86,7 @@ void MenuPage::retranslateUi()
 
 void MenuPage::initMenuMatrix()
 {
-    if (std::fabs(m_settingConfig_g.getNomFreq() - 400.0) < 1.0)
+    if (isNominal(m_settingConfig_g.getNomFreq(), 400.0))
         menuMatrix400();
     else
         menuMatrix50();

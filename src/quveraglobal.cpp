@@ -95,10 +95,8 @@ FunctionPage *functionPage(_quvera_ui_type type)
 
 void showSplash()
 {
-    constexpr int kRussian = 12;
-
     QPixmap picture(QStringLiteral(":/splash"));
-    if (m_userConfig_g.getLang() == kRussian)
+    if (m_userConfig_g.getLang() == UserConfig::RU)
         picture.load(QStringLiteral(":/splash_ru"));
     // Never closed: the main window covers it.
     splash = new QSplashScreen(QPixmap());

@@ -11,7 +11,6 @@
 #include "views/vif/vifmain.h"
 #include "views/vif/vifpage.h"
 #include "widgets/keymap.h"
-#include "widgets/message.h"
 
 #include <QFile>
 #include <QSignalSpy>

@@ -3,12 +3,12 @@
 #include "device/idevice.h"
 #include "quveraglobal.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <cstring>
 #include <vector>
 
