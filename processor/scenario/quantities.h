@@ -28,4 +28,14 @@ processor::InputMask inputs(const QString &text, Side side);
 /// Name of an input: "u1" to "in".
 QString inputName(int input);
 
+/// Calls \a function with the steady signal of each input of \a mask.
+template <typename Function>
+void forEachInput(processor::SignalSpec *signal, processor::InputMask mask, Function function)
+{
+    for (int input = 0; input < processor::InputCount; ++input) {
+        if (mask & processor::maskOf(input))
+            function(signal->inputs[std::size_t(input)]);
+    }
+}
+
 } // namespace scenario

@@ -44,13 +44,6 @@ struct Change
         *into = inputs(words.value(at), side);
         return *into != 0 || fail(QStringLiteral("inputs as u1, i, l1+l2"));
     }
-    template <typename Function> void each(InputMask mask, Function function)
-    {
-        for (int input = 0; input < processor::InputCount; ++input) {
-            if (mask & processor::maskOf(input))
-                function(signal.inputs[std::size_t(input)]);
-        }
-    }
 };
 
 bool setPowerFactor(Change &change, InputMask lines)
@@ -90,7 +83,7 @@ bool setHarmonic(Change &change)
     harmonic.order = int(order);
     if (harmonic.order != order)
         return change.fail(QStringLiteral("a whole order"));
-    change.each(mask, [&](InputSpec &input) {
+    forEachInput(&change.signal, mask, [&](InputSpec &input) {
         putComponent(&input.harmonics, harmonic, [&](const auto &other) { return other.order == harmonic.order; });
     });
     return true;
@@ -106,7 +99,7 @@ bool setInterharmonic(Change &change)
         || (change.words.size() > 3 && !change.value(3, Unit::Degrees, -360, 360, &component.phaseDeg)))
         return false;
     const auto same = [&](const auto &other) { return other.frequencyHz == component.frequencyHz; };
-    change.each(mask, [&](InputSpec &input) { putComponent(&input.interharmonics, component, same); });
+    forEachInput(&change.signal, mask, [&](InputSpec &input) { putComponent(&input.interharmonics, component, same); });
     return true;
 }
 
@@ -126,7 +119,7 @@ bool setFlicker(Change &change)
         modulation.shape = change.words.size() == 4 ? Shape::Sinusoidal : Shape::Rectangular;
         modulation.rateHz = changes / 120.0;
     }
-    change.each(mask, [&](InputSpec &input) { input.modulation = modulation; });
+    forEachInput(&change.signal, mask, [&](InputSpec &input) { input.modulation = modulation; });
     return true;
 }
 
@@ -163,7 +156,7 @@ bool setFrequency(Change &change)
         && (!change.value(1, Unit::Hertz, 10, 1000, &hertz)
             || (change.words.size() > 2 && !change.value(2, Unit::None, -10, 10, &drift))))
         return false;
-    change.each(mask, [&](InputSpec &input) {
+    forEachInput(&change.signal, mask, [&](InputSpec &input) {
         input.frequencyHz = hertz;
         input.driftHzPerSecond = drift;
     });
@@ -193,7 +186,7 @@ bool setOfInputs(Change &change, const QString &key)
         if (!change.count(2, 2, "INPUTS VALUE") || !change.mask(0, Side::Voltage, &mask)
             || !change.value(1, row.unit, row.least, row.most, &value))
             return false;
-        change.each(mask, [&](InputSpec &input) { input.*row.member = value; });
+        forEachInput(&change.signal, mask, [&](InputSpec &input) { input.*row.member = value; });
         return true;
     }
     return change.fail(QStringLiteral("what to set: %1").arg(setUsage().join(QLatin1String("; "))));
@@ -219,7 +212,7 @@ bool setOne(Change &change, const QString &key)
         if (!change.count(1, 1, "one value")
             || !change.value(0, volts ? Unit::Volts : Unit::Amperes, 0, volts ? 10000 : 100000, &value))
             return false;
-        change.each(inputs(key, Side::Voltage), [&](InputSpec &one) { one.rms = value; });
+        forEachInput(&change.signal, inputs(key, Side::Voltage), [&](InputSpec &one) { one.rms = value; });
         return true;
     }
     if (factor.match(key).hasMatch()) {

@@ -25,14 +25,6 @@ InputMask readInputs(JsonKeys *keys)
     return mask;
 }
 
-template <typename Function> void forEach(SignalSpec *spec, InputMask mask, Function function)
-{
-    for (int input = 0; input < processor::InputCount; ++input) {
-        if (mask & processor::maskOf(input))
-            function(spec->inputs[std::size_t(input)]);
-    }
-}
-
 /// A number for all three phases, or a list of three or four (the last is the neutral). \a set gets line and value.
 template <typename Function>
 void readLines(JsonKeys *keys, JsonErrors *errors, const QString &key, double least, double most, Function set)
@@ -74,91 +66,110 @@ void readLoads(JsonKeys *keys, JsonErrors *errors, SignalSpec *spec)
               [&](int line, double angle) { spec->inputs[std::size_t(processor::I1 + line)].phaseDeg = angle; });
 }
 
-void readModulation(JsonErrors *errors, SignalSpec *spec, const QString &path, const QJsonValue &value)
+/// One object of a list that names inputs and what is added to their signal.
+template <typename Read>
+void readForInputs(JsonErrors *errors, SignalSpec *spec, const QString &path, const QJsonValue &value, Read read)
 {
-    JsonKeys keys(errors, path, value);
-    const InputMask mask = readInputs(&keys);
+    JsonKeys one(errors, path, value);
+    const InputMask mask = readInputs(&one);
+    const auto addTo = read(&one);
+    one.finish();
+    forEachInput(spec, mask, addTo);
+}
+
+auto readModulation(JsonKeys *keys)
+{
     ModulationSpec modulation;
-    const QString shape = keys.text(QStringLiteral("shape"), QStringLiteral("rectangular"));
+    const QString shape = keys->text(QStringLiteral("shape"), QStringLiteral("rectangular"));
     if (shape == QLatin1String("rectangular"))
         modulation.shape = ModulationSpec::Shape::Rectangular;
     else if (shape == QLatin1String("sinusoidal"))
         modulation.shape = ModulationSpec::Shape::Sinusoidal;
     else
-        keys.wrong(QStringLiteral("shape"), QStringLiteral("\"rectangular\" or \"sinusoidal\""));
+        keys->wrong(QStringLiteral("shape"), QStringLiteral("\"rectangular\" or \"sinusoidal\""));
     // A period of a rectangle holds two changes.
-    modulation.rateHz = keys.number(QStringLiteral("changesPerMinute"), 0.0, 0.0, 120.0 * kMaxHertz) / 120.0;
-    modulation.rateHz = keys.number(QStringLiteral("rate"), modulation.rateHz, 0.0, kMaxHertz);
-    if (keys.has(QStringLiteral("rate")) == keys.has(QStringLiteral("changesPerMinute")))
-        keys.wrong(QStringLiteral("rate"), QStringLiteral("either \"rate\" in hertz or \"changesPerMinute\""));
-    keys.require(QStringLiteral("percent"), QStringLiteral("the relative change dV/V in percent"));
-    modulation.depthPercent = keys.number(QStringLiteral("percent"), 0.0, 0.0, 100.0);
-    modulation.phaseDeg = keys.number(QStringLiteral("phase"), 0.0, 0.0, 360.0);
-    keys.finish();
-    forEach(spec, mask, [&](InputSpec &input) { input.modulation = modulation; });
+    modulation.rateHz = keys->number(QStringLiteral("changesPerMinute"), 0.0, 0.0, 120.0 * kMaxHertz) / 120.0;
+    modulation.rateHz = keys->number(QStringLiteral("rate"), modulation.rateHz, 0.0, kMaxHertz);
+    if (keys->has(QStringLiteral("rate")) == keys->has(QStringLiteral("changesPerMinute")))
+        keys->wrong(QStringLiteral("rate"), QStringLiteral("either \"rate\" in hertz or \"changesPerMinute\""));
+    keys->require(QStringLiteral("percent"), QStringLiteral("the relative change dV/V in percent"));
+    modulation.depthPercent = keys->number(QStringLiteral("percent"), 0.0, 0.0, 100.0);
+    modulation.phaseDeg = keys->number(QStringLiteral("phase"), 0.0, 0.0, 360.0);
+    return [modulation](InputSpec &input) { input.modulation = modulation; };
+}
+
+auto readHarmonic(JsonKeys *keys)
+{
+    keys->require(QStringLiteral("order"), QStringLiteral("an order from 2 to 100"));
+    const processor::HarmonicSpec harmonic = { keys->integer(QStringLiteral("order"), 3, 2, 100),
+                                               keys->number(QStringLiteral("percent"), 0.0, 0.0, 1000.0),
+                                               keys->number(QStringLiteral("phase"), 0.0, -360.0, 360.0) };
+    return [harmonic](InputSpec &input) { input.harmonics.push_back(harmonic); };
+}
+
+auto readInterharmonic(JsonKeys *keys)
+{
+    keys->require(QStringLiteral("f"), QStringLiteral("a frequency in hertz"));
+    const processor::InterharmonicSpec component = { keys->number(QStringLiteral("f"), 0.0, 0.0, kMaxHertz),
+                                                     keys->number(QStringLiteral("percent"), 0.0, 0.0, 1000.0),
+                                                     keys->number(QStringLiteral("phase"), 0.0, -360.0, 360.0) };
+    return [component](InputSpec &input) { input.interharmonics.push_back(component); };
+}
+
+auto readNoise(JsonKeys *keys)
+{
+    const double rms = keys->number(QStringLiteral("rms"), 0.0, 0.0, kMaxVolts);
+    return [rms](InputSpec &input) { input.noiseRms = rms; };
+}
+
+auto readOffset(JsonKeys *keys)
+{
+    const double level = keys->number(QStringLiteral("level"), 0.0, -kMaxVolts, kMaxVolts);
+    return [level](InputSpec &input) { input.dc = level; };
+}
+
+auto readOwnFrequency(JsonKeys *keys)
+{
+    keys->require(QStringLiteral("f"), QStringLiteral("a frequency in hertz"));
+    const double hertz = keys->number(QStringLiteral("f"), 0.0, 10.0, 1000.0);
+    const double drift = keys->number(QStringLiteral("drift"), 0.0, -10.0, 10.0);
+    return [hertz, drift](InputSpec &input) {
+        input.frequencyHz = hertz;
+        input.driftHzPerSecond = drift;
+    };
+}
+
+processor::SignallingSpec readSignalling(JsonErrors *errors, const QString &path, const QJsonValue &value)
+{
+    JsonKeys one(errors, path, value);
+    processor::SignallingSpec burst;
+    burst.inputs = readInputs(&one);
+    one.require(QStringLiteral("f"), QStringLiteral("a frequency in hertz"));
+    burst.frequencyHz = one.number(QStringLiteral("f"), 0.0, 1.0, kMaxHertz);
+    burst.percent = one.number(QStringLiteral("percent"), 0.0, 0.0, 100.0);
+    burst.startSeconds = one.number(QStringLiteral("start"), 0.0, 0.0, 1e6);
+    burst.onSeconds = one.number(QStringLiteral("on"), burst.onSeconds, 0.0, 1e6);
+    burst.periodSeconds = one.number(QStringLiteral("period"), 0.0, 0.0, 1e6);
+    one.finish();
+    return burst;
 }
 
 void readComponents(JsonKeys *keys, JsonErrors *errors, SignalSpec *spec)
 {
-    keys->list(QStringLiteral("harmonics"), [&](const QString &path, const QJsonValue &value) {
-        JsonKeys one(errors, path, value);
-        const InputMask mask = readInputs(&one);
-        one.require(QStringLiteral("order"), QStringLiteral("an order from 2 to 100"));
-        const processor::HarmonicSpec harmonic = { one.integer(QStringLiteral("order"), 3, 2, 100),
-                                                   one.number(QStringLiteral("percent"), 0.0, 0.0, 1000.0),
-                                                   one.number(QStringLiteral("phase"), 0.0, -360.0, 360.0) };
-        one.finish();
-        forEach(spec, mask, [&](InputSpec &input) { input.harmonics.push_back(harmonic); });
-    });
-    keys->list(QStringLiteral("interharmonics"), [&](const QString &path, const QJsonValue &value) {
-        JsonKeys one(errors, path, value);
-        const InputMask mask = readInputs(&one);
-        one.require(QStringLiteral("f"), QStringLiteral("a frequency in hertz"));
-        const processor::InterharmonicSpec component = { one.number(QStringLiteral("f"), 0.0, 0.0, kMaxHertz),
-                                                         one.number(QStringLiteral("percent"), 0.0, 0.0, 1000.0),
-                                                         one.number(QStringLiteral("phase"), 0.0, -360.0, 360.0) };
-        one.finish();
-        forEach(spec, mask, [&](InputSpec &input) { input.interharmonics.push_back(component); });
-    });
-    keys->list(QStringLiteral("noise"), [&](const QString &path, const QJsonValue &value) {
-        JsonKeys one(errors, path, value);
-        const InputMask mask = readInputs(&one);
-        const double rms = one.number(QStringLiteral("rms"), 0.0, 0.0, kMaxVolts);
-        one.finish();
-        forEach(spec, mask, [&](InputSpec &input) { input.noiseRms = rms; });
-    });
-    keys->list(QStringLiteral("dc"), [&](const QString &path, const QJsonValue &value) {
-        JsonKeys one(errors, path, value);
-        const InputMask mask = readInputs(&one);
-        const double level = one.number(QStringLiteral("level"), 0.0, -kMaxVolts, kMaxVolts);
-        one.finish();
-        forEach(spec, mask, [&](InputSpec &input) { input.dc = level; });
-    });
-    keys->list(QStringLiteral("frequencies"), [&](const QString &path, const QJsonValue &value) {
-        JsonKeys one(errors, path, value);
-        const InputMask mask = readInputs(&one);
-        one.require(QStringLiteral("f"), QStringLiteral("a frequency in hertz"));
-        const double hertz = one.number(QStringLiteral("f"), 0.0, 10.0, 1000.0);
-        const double drift = one.number(QStringLiteral("drift"), 0.0, -10.0, 10.0);
-        one.finish();
-        forEach(spec, mask, [&](InputSpec &input) {
-            input.frequencyHz = hertz;
-            input.driftHzPerSecond = drift;
+    const auto readList = [=](const char *name, auto read) {
+        keys->list(QString::fromLatin1(name), [=](const QString &path, const QJsonValue &value) {
+            readForInputs(errors, spec, path, value, read);
         });
+    };
+    readList("harmonics", readHarmonic);
+    readList("interharmonics", readInterharmonic);
+    readList("noise", readNoise);
+    readList("dc", readOffset);
+    readList("frequencies", readOwnFrequency);
+    keys->list(QStringLiteral("signalling"), [=](const QString &path, const QJsonValue &value) {
+        spec->signalling.push_back(readSignalling(errors, path, value));
     });
-    keys->list(QStringLiteral("signalling"), [&](const QString &path, const QJsonValue &value) {
-        JsonKeys one(errors, path, value);
-        processor::SignallingSpec burst;
-        burst.inputs = readInputs(&one);
-        one.require(QStringLiteral("f"), QStringLiteral("a frequency in hertz"));
-        burst.frequencyHz = one.number(QStringLiteral("f"), 0.0, 1.0, kMaxHertz);
-        burst.percent = one.number(QStringLiteral("percent"), 0.0, 0.0, 100.0);
-        burst.startSeconds = one.number(QStringLiteral("start"), 0.0, 0.0, 1e6);
-        burst.onSeconds = one.number(QStringLiteral("on"), burst.onSeconds, 0.0, 1e6);
-        burst.periodSeconds = one.number(QStringLiteral("period"), 0.0, 0.0, 1e6);
-        one.finish();
-        spec->signalling.push_back(burst);
-    });
+    readList("flicker", readModulation);
 }
 
 } // namespace
@@ -177,8 +188,6 @@ SignalSpec readSignal(JsonErrors *errors, const QString &path, const QJsonValue 
     spec.driftLimitHz = keys.number(QStringLiteral("driftLimit"), 0.0, 0.0, 100.0);
     spec.neutralCarriesPhaseCurrents = keys.flag(QStringLiteral("neutralSum"), true);
     readComponents(&keys, errors, &spec);
-    keys.list(QStringLiteral("flicker"),
-              [&](const QString &at, const QJsonValue &one) { readModulation(errors, &spec, at, one); });
     keys.finish();
     const std::string problem = processor::validate(spec);
     if (!problem.empty())
