@@ -39,10 +39,10 @@ enum FrontKey {
     Down = Qt::Key_T,
 };
 
-inline QString text(const QWidget *page, const char *name)
+inline QString text(const QWidget *page, const QString &name)
 {
-    const auto *label = page->findChild<QLabel *>(QString::fromLatin1(name));
-    return label ? label->text() : QStringLiteral("no label ") + QLatin1String(name);
+    const auto *label = page->findChild<QLabel *>(name);
+    return label ? label->text() : QStringLiteral("no label ") + name;
 }
 
 inline QString sheet(const QWidget *page, const char *name)

@@ -103,10 +103,10 @@ void TstFlicker::tableShowsOnlyThePhasesOfTheWiring()
     m_page->updateDisplay(nullptr);
     for (int p = 1; p <= 3; ++p) {
         for (const char *row : { "Pst_L%1", "Plt_L%1", "P1_L%1" })
-            QCOMPARE(!text(mainPage(), qPrintable(QString(row).arg(p))).isEmpty(), p <= phases);
-        QCOMPARE(!text(mainPage(), qPrintable(QStringLiteral("header_%1").arg(p))).isEmpty(), p <= phases);
-        QCOMPARE(!text(trendPage(), qPrintable(QStringLiteral("P_L%1_V").arg(p))).isEmpty(), p <= phases);
-        QCOMPARE(!text(trendPage(), qPrintable(QStringLiteral("P_L%1").arg(p))).isEmpty(), p <= phases);
+            QCOMPARE(!text(mainPage(), QString(row).arg(p)).isEmpty(), p <= phases);
+        QCOMPARE(!text(mainPage(), QStringLiteral("header_%1").arg(p)).isEmpty(), p <= phases);
+        QCOMPARE(!text(trendPage(), QStringLiteral("P_L%1_V").arg(p)).isEmpty(), p <= phases);
+        QCOMPARE(!text(trendPage(), QStringLiteral("P_L%1").arg(p)).isEmpty(), p <= phases);
     }
 }
 

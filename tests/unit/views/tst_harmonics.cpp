@@ -417,7 +417,7 @@ void TstHarmonics::allShowsEveryChannelOfTheWiring()
     QCOMPARE(graph()->graphTypeEx(), int(GraphTwoPhases));
     const bool shown[] = { true, true, false, true };
     for (int c = 0; c < 4; ++c)
-        QCOMPARE(!text(mainPage(), qPrintable(QStringLiteral("D%1_val").arg(c + 1))).isEmpty(), shown[c]);
+        QCOMPARE(!text(mainPage(), QStringLiteral("D%1_val").arg(c + 1)).isEmpty(), shown[c]);
     // Two bars a group: the fifth place is L1 of the first order.
     press(mainPage(), Right, 4);
     QVERIFY(text(mainPage(), "order").startsWith(QStringLiteral("H1 ")));
@@ -452,7 +452,7 @@ void TstHarmonics::tableBeginsWithDcThdAndTheFirstOrders()
 {
     const QStringList names { "Udc", "Idc", "Uthd", "Ithd", "Uharm 1", "Uharm 2", "Uharm 3" };
     for (int i = 0; i < names.size(); ++i)
-        QCOMPARE(text(meterPage(), qPrintable(QStringLiteral("row%1_t").arg(i + 1))), names[i]);
+        QCOMPARE(text(meterPage(), QStringLiteral("row%1_t").arg(i + 1)), names[i]);
     press(meterPage(), Up);
     QCOMPARE(meterPage()->scrollPosition(), 0);
     press(meterPage(), Down);
@@ -527,8 +527,7 @@ void TstHarmonics::tableShowsOnlyTheChannelsOfTheWiring()
     const char *const suffixes[] = { "L1", "L2", "L3", "N" };
     for (int c = 0; c < 4; ++c) {
         for (int row = 1; row <= 7; ++row)
-            QCOMPARE(!text(meterPage(), qPrintable(QStringLiteral("row%1_%2").arg(row).arg(suffixes[c]))).isEmpty(),
-                     shown[c]);
+            QCOMPARE(!text(meterPage(), QStringLiteral("row%1_%2").arg(row).arg(suffixes[c])).isEmpty(), shown[c]);
     }
 }
 

@@ -128,10 +128,9 @@ void TstMainsSignaling::tableShowsOnlyTheChannelsOfTheWiring()
     start(joinMode);
     const char *const suffixes[] = { "L1", "L2", "L3", "N" };
     for (int c = 0; c < 4; ++c) {
-        QCOMPARE(text(mainPage(), qPrintable(QStringLiteral("header_%1").arg(c + 1))), headers[c]);
+        QCOMPARE(text(mainPage(), QStringLiteral("header_%1").arg(c + 1)), headers[c]);
         for (const char *row : { "sig1", "sig1mean", "sig2", "sig2mean", "rms1", "rms2" })
-            QCOMPARE(text(mainPage(), qPrintable(QStringLiteral("%1_%2").arg(row, suffixes[c]))).isEmpty(),
-                     headers[c].isEmpty());
+            QCOMPARE(text(mainPage(), QStringLiteral("%1_%2").arg(row, suffixes[c])).isEmpty(), headers[c].isEmpty());
     }
 }
 

@@ -14,15 +14,7 @@
 #include <cstring>
 #include <memory>
 
-namespace {
-
-QString text(const QWidget *page, const QString &name)
-{
-    const auto *label = page->findChild<QLabel *>(name);
-    return label ? label->text() : QStringLiteral("no label ") + name;
-}
-
-} // namespace
+using namespace PageTest;
 
 class TstPower : public QObject
 {
@@ -133,19 +125,19 @@ void TstPower::resetKeyWorksOnlyWithThePanelShown()
 {
     QSignalSpy reset(m_page.get(), &powen::resetEnergy);
     QCOMPARE(text(mainPage(), "btn_f2"), QString());
-    QTest::keyClick(mainPage(), Qt::Key_Y);
+    press(mainPage(), F2);
     QCOMPARE(reset.count(), 0);
     QVERIFY(panel()->isHidden());
-    QTest::keyClick(mainPage(), Qt::Key_P);
+    press(mainPage(), F3);
     QVERIFY(!panel()->isHidden());
     QCOMPARE(text(mainPage(), "btn_f2"), QStringLiteral("Reset"));
     QCOMPARE(mainPage()->findChild<EnergyBtn *>("btn_f3")->btnFlag(), 1);
-    QTest::keyClick(mainPage(), Qt::Key_Y);
+    press(mainPage(), F2);
     QCOMPARE(reset.count(), 1);
-    QTest::keyClick(mainPage(), Qt::Key_P);
+    press(mainPage(), F3);
     QVERIFY(panel()->isHidden());
     QCOMPARE(mainPage()->findChild<EnergyBtn *>("btn_f3")->btnFlag(), 0);
-    QTest::keyClick(mainPage(), Qt::Key_Y);
+    press(mainPage(), F2);
     QCOMPARE(reset.count(), 1);
 }
 
@@ -210,30 +202,30 @@ void TstPower::longReadingsFitTheirLabels()
         = names.startsWith('k') ? QStringList { "1", "2", "3", "4" } : QStringList { "L1", "L2", "L3", "Tot" };
     for (const QString &column : columns) {
         if (names != "Urms_%1" || column != "Tot")
-            QVERIFY(PageTest::holds(mainPage(), names.arg(column), reading));
+            QVERIFY(holds(mainPage(), names.arg(column), reading));
     }
 }
 
 void TstPower::trendCaptionsEndBeforeTheirValues()
 {
     for (int c = 1; c <= 4; ++c) {
-        QVERIFY(PageTest::holds(trendPage(), QStringLiteral("D%1_Caption").arg(c), QStringLiteral("L31 :"), 4));
-        QVERIFY(PageTest::holds(trendPage(), QStringLiteral("D%1_Value").arg(c), QStringLiteral("-29999.97")));
+        QVERIFY(holds(trendPage(), QStringLiteral("D%1_Caption").arg(c), QStringLiteral("L31 :"), 4));
+        QVERIFY(holds(trendPage(), QStringLiteral("D%1_Value").arg(c), QStringLiteral("-29999.97")));
     }
 }
 
 void TstPower::trendCycleHasEightQuantities()
 {
-    QTest::keyClick(mainPage(), Qt::Key_F);
+    press(mainPage(), F4);
     QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(trendPage()));
     const QStringList captions { "P(kW)", "S(kVA)", "Q1(kvar)", "PF", "cosΦ", "tanΦ", "U rms(V)", "I rms(A)" };
     for (int i = 0; i < 8; ++i) {
         QCOMPARE(text(trendPage(), "type"), captions[i]);
         QCOMPARE(trendPage()->type(), 1 << i);
-        QTest::keyClick(trendPage(), Qt::Key_W);
+        press(trendPage(), F1);
     }
     QCOMPARE(trendPage()->type(), 1);
-    QTest::keyClick(trendPage(), Qt::Key_F);
+    press(trendPage(), F4);
     QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
 }
 
@@ -249,7 +241,7 @@ void TstPower::trendFlagsShowTheTotalInTheFourthBand()
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(trendPage(), "D4_Value"), QStringLiteral("9.00"));
     for (int i = 0; i < 6; ++i)
-        QTest::keyClick(trendPage(), Qt::Key_W);
+        press(trendPage(), F1);
     QCOMPARE(chart->flags(), 7); // voltages have no total
     QCOMPARE(text(trendPage(), "D4_Caption"), QString());
     QCOMPARE(text(trendPage(), "D4_Value"), QString());
@@ -294,7 +286,7 @@ void TstPower::pagesLiveWithoutARecord()
     g_power_data_ui = nullptr;
     powen page;
     page.updateDisplay(nullptr);
-    QTest::keyClick(page.findChild<PowerTrendPage *>(), Qt::Key_W);
+    press(page.findChild<PowerTrendPage *>(), F1);
     QVERIFY(page.pqaData().isEmpty());
     g_power_data_ui = kept;
 }

@@ -137,7 +137,7 @@ void TstUnbalance::fieldsOfMissingPhasesStayEmpty()
     const char *const suffixes[] = { "L1", "L2", "L3", "N" };
     for (int c = 0; c < 4; ++c) {
         for (const char *row : { "U", "I", "Uf", "If", "IU" })
-            QCOMPARE(!text(mainPage(), qPrintable(QStringLiteral("%1_%2").arg(row, suffixes[c]))).isEmpty(), shown[c]);
+            QCOMPARE(!text(mainPage(), QStringLiteral("%1_%2").arg(row, suffixes[c])).isEmpty(), shown[c]);
     }
     for (const char *ratio : { "uneg", "uzero_v", "Ineg_v", "Izero" })
         QCOMPARE(!text(mainPage(), ratio).isEmpty(), shown[2]);

@@ -15,15 +15,11 @@
 #include <limits>
 #include <memory>
 
+using namespace PageTest;
+
 namespace {
 
 const char *const kColumns[] = { "L1", "L2", "L3", "N" };
-
-QString text(const QWidget *page, const QString &name)
-{
-    const auto *label = page->findChild<QLabel *>(name);
-    return label ? label->text() : QStringLiteral("no label ") + name;
-}
 
 } // namespace
 
@@ -196,13 +192,13 @@ void TstVif::longReadingsAndCaptionsFitTheirLabels()
     // The unit is chosen for four places of the nominal value; a crest can be twice as high.
     for (const char *column : kColumns) {
         for (const char *row : { "Urms", "Upk", "Ucf", "Irms", "Ipk", "Icf" })
-            QVERIFY(PageTest::holds(mainPage(), QStringLiteral("%1_%2").arg(row, column), QStringLiteral("21213.00")));
+            QVERIFY(holds(mainPage(), QStringLiteral("%1_%2").arg(row, column), QStringLiteral("21213.00")));
     }
     for (const char *row : { "Urms_t", "Upk_t", "Irms_t", "Ipk_t" })
-        QVERIFY(PageTest::holds(mainPage(), QString::fromLatin1(row), QStringLiteral("Urms(mV)"), 4));
+        QVERIFY(holds(mainPage(), QString::fromLatin1(row), QStringLiteral("Urms(mV)"), 4));
     for (int c = 1; c <= 4; ++c) {
-        QVERIFY(PageTest::holds(trendPage(), QStringLiteral("D%1_Caption").arg(c), QStringLiteral("L31:"), 4));
-        QVERIFY(PageTest::holds(trendPage(), QStringLiteral("D%1_Value").arg(c), QStringLiteral("-21213.00")));
+        QVERIFY(holds(trendPage(), QStringLiteral("D%1_Caption").arg(c), QStringLiteral("L31:"), 4));
+        QVERIFY(holds(trendPage(), QStringLiteral("D%1_Value").arg(c), QStringLiteral("-21213.00")));
     }
 }
 
@@ -214,7 +210,7 @@ void TstVif::pagesLiveWithoutARecord()
     page.updateDisplay(nullptr);
     page.retranslateUi();
     QVERIFY(page.pqaData().isEmpty());
-    QTest::keyClick(page.findChild<VifTrendPage *>(), Qt::Key_W);
+    press(page.findChild<VifTrendPage *>(), F1);
     g_vif_data = kept;
 }
 
@@ -234,9 +230,9 @@ void TstVif::f4OpensTheTrendAndLeadsBack()
 {
     QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
     QCOMPARE(text(mainPage(), "btn_f4"), QStringLiteral("Trend"));
-    QTest::keyClick(mainPage(), Qt::Key_F);
+    press(mainPage(), F4);
     QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(trendPage()));
-    QTest::keyClick(trendPage(), Qt::Key_F);
+    press(trendPage(), F4);
     QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
     m_page->showVifTrend();
     m_page->enterVif();
@@ -248,7 +244,7 @@ void TstVif::f5AsksToPauseAndMovesOnlyOnTheAnswer()
     QSignalSpy pause(m_page.get(), &ViewPage::pause);
     QSignalSpy run(m_page.get(), &ViewPage::run);
     QCOMPARE(text(mainPage(), "btn_f5"), QStringLiteral("Hold"));
-    QTest::keyClick(mainPage(), Qt::Key_L);
+    press(mainPage(), F5);
     QCOMPARE(pause.count(), 1);
     QCOMPARE(text(mainPage(), "btn_f5"), QStringLiteral("Hold"));
     QVERIFY(mainPage()->isRunning());
@@ -256,7 +252,7 @@ void TstVif::f5AsksToPauseAndMovesOnlyOnTheAnswer()
     emit m_page->taskPaused();
     QCOMPARE(text(mainPage(), "btn_f5"), QStringLiteral("Run"));
     QCOMPARE(text(trendPage(), "btn_f5"), QStringLiteral("Run"));
-    QTest::keyClick(trendPage(), Qt::Key_L);
+    press(trendPage(), F5);
     QCOMPARE(run.count(), 1);
     emit m_page->taskContinued();
     QCOMPARE(text(trendPage(), "btn_f5"), QStringLiteral("Hold"));
@@ -265,8 +261,8 @@ void TstVif::f5AsksToPauseAndMovesOnlyOnTheAnswer()
 void TstVif::f5WithoutATaskChangesNothing()
 {
     for (int i = 0; i < 3; ++i) {
-        QTest::keyClick(mainPage(), Qt::Key_L);
-        QTest::keyClick(trendPage(), Qt::Key_L);
+        press(mainPage(), F5);
+        press(trendPage(), F5);
     }
     QVERIFY(mainPage()->isRunning());
     QVERIFY(trendPage()->isRunning());
@@ -328,7 +324,7 @@ void TstVif::trendQuantityCycles()
     for (int i = 0; i < expected.size(); ++i) {
         QCOMPARE(text(trendPage(), "type"), expected[i]);
         QCOMPARE(trendPage()->type(), types[i]);
-        QTest::keyClick(trendPage(), Qt::Key_W);
+        press(trendPage(), F1);
     }
     QCOMPARE(text(trendPage(), "type"), expected[0]);
 }
@@ -336,9 +332,9 @@ void TstVif::trendQuantityCycles()
 void TstVif::f1AtTheFrequencyReturnsToTheVoltage()
 {
     while (trendPage()->type() != 9)
-        QTest::keyClick(trendPage(), Qt::Key_W);
+        press(trendPage(), F1);
     QCOMPARE(text(trendPage(), "type"), QStringLiteral("Freq(Hz)"));
-    QTest::keyClick(trendPage(), Qt::Key_W);
+    press(trendPage(), F1);
     QCOMPARE(trendPage()->type(), 1);
     QCOMPARE(text(trendPage(), "type"), QStringLiteral("U rms(V)"));
 }
@@ -354,7 +350,7 @@ void TstVif::trendFlagsFollowTheWiringAndTheFrequencyIsSingle()
         QCOMPARE(chart->flags(), flags[mode - 1]);
     }
     for (int i = 0; i < 8; ++i)
-        QTest::keyClick(trendPage(), Qt::Key_W);
+        press(trendPage(), F1);
     QCOMPARE(trendPage()->type(), 9);
     QCOMPARE(chart->flags(), 16);
     QCOMPARE(chart->fullScale(), QStringList({ "10m", "8m", "6m", "4m", "2m" }));
@@ -374,11 +370,11 @@ void TstVif::trendValuesUseTheChannelsOfTheWiring()
     QCOMPARE(text(trendPage(), "D4_Caption"), QStringLiteral("N:"));
     g_vif_data->frequency = -50.02f;
     for (int i = 0; i < 8; ++i)
-        QTest::keyClick(trendPage(), Qt::Key_W);
+        press(trendPage(), F1);
     QCOMPARE(text(trendPage(), "D1_Value"), QStringLiteral("50.02"));
     QCOMPARE(trendPage()->findChild<QLabel *>("D1_Value")->styleSheet(), QStringLiteral("color: #808080;"));
     QCOMPARE(text(trendPage(), "D2_Value"), QString());
-    QTest::keyClick(trendPage(), Qt::Key_W); // the grey goes with the frequency
+    press(trendPage(), F1); // the grey goes with the frequency
     QCOMPARE(text(trendPage(), "D1_Value"), QStringLiteral("100.00"));
     QCOMPARE(trendPage()->findChild<QLabel *>("D1_Value")->styleSheet(), QString());
 }
@@ -495,5 +491,5 @@ void TstVif::scalingSurvivesWildValues()
         QVERIFY(y >= 0 && y <= 75);
 }
 
-QTEST_MAIN(TstVif)
+PAGE_TEST_MAIN(TstVif)
 #include "tst_vif.moc"
