@@ -78,7 +78,7 @@ void EventsWidget::eventTypeFilter()
     m_count = m_filter == EventsAll ? m_all.size() : m_filtered.size();
     if (m_first >= m_count)
         m_first = 0; // the list became shorter than where we stood
-    m_last = m_first + kRows - 1 < m_count ? m_first + kRows : m_count;
+    m_last = std::min(m_first + kRows, m_count);
     m_row = std::min(m_row, std::max(m_last - m_first - 1, 0));
 }
 

@@ -171,8 +171,8 @@ void HarmonicGraph::drawOrders(QPainter &painter) const
 /// Top row of a bar; a value that is no number, or is negative, has no height.
 static int barTop(float percent)
 {
-    const double height = ChartParts::boundedPixel(double(percent) * 300.0 / 100.0);
-    return int(300.0 - std::max(height, 0.0));
+    const double height = ChartParts::boundedPixel(double(percent) * kBase / 100.0);
+    return int(kBase - std::max(height, 0.0));
 }
 
 void HarmonicGraph::drawBars(QPainter &painter) const

@@ -51,4 +51,12 @@ void setBackground(QWidget *widget, const QString &background)
     widget->setAutoFillBackground(true);
 }
 
+void setColor(QLabel *label, const QColor &color)
+{
+    // A sheet, set only when it differs: it costs a new polish.
+    const QString sheet = QStringLiteral("color: %1;").arg(color.name());
+    if (label && label->styleSheet() != sheet)
+        label->setStyleSheet(sheet);
+}
+
 } // namespace LabelLook

@@ -1,5 +1,7 @@
 #pragma once
 
+class QColor;
+class QLabel;
 class QString;
 class QWidget;
 
@@ -18,5 +20,8 @@ void dress(QWidget *form);
 
 /// Fills a widget with one colour or with an embedded picture.
 void setBackground(QWidget *widget, const QString &background);
+
+/// Colour of a text that is another one at another time. Null is harmless.
+void setColor(QLabel *label, const QColor &color);
 
 } // namespace LabelLook

@@ -24,8 +24,8 @@ static const MonitorCurve kCurves[] = {
     {  1, 0, PhaseColor::colorA, "1",   0,  85 },
     {  2, 1, PhaseColor::colorB, "2", 101, 187 },
     {  4, 2, PhaseColor::colorC, "3", 202, 288 },
-    {  8, 0, ChartParts::white,                 "1",   0,  85 },
-    { 16, 0, ChartParts::white,                 "1",   0,  85 },
+    {  8, 0, ChartParts::white,  "1",   0,  85 },
+    { 16, 0, ChartParts::white,  "1",   0,  85 },
 };
 // clang-format on
 

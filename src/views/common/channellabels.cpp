@@ -4,6 +4,7 @@
 #include "config/config_data.h"
 #include "config/phasecolor.h"
 #include "widgets/f_to_str.h"
+#include "widgets/labellook.h"
 
 #include <QLabel>
 
@@ -19,14 +20,6 @@ void setText(QLabel *label, const QString &text)
 {
     if (label && label->text() != text)
         label->setText(text);
-}
-
-/// Colours change with a setting or the lock, not with a value: the sheet is set only when it differs.
-void setColor(QLabel *label, const QString &color)
-{
-    const QString sheet = QStringLiteral("color: %1;").arg(color);
-    if (label && label->styleSheet() != sheet)
-        label->setStyleSheet(sheet);
 }
 
 } // namespace
@@ -67,7 +60,7 @@ void showHeaders(const LabelRow &row, const QString &suffix)
             continue;
         }
         setText(row[c], set.caption(c) + suffix);
-        setColor(row[c], PhaseColor::color(c).name());
+        LabelLook::setColor(row[c], PhaseColor::color(c));
     }
 }
 
@@ -87,7 +80,7 @@ void showPairHeaders(const LabelRow &row)
 void showColors(const LabelRow &row)
 {
     for (int c = 0; c < kChannels; ++c)
-        setColor(row[c], PhaseColor::color(c).name());
+        LabelLook::setColor(row[c], PhaseColor::color(c));
 }
 
 void showValues(const LabelRow &row, const float *values, Format format)
@@ -119,7 +112,7 @@ void clear(const LabelRow &row)
 void showFrequency(QLabel *label, float frequency, const QString &unit)
 {
     setText(label, F_to_Str::number_F(std::fabs(frequency)) + unit);
-    setColor(label, frequency < 0 ? QStringLiteral("#808080") : QStringLiteral("#ffffff"));
+    LabelLook::setColor(label, frequency < 0 ? QColor(0x80, 0x80, 0x80) : QColor(Qt::white));
 }
 
 } // namespace ChannelLabels

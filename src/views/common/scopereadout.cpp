@@ -3,6 +3,7 @@
 #include "config/config_data.h"
 #include "config/phasecolor.h"
 #include "widgets/f_to_str.h"
+#include "widgets/labellook.h"
 
 #include <QLabel>
 
@@ -61,7 +62,7 @@ void ScopeReadout::setMode(int mode)
         }
         const QColor color = place.current ? PhaseColor::colorI(place.channel) : PhaseColor::colorU(place.channel);
         m_captions[i]->setText(set.caption(place.channel) + QLatin1Char(':'));
-        m_captions[i]->setStyleSheet(QStringLiteral("color: %1;").arg(color.name()));
+        LabelLook::setColor(m_captions[i], color);
     }
 }
 

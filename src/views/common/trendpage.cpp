@@ -1,6 +1,7 @@
 #include "views/common/trendpage.h"
 
 #include "config/phasecolor.h"
+#include "widgets/labellook.h"
 #include "widgets/viftrendchart.h"
 
 #include <QLabel>
@@ -63,7 +64,7 @@ void TrendPage::showType()
     ChannelLabels::showHeaders(drawn(m_captions), m_captionEnd);
     if (quantity().fourthCaption && m_captions[3]) {
         setText(m_captions[3], QString::fromLatin1(quantity().fourthCaption));
-        m_captions[3]->setStyleSheet(QStringLiteral("color: %1;").arg(PhaseColor::colorN().name()));
+        LabelLook::setColor(m_captions[3], PhaseColor::colorN());
     }
 }
 

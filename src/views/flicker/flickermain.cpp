@@ -11,56 +11,35 @@ namespace {
 
 constexpr int kPhases = 3;
 
-struct Row
+struct Row : MeterLine
 {
-    const char *name; // labels <name>_t, <name>_L1 ... <name>_L3
-    const char *caption;
     float (__flicker_data::*values)[kPhases];
 };
 
 const Row kRows[] = {
-    { "Pst", QT_TRANSLATE_NOOP("FlickerMain", "Pst"), &__flicker_data::pst },
-    { "Plt", QT_TRANSLATE_NOOP("FlickerMain", "Plt"), &__flicker_data::plt },
-    { "P1", QT_TRANSLATE_NOOP("FlickerMain", "pinst"), &__flicker_data::flickerMax },
+    { "Pst", QT_TRANSLATE_NOOP("FlickerMain", "Pst"), nullptr, &__flicker_data::pst },
+    { "Plt", QT_TRANSLATE_NOOP("FlickerMain", "Plt"), nullptr, &__flicker_data::plt },
+    { "P1", QT_TRANSLATE_NOOP("FlickerMain", "pinst"), nullptr, &__flicker_data::flickerMax },
 };
 
 } // namespace
 
-FlickerMain::FlickerMain(QWidget *parent) : ViewPage(UI_FLICKER, parent), m_ui(new Ui::FlickerMain)
+FlickerMain::FlickerMain(QWidget *parent) : MeterPage(UI_FLICKER, parent), m_ui(new Ui::FlickerMain)
 {
     static const KeyRow<FlickerMain> keys[] = {
         { Qt::Key_F4, QT_TRANSLATE_NOOP("FlickerMain", "Trend"), &FlickerMain::goFlickerTrend },
     };
     m_ui->setupUi(this);
     LabelLook::dress(this);
-    m_headers = ChannelLabels::numberedRow(this, "header_%1");
-    for (const Row &row : kRows)
-        m_rows.push_back(ChannelLabels::namedRow(this, row.name));
+    setRows(kRows);
     setKeys(keys);
 }
 
 FlickerMain::~FlickerMain() = default;
 
-void FlickerMain::init_parameter()
-{
-    ViewPage::init_parameter();
-    showTitle();
-    showCurParams();
-}
-
-void FlickerMain::retranslateUi()
-{
-    ViewPage::retranslateUi();
-    showTitle();
-}
-
-void FlickerMain::showTitle()
+void FlickerMain::showHeaders()
 {
     ChannelLabels::showPairHeaders(m_headers);
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        setText(findChild<QLabel *>(QString::fromLatin1(kRows[i].name) + QLatin1String("_t")), tr(kRows[i].caption));
-        ChannelLabels::clearUnused(m_rows[i]);
-    }
 }
 
 void FlickerMain::showCurParams()

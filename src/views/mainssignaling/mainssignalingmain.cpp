@@ -8,11 +8,8 @@
 
 namespace {
 
-struct Row
+struct Row : MeterLine
 {
-    const char *name; // labels <name>_t, <name>_L1 ... <name>_N
-    const char *caption; // "%1" stands for the unit
-    QString DisplayUnits::*unit;
     float (__mains_sig_data::*values)[kChannels];
     float scale;
     QString (*format)(float);
@@ -38,7 +35,7 @@ const Row kRows[] = {
 } // namespace
 
 MainsSignalingMain::MainsSignalingMain(QWidget *parent)
-    : ViewPage(UI_MAINS_SIG, parent), m_ui(new Ui::MainsSignalingMain)
+    : MeterPage(UI_MAINS_SIG, parent), m_ui(new Ui::MainsSignalingMain)
 {
     static const KeyRow<MainsSignalingMain> keys[] = {
         { Qt::Key_F2, QT_TRANSLATE_NOOP("MainsSignalingMain", "Events"), &MainsSignalingMain::goMainsSignalingEvent },
@@ -46,38 +43,15 @@ MainsSignalingMain::MainsSignalingMain(QWidget *parent)
     };
     m_ui->setupUi(this);
     LabelLook::dress(this);
-    m_headers = ChannelLabels::numberedRow(this, "header_%1");
-    for (const Row &row : kRows)
-        m_rows.push_back(ChannelLabels::namedRow(this, row.name));
+    setRows(kRows);
     setKeys(keys);
 }
 
 MainsSignalingMain::~MainsSignalingMain() = default;
 
-void MainsSignalingMain::init_parameter()
-{
-    ViewPage::init_parameter();
-    showTitle();
-    showCurParams();
-}
-
-void MainsSignalingMain::retranslateUi()
-{
-    ViewPage::retranslateUi();
-    setText(m_ui->freq_t, tr("Freq ="));
-    showTitle();
-}
-
 void MainsSignalingMain::showTitle()
 {
-    ChannelLabels::showHeaders(m_headers);
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        const Row &row = kRows[i];
-        const QString caption = tr(row.caption);
-        setText(findChild<QLabel *>(QString::fromLatin1(row.name) + QLatin1String("_t")),
-                row.unit ? caption.arg(m_settingConfig_g.units().*row.unit) : caption);
-        ChannelLabels::clearUnused(m_rows[i]);
-    }
+    MeterPage::showTitle();
     // The frequencies that the processor measures are those of the limit set in use.
     const monitor_limit *limits = m_limits_g.getLimitsInUsed();
     setText(m_ui->carriers,

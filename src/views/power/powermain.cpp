@@ -7,18 +7,11 @@
 #include "widgets/f_to_str.h"
 #include "widgets/labellook.h"
 
-#include <cmath>
-
 namespace {
 
-const char *const kColumns[kChannels] = { "L1", "L2", "L3", "Tot" };
-
-/// One line of the table.
-struct Row
+/// One line of the table. Its fourth label is <name>_Tot.
+struct Row : MeterLine
 {
-    const char *name; // labels <name>_t and <name>_L1 to <name>_Tot
-    const char *caption; // "%1" stands for the unit
-    QString DisplayUnits::*unit;
     float PowerDisplayRow::*power; // null: one of the two below
     float (__power_data::*phases)[3];
     bool hasTotal;
@@ -66,7 +59,7 @@ bool isShown(int column, bool hasTotal)
 
 } // namespace
 
-PowerMain::PowerMain(QWidget *parent) : ViewPage(UI_POWER, parent), m_ui(new Ui::PowerMain)
+PowerMain::PowerMain(QWidget *parent) : MeterPage(UI_POWER, parent), m_ui(new Ui::PowerMain)
 {
     static const KeyRow<PowerMain> keys[] = {
         { Qt::Key_F2, nullptr, &PowerMain::pressReset },
@@ -75,12 +68,9 @@ PowerMain::PowerMain(QWidget *parent) : ViewPage(UI_POWER, parent), m_ui(new Ui:
     };
     m_ui->setupUi(this);
     LabelLook::dress(this);
-    m_headers = ChannelLabels::numberedRow(this, "header_%1");
-    for (const Row &row : kRows) {
-        ChannelLabels::LabelRow labels = ChannelLabels::namedRow(this, row.name);
-        labels[3] = findChild<QLabel *>(QString::fromLatin1(row.name) + QLatin1String("_Tot"));
-        m_rows.push_back(labels);
-    }
+    setRows(kRows);
+    for (std::size_t i = 0; i < m_rows.size(); ++i)
+        m_rows[i][3] = findChild<QLabel *>(QString::fromLatin1(kRows[i].name) + QLatin1String("_Tot"));
     for (const EnergyLine &row : kEnergies)
         m_energies.push_back(ChannelLabels::numberedRow(this, (QByteArray(row.name) + "_%1").constData()));
     m_flags = ChannelLabels::numberedRow(this, "q_flag%1");
@@ -92,17 +82,14 @@ PowerMain::~PowerMain() = default;
 
 void PowerMain::init_parameter()
 {
-    ViewPage::init_parameter();
     m_energyShown = false;
     show_Energy();
-    showTitle();
-    showCurParams();
+    MeterPage::init_parameter();
 }
 
 void PowerMain::retranslateUi()
 {
-    ViewPage::retranslateUi();
-    showTitle();
+    MeterPage::retranslateUi();
     show_Energy();
 }
 
@@ -125,17 +112,20 @@ void PowerMain::show_Energy()
     setKeyCaption(2, m_energyShown ? tr("Reset") : QString());
 }
 
+void PowerMain::showHeaders()
+{
+    MeterPage::showHeaders();
+    // The fourth column is the total, in every wiring.
+    setText(m_headers[3], tr("Total"));
+    LabelLook::setColor(m_headers[3], PhaseColor::colorN());
+}
+
 void PowerMain::showTitle()
 {
     const DisplayUnits &units = m_settingConfig_g.units();
-    ChannelLabels::showHeaders(m_headers);
-    // The fourth column is the total, in every wiring.
-    setText(m_headers[3], tr("Total"));
-    m_headers[3]->setStyleSheet(QStringLiteral("color: %1;").arg(PhaseColor::colorN().name()));
+    showHeaders();
+    showCaptions();
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        const QString caption = tr(kRows[i].caption);
-        setText(findChild<QLabel *>(QString::fromLatin1(kRows[i].name) + QLatin1String("_t")),
-                kRows[i].unit ? caption.arg(units.*kRows[i].unit) : caption);
         for (int c = 0; c < kChannels; ++c) {
             if (!isShown(c, kRows[i].hasTotal))
                 setText(m_rows[i][c], QString());

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "views/common/channellabels.h"
-#include "views/common/viewpage.h"
+#include "views/common/meterpage.h"
 
 #include <memory>
 #include <vector>
@@ -11,7 +10,7 @@ class PowerMain;
 }
 
 /// Table of powers, power factors, voltages and currents, with a panel of the energies since the last reset.
-class PowerMain : public ViewPage
+class PowerMain : public MeterPage
 {
     Q_OBJECT
 
@@ -22,7 +21,6 @@ public:
     bool isEnergyShown() const { return m_energyShown; }
 
 public slots:
-    void updateDisplay(void *) override { showCurParams(); }
     void init_parameter() override;
     void retranslateUi() override;
 
@@ -30,12 +28,15 @@ signals:
     void goPowerTrend();
     void resetEnergy();
 
+protected:
+    void showTitle() override;
+    void showHeaders() override;
+    void showCurParams() override;
+
 private:
     void pressReset();
     void toggleEnergy();
     void show_Energy();
-    void showTitle();
-    void showCurParams();
     void showRow(const ChannelLabels::LabelRow &row, const float *values, bool hasTotal,
                  QString (*format)(float)) const;
     void showEnergies();
@@ -43,8 +44,6 @@ private:
 
     std::unique_ptr<Ui::PowerMain> m_ui;
     bool m_energyShown = false;
-    ChannelLabels::LabelRow m_headers;
-    std::vector<ChannelLabels::LabelRow> m_rows; // in the order of the table of rows
     std::vector<ChannelLabels::LabelRow> m_energies; // active, apparent, reactive
     ChannelLabels::LabelRow m_flags;
 };

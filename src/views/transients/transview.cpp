@@ -48,7 +48,7 @@ TransView::~TransView() = default;
 void TransView::init_parameter()
 {
     TransScopePage::init_parameter();
-    select(g_trans_events.size() - 1);
+    selectNewest();
 }
 
 void TransView::retranslateUi()

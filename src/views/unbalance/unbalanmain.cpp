@@ -1,7 +1,6 @@
 #include "views/unbalance/unbalanmain.h"
 #include "ui_unbalanmain.h"
 
-#include "config/config_data.h"
 #include "views/unbalance/unbalancevalues.h"
 #include "widgets/f_to_str.h"
 #include "widgets/labellook.h"
@@ -20,11 +19,8 @@ template <float (__unbalance_data::*values)[kChannels]> const float *own()
     return g_unbalance_data ? g_unbalance_data->*values : nullptr;
 }
 
-struct Row
+struct Row : MeterLine
 {
-    const char *name; // labels <name>_t, <name>_L1 ... <name>_N
-    const char *caption; // "%1" stands for the unit
-    QString DisplayUnits::*unit;
     Values values;
     QString (*format)(float);
 };
@@ -58,16 +54,14 @@ const Ratio kRatios[] = {
 
 } // namespace
 
-UnbalanMain::UnbalanMain(QWidget *parent) : ViewPage(UI_UNBALANCE, parent), m_ui(new Ui::UnbalanMain)
+UnbalanMain::UnbalanMain(QWidget *parent) : MeterPage(UI_UNBALANCE, parent), m_ui(new Ui::UnbalanMain)
 {
     static const KeyRow<UnbalanMain> keys[] = {
         { Qt::Key_F4, QT_TRANSLATE_NOOP("UnbalanMain", "Vector"), &UnbalanMain::goUnbalanVector },
     };
     m_ui->setupUi(this);
     LabelLook::dress(this);
-    m_headers = ChannelLabels::numberedRow(this, "header_%1");
-    for (const Row &row : kRows)
-        m_rows.push_back(ChannelLabels::namedRow(this, row.name));
+    setRows(kRows);
     for (const Ratio &ratio : kRatios)
         m_ratios.push_back(findChild<QLabel *>(QString::fromLatin1(ratio.name) + QLatin1String("_v")));
     setKeys(keys);
@@ -75,30 +69,9 @@ UnbalanMain::UnbalanMain(QWidget *parent) : ViewPage(UI_UNBALANCE, parent), m_ui
 
 UnbalanMain::~UnbalanMain() = default;
 
-void UnbalanMain::init_parameter()
-{
-    ViewPage::init_parameter();
-    showTitle();
-    showCurParams();
-}
-
-void UnbalanMain::retranslateUi()
-{
-    ViewPage::retranslateUi();
-    setText(m_ui->freq_t, tr("Freq ="));
-    showTitle();
-}
-
 void UnbalanMain::showTitle()
 {
-    ChannelLabels::showHeaders(m_headers);
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        const Row &row = kRows[i];
-        const QString caption = tr(row.caption);
-        setText(findChild<QLabel *>(QString::fromLatin1(row.name) + QLatin1String("_t")),
-                row.unit ? caption.arg(m_settingConfig_g.units().*row.unit) : caption);
-        ChannelLabels::clearUnused(m_rows[i]);
-    }
+    MeterPage::showTitle();
     const bool shown = UnbalanceValues::hasSequences();
     for (std::size_t i = 0; i < m_ratios.size(); ++i) {
         setText(findChild<QLabel *>(QString::fromLatin1(kRatios[i].name)), shown ? tr(kRatios[i].caption) : QString());

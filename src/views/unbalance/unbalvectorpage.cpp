@@ -132,11 +132,8 @@ void UnbalVectorPage::showTitle()
         setText(m_captions[i],
                 tr(kCaptions[vector.current][vector.phase]).arg(vector.current ? units.ampere : units.volt));
         setText(m_angleCaptions[i], tr(kAngleCaptions[i]));
-        const QString sheet = QStringLiteral("color: %1;").arg(PhaseColor::color(vector.phase).name());
-        for (QLabel *label : { m_captions[i], m_values[i], m_angleCaptions[i], m_angles[i] }) {
-            if (label->styleSheet() != sheet)
-                label->setStyleSheet(sheet);
-        }
+        for (QLabel *label : { m_captions[i], m_values[i], m_angleCaptions[i], m_angles[i] })
+            LabelLook::setColor(label, PhaseColor::color(vector.phase));
     }
     setText(m_ui->neg, showsSequences() ? tr("Neg.") : QString());
     setText(m_ui->zero, showsSequences() ? tr("Zero") : QString());

@@ -1,18 +1,14 @@
 #include "views/vif/vifmain.h"
 #include "ui_vifmain.h"
 
-#include "config/config_data.h"
 #include "device/displayrecords.h"
 #include "widgets/f_to_str.h"
 #include "widgets/labellook.h"
 
 namespace {
 
-struct Row
+struct Row : MeterLine
 {
-    const char *name; // labels <name>_t, <name>_L1 ... <name>_N
-    const char *caption; // "%1" stands for the unit
-    QString DisplayUnits::*unit;
     float (__vif_data::*values)[kChannels];
     QString (*format)(float);
 };
@@ -31,46 +27,18 @@ const Row kRows[] = {
 
 } // namespace
 
-VifMain::VifMain(QWidget *parent) : ViewPage(UI_VIF, parent), m_ui(new Ui::VifMain)
+VifMain::VifMain(QWidget *parent) : MeterPage(UI_VIF, parent), m_ui(new Ui::VifMain)
 {
     static const KeyRow<VifMain> keys[] = {
         { Qt::Key_F4, QT_TRANSLATE_NOOP("VifMain", "Trend"), &VifMain::goVifTrend },
     };
     m_ui->setupUi(this);
     LabelLook::dress(this);
-    m_headers = ChannelLabels::numberedRow(this, "header_%1");
-    for (const Row &row : kRows)
-        m_rows.push_back(ChannelLabels::namedRow(this, row.name));
+    setRows(kRows);
     setKeys(keys);
 }
 
 VifMain::~VifMain() = default;
-
-void VifMain::init_parameter()
-{
-    ViewPage::init_parameter();
-    showTitle();
-    showCurParams();
-}
-
-void VifMain::retranslateUi()
-{
-    ViewPage::retranslateUi();
-    setText(m_ui->freq_t, tr("Freq ="));
-    showTitle();
-}
-
-void VifMain::showTitle()
-{
-    ChannelLabels::showHeaders(m_headers);
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        const Row &row = kRows[i];
-        const QString caption = tr(row.caption);
-        setText(findChild<QLabel *>(QString::fromLatin1(row.name) + QLatin1String("_t")),
-                row.unit ? caption.arg(m_settingConfig_g.units().*row.unit) : caption);
-        ChannelLabels::clearUnused(m_rows[i]);
-    }
-}
 
 void VifMain::showCurParams()
 {

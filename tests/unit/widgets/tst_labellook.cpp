@@ -15,6 +15,7 @@ private slots:
     void aPictureFillsFromTheCornerOfItsLabel();
     void aFrameDrawsItsLineInTheTextColour();
     void otherWidgetsKeepTheirFont();
+    void aColourThatChangesIsTakenOver();
 };
 
 void TstLabelLook::aLabelIsWhiteAndEighteenPixelsHigh()
@@ -90,6 +91,19 @@ void TstLabelLook::otherWidgetsKeepTheirFont()
     const QFont before = chart.font();
     LabelLook::dress(&form);
     QCOMPARE(chart.font(), before);
+}
+
+void TstLabelLook::aColourThatChangesIsTakenOver()
+{
+    QWidget form;
+    QLabel label(&form);
+    LabelLook::dress(&form);
+    for (const QColor &color : { QColor(0x12, 0x34, 0x56), QColor(Qt::white) }) {
+        LabelLook::setColor(&label, color);
+        label.ensurePolished();
+        QCOMPARE(label.palette().color(label.foregroundRole()), color);
+    }
+    LabelLook::setColor(nullptr, Qt::red);
 }
 
 QTEST_MAIN(TstLabelLook)
