@@ -1,68 +1,20 @@
-#include "wholegraph.h"
+#include "shellcase.h"
 
-#include "basedialog.h"
-#include "config/recordinfo.h"
-#include "device/backlight.h"
-#include "menupage.h"
-#include "platform/deskkeys.h"
 #include "platform/target.h"
 #include "task/unitask.h"
-#include "taskmanage.h"
 #include "views/vif/vifmain.h"
 #include "views/vif/vifpage.h"
-#include "widgets/keymap.h"
 
 #include <QFile>
 #include <QSignalSpy>
-#include <QStackedWidget>
 #include <QWindow>
 
-#include <memory>
-
-namespace {
-
-// Letters that the front panel sends.
-constexpr auto kEnter = Qt::Key_K, kLeft = Qt::Key_O, kUp = Qt::Key_Q, kRight = Qt::Key_D, kDown = Qt::Key_T;
-constexpr auto kF1 = Qt::Key_W, kF4 = Qt::Key_F, kF5 = Qt::Key_L, kF6 = Qt::Key_E, kF7 = Qt::Key_A, kF8 = Qt::Key_U;
-constexpr auto kF10 = Qt::Key_R, kF12 = Qt::Key_X, kPower = Qt::Key_B;
-
-QString title()
-{
-    return m_basedialog->findChild<QLabel *>("name")->text();
-}
-
-QWidget *top()
-{
-    return m_basedialog->findChild<QStackedWidget *>("base_stackedWidget")->currentWidget();
-}
-
-QString current()
-{
-    return m_menupage->currentItem()->objectName();
-}
-
-void moveToTile(const QString &name)
-{
-    for (int row = 0; row < 3; ++row, QTest::keyClick(m_menupage, kDown)) {
-        for (int column = 0; column < 4; ++column, QTest::keyClick(m_menupage, kRight)) {
-            if (current() == name)
-                return;
-        }
-    }
-    QFAIL("no such tile");
-}
-
-} // namespace
-
-class TstShell : public QObject
+/// Menu, navigation with its questions, title bar.
+class TstShell : public ShellCase
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void init();
-    void cleanup();
-
     void startsInTheMenu();
     void menuIsATorus_data();
     void menuIsATorus();
@@ -82,48 +34,12 @@ private slots:
     void restartInTheRecorderQuestionStaysAndBeginsANewRecording();
     void functionNotBuiltAnswersWithAMessage();
     void monitorKeyDoesNothingAt400Hz();
-    void firstPressOnADarkScreenOnlyLightsIt();
-    void firstPressOnADarkScreenDoesNothingElseWhicheverKeyItIs_data();
-    void firstPressOnADarkScreenDoesNothingElseWhicheverKeyItIs();
-    void keysOfAPcDriveTheInstrumentOnADesk();
-    void heldFunctionKeyActsOnce();
-    void heldArrowGoesOn();
-    void heldPowerKeyAsksLikeAShortPress();
-    void lightKeyStepsTheLight();
-    void powerKeyAsksAfterAMomentAndCancelChangesNothing();
-    void powerKeySwitchesOffOnOk();
     void processorTimeBecomesTheSystemTime();
     void titleBarShowsIconsAndText();
     void statusDialogRestartsTheTask();
     void languageChangeSetsTheTitleOfTheUserPage();
     void everyTileAndFunctionKeyIsSafe();
-
-private:
-    void enterVif()
-    {
-        moveToTile("vif");
-        QTest::keyClick(m_menupage, kEnter);
-    }
 };
-
-void TstShell::initTestCase()
-{
-    buildWholeGraph();
-}
-
-void TstShell::init()
-{
-    m_settingConfig_g.setNomFreq(1);
-    RecordInfo::m_in_recording = 0;
-    m_menupage->initMenuMatrix();
-}
-
-void TstShell::cleanup()
-{
-    RecordInfo::m_in_recording = 0;
-    m_taskmanage->exitTask();
-    m_basedialog->showMenu(UI_VIF, UI_MENU);
-}
 
 void TstShell::startsInTheMenu()
 {
@@ -426,191 +342,6 @@ void TstShell::monitorKeyDoesNothingAt400Hz()
     QTest::qWait(60);
     QVERIFY(!answer.asked);
     QCOMPARE(title(), QStringLiteral("Menu"));
-}
-
-void TstShell::firstPressOnADarkScreenOnlyLightsIt()
-{
-    moveToTile("vif");
-    BackLight::shutDownBL();
-    QTest::keyClick(m_menupage, kRight);
-    QCOMPARE(current(), QStringLiteral("vif"));
-    QTest::keyClick(m_menupage, kRight);
-    QCOMPARE(current(), QStringLiteral("harmonics"));
-    BackLight::shutDownBL();
-    DialogAnswer answer(kF5);
-    QTest::keyClick(m_basedialog, kPower);
-    QTest::qWait(250);
-    QVERIFY(!answer.asked);
-}
-
-void TstShell::firstPressOnADarkScreenDoesNothingElseWhicheverKeyItIs_data()
-{
-    QTest::addColumn<int>("letter");
-    for (const char letter : QByteArray("WYPFLEAUSRIXBOQDTK"))
-        QTest::addRow("%c", letter) << int(letter);
-}
-
-void TstShell::firstPressOnADarkScreenDoesNothingElseWhicheverKeyItIs()
-{
-    QFETCH(int, letter);
-    const auto light = [] { return BackLight::level(); };
-    DialogAnswer answer(kF5);
-    BackLight::setBackLight(2);
-
-    moveToTile("vif");
-    BackLight::shutDownBL();
-    QTest::keyPress(m_menupage, Qt::Key(letter));
-    QVERIFY(!BackLight::isShut());
-    QCOMPARE(current(), QStringLiteral("vif"));
-    QCOMPARE(title(), QStringLiteral("Menu"));
-    QCOMPARE(light(), 2);
-
-    enterVif();
-    QSignalSpy pause(m_vifpage, &ViewPage::pause);
-    auto *main = m_vifpage->findChild<VifMain *>();
-    BackLight::shutDownBL();
-    QTest::keyPress(main, Qt::Key(letter));
-    QVERIFY(!BackLight::isShut());
-    QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
-    QVERIFY(main->isVisible());
-    QCOMPARE(pause.count(), 0);
-    QCOMPARE(light(), 2);
-    QTest::qWait(letter == kPower ? 250 : 0);
-    QVERIFY(!answer.asked);
-}
-
-void TstShell::keysOfAPcDriveTheInstrumentOnADesk()
-{
-    // Through the window, as the toolkit's input layer delivers them.
-    const std::unique_ptr<DeskKeys> desk(DeskKeys::install(qApp, keyMap::panelLetter));
-    QVERIFY(desk);
-    QWindow *window = m_basedialog->windowHandle();
-    QApplication::setActiveWindow(m_basedialog);
-    moveToTile("power");
-    QTest::keyClick(window, Qt::Key_Right);
-    QCOMPARE(current(), QStringLiteral("vif"));
-    QTest::keyClick(window, Qt::Key_Down);
-    QTest::keyClick(window, Qt::Key_Up);
-    QTest::keyClick(window, Qt::Key_Return);
-    QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
-    QTest::keyClick(window, Qt::Key_F6);
-    QCOMPARE(title(), QStringLiteral("Scope"));
-    QTest::keyClick(window, Qt::Key_Escape);
-    QCOMPARE(title(), QStringLiteral("Menu"));
-
-    // Escape cancels the status dialog; F1 would restart.
-    UniTask *task = g_unitask;
-    bool escaped = false;
-    QTimer user;
-    connect(&user, &QTimer::timeout, this, [&escaped] {
-        if (QWidget *dialog = QApplication::activeModalWidget()) {
-            QTest::keyClick(dialog, Qt::Key_Escape);
-            escaped = !dialog->isVisible();
-            dialog->close();
-        }
-    });
-    user.start(10);
-    QTest::keyClick(window, Qt::Key_F3);
-    QVERIFY(escaped);
-    QCOMPARE(g_unitask, task);
-}
-
-void TstShell::heldFunctionKeyActsOnce()
-{
-    const auto repeat = [](QWidget *page, int letter) {
-        QKeyEvent event(QEvent::KeyPress, letter, Qt::NoModifier, QString(), true);
-        QCoreApplication::sendEvent(page, &event);
-    };
-    enterVif();
-    auto *page = m_vifpage->findChild<VifMain *>();
-    QSignalSpy pause(m_vifpage, &ViewPage::pause);
-    QSignalSpy run(m_vifpage, &ViewPage::run);
-    g_unitask->startTask();
-    QTest::keyPress(page, kF5);
-    for (int i = 0; i < 5; ++i)
-        repeat(page, kF5);
-    QCOMPARE(pause.count(), 1);
-    QCOMPARE(run.count(), 0);
-    repeat(page, kF7);
-    QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
-
-    QTest::keyPress(page, kF7);
-    QCOMPARE(title(), QStringLiteral("Menu"));
-    DialogAnswer answer(kF5);
-    for (const auto letter : { kEnter, kF1, kF6, kF10 })
-        repeat(m_menupage, letter);
-    QTest::qWait(60);
-    QVERIFY(!answer.asked);
-    QCOMPARE(title(), QStringLiteral("Menu"));
-
-    BackLight::setBackLight(3);
-    repeat(m_menupage, kF12);
-    repeat(m_basedialog, kF12);
-    QCOMPARE(BackLight::level(), 3);
-}
-
-void TstShell::heldArrowGoesOn()
-{
-    moveToTile("vif");
-    for (const char *tile : { "harmonics", "unbalance" }) {
-        QKeyEvent event(QEvent::KeyPress, kRight, Qt::NoModifier, QString(), true);
-        QCoreApplication::sendEvent(m_menupage, &event);
-        QCOMPARE(current(), QLatin1String(tile));
-    }
-}
-
-void TstShell::heldPowerKeyAsksLikeAShortPress()
-{
-    DialogAnswer answer(kF5);
-    QTest::keyPress(m_basedialog, kPower);
-    // Repeats come faster than the timer runs; each one would start it anew.
-    QTimer keyboard;
-    connect(&keyboard, &QTimer::timeout, this, [] {
-        QKeyEvent event(QEvent::KeyPress, kPower, Qt::NoModifier, QString(), true);
-        QCoreApplication::sendEvent(m_basedialog, &event);
-    });
-    keyboard.start(10);
-    QTRY_VERIFY(answer.asked);
-    QVERIFY(answer.text.contains("Power off?"));
-}
-
-void TstShell::lightKeyStepsTheLight()
-{
-    const auto level = [] {
-        QFile file(Target::path("/sys/class/backlight/backlight/brightness"));
-        return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray("?");
-    };
-    BackLight::setBackLight(3);
-    QCOMPARE(level(), QByteArray("7"));
-    for (const char *text : { "5", "3", "1", "7" }) {
-        QTest::keyClick(m_menupage, kF12); // rises to the main window
-        QCOMPARE(level(), QByteArray(text));
-    }
-}
-
-void TstShell::powerKeyAsksAfterAMomentAndCancelChangesNothing()
-{
-    enterVif();
-    DialogAnswer answer(kF5);
-    QTest::keyClick(m_vifpage->findChild<VifMain *>(), kPower); // pressed and let go at once
-    QTRY_VERIFY(answer.asked);
-    QVERIFY(answer.text.contains("Power off?"));
-    QVERIFY(m_taskmanage->currentTask());
-}
-
-void TstShell::powerKeySwitchesOffOnOk()
-{
-    enterVif();
-    DialogAnswer answer(kF4);
-    QTest::keyClick(m_basedialog, kPower);
-    QTRY_VERIFY(answer.asked);
-    QTRY_VERIFY(!m_taskmanage->currentTask());
-    QFile latch(Target::path("/sys/class/gpio/gpio47/value"));
-    QVERIFY(latch.open(QIODevice::ReadOnly));
-    QCOMPARE(latch.readAll().trimmed(), QByteArray("1"));
-    QFile direction(Target::path("/sys/class/gpio/gpio47/direction"));
-    QVERIFY(direction.open(QIODevice::ReadOnly));
-    QCOMPARE(direction.readAll().trimmed(), QByteArray("out"));
 }
 
 void TstShell::processorTimeBecomesTheSystemTime()
