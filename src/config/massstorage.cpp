@@ -5,6 +5,7 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 
+#include "platform/diskroom.h"
 #include "platform/target.h"
 
 #include <cstdio>
@@ -13,11 +14,6 @@
 namespace {
 
 constexpr float kMegabyte = 1024.0f * 1024.0f;
-
-bool ask(const QString &path, struct statfs *info)
-{
-    return ::statfs(QFile::encodeName(Target::path(path)).constData(), info) == 0;
-}
 
 /// A path as one word of a shell command; plain ones stay as they are.
 QString shellWord(const QString &path)
@@ -37,7 +33,7 @@ qint64 MassStorage::storageFreeRoom(const QString &path)
     struct statfs info
     {
     };
-    if (!ask(path, &info))
+    if (!DiskRoom::ask(path, &info))
         return 0;
     return static_cast<qint64>(static_cast<double>(info.f_bavail) / 1024.0 * static_cast<double>(info.f_bsize));
 }
@@ -47,7 +43,7 @@ float MassStorage::storageFreeSize(const QString &path)
     struct statfs info
     {
     };
-    if (!ask(path, &info))
+    if (!DiskRoom::ask(path, &info))
         return 0.0f;
     return static_cast<float>(static_cast<double>(info.f_bavail) * static_cast<double>(info.f_bsize) / kMegabyte);
 }
@@ -57,7 +53,7 @@ float MassStorage::storageUsedSize(const QString &path)
     struct statfs info
     {
     };
-    if (!ask(path, &info))
+    if (!DiskRoom::ask(path, &info))
         return 0.0f;
     const double blocks = static_cast<double>(info.f_blocks) - static_cast<double>(info.f_bavail);
     return static_cast<float>(blocks * static_cast<double>(info.f_bsize) / kMegabyte);
