@@ -51,6 +51,7 @@ private slots:
     void clearTakesBackWhatIsPending();
     void sameSeedSameStreamAnotherSeedAnother();
     void ratesStrikeAboutAsOftenAsTold();
+    void chanceTearsPackagesAnywhere();
     void millionFaultsDoNoHarm();
     void millionRandomFramesDoNoHarm();
 
@@ -182,6 +183,22 @@ void TstProcessorFaults::ratesStrikeAboutAsOftenAsTold()
     for (int i = 0; i < 1000; ++i)
         faults.apply(datagram);
     QVERIFY(faults.count(Fault::Drop) > 43 && faults.count(Fault::Drop) < 137);
+}
+
+void TstProcessorFaults::chanceTearsPackagesAnywhere()
+{
+    // 900 packages, any length as likely as another: 225 expected in each quarter, standard deviation 13; five of them.
+    LinkFaults faults(3);
+    faults.random(Fault::Tear, 1.0);
+    int quarters[4] = {};
+    for (int i = 0; i < 100; ++i) {
+        for (const QByteArray &message : faults.apply(wave())) {
+            QVERIFY(message.size() < kPackageBytes);
+            ++quarters[message.size() * 4 / kPackageBytes];
+        }
+    }
+    for (const int count : quarters)
+        QVERIFY(count > 160 && count < 290);
 }
 
 void TstProcessorFaults::millionFaultsDoNoHarm()

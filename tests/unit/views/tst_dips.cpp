@@ -211,12 +211,12 @@ void TstDips::valueAtTheCursorCountsBackFromTheWindow()
 {
     QList<float> values;
     for (int i = 0; i < 100; ++i)
-        values << i;
-    QCOMPARE(RmsTrend::valueAt(values, { 0, 1 }, 1), 99.0f);
-    QCOMPARE(RmsTrend::valueAt(values, { 0, 1 }, 100), 0.0f);
-    QCOMPARE(RmsTrend::valueAt(values, { 0, 10 }, 3), 70.0f);
-    QCOMPARE(RmsTrend::valueAt(values, { 20, 10 }, 3), 50.0f);
-    QCOMPARE(RmsTrend::valueAt(values, { 0, 10 }, 600), 0.0f); // held at the oldest
+        values << i + 1;
+    QCOMPARE(RmsTrend::valueAt(values, { 0, 1 }, 1), 100.0f);
+    QCOMPARE(RmsTrend::valueAt(values, { 0, 1 }, 100), 1.0f);
+    QCOMPARE(RmsTrend::valueAt(values, { 0, 10 }, 3), 71.0f);
+    QCOMPARE(RmsTrend::valueAt(values, { 20, 10 }, 3), 51.0f);
+    QCOMPARE(RmsTrend::valueAt(values, { 0, 10 }, 600), 1.0f); // held at the oldest
     QCOMPARE(RmsTrend::valueAt(values, { 100, 1 }, 1), 0.0f); // offset beyond the list
     QCOMPARE(RmsTrend::valueAt({}, { 0, 1 }, 1), 0.0f);
 }

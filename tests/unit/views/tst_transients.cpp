@@ -433,12 +433,13 @@ void TstTransients::aReplacedListShowsNothingOfTheOld()
     m_page->showTransView();
     qDeleteAll(g_trans_events);
     g_trans_events.clear();
-    auto *other = transient(2, 3); // the numbers begin anew with the task
+    auto *other = transient(2, 3, 401); // the numbers begin anew with the task
     other->time = kTime + 5000;
     g_trans_events.append(other);
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(viewPage(), "trans_number"), QStringLiteral("#1/1(trans)"));
     QCOMPARE(text(viewPage(), "trigger"), QStringLiteral("L3"));
+    QCOMPARE(named<ScopeWidget>(viewPage(), "scope")->cursorPosition(), 402);
 }
 
 void TstTransients::anyListLengthOverAnyOrderOfKeys()

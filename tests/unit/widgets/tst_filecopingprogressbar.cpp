@@ -23,6 +23,7 @@ private slots:
     void aMissingSourceIsAnError();
     void aMissingDiskIsAnError();
     void cancelLeavesNothingBehind();
+    void closingTheProgramMeanwhileLeavesNothingBehind();
     void eventsGoOnWhileItCopies();
 };
 
@@ -116,6 +117,17 @@ void TstFileCopingProgressBar::cancelLeavesNothingBehind()
     QVERIFY(!bar.isVisible());
     QCOMPARE(bar.result(), int(QDialog::Rejected));
     QVERIFY(FileCopingProgressBar::err != QStringLiteral("NoErr"));
+    QCOMPARE(onDisk(), QStringList());
+}
+
+void TstFileCopingProgressBar::closingTheProgramMeanwhileLeavesNothingBehind()
+{
+    write(kSource, QByteArray(40000000, 'x'));
+    {
+        FileCopingProgressBar bar(kSource, kTarget);
+        QTRY_VERIFY(bar.findChild<QProgressBar *>()->value() > 0);
+        QCOMPARE(onDisk().size(), 1); // the part that is there
+    }
     QCOMPARE(onDisk(), QStringList());
 }
 

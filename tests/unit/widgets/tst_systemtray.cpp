@@ -140,6 +140,8 @@ void TstSystemTray::bdsIsShownAfterItsSignalAndStays()
     QVERIFY(tray.icons().contains(QStringLiteral("bds")));
     tray.usingBDS(0);
     QVERIFY(!tray.icons().contains(QStringLiteral("bds")));
+    tray.usingBDS(0x80000000); // any bit of the processor's word counts
+    QVERIFY(tray.icons().contains(QStringLiteral("bds")));
 }
 
 void TstSystemTray::wirelessComesFromTheQuery()
