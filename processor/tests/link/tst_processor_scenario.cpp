@@ -73,6 +73,7 @@ class TstProcessorScenario : public QObject
 
 private slots:
     void everyKeyArrivesWhereItBelongs();
+    void anglesOfTheCurrentsFollowTheLoadUnlessTheyAreTold();
     void emptyObjectIsAQuietSupply();
     void wrongFilesAreToldWithKeyAndExpectation_data();
     void wrongFilesAreToldWithKeyAndExpectation();
@@ -165,6 +166,22 @@ void TstProcessorScenario::everyKeyArrivesWhereItBelongs()
     QCOMPARE(scenario->faults.at(0).bytes, 20);
 }
 
+void TstProcessorScenario::anglesOfTheCurrentsFollowTheLoadUnlessTheyAreTold()
+{
+    // A power factor of 0.5 is an angle of 60 degrees, behind the voltage or before it.
+    QString error;
+    const auto inductive = parse(R"({"signal": {"angles": [10, -110, 130], "i": 5, "pf": 0.5}})", &error);
+    const auto capacitive
+        = parse(R"({"signal": {"angles": [10, -110, 130], "i": 5, "pf": 0.5, "capacitive": true}})", &error);
+    const auto told = parse(R"({"signal": {"i": 5, "pf": 0.5, "currentAngles": [11, 12, 13, 14]}})", &error);
+    QVERIFY2(inductive && capacitive && told, qPrintable(error));
+    QCOMPARE(inductive->signal.inputs[processor::I1].phaseDeg, -50.0);
+    QCOMPARE(inductive->signal.inputs[processor::I3].phaseDeg, 70.0);
+    QCOMPARE(capacitive->signal.inputs[processor::I1].phaseDeg, 70.0);
+    for (int line = 0; line < 4; ++line)
+        QCOMPARE(told->signal.inputs[std::size_t(processor::I1 + line)].phaseDeg, 11.0 + line);
+}
+
 void TstProcessorScenario::emptyObjectIsAQuietSupply()
 {
     QString error;
@@ -190,6 +207,9 @@ void TstProcessorScenario::wrongFilesAreToldWithKeyAndExpectation_data()
                                        << "s.json: signal.f: expected a number from 10 to 1000, found \"50\"";
     QTest::newRow("number out of bounds")
         << QByteArray(R"({"signal": {"f": 5}})") << "s.json: signal.f: expected a number from 10 to 1000, found 5";
+    QTest::newRow("angle of a current out of bounds")
+        << QByteArray(R"({"signal": {"currentAngles": [0, 361, 0]}})")
+        << "s.json: signal.currentAngles[1]: expected a number from -360 to 360";
     QTest::newRow("broken order")
         << QByteArray(R"({"signal": {"harmonics": [{"order": 2, "percent": 1}, {"order": 2.5, "percent": 1}]}})")
         << "s.json: signal.harmonics[1].order: expected a whole number from 2 to 100, found 2.5";
