@@ -71,9 +71,9 @@ void TstEventCurves::historyDropsOneSampleACallBeyondThreeSeconds()
     const RmsCurve &start = event.startRms[0];
     // Taken at the first sample more than 1500 ms later, 1006510. A sample goes when the span before the append is
     // beyond 3000 ms, so that 302 samples stay: 1003500 to 1006510.
-    QCOMPARE(start.constLast().time, qint64(1'006'510));
+    QCOMPARE(qint64(start.constLast().time), qint64(1'006'510));
     QCOMPARE(start.size(), 302);
-    QCOMPARE(start.constFirst().time, qint64(1'003'500));
+    QCOMPARE(qint64(start.constFirst().time), qint64(1'003'500));
 }
 
 void TstEventCurves::historyMeasuresTheFirstInputAlone()
@@ -129,8 +129,8 @@ void TstEventCurves::historyGoesSampleBySampleAfterAStepOfTheClock()
     // stand behind 150 old ones when the curve is taken, 1510 ms after the start.
     const RmsCurve curve = events.getAllEvents().at(0).startRms[0];
     QCOMPARE(curve.size(), 302);
-    QCOMPARE(curve.at(149).time, start - step - 10);
-    QCOMPARE(curve.at(150).time, start);
+    QCOMPARE(qint64(curve.at(149).time), start - step - 10);
+    QCOMPARE(qint64(curve.at(150).time), start);
     in.feed(600, 200);
     QCOMPARE(events.getFullEvents().size(), 1);
     QCOMPARE(events.getFullEvents().at(0).duration, 10);
@@ -297,7 +297,7 @@ void TstEventCurves::rawFormHoldsHeadAndBothSections()
     QCOMPARE(raw.mid(16, 16), QByteArray::fromHex("08070605040302011817161514131211"));
     QCOMPARE(at<qint32>(raw, 32), 48);
     QCOMPARE(sampleAt(raw, 36).value, 200.0f);
-    QCOMPARE(sampleAt(raw, 36).time, qint64(1000));
+    QCOMPARE(qint64(sampleAt(raw, 36).time), qint64(1000));
     QCOMPARE(sampleAt(raw, 48).value, 201.0f);
     QCOMPARE(sampleAt(raw, 60).value, 5.0f); // the current of L1 directly behind its voltage
     QCOMPARE(sampleAt(raw, 72).value, 210.0f);
@@ -316,7 +316,7 @@ void TstEventCurves::overlappingCurvesMergeIntoTheFirstSection()
     event.endRms[1] = curve(1020, 2, 21); // begins with the last of the start: overlaps
     const QByteArray raw = PowerEvents::toRawData(event);
     QCOMPARE(at<qint32>(raw, 32), (5 + 4) * 12);
-    QCOMPARE(sampleAt(raw, 36 + 3 * 12).time, qint64(1030));
+    QCOMPARE(qint64(sampleAt(raw, 36 + 3 * 12).time), qint64(1030));
     QCOMPARE(sampleAt(raw, 36 + 3 * 12).value, 13.0f);
     QCOMPARE(sampleAt(raw, 36 + 8 * 12).value, 22.0f);
     QCOMPARE(at<qint32>(raw, 36 + 9 * 12), 0);
