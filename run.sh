@@ -24,7 +24,7 @@ root=$top/build/desk fresh= offscreen= build_only=
 modbus_port=${QUVERA_MODBUS_PORT:-1502} remote_port=${QUVERA_REMOTE_PORT:-3527}
 scenario=
 processor_options=()
-value() { [ $# -ge 2 ] || die "option $1 needs a value"; printf '%s' "$2"; }
+value() { case "${2:-}" in ''|--*) die "option $1 needs a value" ;; esac; printf '%s' "$2"; }
 while [ $# -gt 0 ]; do
     case "$1" in
     -h|--help) usage; exit 0 ;;
@@ -41,8 +41,14 @@ while [ $# -gt 0 ]; do
     esac
     shift
 done
-case "$modbus_port$remote_port" in *[!0-9]*) die "ports are numbers" ;; esac
+for port in "$modbus_port" "$remote_port"; do
+    [[ $port =~ ^[1-9][0-9]{0,4}$ ]] && [ "$port" -le 65535 ] || die "ports are numbers from 1 to 65535, not \"$port\""
+done
 case "$root" in /*) ;; *) root=$PWD/$root ;; esac
+# Said before the build, for the instrument would refuse it after: its shell commands hold the root's name.
+case "$root" in
+*[!A-Za-z0-9_./+@%,-]*) die "the root $root holds blanks or other signs of the shell; choose another with --root" ;;
+esac
 if [ -n "$scenario" ] && [ ! -f "$scenario" ]; then
     [ -f "$top/processor/scenarios/$scenario.json" ] ||
         die "no scenario $scenario (names: $(cd "$top/processor/scenarios" && echo *.json | sed 's/\.json//g'))"
