@@ -130,6 +130,8 @@ std::optional<Options> Options::read(const QStringList &arguments, QString *erro
     options.stream = parser.isSet(given.stream);
     options.tell = parser.value(given.tell);
     *error = readValues(parser, given, &options);
+    if (error->isEmpty() && parser.isSet(given.tell) && options.tell.isEmpty())
+        *error = QStringLiteral("--tell: expected a command; \"help\" lists them");
     // Never "/" by accident: the desk's own files are not the board's.
     if (error->isEmpty() && options.root.isEmpty())
         *error = QStringLiteral("no root: give --root DIR or set QUVERA_ROOT");

@@ -161,6 +161,7 @@ void TstProcessorProgram::wrongCallsAreOneLine_data()
     QTest::newRow("seed") << QStringList { "--seed", "x" } << "--seed: expected a whole number";
     QTest::newRow("clock") << QStringList { "--clock", "noon" } << "--clock: expected a time as 2024-01-18T16:15:00";
     QTest::newRow("length") << QStringList { "--for", "0" } << "--for: expected a time as 200ms or 0.2s";
+    QTest::newRow("empty command") << QStringList { "--tell", "" } << "--tell: expected a command; \"help\" lists them";
     QTest::newRow("root of the host") << QStringList { "--root", "/" } << "the root must not be /";
     QTest::newRow("root in a device") << QStringList { "--root", "/dev/null/x" } << "cannot write /dev/null/x/dev";
     QTest::newRow("replay of nothing") << QStringList { "--replay", "/none" }
