@@ -98,7 +98,7 @@ void showSplash()
     QPixmap picture(QStringLiteral(":/splash"));
     if (m_userConfig_g.getLang() == UserConfig::RU)
         picture.load(QStringLiteral(":/splash_ru"));
-    // Never closed: the main window covers it.
+    // Never closed: the main window covers it, or appInit hides it.
     splash = new QSplashScreen(QPixmap());
     splash->setPixmap(picture);
     splash->show();
@@ -119,6 +119,9 @@ void appInit()
     m_basedialog = new BaseDialog;
     m_basedialog->show();
     m_basedialog->activateWindow(); // not the splash; on a desk a window manager may be missing
+    // On a larger screen than the board's it would stand beside the window, or in front of it, for good.
+    if (!m_basedialog->geometry().contains(splash->geometry()))
+        splash->hide();
 
     initUiParameter();
     ScreenShot::initScreenShot();

@@ -31,23 +31,31 @@ Layer layerOf(const QWidget *window)
     return window->isActiveWindow() ? ActivePage : Page;
 }
 
-QPixmap composeWindows()
+QWidgetList visibleWindows()
 {
     QWidgetList windows;
-    QRect area;
     for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (!window->isVisible() || window->windowType() == Qt::Desktop)
-            continue;
-        windows << window;
-        // The instrument's own screen is that of its pages; a dialog does not widen it.
+        if (window->isVisible() && window->windowType() != Qt::Desktop)
+            windows << window;
+    }
+    return windows;
+}
+
+/// The instrument's own screen, in pixels of the whole one: that of its pages, which a dialog does not widen.
+QRect instrumentArea(const QWidgetList &windows)
+{
+    QRect pages, all;
+    for (const QWidget *window : windows) {
         const Layer layer = layerOf(window);
         if (layer == Page || layer == ActivePage)
-            area |= window->geometry();
+            pages |= window->geometry();
+        all |= window->geometry();
     }
-    if (area.isEmpty()) {
-        for (const QWidget *window : qAsConst(windows))
-            area |= window->geometry();
-    }
+    return pages.isEmpty() ? all : pages;
+}
+
+QPixmap composeWindows(QWidgetList windows, const QRect &area)
+{
     if (area.isEmpty())
         return {};
     std::stable_sort(windows.begin(), windows.end(),
@@ -71,8 +79,12 @@ void ScreenShot::initScreenShot()
 QPixmap ScreenShot::getScreenPixmap()
 {
     QScreen *screen = QGuiApplication::primaryScreen();
-    const QPixmap picture = screen ? screen->grabWindow(0) : QPixmap();
-    return picture.isNull() ? composeWindows() : picture;
+    const QWidgetList windows = visibleWindows();
+    const QRect area = instrumentArea(windows);
+    // A screen that the instrument shares shows other programs, which nobody has asked for.
+    const bool shared = screen && !area.isEmpty() && !area.contains(screen->geometry());
+    const QPixmap picture = screen && !shared ? screen->grabWindow(0) : QPixmap();
+    return picture.isNull() ? composeWindows(windows, area) : picture;
 }
 
 void ScreenShot::grabScreenPixmap()

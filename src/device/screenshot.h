@@ -12,8 +12,9 @@ public:
     static void initScreenShot();
     static ScreenShot *iScreenShot() { return m_instance; }
 
-    /// The whole primary screen. Where the platform cannot read its screen back, the picture is composed of the visible
-    /// windows: dialogs over pages, menus over dialogs. A null picture when there is nothing to show.
+    /// The whole primary screen where the instrument fills it. On a larger one, and where the platform cannot read its
+    /// screen back, the picture is composed of the instrument's visible windows: dialogs over pages, menus over
+    /// dialogs. A null picture when there is nothing to show.
     static QPixmap getScreenPixmap();
 
 signals:

@@ -48,6 +48,8 @@ void TstShell::startsInTheMenu()
     QCOMPARE(current(), QStringLiteral("vif"));
     QVERIFY(!m_taskmanage->currentTask());
     QCOMPARE(m_basedialog->size(), QSize(640, 480));
+    QVERIFY(m_basedialog->geometry().contains(splash->geometry()));
+    QVERIFY(splash->isVisible()); // covered, not closed
     QCOMPARE(m_basedialog->findChild<QLabel *>("datetime")->text().size(), 19);
     QCOMPARE(m_menupage->findChild<QLabel *>("menu_tips")->text(),
              QStringLiteral("Press F1-F5 to show more infomation"));

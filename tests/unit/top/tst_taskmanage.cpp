@@ -1,5 +1,6 @@
 #include "wholegraph.h"
 
+#include "basedialog.h"
 #include "platform/clock.h"
 #include "task/unitask.h"
 #include "taskmanage.h"
@@ -7,7 +8,6 @@
 #include "views/vif/vifpage.h"
 
 #include <QSignalSpy>
-#include <QSplashScreen>
 
 class TstTaskManage : public QObject
 {
@@ -17,6 +17,7 @@ private slots:
     void initTestCase();
     void cleanup() { m_taskmanage->exitTask(); }
 
+    void splashGoesWhereTheMainWindowLeavesItUncovered();
     void splashShowsThePictureOfTheLanguage();
     void datagramBeforeAnyTaskIsDropped();
     void recordsKeepTheirAddress();
@@ -40,7 +41,15 @@ private slots:
 
 void TstTaskManage::initTestCase()
 {
-    buildWholeGraph();
+    buildWholeGraph({ 10, 40 });
+}
+
+// On a desk's screen the two windows are placed apart.
+void TstTaskManage::splashGoesWhereTheMainWindowLeavesItUncovered()
+{
+    QVERIFY(m_basedialog->isVisible());
+    QVERIFY(!m_basedialog->geometry().contains(splash->geometry()));
+    QVERIFY(!splash->isVisible());
 }
 
 void TstTaskManage::splashShowsThePictureOfTheLanguage()

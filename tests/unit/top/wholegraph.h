@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QLabel>
+#include <QSplashScreen>
 #include <QTest>
 #include <QTimer>
 
@@ -12,11 +13,13 @@
 #include <cstring>
 #include <vector>
 
-/// The whole object graph of the instrument, built once as main builds it, for tests of the shell.
-inline void buildWholeGraph()
+/// The whole object graph of the instrument, built once as main builds it, for tests of the shell. The splash stands so
+/// far beside its place, in pixels, when the main window comes.
+inline void buildWholeGraph(QPoint splashOffset = {})
 {
     Q_INIT_RESOURCE(skin);
     showSplash();
+    splash->move(splash->pos() + splashOffset);
     appInit();
     appConnection();
     langConnection();
