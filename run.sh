@@ -55,34 +55,45 @@ if [ -n "$scenario" ] && [ ! -f "$scenario" ]; then
     scenario=$top/processor/scenarios/$scenario.json
 fi
 
+# The desk root. Only a folder that this script made is ever emptied.
+take_root()
+{
+    mkdir -p "$root" 2>/dev/null && [ -w "$root" ] && [ -x "$root" ] || die "the root $root cannot be written"
+    mark=$root/.quvera-desk
+    exec 9>>"$mark" || die "the root $root cannot be written"
+    flock -n 9 || die "the root $root is in use by another run"
+    if [ -n "$fresh" ]; then
+        if [ -n "$(ls -A "$root" | grep -vx .quvera-desk)" ] && [ ! -s "$mark" ]; then
+            die "--fresh would empty $root, which was not made by this script"
+        fi
+        find "$root" -mindepth 1 -maxdepth 1 ! -name .quvera-desk -exec rm -rf {} + || die "the root $root cannot be emptied"
+    fi
+    [ -s "$mark" ] || [ -n "$(ls -A "$root" | grep -vx .quvera-desk)" ] || echo "desk root of the instrument" >&9
+}
+
+# Both ports, before anything starts: the instrument ends at once when its remote control finds no port.
+check_ports()
+{
+    hex() { printf ':%04X' "$1"; }
+    awk -v p="$(hex "$remote_port")" '$2 ~ p"$" { found = 1 } END { exit !found }' /proc/net/udp /proc/net/udp6 2>/dev/null &&
+        die "UDP port $remote_port is in use; choose another with --remote-port"
+    awk -v p="$(hex "$modbus_port")" '$2 ~ p"$" && $4 == "0A" { found = 1 } END { exit !found }' \
+        /proc/net/tcp /proc/net/tcp6 2>/dev/null && die "TCP port $modbus_port is in use; choose another with --modbus-port"
+    if [ "$modbus_port" -lt "$(cat /proc/sys/net/ipv4/ip_unprivileged_port_start 2>/dev/null || echo 1024)" ] &&
+        [ "$(id -u)" -ne 0 ]; then
+        die "port $modbus_port needs root; choose one above 1023 with --modbus-port"
+    fi
+}
+
+# What can be refused is refused before the build, which takes minutes.
+if [ -z "$build_only" ]; then
+    take_root
+    check_ports
+fi
 install_packages
 configure release
 build "$top/build" quvera quvera-processor quvera-remote
 [ -z "$build_only" ] || exit 0
-
-# The desk root. Only a folder that this script made is ever emptied.
-mkdir -p "$root" 2>/dev/null && [ -w "$root" ] && [ -x "$root" ] || die "the root $root cannot be written"
-mark=$root/.quvera-desk
-exec 9>>"$mark" || die "the root $root cannot be written"
-flock -n 9 || die "the root $root is in use by another run"
-if [ -n "$fresh" ]; then
-    if [ -n "$(ls -A "$root" | grep -vx .quvera-desk)" ] && [ ! -s "$mark" ]; then
-        die "--fresh would empty $root, which was not made by this script"
-    fi
-    find "$root" -mindepth 1 -maxdepth 1 ! -name .quvera-desk -exec rm -rf {} + || die "the root $root cannot be emptied"
-fi
-[ -s "$mark" ] || [ -n "$(ls -A "$root" | grep -vx .quvera-desk)" ] || echo "desk root of the instrument" >&9
-
-# Both ports, before anything starts: the instrument ends at once when its remote control finds no port.
-hex() { printf ':%04X' "$1"; }
-awk -v p="$(hex "$remote_port")" '$2 ~ p"$" { found = 1 } END { exit !found }' /proc/net/udp /proc/net/udp6 2>/dev/null &&
-    die "UDP port $remote_port is in use; choose another with --remote-port"
-awk -v p="$(hex "$modbus_port")" '$2 ~ p"$" && $4 == "0A" { found = 1 } END { exit !found }' \
-    /proc/net/tcp /proc/net/tcp6 2>/dev/null && die "TCP port $modbus_port is in use; choose another with --modbus-port"
-if [ "$modbus_port" -lt "$(cat /proc/sys/net/ipv4/ip_unprivileged_port_start 2>/dev/null || echo 1024)" ] &&
-    [ "$(id -u)" -ne 0 ]; then
-    die "port $modbus_port needs root; choose one above 1023 with --modbus-port"
-fi
 
 export QUVERA_ROOT=$root QUVERA_MODBUS_PORT=$modbus_port QUVERA_REMOTE_PORT=$remote_port
 if [ -n "$offscreen" ] || { [ -z "${QT_QPA_PLATFORM:-}" ] && [ -z "${DISPLAY:-}" ]; }; then
