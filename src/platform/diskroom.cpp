@@ -9,20 +9,22 @@
 
 namespace {
 
-/// The folder of the disk that the path lies on, under the root; empty when none tells its size.
-QString sizedDisk(const QString &realPath, qint64 *capacity)
+/// The folder of the USB disk that a path under the root lies on; empty for every other path. Recorders ask for the
+/// room before each block, so this costs no system call.
+QString usbDisk(const QString &realPath)
 {
-    const QString root = Target::root();
-    QString folder = QDir::cleanPath(realPath);
-    while (folder.size() > root.size() && folder.startsWith(root)) {
-        QFile file(folder + QLatin1String("/.capacity"));
-        if (file.open(QIODevice::ReadOnly)) {
-            *capacity = file.readLine(32).trimmed().toLongLong();
-            return *capacity > 0 ? folder : QString();
-        }
-        folder.truncate(qMax(0, folder.lastIndexOf(QLatin1Char('/'))));
-    }
-    return QString();
+    const QString media = Target::root() + QLatin1String("/run/media/");
+    if (!realPath.startsWith(media))
+        return QString();
+    const int end = realPath.indexOf(QLatin1Char('/'), media.size());
+    return end < 0 ? realPath : realPath.left(end);
+}
+
+/// The size that a disk's folder tells, bytes; 0 when it tells none.
+qint64 capacityOf(const QString &disk)
+{
+    QFile file(disk + QLatin1String("/.capacity"));
+    return file.open(QIODevice::ReadOnly) ? file.readLine(32).trimmed().toLongLong() : 0;
 }
 
 qint64 bytesIn(const QString &folder)
@@ -44,11 +46,9 @@ bool DiskRoom::ask(const QString &boardPath, struct statfs *info)
     const QString path = Target::path(boardPath);
     if (::statfs(QFile::encodeName(path).constData(), info) != 0)
         return false;
-    qint64 capacity = 0;
-    if (Target::root().isEmpty() || info->f_bsize <= 0)
-        return true;
-    const QString disk = sizedDisk(path, &capacity);
-    if (disk.isEmpty())
+    const QString disk = Target::root().isEmpty() ? QString() : usbDisk(path);
+    const qint64 capacity = disk.isEmpty() ? 0 : capacityOf(disk);
+    if (capacity <= 0 || info->f_bsize <= 0)
         return true;
     const qint64 free = qMax<qint64>(0, capacity - bytesIn(disk));
     info->f_blocks = fsblkcnt_t(capacity / info->f_bsize);

@@ -9,8 +9,7 @@ struct statfs;
 class DiskRoom
 {
 public:
-    /// What statfs(2) answers for a path of the board; false when the path is not there. On a desk a folder above it
-    /// (or the path itself) that holds the file ".capacity" with a number of bytes has that many, less what its files
-    /// take.
+    /// What statfs(2) answers for a path of the board; false when the path is not there. On a desk a folder in
+    /// "/run/media/" that holds the file ".capacity" with a number of bytes has that many, less what its files take.
     static bool ask(const QString &boardPath, struct statfs *info);
 };
