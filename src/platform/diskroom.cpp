@@ -13,7 +13,7 @@ namespace {
 /// room before each block, so this costs no system call.
 QString usbDisk(const QString &realPath)
 {
-    const QString media = Target::root() + QLatin1String("/run/media/");
+    static const QString media = Target::root() + QLatin1String("/run/media/"); // the root never changes
     if (!realPath.startsWith(media))
         return QString();
     const int end = realPath.indexOf(QLatin1Char('/'), media.size());
