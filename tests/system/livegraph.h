@@ -58,6 +58,7 @@ public:
         if (!m_desk.startProcessor(always + processorArguments))
             return false;
         takePictures();
+        showSplash();
         appInit();
         appConnection();
         langConnection();
