@@ -120,7 +120,7 @@ void appInit()
     m_basedialog->show();
     m_basedialog->activateWindow(); // not the splash; on a desk a window manager may be missing
     // On a larger screen than the board's it would stand beside the window, or in front of it, for good.
-    if (!m_basedialog->geometry().contains(splash->geometry()))
+    if (splash && !m_basedialog->geometry().contains(splash->geometry()))
         splash->hide();
 
     initUiParameter();

@@ -58,7 +58,6 @@ public:
         if (!m_desk.startProcessor(always + processorArguments))
             return false;
         takePictures();
-        showSplash();
         appInit();
         appConnection();
         langConnection();
