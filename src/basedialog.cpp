@@ -13,9 +13,9 @@
 #include "views/common/functionpage.h"
 #include "views/common/viewcontainer.h"
 #include "widgets/keymap.h"
+#include "widgets/labellook.h"
 #include "widgets/localtime.h"
 #include "widgets/message.h"
-#include "widgets/labellook.h"
 
 #include <QDateTime>
 #include <QKeyEvent>

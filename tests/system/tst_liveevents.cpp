@@ -43,31 +43,26 @@ QVector<Case> allCases()
     QVector<Case> cases;
     const auto add = [&cases](const QByteArray &name, const QVector<Part> &parts) { cases.append({ name, parts }); };
     const auto number = [](double value) { return QByteArray::number(value); };
-    // One phase: depth by length by point on wave.
-    static const char *const kPhases[] = { "l1", "l2", "l3" };
+    // One phase: depth by length, each on another phase and at another point on wave.
     int turn = 0;
-    for (const double level : { 85.0, 70.0, 40.0, 10.0 }) {
-        for (const double length : { 0.03, 0.1, 0.5 }) {
-            const char *phase = kPhases[turn % 3];
-            const double angle = 90.0 * (turn % 4);
-            ++turn;
-            add(QByteArray("dip ") + phase + " to " + number(level) + " % for " + number(1000 * length) + " ms at "
-                    + number(angle) + " deg",
-                { { "dip", phase, level, length, angle } });
-        }
-    }
+    const auto addEach
+        = [&](const char *kind, std::initializer_list<double> levels, std::initializer_list<double> lengths) {
+              static const char *const kPhases[] = { "l1", "l2", "l3" };
+              for (const double level : levels) {
+                  for (const double length : lengths) {
+                      const char *phase = kPhases[turn % 3];
+                      const double angle = 90.0 * (turn % 4);
+                      ++turn;
+                      add(QByteArray(kind) + ' ' + phase + " to " + number(level) + " % for " + number(1000 * length)
+                              + " ms at " + number(angle) + " deg",
+                          { { kind, phase, level, length, angle } });
+                  }
+              }
+          };
+    addEach("dip", { 85.0, 70.0, 40.0, 10.0 }, { 0.03, 0.1, 0.5 });
     for (const double angle : { 0.0, 45.0, 90.0, 180.0, 270.0 })
         add("dip l1 to 40 % at " + number(angle) + " deg", { { "dip", "l1", 40, 0.1, angle } });
-    for (const double level : { 115.0, 125.0, 140.0 }) {
-        for (const double length : { 0.05, 0.3 }) {
-            const char *phase = kPhases[turn % 3];
-            const double angle = 90.0 * (turn % 4);
-            ++turn;
-            add(QByteArray("swell ") + phase + " to " + number(level) + " % for " + number(1000 * length) + " ms at "
-                    + number(angle) + " deg",
-                { { "swell", phase, level, length, angle } });
-        }
-    }
+    addEach("swell", { 115.0, 125.0, 140.0 }, { 0.05, 0.3 });
     // Several phases: from the first that falls to the last that returns, with the deepest value of all.
     add("dip of all phases", { { "dip", "all", 60, 0.2, 0 } });
     add("dip of two phases", { { "dip", "l2+l3", 50, 0.15, 180 } });

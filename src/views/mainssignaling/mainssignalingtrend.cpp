@@ -3,8 +3,8 @@
 
 #include "config/config_data.h"
 #include "widgets/f_to_str.h"
-#include "widgets/viftrendchart.h"
 #include "widgets/labellook.h"
+#include "widgets/viftrendchart.h"
 
 namespace {
 

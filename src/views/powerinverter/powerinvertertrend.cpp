@@ -4,8 +4,8 @@
 #include "config/config_data.h"
 #include "views/powerinverter/inverterfeed.h"
 #include "widgets/f_to_str.h"
-#include "widgets/viftrendchart.h"
 #include "widgets/labellook.h"
+#include "widgets/viftrendchart.h"
 
 #include <algorithm>
 

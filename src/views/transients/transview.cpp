@@ -2,8 +2,8 @@
 #include "ui_transview.h"
 
 #include "views/common/scopecontrols.h"
-#include "widgets/localtime.h"
 #include "widgets/labellook.h"
+#include "widgets/localtime.h"
 
 #include <algorithm>
 #include <cmath>

@@ -277,13 +277,7 @@ void TstUniTaskStream::countsOutOfRangeFeedAtMostThirtyHalfCycles()
 void TstUniTaskStream::wildValuesHurtNothing()
 {
     start();
-    const float wild[] = { std::numeric_limits<float>::quiet_NaN(),
-                           std::numeric_limits<float>::infinity(),
-                           -std::numeric_limits<float>::infinity(),
-                           1e30f,
-                           -1e30f,
-                           1e-40f };
-    for (float value : wild) {
+    for (float value : kWildFloats) {
         Payload a(Link::kAggregationWords);
         for (int word = 2; word < Link::kAggregationWords; ++word)
             a.set(word, value);
@@ -468,3 +462,4 @@ void TstUniTaskStream::flickerValuesGoToTheFileOfTheFunction()
 
 QTEST_GUILESS_MAIN(TstUniTaskStream)
 #include "tst_unitaskstream.moc"
+#include "unit/wildfloats.h"

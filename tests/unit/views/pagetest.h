@@ -80,6 +80,29 @@ inline void setUpMeasurement(int joinMode, int frequency = 1)
         m_settingConfig_g.setNomFreq(frequency);
 }
 
+/// Data rows "wiring 1" to "wiring 10": column "joinMode" and one of this name.
+inline void addWirings(const char *column, const int (&values)[10])
+{
+    QTest::addColumn<int>("joinMode");
+    QTest::addColumn<int>(column);
+    for (int mode = 1; mode <= 10; ++mode)
+        QTest::addRow("wiring %d", mode) << mode << values[mode - 1];
+}
+
+/// Data rows of all wirings: column "joinMode" and "shown", which of the columns L1, L2, L3, N a table then has.
+inline void addShownColumns()
+{
+    QTest::addColumn<int>("joinMode");
+    QTest::addColumn<QList<bool>>("shown");
+    for (int mode : { 1, 7, 9 })
+        QTest::addRow("star %d", mode) << mode << QList<bool> { true, true, true, true };
+    for (int mode : { 2, 4, 8, 10 })
+        QTest::addRow("delta %d", mode) << mode << QList<bool> { true, true, true, false };
+    QTest::newRow("1P") << 3 << QList<bool> { true, false, false, true };
+    QTest::newRow("1P SPLIT") << 5 << QList<bool> { true, true, false, true };
+    QTest::newRow("1P IT") << 6 << QList<bool> { true, false, false, false };
+}
+
 /// Press and release.
 inline void press(QWidget *page, FrontKey key, int times = 1)
 {

@@ -88,11 +88,7 @@ void TstFlicker::tableShowsPstPltAndPinst()
 
 void TstFlicker::tableShowsOnlyThePhasesOfTheWiring_data()
 {
-    QTest::addColumn<int>("joinMode");
-    QTest::addColumn<int>("phases");
-    const int phases[] = { 3, 3, 1, 3, 2, 1, 3, 3, 3, 3 };
-    for (int mode = 1; mode <= 10; ++mode)
-        QTest::addRow("wiring %d", mode) << mode << phases[mode - 1];
+    addWirings("phases", { 3, 3, 1, 3, 2, 1, 3, 3, 3, 3 });
 }
 
 void TstFlicker::tableShowsOnlyThePhasesOfTheWiring()
@@ -178,11 +174,7 @@ void TstFlicker::trendAxisCoversTwelveSeconds()
 
 void TstFlicker::trendHasNoCurveForTheNeutral_data()
 {
-    QTest::addColumn<int>("joinMode");
-    QTest::addColumn<int>("flags");
-    const int flags[] = { 7, 7, 1, 7, 3, 1, 7, 7, 7, 7 };
-    for (int mode = 1; mode <= 10; ++mode)
-        QTest::addRow("wiring %d", mode) << mode << flags[mode - 1];
+    addWirings("flags", { 7, 7, 1, 7, 3, 1, 7, 7, 7, 7 });
 }
 
 void TstFlicker::trendHasNoCurveForTheNeutral()

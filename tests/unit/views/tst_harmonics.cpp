@@ -11,7 +11,6 @@
 #include <QSignalSpy>
 
 #include <cstring>
-#include <limits>
 #include <memory>
 
 using namespace PageTest;
@@ -427,13 +426,7 @@ void TstHarmonics::allShowsEveryChannelOfTheWiring()
 
 void TstHarmonics::wildRecordIsShown()
 {
-    const float wild[] = { std::numeric_limits<float>::quiet_NaN(),
-                           std::numeric_limits<float>::infinity(),
-                           -std::numeric_limits<float>::infinity(),
-                           1e30f,
-                           -1e30f,
-                           1e-40f };
-    for (float value : wild) {
+    for (float value : kWildFloats) {
         for (HarmChannel &channel : g_harm_data->channel) {
             channel.rms = channel.offset = channel.distortion = value;
             for (HarmLine &line : channel.harmonic)
@@ -508,15 +501,7 @@ void TstHarmonics::tableShowsPercentOfTheReference()
 
 void TstHarmonics::tableShowsOnlyTheChannelsOfTheWiring_data()
 {
-    QTest::addColumn<int>("joinMode");
-    QTest::addColumn<QList<bool>>("shown");
-    for (int mode : { 1, 7, 9 })
-        QTest::addRow("star %d", mode) << mode << QList<bool> { true, true, true, true };
-    for (int mode : { 2, 4, 8, 10 })
-        QTest::addRow("delta %d", mode) << mode << QList<bool> { true, true, true, false };
-    QTest::newRow("1P") << 3 << QList<bool> { true, false, false, true };
-    QTest::newRow("1P SPLIT") << 5 << QList<bool> { true, true, false, true };
-    QTest::newRow("1P IT") << 6 << QList<bool> { true, false, false, false };
+    addShownColumns();
 }
 
 void TstHarmonics::tableShowsOnlyTheChannelsOfTheWiring()
@@ -572,3 +557,4 @@ void TstHarmonics::deltaWiringsNameBothVoltageAndPhase()
 
 PAGE_TEST_MAIN(TstHarmonics)
 #include "tst_harmonics.moc"
+#include "unit/wildfloats.h"

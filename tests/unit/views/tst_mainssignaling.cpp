@@ -226,11 +226,7 @@ void TstMainsSignaling::trendShowsThePercentOfItsSeries()
 
 void TstMainsSignaling::trendFlagsFollowTheWiring_data()
 {
-    QTest::addColumn<int>("joinMode");
-    QTest::addColumn<int>("flags");
-    const int flags[] = { 15, 7, 9, 7, 11, 1, 15, 7, 15, 7 };
-    for (int mode = 1; mode <= 10; ++mode)
-        QTest::addRow("wiring %d", mode) << mode << flags[mode - 1];
+    addWirings("flags", { 15, 7, 9, 7, 11, 1, 15, 7, 15, 7 });
 }
 
 void TstMainsSignaling::trendFlagsFollowTheWiring()

@@ -228,11 +228,7 @@ void TstPowerInverter::singlePhaseShowsL1Only()
 
 void TstPowerInverter::outputsFollowTheWiring_data()
 {
-    QTest::addColumn<int>("joinMode");
-    QTest::addColumn<int>("phases");
-    const int phases[] = { 3, 3, 1, 3, 2, 1, 3, 3, 3, 3 };
-    for (int mode = 1; mode <= 10; ++mode)
-        QTest::addRow("wiring %d", mode) << mode << phases[mode - 1];
+    addWirings("phases", { 3, 3, 1, 3, 2, 1, 3, 3, 3, 3 });
 }
 
 void TstPowerInverter::outputsFollowTheWiring()

@@ -119,14 +119,7 @@ void TstUnbalance::longReadingsFitTheirLabels()
 
 void TstUnbalance::fieldsOfMissingPhasesStayEmpty_data()
 {
-    QTest::addColumn<int>("joinMode");
-    QTest::addColumn<QList<bool>>("shown");
-    QTest::newRow("3P WYE") << 1 << QList<bool> { true, true, true, true };
-    QTest::newRow("3P IT") << 2 << QList<bool> { true, true, true, false };
-    QTest::newRow("1P") << 3 << QList<bool> { true, false, false, true };
-    QTest::newRow("1P SPLIT") << 5 << QList<bool> { true, true, false, true };
-    QTest::newRow("1P IT") << 6 << QList<bool> { true, false, false, false };
-    QTest::newRow("2-ELMT") << 10 << QList<bool> { true, true, true, false };
+    addShownColumns();
 }
 
 void TstUnbalance::fieldsOfMissingPhasesStayEmpty()
@@ -209,11 +202,7 @@ void TstUnbalance::f4OpensThePhasorsRefreshedAndLeadsBack()
 
 void TstUnbalance::selectorRunsByTheWiringAndWraps_data()
 {
-    QTest::addColumn<int>("joinMode");
-    QTest::addColumn<int>("maximum");
-    const int maxima[] = { 5, 5, 3, 5, 4, 3, 5, 5, 5, 5 };
-    for (int mode = 1; mode <= 10; ++mode)
-        QTest::addRow("wiring %d", mode) << mode << maxima[mode - 1];
+    addWirings("maximum", { 5, 5, 3, 5, 4, 3, 5, 5, 5, 5 });
 }
 
 void TstUnbalance::selectorRunsByTheWiringAndWraps()
