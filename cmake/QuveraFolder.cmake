@@ -1,20 +1,28 @@
 # Folders of src/ and their tests.
 #
-# Each folder is an OBJECT library, so that the program links the objects in one told order, and a SHARED library
-# that the folder's tests link. A folder sees the folders below it and nothing else.
+# Each folder is an OBJECT library, so that the program links the objects in one fixed order, and a SHARED library
+# that the folder's tests link. A folder sees the folders before it in this list and nothing else.
 
-set(QUVERA_FOLDER_ORDER platform config device pqa2 task widgets views services)
+set(QUVERA_FOLDER_ORDER platform model storage settings device board record detect task widgets pages views services
+                        shell)
+# Folders of equal rank do not see each other.
+set(QUVERA_NEIGHBOURS views services)
 
-# quvera_folder(<folder> SOURCES <files...> [LIBS <libraries...>] [OPTIMISED <files...>])
-#   OPTIMISED: units of the SOURCES with hot loops, compiled with -O3 when not debugging.
+# quvera_folder(<folder> [FIRST <files...>] [LIBS <libraries...>] [OPTIMISED <files...>])
+# All sources, headers and forms of the folder and of the folders in it.
+#   FIRST: sources whose static objects are built before those of the others, in this order.
+#   OPTIMISED: units with hot loops, compiled with -O3 when not debugging.
 function(quvera_folder FOLDER)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LIBS;OPTIMISED" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "FIRST;LIBS;OPTIMISED" ${ARGN})
   set(objects qv_${FOLDER}_objects)
+  file(GLOB sources CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} *.cpp *.h */*.cpp */*.h)
+  file(GLOB forms CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} *.ui */*.ui)
+  if(ARG_FIRST)
+    list(REMOVE_ITEM sources ${ARG_FIRST})
+  endif()
   # Forms become headers by declared commands, so that a changed form compiles its source again in the same build.
-  set(forms ${ARG_SOURCES})
-  list(FILTER forms INCLUDE REGEX "\\.ui$")
   qt5_wrap_ui(form_headers ${forms})
-  add_library(${objects} OBJECT ${ARG_SOURCES} ${form_headers})
+  add_library(${objects} OBJECT ${ARG_FIRST} ${sources} ${forms} ${form_headers})
   set_target_properties(${objects} PROPERTIES AUTOMOC ON)
   set_source_files_properties(${form_headers} PROPERTIES SKIP_AUTOMOC ON)
   target_include_directories(${objects} PUBLIC ${CMAKE_SOURCE_DIR}/src PRIVATE ${CMAKE_CURRENT_BINARY_DIR})
@@ -23,15 +31,16 @@ function(quvera_folder FOLDER)
     if(name STREQUAL FOLDER)
       break()
     endif()
-    if(name STREQUAL "views" AND FOLDER STREQUAL "services")
+    if(name IN_LIST QUVERA_NEIGHBOURS AND FOLDER IN_LIST QUVERA_NEIGHBOURS)
       continue()
     endif()
     list(APPEND below qv_${name})
   endforeach()
   target_link_libraries(${objects} PUBLIC Qt5::Core Qt5::Gui Qt5::Widgets Qt5::Xml Qt5::Network Threads::Threads ${ARG_LIBS})
   if(ARG_OPTIMISED AND NOT CMAKE_BUILD_TYPE STREQUAL "Debug")
-    set_source_files_properties(${ARG_OPTIMISED} PROPERTIES COMPILE_OPTIONS "-O3")
+    set_source_files_properties(${ARG_OPTIMISED} PROPERTIES COMPILE_OPTIONS "-O3" SKIP_PRECOMPILE_HEADERS ON)
   endif()
+  quvera_use_pch(${objects} pch_gui)
   add_library(qv_${FOLDER} SHARED $<TARGET_OBJECTS:${objects}>)
   target_include_directories(qv_${FOLDER} PUBLIC ${CMAKE_SOURCE_DIR}/src)
   target_link_libraries(qv_${FOLDER} PUBLIC ${below} Qt5::Core Qt5::Gui Qt5::Widgets Qt5::Xml Qt5::Network Threads::Threads ${ARG_LIBS})
@@ -47,6 +56,9 @@ function(quvera_test NAME)
   target_link_libraries(${NAME} PRIVATE Qt5::Test ${ARG_LIBS})
   if(ARG_FOLDER)
     target_link_libraries(${NAME} PRIVATE qv_${ARG_FOLDER})
+    quvera_use_pch(${NAME} pch_guitest)
+  elseif("${ARG_LIBS}" MATCHES "^processor_[a-z]+$")
+    quvera_use_pch(${NAME} pch_test)
   endif()
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 120)

@@ -1,11 +1,11 @@
-#include "applicationfont.h"
-#include "quveraglobal.h"
+#include "shell/applicationfont.h"
+#include "shell/quveraglobal.h"
 
-#include "config/langtranslation.h"
-#include "config/userconfig.h"
+#include "settings/langtranslation.h"
+#include "settings/userconfig.h"
 #include "platform/deskkeys.h"
 #include "platform/deskroot.h"
-#include "widgets/keymap.h"
+#include "widgets/text/keymap.h"
 
 #include <QApplication>
 #include <QTextCodec>

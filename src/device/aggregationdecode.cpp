@@ -1,4 +1,4 @@
-#include "config/config_data.h"
+#include "settings/config_data.h"
 #include "device/aggregationpayload.h"
 #include "device/cleanvalue.h"
 #include "device/datatypes.h"

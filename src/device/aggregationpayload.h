@@ -1,6 +1,6 @@
 #pragma once
 
-#include "device/datagramrecords.h"
+#include "model/datagramrecords.h"
 
 /// Word numbers of the aggregation payload, the time stamp's two words counted (docs/link-protocol.md).
 namespace AggregationPayload {

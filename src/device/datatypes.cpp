@@ -1,6 +1,6 @@
 #include "device/datatypes.h"
 
-#include "config/config_data.h"
+#include "settings/config_data.h"
 #include "device/datagramkinds.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "device/datagramrecords.h"
+#include "model/datagramrecords.h"
 #include "device/datagramtypes.h"
 
 #include <QByteArray>

@@ -1,6 +1,6 @@
 #include "device/deviceinit.h"
 
-#include "config/config_data.h"
+#include "settings/config_data.h"
 #include "device/controlframe.h"
 #include "device/frameslots.h"
 #include "device/idevice.h"

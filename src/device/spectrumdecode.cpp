@@ -1,5 +1,5 @@
-#include "config/config_data.h"
-#include "config/nominalfrequency.h"
+#include "settings/config_data.h"
+#include "model/nominalfrequency.h"
 #include "device/aggregationpayload.h"
 #include "device/cleanvalue.h"
 #include "device/datatypes.h"

@@ -1,8 +1,8 @@
 #include "services/iremote.h"
 
-#include "device/screenshot.h"
+#include "board/screenshot.h"
 #include "platform/target.h"
-#include "widgets/keymap.h"
+#include "widgets/text/keymap.h"
 
 #include <QApplication>
 #include <QBuffer>

@@ -1,6 +1,6 @@
 #include "services/modbusblocks.h"
 
-#include "device/displayrecords.h"
+#include "model/displayrecords.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "config/limits.h"
-#include "device/datagramrecords.h"
-#include "pqa2/eventtable.h"
+#include "settings/limits.h"
+#include "model/datagramrecords.h"
+#include "detect/eventtable.h"
 #include "services/modbusregisters.h"
 
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pqa2/modbusheader.h"
+#include "detect/modbusheader.h"
 #include "services/modbusregisters.h"
 
 #include <memory>

@@ -1,7 +1,7 @@
 #include "services/modbusslave.h"
 
-#include "config/config_data.h"
-#include "config/softwareversion.h"
+#include "settings/config_data.h"
+#include "settings/softwareversion.h"
 #include "services/modbusblocks.h"
 
 void update_modbus_swinfo()

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "device/displayrecords.h"
+#include "model/displayrecords.h"
 
 /// Copies a decoded aggregation record into the records that the pages show, and keeps the one-second trends.
 /// Plain functions of records: no globals, no settings.

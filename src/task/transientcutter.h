@@ -1,6 +1,6 @@
 #pragma once
 
-#include "device/displayrecords.h"
+#include "model/displayrecords.h"
 
 /// Cuts the 600 samples around a transient out of a wave datagram. Pure functions of records.
 namespace TransientCutter {

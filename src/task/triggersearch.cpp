@@ -1,6 +1,6 @@
 #include "task/triggersearch.h"
 
-#include "device/datagramrecords.h"
+#include "model/datagramrecords.h"
 
 #include <cstdlib>
 

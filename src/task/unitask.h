@@ -1,6 +1,6 @@
 #pragma once
 
-#include "device/datagramrecords.h"
+#include "model/datagramrecords.h"
 #include "task/abstracttask.h"
 #include "task/eventwave.h"
 #include "task/rmsring.h"

@@ -1,10 +1,10 @@
 #include "task/unitask.h"
 
-#include "config/config_data.h"
+#include "settings/config_data.h"
 #include "device/datatypes.h"
-#include "device/displayrecords.h"
-#include "pqa2/powerevents.h"
-#include "pqa2/pqa2ff.h"
+#include "model/displayrecords.h"
+#include "detect/powerevents.h"
+#include "record/pqa2ff.h"
 #include "task/displayfeed.h"
 
 #include <algorithm>

@@ -1,10 +1,10 @@
 #include "task/unitask.h"
 
-#include "config/recordinfo.h"
+#include "settings/recordinfo.h"
 #include "device/datatypes.h"
-#include "device/displayrecords.h"
-#include "pqa2/flickerprocessor.h"
-#include "pqa2/pqa2ff.h"
+#include "model/displayrecords.h"
+#include "detect/flickerprocessor.h"
+#include "record/pqa2ff.h"
 
 // The flicker stream: severities for the pages, blocks for the files that record them.
 

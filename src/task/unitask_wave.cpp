@@ -1,10 +1,10 @@
 #include "task/unitask.h"
 
-#include "config/channelset.h"
-#include "config/config_data.h"
+#include "model/channelset.h"
+#include "settings/config_data.h"
 #include "device/datatypes.h"
-#include "device/displayrecords.h"
-#include "pqa2/pqa2ff.h"
+#include "model/displayrecords.h"
+#include "record/pqa2ff.h"
 #include "task/transientcutter.h"
 
 #include <cmath>

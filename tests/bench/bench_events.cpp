@@ -1,8 +1,8 @@
 // One half cycle through all event detectors, beside a plain pass over the same values: the eight inputs, and the
 // windows of three rapid-voltage-change rings (sum, maximum and minimum of 100 half cycles each).
 #include "bench/ratios.h"
-#include "config/limits.h"
-#include "pqa2/powerevents.h"
+#include "settings/limits.h"
+#include "detect/powerevents.h"
 
 #include <memory>
 #include <vector>

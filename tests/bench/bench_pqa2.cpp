@@ -2,7 +2,7 @@
 // by hand (room, head, payload, seek, link, seek) and beside one-row transactions of SQLite in WAL mode.
 #include "bench/ratios.h"
 #include "platform/target.h"
-#include "pqa2/pqa2ff.h"
+#include "record/pqa2ff.h"
 
 #include <QDir>
 #include <QFile>

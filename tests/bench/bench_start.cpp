@@ -1,11 +1,11 @@
-#include "quveraglobal.h"
+#include "shell/quveraglobal.h"
 
-#include "applicationfont.h"
-#include "basedialog.h"
-#include "config/config_data.h"
-#include "config/langtranslation.h"
-#include "config/userconfig.h"
-#include "menupage.h"
+#include "shell/applicationfont.h"
+#include "shell/basedialog.h"
+#include "settings/config_data.h"
+#include "settings/langtranslation.h"
+#include "settings/userconfig.h"
+#include "shell/menupage.h"
 #include "platform/deskroot.h"
 
 #include <QApplication>

@@ -1,13 +1,13 @@
 // Repaint of each chart beside plain polylines of the same points in the same colours: what is drawn around the curves
 // (frame, grid, labels, marks) is the chart's own share. Handing data over is measured beside filling the polylines.
 #include "bench/ratios.h"
-#include "widgets/dstrendchart.h"
-#include "widgets/eventswidget.h"
-#include "widgets/harmonicgraph.h"
-#include "widgets/monitorhistogram.h"
-#include "widgets/scopewidget.h"
-#include "widgets/vectorchart.h"
-#include "widgets/viftrendchart.h"
+#include "widgets/charts/dstrendchart.h"
+#include "widgets/controls/eventswidget.h"
+#include "widgets/charts/harmonicgraph.h"
+#include "widgets/charts/monitorhistogram.h"
+#include "widgets/charts/scopewidget.h"
+#include "widgets/charts/vectorchart.h"
+#include "widgets/charts/viftrendchart.h"
 
 #include <QApplication>
 #include <QImage>

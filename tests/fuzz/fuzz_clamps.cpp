@@ -1,7 +1,7 @@
 // Clamp files of any content: loaded, changed, saved, loaded again.
-#include "config/clampif.h"
+#include "settings/clampif.h"
 #include "fuzz/fuzztarget.h"
-#include "unit/config/rootfiles.h"
+#include "unit/storage/rootfiles.h"
 
 using FuzzTarget::expect;
 

@@ -1,7 +1,7 @@
 // Limit-set files and the file of the active name, of any content: loaded, saved, loaded again.
-#include "config/limitsmanager.h"
+#include "settings/limitsmanager.h"
 #include "fuzz/fuzztarget.h"
-#include "unit/config/rootfiles.h"
+#include "unit/storage/rootfiles.h"
 
 #include <cmath>
 

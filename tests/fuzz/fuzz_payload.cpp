@@ -1,6 +1,6 @@
 // Payloads of any words through all decoders, in every wiring and at each nominal frequency.
 // Input: byte 0 the wiring, byte 1 the frequency, byte 2 the scales; the rest fills the payload again and again.
-#include "config/config_data.h"
+#include "settings/config_data.h"
 #include "device/datatypes.h"
 #include "fuzz/fuzztarget.h"
 

@@ -1,10 +1,10 @@
 // Settings files of any content: read by every holder, rewritten, read again.
-#include "config/config.h"
-#include "config/netconfig.h"
-#include "config/settingconfig.h"
-#include "config/userconfig.h"
+#include "settings/config.h"
+#include "settings/netconfig.h"
+#include "settings/settingconfig.h"
+#include "settings/userconfig.h"
 #include "fuzz/fuzztarget.h"
-#include "unit/config/rootfiles.h"
+#include "unit/storage/rootfiles.h"
 
 using FuzzTarget::expect;
 

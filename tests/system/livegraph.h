@@ -4,12 +4,12 @@
 #include "unit/services/modbusclient.h"
 #include "visibletexts.h"
 
-#include "basedialog.h"
-#include "device/datagramrecords.h"
-#include "device/displayrecords.h"
-#include "menupage.h"
+#include "shell/basedialog.h"
+#include "model/datagramrecords.h"
+#include "model/displayrecords.h"
+#include "shell/menupage.h"
 #include "platform/clock.h"
-#include "quveraglobal.h"
+#include "shell/quveraglobal.h"
 #include "services/modbusslave.h"
 #include "task/unitask.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "config/pqaeventitem.h"
+#include "model/pqaeventitem.h"
 
 #include <QByteArray>
 #include <QJsonObject>

@@ -7,8 +7,8 @@
 #include "views/dips/dswell.h"
 #include "views/inrush/inrusheventpage.h"
 #include "views/inrush/inrushpage.h"
-#include "widgets/eventswidget.h"
-#include "widgets/localtime.h"
+#include "widgets/controls/eventswidget.h"
+#include "widgets/text/localtime.h"
 
 #include <QFile>
 #include <QJsonArray>

@@ -3,7 +3,7 @@
 
 #include "views/dips/dipseventpage.h"
 #include "views/dips/dswell.h"
-#include "widgets/eventswidget.h"
+#include "widgets/controls/eventswidget.h"
 
 #include <QFile>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/common/eventspage.h"
+#include "pages/eventspage.h"
 
 /// List of the dips, swells, interruptions and rapid voltage changes.
 class DipsEventPage : public EventsPage

@@ -1,8 +1,8 @@
 #include "views/dips/dswell.h"
 
-#include "config/config_data.h"
-#include "device/displayrecords.h"
-#include "views/common/rmstrend.h"
+#include "settings/config_data.h"
+#include "model/displayrecords.h"
+#include "pages/rmstrend.h"
 #include "views/dips/dipseventpage.h"
 #include "views/dips/dswellmain.h"
 

@@ -1,9 +1,9 @@
 #include "views/dips/dswellmain.h"
 #include "ui_dswellmain.h"
 
-#include "config/dipswellinfo.h"
-#include "device/displayrecords.h"
-#include "widgets/labellook.h"
+#include "settings/dipswellinfo.h"
+#include "model/displayrecords.h"
+#include "widgets/controls/labellook.h"
 
 DswellMain::DswellMain(QWidget *parent) : RmsTrendPage(UI_DIPS_SWELLS, parent), m_ui(new Ui::DswellMain)
 {

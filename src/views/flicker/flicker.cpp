@@ -1,6 +1,6 @@
 #include "views/flicker/flicker.h"
 
-#include "device/displayrecords.h"
+#include "model/displayrecords.h"
 #include "views/flicker/flickermain.h"
 #include "views/flicker/flickerpage.h"
 #include "views/flicker/flickerparam.h"

@@ -1,9 +1,9 @@
 #include "views/flicker/flickermain.h"
 #include "ui_flickermain.h"
 
-#include "device/displayrecords.h"
-#include "widgets/f_to_str.h"
-#include "widgets/labellook.h"
+#include "model/displayrecords.h"
+#include "widgets/text/f_to_str.h"
+#include "widgets/controls/labellook.h"
 
 #include <algorithm>
 

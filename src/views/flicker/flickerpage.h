@@ -1,8 +1,8 @@
 #pragma once
 
-#include "views/common/channellabels.h"
-#include "views/common/trendscaler.h"
-#include "views/common/viewpage.h"
+#include "pages/channellabels.h"
+#include "pages/trendscaler.h"
+#include "pages/viewpage.h"
 
 #include <memory>
 

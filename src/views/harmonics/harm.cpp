@@ -1,6 +1,6 @@
 #include "views/harmonics/harm.h"
 
-#include "device/displayrecords.h"
+#include "model/displayrecords.h"
 #include "views/harmonics/harmmain.h"
 #include "views/harmonics/harmmeterpage.h"
 

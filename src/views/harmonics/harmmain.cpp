@@ -1,11 +1,11 @@
 #include "views/harmonics/harmmain.h"
 #include "ui_harmmain.h"
 
-#include "config/config_data.h"
-#include "config/harmdata.h"
-#include "views/common/keyrepeat.h"
-#include "widgets/f_to_str.h"
-#include "widgets/labellook.h"
+#include "settings/config_data.h"
+#include "settings/harmdata.h"
+#include "pages/keyrepeat.h"
+#include "widgets/text/f_to_str.h"
+#include "widgets/controls/labellook.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,12 +1,12 @@
 #include "views/harmonics/harmmeterpage.h"
 #include "ui_harmmeterpage.h"
 
-#include "config/harmdata.h"
-#include "device/displayrecords.h"
-#include "views/common/keyrepeat.h"
+#include "settings/harmdata.h"
+#include "model/displayrecords.h"
+#include "pages/keyrepeat.h"
 #include "views/harmonics/harmvalues.h"
-#include "widgets/f_to_str.h"
-#include "widgets/labellook.h"
+#include "widgets/text/f_to_str.h"
+#include "widgets/controls/labellook.h"
 
 #include <cstdlib>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "views/common/channellabels.h"
-#include "views/common/viewpage.h"
+#include "pages/channellabels.h"
+#include "pages/viewpage.h"
 
 #include <array>
 #include <memory>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "device/displayrecords.h"
-#include "widgets/harmonicgraph.h"
+#include "model/displayrecords.h"
+#include "widgets/charts/harmonicgraph.h"
 
 /// What the harmonics pages show of a record: percent values, graph bars, lines of the table. Pure functions.
 namespace HarmValues {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/common/eventspage.h"
+#include "pages/eventspage.h"
 
 /// List of the inrush currents found.
 class InrushEventPage : public EventsPage

@@ -1,10 +1,10 @@
 #include "views/inrush/inrushmain.h"
 #include "ui_inrushmain.h"
 
-#include "config/config_data.h"
-#include "config/inrushinfo.h"
-#include "views/common/keyrepeat.h"
-#include "widgets/labellook.h"
+#include "settings/config_data.h"
+#include "settings/inrushinfo.h"
+#include "pages/keyrepeat.h"
+#include "widgets/controls/labellook.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,10 +1,10 @@
 #include "views/inrush/inrushpage.h"
 
-#include "config/config_data.h"
+#include "settings/config_data.h"
 #include "device/controlframe.h"
-#include "device/displayrecords.h"
+#include "model/displayrecords.h"
 #include "device/idevice.h"
-#include "views/common/rmstrend.h"
+#include "pages/rmstrend.h"
 #include "views/inrush/inrusheventpage.h"
 #include "views/inrush/inrushmain.h"
 #include "views/inrush/inrushstartpage.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "config/pqaeventitem.h"
-#include "views/common/viewcontainer.h"
+#include "model/pqaeventitem.h"
+#include "pages/viewcontainer.h"
 
 class InrushEventPage;
 class InrushMain;

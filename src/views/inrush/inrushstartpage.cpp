@@ -1,9 +1,9 @@
 #include "views/inrush/inrushstartpage.h"
 #include "ui_inrushstartpage.h"
 
-#include "config/inrushinfo.h"
-#include "device/displayrecords.h"
-#include "widgets/labellook.h"
+#include "settings/inrushinfo.h"
+#include "model/displayrecords.h"
+#include "widgets/controls/labellook.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/common/rmstrendpage.h"
+#include "pages/rmstrendpage.h"
 
 #include <memory>
 

@@ -1,7 +1,7 @@
 #include "views/mainssignaling/mainssignaling.h"
 
-#include "device/displayrecords.h"
-#include "views/common/rmstrend.h"
+#include "model/displayrecords.h"
+#include "pages/rmstrend.h"
 #include "views/mainssignaling/mainssignalingevent.h"
 #include "views/mainssignaling/mainssignalingmain.h"
 #include "views/mainssignaling/mainssignalingtrend.h"

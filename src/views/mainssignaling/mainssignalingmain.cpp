@@ -1,10 +1,10 @@
 #include "views/mainssignaling/mainssignalingmain.h"
 #include "ui_mainssignalingmain.h"
 
-#include "config/config_data.h"
-#include "device/displayrecords.h"
-#include "widgets/f_to_str.h"
-#include "widgets/labellook.h"
+#include "settings/config_data.h"
+#include "model/displayrecords.h"
+#include "widgets/text/f_to_str.h"
+#include "widgets/controls/labellook.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/common/meterpage.h"
+#include "pages/meterpage.h"
 
 #include <memory>
 

@@ -1,10 +1,10 @@
 #include "views/mainssignaling/mainssignalingtrend.h"
 #include "ui_mainssignalingtrend.h"
 
-#include "config/config_data.h"
-#include "widgets/f_to_str.h"
-#include "widgets/labellook.h"
-#include "widgets/viftrendchart.h"
+#include "settings/config_data.h"
+#include "widgets/text/f_to_str.h"
+#include "widgets/controls/labellook.h"
+#include "widgets/charts/viftrendchart.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "views/power/powen.h"
 
-#include "device/displayrecords.h"
+#include "model/displayrecords.h"
 #include "views/power/powermain.h"
 #include "views/power/powertrendpage.h"
 

@@ -1,11 +1,11 @@
 #include "views/power/powermain.h"
 #include "ui_powermain.h"
 
-#include "config/config_data.h"
-#include "config/phasecolor.h"
-#include "device/displayrecords.h"
-#include "widgets/f_to_str.h"
-#include "widgets/labellook.h"
+#include "settings/config_data.h"
+#include "settings/phasecolor.h"
+#include "model/displayrecords.h"
+#include "widgets/text/f_to_str.h"
+#include "widgets/controls/labellook.h"
 
 namespace {
 

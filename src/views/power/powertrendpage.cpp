@@ -1,11 +1,11 @@
 #include "views/power/powertrendpage.h"
 #include "ui_powertrendpage.h"
 
-#include "config/config_data.h"
-#include "device/displayrecords.h"
-#include "widgets/f_to_str.h"
-#include "widgets/labellook.h"
-#include "widgets/viftrendchart.h"
+#include "settings/config_data.h"
+#include "model/displayrecords.h"
+#include "widgets/text/f_to_str.h"
+#include "widgets/controls/labellook.h"
+#include "widgets/charts/viftrendchart.h"
 
 namespace {
 

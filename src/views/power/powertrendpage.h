@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/common/trendpage.h"
+#include "pages/trendpage.h"
 
 #include <memory>
 

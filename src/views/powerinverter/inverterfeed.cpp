@@ -1,6 +1,6 @@
 #include "views/powerinverter/inverterfeed.h"
 
-#include "widgets/f_to_str.h"
+#include "widgets/text/f_to_str.h"
 
 #include <cmath>
 

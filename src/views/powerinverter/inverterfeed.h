@@ -1,6 +1,6 @@
 #pragma once
 
-#include "device/displayrecords.h"
+#include "model/displayrecords.h"
 
 /// How the inverter's output is wired: 0 three-phase, 1 single-phase.
 extern int singleOrThree;

@@ -1,9 +1,9 @@
 #include "views/powerinverter/powerinverter.h"
 
 #include "device/deviceinit.h"
-#include "device/displayrecords.h"
+#include "model/displayrecords.h"
 #include "platform/clock.h"
-#include "views/common/channellabels.h"
+#include "pages/channellabels.h"
 #include "views/powerinverter/inverterfeed.h"
 #include "views/powerinverter/powerinvertermain.h"
 #include "views/powerinverter/powerinvertersetup.h"

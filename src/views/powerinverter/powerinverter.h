@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/common/viewcontainer.h"
+#include "pages/viewcontainer.h"
 
 class PowerInverterMain;
 class PowerInverterSetup;

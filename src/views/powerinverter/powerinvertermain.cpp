@@ -1,11 +1,11 @@
 #include "views/powerinverter/powerinvertermain.h"
 #include "ui_powerinvertermain.h"
 
-#include "config/config_data.h"
-#include "device/displayrecords.h"
+#include "settings/config_data.h"
+#include "model/displayrecords.h"
 #include "views/powerinverter/inverterfeed.h"
-#include "widgets/f_to_str.h"
-#include "widgets/labellook.h"
+#include "widgets/text/f_to_str.h"
+#include "widgets/controls/labellook.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 #include "ui_powerinvertersetup.h"
 
 #include "views/powerinverter/inverterfeed.h"
-#include "widgets/labellook.h"
+#include "widgets/controls/labellook.h"
 
 PowerInverterSetup::PowerInverterSetup(QWidget *parent)
     : ViewPage(UI_POWER_INVERTER, parent), m_ui(new Ui::PowerInverterSetup)

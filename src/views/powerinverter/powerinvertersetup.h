@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/common/viewpage.h"
+#include "pages/viewpage.h"
 
 #include <memory>
 

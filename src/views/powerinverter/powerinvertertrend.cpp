@@ -1,11 +1,11 @@
 #include "views/powerinverter/powerinvertertrend.h"
 #include "ui_powerinvertertrend.h"
 
-#include "config/config_data.h"
+#include "settings/config_data.h"
 #include "views/powerinverter/inverterfeed.h"
-#include "widgets/f_to_str.h"
-#include "widgets/labellook.h"
-#include "widgets/viftrendchart.h"
+#include "widgets/text/f_to_str.h"
+#include "widgets/controls/labellook.h"
+#include "widgets/charts/viftrendchart.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 #include "views/scope/scopepage.h"
 #include "ui_scopepage.h"
 
-#include "config/config_data.h"
-#include "views/common/scopecontrols.h"
+#include "settings/config_data.h"
+#include "pages/scopecontrols.h"
 #include "views/scope/linesample.h"
-#include "widgets/labellook.h"
+#include "widgets/controls/labellook.h"
 
 #include <cstring>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "views/common/functionpage.h"
-#include "views/common/scopereadout.h"
+#include "pages/functionpage.h"
+#include "pages/scopereadout.h"
 
 #include <memory>
 

@@ -1,12 +1,12 @@
 #include "views/transients/trans.h"
 
 #include "device/deviceinit.h"
-#include "device/displayrecords.h"
-#include "pqa2/pqafile.h"
+#include "model/displayrecords.h"
+#include "record/pqafile.h"
 #include "views/transients/transmain.h"
 #include "views/transients/transtart.h"
 #include "views/transients/transview.h"
-#include "widgets/savedialog.h"
+#include "widgets/dialogs/savedialog.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "views/transients/transmain.h"
 #include "ui_transmain.h"
 
-#include "config/config_data.h"
-#include "views/common/keyrepeat.h"
-#include "widgets/labellook.h"
+#include "settings/config_data.h"
+#include "pages/keyrepeat.h"
+#include "widgets/controls/labellook.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,7 +1,7 @@
 #include "views/transients/transscopepage.h"
 
-#include "views/common/scopecontrols.h"
-#include "widgets/scopewidget.h"
+#include "pages/scopecontrols.h"
+#include "widgets/charts/scopewidget.h"
 
 #include <cstring>
 

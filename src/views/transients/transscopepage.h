@@ -1,7 +1,7 @@
 #pragma once
 
-#include "views/common/scopereadout.h"
-#include "views/common/viewpage.h"
+#include "pages/scopereadout.h"
+#include "pages/viewpage.h"
 
 #include <memory>
 

@@ -1,9 +1,9 @@
 #include "views/transients/transtart.h"
 #include "ui_transtart.h"
 
-#include "config/config_data.h"
-#include "config/transparam.h"
-#include "widgets/labellook.h"
+#include "settings/config_data.h"
+#include "model/transparam.h"
+#include "widgets/controls/labellook.h"
 
 TranStart::TranStart(QWidget *parent) : TransScopePage(parent), m_ui(new Ui::TranStart)
 {

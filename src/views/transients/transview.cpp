@@ -1,9 +1,9 @@
 #include "views/transients/transview.h"
 #include "ui_transview.h"
 
-#include "views/common/scopecontrols.h"
-#include "widgets/labellook.h"
-#include "widgets/localtime.h"
+#include "pages/scopecontrols.h"
+#include "widgets/controls/labellook.h"
+#include "widgets/text/localtime.h"
 
 #include <algorithm>
 #include <cmath>

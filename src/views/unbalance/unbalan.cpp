@@ -1,6 +1,6 @@
 #include "views/unbalance/unbalan.h"
 
-#include "device/displayrecords.h"
+#include "model/displayrecords.h"
 #include "views/unbalance/unbalanmain.h"
 #include "views/unbalance/unbalvectorpage.h"
 

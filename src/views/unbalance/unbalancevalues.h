@@ -1,7 +1,7 @@
 #pragma once
 
-#include "device/displayrecords.h"
-#include "views/common/channellabels.h"
+#include "model/displayrecords.h"
+#include "pages/channellabels.h"
 
 #include <cmath>
 

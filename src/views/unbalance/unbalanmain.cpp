@@ -2,8 +2,8 @@
 #include "ui_unbalanmain.h"
 
 #include "views/unbalance/unbalancevalues.h"
-#include "widgets/f_to_str.h"
-#include "widgets/labellook.h"
+#include "widgets/text/f_to_str.h"
+#include "widgets/controls/labellook.h"
 
 namespace {
 

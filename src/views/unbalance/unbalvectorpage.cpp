@@ -1,11 +1,11 @@
 #include "views/unbalance/unbalvectorpage.h"
 #include "ui_unbalvectorpage.h"
 
-#include "config/config_data.h"
-#include "config/phasecolor.h"
+#include "settings/config_data.h"
+#include "settings/phasecolor.h"
 #include "views/unbalance/unbalancevalues.h"
-#include "widgets/f_to_str.h"
-#include "widgets/labellook.h"
+#include "widgets/text/f_to_str.h"
+#include "widgets/controls/labellook.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "views/vif/vifpage.h"
 
-#include "config/config_data.h"
-#include "device/displayrecords.h"
+#include "settings/config_data.h"
+#include "model/displayrecords.h"
 #include "views/vif/vifmain.h"
 #include "views/vif/viftrendpage.h"
 

@@ -39,7 +39,7 @@ QString code(const QString &path)
     return read(kTop + QLatin1Char('/') + path).replace(comment, QStringLiteral("\\1"));
 }
 
-/// "src/config/config.h" stands in "config", "src/main.cpp" in "top".
+/// "src/settings/config.h" stands in "config", "src/main.cpp" in "top".
 QString folderOf(const QString &path)
 {
     const QStringList parts = path.split(QLatin1Char('/'));
@@ -134,6 +134,7 @@ void TstArchitecture::buildHasTheFolderOrderOfTheDocument()
     const QRegularExpression line(QStringLiteral("set\\(QUVERA_FOLDER_ORDER ([^)]*)\\)"));
     const QStringList built = line.match(read(kTop + QStringLiteral("/cmake/QuveraFolder.cmake")))
                                   .captured(1)
+                                  .simplified()
                                   .split(QLatin1Char(' '), Qt::SkipEmptyParts);
     QVERIFY(!built.isEmpty());
     const auto ranks = folderRanks();

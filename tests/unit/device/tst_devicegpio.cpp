@@ -1,8 +1,8 @@
-#include "config/config_data.h"
+#include "settings/config_data.h"
 #include "device/devicegpio.h"
 #include "device/deviceinit.h"
 #include "device/idevice.h"
-#include "device/softpower.h"
+#include "board/softpower.h"
 #include "platform/target.h"
 #include "stdoutcapture.h"
 

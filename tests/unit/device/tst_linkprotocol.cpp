@@ -1,4 +1,4 @@
-#include "config/config_data.h"
+#include "settings/config_data.h"
 #include "device/controlframe.h"
 #include "device/deviceinit.h"
 #include "device/idevice.h"

@@ -1,5 +1,5 @@
 #include "aggregationcase.h"
-#include "config/config_data.h"
+#include "settings/config_data.h"
 #include "device/datatypes.h"
 
 #include <QTest>

@@ -1,4 +1,4 @@
-#include "device/screenshot.h"
+#include "board/screenshot.h"
 #include "services/iremote.h"
 #include "remotepeer.h"
 

@@ -1,6 +1,6 @@
 // How the remote control ends, or breaks, with the process that it is in. Each case runs in a process of its own: this
 // executable with a word.
-#include "device/screenshot.h"
+#include "board/screenshot.h"
 #include "remotepeer.h"
 #include "services/iremote.h"
 

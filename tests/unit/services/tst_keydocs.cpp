@@ -1,7 +1,7 @@
 // The pages that tell which keys there are say what the code does.
 #include "platform/deskkeys.h"
 #include "unit/documentpage.h"
-#include "widgets/keymap.h"
+#include "widgets/text/keymap.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,4 +1,4 @@
-#include "device/displayrecords.h"
+#include "model/displayrecords.h"
 #include "services/modbusblocks.h"
 #include "unit/documentpage.h"
 

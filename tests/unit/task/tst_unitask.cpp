@@ -1,6 +1,6 @@
-#include "config/inrushinfo.h"
-#include "config/monitorinfo.h"
-#include "config/waveinfo.h"
+#include "settings/inrushinfo.h"
+#include "settings/monitorinfo.h"
+#include "settings/waveinfo.h"
 #include "unitaskcase.h"
 
 #include <QRegularExpression>

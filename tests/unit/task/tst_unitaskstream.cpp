@@ -1,8 +1,9 @@
-#include "config/pqaeventitem.h"
-#include "config/recordinfo.h"
+#include "unit/wildfloats.h"
+#include "model/pqaeventitem.h"
+#include "settings/recordinfo.h"
 #include "platform/target.h"
-#include "pqa2/pqa2ff.h"
-#include "unit/pqa2/pqa2reader.h"
+#include "record/pqa2ff.h"
+#include "unit/record/pqa2reader.h"
 #include "unitaskcase.h"
 
 #include <QFile>
@@ -462,4 +463,3 @@ void TstUniTaskStream::flickerValuesGoToTheFileOfTheFunction()
 
 QTEST_GUILESS_MAIN(TstUniTaskStream)
 #include "tst_unitaskstream.moc"
-#include "unit/wildfloats.h"

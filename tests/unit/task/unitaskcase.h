@@ -1,9 +1,9 @@
 #pragma once
 
-#include "config/config_data.h"
-#include "config/transparam.h"
+#include "settings/config_data.h"
+#include "model/transparam.h"
 #include "device/datagramtypes.h"
-#include "device/displayrecords.h"
+#include "model/displayrecords.h"
 #include "platform/clock.h"
 #include "task/unitask.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "config/config_data.h"
-#include "views/common/keyrepeat.h"
+#include "settings/config_data.h"
+#include "pages/keyrepeat.h"
 
 #include <QApplication>
 #include <QLabel>

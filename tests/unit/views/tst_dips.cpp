@@ -1,15 +1,15 @@
-#include "config/config_data.h"
-#include "config/dipswellinfo.h"
-#include "device/displayrecords.h"
+#include "settings/config_data.h"
+#include "settings/dipswellinfo.h"
+#include "model/displayrecords.h"
 #include "pagetest.h"
-#include "views/common/rmstrend.h"
+#include "pages/rmstrend.h"
 #include "views/dips/dipseventpage.h"
 #include "views/dips/dswell.h"
 #include "views/dips/dswellmain.h"
-#include "widgets/dstrendchart.h"
-#include "widgets/eventswidget.h"
-#include "widgets/f_to_str.h"
-#include "widgets/softkeybuttons.h"
+#include "widgets/charts/dstrendchart.h"
+#include "widgets/controls/eventswidget.h"
+#include "widgets/text/f_to_str.h"
+#include "widgets/controls/softkeybuttons.h"
 
 #include <QSignalSpy>
 #include <QStackedWidget>

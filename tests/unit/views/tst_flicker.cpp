@@ -1,10 +1,10 @@
-#include "device/displayrecords.h"
+#include "model/displayrecords.h"
 #include "pagetest.h"
 #include "views/flicker/flicker.h"
 #include "views/flicker/flickermain.h"
 #include "views/flicker/flickerpage.h"
 #include "views/flicker/flickerparam.h"
-#include "widgets/viftrendchart.h"
+#include "widgets/charts/viftrendchart.h"
 
 #include <cstring>
 #include <limits>

@@ -1,11 +1,12 @@
-#include "config/harmdata.h"
-#include "device/displayrecords.h"
+#include "unit/wildfloats.h"
+#include "settings/harmdata.h"
+#include "model/displayrecords.h"
 #include "pagetest.h"
 #include "views/harmonics/harm.h"
 #include "views/harmonics/harmmain.h"
 #include "views/harmonics/harmmeterpage.h"
 #include "views/harmonics/harmvalues.h"
-#include "widgets/softkeybuttons.h"
+#include "widgets/controls/softkeybuttons.h"
 
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -557,4 +558,3 @@ void TstHarmonics::deltaWiringsNameBothVoltageAndPhase()
 
 PAGE_TEST_MAIN(TstHarmonics)
 #include "tst_harmonics.moc"
-#include "unit/wildfloats.h"

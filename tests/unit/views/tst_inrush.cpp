@@ -1,13 +1,13 @@
-#include "config/inrushinfo.h"
-#include "device/displayrecords.h"
+#include "settings/inrushinfo.h"
+#include "model/displayrecords.h"
 #include "framespy.h"
 #include "pagetest.h"
 #include "views/inrush/inrusheventpage.h"
 #include "views/inrush/inrushmain.h"
 #include "views/inrush/inrushpage.h"
 #include "views/inrush/inrushstartpage.h"
-#include "widgets/f_to_str.h"
-#include "widgets/inrushtrendchart.h"
+#include "widgets/text/f_to_str.h"
+#include "widgets/charts/inrushtrendchart.h"
 
 #include <QSignalSpy>
 

@@ -1,11 +1,11 @@
-#include "device/displayrecords.h"
+#include "model/displayrecords.h"
 #include "pagetest.h"
 #include "views/mainssignaling/mainssignaling.h"
 #include "views/mainssignaling/mainssignalingevent.h"
 #include "views/mainssignaling/mainssignalingmain.h"
 #include "views/mainssignaling/mainssignalingtrend.h"
-#include "widgets/eventswidget.h"
-#include "widgets/viftrendchart.h"
+#include "widgets/controls/eventswidget.h"
+#include "widgets/charts/viftrendchart.h"
 
 #include <cstring>
 #include <limits>

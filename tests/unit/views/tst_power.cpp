@@ -1,11 +1,11 @@
-#include "config/config_data.h"
-#include "device/displayrecords.h"
+#include "settings/config_data.h"
+#include "model/displayrecords.h"
 #include "pagetest.h"
 #include "views/power/powen.h"
 #include "views/power/powermain.h"
 #include "views/power/powertrendpage.h"
-#include "widgets/softkeybuttons.h"
-#include "widgets/viftrendchart.h"
+#include "widgets/controls/softkeybuttons.h"
+#include "widgets/charts/viftrendchart.h"
 
 #include <QLabel>
 #include <QSignalSpy>

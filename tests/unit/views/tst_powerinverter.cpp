@@ -1,4 +1,4 @@
-#include "device/displayrecords.h"
+#include "model/displayrecords.h"
 #include "device/idevice.h"
 #include "framespy.h"
 #include "pagetest.h"
@@ -8,8 +8,8 @@
 #include "views/powerinverter/powerinvertermain.h"
 #include "views/powerinverter/powerinvertersetup.h"
 #include "views/powerinverter/powerinvertertrend.h"
-#include "widgets/mradiobutton.h"
-#include "widgets/viftrendchart.h"
+#include "widgets/controls/mradiobutton.h"
+#include "widgets/charts/viftrendchart.h"
 
 #include <QSignalSpy>
 

@@ -1,4 +1,4 @@
-#include "config/phasecolor.h"
+#include "settings/phasecolor.h"
 #include "device/idevice.h"
 #include "pagetest.h"
 #include "views/dips/dswell.h"

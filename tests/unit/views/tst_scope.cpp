@@ -1,12 +1,12 @@
-#include "config/config_data.h"
-#include "config/phasecolor.h"
-#include "device/displayrecords.h"
+#include "settings/config_data.h"
+#include "settings/phasecolor.h"
+#include "model/displayrecords.h"
 #include "pagetest.h"
 #include "views/scope/linesample.h"
 #include "views/scope/scopepage.h"
-#include "widgets/f_to_str.h"
-#include "widgets/scopewidget.h"
-#include "widgets/softkeybuttons.h"
+#include "widgets/text/f_to_str.h"
+#include "widgets/charts/scopewidget.h"
+#include "widgets/controls/softkeybuttons.h"
 
 #include <QSignalSpy>
 

@@ -1,15 +1,15 @@
-#include "config/transparam.h"
-#include "device/displayrecords.h"
+#include "model/transparam.h"
+#include "model/displayrecords.h"
 #include "framespy.h"
 #include "pagetest.h"
 #include "views/transients/trans.h"
 #include "views/transients/transmain.h"
 #include "views/transients/transtart.h"
 #include "views/transients/transview.h"
-#include "widgets/f_to_str.h"
-#include "widgets/savedialog.h"
-#include "widgets/scopewidget.h"
-#include "widgets/softkeybuttons.h"
+#include "widgets/text/f_to_str.h"
+#include "widgets/dialogs/savedialog.h"
+#include "widgets/charts/scopewidget.h"
+#include "widgets/controls/softkeybuttons.h"
 
 #include <QApplication>
 #include <QSignalSpy>

@@ -1,11 +1,11 @@
-#include "config/phasecolor.h"
-#include "device/displayrecords.h"
+#include "settings/phasecolor.h"
+#include "model/displayrecords.h"
 #include "pagetest.h"
 #include "views/unbalance/unbalan.h"
 #include "views/unbalance/unbalanmain.h"
 #include "views/unbalance/unbalvectorpage.h"
-#include "widgets/softkeybuttons.h"
-#include "widgets/vectorchart.h"
+#include "widgets/controls/softkeybuttons.h"
+#include "widgets/charts/vectorchart.h"
 
 #include <QImage>
 

@@ -1,11 +1,11 @@
-#include "config/config_data.h"
-#include "device/displayrecords.h"
+#include "settings/config_data.h"
+#include "model/displayrecords.h"
 #include "pagetest.h"
-#include "views/common/trendscaler.h"
+#include "pages/trendscaler.h"
 #include "views/vif/vifmain.h"
 #include "views/vif/vifpage.h"
 #include "views/vif/viftrendpage.h"
-#include "widgets/viftrendchart.h"
+#include "widgets/charts/viftrendchart.h"
 
 #include <QLabel>
 #include <QSignalSpy>

@@ -1,7 +1,7 @@
 #include "painted.h"
 
-#include "widgets/monitorharmhisto.h"
-#include "widgets/monitorhistogram.h"
+#include "widgets/charts/monitorharmhisto.h"
+#include "widgets/charts/monitorhistogram.h"
 
 #include <QtTest>
 

@@ -1,8 +1,8 @@
-#include "widgets/llistwidget.h"
-#include "widgets/loggercheckbox.h"
-#include "widgets/mcheckbox.h"
-#include "widgets/mpushbutton.h"
-#include "widgets/mradiobutton.h"
+#include "widgets/controls/llistwidget.h"
+#include "widgets/controls/loggercheckbox.h"
+#include "widgets/controls/mcheckbox.h"
+#include "widgets/controls/mpushbutton.h"
+#include "widgets/controls/mradiobutton.h"
 
 #include <QKeyEvent>
 #include <QVBoxLayout>

@@ -1,7 +1,7 @@
 #include "painted.h"
 
-#include "config/config_data.h"
-#include "widgets/eventswidget.h"
+#include "settings/config_data.h"
+#include "widgets/controls/eventswidget.h"
 
 #include <QtTest>
 

@@ -1,5 +1,5 @@
-#include "config/config_data.h"
-#include "widgets/f_to_str.h"
+#include "settings/config_data.h"
+#include "widgets/text/f_to_str.h"
 
 #include <QtTest>
 

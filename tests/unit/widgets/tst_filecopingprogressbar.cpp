@@ -1,7 +1,7 @@
 #include "dialogdriver.h"
 
 #include "platform/target.h"
-#include "widgets/filecopingprogressbar.h"
+#include "widgets/dialogs/filecopingprogressbar.h"
 
 #include <QDir>
 #include <QProgressBar>

@@ -1,7 +1,7 @@
 #include "dialogdriver.h"
 
 #include "platform/target.h"
-#include "widgets/filemanager.h"
+#include "widgets/dialogs/filemanager.h"
 
 #include <QDir>
 #include <QListWidget>

@@ -1,7 +1,7 @@
 #include "painted.h"
 
-#include "config/phasecolor.h"
-#include "widgets/harmonicgraph.h"
+#include "settings/phasecolor.h"
+#include "widgets/charts/harmonicgraph.h"
 
 #include <QtTest>
 

@@ -1,5 +1,5 @@
-#include "device/backlight.h"
-#include "widgets/keymap.h"
+#include "board/backlight.h"
+#include "widgets/text/keymap.h"
 
 #include <QKeyEvent>
 #include <QtTest>

@@ -1,4 +1,4 @@
-#include "widgets/labellook.h"
+#include "widgets/controls/labellook.h"
 
 #include <QFrame>
 #include <QLabel>

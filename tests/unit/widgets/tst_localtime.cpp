@@ -1,6 +1,6 @@
-#include "config/config_data.h"
+#include "settings/config_data.h"
 #include "platform/clock.h"
-#include "widgets/localtime.h"
+#include "widgets/text/localtime.h"
 
 #include <QtTest>
 

@@ -1,7 +1,7 @@
 #include "dialogdriver.h"
 
-#include "device/backlight.h"
-#include "widgets/message.h"
+#include "board/backlight.h"
+#include "widgets/dialogs/message.h"
 
 class TstMessage : public QObject
 {

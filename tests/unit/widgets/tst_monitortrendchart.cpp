@@ -1,7 +1,7 @@
 #include "painted.h"
 
-#include "config/phasecolor.h"
-#include "widgets/monitortrendchart.h"
+#include "settings/phasecolor.h"
+#include "widgets/charts/monitortrendchart.h"
 
 #include <QtTest>
 

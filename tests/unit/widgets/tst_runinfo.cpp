@@ -1,9 +1,9 @@
 #include "dialogdriver.h"
 
-#include "config/config_data.h"
-#include "config/recordinfo.h"
-#include "config/transparam.h"
-#include "widgets/runinfo.h"
+#include "settings/config_data.h"
+#include "settings/recordinfo.h"
+#include "model/transparam.h"
+#include "widgets/dialogs/runinfo.h"
 
 class TstRunInfo : public QObject
 {

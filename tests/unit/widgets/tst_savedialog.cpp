@@ -1,10 +1,10 @@
 #include "dialogdriver.h"
 
-#include "config/fileinfo.h"
+#include "settings/fileinfo.h"
 #include "platform/target.h"
-#include "widgets/message.h"
-#include "widgets/savedialog.h"
-#include "widgets/virtualkeyboard.h"
+#include "widgets/dialogs/message.h"
+#include "widgets/dialogs/savedialog.h"
+#include "widgets/dialogs/virtualkeyboard.h"
 
 #include <QDir>
 #include <QRadioButton>

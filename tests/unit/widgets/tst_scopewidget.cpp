@@ -1,7 +1,7 @@
 #include "painted.h"
 
-#include "config/phasecolor.h"
-#include "widgets/scopewidget.h"
+#include "settings/phasecolor.h"
+#include "widgets/charts/scopewidget.h"
 
 #include <QPainter>
 #include <QtTest>

@@ -1,6 +1,6 @@
 #include "painted.h"
 
-#include "widgets/softkeybuttons.h"
+#include "widgets/controls/softkeybuttons.h"
 
 #include <QtTest>
 

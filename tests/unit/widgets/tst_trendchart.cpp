@@ -1,9 +1,9 @@
 #include "painted.h"
 
-#include "config/phasecolor.h"
-#include "widgets/dstrendchart.h"
-#include "widgets/inrushtrendchart.h"
-#include "widgets/viftrendchart.h"
+#include "settings/phasecolor.h"
+#include "widgets/charts/dstrendchart.h"
+#include "widgets/charts/inrushtrendchart.h"
+#include "widgets/charts/viftrendchart.h"
 
 #include <QtTest>
 

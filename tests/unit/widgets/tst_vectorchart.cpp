@@ -1,7 +1,7 @@
 #include "painted.h"
 
-#include "config/phasecolor.h"
-#include "widgets/vectorchart.h"
+#include "settings/phasecolor.h"
+#include "widgets/charts/vectorchart.h"
 
 #include <QtTest>
 

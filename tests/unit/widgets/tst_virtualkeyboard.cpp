@@ -1,7 +1,7 @@
 #include "dialogdriver.h"
 
-#include "widgets/keygrid.h"
-#include "widgets/virtualkeyboard.h"
+#include "widgets/controls/keygrid.h"
+#include "widgets/dialogs/virtualkeyboard.h"
 
 #include <QSet>
 

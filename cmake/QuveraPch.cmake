@@ -1,0 +1,41 @@
+# Precompiled headers: the headers that most sources include are read once per kind of target, not once per source.
+# They stay short on purpose: all of QtWidgets takes longer to load than most sources take to compile.
+#
+#   pch_core     containers, strings, files     the processor stand-in
+#   pch_gui      pch_core and the widgets       folders of src/
+#   pch_test     pch_core and QTest             tests without widgets
+#   pch_guitest  pch_gui and QTest              tests of folders
+#
+# A source still includes what it uses: QUVERA_PCH=OFF builds without, and the sources must compile so too.
+option(QUVERA_PCH "Read the commonest headers precompiled" ON)
+
+function(quvera_pch_kind KIND)
+  if(NOT QUVERA_PCH)
+    return()
+  endif()
+  cmake_parse_arguments(ARG "" "" "HEADERS;LIBS" ${ARGN})
+  add_library(${KIND} OBJECT ${CMAKE_SOURCE_DIR}/cmake/pch/empty.cpp)
+  target_link_libraries(${KIND} PUBLIC ${ARG_LIBS})
+  target_precompile_headers(${KIND} PRIVATE ${ARG_HEADERS})
+endfunction()
+
+set(pch_core_headers <algorithm> <cmath> <cstring> <functional> <limits> <memory> <vector> <QByteArray> <QDateTime>
+    <QDir> <QFile> <QList> <QObject> <QString> <QStringList> <QTimer> <QVector>)
+set(pch_gui_headers <QDialog> <QKeyEvent> <QLabel> <QPainter> <QStackedWidget> <QWidget>)
+set(pch_gui_libs Qt5::Widgets Qt5::Network Qt5::Xml)
+quvera_pch_kind(pch_core HEADERS ${pch_core_headers} LIBS Qt5::Core)
+quvera_pch_kind(pch_gui HEADERS ${pch_core_headers} ${pch_gui_headers} LIBS ${pch_gui_libs})
+quvera_pch_kind(pch_test HEADERS ${pch_core_headers} <QSignalSpy> <QTest> LIBS Qt5::Core Qt5::Test)
+quvera_pch_kind(pch_guitest HEADERS ${pch_core_headers} ${pch_gui_headers} <QApplication> <QSignalSpy> <QTest>
+                LIBS ${pch_gui_libs} Qt5::Test)
+
+# quvera_use_pch(<target> <kind>)
+function(quvera_use_pch TARGET KIND)
+  if(NOT QUVERA_PCH)
+    return()
+  endif()
+  target_precompile_headers(${TARGET} REUSE_FROM ${KIND})
+  # Empty in most tests: a test brings its own moc output.
+  get_target_property(binary_dir ${TARGET} BINARY_DIR)
+  set_source_files_properties(${binary_dir}/${TARGET}_autogen/mocs_compilation.cpp PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+endfunction()

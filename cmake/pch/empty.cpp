@@ -1,0 +1,1 @@
+// The precompiled headers hang on this unit.

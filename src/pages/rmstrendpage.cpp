@@ -1,0 +1,241 @@
+#include "pages/rmstrendpage.h"
+
+#include "settings/config_data.h"
+#include "pages/keyrepeat.h"
+#include "widgets/charts/cursortrendchart.h"
+#include "widgets/text/f_to_str.h"
+#include "widgets/controls/softkeybuttons.h"
+
+#include <QLabel>
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace {
+constexpr int kTicksPerStep = 3;
+constexpr int kPage = 600; // values by which the window moves when the cursor leaves it
+}
+
+void RmsTrendPage::setUp(CursorTrendChart *chart)
+{
+    static const KeyRow<RmsTrendPage> keys[] = {
+        { Qt::Key_F1, nullptr, &RmsTrendPage::changeType },   { Qt::Key_F2, nullptr, &RmsTrendPage::openEvents },
+        { Qt::Key_F3, nullptr, &RmsTrendPage::toggleCursor }, { Qt::Key_F4, nullptr, &RmsTrendPage::toggleZoom },
+        { Qt::Key_Left, nullptr, &RmsTrendPage::pressLeft },  { Qt::Key_Right, nullptr, &RmsTrendPage::pressRight },
+    };
+    m_chart = chart;
+    m_cursorButton = findChild<Btn2 *>(QStringLiteral("btn_f3"));
+    m_zoomButton = findChild<Btn3 *>(QStringLiteral("btn_f4"));
+    m_eventsLabel = findChild<QLabel *>(QStringLiteral("events_count"));
+    m_captions = ChannelLabels::numberedRow(this, "D%1_Caption");
+    m_values = ChannelLabels::numberedRow(this, "D%1_Value");
+    m_repeat = new KeyRepeat(this, kTicksPerStep);
+    connect(m_repeat, &KeyRepeat::repeated, this, &RmsTrendPage::changeCursorPos);
+    setKeys(keys);
+}
+
+void RmsTrendPage::init_parameter()
+{
+    ViewPage::init_parameter();
+    resetView();
+    showEventsCounts(0);
+}
+
+void RmsTrendPage::resetView()
+{
+    m_repeat->stop();
+    m_zoomOn = true;
+    m_cursorOn = false;
+    m_position = 1;
+    const QVector<TrendZoom> steps = zoomSteps();
+    m_seconds = steps.at(std::clamp(zoomIndex(), 0, int(steps.size()) - 1)).seconds;
+    // Kept: at 400 Hz the first step starts with 10 values for a point and has 12 when it is chosen again.
+    m_window = { 0, std::max(int(valuesPerSecond() * m_seconds / 600.0), 1) };
+    showScaleList();
+    showCursor();
+    showZoom();
+    m_quantity = firstQuantity() == Voltage ? Current : Voltage;
+    changeType();
+}
+
+void RmsTrendPage::retranslateUi()
+{
+    ViewPage::retranslateUi();
+    setKeyCaption(2, tr("Events"));
+    setText(findChild<QLabel *>(QStringLiteral("events_t")), tr("EVENTS :"));
+    showType();
+    showCurVal(); // on hold no refresh would bring the values back
+}
+
+void RmsTrendPage::showEventsCounts(int count)
+{
+    setText(m_eventsLabel, QString::number(count));
+}
+
+void RmsTrendPage::updateDisplay(void *)
+{
+    if (!isRunning())
+        return;
+    if (freshRecord() && shownRecord())
+        RmsTrend::takeValues(*freshRecord(), *shownRecord(), valuesPerSecond() * keptSeconds());
+    showTrend();
+}
+
+const RmsTrendPage::Lists &RmsTrendPage::shownLists(const __rms_trend_data &record) const
+{
+    return m_quantity == Current ? record.current : record.voltage;
+}
+
+void RmsTrendPage::changeType()
+{
+    m_quantity = m_quantity == Voltage ? Current : Voltage;
+    showType();
+    showTrend();
+}
+
+void RmsTrendPage::showType()
+{
+    const DisplayUnits &units = m_settingConfig_g.units();
+    setKeyCaption(1, m_quantity == Current ? tr("I(%1)").arg(units.ampere) : tr("U(%1)").arg(units.volt));
+    ChannelLabels::clear(m_captions);
+    ChannelLabels::clear(m_values);
+    ChannelLabels::showHeaders(m_captions, QStringLiteral(":"));
+}
+
+void RmsTrendPage::showTrend()
+{
+    __rms_trend_data *record = shownRecord();
+    if (!record)
+        return;
+    const DisplayUnits &units = m_settingConfig_g.units();
+    const bool current = m_quantity == Current;
+    // A dip or swell lies far from the nominal voltage, an inrush far from no current.
+    m_picture = RmsTrend::scale(shownLists(*record), m_window, current ? 0.0f : m_settingConfig_g.getRealNominalVolt(),
+                                current ? units.factorAmpere : units.factorVolt, record->max, record->min);
+    m_chart->setFlags(ChannelLabels::channels().dipTrendFlags());
+    if (!m_picture.upper[0].isNull())
+        m_chart->setLimits(m_picture.upper, m_picture.lower);
+    showCursor();
+    showCurVal();
+    __trend_chart_data data;
+    for (int c = 0; c < kChannels; ++c)
+        data.series[c] = &m_picture.series[c];
+    showSeries(data);
+}
+
+void RmsTrendPage::showCurVal()
+{
+    const __rms_trend_data *record = shownRecord();
+    if (!record)
+        return;
+    float values[kChannels];
+    for (int c = 0; c < kChannels; ++c)
+        values[c] = RmsTrend::valueAt(shownLists(*record)[c], m_window, m_cursorOn ? m_position : 1);
+    ChannelLabels::showValues(m_values, values, m_quantity == Current ? F_to_Str::number_A : F_to_Str::number_V);
+}
+
+void RmsTrendPage::showCursor()
+{
+    // The cursor never stands where the chart has no value.
+    m_position = std::clamp(m_position, 1, std::max(int(m_picture.series[0].size()), 1));
+    if (m_chart->cursorOn() != m_cursorOn)
+        m_chart->setCursorOn(m_cursorOn);
+    const int flags = ChannelLabels::channels().dipTrendFlags();
+    if (m_chart->cursorFlags() != flags)
+        m_chart->setCursorFlags(flags);
+    showChartCursor(m_position);
+    m_cursorButton->setBtnFlag(m_cursorOn);
+}
+
+void RmsTrendPage::showZoom()
+{
+    m_zoomButton->setBtnFlag(m_zoomOn);
+}
+
+void RmsTrendPage::showScaleList()
+{
+    m_chart->setFullScale(RmsTrend::axisLabels(axisLabelCount(), m_seconds));
+}
+
+void RmsTrendPage::toggleCursor()
+{
+    m_repeat->stop();
+    m_cursorOn = !m_cursorOn;
+    m_zoomOn = !m_cursorOn;
+    showCursor();
+    showZoom();
+    showCurVal();
+}
+
+void RmsTrendPage::toggleZoom()
+{
+    toggleCursor(); // each switches the other off
+}
+
+void RmsTrendPage::pressLeft()
+{
+    if (m_zoomOn)
+        changeScale(-1);
+    else
+        m_repeat->start(-1);
+}
+
+void RmsTrendPage::pressRight()
+{
+    if (m_zoomOn)
+        changeScale(1);
+    else
+        m_repeat->start(1);
+}
+
+void RmsTrendPage::releaseKey(int key)
+{
+    if (key == Qt::Key_Left || key == Qt::Key_Right)
+        m_repeat->stop();
+}
+
+void RmsTrendPage::changeScale(int direction)
+{
+    const QVector<TrendZoom> steps = zoomSteps();
+    const int index = std::clamp(zoomIndex() + direction, 0, int(steps.size()) - 1);
+    if (index == zoomIndex())
+        return;
+    zoomIndexChanged(index);
+    m_seconds = steps.at(index).seconds;
+    m_window.valuesPerPoint = steps.at(index).valuesPerPixel;
+    showScaleList();
+    showTrend();
+}
+
+void RmsTrendPage::changeCursorPos(int step)
+{
+    for (int i = 0; i < std::abs(step); ++i)
+        step < 0 ? moveCursorL() : moveCursorR();
+    showCursor();
+    showCurVal();
+}
+
+void RmsTrendPage::moveCursorL()
+{
+    const __rms_trend_data *record = shownRecord();
+    if (!record)
+        return;
+    if (m_position < m_picture.series[0].size()) {
+        ++m_position;
+    } else if (m_position == RmsTrend::kPoints && m_window.offset + m_window.values() < shownLists(*record)[0].size()) {
+        m_window.offset += kPage;
+        m_position = 1;
+        showTrend();
+    }
+}
+
+void RmsTrendPage::moveCursorR()
+{
+    if (m_position >= 2) {
+        --m_position;
+    } else if (m_window.offset > 0) {
+        m_window.offset = std::max(m_window.offset - kPage, 0);
+        m_position = RmsTrend::kPoints;
+        showTrend();
+    }
+}

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "model/trendzoom.h"
+#include "pages/channellabels.h"
+#include "pages/rmstrend.h"
+#include "pages/viewpage.h"
+
+#include <QVector>
+
+class Btn2;
+class Btn3;
+class CursorTrendChart;
+class KeyRepeat;
+struct __trend_chart_data;
+
+/// Scrolling trend of the half-cycle r.m.s. values of all channels, voltages or currents, with a cursor and zoom steps:
+/// what the pages of dips and swells and of inrush have in common. Exactly one of cursor and zoom is on; the arrows
+/// left and right act on that one. A derived page gives the records, the zoom steps and the chart.
+class RmsTrendPage : public ViewPage
+{
+    Q_OBJECT
+
+public:
+    enum Quantity { Voltage = 1, Current = 2 };
+
+    int quantity() const { return m_quantity; }
+    bool cursorOn() const { return m_cursorOn; }
+    bool zoomOn() const { return m_zoomOn; }
+    int cursorPosition() const { return m_position; } // 1 to 600 from the right edge, 1 the newest point
+    int seconds() const { return m_seconds; } // across the chart
+    const RmsTrend::Window &window() const { return m_window; }
+
+public slots:
+    /// Takes the new values over and redraws; nothing on hold.
+    void updateDisplay(void *) override;
+    void init_parameter() override;
+    void retranslateUi() override;
+    /// Prints the number of events beside "EVENTS :".
+    void showEventsCounts(int count);
+
+protected:
+    using ViewPage::ViewPage;
+
+    /// Labels of the form are found by their names; the keys F1 to F4, left and right get their actions. To be called
+    /// once, after the form exists.
+    void setUp(CursorTrendChart *chart);
+
+    /// The task's lists, and this page's copy of them; null before the first run.
+    virtual __rms_trend_data *freshRecord() const = 0;
+    virtual __rms_trend_data *shownRecord() const = 0;
+    virtual int valuesPerSecond() const = 0;
+    virtual int keptSeconds() const = 0; // values beyond are dropped
+    virtual QVector<TrendZoom> zoomSteps() const = 0; // longest first
+    virtual int zoomIndex() const = 0;
+    virtual void zoomIndexChanged(int index) = 0;
+    virtual int axisLabelCount() const = 0;
+    virtual Quantity firstQuantity() const { return Voltage; }
+    virtual void showSeries(const __trend_chart_data &data) = 0;
+    virtual void showChartCursor(int position) = 0;
+    virtual void openEvents() = 0;
+
+    /// The view as at the start of a run: newest values, first zoom step, zoom on, cursor off.
+    void resetView();
+    void showTrend();
+    void releaseKey(int key) override;
+
+private:
+    void changeType();
+    void toggleCursor();
+    void toggleZoom();
+    void pressLeft();
+    void pressRight();
+    void changeScale(int direction);
+    void changeCursorPos(int step);
+    void moveCursorL();
+    void moveCursorR();
+    void showType();
+    void showCursor();
+    void showZoom();
+    void showCurVal();
+    void showScaleList();
+    using Lists = QList<float>[kChannels];
+    const Lists &shownLists(const __rms_trend_data &record) const;
+
+    CursorTrendChart *m_chart = nullptr;
+    Btn2 *m_cursorButton = nullptr;
+    Btn3 *m_zoomButton = nullptr;
+    QLabel *m_eventsLabel = nullptr;
+    KeyRepeat *m_repeat = nullptr;
+    ChannelLabels::LabelRow m_captions {};
+    ChannelLabels::LabelRow m_values {};
+
+    int m_quantity = 0; // 0 only before the first run
+    bool m_cursorOn = true;
+    bool m_zoomOn = false;
+    int m_position = 1;
+    int m_seconds = 60;
+    RmsTrend::Window m_window;
+    TrendScaler::Picture m_picture; // kept alive for the chart
+};

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "pages/channellabels.h"
+#include "pages/trendscaler.h"
+#include "pages/viewpage.h"
+
+#include <QStringList>
+
+#include <vector>
+
+class QLabel;
+class VifTrendChart;
+
+/// Ten-minute trend of one quantity at a time, with its latest values below the chart: what every trend page does. A
+/// page adds its table of quantities and the key back. Its form has the labels "type", "D1_Caption" to "D4_Caption",
+/// "D1_Value" to "D4_Value" and the chart "trend".
+class TrendPage : public ViewPage
+{
+    Q_OBJECT
+
+public:
+    /// One quantity that the page can show.
+    struct Quantity
+    {
+        int type; // selector value
+        QString (*caption)(); // with its unit
+        __trend_data *(*record)(); // null while there is none
+        double (*factor)(); // display scale of the limit labels
+        int (*flags)(); // curves of the chart
+        const float *(*values)(); // latest values of the four channels
+        QString (*format)(float);
+        bool single = false; // one value without a channel: the frequency, with its grey rule
+        const char *fourthCaption = nullptr; // in place of the neutral's, such as "T :"
+        bool plain = false; // single: a value with its own sign, without the grey rule
+    };
+
+    int type() const { return quantity().type; }
+
+public slots:
+    void updateDisplay(void *) override { showTrend(); }
+    void init_parameter() override;
+    void retranslateUi() override;
+
+protected:
+    /// \a cycle in the order of F1; it outlives the page.
+    TrendPage(_quvera_ui_type type, const std::vector<Quantity> &cycle, QWidget *parent);
+
+    /// To be called once the form exists, before setKeys.
+    /// \a chart: name of the chart in the form; \a captionEnd follows the channel in the captions of the values.
+    void initTrend(const QStringList &axis, const char *chart = "trend", const char *captionEnd = ":");
+    /// F1: the next quantity.
+    void nextType();
+    virtual void showTrend();
+
+    static double unscaled() { return 1.0; }
+    static int wiringFlags() { return ChannelLabels::channels().trendFlags(); }
+
+private:
+    const Quantity &quantity() const { return m_cycle[m_index]; }
+    void initTrendFlags();
+    void showType();
+    void showValue();
+    /// \a row without the phases that have no curve.
+    ChannelLabels::LabelRow drawn(ChannelLabels::LabelRow row) const;
+
+    const std::vector<Quantity> &m_cycle;
+    std::size_t m_index = 0;
+    VifTrendChart *m_chart = nullptr;
+    QString m_captionEnd;
+    QLabel *m_typeLabel = nullptr;
+    ChannelLabels::LabelRow m_captions = {};
+    ChannelLabels::LabelRow m_values = {};
+    TrendScaler::Picture m_picture; // kept alive for the chart
+};

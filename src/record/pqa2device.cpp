@@ -1,0 +1,54 @@
+#include "record/pqa2device.h"
+
+#include "storage/massstorage.h"
+#include "platform/target.h"
+
+#include <unistd.h>
+
+bool Pqa2Device::open(const QString &path)
+{
+    m_file.setFileName(Target::path(path));
+    // Unbuffered, so that blocks are in the file and links in order when a call returns, and a failure is known there.
+    return m_file.open(QIODevice::ReadWrite | QIODevice::Truncate | QIODevice::Unbuffered);
+}
+
+void Pqa2Device::close()
+{
+    m_file.close();
+    Target::shell(QStringLiteral("sync"));
+}
+
+qint64 Pqa2Device::write(const char *data, qint64 size)
+{
+    return m_file.write(data, size);
+}
+
+bool Pqa2Device::seek(qint64 position)
+{
+    return m_file.seek(position);
+}
+
+qint64 Pqa2Device::pos() const
+{
+    return m_file.pos();
+}
+
+qint64 Pqa2Device::size() const
+{
+    return m_file.size();
+}
+
+bool Pqa2Device::resize(qint64 size)
+{
+    return m_file.resize(size);
+}
+
+bool Pqa2Device::sync()
+{
+    return ::fsync(m_file.handle()) == 0;
+}
+
+float Pqa2Device::freeSize()
+{
+    return MassStorage::storageFreeSize(QStringLiteral("/mnt/storage/"));
+}

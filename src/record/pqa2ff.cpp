@@ -1,0 +1,196 @@
+#include "record/pqa2ff.h"
+
+#include "device/trace.h"
+#include "platform/clock.h"
+#include "record/pqa2device.h"
+#include "record/pqa2info.h"
+
+#include <QFileInfo>
+
+#include <cstring>
+
+namespace {
+
+constexpr int kKeptBlocks = 3;
+constexpr qint64 kMostPayload = 1 << 30; // bytes; no writer comes near it
+
+constexpr qint64 alignedUp(qint64 bytes)
+{
+    return (bytes + 3) & ~qint64(3);
+}
+
+} // namespace
+
+Pqa2FF::Pqa2FF() : Pqa2FF(std::make_unique<Pqa2Device>()) { }
+
+Pqa2FF::Pqa2FF(const char *path) : Pqa2FF(QString::fromLocal8Bit(path)) { }
+
+Pqa2FF::Pqa2FF(const QString &path) : Pqa2FF()
+{
+    m_path = path;
+}
+
+Pqa2FF::Pqa2FF(std::unique_ptr<Pqa2Device> device) : m_device(std::move(device)) { }
+
+Pqa2FF::~Pqa2FF()
+{
+    close();
+}
+
+int Pqa2FF::open(const QString &path)
+{
+    close();
+    m_path = path;
+    return open();
+}
+
+int Pqa2FF::open(const char *path)
+{
+    return open(QString::fromLocal8Bit(path));
+}
+
+int Pqa2FF::open()
+{
+    if (m_path.isEmpty())
+        return 0;
+    close();
+    m_last.clear();
+    m_end = 0;
+    if (m_device->freeSize() < kRoomToOpen || !m_device->open(m_path))
+        return 0;
+    m_open = true;
+    const bool begun = initFileHeader() && addDataBlock(Pqa2InstrumentInfo, getInstrumentInfo().toLatin1()) == 0
+        && addDataBlock(Pqa2SystemSetting, getSystemSetting().toLatin1()) == 0
+        && addDataBlock(Pqa2ChannelFactor, getChannelFactor()) == 0;
+    if (!begun)
+        close();
+    return begun;
+}
+
+bool Pqa2FF::initFileHeader()
+{
+    return write(reinterpret_cast<const char *>(&kPqa2FileHeader), qint64(sizeof kPqa2FileHeader))
+        == qint64(sizeof kPqa2FileHeader);
+}
+
+void Pqa2FF::close()
+{
+    if (!m_open)
+        return;
+    m_open = false;
+    m_device->close();
+}
+
+void Pqa2FF::flush()
+{
+    if (m_open)
+        m_device->sync();
+}
+
+qint64 Pqa2FF::size() const
+{
+    return m_open ? m_device->size() : -1;
+}
+
+QString Pqa2FF::fileName() const
+{
+    return QFileInfo(m_path).fileName();
+}
+
+qint64 Pqa2FF::write(const char *data, qint64 size)
+{
+    if (!m_open || !data || size < 0)
+        return -1;
+    const qint64 written = m_device->write(data, size);
+    m_end = alignedUp(m_device->pos());
+    return written;
+}
+
+int Pqa2FF::addDataBlock(Pqa2DBType type, const char *data, int size)
+{
+    return appendBlock(type, data, size);
+}
+
+int Pqa2FF::addDataBlock(Pqa2DBType type, const QByteArray &data)
+{
+    return appendBlock(type, data.constData(), data.size());
+}
+
+int Pqa2FF::addDataBlock(const _pqa2_data_block &block)
+{
+    const int result = appendBlock(block.type, block.data, block.size);
+    if (result < 0)
+        QV_TRACE("pqa2/pqa2ff") << "availableRoom" << m_device->freeSize();
+    return result;
+}
+
+int Pqa2FF::addSystemLog(const QByteArray &text)
+{
+    const qint64 now = Clock::msecs();
+    return addDataBlock(Pqa2SystemLog, QByteArray(reinterpret_cast<const char *>(&now), int(sizeof now)) + text);
+}
+
+int Pqa2FF::addBlankBlock()
+{
+    return appendBlock(Pqa2Blank, nullptr, 0);
+}
+
+int Pqa2FF::appendBlock(quint32 type, const char *data, qint64 size)
+{
+    if (!m_open)
+        return 0;
+    if (size < 0 || size > kMostPayload || (size > 0 && !data) || m_device->freeSize() < kRoomToWrite)
+        return -1;
+    const qint64 start = m_end;
+    const qint64 whole = qint64(sizeof(Pqa2BlockHead)) + alignedUp(size);
+    if (start + whole >= qint64(kPqa2LastBlock)) // no link could tell where the next block starts
+        return -1;
+
+    const Pqa2BlockHead head = { kPqa2LastBlock, type, quint32(size) };
+    m_buffer.resize(int(whole));
+    std::memcpy(m_buffer.data(), &head, sizeof head);
+    if (size > 0)
+        std::memcpy(m_buffer.data() + sizeof head, data, size_t(size));
+    std::memset(m_buffer.data() + sizeof head + size, 0, size_t(whole - qint64(sizeof head) - size));
+
+    // A block that is not whole in the file is never linked: it is cut off, and the next one takes its place.
+    if ((m_device->pos() != start && !m_device->seek(start)) || m_device->write(m_buffer.constData(), whole) != whole) {
+        dropTail(start);
+        return -1;
+    }
+    m_end = start + whole;
+    if (!modifyLastOONB({ quint32(start), kPqa2LastBlock })) {
+        dropTail(start);
+        return -1;
+    }
+    return 0;
+}
+
+bool Pqa2FF::modifyLastOONB(const _pqa2_block_iterator &block)
+{
+    if (!m_last.isEmpty())
+        m_last.last().oonb = block.offset;
+    m_last.append(block);
+    if (m_last.size() > 1) {
+        _pqa2_block_iterator &before = m_last[m_last.size() - 2];
+        const auto *link = reinterpret_cast<const char *>(&before.oonb);
+        if (!m_device->seek(before.offset) || m_device->write(link, 4) != 4) {
+            // A link torn by the failure leads behind the end of the file, where a reader stops. The next block starts
+            // at the same place, so that the same link is written whole with it.
+            before.oonb = kPqa2LastBlock;
+            m_last.removeLast();
+            return false;
+        }
+    }
+    if (m_last.size() > kKeptBlocks)
+        m_last.removeFirst();
+    m_device->seek(m_end);
+    return true;
+}
+
+void Pqa2FF::dropTail(qint64 end)
+{
+    m_end = end;
+    m_device->resize(end);
+    m_device->seek(end);
+}

@@ -1,0 +1,12 @@
+#include "settings/config_data.h"
+
+// The order below is a requirement: each object may use those above it while it is built, and none an application
+// object, for all of this happens before main.
+QString LimitsManager::builtin_en50160 = QStringLiteral("EN50160");
+QString LimitsManager::builtin_gost32144 = QStringLiteral("GOST32144");
+CalibFile m_calib_data_g;
+SettingConfig m_settingConfig_g;
+UserConfig m_userConfig_g;
+LimitsManager m_limits_g;
+LangTranslation languageTranslator;
+QList<__event_item> g_events_list;

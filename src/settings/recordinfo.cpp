@@ -1,0 +1,40 @@
+#include "settings/recordinfo.h"
+
+#include "settings/config.h"
+#include "settings/config_data.h"
+#include "model/nominalfrequency.h"
+
+namespace {
+const char kFile[] = "/mnt/userfs/config/record.conf";
+const char kKey[] = "PARAMS";
+}
+
+int RecordInfo::m_in_recording = 0;
+QString *RecordInfo::m_record_file = new QString;
+quint32 RecordInfo::m_recordItems = RecordInfo::Frequency10s;
+quint32 RecordInfo::m_begain_time = 0;
+int RecordInfo::m_duration = 2;
+int RecordInfo::m_max_duration = 2;
+int RecordInfo::m_interval_index = 3;
+const int RecordInfo::m_record_interval[8] = { 1, 3, 5, 10, 30, 60, 120, 300 };
+int RecordInfo::m_harm_max_numb = 100;
+int RecordInfo::m_storage_room = 0;
+
+void RecordInfo::readSelectedParam()
+{
+    m_recordItems = SettingText::toUnsigned(Config::readConfigFile(QLatin1String(kFile), QLatin1String(kKey)));
+    m_recordItems |= Frequency10s;
+    if (m_recordItems & AllHarmonics)
+        m_recordItems |= CommonRms;
+}
+
+void RecordInfo::writeSelectedParam()
+{
+    Config::writeConfigFile(QLatin1String(kFile), QLatin1String(kKey), QString::number(m_recordItems));
+}
+
+void RecordInfo::initHarmMaxNumb()
+{
+    constexpr int kOrders400 = 12;
+    m_harm_max_numb = highestOrder(m_settingConfig_g.getNomFreq(), kOrders400, m_harm_max_numb);
+}

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "pages/uitype.h"
+
+#include <QDialog>
+#include <QLabel>
+
+#include <memory>
+
+namespace Ui {
+class MenuPage;
+}
+
+/// One tile of the menu with its neighbours. Its pictures are named after it.
+class MenuItem : public QLabel
+{
+public:
+    explicit MenuItem(QWidget *parent = nullptr) : QLabel(parent) { setFocusPolicy(Qt::StrongFocus); }
+    void showPicture(bool highlighted);
+
+    MenuItem *left = nullptr;
+    MenuItem *right = nullptr;
+    MenuItem *up = nullptr;
+    MenuItem *down = nullptr;
+};
+
+/// The function menu: a torus of twelve tiles.
+class MenuPage : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit MenuPage(QWidget *parent = nullptr);
+    ~MenuPage() override;
+
+    /// Links the tiles for the nominal frequency in force: at 400 Hz there is no flicker.
+    void initMenuMatrix();
+    /// Keyboard focus to the current tile.
+    void setCurrentItem();
+    const MenuItem *currentItem() const { return m_places[0].current; }
+
+public slots:
+    void retranslateUi();
+    void refreshSystemStatus() { }
+    void eventsChanged() { }
+    void transEventsChanged() { }
+    /// A run ended: its events are forgotten.
+    void clearSystemStatus();
+
+signals:
+    void restartTask();
+    void goScope(_quvera_ui_type current, _quvera_ui_type target);
+    void goVif(_quvera_ui_type current, _quvera_ui_type target);
+    void goDipsSwells(_quvera_ui_type current, _quvera_ui_type target);
+    void goHarmonics(_quvera_ui_type current, _quvera_ui_type target);
+    void goPower(_quvera_ui_type current, _quvera_ui_type target);
+    void goFlicker(_quvera_ui_type current, _quvera_ui_type target);
+    void goUnbalance(_quvera_ui_type current, _quvera_ui_type target);
+    void goTransients(_quvera_ui_type current, _quvera_ui_type target);
+    void goInrush(_quvera_ui_type current, _quvera_ui_type target);
+    void goLogger(_quvera_ui_type current, _quvera_ui_type target);
+    void goUser(_quvera_ui_type current, _quvera_ui_type target);
+    void goMonitor(_quvera_ui_type current, _quvera_ui_type target);
+    void goSetup(_quvera_ui_type current, _quvera_ui_type target);
+    void goMemory(_quvera_ui_type current, _quvera_ui_type target);
+    void goWave(_quvera_ui_type current, _quvera_ui_type target);
+    void goMainsSig(_quvera_ui_type current, _quvera_ui_type target);
+    void goPowerInverter(_quvera_ui_type current, _quvera_ui_type target);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
+
+private:
+    /// Current and previous tile of one menu page. The second page is empty and never shown; its pair is kept.
+    struct Place
+    {
+        MenuItem *current = nullptr;
+        MenuItem *previous = nullptr;
+    };
+
+    void menuMatrix50();
+    void menuMatrix400();
+    void moveTo(MenuItem *item);
+    void showMenuHl();
+    void changePage();
+    void saveSnapshot();
+
+    std::unique_ptr<Ui::MenuPage> m_ui;
+    Place m_places[2];
+};

@@ -1,0 +1,10 @@
+#include "widgets/charts/viftrendchart.h"
+
+VifTrendChart::VifTrendChart(QWidget *parent) : CurveTrendChart(m_last, parent) { }
+
+void VifTrendChart::showVifData(const __trend_chart_data *data)
+{
+    if (!data || !data->series[0] || data->series[0]->isEmpty())
+        return;
+    takeData(*data);
+}

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "model/pqaeventitem.h"
+
+#include <QCoreApplication>
+#include <QPixmap>
+#include <QStringList>
+#include <QVector>
+#include <QWidget>
+
+/// Which events the table shows.
+enum __event_type {
+    EventsAll = 0,
+    EventsRms = 1,
+    EventsHarmonics = 2, // distortion and harmonic orders
+    EventsFlicker = 3,
+    EventsDips = 4, // dips, swells, interruptions, rapid voltage changes
+    EventsUnbalanceFrequency = 5,
+    EventsMainsSignaling = 6,
+};
+
+/// Table of power-quality events, thirteen lines at a time, with a selection bar and a filter by kind. It only
+/// displays: it keeps the lines of the list it was last given. Needs 30 + 13 x 22 pixels in height. GUI thread.
+class EventsWidget : public QWidget
+{
+    Q_DECLARE_TR_FUNCTIONS(EventsWidget)
+
+public:
+    explicit EventsWidget(QWidget *parent = nullptr);
+
+    static constexpr int kRows = 13;
+
+    /// Takes the lines of the list and filters them; a null list resets rows and counts.
+    void refreshEventList(const QList<__event_item> *list);
+
+    /// Rebuilds the shown list by the filter in force.
+    void eventTypeFilter();
+    /// Sets the filter, 7 and above being 0, starts at the top of the list and filters again.
+    void changeEventType(int type);
+    void setEventType(int type) { m_filter = type; }
+    int eventType() const { return m_filter; }
+
+    void selectPrevItem();
+    void selectNextItem();
+
+    /// Back to an empty table at its first row.
+    void initEventsCnt();
+    void setEventCnt(int count) { m_count = count; }
+    int eventsCnt() const { return m_count; } // lines that pass the filter
+
+    int firstShown() const { return m_first; }
+    int lastShown() const { return m_last; } // one behind the last line shown
+    int row() const { return m_row; } // selection within the page
+
+    /// Texts of one line of the shown list as painted: time, type, level, duration; empty for a line that is not there.
+    QStringList lineTexts(int index) const;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    bool passes(const __event_item &item) const;
+    int shownSize() const;
+    const __event_item &shownItem(int index) const;
+    void drawHeader(QPainter &painter) const;
+    void drawRow(QPainter &painter, int row, const QStringList &texts) const;
+
+    int m_row = 0;
+    int m_filter = EventsAll;
+    int m_count = 0;
+    QVector<__event_item> m_all; // lines without the curves
+    QVector<int> m_filtered; // places in m_all; unused while all are shown
+    int m_first = 0;
+    int m_last = 0;
+    QPixmap m_background; // scaled to the widget
+    QPixmap m_bar; // scaled to a row
+};

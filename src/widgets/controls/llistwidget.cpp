@@ -1,0 +1,8 @@
+#include "widgets/controls/llistwidget.h"
+
+#include <QKeyEvent>
+
+void LListWidget::keyPressEvent(QKeyEvent *event)
+{
+    event->ignore();
+}

@@ -1,0 +1,8 @@
+#include "widgets/controls/loggercheckbox.h"
+
+#include <QKeyEvent>
+
+void LoggerCheckBox::keyPressEvent(QKeyEvent *event)
+{
+    event->ignore();
+}

@@ -1,0 +1,8 @@
+#include "widgets/controls/mcheckbox.h"
+
+#include <QKeyEvent>
+
+void MCheckBox::keyPressEvent(QKeyEvent *event)
+{
+    event->ignore();
+}

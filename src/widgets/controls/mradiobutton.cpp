@@ -1,0 +1,8 @@
+#include "widgets/controls/mradiobutton.h"
+
+#include <QKeyEvent>
+
+void MRadioButton::keyPressEvent(QKeyEvent *event)
+{
+    event->ignore();
+}

@@ -1,0 +1,55 @@
+#include "widgets/dialogs/runinfo.h"
+
+#include "settings/config_data.h"
+#include "settings/recordinfo.h"
+#include "model/transparam.h"
+#include "ui_runinfo.h"
+
+#include <algorithm>
+
+int RunInfo::showSystemStatus()
+{
+    RunInfo info;
+    return info.exec();
+}
+
+RunInfo::RunInfo(QWidget *parent) : SoftKeyDialog(parent), m_ui(new Ui::RunInfo)
+{
+    m_ui->setupUi(this);
+    m_ui->icon->setPixmap(QPixmap(QStringLiteral(":/info")));
+    fitText(m_ui->system_status, statusText(), 19);
+    finishForm();
+    setKeyText(1, tr("Restart"));
+    setKeyText(5, tr("Cancel"));
+    if (RecordInfo::m_in_recording) {
+        m_ui->btn_f1->setStyleSheet(QStringLiteral(
+            "QLabel {background-color: transparent;background-image: url(:/button);color: rgb(128, 128, 128);}"));
+    }
+}
+
+RunInfo::~RunInfo() = default;
+
+QString RunInfo::statusText()
+{
+    const auto count = [](PQAEventType type) {
+        return std::count_if(g_events_list.cbegin(), g_events_list.cend(),
+                             [type](const __event_item &item) { return item.type == type; });
+    };
+    return tr("System Status:\n\nLogger: %1\nTotal Events: %2\nDips: %3;   Swell: %4;   Interruption: %5;   "
+              "Transients: %6;   Inrush: %7")
+        .arg(RecordInfo::m_in_recording ? tr("Running") : tr("Stoped"))
+        .arg(g_events_list.size() + g_trans_events.size())
+        .arg(count(EventDip))
+        .arg(count(EventSwell))
+        .arg(count(EventInterruption))
+        .arg(g_trans_events.size())
+        .arg(count(EventInrush));
+}
+
+void RunInfo::pressKey(int key)
+{
+    if (key == Qt::Key_F1 && !RecordInfo::m_in_recording)
+        done(RestartTask);
+    else if (key == Qt::Key_F5)
+        done(Stay);
+}

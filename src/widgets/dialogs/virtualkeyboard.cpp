@@ -1,0 +1,114 @@
+#include "widgets/dialogs/virtualkeyboard.h"
+
+#include "ui_virtualkeyboard.h"
+
+#include <algorithm>
+
+QString VirtualKeyBoard::getKeyBoardInput(const QString &title, const QString &text, const QString &expression,
+                                          int maxLength, bool *accepted)
+{
+    VirtualKeyBoard keyboard(title, text, expression, maxLength);
+    const bool taken = keyboard.exec() == QDialog::Accepted;
+    if (accepted)
+        *accepted = taken;
+    return taken ? keyboard.text() : text;
+}
+
+VirtualKeyBoard::VirtualKeyBoard(const QString &title, const QString &text, const QString &expression, int maxLength,
+                                 QWidget *parent)
+    : SoftKeyDialog(parent), m_ui(new Ui::VirtualKeyBoard), m_maxLength(std::max(maxLength, 1))
+{
+    if (!expression.isEmpty())
+        m_expression.setPattern(QRegularExpression::anchoredPattern(expression));
+    m_ui->setupUi(this);
+    m_ui->input->setStyleSheet(
+        QStringLiteral("QLabel { background-image: url(:/keyboard_input); padding-left: 10px; }"));
+    m_ui->hint->setStyleSheet(QStringLiteral("QLabel { color: rgb(255, 160, 64); }"));
+    fitText(m_ui->title, title, 20);
+    finishForm();
+    setKeyText(1, QStringLiteral("ABC"));
+    m_ui->keys->setCurrentChar(QLatin1Char('q'));
+    setInput(text);
+}
+
+VirtualKeyBoard::~VirtualKeyBoard() = default;
+
+void VirtualKeyBoard::setInput(const QString &text)
+{
+    m_text = text;
+    m_ui->hint->clear();
+    // The end of a long text stays in sight, with the place of the next sign behind it.
+    const QString shown = m_text + QLatin1Char('_');
+    m_ui->input->setText(m_ui->input->fontMetrics().elidedText(shown, Qt::ElideLeft, m_ui->input->width() - 24));
+}
+
+void VirtualKeyBoard::append(QChar sign)
+{
+    const QString text = m_text + sign;
+    if (text.size() > m_maxLength)
+        return;
+    if (!m_expression.pattern().isEmpty()) {
+        const auto match = m_expression.match(text, 0, QRegularExpression::PartialPreferCompleteMatch);
+        if (!match.hasMatch() && !match.hasPartialMatch())
+            return;
+    }
+    setInput(text);
+}
+
+void VirtualKeyBoard::handleKeyPress()
+{
+    const QChar sign = m_ui->keys->currentChar();
+    if (sign == QLatin1Char('<'))
+        setInput(m_text.left(m_text.size() - 1));
+    else
+        append(sign);
+}
+
+void VirtualKeyBoard::exchangeChar()
+{
+    m_ui->keys->exchangeChar();
+    setKeyText(1, m_ui->keys->isUpperCase() ? QStringLiteral("abc") : QStringLiteral("ABC"));
+}
+
+void VirtualKeyBoard::accept()
+{
+    if (m_expression.pattern().isEmpty() || m_expression.match(m_text).hasMatch())
+        SoftKeyDialog::accept();
+    else
+        fitText(m_ui->hint, tr("Invalid input!"), 18);
+}
+
+void VirtualKeyBoard::pressKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        m_ui->keys->moveHorizontally(key == Qt::Key_Left ? -1 : 1);
+        break;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+        m_ui->keys->moveVertically(key == Qt::Key_Up ? -1 : 1);
+        break;
+    case Qt::Key_Enter:
+    case Qt::Key_Return:
+        handleKeyPress();
+        break;
+    case Qt::Key_F1:
+        exchangeChar();
+        break;
+    case Qt::Key_F2:
+        setInput(QString());
+        break;
+    case Qt::Key_F3:
+        append(QLatin1Char(' '));
+        break;
+    case Qt::Key_F4:
+        accept();
+        break;
+    case Qt::Key_F5:
+        reject();
+        break;
+    default:
+        break;
+    }
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "widgets/dialogs/softkeydialog.h"
+
+#include <QRegularExpression>
+
+#include <memory>
+
+namespace Ui {
+class VirtualKeyBoard;
+}
+
+/// A keyboard on the screen: the arrows choose a key, Enter presses it. Keys: docs/widgets.md.
+class VirtualKeyBoard : public SoftKeyDialog
+{
+    Q_OBJECT
+
+public:
+    /// Edits `text` and answers the new one, or `text` as it was after "Cancel". With an expression only a full match
+    /// is taken, and a sign that can no longer lead to one is refused. `*accepted` tells the two ends apart.
+    static QString getKeyBoardInput(const QString &title, const QString &text, const QString &expression = QString(),
+                                    int maxLength = 64, bool *accepted = nullptr);
+
+    VirtualKeyBoard(const QString &title, const QString &text, const QString &expression, int maxLength,
+                    QWidget *parent = nullptr);
+    ~VirtualKeyBoard() override;
+
+    QString text() const { return m_text; }
+
+protected:
+    void pressKey(int key) override;
+
+private:
+    void handleKeyPress();
+    void exchangeChar();
+    void append(QChar sign);
+    void setInput(const QString &text);
+    void accept() override;
+
+    std::unique_ptr<Ui::VirtualKeyBoard> m_ui;
+    QString m_text;
+    QRegularExpression m_expression; // anchored; empty pattern: any text
+    int m_maxLength;
+};

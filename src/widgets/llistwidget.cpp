@@ -1,8 +1,0 @@
-#include "widgets/llistwidget.h"
-
-#include <QKeyEvent>
-
-void LListWidget::keyPressEvent(QKeyEvent *event)
-{
-    event->ignore();
-}

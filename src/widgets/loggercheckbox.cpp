@@ -1,8 +1,0 @@
-#include "widgets/loggercheckbox.h"
-
-#include <QKeyEvent>
-
-void LoggerCheckBox::keyPressEvent(QKeyEvent *event)
-{
-    event->ignore();
-}

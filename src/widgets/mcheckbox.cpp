@@ -1,8 +1,0 @@
-#include "widgets/mcheckbox.h"
-
-#include <QKeyEvent>
-
-void MCheckBox::keyPressEvent(QKeyEvent *event)
-{
-    event->ignore();
-}

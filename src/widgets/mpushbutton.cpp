@@ -1,8 +1,0 @@
-#include "widgets/mpushbutton.h"
-
-#include <QKeyEvent>
-
-void MPushButton::keyPressEvent(QKeyEvent *event)
-{
-    event->ignore();
-}

@@ -1,8 +1,0 @@
-#include "widgets/mradiobutton.h"
-
-#include <QKeyEvent>
-
-void MRadioButton::keyPressEvent(QKeyEvent *event)
-{
-    event->ignore();
-}

@@ -1,0 +1,92 @@
+#include <QtTest>
+
+#include <QApplication>
+
+#include "settings/config_data.h"
+#include "unit/storage/rootfiles.h"
+
+/// The switch of the language.
+class TstLanguage : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        RootFiles::clean();
+        languageTranslator.initLangTranslation(1);
+    }
+
+    void theFileWordsOfTheLanguages()
+    {
+        const char *const words[]
+            = { "", "zh", "po", "pt_zolcar", "ko", "tu", "fr", "sp", "pt", "ge", "sp_la", "ru", "jp", "it" };
+        for (int i = 0; i < 14; ++i) {
+            QCOMPARE(LangTranslation::langName(i + 1), QString(words[i]));
+            QCOMPARE(LangTranslation::filePath(i + 1),
+                     i == 0 ? QString() : QString("/mnt/userfs/language/lang_") + words[i] + ".qm");
+        }
+        for (int number : { 0, 15, -1 })
+            QCOMPARE(LangTranslation::filePath(number), QString());
+    }
+
+    void aLanguageFileTranslatesAndEnglishTakesItAway()
+    {
+        QVERIFY(QFile::copy(QStringLiteral(TEST_LANGUAGE_FILE), Target::path("/mnt/userfs/language/lang_ru.qm")));
+        QVERIFY(languageTranslator.initLangTranslation(UserConfig::RU));
+        QCOMPARE(tr("Power off?"), QString::fromUtf8("Выключить?"));
+        QVERIFY(languageTranslator.initLangTranslation(UserConfig::FR)); // no file: the source texts
+        QCOMPARE(tr("Power off?"), QString("Power off?"));
+        QVERIFY(languageTranslator.initLangTranslation(UserConfig::RU));
+        QVERIFY(languageTranslator.initLangTranslation(UserConfig::EN));
+        QCOMPARE(tr("Power off?"), QString("Power off?"));
+    }
+
+    void reloadingTellsThePages()
+    {
+        QSignalSpy changed(&languageTranslator, &LangTranslation::languageChanged);
+        languageTranslator.initLangTranslation(UserConfig::RU);
+        QCOMPARE(changed.count(), 0);
+        languageTranslator.reloadLangTranslation(UserConfig::RU);
+        QCOMPARE(changed.count(), 1);
+    }
+
+    void chineseAndJapaneseHaveAFontOfTheirOwn()
+    {
+        if (!RootFiles::exists("/usr/lib/fonts/WenQuanYiZenHei.ttf") || !RootFiles::exists("/usr/lib/fonts/arial.ttf"))
+            QFAIL("the fonts of docs/desk-set-up.md are not installed");
+        QVERIFY(QFile::copy(QStringLiteral(TEST_LANGUAGE_FILE), Target::path("/mnt/userfs/language/lang_zh.qm")));
+        QVERIFY(QFile::copy(QStringLiteral(TEST_LANGUAGE_FILE), Target::path("/mnt/userfs/language/lang_ru.qm")));
+        languageTranslator.initLangTranslation(UserConfig::ZH);
+        QCOMPARE(QApplication::font("QWidget").family(), QString("WenQuanYi Zen Hei"));
+        languageTranslator.initLangTranslation(UserConfig::RU);
+        QCOMPARE(QApplication::font("QWidget").family(), QString("Liberation Sans"));
+        QVERIFY(QFile::copy(QStringLiteral(TEST_LANGUAGE_FILE), Target::path("/mnt/userfs/language/lang_jp.qm")));
+        languageTranslator.initLangTranslation(UserConfig::JP);
+        QCOMPARE(QApplication::font("QWidget").family(), QString("WenQuanYi Zen Hei"));
+    }
+
+    void filesThatAreNoTranslationDoNotHurt_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("binary") << QByteArray::fromHex("3cb86418caef9c95cd211cbf60a1bddd").repeated(100);
+        QTest::newRow("text") << QByteArray("not a translation");
+    }
+    void filesThatAreNoTranslationDoNotHurt()
+    {
+        QFETCH(QByteArray, content);
+        RootFiles::write("/mnt/userfs/language/lang_ru.qm", content);
+        QVERIFY(languageTranslator.initLangTranslation(UserConfig::RU));
+        QCOMPARE(tr("Power off?"), QString("Power off?"));
+    }
+
+    void aFolderInPlaceOfTheFileDoesNotHurt()
+    {
+        QVERIFY(QDir().mkpath(Target::path("/mnt/userfs/language/lang_ru.qm")));
+        QVERIFY(languageTranslator.initLangTranslation(UserConfig::RU));
+    }
+};
+
+QTEST_MAIN(TstLanguage)
+#include "tst_language.moc"
