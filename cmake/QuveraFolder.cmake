@@ -46,13 +46,19 @@ function(quvera_folder FOLDER)
   target_link_libraries(qv_${FOLDER} PUBLIC ${below} Qt5::Core Qt5::Gui Qt5::Widgets Qt5::Xml Qt5::Network Threads::Threads ${ARG_LIBS})
 endfunction()
 
+# Where the sources and the executables are. A header, not definitions for each compiler call: those would keep the
+# compiler's cache from serving the same sources in another folder.
+file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/generated/testpaths.h @ONLY
+  CONTENT "#pragma once\n#define QUVERA_SOURCE_DIR \"@CMAKE_SOURCE_DIR@\"\n#define QUVERA_BIN_DIR \"@CMAKE_BINARY_DIR@/bin\"\n")
+set_property(TARGET Qt5::Test PROPERTY INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
+
 # quvera_test(<name> SOURCES <files...> [FOLDER <folder of src>] [LIBS <libraries...>] [LABELS <labels...>] [TIMEOUT <s>])
 function(quvera_test NAME)
   cmake_parse_arguments(ARG "" "FOLDER;TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
   add_executable(${NAME} ${ARG_SOURCES})
   set_target_properties(${NAME} PROPERTIES AUTOMOC ON RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
-  target_include_directories(${NAME} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests)
-  target_compile_definitions(${NAME} PRIVATE QUVERA_SOURCE_DIR="${CMAKE_SOURCE_DIR}" QUVERA_BIN_DIR="${CMAKE_BINARY_DIR}/bin")
+  target_include_directories(${NAME} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests
+                             ${CMAKE_BINARY_DIR}/generated)
   target_link_libraries(${NAME} PRIVATE Qt5::Test ${ARG_LIBS})
   if(ARG_FOLDER)
     target_link_libraries(${NAME} PRIVATE qv_${ARG_FOLDER})

@@ -1,4 +1,5 @@
 #include "desk/deskinstrument.h"
+#include "testpaths.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "desk/deskinstrument.h"
+#include "testpaths.h"
 
 #include <QImage>
 #include <QTest>

@@ -12,6 +12,7 @@
 #include "shell/quveraglobal.h"
 #include "services/modbusslave.h"
 #include "task/unitask.h"
+#include "testpaths.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

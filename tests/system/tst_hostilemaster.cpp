@@ -1,6 +1,7 @@
 // A Modbus master that gives no rest, while the stream runs many times faster than any supply.
 #include "instrument.h"
 #include "unit/services/modbusclient.h"
+#include "testpaths.h"
 
 #include <QDir>
 #include <QFile>

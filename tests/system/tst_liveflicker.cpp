@@ -1,6 +1,7 @@
 // Flicker of the published points on the page: built once for the 230 V lamp at 50 Hz and once for the 120 V lamp at
 // 60 Hz (QUVERA_TEST_HERTZ).
 #include "livegraph.h"
+#include "testpaths.h"
 
 #include <QFile>
 #include <QJsonArray>

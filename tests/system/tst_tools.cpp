@@ -1,4 +1,5 @@
 #include "instrument.h"
+#include "testpaths.h"
 
 #include <QBuffer>
 #include <QDir>

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "testpaths.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QRegularExpression>

@@ -2,6 +2,7 @@
 #include "scenario/eventforms.h"
 #include "scenario/options.h"
 #include "scenario/scenariofile.h"
+#include "testpaths.h"
 
 #include <QFile>
 #include <QRegularExpression>

@@ -1,6 +1,7 @@
 #include "link/frame.h"
 #include "link/streamfile.h"
 #include "link/unixsocket.h"
+#include "testpaths.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,5 +1,6 @@
 // Reads the sources and holds them to the rules of docs/architecture.md.
 #include "unit/documentpage.h"
+#include "testpaths.h"
 
 #include <QDir>
 #include <QDirIterator>

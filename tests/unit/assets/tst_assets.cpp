@@ -1,3 +1,5 @@
+#include "testpaths.h"
+
 #include <QtTest>
 
 #include <QDirIterator>

@@ -4,6 +4,7 @@
 #include "device/idevice.h"
 #include "unit/documentpage.h"
 #include "openlink.h"
+#include "testpaths.h"
 
 #include <QTest>
 #include <cstring>
