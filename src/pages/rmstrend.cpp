@@ -34,10 +34,10 @@ QVector<float> decimate(const QList<float> &values, const Window &window, float 
 }
 
 TrendScaler::Picture scale(const QList<float> (&lists)[kChannels], const Window &window, float reference, double factor,
-                           float *max, float *min)
+                           float *max, float *min, int counted)
 {
     TrendScaler::Picture picture;
-    if (window.offset >= lists[0].size() || !TrendScaler::findExtremes(lists, max, min))
+    if (window.offset >= lists[0].size() || !TrendScaler::findExtremes(lists, max, min, counted))
         return picture;
     TrendScaler::labelLimits(picture, max, min, factor);
     for (int c = 0; c < kChannels; ++c) {

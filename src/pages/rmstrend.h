@@ -28,10 +28,10 @@ struct Window
 QVector<float> decimate(const QList<float> &values, const Window &window, float reference);
 
 /// Offsets and limit labels of four lists. Extremes count over the whole lists, so that paging does not rescale, and go
-/// to \a max and \a min; \a factor is the display scale of the labels. Empty without values in the first list or with
-/// an offset beyond it.
+/// to \a max and \a min; only the lists of the mask \a counted count. \a factor is the display scale of the labels.
+/// Empty without values in the first list or with an offset beyond it.
 TrendScaler::Picture scale(const QList<float> (&lists)[kChannels], const Window &window, float reference, double factor,
-                           float *max, float *min);
+                           float *max, float *min, int counted = TrendScaler::kAllSeries);
 
 /// Value under a cursor that stands on the \a position th point from the right edge, 1 to 600: the oldest value behind
 /// that point. 0 for an empty list or an offset beyond it; positions before the first value give the first.

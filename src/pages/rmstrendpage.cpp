@@ -110,9 +110,11 @@ void RmsTrendPage::showTrend()
     const DisplayUnits &units = m_settingConfig_g.units();
     const bool current = m_quantity == Current;
     // A dip or swell lies far from the nominal voltage, an inrush far from no current.
+    const int flags = ChannelLabels::channels().dipTrendFlags();
     m_picture = RmsTrend::scale(shownLists(*record), m_window, current ? 0.0f : m_settingConfig_g.getRealNominalVolt(),
-                                current ? units.factorAmpere : units.factorVolt, record->max, record->min);
-    m_chart->setFlags(ChannelLabels::channels().dipTrendFlags());
+                                current ? units.factorAmpere : units.factorVolt, record->max, record->min,
+                                TrendScaler::seriesOf(flags));
+    m_chart->setFlags(flags);
     if (!m_picture.upper[0].isNull())
         m_chart->setLimits(m_picture.upper, m_picture.lower);
     showCursor();

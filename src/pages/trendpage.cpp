@@ -83,7 +83,7 @@ void TrendPage::showTrend()
     __trend_data *record = quantity().record();
     if (!record)
         return;
-    m_picture = TrendScaler::scale(*record, quantity().factor());
+    m_picture = TrendScaler::scale(*record, quantity().factor(), TrendScaler::seriesOf(quantity().flags()));
     if (!m_picture.upper[0].isNull())
         m_chart->setLimits(m_picture.upper, m_picture.lower);
     __trend_chart_data data;

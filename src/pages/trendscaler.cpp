@@ -1,5 +1,7 @@
 #include "pages/trendscaler.h"
 
+#include "widgets/charts/trendchart.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -35,12 +37,22 @@ qint16 bandOffset(float value, float min, float max)
     return std::isfinite(y) ? qint16(std::clamp(y, -32768.0, 32767.0)) : qint16(0);
 }
 
-bool findExtremes(__trend_data &record)
+int seriesOf(int trendFlags)
 {
-    return findExtremes(record.series, record.max, record.min);
+    int series = trendFlags & (TrendL1 | TrendL2 | TrendL3 | TrendN);
+    if (trendFlags & TrendSingle)
+        series |= 1 << 0;
+    if (trendFlags & (TrendSingleFourth | TrendTotal))
+        series |= 1 << 3;
+    return series;
 }
 
-bool findExtremes(const QList<float> (&series)[kChannels], float *max, float *min)
+bool findExtremes(__trend_data &record, int counted)
+{
+    return findExtremes(record.series, record.max, record.min, counted);
+}
+
+bool findExtremes(const QList<float> (&series)[kChannels], float *max, float *min, int counted)
 {
     if (series[0].isEmpty())
         return false;
@@ -51,6 +63,8 @@ bool findExtremes(const QList<float> (&series)[kChannels], float *max, float *mi
         float highest = 0;
         float lowest = 0;
         for (int c = first; c <= last; ++c) {
+            if (!(counted >> c & 1))
+                continue;
             for (float raw : series[c]) {
                 const float value = cleaned(raw);
                 highest = any ? std::max(highest, value) : value;
@@ -82,10 +96,10 @@ void labelLimits(Picture &picture, const float *max, const float *min, double fa
     }
 }
 
-Picture scale(__trend_data &record, double factor)
+Picture scale(__trend_data &record, double factor, int counted)
 {
     Picture picture;
-    if (!findExtremes(record))
+    if (!findExtremes(record, counted))
         return picture;
     labelLimits(picture, record.max, record.min, factor);
     for (int c = 0; c < kChannels; ++c) {

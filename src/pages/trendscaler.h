@@ -19,11 +19,18 @@ float lowerTen(float value);
 /// Pixel offset of \a value in a band from \a min at the bottom to \a max at the top; 0 for anything but a number.
 qint16 bandOffset(float value, float min, float max);
 
+constexpr int kAllSeries = (1 << kChannels) - 1;
+
+/// Series behind the curves of a trend chart's flags, a bit each: a single value stands in the first series, a total or
+/// a single value in the fourth band in the fourth.
+int seriesOf(int trendFlags);
+
 /// Extremes of the first three series together [0] and of the fourth [1], rounded outward, stored into the record.
-/// False without any value in series 0.
-bool findExtremes(__trend_data &record);
+/// Only the series of the mask \a counted count: an input that the wiring does not have may stand at any value and
+/// would flatten the curves of the others. False without any value in series 0.
+bool findExtremes(__trend_data &record, int counted = kAllSeries);
 /// The same of four lists, into \a max and \a min with two places each.
-bool findExtremes(const QList<float> (&series)[kChannels], float *max, float *min);
+bool findExtremes(const QList<float> (&series)[kChannels], float *max, float *min, int counted = kAllSeries);
 
 /// At most the last 600 points of \a values as offsets between \a min and \a max.
 QVector<qint16> offsets(const QList<float> &values, float min, float max);
@@ -39,8 +46,8 @@ struct Picture
 /// Limit labels of \a picture: whole numbers of the extremes (two places each) times \a factor.
 void labelLimits(Picture &picture, const float *max, const float *min, double factor);
 
-/// Scales \a record; \a factor is the display scale of the limit labels. Without values the picture is empty and the
-/// labels are null.
-Picture scale(__trend_data &record, double factor);
+/// Scales \a record by its series \a counted; \a factor is the display scale of the limit labels. Without values the
+/// picture is empty and the labels are null.
+Picture scale(__trend_data &record, double factor, int counted = kAllSeries);
 
 } // namespace TrendScaler

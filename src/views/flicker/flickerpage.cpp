@@ -61,7 +61,7 @@ void FlickerPage::showFlickerTrend()
         if (!record.series[p].isEmpty())
             latest[p] = record.series[p].last();
     }
-    m_picture = TrendScaler::scale(record, 1.0);
+    m_picture = TrendScaler::scale(record, 1.0, TrendScaler::seriesOf(m_ui->trend_flicker->flags()));
     if (!m_picture.upper[0].isNull())
         m_ui->trend_flicker->setLimits(m_picture.upper, m_picture.lower);
     __trend_chart_data data;

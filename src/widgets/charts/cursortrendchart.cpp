@@ -4,11 +4,7 @@
 
 #include <QPainter>
 
-// As required: one set of last offsets for all charts with a cursor. Only one of their pages is on top at a time, and
-// a page shows its data again before its chart is seen.
-static qint16 s_lastOffset[4];
-
-CursorTrendChart::CursorTrendChart(QWidget *parent) : CurveTrendChart(s_lastOffset, parent) { }
+CursorTrendChart::CursorTrendChart(QWidget *parent) : CurveTrendChart(parent) { }
 
 void CursorTrendChart::setCursorOn(bool on)
 {

@@ -4,9 +4,6 @@
 
 #include <QPainter>
 
-CurveTrendChart::CurveTrendChart(qint16 *lastOffsets, QWidget *parent) : TrendChart(parent), m_lastOffset(lastOffsets)
-{ }
-
 void CurveTrendChart::takeData(const __trend_chart_data &data)
 {
     for (int band = 0; band < kBands; ++band)
@@ -17,11 +14,8 @@ void CurveTrendChart::takeData(const __trend_chart_data &data)
 
 void CurveTrendChart::initLinePath()
 {
-    for (int band = 0; band < kBands; ++band) {
+    for (int band = 0; band < kBands; ++band)
         m_path[band] = ChartParts::seriesPath(m_series[band]);
-        if (!m_series[band].isEmpty())
-            m_lastOffset[band] = m_series[band].last();
-    }
 }
 
 void CurveTrendChart::paintEvent(QPaintEvent *event)
@@ -40,6 +34,6 @@ void CurveTrendChart::paintEvent(QPaintEvent *event)
         painter.translate(1.0, bandTop(band) + 1);
         painter.drawPath(m_path[band]);
         painter.resetTransform();
-        drawCursors(painter, curve.bit, plotWidth(), bandTop(band) + 1 + m_lastOffset[band]);
+        drawCursors(painter, curve.bit, plotWidth(), bandTop(band) + 1 + m_series[band].last());
     }
 }

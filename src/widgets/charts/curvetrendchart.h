@@ -5,12 +5,11 @@
 #include <QPainterPath>
 
 /// A trend chart with its curves: one path a band, built when the data arrives, so that a paint only translates and
-/// strokes. The derived charts say where the last offsets are kept, and add cursors.
+/// strokes. The derived charts add cursors.
 class CurveTrendChart : public TrendChart
 {
 protected:
-    /// `lastOffsets` points to four entries that outlive the chart.
-    CurveTrendChart(qint16 *lastOffsets, QWidget *parent);
+    using TrendChart::TrendChart;
 
     /// Takes the series, builds their paths and updates.
     void takeData(const __trend_chart_data &data);
@@ -23,5 +22,4 @@ private:
     void initLinePath();
 
     QPainterPath m_path[kBands];
-    qint16 *m_lastOffset; // y of each band's newest point, where its flag stands
 };

@@ -34,6 +34,13 @@ constexpr quint8 kCurrentBits = 0xf0;
 // of the nominal r.m.s. value peaks at 1.414 times it.
 constexpr double kRawPerNominal = 4633.3952;
 
+/// A nominal value without its decimals: 0 for not a number, bounded where an integer ends.
+static int truncated(float nominal)
+{
+    constexpr float kMost = 2.0e9f;
+    return std::isnan(nominal) ? 0 : int(std::clamp(nominal, -kMost, kMost));
+}
+
 ScopeWidget::ScopeWidget(QWidget *parent) : QWidget(parent), m_data(new __scope_data_ui)
 {
     std::memset(m_data.get(), 0, sizeof *m_data);
@@ -127,8 +134,8 @@ void ScopeWidget::setDefaultZoom(float Vnom, float Ucoefficient, float Inom, flo
     m_zoomIndex = kZoomOne;
     m_fullU = Vnom * kRawPerNominal / Ucoefficient;
     m_fullI = Inom * kRawPerNominal / Icoefficient;
-    m_Unom = int(ChartParts::boundedPixel(Vnom / 1000.0) * 1000.0);
-    m_Inom = int(ChartParts::boundedPixel(Inom / 1000.0) * 1000.0);
+    m_Unom = truncated(Vnom);
+    m_Inom = truncated(Inom);
     setScale();
 }
 
@@ -231,7 +238,8 @@ void ScopeWidget::drawScaleLabels(QPainter &painter) const
 void ScopeWidget::drawCurves(QPainter &painter) const
 {
     painter.save();
-    painter.setClipRect(QRect(1, 1, 598, 301)); // a zoomed curve stays inside its frame
+    // A zoomed curve stays between top and bottom; to the right its newest sample stands on pixel 600.
+    painter.setClipRect(QRect(1, 1, ChartParts::kPlotPoints, 301));
     painter.translate(1.0, 0.0); // the cursor stands one pixel right of its sample
     for (int curve = 0; curve < kCurves; ++curve) {
         if (!(m_flags & (1 << curve)))

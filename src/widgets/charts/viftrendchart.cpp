@@ -1,6 +1,6 @@
 #include "widgets/charts/viftrendchart.h"
 
-VifTrendChart::VifTrendChart(QWidget *parent) : CurveTrendChart(m_last, parent) { }
+VifTrendChart::VifTrendChart(QWidget *parent) : CurveTrendChart(parent) { }
 
 void VifTrendChart::showVifData(const __trend_chart_data *data)
 {

@@ -10,7 +10,4 @@ public:
 
     /// Shows the series. Nothing changes when `data` is null or its first series is empty.
     void showVifData(const __trend_chart_data *data);
-
-private:
-    qint16 m_last[kBands] = {};
 };

@@ -82,6 +82,7 @@ private slots:
     void everyRestartBeginsWithTheVoltage();
     void onePhaseWiringsShowASingleCurve_data();
     void onePhaseWiringsShowASingleCurve();
+    void anInputThatTheWiringDoesNotHaveLeavesTheScaleAlone();
     void holdFreezesTheTrend();
     void newValuesComeInOnceAndTheOldestGo();
     void recordsKeepTheirAddresses();
@@ -510,6 +511,23 @@ void TstDips::onePhaseWiringsShowASingleCurve()
     m_page->init_parameter();
     feed(10);
     QCOMPARE(chart()->flags(), flags);
+}
+
+void TstDips::anInputThatTheWiringDoesNotHaveLeavesTheScaleAlone()
+{
+    QWidget *chart = named<QWidget>(mainPage(), "trend");
+    chart->resize(609, 317);
+    setUpMeasurement(5); // L1, L2 and N
+    const auto picture = [&](float open) {
+        m_page->init_parameter();
+        for (int c = 0; c < kChannels; ++c) {
+            for (int i = 0; i < 100; ++i)
+                g_dipswell_trend->voltage[c].append(c == 2 ? open : 230.0f + i % 7);
+        }
+        m_page->updateDisplay(nullptr);
+        return chart->grab().toImage();
+    };
+    QCOMPARE(picture(0.0f), picture(233.0f));
 }
 
 void TstDips::holdFreezesTheTrend()

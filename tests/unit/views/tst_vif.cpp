@@ -20,6 +20,7 @@ using namespace PageTest;
 namespace {
 
 const char *const kColumns[] = { "L1", "L2", "L3", "N" };
+const int kWiringFlags[10] = { 15, 7, 9, 7, 11, 1, 15, 7, 15, 7 };
 
 } // namespace
 
@@ -55,6 +56,9 @@ private slots:
     void equalValuesStillHaveAScaleOfTen_data();
     void equalValuesStillHaveAScaleOfTen();
     void scalingRoundsOutwardToTens();
+    void anInputThatTheWiringDoesNotHaveLeavesTheScaleAlone_data() { addWirings("flags", kWiringFlags); }
+    void anInputThatTheWiringDoesNotHaveLeavesTheScaleAlone();
+    void scalingCountsOnlyTheSeriesOfTheCurves();
     void scalingCutsToSixHundredPoints();
     void scalingSurvivesWildValues();
 
@@ -464,6 +468,40 @@ void TstVif::scalingRoundsOutwardToTens()
     // (1 - (221 - 220) / 30) * 75 = 72.5 and (1 - 19 / 30) * 75 = 27.5
     QCOMPARE(picture.series[0], (QVector<qint16> { 72, 27 }));
     QCOMPARE(picture.series[3], (QVector<qint16> { 48, 26 })); // 48.75, 26.25
+}
+
+void TstVif::anInputThatTheWiringDoesNotHaveLeavesTheScaleAlone()
+{
+    QFETCH(int, joinMode);
+    QFETCH(int, flags);
+    setUpMeasurement(joinMode);
+    m_page->init_parameter();
+    QWidget *chart = named<QWidget>(trendPage(), "trend");
+    chart->resize(609, 317);
+    // Whatever the inputs that are not connected pick up, the picture is that of the wiring's own.
+    const auto picture = [&](float open) {
+        for (int c = 0; c < kChannels; ++c)
+            g_vif_data->trend[VifTrendURms].series[c] = { 231.0f, flags >> c & 1 ? 238.0f : open, 233.0f };
+        m_page->updateDisplay(nullptr);
+        return chart->grab().toImage();
+    };
+    QCOMPARE(picture(0.0f), picture(238.0f));
+}
+
+void TstVif::scalingCountsOnlyTheSeriesOfTheCurves()
+{
+    __trend_data record;
+    record.series[0] = { 221.0f, 239.0f };
+    record.series[1] = { 5.0f };
+    record.series[3] = { 77.0f };
+    const TrendScaler::Picture picture = TrendScaler::scale(record, 1.0, TrendScaler::seriesOf(TrendL1 | TrendTotal));
+    QCOMPARE(picture.lower[0], QStringLiteral("220"));
+    QCOMPARE(picture.upper[0], QStringLiteral("240"));
+    QCOMPARE(picture.lower[1], QStringLiteral("70"));
+    // A single value is drawn from the first series, the one in the fourth band from the fourth.
+    QCOMPARE(TrendScaler::seriesOf(TrendSingle), 1);
+    QCOMPARE(TrendScaler::seriesOf(TrendSingleFourth), 8);
+    QCOMPARE(TrendScaler::seriesOf(TrendL2 | TrendN), 10);
 }
 
 void TstVif::scalingCutsToSixHundredPoints()

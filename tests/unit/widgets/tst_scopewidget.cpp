@@ -8,6 +8,7 @@
 
 #include <cmath>
 #include <cstring>
+#include <limits>
 #include <memory>
 
 static const QColor kGrey(Qt::darkGray);
@@ -33,6 +34,9 @@ private slots:
     void bottomAxisHasTicksEvery100Samples();
     void curvesHaveTheirColoursAndOrder();
     void scaleLabelsHalveWhenTheZoomDoubles();
+    void scaleLabelsAreTheNominalValueWithoutItsDecimals_data();
+    void scaleLabelsAreTheNominalValueWithoutItsDecimals();
+    void newestSamplesAreDrawn();
     void scaleLabelsShowOnlyForTheirCurves();
     void cursorMarksEachCurveInItsPhaseColour();
     void switchedOffCursorDrawsNothing();
@@ -292,6 +296,42 @@ void TstScopeWidget::scaleLabelsHalveWhenTheZoomDoubles()
     scope.setZoomNext();
     const QImage two = labelled(scope).copy(top);
     QCOMPARE(two, written(QStringLiteral("162.61V"), top.size(), QPoint(1, 14))); // 115 * 1.414
+}
+
+void TstScopeWidget::scaleLabelsAreTheNominalValueWithoutItsDecimals_data()
+{
+    QTest::addColumn<float>("nominal");
+    QTest::addColumn<QString>("label");
+    QTest::newRow("a whole number stays") << 2030.0f << "2030V";
+    QTest::newRow("another") << 2050.0f << "2050V";
+    QTest::newRow("decimals go") << 132.79f << "132V";
+    QTest::newRow("no number") << std::numeric_limits<float>::quiet_NaN() << "0V";
+    QTest::newRow("endless") << std::numeric_limits<float>::infinity() << "2e+09V";
+}
+
+void TstScopeWidget::scaleLabelsAreTheNominalValueWithoutItsDecimals()
+{
+    QFETCH(float, nominal);
+    QFETCH(QString, label);
+    ScopeWidget scope;
+    scope.setFlags(1);
+    scope.setDefaultZoom(nominal, 79.25f, 1000.0f, 214.45f);
+    const QRect place = edges(1, 46, 80, 61);
+    QCOMPARE(labelled(scope).copy(place), written(label, place.size(), QPoint(1, 13)));
+}
+
+void TstScopeWidget::newestSamplesAreDrawn()
+{
+    const auto data = emptyData();
+    for (int i = 0; i < 600; ++i)
+        data->voltageSamples[0][i] = i < 598 ? 0 : 5000;
+    ScopeWidget scope;
+    size(scope);
+    scope.setFlags(1);
+    scope.setCursorOn(false);
+    scope.setDefaultZoom(14600.0, 14600.0); // 0.01 pixels per unit: 5000 stands 50 pixels above the middle
+    scope.showScopeData(data.get());
+    QVERIFY(countPixels(painted(scope), edges(599, 100, 600, 101), PhaseColor::colorUA()) >= 2);
 }
 
 void TstScopeWidget::scaleLabelsShowOnlyForTheirCurves()
