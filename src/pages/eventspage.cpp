@@ -5,7 +5,7 @@
 #include "widgets/controls/labellook.h"
 
 EventsPage::EventsPage(_quvera_ui_type type, QWidget *parent)
-    : ViewPage(type, parent), m_ui(new Ui::EventsPage), m_repeat(new KeyRepeat(this, 0, { 1 }))
+    : LivePage(type, parent), m_ui(new Ui::EventsPage), m_repeat(new KeyRepeat(this, 0, { 1 }))
 {
     static const KeyRow<EventsPage> keys[] = {
         { Qt::Key_Up, nullptr, &EventsPage::pressUp },
@@ -23,13 +23,13 @@ EventsPage::~EventsPage() = default;
 
 void EventsPage::init_parameter()
 {
-    ViewPage::init_parameter();
+    LivePage::init_parameter();
     refreshEventList(nullptr);
 }
 
 void EventsPage::retranslateUi()
 {
-    ViewPage::retranslateUi();
+    LivePage::retranslateUi();
     setKeyCaption(5, tr("Back"));
     setText(m_ui->events_t, tr("EVENTS :"));
     m_ui->events->update(); // its column titles

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "model/pqaeventitem.h"
-#include "pages/viewpage.h"
+#include "pages/livepage.h"
 
 #include <memory>
 
@@ -12,7 +12,7 @@ class KeyRepeat;
 
 /// List of a function's events, one line selected, with a counter "3/17". The arrows up and down move the selection,
 /// and go on while they are held; F5 goes back.
-class EventsPage : public ViewPage
+class EventsPage : public LivePage
 {
     Q_OBJECT
 

@@ -4,13 +4,13 @@
 #include "widgets/dialogs/savedialog.h"
 
 FunctionPage::FunctionPage(_quvera_ui_type type, SaveIdentity identity, QWidget *parent)
-    : ViewPage(type, parent), m_identity(identity)
+    : LivePage(type, parent), m_identity(identity)
 { }
 
 bool FunctionPage::pressKey(int key)
 {
     if (key != Qt::Key_F11)
-        return ViewPage::pressKey(key);
+        return LivePage::pressKey(key);
     saveToFile();
     return true;
 }

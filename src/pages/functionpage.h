@@ -1,11 +1,11 @@
 #pragma once
 
-#include "pages/viewpage.h"
+#include "pages/livepage.h"
 
 #include <QByteArray>
 
 /// The page of one measuring function as the shell and the task see it. F11 saves it.
-class FunctionPage : public ViewPage
+class FunctionPage : public LivePage
 {
     Q_OBJECT
 

@@ -7,14 +7,14 @@
 
 void MeterPage::init_parameter()
 {
-    ViewPage::init_parameter();
+    LivePage::init_parameter();
     showTitle();
     showCurParams();
 }
 
 void MeterPage::retranslateUi()
 {
-    ViewPage::retranslateUi();
+    LivePage::retranslateUi();
     // Where the form has this label, it also brings the text to be translated.
     setText(findChild<QLabel *>(QStringLiteral("freq_t")),
             QCoreApplication::translate(metaObject()->className(), "Freq ="));

@@ -2,7 +2,7 @@
 
 #include "model/displayunits.h"
 #include "pages/channellabels.h"
-#include "pages/viewpage.h"
+#include "pages/livepage.h"
 
 #include <vector>
 
@@ -16,12 +16,12 @@ struct MeterLine
 
 /// A page that shows a table of live values, a line per quantity and a column per channel of the wiring. A page's own
 /// file holds the table of its lines and where each finds its values.
-class MeterPage : public ViewPage
+class MeterPage : public LivePage
 {
     Q_OBJECT
 
 public:
-    using ViewPage::ViewPage;
+    using LivePage::LivePage;
 
 public slots:
     void updateDisplay(void *) override { showCurParams(); }

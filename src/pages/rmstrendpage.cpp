@@ -36,7 +36,7 @@ void RmsTrendPage::setUp(CursorTrendChart *chart)
 
 void RmsTrendPage::init_parameter()
 {
-    ViewPage::init_parameter();
+    LivePage::init_parameter();
     resetView();
     showEventsCounts(0);
 }
@@ -60,7 +60,7 @@ void RmsTrendPage::resetView()
 
 void RmsTrendPage::retranslateUi()
 {
-    ViewPage::retranslateUi();
+    LivePage::retranslateUi();
     setKeyCaption(2, tr("Events"));
     setText(findChild<QLabel *>(QStringLiteral("events_t")), tr("EVENTS :"));
     showType();

@@ -3,7 +3,7 @@
 #include "model/trendzoom.h"
 #include "pages/channellabels.h"
 #include "pages/rmstrend.h"
-#include "pages/viewpage.h"
+#include "pages/livepage.h"
 
 #include <QVector>
 
@@ -16,7 +16,7 @@ struct __trend_chart_data;
 /// Scrolling trend of the half-cycle r.m.s. values of all channels, voltages or currents, with a cursor and zoom steps:
 /// what the pages of dips and swells and of inrush have in common. Exactly one of cursor and zoom is on; the arrows
 /// left and right act on that one. A derived page gives the records, the zoom steps and the chart.
-class RmsTrendPage : public ViewPage
+class RmsTrendPage : public LivePage
 {
     Q_OBJECT
 
@@ -39,7 +39,7 @@ public slots:
     void showEventsCounts(int count);
 
 protected:
-    using ViewPage::ViewPage;
+    using LivePage::LivePage;
 
     /// Labels of the form are found by their names; the keys F1 to F4, left and right get their actions. To be called
     /// once, after the form exists.

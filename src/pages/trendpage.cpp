@@ -7,7 +7,7 @@
 #include <QLabel>
 
 TrendPage::TrendPage(_quvera_ui_type type, const std::vector<Quantity> &cycle, QWidget *parent)
-    : ViewPage(type, parent), m_cycle(cycle)
+    : LivePage(type, parent), m_cycle(cycle)
 { }
 
 void TrendPage::initTrend(const QStringList &axis, const char *chart, const char *captionEnd)
@@ -23,7 +23,7 @@ void TrendPage::initTrend(const QStringList &axis, const char *chart, const char
 
 void TrendPage::init_parameter()
 {
-    ViewPage::init_parameter();
+    LivePage::init_parameter();
     initTrendFlags();
     showType();
     showTrend();
@@ -31,7 +31,7 @@ void TrendPage::init_parameter()
 
 void TrendPage::retranslateUi()
 {
-    ViewPage::retranslateUi();
+    LivePage::retranslateUi();
     initTrendFlags();
     showType();
     if (quantity().record())

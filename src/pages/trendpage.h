@@ -2,7 +2,7 @@
 
 #include "pages/channellabels.h"
 #include "pages/trendscaler.h"
-#include "pages/viewpage.h"
+#include "pages/livepage.h"
 
 #include <QStringList>
 
@@ -14,7 +14,7 @@ class VifTrendChart;
 /// Ten-minute trend of one quantity at a time, with its latest values below the chart: what every trend page does. A
 /// page adds its table of quantities and the key back. Its form has the labels "type", "D1_Caption" to "D4_Caption",
 /// "D1_Value" to "D4_Value" and the chart "trend".
-class TrendPage : public ViewPage
+class TrendPage : public LivePage
 {
     Q_OBJECT
 

@@ -13,27 +13,23 @@ ViewContainer::ViewContainer(_quvera_ui_type type, SaveIdentity identity, QWidge
     m_stack->setGeometry(0, 0, 640, 448);
 }
 
-void ViewContainer::addPage(ViewPage *page)
+void ViewContainer::addPage(LivePage *page)
 {
     m_stack->addWidget(page);
     m_pages.append(page);
-    connect(page, &ViewPage::goScope, this, &ViewPage::goScope);
-    connect(page, &ViewPage::goMenu, this, &ViewPage::goMenu);
-    connect(page, &ViewPage::goMonitor, this, &ViewPage::goMonitor);
-    connect(page, &ViewPage::goSetup, this, &ViewPage::goSetup);
-    connect(page, &ViewPage::goMemory, this, &ViewPage::goMemory);
-    connect(page, &ViewPage::run, this, &ViewPage::run);
-    connect(page, &ViewPage::pause, this, &ViewPage::pause);
-    connect(this, &FunctionPage::taskContinued, page, &ViewPage::setContinue);
-    connect(this, &FunctionPage::taskPaused, page, &ViewPage::setPause);
+    connect(page, &Page::leave, this, &Page::leave);
+    connect(page, &LivePage::run, this, &LivePage::run);
+    connect(page, &LivePage::pause, this, &LivePage::pause);
+    connect(this, &FunctionPage::taskContinued, page, &LivePage::setContinue);
+    connect(this, &FunctionPage::taskPaused, page, &LivePage::setPause);
 }
 
-ViewPage *ViewContainer::currentPage() const
+LivePage *ViewContainer::currentPage() const
 {
-    return qobject_cast<ViewPage *>(m_stack->currentWidget());
+    return qobject_cast<LivePage *>(m_stack->currentWidget());
 }
 
-void ViewContainer::showPage(ViewPage *page)
+void ViewContainer::showPage(LivePage *page)
 {
     m_stack->setCurrentWidget(page);
     if (isVisible())
@@ -49,25 +45,25 @@ void ViewContainer::enterFirstPage()
 void ViewContainer::init_parameter()
 {
     initDisplayParam();
-    for (ViewPage *page : qAsConst(m_pages))
+    for (LivePage *page : qAsConst(m_pages))
         page->init_parameter();
 }
 
 void ViewContainer::retranslateUi()
 {
-    for (ViewPage *page : qAsConst(m_pages))
+    for (LivePage *page : qAsConst(m_pages))
         page->retranslateUi();
 }
 
 void ViewContainer::updateDisplay(void *data)
 {
-    for (ViewPage *page : qAsConst(m_pages))
+    for (LivePage *page : qAsConst(m_pages))
         page->updateDisplay(data);
 }
 
 void ViewContainer::stopWatchChanged(const QString &text)
 {
-    for (ViewPage *page : qAsConst(m_pages))
+    for (LivePage *page : qAsConst(m_pages))
         page->stopWatchChanged(text);
 }
 
@@ -78,7 +74,7 @@ bool ViewContainer::pressKey(int key)
 
 void ViewContainer::focusInEvent(QFocusEvent *event)
 {
-    if (ViewPage *page = currentPage())
+    if (LivePage *page = currentPage())
         page->setFocus();
     else
         FunctionPage::focusInEvent(event);

@@ -14,8 +14,8 @@ class ViewContainer : public FunctionPage
 public:
     ViewContainer(_quvera_ui_type type, SaveIdentity identity, QWidget *parent = nullptr);
 
-    ViewPage *currentPage() const;
-    const QList<ViewPage *> &pages() const { return m_pages; }
+    LivePage *currentPage() const;
+    const QList<LivePage *> &pages() const { return m_pages; }
     /// Makes the first sub page current.
     void enterFirstPage();
 
@@ -27,8 +27,8 @@ public slots:
 
 protected:
     /// Takes over \a page, forwards its navigation, run and pause, and sends it the task's answers.
-    void addPage(ViewPage *page);
-    void showPage(ViewPage *page);
+    void addPage(LivePage *page);
+    void showPage(LivePage *page);
     /// Allocates the function's record at the first call, empties it at each further one. Runs before the sub pages.
     virtual void initDisplayParam() { }
 
@@ -38,5 +38,5 @@ protected:
 
 private:
     QStackedWidget *m_stack;
-    QList<ViewPage *> m_pages;
+    QList<LivePage *> m_pages;
 };

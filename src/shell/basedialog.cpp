@@ -25,32 +25,42 @@ namespace {
 
 const QString kTimeFormat = QStringLiteral("yyyy-MM-dd hh:mm:ss");
 
+/// How a page is entered.
+enum class Plan {
+    Menu, // the measurement goes on unless its function has an end of its own
+    Live, // starts the basic function where none runs
+    Commanded, // its function starts by the user's command
+    Settings, // ends the measurement
+    Overlay, // over the current page, which stays current
+};
+
 /// What the shell knows of each page.
 struct PageRow
 {
     const char *title;
+    Plan plan;
     AbstractTask::UniFunction function; // that it demands of the task
 };
 const PageRow kPages[kUiTypes] = {
-    { QT_TRANSLATE_NOOP("BaseDialog", "Menu"), AbstractTask::UniBasic },
-    { QT_TRANSLATE_NOOP("BaseDialog", "Scope"), AbstractTask::UniBasic },
-    { QT_TRANSLATE_NOOP("BaseDialog", "Volts/Amps/Hertz"), AbstractTask::UniBasic },
-    { QT_TRANSLATE_NOOP("BaseDialog", "Dips&Swells"), AbstractTask::UniBasic },
-    { QT_TRANSLATE_NOOP("BaseDialog", "Harmonics"), AbstractTask::UniBasic },
-    { QT_TRANSLATE_NOOP("BaseDialog", "Power&Energy"), AbstractTask::UniBasic },
-    { QT_TRANSLATE_NOOP("BaseDialog", "Flicker"), AbstractTask::UniBasic },
-    { QT_TRANSLATE_NOOP("BaseDialog", "Unbalance"), AbstractTask::UniBasic },
-    { QT_TRANSLATE_NOOP("BaseDialog", "Transients"), AbstractTask::UniBasic },
-    { QT_TRANSLATE_NOOP("BaseDialog", "Inrush"), AbstractTask::UniBasic },
-    { QT_TRANSLATE_NOOP("BaseDialog", "Wave"), AbstractTask::UniWave },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Menu"), Plan::Menu, AbstractTask::UniBasic },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Scope"), Plan::Live, AbstractTask::UniBasic },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Volts/Amps/Hertz"), Plan::Live, AbstractTask::UniBasic },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Dips&Swells"), Plan::Live, AbstractTask::UniBasic },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Harmonics"), Plan::Live, AbstractTask::UniBasic },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Power&Energy"), Plan::Live, AbstractTask::UniBasic },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Flicker"), Plan::Live, AbstractTask::UniBasic },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Unbalance"), Plan::Live, AbstractTask::UniBasic },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Transients"), Plan::Live, AbstractTask::UniBasic },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Inrush"), Plan::Live, AbstractTask::UniBasic },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Wave"), Plan::Commanded, AbstractTask::UniWave },
     // Recording runs inside the normal function.
-    { QT_TRANSLATE_NOOP("BaseDialog", "Logger"), AbstractTask::UniBasic },
-    { QT_TRANSLATE_NOOP("BaseDialog", "Monitor"), AbstractTask::UniMonitor },
-    { QT_TRANSLATE_NOOP("BaseDialog", "User"), AbstractTask::UniBasic },
-    { QT_TRANSLATE_NOOP("BaseDialog", "Setup"), AbstractTask::UniBasic },
-    { QT_TRANSLATE_NOOP("BaseDialog", "Memory"), AbstractTask::UniBasic },
-    { QT_TRANSLATE_NOOP("BaseDialog", "Mains Signaling"), AbstractTask::UniBasic },
-    { QT_TRANSLATE_NOOP("BaseDialog", "Power Inverter"), AbstractTask::UniPowerInverter },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Logger"), Plan::Commanded, AbstractTask::UniBasic },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Monitor"), Plan::Commanded, AbstractTask::UniMonitor },
+    { QT_TRANSLATE_NOOP("BaseDialog", "User"), Plan::Settings, AbstractTask::UniBasic },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Setup"), Plan::Settings, AbstractTask::UniBasic },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Memory"), Plan::Overlay, AbstractTask::UniBasic },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Mains Signaling"), Plan::Live, AbstractTask::UniBasic },
+    { QT_TRANSLATE_NOOP("BaseDialog", "Power Inverter"), Plan::Commanded, AbstractTask::UniPowerInverter },
 };
 
 /// The order of the stack; the menu is first of all.
@@ -202,44 +212,6 @@ void BaseDialog::highLightMenu()
     displayTaskName(title(UI_MENU));
 }
 
-void BaseDialog::linkNavigation(_quvera_ui_type type, bool connected)
-{
-    const struct
-    {
-        void (ViewPage::*signal)(_quvera_ui_type, _quvera_ui_type);
-        void (BaseDialog::*slot)(_quvera_ui_type, _quvera_ui_type);
-        _quvera_ui_type target; // a page does not lead to itself
-    } rows[] = {
-        { &ViewPage::goMenu, &BaseDialog::showMenu, UI_MENU },
-        { &ViewPage::goScope, &BaseDialog::showScope, UI_SCOPE },
-        { &ViewPage::goMonitor, &BaseDialog::showMonitor, UI_MONITOR },
-        { &ViewPage::goSetup, &BaseDialog::showSetup, UI_SETUP },
-        { &ViewPage::goMemory, &BaseDialog::showMemory, UI_MEMORY },
-    };
-    // Menu and Memory are wired for good.
-    FunctionPage *page = type == UI_MENU || type == UI_MEMORY ? nullptr : functionPage(type);
-    if (!page)
-        return;
-    for (const auto &row : rows) {
-        if (row.target == type)
-            continue;
-        if (connected)
-            connect(page, row.signal, this, row.slot);
-        else
-            disconnect(page, row.signal, this, row.slot);
-    }
-}
-
-void BaseDialog::connectTargetUI(_quvera_ui_type type)
-{
-    linkNavigation(type, true);
-}
-
-void BaseDialog::disconnectCurrentUI(_quvera_ui_type type)
-{
-    linkNavigation(type, false);
-}
-
 BaseDialog::Answer BaseDialog::changeTaskOrNot(AbstractTask::UniFunction function, _quvera_ui_type current)
 {
     if (m_taskmanage->curTaskType() == 0)
@@ -324,18 +296,27 @@ void BaseDialog::bringToFront(QWidget *page, const QString &pageTitle)
     page->setFocus();
 }
 
-void BaseDialog::swapPages(_quvera_ui_type current, _quvera_ui_type target, FunctionPage *page)
+void BaseDialog::go(_quvera_ui_type current, _quvera_ui_type target)
 {
-    disconnectCurrentUI(current);
-    connectTargetUI(target);
-    bringToFront(page, title(target));
+    if (target < 0 || target >= kUiTypes || current == target)
+        return;
+    switch (kPages[target].plan) {
+    case Plan::Menu:
+        return showMenu(current);
+    case Plan::Live:
+        return showLive(current, target);
+    case Plan::Commanded:
+        return showCommanded(current, target);
+    case Plan::Settings:
+        return showSettings(current, target);
+    case Plan::Overlay:
+        return showMemory();
+    }
 }
 
 /// Pages that only read live data: going from one to another never interrupts the measurement.
 void BaseDialog::showLive(_quvera_ui_type current, _quvera_ui_type target)
 {
-    m_current = current;
-    m_target = target;
     FunctionPage *page = builtPage(target);
     if (!page)
         return;
@@ -353,14 +334,12 @@ void BaseDialog::showLive(_quvera_ui_type current, _quvera_ui_type target)
     }
     if (auto *container = qobject_cast<ViewContainer *>(page))
         container->enterFirstPage();
-    swapPages(current, target, page);
+    bringToFront(page, title(target));
 }
 
 /// Pages whose function starts by the user's own command: no task starts here.
 void BaseDialog::showCommanded(_quvera_ui_type current, _quvera_ui_type target)
 {
-    m_current = current;
-    m_target = target;
     if (target == UI_MONITOR && is400Hz())
         return;
     FunctionPage *page = builtPage(target);
@@ -382,39 +361,32 @@ void BaseDialog::showCommanded(_quvera_ui_type current, _quvera_ui_type target)
     case StayOnPage:
         return;
     }
-    swapPages(current, target, page);
+    bringToFront(page, title(target));
 }
 
 /// Setup and User always end the measurement.
 void BaseDialog::showSettings(_quvera_ui_type current, _quvera_ui_type target)
 {
-    m_current = current;
-    m_target = target;
     FunctionPage *page = builtPage(target);
     if (!page || !exitCurTaskIfOrNot(current))
         return;
-    disconnectCurrentUI(current);
     if (target == UI_SETUP)
         m_taskmanage->connectDisplay(target);
-    connectTargetUI(target);
     bringToFront(page, title(target));
     if (auto *container = qobject_cast<ViewContainer *>(page))
         container->enterFirstPage();
 }
 
-void BaseDialog::showMenu(_quvera_ui_type current, _quvera_ui_type target)
+void BaseDialog::showMenu(_quvera_ui_type current)
 {
-    m_current = current;
-    m_target = target;
     if (m_taskmanage->getUniFunction() > AbstractTask::UniBasic && !exitCurTaskIfOrNot(current))
         return;
-    disconnectCurrentUI(current);
     highLightMenu();
 }
 
-void BaseDialog::showMemory(_quvera_ui_type, _quvera_ui_type target)
+void BaseDialog::showMemory()
 {
-    FunctionPage *page = builtPage(target);
+    FunctionPage *page = builtPage(UI_MEMORY);
     if (!page)
         return;
     // The current page stays current: the measurement goes on behind this one.
@@ -479,71 +451,4 @@ void BaseDialog::startRecordTask()
     if (m_taskmanage->curTaskType() != TaskManage::Universal)
         startFunction(AbstractTask::UniBasic, UI_LOGGER);
     m_taskmanage->enableRecord();
-}
-
-// The signals of the pages and of the menu each have a slot of their own name; the plans above do the work.
-
-void BaseDialog::showScope(_quvera_ui_type current, _quvera_ui_type target)
-{
-    showLive(current, target);
-}
-void BaseDialog::showVif(_quvera_ui_type current, _quvera_ui_type target)
-{
-    showLive(current, target);
-}
-void BaseDialog::showDipsSwells(_quvera_ui_type current, _quvera_ui_type target)
-{
-    showLive(current, target);
-}
-void BaseDialog::showHarmonics(_quvera_ui_type current, _quvera_ui_type target)
-{
-    showLive(current, target);
-}
-void BaseDialog::showPower(_quvera_ui_type current, _quvera_ui_type target)
-{
-    showLive(current, target);
-}
-void BaseDialog::showFlicker(_quvera_ui_type current, _quvera_ui_type target)
-{
-    showLive(current, target);
-}
-void BaseDialog::showUnbalance(_quvera_ui_type current, _quvera_ui_type target)
-{
-    showLive(current, target);
-}
-void BaseDialog::showTransients(_quvera_ui_type current, _quvera_ui_type target)
-{
-    showLive(current, target);
-}
-void BaseDialog::showInrush(_quvera_ui_type current, _quvera_ui_type target)
-{
-    showLive(current, target);
-}
-void BaseDialog::showMainsSig(_quvera_ui_type current, _quvera_ui_type target)
-{
-    showLive(current, target);
-}
-void BaseDialog::showWave(_quvera_ui_type current, _quvera_ui_type target)
-{
-    showCommanded(current, target);
-}
-void BaseDialog::showLogger(_quvera_ui_type current, _quvera_ui_type target)
-{
-    showCommanded(current, target);
-}
-void BaseDialog::showMonitor(_quvera_ui_type current, _quvera_ui_type target)
-{
-    showCommanded(current, target);
-}
-void BaseDialog::showPowerInverter(_quvera_ui_type current, _quvera_ui_type target)
-{
-    showCommanded(current, target);
-}
-void BaseDialog::showSetup(_quvera_ui_type current, _quvera_ui_type target)
-{
-    showSettings(current, target);
-}
-void BaseDialog::showUser(_quvera_ui_type current, _quvera_ui_type target)
-{
-    showSettings(current, target);
 }

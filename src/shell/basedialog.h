@@ -28,24 +28,9 @@ public:
     QWidget *currentPage() const { return m_currentPage; }
 
 public slots:
-    void showMenu(_quvera_ui_type current, _quvera_ui_type target);
-    void showScope(_quvera_ui_type current, _quvera_ui_type target);
-    void showVif(_quvera_ui_type current, _quvera_ui_type target);
-    void showDipsSwells(_quvera_ui_type current, _quvera_ui_type target);
-    void showHarmonics(_quvera_ui_type current, _quvera_ui_type target);
-    void showPower(_quvera_ui_type current, _quvera_ui_type target);
-    void showFlicker(_quvera_ui_type current, _quvera_ui_type target);
-    void showUnbalance(_quvera_ui_type current, _quvera_ui_type target);
-    void showTransients(_quvera_ui_type current, _quvera_ui_type target);
-    void showInrush(_quvera_ui_type current, _quvera_ui_type target);
-    void showWave(_quvera_ui_type current, _quvera_ui_type target);
-    void showLogger(_quvera_ui_type current, _quvera_ui_type target);
-    void showMonitor(_quvera_ui_type current, _quvera_ui_type target);
-    void showSetup(_quvera_ui_type current, _quvera_ui_type target);
-    void showUser(_quvera_ui_type current, _quvera_ui_type target);
-    void showMemory(_quvera_ui_type current, _quvera_ui_type target);
-    void showMainsSig(_quvera_ui_type current, _quvera_ui_type target);
-    void showPowerInverter(_quvera_ui_type current, _quvera_ui_type target);
+    /// The page \a current is to make room for \a target: by the way in which that is entered. Without effect where the
+    /// user stays, or where this software has no such page.
+    void go(_quvera_ui_type current, _quvera_ui_type target);
     void showLast();
     void restartTask();
     void startTransTask() { }
@@ -81,17 +66,15 @@ private:
     bool endRecordingAsAsked(_quvera_ui_type current);
     bool quitTaskAsAsked(_quvera_ui_type current);
 
-    void connectTargetUI(_quvera_ui_type type);
-    void disconnectCurrentUI(_quvera_ui_type type);
-    void linkNavigation(_quvera_ui_type type, bool connected);
     void highLightMenu();
 
     FunctionPage *builtPage(_quvera_ui_type target);
     void bringToFront(QWidget *page, const QString &title);
-    void swapPages(_quvera_ui_type current, _quvera_ui_type target, FunctionPage *page);
+    void showMenu(_quvera_ui_type current);
     void showLive(_quvera_ui_type current, _quvera_ui_type target);
     void showCommanded(_quvera_ui_type current, _quvera_ui_type target);
     void showSettings(_quvera_ui_type current, _quvera_ui_type target);
+    void showMemory();
     void startFunction(AbstractTask::UniFunction function, _quvera_ui_type display);
     void armPowerTimer();
 
@@ -101,6 +84,4 @@ private:
     QTimer *m_powerTimer;
     bool m_powerArmed = false;
     int m_powerTicks = 0;
-    _quvera_ui_type m_current = UI_MENU;
-    _quvera_ui_type m_target = UI_MENU;
 };

@@ -17,42 +17,38 @@ namespace {
 constexpr int kRows = 3;
 constexpr int kColumns = 4;
 
-using Navigation = void (MenuPage::*)(_quvera_ui_type, _quvera_ui_type);
-
 /// The tiles row by row: object name, caption, and where Enter leads.
 struct Tile
 {
     const char *name;
     const char *caption;
-    Navigation signal;
     _quvera_ui_type target;
 };
 const Tile kTiles[kRows * kColumns] = {
-    { "power", QT_TRANSLATE_NOOP("MenuPage", "Power&Energy\n"), &MenuPage::goPower, UI_POWER },
-    { "vif", QT_TRANSLATE_NOOP("MenuPage", "Volts/Amps/Hertz\n"), &MenuPage::goVif, UI_VIF },
-    { "harmonics", QT_TRANSLATE_NOOP("MenuPage", "Harmonics\n"), &MenuPage::goHarmonics, UI_HARMONICS },
-    { "unbalance", QT_TRANSLATE_NOOP("MenuPage", "Unbalance\n"), &MenuPage::goUnbalance, UI_UNBALANCE },
-    { "flicker", QT_TRANSLATE_NOOP("MenuPage", "Flicker\n"), &MenuPage::goFlicker, UI_FLICKER },
-    { "dips_swells", QT_TRANSLATE_NOOP("MenuPage", "Dips&Swells\n"), &MenuPage::goDipsSwells, UI_DIPS_SWELLS },
-    { "inrush", QT_TRANSLATE_NOOP("MenuPage", "Inrush\n"), &MenuPage::goInrush, UI_INRUSH },
-    { "transients", QT_TRANSLATE_NOOP("MenuPage", "Transients\n"), &MenuPage::goTransients, UI_TRANSIENTS },
-    { "mainssignaling", QT_TRANSLATE_NOOP("MenuPage", "Mains\nSignaling"), &MenuPage::goMainsSig, UI_MAINS_SIG },
-    { "wave", QT_TRANSLATE_NOOP("MenuPage", "Wave\n"), &MenuPage::goWave, UI_WAVE },
-    { "logger", QT_TRANSLATE_NOOP("MenuPage", "Logger\n"), &MenuPage::goLogger, UI_LOGGER },
-    { "user", QT_TRANSLATE_NOOP("MenuPage", "User\n"), &MenuPage::goUser, UI_USER },
+    { "power", QT_TRANSLATE_NOOP("MenuPage", "Power&Energy\n"), UI_POWER },
+    { "vif", QT_TRANSLATE_NOOP("MenuPage", "Volts/Amps/Hertz\n"), UI_VIF },
+    { "harmonics", QT_TRANSLATE_NOOP("MenuPage", "Harmonics\n"), UI_HARMONICS },
+    { "unbalance", QT_TRANSLATE_NOOP("MenuPage", "Unbalance\n"), UI_UNBALANCE },
+    { "flicker", QT_TRANSLATE_NOOP("MenuPage", "Flicker\n"), UI_FLICKER },
+    { "dips_swells", QT_TRANSLATE_NOOP("MenuPage", "Dips&Swells\n"), UI_DIPS_SWELLS },
+    { "inrush", QT_TRANSLATE_NOOP("MenuPage", "Inrush\n"), UI_INRUSH },
+    { "transients", QT_TRANSLATE_NOOP("MenuPage", "Transients\n"), UI_TRANSIENTS },
+    { "mainssignaling", QT_TRANSLATE_NOOP("MenuPage", "Mains\nSignaling"), UI_MAINS_SIG },
+    { "wave", QT_TRANSLATE_NOOP("MenuPage", "Wave\n"), UI_WAVE },
+    { "logger", QT_TRANSLATE_NOOP("MenuPage", "Logger\n"), UI_LOGGER },
+    { "user", QT_TRANSLATE_NOOP("MenuPage", "User\n"), UI_USER },
 };
 
 /// Function keys that lead away from the menu. F7 has no effect here.
 const struct
 {
     int key;
-    Navigation signal;
     _quvera_ui_type target;
 } kFunctionKeys[] = {
-    { Qt::Key_F6, &MenuPage::goScope, UI_SCOPE },
-    { Qt::Key_F8, &MenuPage::goMonitor, UI_MONITOR },
-    { Qt::Key_F9, &MenuPage::goSetup, UI_SETUP },
-    { Qt::Key_F10, &MenuPage::goMemory, UI_MEMORY },
+    { Qt::Key_F6, UI_SCOPE },
+    { Qt::Key_F8, UI_MONITOR },
+    { Qt::Key_F9, UI_SETUP },
+    { Qt::Key_F10, UI_MEMORY },
 };
 
 } // namespace
@@ -148,7 +144,7 @@ void MenuPage::changePage()
 {
     for (const Tile &tile : kTiles) {
         if (m_places[0].current->objectName() == QLatin1String(tile.name)) {
-            emit(this->*tile.signal)(UI_MENU, tile.target);
+            emit leave(tile.target);
             return;
         }
     }
@@ -172,7 +168,7 @@ void MenuPage::keyPressEvent(QKeyEvent *event)
     event->accept();
     for (const auto &row : kFunctionKeys) {
         if (row.key == key) {
-            emit(this->*row.signal)(UI_MENU, row.target);
+            emit leave(row.target);
             showMenuHl();
             return;
         }

@@ -49,23 +49,8 @@ public slots:
 
 signals:
     void restartTask();
-    void goScope(_quvera_ui_type current, _quvera_ui_type target);
-    void goVif(_quvera_ui_type current, _quvera_ui_type target);
-    void goDipsSwells(_quvera_ui_type current, _quvera_ui_type target);
-    void goHarmonics(_quvera_ui_type current, _quvera_ui_type target);
-    void goPower(_quvera_ui_type current, _quvera_ui_type target);
-    void goFlicker(_quvera_ui_type current, _quvera_ui_type target);
-    void goUnbalance(_quvera_ui_type current, _quvera_ui_type target);
-    void goTransients(_quvera_ui_type current, _quvera_ui_type target);
-    void goInrush(_quvera_ui_type current, _quvera_ui_type target);
-    void goLogger(_quvera_ui_type current, _quvera_ui_type target);
-    void goUser(_quvera_ui_type current, _quvera_ui_type target);
-    void goMonitor(_quvera_ui_type current, _quvera_ui_type target);
-    void goSetup(_quvera_ui_type current, _quvera_ui_type target);
-    void goMemory(_quvera_ui_type current, _quvera_ui_type target);
-    void goWave(_quvera_ui_type current, _quvera_ui_type target);
-    void goMainsSig(_quvera_ui_type current, _quvera_ui_type target);
-    void goPowerInverter(_quvera_ui_type current, _quvera_ui_type target);
+    /// A tile or a function key asks for another page.
+    void leave(_quvera_ui_type target);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;

@@ -135,32 +135,16 @@ void appInit()
 
 void appConnection()
 {
-    const struct
-    {
-        void (MenuPage::*signal)(_quvera_ui_type, _quvera_ui_type);
-        void (BaseDialog::*slot)(_quvera_ui_type, _quvera_ui_type);
-    } navigation[] = {
-        { &MenuPage::goScope, &BaseDialog::showScope },
-        { &MenuPage::goVif, &BaseDialog::showVif },
-        { &MenuPage::goDipsSwells, &BaseDialog::showDipsSwells },
-        { &MenuPage::goHarmonics, &BaseDialog::showHarmonics },
-        { &MenuPage::goPower, &BaseDialog::showPower },
-        { &MenuPage::goFlicker, &BaseDialog::showFlicker },
-        { &MenuPage::goUnbalance, &BaseDialog::showUnbalance },
-        { &MenuPage::goTransients, &BaseDialog::showTransients },
-        { &MenuPage::goInrush, &BaseDialog::showInrush },
-        { &MenuPage::goLogger, &BaseDialog::showLogger },
-        { &MenuPage::goUser, &BaseDialog::showUser },
-        { &MenuPage::goMonitor, &BaseDialog::showMonitor },
-        { &MenuPage::goSetup, &BaseDialog::showSetup },
-        { &MenuPage::goMemory, &BaseDialog::showMemory },
-        { &MenuPage::goWave, &BaseDialog::showWave },
-        { &MenuPage::goMainsSig, &BaseDialog::showMainsSig },
-        { &MenuPage::goPowerInverter, &BaseDialog::showPowerInverter },
-    };
+    QObject::connect(m_menupage, &MenuPage::leave, m_basedialog,
+                     [](_quvera_ui_type target) { m_basedialog->go(UI_MENU, target); });
+    for (FunctionPage *page : s_pages) {
+        if (page)
+            QObject::connect(page, &Page::leave, m_basedialog, [page](_quvera_ui_type target) {
+                if (m_basedialog->currentPage() == page)
+                    m_basedialog->go(page->uiType(), target);
+            });
+    }
     QObject::connect(m_menupage, &MenuPage::restartTask, m_basedialog, &BaseDialog::restartTask);
-    for (const auto &row : navigation)
-        QObject::connect(m_menupage, row.signal, m_basedialog, row.slot);
     QObject::connect(m_transpage, &trans::startTransTask, m_basedialog, &BaseDialog::startTransTask);
     QObject::connect(m_inrushpage, &InrushPage::startInrushTask, m_basedialog, &BaseDialog::startInrushTask);
     QObject::connect(m_powerinverter, &PowerInverter::startPowerInverterTask, m_basedialog,

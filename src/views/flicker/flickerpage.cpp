@@ -12,7 +12,7 @@ constexpr int kPhaseFlags = (1 << kPhases) - 1; // no curve for the neutral
 
 } // namespace
 
-FlickerPage::FlickerPage(QWidget *parent) : ViewPage(UI_FLICKER, parent), m_ui(new Ui::FlickerPage)
+FlickerPage::FlickerPage(QWidget *parent) : LivePage(UI_FLICKER, parent), m_ui(new Ui::FlickerPage)
 {
     static const KeyRow<FlickerPage> keys[] = {
         { Qt::Key_F4, QT_TRANSLATE_NOOP("FlickerPage", "Back"), &FlickerPage::goFlickerMain },
@@ -31,14 +31,14 @@ FlickerPage::~FlickerPage() = default;
 
 void FlickerPage::init_parameter()
 {
-    ViewPage::init_parameter();
+    LivePage::init_parameter();
     showTitle();
     showFlickerTrend();
 }
 
 void FlickerPage::retranslateUi()
 {
-    ViewPage::retranslateUi();
+    LivePage::retranslateUi();
     showTitle();
 }
 

@@ -2,7 +2,7 @@
 
 #include "pages/channellabels.h"
 #include "pages/trendscaler.h"
-#include "pages/viewpage.h"
+#include "pages/livepage.h"
 
 #include <memory>
 
@@ -11,7 +11,7 @@ class FlickerPage;
 }
 
 /// Trend of the instantaneous flicker sensation of the phases, with the latest values.
-class FlickerPage : public ViewPage
+class FlickerPage : public LivePage
 {
     Q_OBJECT
 

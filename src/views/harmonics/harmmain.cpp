@@ -21,7 +21,7 @@ constexpr double kDegrees = 180.0 / 3.141592653589793; // per radian
 } // namespace
 
 HarmMain::HarmMain(QWidget *parent)
-    : ViewPage(UI_HARMONICS, parent), m_ui(new Ui::HarmMain), m_repeat(new KeyRepeat(this, kTicksPerStep))
+    : LivePage(UI_HARMONICS, parent), m_ui(new Ui::HarmMain), m_repeat(new KeyRepeat(this, kTicksPerStep))
 {
     static const KeyRow<HarmMain> keys[] = {
         { Qt::Key_F1, nullptr, &HarmMain::swapQuantity },
@@ -43,7 +43,7 @@ HarmMain::~HarmMain() = default;
 
 void HarmMain::init_parameter()
 {
-    ViewPage::init_parameter();
+    LivePage::init_parameter();
     m_quantity = Voltage;
     m_channel = GraphL1;
     m_inter = false;
@@ -53,7 +53,7 @@ void HarmMain::init_parameter()
 
 void HarmMain::retranslateUi()
 {
-    ViewPage::retranslateUi();
+    LivePage::retranslateUi();
     ChannelLabels::showColors(m_captions);
     ChannelLabels::showColors(m_values);
     for (QWidget *button : { static_cast<QWidget *>(m_ui->btn_f2), static_cast<QWidget *>(m_ui->btn_f3) })

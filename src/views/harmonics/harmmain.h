@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pages/channellabels.h"
-#include "pages/viewpage.h"
+#include "pages/livepage.h"
 #include "views/harmonics/harmvalues.h"
 
 #include <QList>
@@ -15,7 +15,7 @@ class KeyRepeat;
 
 /// Bar graph of the spectrum of one channel or of all phases, with a cursor and its values. The orders are shown in
 /// windows; the cursor leads from one to the next.
-class HarmMain : public ViewPage
+class HarmMain : public LivePage
 {
     Q_OBJECT
 

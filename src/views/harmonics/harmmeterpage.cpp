@@ -41,7 +41,7 @@ int tableLines()
 } // namespace
 
 HarmMeterPage::HarmMeterPage(QWidget *parent)
-    : ViewPage(UI_HARMONICS, parent), m_ui(new Ui::HarmMeterPage), m_repeat(new KeyRepeat(this, kTicksPerStep))
+    : LivePage(UI_HARMONICS, parent), m_ui(new Ui::HarmMeterPage), m_repeat(new KeyRepeat(this, kTicksPerStep))
 {
     static const KeyRow<HarmMeterPage> keys[] = {
         { Qt::Key_F3, nullptr, &HarmMeterPage::changeReference },
@@ -66,7 +66,7 @@ HarmMeterPage::~HarmMeterPage() = default;
 
 void HarmMeterPage::init_parameter()
 {
-    ViewPage::init_parameter();
+    LivePage::init_parameter();
     m_position = 0;
     m_ui->verticalScrollBar->setRange(0, lastPosition());
     m_ui->verticalScrollBar->setPageStep(kLines);
@@ -77,7 +77,7 @@ void HarmMeterPage::init_parameter()
 
 void HarmMeterPage::retranslateUi()
 {
-    ViewPage::retranslateUi();
+    LivePage::retranslateUi();
     ChannelLabels::showColors(m_headers);
     showNames();
 }

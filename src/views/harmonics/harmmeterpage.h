@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pages/channellabels.h"
-#include "pages/viewpage.h"
+#include "pages/livepage.h"
 
 #include <array>
 #include <memory>
@@ -12,7 +12,7 @@ class HarmMeterPage;
 class KeyRepeat;
 
 /// Table of all orders of voltage and current in percent, seven lines at a time.
-class HarmMeterPage : public ViewPage
+class HarmMeterPage : public LivePage
 {
     Q_OBJECT
 

@@ -65,7 +65,7 @@ const InrushMain::Field InrushMain::kFields[] = {
 };
 
 InrushMain::InrushMain(QWidget *parent)
-    : ViewPage(UI_INRUSH, parent), m_ui(new Ui::InrushMain), m_repeat(new KeyRepeat(this, kTicksPerStep))
+    : LivePage(UI_INRUSH, parent), m_ui(new Ui::InrushMain), m_repeat(new KeyRepeat(this, kTicksPerStep))
 {
     static const KeyRow<InrushMain> keys[] = {
         { Qt::Key_F4, QT_TRANSLATE_NOOP("InrushMain", "Defaults"), &InrushMain::initInrushMain },
@@ -86,13 +86,13 @@ InrushMain::~InrushMain() = default;
 
 void InrushMain::init_parameter()
 {
-    ViewPage::init_parameter();
+    LivePage::init_parameter();
     showFields(); // clamp, ratio or frequency may be others now
 }
 
 void InrushMain::retranslateUi()
 {
-    ViewPage::retranslateUi();
+    LivePage::retranslateUi();
     setText(m_ui->title, tr("Inrush"));
     for (const Field &field : kFields)
         setText(findChild<QLabel *>(QString::fromLatin1(field.name) + QLatin1String("_t")), tr(field.caption));

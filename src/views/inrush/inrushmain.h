@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pages/viewpage.h"
+#include "pages/livepage.h"
 
 #include <memory>
 
@@ -12,7 +12,7 @@ class KeyRepeat;
 /// Set-up of the inrush capture: the levels of the detector, the length of the trend, and whether the processor is
 /// armed at the start. Up and down choose a field, left and right change it, held down in growing steps. Every change
 /// is stored at once; the detector takes the levels when its task begins.
-class InrushMain : public ViewPage
+class InrushMain : public LivePage
 {
     Q_OBJECT
 

@@ -22,13 +22,11 @@ PowerInverter::PowerInverter(QWidget *parent)
     connect(m_trend, &PowerInverterTrend::goPowerInverterMain, this, &PowerInverter::showPowerInverterMain);
 
     // The task does not hold this function: the page holds itself, and answers as a task would.
-    connect(this, &ViewPage::pause, this, [this] { setHeld(true); });
-    connect(this, &ViewPage::run, this, [this] { setHeld(false); });
+    connect(this, &LivePage::pause, this, [this] { setHeld(true); });
+    connect(this, &LivePage::run, this, [this] { setHeld(false); });
 
     // Whoever leaves takes the processor's usual set-up along, queued before what the next function sends.
-    for (auto left :
-         { &ViewPage::goScope, &ViewPage::goMenu, &ViewPage::goMonitor, &ViewPage::goSetup, &ViewPage::goMemory })
-        connect(this, left, this, [] { DeviceInit::initAnalogDevice2(); });
+    connect(this, &Page::leave, this, [] { DeviceInit::initAnalogDevice2(); });
 }
 
 void PowerInverter::setHeld(bool held)

@@ -43,7 +43,7 @@ const Row<float[kPhases]> kOutputs[] = {
 } // namespace
 
 PowerInverterMain::PowerInverterMain(QWidget *parent)
-    : ViewPage(UI_POWER_INVERTER, parent), m_ui(new Ui::PowerInverterMain)
+    : LivePage(UI_POWER_INVERTER, parent), m_ui(new Ui::PowerInverterMain)
 {
     static const KeyRow<PowerInverterMain> keys[] = {
         { Qt::Key_F4, QT_TRANSLATE_NOOP("PowerInverterMain", "Trend"), &PowerInverterMain::goPowerInverterTrend },
@@ -62,14 +62,14 @@ PowerInverterMain::~PowerInverterMain() = default;
 
 void PowerInverterMain::init_parameter()
 {
-    ViewPage::init_parameter();
+    LivePage::init_parameter();
     showTitle();
     showCurParams();
 }
 
 void PowerInverterMain::retranslateUi()
 {
-    ViewPage::retranslateUi();
+    LivePage::retranslateUi();
     setText(m_ui->freq_t, tr("Freq ="));
     showTitle();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pages/channellabels.h"
-#include "pages/viewpage.h"
+#include "pages/livepage.h"
 
 #include <memory>
 #include <vector>
@@ -11,7 +11,7 @@ class PowerInverterMain;
 }
 
 /// Table of the inverter's direct-current input, its output phases and its efficiency.
-class PowerInverterMain : public ViewPage
+class PowerInverterMain : public LivePage
 {
     Q_OBJECT
 

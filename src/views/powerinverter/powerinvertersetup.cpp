@@ -5,7 +5,7 @@
 #include "widgets/controls/labellook.h"
 
 PowerInverterSetup::PowerInverterSetup(QWidget *parent)
-    : ViewPage(UI_POWER_INVERTER, parent), m_ui(new Ui::PowerInverterSetup)
+    : LivePage(UI_POWER_INVERTER, parent), m_ui(new Ui::PowerInverterSetup)
 {
     static const KeyRow<PowerInverterSetup> keys[] = {
         { Qt::Key_Up, nullptr, &PowerInverterSetup::chooseSingle },
@@ -24,13 +24,13 @@ PowerInverterSetup::~PowerInverterSetup() = default;
 
 void PowerInverterSetup::init_parameter()
 {
-    ViewPage::init_parameter();
+    LivePage::init_parameter();
     (singleOrThree ? m_ui->phase1 : m_ui->phase3)->setChecked(true);
 }
 
 void PowerInverterSetup::retranslateUi()
 {
-    ViewPage::retranslateUi();
+    LivePage::retranslateUi();
     setText(m_ui->title, tr("Power Inverter"));
     m_ui->phase1->setText(tr("1-Phase"));
     m_ui->phase3->setText(tr("3-Phase"));

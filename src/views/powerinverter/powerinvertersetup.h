@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pages/viewpage.h"
+#include "pages/livepage.h"
 
 #include <memory>
 
@@ -9,7 +9,7 @@ class PowerInverterSetup;
 }
 
 /// Choice of the inverter's output, single-phase or three-phase, and the start of the measurement.
-class PowerInverterSetup : public ViewPage
+class PowerInverterSetup : public LivePage
 {
     Q_OBJECT
 

@@ -16,7 +16,7 @@ constexpr int kTicksPerStep = 5; // a long range: later, but larger steps
 }
 
 TransMain::TransMain(QWidget *parent)
-    : ViewPage(UI_TRANSIENTS, parent), m_ui(new Ui::TransMain),
+    : LivePage(UI_TRANSIENTS, parent), m_ui(new Ui::TransMain),
       m_repeat(new KeyRepeat(this, kTicksPerStep, { 1, 5, 10, 20, 50, 100 }))
 {
     static const KeyRow<TransMain> keys[] = {
@@ -41,13 +41,13 @@ bool TransMain::takeChanged()
 
 void TransMain::init_parameter()
 {
-    ViewPage::init_parameter();
+    LivePage::init_parameter();
     showTransThreshold();
 }
 
 void TransMain::retranslateUi()
 {
-    ViewPage::retranslateUi();
+    LivePage::retranslateUi();
     setText(m_ui->title, tr("Transients"));
     setText(m_ui->threshold_t, tr("Threshold"));
     showTransThreshold();

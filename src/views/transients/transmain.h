@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pages/viewpage.h"
+#include "pages/livepage.h"
 
 #include <memory>
 
@@ -11,7 +11,7 @@ class KeyRepeat;
 
 /// Set-up of the transient capture: the threshold, 1 to 6000 percent, changed by left and right in steps that grow
 /// while the key is held. Every change is stored at once; the processor learns it at the start.
-class TransMain : public ViewPage
+class TransMain : public LivePage
 {
     Q_OBJECT
 

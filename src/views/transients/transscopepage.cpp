@@ -5,7 +5,7 @@
 
 #include <cstring>
 
-TransScopePage::TransScopePage(QWidget *parent) : ViewPage(UI_TRANSIENTS, parent), m_data(new __scope_data_ui()) { }
+TransScopePage::TransScopePage(QWidget *parent) : LivePage(UI_TRANSIENTS, parent), m_data(new __scope_data_ui()) { }
 
 TransScopePage::~TransScopePage() = default;
 
@@ -25,7 +25,7 @@ void TransScopePage::initScopeWidget()
 
 void TransScopePage::init_parameter()
 {
-    ViewPage::init_parameter();
+    LivePage::init_parameter();
     m_controls->reset();
     initScopeWidget();
     m_controls->showDefaultZoom();
@@ -34,7 +34,7 @@ void TransScopePage::init_parameter()
 
 void TransScopePage::retranslateUi()
 {
-    ViewPage::retranslateUi();
+    LivePage::retranslateUi();
     initScopeWidget();
     showCurVal();
 }

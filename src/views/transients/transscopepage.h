@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pages/scopereadout.h"
-#include "pages/viewpage.h"
+#include "pages/livepage.h"
 
 #include <memory>
 
@@ -12,7 +12,7 @@ class ScopeControls;
 class ScopeWidget;
 
 /// A page that shows the voltages of one transient record as a scope picture, with cursor, zoom and values.
-class TransScopePage : public ViewPage
+class TransScopePage : public LivePage
 {
     Q_OBJECT
 

@@ -36,7 +36,7 @@ const char *const kAngleCaptions[3] = {
 
 } // namespace
 
-UnbalVectorPage::UnbalVectorPage(QWidget *parent) : ViewPage(UI_UNBALANCE, parent), m_ui(new Ui::UnbalVectorPage)
+UnbalVectorPage::UnbalVectorPage(QWidget *parent) : LivePage(UI_UNBALANCE, parent), m_ui(new Ui::UnbalVectorPage)
 {
     static const KeyRow<UnbalVectorPage> keys[] = {
         { Qt::Key_F1, nullptr, &UnbalVectorPage::nextSelector },
@@ -63,7 +63,7 @@ UnbalVectorPage::Places UnbalVectorPage::labels(const char *pattern) const
 
 void UnbalVectorPage::init_parameter()
 {
-    ViewPage::init_parameter();
+    LivePage::init_parameter();
     set_vectorFlag();
     m_selector = AllVoltages;
     initvectorFlag();
@@ -73,7 +73,7 @@ void UnbalVectorPage::init_parameter()
 
 void UnbalVectorPage::retranslateUi()
 {
-    ViewPage::retranslateUi();
+    LivePage::retranslateUi();
     setText(m_ui->freq, tr("Freq ="));
     showTitle();
 }

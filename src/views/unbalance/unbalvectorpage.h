@@ -1,7 +1,7 @@
 #pragma once
 
 #include "pages/channellabels.h"
-#include "pages/viewpage.h"
+#include "pages/livepage.h"
 
 #include <array>
 #include <memory>
@@ -13,7 +13,7 @@ class UnbalVectorPage;
 
 /// Phasor diagram of the fundamentals: all voltages, all currents, or voltage and current of one phase, with their
 /// magnitudes and angles.
-class UnbalVectorPage : public ViewPage
+class UnbalVectorPage : public LivePage
 {
     Q_OBJECT
 

@@ -59,7 +59,7 @@ private slots:
     {
         RecordInfo::m_in_recording = 0;
         m_taskmanage->exitTask();
-        m_basedialog->showMenu(UI_VIF, UI_MENU);
+        m_basedialog->go(UI_VIF, UI_MENU);
     }
 
 protected:

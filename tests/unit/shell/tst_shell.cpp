@@ -162,7 +162,7 @@ void TstShell::goingToAnotherFunctionAsksAndCancelStays()
     g_unitask->startTask();
     UniTask *task = g_unitask;
     DialogAnswer answer(kF5);
-    m_basedialog->showVif(UI_WAVE, UI_VIF);
+    m_basedialog->go(UI_WAVE, UI_VIF);
     QVERIFY(answer.asked);
     QVERIFY(answer.text.contains("The task \"Power Quality\" is running.\ndo you want to quit?"));
     QCOMPARE(g_unitask, task);
@@ -176,7 +176,7 @@ void TstShell::goingToAnotherFunctionAsksAndQuitStartsAnew()
     g_unitask->startTask();
     QSignalSpy destroyed(g_unitask, &QObject::destroyed);
     DialogAnswer answer(kF4);
-    m_basedialog->showVif(UI_WAVE, UI_VIF);
+    m_basedialog->go(UI_WAVE, UI_VIF);
     QVERIFY(answer.asked);
     QCOMPARE(destroyed.count(), 1);
     QCOMPARE(m_taskmanage->getUniFunction(), 1);
@@ -188,7 +188,7 @@ void TstShell::closedQuestionEndsTheTask()
     m_basedialog->startWaveTask();
     g_unitask->startTask();
     DialogAnswer answer(Qt::Key_H); // no key of the dialog: it is closed
-    m_basedialog->showVif(UI_WAVE, UI_VIF);
+    m_basedialog->go(UI_WAVE, UI_VIF);
     QVERIFY(answer.asked);
     QCOMPARE(m_taskmanage->getUniFunction(), 1);
     QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
@@ -222,14 +222,14 @@ void TstShell::menuKeyOnARunningCaptureAsks()
     UniTask *task = g_unitask;
 
     DialogAnswer cancel(kF5);
-    m_basedialog->showMenu(type, UI_MENU);
+    m_basedialog->go(type, UI_MENU);
     QVERIFY(cancel.text.contains("do you want to quit?"));
     QCOMPARE(top(), static_cast<QWidget *>(m_vifpage));
     QCOMPARE(g_unitask, task);
     QVERIFY(task->isTaskRunning());
 
     DialogAnswer quit(kF4);
-    m_basedialog->showMenu(type, UI_MENU);
+    m_basedialog->go(type, UI_MENU);
     QVERIFY(quit.asked);
     QCOMPARE(top(), static_cast<QWidget *>(m_menupage));
     QVERIFY(!m_taskmanage->currentTask());
@@ -242,7 +242,7 @@ void TstShell::scopeKeyOnARunningMonitorAsks()
     m_basedialog->startMonitorTask();
     g_unitask->startTask();
     DialogAnswer cancel(kF5);
-    m_basedialog->showScope(UI_MONITOR, UI_SCOPE);
+    m_basedialog->go(UI_MONITOR, UI_SCOPE);
     QVERIFY(cancel.text.contains("do you want to quit?"));
     QCOMPARE(top(), static_cast<QWidget *>(m_vifpage));
     QCOMPARE(m_taskmanage->getUniFunction(), 4);
@@ -275,7 +275,7 @@ void TstShell::backFromMemoryRestoresPageAndTitle()
     QCOMPARE(top(), static_cast<QWidget *>(m_vifpage));
     QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
 
-    m_basedialog->showMenu(UI_VIF, UI_MENU);
+    m_basedialog->go(UI_VIF, UI_MENU);
     stack->setCurrentWidget(other);
     m_basedialog->displayTaskName("Memory");
     m_basedialog->showLast();
@@ -292,12 +292,12 @@ void TstShell::recordingQuestionOffersSaveExitRestartCancel()
     } rows[] = { { kF5, false }, { kF4, true }, { kF1, true }, { Qt::Key_Y, false } };
     for (const auto &row : rows) {
         m_taskmanage->exitTask();
-        m_basedialog->showMenu(UI_VIF, UI_MENU);
+        m_basedialog->go(UI_VIF, UI_MENU);
         m_basedialog->startWaveTask();
         g_unitask->startTask();
         RecordInfo::m_in_recording = 1;
         DialogAnswer answer(row.key);
-        m_basedialog->showVif(UI_WAVE, UI_VIF);
+        m_basedialog->go(UI_WAVE, UI_VIF);
         QVERIFY(answer.text.contains("Logger is running!\nSave: save the data.\nExit: delete the data and exit.\n"
                                      "Restart: delete the data and restart logger."));
         QCOMPARE(title() == QLatin1String("Volts/Amps/Hertz"), row.left);
@@ -317,7 +317,7 @@ void TstShell::restartInTheRecorderQuestionStaysAndBeginsANewRecording()
     RecordInfo::m_in_recording = 1;
     QSignalSpy destroyed(g_unitask, &QObject::destroyed);
     DialogAnswer restart(Qt::Key_Y);
-    m_basedialog->showScope(UI_VIF, UI_SCOPE);
+    m_basedialog->go(UI_VIF, UI_SCOPE);
     QVERIFY(restart.text.contains("Logger is running!"));
     QCOMPARE(destroyed.count(), 1);
     QVERIFY(g_unitask->recordEnabled());

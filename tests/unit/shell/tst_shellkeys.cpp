@@ -70,7 +70,7 @@ void TstShellKeys::firstPressOnADarkScreenDoesNothingElseWhicheverKeyItIs()
     QCOMPARE(light(), 2);
 
     enterVif();
-    QSignalSpy pause(m_vifpage, &ViewPage::pause);
+    QSignalSpy pause(m_vifpage, &LivePage::pause);
     auto *main = m_vifpage->findChild<VifMain *>();
     BackLight::shutDownBL();
     QTest::keyPress(main, Qt::Key(letter));
@@ -127,8 +127,8 @@ void TstShellKeys::heldFunctionKeyActsOnce()
     };
     enterVif();
     auto *page = m_vifpage->findChild<VifMain *>();
-    QSignalSpy pause(m_vifpage, &ViewPage::pause);
-    QSignalSpy run(m_vifpage, &ViewPage::run);
+    QSignalSpy pause(m_vifpage, &LivePage::pause);
+    QSignalSpy run(m_vifpage, &LivePage::run);
     g_unitask->startTask();
     QTest::keyPress(page, kF5);
     for (int i = 0; i < 5; ++i)

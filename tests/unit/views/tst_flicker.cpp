@@ -131,10 +131,10 @@ void TstFlicker::f4OpensTheTrendAndLeadsBack()
 {
     QCOMPARE(text(mainPage(), "btn_f4"), QStringLiteral("Trend"));
     press(mainPage(), F4);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(trendPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(trendPage()));
     QCOMPARE(text(trendPage(), "btn_f4"), QStringLiteral("Back"));
     press(trendPage(), F4);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(mainPage()));
 }
 
 void TstFlicker::titleFollowsThePageOnTop()
@@ -148,7 +148,7 @@ void TstFlicker::titleFollowsThePageOnTop()
 void TstFlicker::f5AsksToPause()
 {
     int asked = 0;
-    connect(m_page.get(), &ViewPage::pause, this, [&asked] { ++asked; });
+    connect(m_page.get(), &LivePage::pause, this, [&asked] { ++asked; });
     press(mainPage(), F5);
     press(trendPage(), F5);
     QCOMPARE(asked, 2);

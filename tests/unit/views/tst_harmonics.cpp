@@ -541,10 +541,10 @@ void TstHarmonics::f3AsksForTheOtherReference()
 void TstHarmonics::f4LeadsToTheTableAndBack()
 {
     press(mainPage(), F4);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(meterPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(meterPage()));
     QCOMPARE(text(meterPage(), "btn_f4"), QStringLiteral("Harmonic"));
     press(meterPage(), F4);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(mainPage()));
 }
 
 void TstHarmonics::deltaWiringsNameBothVoltageAndPhase()

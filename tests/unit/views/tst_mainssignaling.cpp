@@ -175,18 +175,18 @@ void TstMainsSignaling::pagesLiveWithoutARecord()
 void TstMainsSignaling::f4OpensTheTrendAndLeadsBack()
 {
     press(mainPage(), F4);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(trendPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(trendPage()));
     press(trendPage(), F4);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(mainPage()));
 }
 
 void TstMainsSignaling::f2OpensTheEventsAndF5LeadsBack()
 {
     QCOMPARE(text(mainPage(), "btn_f2"), QStringLiteral("Events"));
     press(mainPage(), F2);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(eventPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(eventPage()));
     press(eventPage(), F5);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(mainPage()));
 }
 
 void TstMainsSignaling::longReadingsFitTheirLabels()

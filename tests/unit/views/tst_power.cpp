@@ -217,7 +217,7 @@ void TstPower::trendCaptionsEndBeforeTheirValues()
 void TstPower::trendCycleHasEightQuantities()
 {
     press(mainPage(), F4);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(trendPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(trendPage()));
     const QStringList captions { "P(kW)", "S(kVA)", "Q1(kvar)", "PF", "cosΦ", "tanΦ", "U rms(V)", "I rms(A)" };
     for (int i = 0; i < 8; ++i) {
         QCOMPARE(text(trendPage(), "type"), captions[i]);
@@ -226,7 +226,7 @@ void TstPower::trendCycleHasEightQuantities()
     }
     QCOMPARE(trendPage()->type(), 1);
     press(trendPage(), F4);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(mainPage()));
 }
 
 void TstPower::trendFlagsShowTheTotalInTheFourthBand()

@@ -140,7 +140,7 @@ void TstPowerInverter::f5StartsTheTaskWithTheChosenOutput()
     press(setupPage(), Up);
     press(setupPage(), F5);
     QCOMPARE(atStart, 1);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(mainPage()));
     press(setupPage(), Down);
     press(setupPage(), F5);
     QCOMPARE(atStart, 0);
@@ -148,9 +148,9 @@ void TstPowerInverter::f5StartsTheTaskWithTheChosenOutput()
 
 void TstPowerInverter::entryShowsTheSetup()
 {
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(mainPage()));
     m_page->enterPowerInverter();
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(setupPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(setupPage()));
 }
 
 void TstPowerInverter::inputIsTheOffsetOfTheFourthChannel()
@@ -320,11 +320,11 @@ void TstPowerInverter::f4OpensTheTrendAndF5LeadsBack()
 {
     QCOMPARE(text(mainPage(), "btn_f4"), QStringLiteral("Trend"));
     press(mainPage(), F4);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(trendPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(trendPage()));
     QCOMPARE(text(trendPage(), "btn_f5"), QStringLiteral("Back"));
     QCOMPARE(text(trendPage(), "D1_Value"), QStringLiteral("400.00")); // before the next refresh
     press(trendPage(), F5);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(mainPage()));
 }
 
 void TstPowerInverter::holdFreezesTheValues()

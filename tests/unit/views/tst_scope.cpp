@@ -522,7 +522,7 @@ void TstScope::withoutLockTheFrequencyIsGrey()
 
 void TstScope::f6StaysHere()
 {
-    QSignalSpy spy(m_page.get(), &ViewPage::goScope);
+    QSignalSpy spy(m_page.get(), &Page::leave);
     QKeyEvent event(QEvent::KeyPress, F6, Qt::NoModifier);
     QCoreApplication::sendEvent(m_page.get(), &event);
     QCOMPARE(spy.count(), 0);
@@ -557,8 +557,8 @@ void TstScope::restartForgetsEverything()
 
 void TstScope::holdLabelFollowsTheTask()
 {
-    QSignalSpy paused(m_page.get(), &ViewPage::pause);
-    QSignalSpy run(m_page.get(), &ViewPage::run);
+    QSignalSpy paused(m_page.get(), &LivePage::pause);
+    QSignalSpy run(m_page.get(), &LivePage::run);
     press(m_page.get(), F5);
     QCOMPARE(paused.count(), 1);
     QCOMPARE(text(m_page.get(), "btn_f5"), QStringLiteral("Hold"));

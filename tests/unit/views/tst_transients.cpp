@@ -282,7 +282,7 @@ void TstTransients::triggerShowsTheThresholdInForce()
 
 void TstTransients::holdLabelFollowsTheTask()
 {
-    QSignalSpy spy(m_page.get(), &ViewPage::pause);
+    QSignalSpy spy(m_page.get(), &LivePage::pause);
     press(startPage(), F5);
     QCOMPARE(spy.count(), 1);
     emit m_page->taskPaused();

@@ -194,10 +194,10 @@ void TstUnbalance::f4OpensThePhasorsRefreshedAndLeadsBack()
     QCOMPARE(text(mainPage(), "btn_f4"), QStringLiteral("Vector"));
     g_unbalance_data->voltageFundamental[0] = 100;
     press(mainPage(), F4);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(vectorPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(vectorPage()));
     QCOMPARE(text(vectorPage(), "v1_v"), QStringLiteral("100.00"));
     press(vectorPage(), F4);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(mainPage()));
 }
 
 void TstUnbalance::selectorRunsByTheWiringAndWraps_data()

@@ -232,21 +232,21 @@ void TstVif::negativeFrequencyIsShownGreyAndPositive()
 
 void TstVif::f4OpensTheTrendAndLeadsBack()
 {
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(mainPage()));
     QCOMPARE(text(mainPage(), "btn_f4"), QStringLiteral("Trend"));
     press(mainPage(), F4);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(trendPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(trendPage()));
     press(trendPage(), F4);
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(mainPage()));
     m_page->showVifTrend();
     m_page->enterVif();
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(mainPage()));
 }
 
 void TstVif::f5AsksToPauseAndMovesOnlyOnTheAnswer()
 {
-    QSignalSpy pause(m_page.get(), &ViewPage::pause);
-    QSignalSpy run(m_page.get(), &ViewPage::run);
+    QSignalSpy pause(m_page.get(), &LivePage::pause);
+    QSignalSpy run(m_page.get(), &LivePage::run);
     QCOMPARE(text(mainPage(), "btn_f5"), QStringLiteral("Hold"));
     press(mainPage(), F5);
     QCOMPARE(pause.count(), 1);
@@ -289,17 +289,12 @@ void TstVif::functionKeysTellCurrentAndTarget()
 {
     QFETCH(int, letter);
     QFETCH(int, target);
-    QList<QPair<int, int>> seen;
-    const auto note = [&](_quvera_ui_type current, _quvera_ui_type to) { seen.append({ current, to }); };
-    connect(m_page.get(), &ViewPage::goScope, this, note);
-    connect(m_page.get(), &ViewPage::goMenu, this, note);
-    connect(m_page.get(), &ViewPage::goMonitor, this, note);
-    connect(m_page.get(), &ViewPage::goSetup, this, note);
-    connect(m_page.get(), &ViewPage::goMemory, this, note);
+    QList<int> seen;
+    connect(m_page.get(), &Page::leave, this, [&](_quvera_ui_type to) { seen.append(to); });
+    QCOMPARE(m_page->uiType(), UI_VIF);
     QTest::keyClick(mainPage(), Qt::Key(letter));
     QTest::keyClick(trendPage(), Qt::Key(letter));
-    const QPair<int, int> expected(UI_VIF, target);
-    QCOMPARE(seen, (QList<QPair<int, int>> { expected, expected }));
+    QCOMPARE(seen, (QList<int> { target, target }));
 }
 
 void TstVif::unusedKeysDoNothingAndOthersRise()
@@ -311,8 +306,8 @@ void TstVif::unusedKeysDoNothingAndOthersRise()
     };
     for (int letter : { Qt::Key_W, Qt::Key_Y, Qt::Key_P, Qt::Key_O, Qt::Key_Q, Qt::Key_D, Qt::Key_T, Qt::Key_K })
         QVERIFY(accepted(letter));
-    QCOMPARE(m_page->currentPage(), static_cast<ViewPage *>(mainPage()));
-    ViewPage alone(UI_VIF);
+    QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(mainPage()));
+    LivePage alone(UI_VIF);
     for (int letter : { Qt::Key_I, Qt::Key_X, Qt::Key_B, Qt::Key_Escape, Qt::Key_1 }) {
         QKeyEvent event(QEvent::KeyPress, letter, Qt::NoModifier);
         QCoreApplication::sendEvent(&alone, &event);

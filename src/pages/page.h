@@ -9,62 +9,50 @@
 
 class QLabel;
 
-/// A page that shows live records and reacts to the front keys: the pattern behind every measuring function. It offers
-/// hold and run, the stop watch, navigation by F6 to F10 and a table of soft keys; a page's own file holds the rest.
-/// A page computes no measurement; it reads the global display records, which may still be null.
-class ViewPage : public QDialog
+/// A page that the front keys drive: what all pages have in common. A table says what each key does and what stands
+/// over it; a press on a dimmed screen only wakes it; F6 to F10 leave by one signal; captions follow language and
+/// colours. A page's own file holds the rest.
+class Page : public QDialog
 {
     Q_OBJECT
 
 public:
-    explicit ViewPage(_quvera_ui_type type, QWidget *parent = nullptr);
+    explicit Page(_quvera_ui_type type, QWidget *parent = nullptr);
 
     _quvera_ui_type uiType() const { return m_type; }
-    bool isRunning() const { return m_running; }
 
 public slots:
-    virtual void setPause();
-    virtual void setContinue();
-    /// Redraws from the global record; must be harmless when called twice. The argument is always 0.
-    virtual void updateDisplay(void *) { }
-    virtual void stopWatchChanged(const QString &text);
-    /// A run begins: forget what was shown.
-    virtual void init_parameter();
+    /// Captions anew, after a change of the language or of the phase colours.
     virtual void retranslateUi();
 
 signals:
-    void goScope(_quvera_ui_type current, _quvera_ui_type target);
-    void goMenu(_quvera_ui_type current, _quvera_ui_type target);
-    void goMonitor(_quvera_ui_type current, _quvera_ui_type target);
-    void goSetup(_quvera_ui_type current, _quvera_ui_type target);
-    void goMemory(_quvera_ui_type current, _quvera_ui_type target);
-    void run();
-    void pause();
+    /// The user asks for another page. Whether this one is left decides who shows pages.
+    void leave(_quvera_ui_type target);
 
 protected:
     /// One key of a page: what its label says and what it does. Without a caption the label stays as it is
     /// (a soft-key button paints its own).
-    template <typename Page> struct KeyRow
+    template <typename Owner> struct KeyRow
     {
         int key; // Qt::Key_F1 to F5, arrows, Enter
         const char *caption;
-        void (Page::*action)();
+        void (Owner::*action)();
     };
 
-    /// To be called once, after the form exists. F5 is Hold and Run unless the table has another use for it.
-    template <typename Page, std::size_t N> void setKeys(const KeyRow<Page> (&rows)[N])
+    /// To be called once, after the form exists.
+    template <typename Owner, std::size_t N> void setKeys(const KeyRow<Owner> (&rows)[N])
     {
         m_keys.clear();
-        auto *page = static_cast<Page *>(this);
+        auto *page = static_cast<Owner *>(this);
         for (const auto &row : rows)
             m_keys.push_back({ row.key, row.caption, [page, action = row.action] { (page->*action)(); } });
         finishKeys();
     }
     /// For a page without keys of its own.
     void setNoKeys();
+    bool hasOwnKey(int key) const;
     /// Text over the soft key F\a number, 1 to 5.
     void setKeyCaption(int number, const QString &text);
-    void showHold();
     /// Sets a label's text only when it changed: a refresh must not lay out what stands still.
     static void setText(QLabel *label, const QString &text);
 
@@ -88,10 +76,8 @@ private:
     };
 
     void finishKeys();
-    bool hasOwnKey(int key) const;
 
     const _quvera_ui_type m_type;
-    bool m_running = true;
     QString m_phaseColors; // digits of the palette that the labels have
     std::vector<Key> m_keys;
 };
