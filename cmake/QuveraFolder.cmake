@@ -52,6 +52,13 @@ file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/generated/testpaths.h @ONLY
   CONTENT "#pragma once\n#define QUVERA_SOURCE_DIR \"@CMAKE_SOURCE_DIR@\"\n#define QUVERA_BIN_DIR \"@CMAKE_BINARY_DIR@/bin\"\n")
 set_property(TARGET Qt5::Test PROPERTY INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
 
+# quvera_fail_on_warnings(<test>): what the toolkit says about a connection that it cannot make fails the test, for the
+# program goes on without it.
+function(quvera_fail_on_warnings TEST)
+  set_tests_properties(${TEST} PROPERTIES
+    FAIL_REGULAR_EXPRESSION "QObject::(dis)?connect: ;QObject::(dis)?connect\\(;QMetaObject::connectSlotsByName")
+endfunction()
+
 # quvera_test(<name> SOURCES <files...> [FOLDER <folder of src>] [LIBS <libraries...>] [LABELS <labels...>] [TIMEOUT <s>])
 function(quvera_test NAME)
   cmake_parse_arguments(ARG "" "FOLDER;TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
@@ -71,4 +78,5 @@ function(quvera_test NAME)
   endif()
   add_test(NAME ${NAME} COMMAND ${CMAKE_SOURCE_DIR}/tests/with-root $<TARGET_FILE:${NAME}>)
   set_tests_properties(${NAME} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}")
+  quvera_fail_on_warnings(${NAME})
 endfunction()

@@ -78,6 +78,20 @@ int saveScreen(RemoteClient &client, const QString &fileName)
     return Done;
 }
 
+/// What is wrong with a command and its arguments; empty when they fit.
+QString misuseOf(const QString &command, const QStringList &arguments)
+{
+    const bool wantsNothing = command == QLatin1String("identify") || command == QLatin1String("keepalive");
+    const bool isScreen = command == QLatin1String("screen");
+    if (!wantsNothing && !isScreen && command != QLatin1String("key"))
+        return QStringLiteral("no command is called \"%1\"").arg(command);
+    if (wantsNothing != arguments.isEmpty())
+        return QStringLiteral("wrong number of arguments for %1").arg(command);
+    if (isScreen && arguments.size() != 1)
+        return QStringLiteral("screen takes one file name");
+    return {};
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -120,13 +134,9 @@ int main(int argc, char **argv)
         || !parseNumber(parser.value(gap), 0, 600000, &gapMs))
         return fail(Misused, QStringLiteral("times are in ms, at most 600000"));
     const QString command = arguments.takeFirst();
-    const bool wantsNothing = command == QLatin1String("identify") || command == QLatin1String("keepalive");
-    if (!wantsNothing && command != QLatin1String("key") && command != QLatin1String("screen"))
-        return fail(Misused, QStringLiteral("no command is called \"%1\"").arg(command));
-    if (wantsNothing ? !arguments.isEmpty() : arguments.isEmpty())
-        return fail(Misused, QStringLiteral("wrong number of arguments for %1").arg(command));
-    if (command == QLatin1String("screen") && arguments.size() != 1)
-        return fail(Misused, QStringLiteral("screen takes one file name"));
+    const QString misuse = misuseOf(command, arguments);
+    if (!misuse.isEmpty())
+        return fail(Misused, misuse);
 
     const QHostAddress address = resolve(parser.value(host));
     if (address.isNull())

@@ -13,11 +13,12 @@ class TstProcessorScenario : public QObject
     Q_OBJECT
 
 private slots:
-    void everyKeyArrivesWhereItBelongs();
+    void keysOfTheScenarioArriveWhereTheyBelong();
+    void keysOfTheSignalArriveWhereTheyBelong();
     void anglesOfTheCurrentsFollowTheLoadUnlessTheyAreTold();
     void emptyObjectIsAQuietSupply();
-    void wrongFilesAreToldWithKeyAndExpectation_data();
-    void wrongFilesAreToldWithKeyAndExpectation();
+    void wrongFilesAreNamedWithKeyAndExpectation_data();
+    void wrongFilesAreNamedWithKeyAndExpectation();
     void missingFileNamesTheOnesThereAre();
     void calibrationFileIsFoundBesideTheScenario();
     void sameSeedGivesTheSameStream();
@@ -32,10 +33,10 @@ private slots:
     void inputsHaveNames();
 };
 
-void TstProcessorScenario::everyKeyArrivesWhereItBelongs()
-{
-    QString error;
-    const auto scenario = parse(R"({
+namespace {
+
+/// A scenario that has every key.
+const char kEveryKey[] = R"({
         "name": "all", "description": "d", "seed": 9,
         "setup": { "nominal": 60, "lamp": 120, "wiring": 1 },
         "frontEnd": { "noise": 0.0, "clamp": 10000, "neutralClamp": 500, "rogowski": true },
@@ -54,8 +55,14 @@ void TstProcessorScenario::everyKeyArrivesWhereItBelongs()
         "events": [ { "at": 2, "every": 5, "type": "dip", "inputs": "l1+l3", "level": 40, "length": 0.2, "phase": 90 } ],
         "steps": [ { "at": 3, "tell": "bds off" } ],
         "link": { "drop": 0.25, "at": [ { "atDatagram": 12, "tear": 1, "bytes": 20 } ] }
-    })",
-                                &error);
+    })";
+
+} // namespace
+
+void TstProcessorScenario::keysOfTheScenarioArriveWhereTheyBelong()
+{
+    QString error;
+    const auto scenario = parse(kEveryKey, &error);
     QVERIFY2(scenario, qPrintable(error));
     QCOMPARE(*scenario->seed, quint64(9));
     QCOMPARE(scenario->setup.nominalFrequency, 60);
@@ -67,6 +74,22 @@ void TstProcessorScenario::everyKeyArrivesWhereItBelongs()
     QVERIFY(*scenario->frontEnd.rogowski);
     QCOMPARE(scenario->clockStart, qint64(1705579200000));
     QVERIFY(scenario->bds);
+    QCOMPARE(scenario->events.at(0).every, 5.0);
+    QCOMPARE(scenario->events.at(0).event.percent, 60.0); // 40 percent are left
+    QCOMPARE(scenario->events.at(0).event.startPhaseDeg, 90.0);
+    QCOMPARE(scenario->events.at(0).event.inputs, processor::maskOf(processor::U1) | processor::maskOf(processor::U3));
+    QCOMPARE(scenario->steps.at(0).tell, QString("bds off"));
+    QCOMPARE(scenario->faultRates[0], 0.25);
+    QCOMPARE(int(scenario->faults.at(0).fault), int(wire::Fault::Tear));
+    QCOMPARE(scenario->faults.at(0).package, 1);
+    QCOMPARE(scenario->faults.at(0).bytes, 20);
+}
+
+void TstProcessorScenario::keysOfTheSignalArriveWhereTheyBelong()
+{
+    QString error;
+    const auto scenario = parse(kEveryKey, &error);
+    QVERIFY2(scenario, qPrintable(error));
     const processor::SignalSpec &signal = scenario->signal;
     QCOMPARE(signal.frequencyHz, 60.5);
     QCOMPARE(signal.driftLimitHz, 2.0);
@@ -86,15 +109,6 @@ void TstProcessorScenario::everyKeyArrivesWhereItBelongs()
     QCOMPARE(signal.inputs[processor::I3].driftHzPerSecond, 0.5);
     QCOMPARE(signal.inputs[processor::I2].frequencyHz, 0.0); // that of all
     QCOMPARE(signal.signalling.at(0).periodSeconds, 9.0);
-    QCOMPARE(scenario->events.at(0).every, 5.0);
-    QCOMPARE(scenario->events.at(0).event.percent, 60.0); // 40 percent are left
-    QCOMPARE(scenario->events.at(0).event.startPhaseDeg, 90.0);
-    QCOMPARE(scenario->events.at(0).event.inputs, processor::maskOf(processor::U1) | processor::maskOf(processor::U3));
-    QCOMPARE(scenario->steps.at(0).tell, QString("bds off"));
-    QCOMPARE(scenario->faultRates[0], 0.25);
-    QCOMPARE(int(scenario->faults.at(0).fault), int(wire::Fault::Tear));
-    QCOMPARE(scenario->faults.at(0).package, 1);
-    QCOMPARE(scenario->faults.at(0).bytes, 20);
 }
 
 void TstProcessorScenario::anglesOfTheCurrentsFollowTheLoadUnlessTheyAreTold()
@@ -123,10 +137,10 @@ void TstProcessorScenario::emptyObjectIsAQuietSupply()
     QCOMPARE(scenario->signal.frequencyHz, 50.0);
 }
 
-void TstProcessorScenario::wrongFilesAreToldWithKeyAndExpectation_data()
+namespace {
+
+void rowsOfWrongFiles()
 {
-    QTest::addColumn<QByteArray>("json");
-    QTest::addColumn<QString>("error");
     QTest::newRow("no JSON") << QByteArray("{\n  \"seed\": x }") << "s.json: line 2, column 11: illegal number";
     QTest::newRow("empty") << QByteArray() << "s.json: line 1, column 1: illegal value";
     QTest::newRow("a list") << QByteArray("[]") << "s.json: expected an object, found a list";
@@ -162,6 +176,10 @@ void TstProcessorScenario::wrongFilesAreToldWithKeyAndExpectation_data()
     QTest::newRow("flicker of another shape")
         << QByteArray(R"({"signal": {"flicker": [{"shape": "saw", "rate": 1, "percent": 1}]}})")
         << "s.json: signal.flicker[0].shape: expected \"rectangular\" or \"sinusoidal\", found \"saw\"";
+}
+
+void rowsOfWrongEvents()
+{
     QTest::newRow("event of no kind") << QByteArray(R"({"events": [{"at": 1, "type": "sag"}]})")
                                       << "s.json: events[0].type: expected one of dip, swell, interruption, rvc, "
                                          "phasejump, transient, ring, inrush, loadstep, found \"sag\"";
@@ -185,6 +203,10 @@ void TstProcessorScenario::wrongFilesAreToldWithKeyAndExpectation_data()
     QTest::newRow("key of another event")
         << QByteArray(R"({"events": [{"at": 1, "type": "dip", "level": 40, "length": 1, "decay": 1}]})")
         << "s.json: events[0].decay: unknown key, expected one of at, every, inputs, length, level, phase, type";
+}
+
+void rowsOfWrongStepsAndSetUp()
+{
     QTest::newRow("step with nothing") << QByteArray(R"({"steps": [{"at": 1}]})")
                                        << "s.json: steps[0].tell: expected a command, or a \"signal\", found nothing";
     QTest::newRow("step with an unknown command")
@@ -208,7 +230,18 @@ void TstProcessorScenario::wrongFilesAreToldWithKeyAndExpectation_data()
         << QByteArray(R"({"events": {}})") << "s.json: events: expected a list, found an object";
 }
 
-void TstProcessorScenario::wrongFilesAreToldWithKeyAndExpectation()
+} // namespace
+
+void TstProcessorScenario::wrongFilesAreNamedWithKeyAndExpectation_data()
+{
+    QTest::addColumn<QByteArray>("json");
+    QTest::addColumn<QString>("error");
+    rowsOfWrongFiles();
+    rowsOfWrongEvents();
+    rowsOfWrongStepsAndSetUp();
+}
+
+void TstProcessorScenario::wrongFilesAreNamedWithKeyAndExpectation()
 {
     QFETCH(QByteArray, json);
     QFETCH(QString, error);

@@ -1,6 +1,6 @@
 // Reads the sources and holds them to the rules of docs/architecture.md.
+#include "unit/architecture/sourcetext.h"
 #include "unit/documentpage.h"
-#include "testpaths.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -11,34 +11,12 @@
 
 namespace {
 
-const QString kTop = QStringLiteral(QUVERA_SOURCE_DIR);
+using SourceText::code;
+using SourceText::kTop;
+using SourceText::read;
+using SourceText::sources;
+
 const QString kTopLevel = QStringLiteral("top"); // the sources that stand in src/ itself
-
-QString read(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
-
-/// Paths of the sources and headers below a folder of the repository, seen from its top.
-QStringList sources(const QString &folder)
-{
-    QStringList paths;
-    QDirIterator files(kTop + QLatin1Char('/') + folder, { QStringLiteral("*.cpp"), QStringLiteral("*.h") },
-                       QDir::Files, QDirIterator::Subdirectories);
-    while (files.hasNext())
-        paths << files.next().mid(kTop.size() + 1);
-    paths.sort();
-    return paths;
-}
-
-/// The text with its comments taken out, line by line; "//" inside a literal stays.
-QString code(const QString &path)
-{
-    static const QRegularExpression comment(QStringLiteral(R"re(("(?:[^"\\\n]|\\.)*")|//[^\n]*|/\*.*?\*/)re"),
-                                            QRegularExpression::DotMatchesEverythingOption);
-    return read(kTop + QLatin1Char('/') + path).replace(comment, QStringLiteral("\\1"));
-}
 
 /// "src/settings/config.h" stands in "config", "src/main.cpp" in "top".
 QString folderOf(const QString &path)

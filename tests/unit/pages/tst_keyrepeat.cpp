@@ -23,6 +23,14 @@ private slots:
     void anEmptyListOfStepsCountsAsOne();
 
 private:
+    /// Starts forward and goes on until the step is 5.
+    static void startAndGrow(KeyRepeat &repeat)
+    {
+        repeat.start(1);
+        for (int i = 0; i < 4; ++i)
+            repeat.tick();
+    }
+
     static QList<int> steps(const QSignalSpy &spy)
     {
         QList<int> list;
@@ -99,9 +107,7 @@ void TstKeyRepeat::aKeyThatRepeatsByItselfChangesNothing()
 {
     QWidget page;
     KeyRepeat repeat(&page, 3);
-    repeat.start(1);
-    for (int i = 0; i < 4; ++i)
-        repeat.tick();
+    startAndGrow(repeat);
     QSignalSpy spy(&repeat, &KeyRepeat::repeated);
     repeat.start(1);
     QCOMPARE(spy.count(), 0);
@@ -120,9 +126,7 @@ void TstKeyRepeat::theOppositeKeyStartsAnew()
 {
     QWidget page;
     KeyRepeat repeat(&page, 3);
-    repeat.start(1);
-    for (int i = 0; i < 4; ++i)
-        repeat.tick();
+    startAndGrow(repeat);
     QSignalSpy spy(&repeat, &KeyRepeat::repeated);
     repeat.start(-1);
     QCOMPARE(steps(spy), QList<int>({ -1 }));
