@@ -1,11 +1,19 @@
 #include "platform/clock.h"
 
 #include <atomic>
+#include <chrono>
 #include <limits>
 
 namespace {
 constexpr qint64 kRunning = std::numeric_limits<qint64>::min();
 std::atomic<qint64> heldAt { kRunning }; // ms since 1970, or kRunning
+std::atomic<qint64> heldElapsed { 0 }; // ms, while the clock is held
+
+qint64 steadyMsecs()
+{
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
+}
 }
 
 qint64 Clock::msecs()
@@ -37,13 +45,20 @@ timeval Clock::timeOfDay()
     return time;
 }
 
+qint64 Clock::elapsed()
+{
+    return heldAt.load() == kRunning ? steadyMsecs() : heldElapsed.load();
+}
+
 void Clock::setForTest(qint64 ms)
 {
+    heldElapsed = elapsed();
     heldAt = ms;
 }
 
 void Clock::advance(qint64 ms)
 {
+    heldElapsed = elapsed() + ms;
     heldAt = msecs() + ms;
 }
 

@@ -18,10 +18,12 @@ public:
     static QDateTime now();
     /// The same moment for frames and headers that carry seconds and microseconds.
     static timeval timeOfDay();
+    /// ms since some moment before the start of the program: goes on evenly, whatever the time of day is set to.
+    static qint64 elapsed();
 
-    /// Stops the clock at `ms` since 1970, until useSystem().
+    /// Stops the clock at `ms` since 1970, until useSystem(). For elapsed() no time passes: the time of day was set.
     static void setForTest(qint64 ms);
-    /// Moves a stopped clock by `ms`; a running clock is stopped at its present moment plus `ms`.
+    /// Lets `ms` pass on a stopped clock; a running clock is stopped at its present moment plus `ms`.
     static void advance(qint64 ms);
     /// Back to the system clock.
     static void useSystem();

@@ -49,17 +49,23 @@ void AbstractTask::setTaskLifeCycle(unsigned int start, int life)
     if (m_status == Waiting || m_status == Running)
         return;
 
-    const quint32 now = Clock::seconds();
-    m_startTime = start != 0 && start >= now ? start : now + kStartDelay;
+    m_plannedAt = Clock::msecs();
+    m_plannedElapsed = Clock::elapsed();
+    const quint32 now = quint32(m_plannedAt / 1000);
+    m_atOnce = start == 0 || start < now;
+    m_startTime = m_atOnce ? now + kStartDelay : start;
     m_lifeCycle = boundedLife(life);
     m_endTime = m_startTime + quint32(m_lifeCycle);
 }
 
 void AbstractTask::setRecordLifeCycle(unsigned int start, int life)
 {
-    const qint64 now = qint64(Clock::seconds()) * 1000;
+    const qint64 time = Clock::msecs();
+    const qint64 now = time / 1000 * 1000;
     const qint64 wanted = qint64(start) * 1000;
-    m_recordStart = start != 0 && wanted >= now ? wanted : now + kStartDelay * 1000;
+    m_recordAtOnce = start == 0 || wanted < now;
+    m_recordClock.begin(time, Clock::elapsed());
+    m_recordStart = m_recordAtOnce ? now + kStartDelay * 1000 : wanted;
     m_recordLife = qint64(boundedLife(life)) * 1000;
     m_recordEnd = m_recordStart + m_recordLife + 100;
     emit recordTimeChanged(stopWatchText(0));
@@ -115,8 +121,7 @@ void AbstractTask::stopTask()
     m_dataTimer->stop();
     m_status = Stopped;
     emit taskStoped();
-    const quint32 now = Clock::seconds();
-    emit taskStoped(now > m_startTime ? now - m_startTime : 0);
+    emit taskStoped(quint32(qMax(runTime() - qint64(m_startTime), qint64(0))));
 }
 
 QString AbstractTask::stopWatchText(qint64 seconds)
@@ -128,12 +133,18 @@ QString AbstractTask::stopWatchText(qint64 seconds)
     return pattern.arg(s / 3600, 2, 10, zero).arg(s / 60 % 60, 2, 10, zero).arg(s % 60, 2, 10, zero);
 }
 
+qint64 AbstractTask::runTime() const
+{
+    const qint64 now = m_atOnce ? m_plannedAt + Clock::elapsed() - m_plannedElapsed : Clock::msecs();
+    return now / 1000;
+}
+
 void AbstractTask::baseTimerTimeout()
 {
     // Shared by all tasks and outliving each: a new task that starts at the same reading shows nothing new.
     static qint64 lastShown = 0;
 
-    const quint32 now = Clock::seconds();
+    const qint64 now = runTime();
     if (m_status == Waiting && now >= m_startTime)
         startTask();
 
@@ -142,7 +153,7 @@ void AbstractTask::baseTimerTimeout()
         elapsed = m_lifeCycle;
         stopTask();
     } else {
-        elapsed = qint64(now) - qint64(m_startTime);
+        elapsed = now - qint64(m_startTime);
     }
     if (elapsed == lastShown)
         return;
@@ -163,10 +174,20 @@ void AbstractTask::stopRecordTask()
     m_recordEnabled = false;
 }
 
+void AbstractTask::followRecordClock(qint64 msec)
+{
+    if (!m_recordAtOnce)
+        return;
+    const qint64 step = m_recordClock.take(msec, Clock::elapsed());
+    m_recordStart = qint64(quint64(m_recordStart) + quint64(step));
+    m_recordEnd = qint64(quint64(m_recordEnd) + quint64(step));
+}
+
 void AbstractTask::recordClock(qint64 msec, qint64 &lastShown, bool endsWindow)
 {
     if (!m_recordEnabled)
         return;
+    followRecordClock(msec);
 
     qint64 elapsed;
     const bool beforeStart = !m_recording && msec < m_recordStart;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "task/clockstep.h"
+
 #include <QObject>
 #include <QString>
 
@@ -7,7 +9,8 @@ class QTimer;
 
 /// Life of one measurement: it waits for its start time, runs, pauses, ends at its end time, keeps a stop watch and
 /// opens and closes a recording window inside the run. A stopped task cannot be restarted; a new one must be made.
-/// Main thread only. Times are seconds since 1970 unless a name says otherwise.
+/// A run or a recording that begins at once keeps its length when a clock is corrected meanwhile; one that is planned
+/// for a time keeps that time. Main thread only. Times are seconds since 1970 unless a name says otherwise.
 class AbstractTask : public QObject
 {
     Q_OBJECT
@@ -33,7 +36,7 @@ public:
 
     int taskType() const { return m_taskType; }
     int taskInterval() const { return m_taskInterval; } // ms
-    quint32 startTime() const { return m_startTime; }
+    quint32 startTime() const { return m_startTime; } // by the clock as it stood when the run was planned
     quint32 endTime() const { return m_endTime; }
     qint32 lifeCycle() const { return m_lifeCycle; } // s
     qint64 recordStart() const { return m_recordStart; } // ms
@@ -44,9 +47,11 @@ public:
     /// \a interval in ms; below 200 it becomes 200.
     void setTaskType(int type, int interval);
     /// Plans the run: \a start in s since 1970 (0 or past: ten seconds from now), \a life in s (out of 1 to 86400000:
-    /// that). Ignored while the task waits or runs.
+    /// that). Ignored while the task waits or runs. A run for ten seconds from now takes no notice of a clock that is
+    /// corrected later; a planned one begins and ends by the clock.
     void setTaskLifeCycle(unsigned int start, int life);
-    /// Plans the recording window, same arguments; kept in ms of the processor's time.
+    /// Plans the recording window, same arguments; kept in ms of the processor's time. A window for ten seconds from
+    /// now moves along with the processor's time where this differs from our clock or is set anew.
     void setRecordLifeCycle(unsigned int start, int life);
 
     void preStartTask();
@@ -86,6 +91,10 @@ signals:
 private:
     enum Status { Idle = 0, Waiting = 1, Running = 2, Paused = 3, Stopped = 4 };
 
+    /// s since 1970 on the clock that the run was planned by.
+    qint64 runTime() const;
+    /// Moves a window that was opened at once by what the processor's time \a msec was set on or back.
+    void followRecordClock(qint64 msec);
     /// Common step of both recording clocks. \a endsWindow: the clock closes the window at its end.
     void recordClock(qint64 msec, qint64 &lastShown, bool endsWindow);
 
@@ -97,9 +106,14 @@ private:
     quint32 m_startTime = 0;
     quint32 m_endTime = 0;
     qint32 m_lifeCycle = 0;
+    bool m_atOnce = false; // the run was not planned for a time
+    qint64 m_plannedAt = 0; // ms since 1970
+    qint64 m_plannedElapsed = 0; // Clock::elapsed() of the same moment
     qint64 m_recordStart = 0;
     qint64 m_recordEnd = 0;
     qint64 m_recordLife = 0;
+    bool m_recordAtOnce = false; // the window was not planned for a time
+    ClockStep m_recordClock;
     bool m_recordEnabled = false;
     bool m_recording = false;
 };

@@ -46,6 +46,21 @@ private slots:
         QVERIFY(held >= before + 60000);
         QCOMPARE(Clock::msecs(), held);
     }
+
+    void elapsedTimeFollowsWhatPassesAndNoSettingOfTheClock()
+    {
+        Clock::setForTest(1700000000000);
+        const qint64 begin = Clock::elapsed();
+        Clock::advance(1500);
+        QCOMPARE(Clock::elapsed() - begin, qint64(1500));
+        Clock::setForTest(1700003600000);
+        QCOMPARE(Clock::elapsed() - begin, qint64(1500));
+        Clock::setForTest(1384380800000);
+        QCOMPARE(Clock::elapsed() - begin, qint64(1500));
+        Clock::useSystem();
+        const qint64 running = Clock::elapsed();
+        QTRY_VERIFY(Clock::elapsed() > running);
+    }
 };
 
 QTEST_GUILESS_MAIN(TstClock)
