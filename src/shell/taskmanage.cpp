@@ -215,11 +215,14 @@ void TaskManage::exitTask()
     DeviceInit::stopDataStream();
     if (!m_curTask)
         return;
+    AbstractTask *task = m_curTask;
     m_curTaskType = 0;
-    m_curTask->stopTask();
+    task->stopTask();
+    if (m_curTask != task)
+        return; // who heard of the stop ended it already
     connectTask(false);
-    delete m_curTask;
     g_unitask = nullptr;
     m_curTask = nullptr;
+    task->retire(); // it may be the task's own timer or datagram that led here
     ModbusPublisher::clear();
 }

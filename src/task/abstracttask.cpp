@@ -73,6 +73,7 @@ void AbstractTask::setRecordLifeCycle(unsigned int start, int life)
 
 void AbstractTask::preStartTask()
 {
+    const Call call(this);
     m_status = Waiting;
     m_baseTimer->start();
     requestDSP();
@@ -87,6 +88,7 @@ void AbstractTask::requestDSP()
 
 void AbstractTask::startTask()
 {
+    const Call call(this);
     if (m_status == Running || m_status == Stopped)
         return;
     m_dataTimer->start();
@@ -110,8 +112,22 @@ void AbstractTask::continueTask()
     emit taskContinued();
 }
 
+AbstractTask::Call::~Call()
+{
+    if (--m_task->m_calls == 0 && m_task->m_retired)
+        m_task->deleteLater();
+}
+
+void AbstractTask::retire()
+{
+    const Call call(this);
+    m_retired = true;
+    blockSignals(true);
+}
+
 void AbstractTask::stopTask()
 {
+    const Call call(this);
     if (m_status == Stopped)
         return;
     if (m_recordEnabled)
@@ -141,6 +157,7 @@ qint64 AbstractTask::runTime() const
 
 void AbstractTask::baseTimerTimeout()
 {
+    const Call call(this);
     // Shared by all tasks and outliving each: a new task that starts at the same reading shows nothing new.
     static qint64 lastShown = 0;
 

@@ -59,6 +59,9 @@ public:
     void pauseTask();
     void continueTask();
     void stopTask();
+    /// Says nothing any more and is deleted when none of its own calls is under way, at the earliest from the event
+    /// loop: a page may end the task from within one of the task's signals.
+    void retire();
 
     void enableRecord() { m_recordEnabled = true; }
     void startRecordTask();
@@ -88,6 +91,19 @@ signals:
     void recordingStarted();
     void recordingStoped();
 
+protected:
+    /// Stands in each function that the outside calls and that emits: the task is not deleted under it.
+    class Call
+    {
+    public:
+        explicit Call(AbstractTask *task) : m_task(task) { ++m_task->m_calls; }
+        ~Call();
+        Q_DISABLE_COPY(Call)
+
+    private:
+        AbstractTask *m_task;
+    };
+
 private:
     enum Status { Idle = 0, Waiting = 1, Running = 2, Paused = 3, Stopped = 4 };
 
@@ -116,4 +132,6 @@ private:
     ClockStep m_recordClock;
     bool m_recordEnabled = false;
     bool m_recording = false;
+    int m_calls = 0; // under way
+    bool m_retired = false;
 };

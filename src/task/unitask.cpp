@@ -133,6 +133,7 @@ void UniTask::initRecording() { }
 
 void UniTask::datagramAggregation(const QByteArray &bytes)
 {
+    const Call call(this);
     if (!DataTypes::fits(DatagramAggregation, bytes))
         return;
     DataTypes::datagramAggregation(m_aggregation.get(), bytes.constData());
@@ -219,6 +220,7 @@ void UniTask::appendSecondTrends()
 
 void UniTask::updatedata()
 {
+    const Call call(this);
     if (!isTaskRunning())
         return;
     copyScope();

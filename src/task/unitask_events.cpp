@@ -14,6 +14,7 @@
 
 void UniTask::datagramRMS_1_2(const QByteArray &bytes)
 {
+    const Call call(this);
     if (!DataTypes::fits(DatagramRMS_1_2, bytes))
         return;
     DataTypes::datagramRMS_1_2(m_rms.get(), bytes.constData());
@@ -53,7 +54,8 @@ void UniTask::checkHalfCycles()
 
     QList<_value_with_time> values;
     values.reserve(2 * kChannels);
-    for (int i = 0; i < entries; ++i) {
+    // An event may end the measurement: what came behind it is not looked at.
+    for (int i = 0; i < entries && isLive(); ++i) {
         values.clear();
         for (const RmsSeries &series : m_rms->voltage)
             values.append(series.entry[i]);

@@ -30,6 +30,7 @@ void writeFlickerBlocks(Pqa2FF *file, const FlickerOutput &out, Pqa2DBType short
 
 void UniTask::datagramFlicker(const QByteArray &bytes)
 {
+    const Call call(this);
     if (!DataTypes::fits(DatagramFlicker, bytes))
         return;
     DataTypes::datagramFlicker(m_flicker.get(), bytes.constData());

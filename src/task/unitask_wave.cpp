@@ -13,6 +13,7 @@
 
 void UniTask::datagramWave(const QByteArray &bytes)
 {
+    const Call call(this);
     if (!DataTypes::fits(DatagramWave, bytes))
         return;
     DataTypes::datagramWave(m_wave.get(), bytes.constData());

@@ -178,7 +178,7 @@ void TstShell::goingToAnotherFunctionAsksAndQuitStartsAnew()
     DialogAnswer answer(kF4);
     m_basedialog->go(UI_WAVE, UI_VIF);
     QVERIFY(answer.asked);
-    QCOMPARE(destroyed.count(), 1);
+    QTRY_COMPARE(destroyed.count(), 1);
     QCOMPARE(m_taskmanage->getUniFunction(), 1);
     QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
 }
@@ -319,7 +319,7 @@ void TstShell::restartInTheRecorderQuestionStaysAndBeginsANewRecording()
     DialogAnswer restart(Qt::Key_Y);
     m_basedialog->go(UI_VIF, UI_SCOPE);
     QVERIFY(restart.text.contains("Logger is running!"));
-    QCOMPARE(destroyed.count(), 1);
+    QTRY_COMPARE(destroyed.count(), 1);
     QVERIFY(g_unitask->recordEnabled());
     QCOMPARE(m_taskmanage->getUniFunction(), 1);
     QCOMPARE(top(), static_cast<QWidget *>(m_vifpage));
@@ -391,7 +391,7 @@ void TstShell::statusDialogRestartsTheTask()
     QSignalSpy destroyed(task, &QObject::destroyed);
     DialogAnswer restart(kF1);
     QTest::keyClick(m_menupage, kF1);
-    QCOMPARE(destroyed.count(), 1);
+    QTRY_COMPARE(destroyed.count(), 1);
     QVERIFY(g_unitask);
     QCOMPARE(m_taskmanage->getUniFunction(), 1);
 }

@@ -7,7 +7,10 @@
 #include "views/power/powen.h"
 #include "views/vif/vifpage.h"
 
+#include <QEventLoop>
+#include <QPointer>
 #include <QSignalSpy>
+#include <QTimer>
 
 class TstTaskManage : public QObject
 {
@@ -37,6 +40,9 @@ private slots:
     void datagramsReachTheTaskAndTheScreen();
     void buzzerRingsThroughTheDevice();
     void exitDeletesTheTask();
+    void taskOutlivesTheCallOfItsOwnThatEndsIt_data();
+    void taskOutlivesTheCallOfItsOwnThatEndsIt();
+    void exitFromTheStopOfAnExitIsOne();
 };
 
 void TstTaskManage::initTestCase()
@@ -265,12 +271,78 @@ void TstTaskManage::exitDeletesTheTask()
     QSignalSpy destroyed(g_unitask, &QObject::destroyed);
     g_events_list.append(__event_item());
     m_taskmanage->exitTaskWithSave(false);
-    QCOMPARE(destroyed.count(), 1);
+    QCOMPARE(destroyed.count(), 0);
+    QTRY_COMPARE(destroyed.count(), 1);
     QVERIFY(g_events_list.isEmpty()); // it was stopped before its links went: the menu forgot the events
     QVERIFY(!g_unitask);
     QCOMPARE(m_taskmanage->curTaskType(), 0);
     emit m_vifpage->pause();
     emit m_idevice->datagramAggregation(QByteArray(13000, '\0'));
+}
+
+void TstTaskManage::taskOutlivesTheCallOfItsOwnThatEndsIt_data()
+{
+    QTest::addColumn<QString>("call");
+    for (const char *call : { "clock tick", "end of the run", "display tick", "wave datagram" })
+        QTest::newRow(call) << QString(call);
+}
+
+void TstTaskManage::taskOutlivesTheCallOfItsOwnThatEndsIt()
+{
+    QFETCH(QString, call);
+    AbstractTask *started = m_taskmanage->initTask(TaskManage::Universal);
+    m_taskmanage->startTask(started);
+    QPointer<UniTask> task = g_unitask;
+    bool alive = false;
+    const auto endIt = [&] {
+        m_taskmanage->exitTask();
+        // A page that asks the user at the end lets the event loop run, and with it whatever is to be deleted.
+        QEventLoop question;
+        QTimer::singleShot(20, &question, &QEventLoop::quit);
+        question.exec();
+        alive = !task.isNull();
+    };
+    if (call == "clock tick") {
+        connect(task, &AbstractTask::taskStarted, this, endIt);
+        task->setTaskLifeCycle(0, 1);
+        Clock::advance(11'000);
+        task->baseTimerTimeout();
+    } else if (call == "end of the run") {
+        connect(task, QOverload<>::of(&AbstractTask::taskStoped), this, endIt);
+        task->stopTask();
+    } else if (call == "display tick") {
+        connect(task, &UniTask::updateDisplay, this, endIt);
+        task->startTask();
+        task->updatedata();
+    } else {
+        connect(task, &AbstractTask::recordingStarted, this, endIt);
+        task->setRecordLifeCycle(Clock::seconds() + 10, 10);
+        task->enableRecord();
+        QByteArray bytes(4 * 16400, '\0');
+        const qint64 later = Clock::msecs() + 20'000;
+        bytes.replace(0, 8, reinterpret_cast<const char *>(&later), 8);
+        task->datagramWave(bytes);
+    }
+    QVERIFY(alive);
+    QVERIFY(!g_unitask);
+    QTRY_VERIFY(task.isNull());
+    Clock::useSystem();
+}
+
+void TstTaskManage::exitFromTheStopOfAnExitIsOne()
+{
+    m_taskmanage->startTask(m_taskmanage->initTask(TaskManage::Universal));
+    QPointer<UniTask> task = g_unitask;
+    int stops = 0;
+    connect(task, QOverload<>::of(&AbstractTask::taskStoped), this, [&] {
+        ++stops;
+        m_taskmanage->exitTask();
+    });
+    m_taskmanage->exitTask();
+    QCOMPARE(stops, 1);
+    QVERIFY(!g_unitask);
+    QVERIFY(!m_taskmanage->currentTask());
+    QTRY_VERIFY(task.isNull());
 }
 
 QTEST_MAIN(TstTaskManage)
