@@ -1,9 +1,24 @@
 #include "pages/meterpage.h"
 
 #include "settings/config_data.h"
+#include "widgets/controls/labellook.h"
 
 #include <QCoreApplication>
 #include <QLabel>
+
+void MeterPage::addLine(const MeterGrid &grid, const MeterLine &line, const char *fourth)
+{
+    const LabelGrid::Row row = grid.rows.addChannels(this, QString::fromLatin1(line.name), line.top, fourth);
+    m_lines.push_back(&line);
+    m_captions.push_back(row.caption);
+    m_rows.push_back(row.values);
+}
+
+void MeterPage::finishRows(const MeterGrid &grid)
+{
+    m_headers = grid.rows.addHeaders(this, grid.headerTop, grid.headerHeight, grid.headerSize);
+    LabelLook::dress(this);
+}
 
 void MeterPage::init_parameter()
 {
@@ -31,9 +46,9 @@ void MeterPage::showTitle()
 
 void MeterPage::showCaptions()
 {
-    for (const MeterLine *line : m_lines) {
-        const QString caption = QCoreApplication::translate(metaObject()->className(), line->caption);
-        setText(findChild<QLabel *>(QString::fromLatin1(line->name) + QLatin1String("_t")),
-                line->unit ? caption.arg(m_settingConfig_g.units().*line->unit) : caption);
+    for (std::size_t i = 0; i < m_lines.size(); ++i) {
+        const MeterLine &line = *m_lines[i];
+        const QString caption = QCoreApplication::translate(metaObject()->className(), line.caption);
+        setText(m_captions[i], line.unit ? caption.arg(m_settingConfig_g.units().*line.unit) : caption);
     }
 }

@@ -1,17 +1,27 @@
 #pragma once
 
 #include "model/displayunits.h"
-#include "pages/channellabels.h"
+#include "pages/labelgrid.h"
 #include "pages/livepage.h"
 
 #include <vector>
 
-/// Start of a line in a meter page's table: the labels it stands in and what its caption says.
+/// Start of a line in a meter page's table: the labels it stands in, where, and what its caption says.
 struct MeterLine
 {
     const char *name; // labels <name>_t, <name>_L1 ... <name>_N
+    int top; // pixels of the page
     const char *caption; // to be translated; "%1" stands for the unit
     QString DisplayUnits::*unit; // null: a caption without one
+};
+
+/// Where a meter page's table stands.
+struct MeterGrid
+{
+    LabelGrid rows;
+    int headerTop;
+    int headerHeight;
+    int headerSize;
 };
 
 /// A page that shows a table of live values, a line per quantity and a column per channel of the wiring. A page's own
@@ -29,14 +39,14 @@ public slots:
     void retranslateUi() override;
 
 protected:
-    /// To be called once, between setupUi and setKeys. The rows derive from MeterLine and live as long as the page.
-    template <typename Row, std::size_t N> void setRows(const Row (&rows)[N])
+    /// Places the table, dresses the form. To be called once, between setupUi and setKeys. The rows derive from
+    /// MeterLine and live as long as the page. \a fourth ends the names of the fourth column's labels.
+    template <typename Row, std::size_t N>
+    void setRows(const MeterGrid &grid, const Row (&rows)[N], const char *fourth = "N")
     {
-        m_headers = ChannelLabels::numberedRow(this, "header_%1");
-        for (const Row &row : rows) {
-            m_lines.push_back(&row);
-            m_rows.push_back(ChannelLabels::namedRow(this, row.name));
-        }
+        for (const Row &row : rows)
+            addLine(grid, row, fourth);
+        finishRows(grid);
     }
 
     /// Everything that follows the wiring, the units and the language.
@@ -50,5 +60,9 @@ protected:
     std::vector<ChannelLabels::LabelRow> m_rows; // in the order of the page's table
 
 private:
+    void addLine(const MeterGrid &grid, const MeterLine &line, const char *fourth);
+    void finishRows(const MeterGrid &grid);
+
     std::vector<const MeterLine *> m_lines;
+    std::vector<QLabel *> m_captions; // in the same order
 };

@@ -3,7 +3,6 @@
 
 #include "model/displayrecords.h"
 #include "widgets/text/f_to_str.h"
-#include "widgets/controls/labellook.h"
 
 #include <algorithm>
 
@@ -17,10 +16,12 @@ struct Row : MeterLine
 };
 
 const Row kRows[] = {
-    { "Pst", QT_TRANSLATE_NOOP("FlickerMain", "Pst"), nullptr, &__flicker_data::pst },
-    { "Plt", QT_TRANSLATE_NOOP("FlickerMain", "Plt"), nullptr, &__flicker_data::plt },
-    { "P1", QT_TRANSLATE_NOOP("FlickerMain", "pinst"), nullptr, &__flicker_data::flickerMax },
+    { "Pst", 110, QT_TRANSLATE_NOOP("FlickerMain", "Pst"), nullptr, &__flicker_data::pst },
+    { "Plt", 180, QT_TRANSLATE_NOOP("FlickerMain", "Plt"), nullptr, &__flicker_data::plt },
+    { "P1", 250, QT_TRANSLATE_NOOP("FlickerMain", "pinst"), nullptr, &__flicker_data::flickerMax },
 };
+
+constexpr MeterGrid kGrid = { { 170, 150, 140, 30, 46, 16, 134, 20, kPhases }, 54, 30, 24 };
 
 } // namespace
 
@@ -30,8 +31,7 @@ FlickerMain::FlickerMain(QWidget *parent) : MeterPage(UI_FLICKER, parent), m_ui(
         { Qt::Key_F4, QT_TRANSLATE_NOOP("FlickerMain", "Trend"), &FlickerMain::goFlickerTrend },
     };
     m_ui->setupUi(this);
-    LabelLook::dress(this);
-    setRows(kRows);
+    setRows(kGrid, kRows);
     setKeys(keys);
 }
 

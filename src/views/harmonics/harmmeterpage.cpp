@@ -15,6 +15,7 @@ using namespace HarmValues;
 namespace {
 
 constexpr int kTicksPerStep = 3;
+constexpr LabelGrid kGrid = { 150, 114, 106, 24, 40, 16, 134, 20 };
 
 /// Name of a line; "%1" stands for the order.
 const char *name(const Line &line)
@@ -50,14 +51,14 @@ HarmMeterPage::HarmMeterPage(QWidget *parent)
         { Qt::Key_Down, nullptr, &HarmMeterPage::pressDown },
     };
     m_ui->setupUi(this);
-    LabelLook::dress(this);
     m_ui->verticalScrollBar->setFocusPolicy(Qt::NoFocus);
-    m_headers = ChannelLabels::numberedRow(this, "header_%1");
+    m_headers = kGrid.addHeaders(this, 34, 30, 22);
     for (int i = 0; i < kLines; ++i) {
-        const QByteArray row = QByteArrayLiteral("row") + QByteArray::number(i + 1);
-        m_names[i] = findChild<QLabel *>(QString::fromLatin1(row + "_t"));
-        m_cells[i] = ChannelLabels::namedRow(this, row.constData());
+        const LabelGrid::Row row = kGrid.addChannels(this, QStringLiteral("row%1").arg(i + 1), 66 + i * 48);
+        m_names[i] = row.caption;
+        m_cells[i] = row.values;
     }
+    LabelLook::dress(this);
     connect(m_repeat, &KeyRepeat::repeated, this, &HarmMeterPage::scroll);
     setKeys(keys);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pages/channellabels.h"
+#include "pages/labelgrid.h"
 #include "pages/livepage.h"
 
 #include <array>

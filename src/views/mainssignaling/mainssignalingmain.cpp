@@ -4,7 +4,6 @@
 #include "settings/config_data.h"
 #include "model/displayrecords.h"
 #include "widgets/text/f_to_str.h"
-#include "widgets/controls/labellook.h"
 
 namespace {
 
@@ -18,19 +17,21 @@ struct Row : MeterLine
 constexpr float kPercent = 100;
 
 const Row kRows[] = {
-    { "sig1", QT_TRANSLATE_NOOP("MainsSignalingMain", "Sig 1(%)"), nullptr, &__mains_sig_data::signal1, kPercent,
+    { "sig1", 84, QT_TRANSLATE_NOOP("MainsSignalingMain", "Sig 1(%)"), nullptr, &__mains_sig_data::signal1, kPercent,
       F_to_Str::number_2 },
-    { "sig1mean", QT_TRANSLATE_NOOP("MainsSignalingMain", "Sig 1(%1)"), &DisplayUnits::volt,
+    { "sig1mean", 132, QT_TRANSLATE_NOOP("MainsSignalingMain", "Sig 1(%1)"), &DisplayUnits::volt,
       &__mains_sig_data::signal1Mean, 1, F_to_Str::number_V },
-    { "sig2", QT_TRANSLATE_NOOP("MainsSignalingMain", "Sig 2(%)"), nullptr, &__mains_sig_data::signal2, kPercent,
+    { "sig2", 188, QT_TRANSLATE_NOOP("MainsSignalingMain", "Sig 2(%)"), nullptr, &__mains_sig_data::signal2, kPercent,
       F_to_Str::number_2 },
-    { "sig2mean", QT_TRANSLATE_NOOP("MainsSignalingMain", "Sig 2(%1)"), &DisplayUnits::volt,
+    { "sig2mean", 236, QT_TRANSLATE_NOOP("MainsSignalingMain", "Sig 2(%1)"), &DisplayUnits::volt,
       &__mains_sig_data::signal2Mean, 1, F_to_Str::number_V },
-    { "rms1", QT_TRANSLATE_NOOP("MainsSignalingMain", "Urms\u00bd(%1)"), &DisplayUnits::volt, &__mains_sig_data::rms1,
-      1, F_to_Str::number_V },
-    { "rms2", QT_TRANSLATE_NOOP("MainsSignalingMain", "Irms\u00bd(%1)"), &DisplayUnits::ampere, &__mains_sig_data::rms2,
-      1, F_to_Str::number_A },
+    { "rms1", 292, QT_TRANSLATE_NOOP("MainsSignalingMain", "Urms\u00bd(%1)"), &DisplayUnits::volt,
+      &__mains_sig_data::rms1, 1, F_to_Str::number_V },
+    { "rms2", 340, QT_TRANSLATE_NOOP("MainsSignalingMain", "Irms\u00bd(%1)"), &DisplayUnits::ampere,
+      &__mains_sig_data::rms2, 1, F_to_Str::number_A },
 };
+
+constexpr MeterGrid kGrid = { { 150, 120, 112, 24, 38, 16, 134, 20 }, 40, 30, 24 };
 
 } // namespace
 
@@ -42,8 +43,7 @@ MainsSignalingMain::MainsSignalingMain(QWidget *parent)
         { Qt::Key_F4, QT_TRANSLATE_NOOP("MainsSignalingMain", "Trend"), &MainsSignalingMain::goMainsSignalingTrend },
     };
     m_ui->setupUi(this);
-    LabelLook::dress(this);
-    setRows(kRows);
+    setRows(kGrid, kRows);
     setKeys(keys);
 }
 

@@ -19,22 +19,22 @@ struct Row : MeterLine
 };
 
 const Row kRows[] = {
-    { "P", QT_TRANSLATE_NOOP("PowerMain", "P(%1)"), &DisplayUnits::watt, &PowerDisplayRow::active, nullptr, true,
+    { "P", 66, QT_TRANSLATE_NOOP("PowerMain", "P(%1)"), &DisplayUnits::watt, &PowerDisplayRow::active, nullptr, true,
       F_to_Str::number_P },
-    { "S", QT_TRANSLATE_NOOP("PowerMain", "S(%1)"), &DisplayUnits::voltAmpere, &PowerDisplayRow::apparent, nullptr,
+    { "S", 107, QT_TRANSLATE_NOOP("PowerMain", "S(%1)"), &DisplayUnits::voltAmpere, &PowerDisplayRow::apparent, nullptr,
       true, F_to_Str::number_P },
-    { "Q", QT_TRANSLATE_NOOP("PowerMain", "Q1(%1)"), &DisplayUnits::var, &PowerDisplayRow::reactive, nullptr, true,
+    { "Q", 148, QT_TRANSLATE_NOOP("PowerMain", "Q1(%1)"), &DisplayUnits::var, &PowerDisplayRow::reactive, nullptr, true,
       F_to_Str::number_P },
-    { "TPF", QT_TRANSLATE_NOOP("PowerMain", "PF"), nullptr, &PowerDisplayRow::factor, nullptr, true,
+    { "TPF", 189, QT_TRANSLATE_NOOP("PowerMain", "PF"), nullptr, &PowerDisplayRow::factor, nullptr, true,
       F_to_Str::number_2 },
-    { "DPF", QT_TRANSLATE_NOOP("PowerMain", "cosΦ"), nullptr, &PowerDisplayRow::fundamentalFactor, nullptr, false,
+    { "DPF", 230, QT_TRANSLATE_NOOP("PowerMain", "cosΦ"), nullptr, &PowerDisplayRow::fundamentalFactor, nullptr, false,
       F_to_Str::number_2 },
-    { "tan", QT_TRANSLATE_NOOP("PowerMain", "tanΦ"), nullptr, &PowerDisplayRow::tangent, nullptr, true,
+    { "tan", 271, QT_TRANSLATE_NOOP("PowerMain", "tanΦ"), nullptr, &PowerDisplayRow::tangent, nullptr, true,
       F_to_Str::number_2 },
-    { "Urms", QT_TRANSLATE_NOOP("PowerMain", "Urms(%1)"), &DisplayUnits::volt, nullptr, &__power_data::voltage, false,
-      F_to_Str::number_V },
-    { "Irms", QT_TRANSLATE_NOOP("PowerMain", "Irms(%1)"), &DisplayUnits::ampere, nullptr, &__power_data::current, false,
-      F_to_Str::number_A },
+    { "Urms", 312, QT_TRANSLATE_NOOP("PowerMain", "Urms(%1)"), &DisplayUnits::volt, nullptr, &__power_data::voltage,
+      false, F_to_Str::number_V },
+    { "Irms", 353, QT_TRANSLATE_NOOP("PowerMain", "Irms(%1)"), &DisplayUnits::ampere, nullptr, &__power_data::current,
+      false, F_to_Str::number_A },
 };
 
 /// One line of the energy panel.
@@ -57,6 +57,12 @@ bool isShown(int column, bool hasTotal)
     return column < 3 ? ChannelLabels::channels().has(column) : hasTotal;
 }
 
+constexpr MeterGrid kGrid = { { 124, 124, 110, 22, 36, 16, 108, 19 }, 34, 28, 22 };
+// Inside the energy panel.
+constexpr LabelGrid kEnergyGrid = { 98, 124, 126, 18, 36, 8, 90, 19 };
+constexpr int kEnergyTop = 48;
+constexpr int kEnergyPitch = 44;
+
 } // namespace
 
 PowerMain::PowerMain(QWidget *parent) : MeterPage(UI_POWER, parent), m_ui(new Ui::PowerMain)
@@ -67,12 +73,15 @@ PowerMain::PowerMain(QWidget *parent) : MeterPage(UI_POWER, parent), m_ui(new Ui
         { Qt::Key_F4, QT_TRANSLATE_NOOP("PowerMain", "Trend"), &PowerMain::goPowerTrend },
     };
     m_ui->setupUi(this);
-    LabelLook::dress(this);
-    setRows(kRows);
-    for (std::size_t i = 0; i < m_rows.size(); ++i)
-        m_rows[i][3] = findChild<QLabel *>(QString::fromLatin1(kRows[i].name) + QLatin1String("_Tot"));
-    for (const EnergyLine &row : kEnergies)
-        m_energies.push_back(ChannelLabels::numberedRow(this, (QByteArray(row.name) + "_%1").constData()));
+    for (int i = 0; i < int(std::size(kEnergies)); ++i) {
+        QStringList values;
+        for (int c = 1; c <= kChannels; ++c)
+            values << QStringLiteral("%1_%2").arg(QLatin1String(kEnergies[i].name)).arg(c);
+        m_energies.push_back(kEnergyGrid.addRow(m_ui->energy, QString::fromLatin1(kEnergies[i].name), values,
+                                                kEnergyTop + i * kEnergyPitch));
+    }
+    setRows(kGrid, kRows, "Tot");
+    m_ui->energy->raise(); // above the table
     m_flags = ChannelLabels::numberedRow(this, "q_flag%1");
     setKeys(keys);
     show_Energy();
@@ -133,10 +142,10 @@ void PowerMain::showTitle()
     }
     setText(m_ui->energy_t, tr("E(%1)").arg(units.wattHour));
     for (std::size_t i = 0; i < m_energies.size(); ++i) {
-        setText(findChild<QLabel *>(QString::fromLatin1(kEnergies[i].name)), units.*kEnergies[i].unit);
+        setText(m_energies[i].caption, units.*kEnergies[i].unit);
         for (int c = 0; c < kChannels; ++c) {
             if (!isShown(c, true))
-                setText(m_energies[i][c], QString());
+                setText(m_energies[i].values[c], QString());
         }
     }
 }
@@ -170,7 +179,7 @@ void PowerMain::showEnergies()
 {
     const __power_data &data = *g_power_data_ui;
     for (std::size_t i = 0; i < m_energies.size(); ++i)
-        showRow(m_energies[i], data.*kEnergies[i].values, true, F_to_Str::number_E);
+        showRow(m_energies[i].values, data.*kEnergies[i].values, true, F_to_Str::number_E);
     const QLatin1Char zero('0');
     setText(m_ui->energy_time,
             QStringLiteral("%1:%2:%3")

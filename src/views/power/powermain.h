@@ -44,6 +44,6 @@ private:
 
     std::unique_ptr<Ui::PowerMain> m_ui;
     bool m_energyShown = false;
-    std::vector<ChannelLabels::LabelRow> m_energies; // active, apparent, reactive
+    std::vector<LabelGrid::Row> m_energies; // active, apparent, reactive
     ChannelLabels::LabelRow m_flags;
 };

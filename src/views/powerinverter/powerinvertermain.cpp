@@ -13,9 +13,13 @@ namespace {
 
 constexpr int kPhases = 3;
 
+constexpr LabelGrid kInputGrid = { 150, 0, 140, 26, 36, 16, 134, 20, 1 };
+constexpr LabelGrid kOutputGrid = { 150, 150, 140, 26, 42, 16, 134, 20, kPhases };
+
 template <typename Value> struct Row
 {
     const char *name; // labels <name>_t and <name>, or <name>_L1 ... <name>_L3
+    int top;
     const char *caption; // its unit follows in parentheses
     QString DisplayUnits::*unit;
     Value __pi_data::*value;
@@ -23,20 +27,20 @@ template <typename Value> struct Row
 };
 
 const Row<float> kInputs[] = {
-    { "Uin", QT_TRANSLATE_NOOP("PowerInverterMain", "U in"), &DisplayUnits::volt, &__pi_data::inputVoltage,
+    { "Uin", 44, QT_TRANSLATE_NOOP("PowerInverterMain", "U in"), &DisplayUnits::volt, &__pi_data::inputVoltage,
       F_to_Str::number_V },
-    { "Iin", QT_TRANSLATE_NOOP("PowerInverterMain", "I in"), &DisplayUnits::ampere, &__pi_data::inputCurrent,
+    { "Iin", 86, QT_TRANSLATE_NOOP("PowerInverterMain", "I in"), &DisplayUnits::ampere, &__pi_data::inputCurrent,
       F_to_Str::number_A },
-    { "Pin", QT_TRANSLATE_NOOP("PowerInverterMain", "P in"), &DisplayUnits::watt, &__pi_data::inputPower,
+    { "Pin", 128, QT_TRANSLATE_NOOP("PowerInverterMain", "P in"), &DisplayUnits::watt, &__pi_data::inputPower,
       F_to_Str::number_P },
 };
 
 const Row<float[kPhases]> kOutputs[] = {
-    { "Uout", QT_TRANSLATE_NOOP("PowerInverterMain", "U out"), &DisplayUnits::volt, &__pi_data::outputVoltage,
+    { "Uout", 228, QT_TRANSLATE_NOOP("PowerInverterMain", "U out"), &DisplayUnits::volt, &__pi_data::outputVoltage,
       F_to_Str::number_V },
-    { "Iout", QT_TRANSLATE_NOOP("PowerInverterMain", "I out"), &DisplayUnits::ampere, &__pi_data::outputCurrent,
+    { "Iout", 280, QT_TRANSLATE_NOOP("PowerInverterMain", "I out"), &DisplayUnits::ampere, &__pi_data::outputCurrent,
       F_to_Str::number_A },
-    { "Pout", QT_TRANSLATE_NOOP("PowerInverterMain", "P out"), &DisplayUnits::watt, &__pi_data::outputPower,
+    { "Pout", 332, QT_TRANSLATE_NOOP("PowerInverterMain", "P out"), &DisplayUnits::watt, &__pi_data::outputPower,
       F_to_Str::number_P },
 };
 
@@ -49,12 +53,14 @@ PowerInverterMain::PowerInverterMain(QWidget *parent)
         { Qt::Key_F4, QT_TRANSLATE_NOOP("PowerInverterMain", "Trend"), &PowerInverterMain::goPowerInverterTrend },
     };
     m_ui->setupUi(this);
-    LabelLook::dress(this);
-    m_headers = ChannelLabels::numberedRow(this, "header_%1");
-    for (const auto &row : kInputs)
-        m_inputs.push_back(findChild<QLabel *>(QString::fromLatin1(row.name)));
+    for (const auto &row : kInputs) {
+        const QString name = QString::fromLatin1(row.name);
+        m_inputs.push_back(kInputGrid.addRow(this, name + QLatin1String("_t"), { name }, row.top));
+    }
+    m_headers = kOutputGrid.addHeaders(this, 186, 30, 24);
     for (const auto &row : kOutputs)
-        m_rows.push_back(ChannelLabels::namedRow(this, row.name));
+        m_outputs.push_back(kOutputGrid.addChannels(this, QString::fromLatin1(row.name), row.top));
+    LabelLook::dress(this);
     setKeys(keys);
 }
 
@@ -86,17 +92,18 @@ ChannelLabels::LabelRow PowerInverterMain::outputs(ChannelLabels::LabelRow row)
 
 void PowerInverterMain::showTitle()
 {
-    const auto title = [this](const auto &row) {
-        setText(findChild<QLabel *>(QString::fromLatin1(row.name) + QLatin1String("_t")),
-                QStringLiteral("%1(%2)").arg(tr(row.caption), m_settingConfig_g.units().*row.unit));
+    const auto title = [](const auto &rows, const std::vector<LabelGrid::Row> &labels) {
+        for (std::size_t i = 0; i < labels.size(); ++i)
+            setText(labels[i].caption,
+                    QStringLiteral("%1(%2)").arg(tr(rows[i].caption), m_settingConfig_g.units().*rows[i].unit));
     };
-    std::for_each(std::begin(kInputs), std::end(kInputs), title);
-    std::for_each(std::begin(kOutputs), std::end(kOutputs), title);
+    title(kInputs, m_inputs);
+    title(kOutputs, m_outputs);
     setText(m_ui->eff_t, tr("Efficiency"));
     ChannelLabels::clear(m_headers);
     ChannelLabels::showHeaders(outputs(m_headers));
-    for (const ChannelLabels::LabelRow &row : m_rows)
-        ChannelLabels::clear(row);
+    for (const LabelGrid::Row &row : m_outputs)
+        ChannelLabels::clear(row.values);
     showCurParams();
 }
 
@@ -105,12 +112,12 @@ void PowerInverterMain::showCurParams()
     if (!g_pi_data)
         return;
     for (std::size_t i = 0; i < m_inputs.size(); ++i)
-        setText(m_inputs[i], kInputs[i].format(g_pi_data->*kInputs[i].value));
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        setText(m_inputs[i].values[0], kInputs[i].format(g_pi_data->*kInputs[i].value));
+    for (std::size_t i = 0; i < m_outputs.size(); ++i) {
         // The label rows have a place for the neutral, the record has none.
         float values[kChannels] = {};
         std::copy_n(g_pi_data->*kOutputs[i].value, kPhases, values);
-        ChannelLabels::showValues(outputs(m_rows[i]), values, kOutputs[i].format);
+        ChannelLabels::showValues(outputs(m_outputs[i].values), values, kOutputs[i].format);
     }
     setText(m_ui->eff, F_to_Str::number_2(g_pi_data->efficiency) + QLatin1Char('%'));
     ChannelLabels::showFrequency(m_ui->freq, g_pi_data->frequency);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pages/channellabels.h"
+#include "pages/labelgrid.h"
 #include "pages/livepage.h"
 
 #include <memory>
@@ -37,6 +37,6 @@ private:
 
     std::unique_ptr<Ui::PowerInverterMain> m_ui;
     ChannelLabels::LabelRow m_headers;
-    std::vector<QLabel *> m_inputs; // in the order of the table of inputs
-    std::vector<ChannelLabels::LabelRow> m_rows; // in the order of the table of outputs
+    std::vector<LabelGrid::Row> m_inputs; // in the order of the table of inputs
+    std::vector<LabelGrid::Row> m_outputs; // in the order of the table of outputs
 };

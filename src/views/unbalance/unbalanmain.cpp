@@ -3,7 +3,6 @@
 
 #include "views/unbalance/unbalancevalues.h"
 #include "widgets/text/f_to_str.h"
-#include "widgets/controls/labellook.h"
 
 namespace {
 
@@ -26,16 +25,16 @@ struct Row : MeterLine
 };
 
 const Row kRows[] = {
-    { "U", QT_TRANSLATE_NOOP("UnbalanMain", "Urms(%1)"), &DisplayUnits::volt, live<&__vif_data::voltage>,
+    { "U", 76, QT_TRANSLATE_NOOP("UnbalanMain", "Urms(%1)"), &DisplayUnits::volt, live<&__vif_data::voltage>,
       F_to_Str::number_V },
-    { "I", QT_TRANSLATE_NOOP("UnbalanMain", "Irms(%1)"), &DisplayUnits::ampere, live<&__vif_data::current>,
+    { "I", 120, QT_TRANSLATE_NOOP("UnbalanMain", "Irms(%1)"), &DisplayUnits::ampere, live<&__vif_data::current>,
       F_to_Str::number_A },
-    { "Uf", QT_TRANSLATE_NOOP("UnbalanMain", "Ufund(%1)"), &DisplayUnits::volt,
+    { "Uf", 164, QT_TRANSLATE_NOOP("UnbalanMain", "Ufund(%1)"), &DisplayUnits::volt,
       own<&__unbalance_data::voltageFundamental>, F_to_Str::number_V },
-    { "If", QT_TRANSLATE_NOOP("UnbalanMain", "Ifund(%1)"), &DisplayUnits::ampere,
+    { "If", 208, QT_TRANSLATE_NOOP("UnbalanMain", "Ifund(%1)"), &DisplayUnits::ampere,
       own<&__unbalance_data::currentFundamental>, F_to_Str::number_A },
-    { "IU", QT_TRANSLATE_NOOP("UnbalanMain", "\u0424I-U(\u00b0):"), nullptr, own<&__unbalance_data::angleDifference>,
-      F_to_Str::number_Ang },
+    { "IU", 252, QT_TRANSLATE_NOOP("UnbalanMain", "\u0424I-U(\u00b0):"), nullptr,
+      own<&__unbalance_data::angleDifference>, F_to_Str::number_Ang },
 };
 
 struct Ratio
@@ -52,6 +51,15 @@ const Ratio kRatios[] = {
     { "Izero", QT_TRANSLATE_NOOP("UnbalanMain", "Izero"), &__unbalance_data::currentZeroRatio },
 };
 
+constexpr MeterGrid kGrid = { { 150, 120, 112, 24, 38, 16, 134, 20 }, 40, 30, 24 };
+// The ratios stand in two columns of one value each.
+constexpr LabelGrid kRatioColumns[] = {
+    { 140, 0, 122, 24, 38, 16, 120, 20, 1 },
+    { 454, 0, 122, 24, 38, 330, 120, 20, 1 },
+};
+constexpr int kRatioTop = 312;
+constexpr int kRatioPitch = 44;
+
 } // namespace
 
 UnbalanMain::UnbalanMain(QWidget *parent) : MeterPage(UI_UNBALANCE, parent), m_ui(new Ui::UnbalanMain)
@@ -60,10 +68,12 @@ UnbalanMain::UnbalanMain(QWidget *parent) : MeterPage(UI_UNBALANCE, parent), m_u
         { Qt::Key_F4, QT_TRANSLATE_NOOP("UnbalanMain", "Vector"), &UnbalanMain::goUnbalanVector },
     };
     m_ui->setupUi(this);
-    LabelLook::dress(this);
-    setRows(kRows);
-    for (const Ratio &ratio : kRatios)
-        m_ratios.push_back(findChild<QLabel *>(QString::fromLatin1(ratio.name) + QLatin1String("_v")));
+    for (int i = 0; i < int(std::size(kRatios)); ++i) {
+        const QString name = QString::fromLatin1(kRatios[i].name);
+        m_ratios.push_back(
+            kRatioColumns[i % 2].addRow(this, name, { name + QLatin1String("_v") }, kRatioTop + i / 2 * kRatioPitch));
+    }
+    setRows(kGrid, kRows);
     setKeys(keys);
 }
 
@@ -74,9 +84,9 @@ void UnbalanMain::showTitle()
     MeterPage::showTitle();
     const bool shown = UnbalanceValues::hasSequences();
     for (std::size_t i = 0; i < m_ratios.size(); ++i) {
-        setText(findChild<QLabel *>(QString::fromLatin1(kRatios[i].name)), shown ? tr(kRatios[i].caption) : QString());
+        setText(m_ratios[i].caption, shown ? tr(kRatios[i].caption) : QString());
         if (!shown)
-            setText(m_ratios[i], QString());
+            setText(m_ratios[i].values[0], QString());
     }
 }
 
@@ -90,7 +100,7 @@ void UnbalanMain::showCurParams()
         return;
     if (UnbalanceValues::hasSequences()) {
         for (std::size_t i = 0; i < m_ratios.size(); ++i)
-            setText(m_ratios[i], F_to_Str::number_2(g_unbalance_data->*kRatios[i].value) + QLatin1Char('%'));
+            setText(m_ratios[i].values[0], F_to_Str::number_2(g_unbalance_data->*kRatios[i].value) + QLatin1Char('%'));
     }
     ChannelLabels::showFrequency(m_ui->freq_v, UnbalanceValues::signedFrequency(*g_unbalance_data));
 }

@@ -27,5 +27,5 @@ protected:
 
 private:
     std::unique_ptr<Ui::UnbalanMain> m_ui;
-    std::vector<QLabel *> m_ratios; // in the order of the table of ratios
+    std::vector<LabelGrid::Row> m_ratios; // in the order of the table of ratios
 };

@@ -3,7 +3,6 @@
 
 #include "model/displayrecords.h"
 #include "widgets/text/f_to_str.h"
-#include "widgets/controls/labellook.h"
 
 namespace {
 
@@ -14,16 +13,19 @@ struct Row : MeterLine
 };
 
 const Row kRows[] = {
-    { "Urms", QT_TRANSLATE_NOOP("VifMain", "Urms(%1)"), &DisplayUnits::volt, &__vif_data::voltage, F_to_Str::number_V },
-    { "Upk", QT_TRANSLATE_NOOP("VifMain", "Upk(%1)"), &DisplayUnits::volt, &__vif_data::voltagePeak,
+    { "Urms", 84, QT_TRANSLATE_NOOP("VifMain", "Urms(%1)"), &DisplayUnits::volt, &__vif_data::voltage,
       F_to_Str::number_V },
-    { "Ucf", QT_TRANSLATE_NOOP("VifMain", "CF"), nullptr, &__vif_data::voltageCrest, F_to_Str::number_2 },
-    { "Irms", QT_TRANSLATE_NOOP("VifMain", "Irms(%1)"), &DisplayUnits::ampere, &__vif_data::current,
+    { "Upk", 128, QT_TRANSLATE_NOOP("VifMain", "Upk(%1)"), &DisplayUnits::volt, &__vif_data::voltagePeak,
+      F_to_Str::number_V },
+    { "Ucf", 172, QT_TRANSLATE_NOOP("VifMain", "CF"), nullptr, &__vif_data::voltageCrest, F_to_Str::number_2 },
+    { "Irms", 240, QT_TRANSLATE_NOOP("VifMain", "Irms(%1)"), &DisplayUnits::ampere, &__vif_data::current,
       F_to_Str::number_A },
-    { "Ipk", QT_TRANSLATE_NOOP("VifMain", "Ipk(%1)"), &DisplayUnits::ampere, &__vif_data::currentPeak,
+    { "Ipk", 284, QT_TRANSLATE_NOOP("VifMain", "Ipk(%1)"), &DisplayUnits::ampere, &__vif_data::currentPeak,
       F_to_Str::number_A },
-    { "Icf", QT_TRANSLATE_NOOP("VifMain", "CF"), nullptr, &__vif_data::currentCrest, F_to_Str::number_2 },
+    { "Icf", 328, QT_TRANSLATE_NOOP("VifMain", "CF"), nullptr, &__vif_data::currentCrest, F_to_Str::number_2 },
 };
+
+constexpr MeterGrid kGrid = { { 150, 120, 112, 24, 38, 16, 130, 20 }, 40, 32, 24 };
 
 } // namespace
 
@@ -33,8 +35,7 @@ VifMain::VifMain(QWidget *parent) : MeterPage(UI_VIF, parent), m_ui(new Ui::VifM
         { Qt::Key_F4, QT_TRANSLATE_NOOP("VifMain", "Trend"), &VifMain::goVifTrend },
     };
     m_ui->setupUi(this);
-    LabelLook::dress(this);
-    setRows(kRows);
+    setRows(kGrid, kRows);
     setKeys(keys);
 }
 
