@@ -1,7 +1,7 @@
 #include "record/pqafile.h"
 
 #include "settings/config_data.h"
-#include "settings/fileinfo.h"
+#include "storage/fileinfo.h"
 #include "settings/softwareversion.h"
 #include "board/screenshot.h"
 #include "platform/clock.h"

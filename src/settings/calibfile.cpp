@@ -2,18 +2,18 @@
 
 #include <QByteArray>
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 
-#include "storage/safefile.h"
 #include "platform/debuglog.h"
 #include "platform/target.h"
+#include "storage/safefile.h"
+#include "storage/wholefile.h"
 
 #include <cstring>
 
 namespace {
 const char kFile[] = "/mnt/calibration/calibration.dat";
 const char kFolder[] = "/mnt/calibration/";
+constexpr qint64 kLargestFile = 64 * 1024; // bytes; what stands behind the block is not taken
 }
 
 CalibFile::CalibFile()
@@ -40,21 +40,24 @@ void CalibFile::initCalibData()
 
 void CalibFile::load()
 {
-    const QString path = Target::path(QLatin1String(kFile));
-    if (!QFileInfo::exists(path)) {
+    QByteArray bytes;
+    const WholeFile::Reading reading = WholeFile::read(QLatin1String(kFile), kLargestFile, &bytes);
+    m_unread = reading == WholeFile::Failed;
+    if (reading == WholeFile::Missing)
         save();
-        return;
-    }
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return;
-    const QByteArray bytes = file.read(sizeof(m_data));
+    if (m_unread)
+        QUVERA_DEBUG("read calib file error!");
     // Whole floats only: half a number would be a wild one.
-    memcpy(&m_data, bytes.constData(), static_cast<size_t>(bytes.size()) / sizeof(float) * sizeof(float));
+    const size_t floats = qMin(static_cast<size_t>(bytes.size()), sizeof(m_data)) / sizeof(float);
+    memcpy(&m_data, bytes.constData(), floats * sizeof(float));
 }
 
 void CalibFile::save()
 {
+    if (m_unread) {
+        QUVERA_DEBUG("calib file could not be read, is not written over");
+        return;
+    }
     const QByteArray bytes(reinterpret_cast<const char *>(&m_data), sizeof(m_data));
     if (!SafeFile::replace(QLatin1String(kFile), bytes)) {
         QUVERA_DEBUG("open calib file error!");

@@ -38,8 +38,10 @@ public:
     /// Reads the file over the block. A short file leaves the tail as it is, an unreadable one everything; a missing
     /// one is written.
     void load();
+    /// Writes the block. Refused as long as the last load ended in a read error: the calibration would be lost.
     void save();
 
 private:
     __calib_data m_data {};
+    bool m_unread = false;
 };

@@ -5,6 +5,7 @@
 #include "storage/safefile.h"
 #include "settings/xmlguard.h"
 #include "settings/xmltext.h"
+#include "platform/debuglog.h"
 #include "platform/target.h"
 
 namespace {
@@ -39,6 +40,7 @@ bool isTrue(const QString &attribute)
 struct ClampIF::Record
 {
     QString inUsed;
+    bool unread = false; // the file holds clamps that could not be read
     Clamp *first = nullptr;
     Clamp *last = nullptr;
     Clamp *current = nullptr;
@@ -81,7 +83,9 @@ void ClampIF::load(const QString &path)
 void ClampIF::loadClamp(const QString &path)
 {
     QDomDocument document;
-    if (XmlGuard::load(path, &document) == XmlGuard::Ok)
+    const XmlGuard::Result result = XmlGuard::load(path, &document);
+    m_record->unread = result == XmlGuard::Failed;
+    if (result == XmlGuard::Ok)
         takeDocument(document);
 }
 
@@ -111,6 +115,10 @@ void ClampIF::takeDocument(const QDomDocument &document)
 
 bool ClampIF::save(const QString &path) const
 {
+    if (m_record->unread) {
+        QUVERA_DEBUG(path + ": could not be read, is not written over");
+        return false;
+    }
     XmlText text(QStringLiteral("version=\"1.0\" encoding=\"utf-8\""));
     QXmlStreamWriter &xml = text.writer();
     xml.writeStartElement(QStringLiteral("PQA"));

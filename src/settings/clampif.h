@@ -22,7 +22,8 @@ public:
 
     /// Starts anew: the built-in clamps, "TARN-41A" in use, then what the file (a board's path) holds.
     void load(const QString &path);
-    /// Writes the user's clamps and the name in use. A failure keeps the state in memory.
+    /// Writes the user's clamps and the name in use. A failure keeps the state in memory. Refused as long as the last
+    /// load could not read the file: the clamps in it would be lost.
     bool save(const QString &path) const;
 
     /// Appends a clamp and owns it.

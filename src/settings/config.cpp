@@ -1,11 +1,11 @@
 #include "settings/config.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QStringList>
 
-#include "storage/safefile.h"
+#include "platform/debuglog.h"
 #include "platform/target.h"
+#include "storage/safefile.h"
+#include "storage/wholefile.h"
 
 namespace {
 
@@ -26,20 +26,12 @@ QString oneLine(const QString &value)
 
 } // namespace
 
-QByteArray Config::readWhole(const QString &path, bool *opened)
+QByteArray Config::readWhole(const QString &path)
 {
-    if (opened)
-        *opened = false;
-    const QString realPath = Target::path(path);
-    if (!QFileInfo(realPath).isFile()) // a pipe or a device would hold the program up
-        return {};
-    QFile file(realPath);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    if (opened)
-        *opened = true;
-    const QByteArray bytes = file.read(kLargestFile + 1);
-    return bytes.size() > kLargestFile ? QByteArray() : bytes;
+    QByteArray bytes;
+    if (WholeFile::read(path, kLargestFile, &bytes) == WholeFile::Failed)
+        QUVERA_DEBUG(path + ": read fail, the defaults stand");
+    return bytes;
 }
 
 QString Config::readConfigFile(const QString &path, const QString &key)
@@ -94,12 +86,16 @@ QString Config::textWith(const QString &text, const QString &key, const QString 
 
 void Config::writeConfigFile(const QString &path, const QString &key, const QString &value)
 {
-    bool opened = false;
-    const QString old = QString::fromUtf8(readWhole(path, &opened));
-    if (!SafeFile::stage(path, textWith(old, key, value).toLatin1()))
+    QByteArray old;
+    const WholeFile::Reading reading = WholeFile::read(path, kLargestFile, &old);
+    if (reading == WholeFile::Failed) {
+        QUVERA_DEBUG(QStringLiteral("%1: read fail, %2 is not stored").arg(path, key));
         return;
-    // A file that is there and cannot be read keeps what it holds; the new text then stays in the staging copy.
-    if (opened || !QFileInfo::exists(Target::path(path)))
+    }
+    if (!SafeFile::stage(path, textWith(QString::fromUtf8(old), key, value).toLatin1()))
+        return;
+    // A file that is there and may not be opened keeps what it holds; the new text then stays in the staging copy.
+    if (reading != WholeFile::Refused)
         SafeFile::commit(path);
     Target::shell(QStringLiteral("sync"));
 }

@@ -67,8 +67,13 @@ LimitsManager::LimitsManager()
 void LimitsManager::loadAllLimitsFile()
 {
     const QDir dir(Target::path(folder()));
-    const QStringList files = dir.entryList({ QStringLiteral("*.xml") }, QDir::Files | QDir::NoDotAndDotDot);
-    for (const QString &file : files) {
+    QStringList files = dir.entryList({ QStringLiteral("*.xml") }, QDir::Files | QDir::NoDotAndDotDot);
+    if (files.size() > XmlGuard::kMaxFiles) {
+        QUVERA_DEBUG(folder()
+                     + QStringLiteral(": %1 files, only %2 are read").arg(files.size()).arg(XmlGuard::kMaxFiles));
+        files = files.mid(0, XmlGuard::kMaxFiles);
+    }
+    for (const QString &file : qAsConst(files)) {
         auto set = std::make_unique<MonitorLimits2>();
         if (set->loadFile(folder() + file))
             m_sets.push_back(std::move(set));

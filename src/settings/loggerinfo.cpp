@@ -2,7 +2,7 @@
 
 #include "settings/config.h"
 #include "settings/config_data.h"
-#include "settings/fileinfo.h"
+#include "storage/fileinfo.h"
 #include "storage/massstorage.h"
 #include "model/nominalfrequency.h"
 

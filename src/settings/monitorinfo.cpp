@@ -1,6 +1,6 @@
 #include "settings/monitorinfo.h"
 
-#include "settings/fileinfo.h"
+#include "storage/fileinfo.h"
 
 QString *MonitorInfo::m_monitor_file = new QString;
 quint32 MonitorInfo::m_begain_time = 0;

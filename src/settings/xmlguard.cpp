@@ -1,20 +1,84 @@
 #include "settings/xmlguard.h"
 
 #include <QDomDocument>
-#include <QFile>
-#include <QFileInfo>
+#include <QTextCodec>
 #include <QXmlStreamReader>
 
 #include "platform/debuglog.h"
-#include "platform/target.h"
+#include "storage/wholefile.h"
 
 namespace {
 
-/// Why the bytes are not taken; empty when they are. The document tree recurses over the depth, so it must not see a
-/// deep one, and a document type could let a small file grow without end.
-QString fault(const QByteArray &bytes)
+constexpr int kUtf8 = 106; // number of the encoding in the list of character sets
+
+/// Looks at the tags alone, in one pass, before any reader does: a reader compares each attribute with all others of
+/// its element, so one element of a quarter megabyte would hold the start up for seconds.
+class TagCounter
 {
-    QXmlStreamReader reader(bytes);
+public:
+    explicit TagCounter(const QString &text) : m_text(text) { }
+
+    /// Why the text is not taken; empty when it is.
+    QString fault()
+    {
+        int elements = 0;
+        while ((m_at = m_text.indexOf(QLatin1Char('<'), m_at)) >= 0) {
+            if (skipped("<!--", "-->") || skipped("<![CDATA[", "]]>") || skipped("<?", "?>"))
+                continue;
+            // A document type could let a small file grow without end.
+            if (m_text.midRef(m_at, 2) == QLatin1String("<!"))
+                return QStringLiteral("document type not allowed");
+            if (m_text.midRef(m_at, 2) != QLatin1String("</") && ++elements > XmlGuard::kMaxElements)
+                return QStringLiteral("too many elements");
+            if (attributesOfTag() > XmlGuard::kMaxAttributes)
+                return QStringLiteral("too many attributes");
+        }
+        return {};
+    }
+
+private:
+    /// Goes behind a part that begins and ends so, if one stands here; to the end of the text when it does not end.
+    bool skipped(const char *begin, const char *end)
+    {
+        const QLatin1String first(begin);
+        if (m_text.midRef(m_at, first.size()) != first)
+            return false;
+        const int found = m_text.indexOf(QLatin1String(end), m_at + first.size());
+        m_at = found < 0 ? m_text.size() : found + QLatin1String(end).size();
+        return true;
+    }
+
+    /// Goes behind the tag and answers how many values it gives.
+    int attributesOfTag()
+    {
+        int count = 0;
+        QChar quote;
+        for (; m_at < m_text.size(); ++m_at) {
+            const QChar c = m_text.at(m_at);
+            if (!quote.isNull())
+                quote = c == quote ? QChar() : quote;
+            else if (c == QLatin1Char('"') || c == QLatin1Char('\''))
+                quote = c;
+            else if (c == QLatin1Char('>'))
+                break;
+            else if (c == QLatin1Char('='))
+                ++count;
+        }
+        return count;
+    }
+
+    const QString &m_text;
+    int m_at = 0;
+};
+
+/// Why the text is not taken; empty when it is. The document tree recurses over the depth, so it must not see a deep
+/// one.
+QString fault(const QString &text)
+{
+    const QString counted = TagCounter(text).fault();
+    if (!counted.isEmpty())
+        return counted;
+    QXmlStreamReader reader(text);
     reader.setNamespaceProcessing(false);
     int depth = 0;
     while (!reader.atEnd()) {
@@ -26,8 +90,6 @@ QString fault(const QByteArray &bytes)
         case QXmlStreamReader::EndElement:
             --depth;
             break;
-        case QXmlStreamReader::DTD:
-            return QStringLiteral("document type not allowed");
         default:
             break;
         }
@@ -40,33 +102,38 @@ QString fault(const QByteArray &bytes)
         .arg(reader.columnNumber());
 }
 
+/// The text of UTF-8 bytes. What an encoding declaration says does not count, or the look at the tags above would see
+/// other ones than the reader. False when they are none.
+bool decoded(const QByteArray &bytes, QString *text)
+{
+    QTextCodec::ConverterState state;
+    *text = QTextCodec::codecForMib(kUtf8)->toUnicode(bytes.constData(), bytes.size(), &state);
+    return state.invalidChars == 0 && state.remainingChars == 0;
+}
+
 } // namespace
 
 XmlGuard::Result XmlGuard::load(const QString &path, QDomDocument *document)
 {
-    const QString realPath = Target::path(path);
-    const QFileInfo info(realPath);
-    if (!info.exists())
+    QByteArray bytes;
+    const WholeFile::Reading reading = WholeFile::read(path, kMaxSize, &bytes);
+    if (reading == WholeFile::Missing || reading == WholeFile::Refused)
         return Missing;
-    QFile file(realPath);
-    if (!info.isFile() || !file.open(QIODevice::ReadOnly))
-        return Missing;
-    const QByteArray bytes = file.read(kMaxSize + 1);
-    if (bytes.size() > kMaxSize) {
-        QUVERA_DEBUG(path + ": too large");
-        return Refused;
-    }
-    const QString refusal = fault(bytes);
-    if (!refusal.isEmpty()) {
-        QUVERA_DEBUG(path + ": " + refusal);
-        return Refused;
-    }
+    QString text;
+    QString refusal;
+    if (reading == WholeFile::Failed)
+        refusal = QStringLiteral("read fail");
+    else if (reading == WholeFile::TooLarge)
+        refusal = QStringLiteral("too large");
+    else
+        refusal = decoded(bytes, &text) ? fault(text) : QStringLiteral("no UTF-8 text");
     QString message;
     int line = 0;
     int column = 0;
-    if (!document->setContent(bytes, false, &message, &line, &column)) {
-        QUVERA_DEBUG(QStringLiteral("%1: %2, line %3, column %4").arg(path, message).arg(line).arg(column));
-        return Refused;
-    }
-    return Ok;
+    if (refusal.isEmpty() && !document->setContent(text, false, &message, &line, &column))
+        refusal = QStringLiteral("%1, line %2, column %3").arg(message).arg(line).arg(column);
+    if (refusal.isEmpty())
+        return Ok;
+    QUVERA_DEBUG(path + ": " + refusal);
+    return reading == WholeFile::Failed ? Failed : Refused;
 }

@@ -3,10 +3,10 @@
 #include <QFile>
 
 #include "platform/target.h"
+#include "storage/exclusivefile.h"
 
 #include <cerrno>
 #include <cstdio>
-#include <fcntl.h>
 #include <unistd.h>
 
 namespace {
@@ -40,7 +40,7 @@ bool writeAll(int fd, const QByteArray &content)
 bool SafeFile::stage(const QString &path, const QByteArray &content)
 {
     const QByteArray staging = stagingOf(path);
-    const int fd = ::open(staging.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    const int fd = openExclusively(staging);
     if (fd < 0)
         return false;
     bool ok = writeAll(fd, content) && ::fsync(fd) == 0;

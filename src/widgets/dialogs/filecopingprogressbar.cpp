@@ -1,11 +1,8 @@
 #include "widgets/dialogs/filecopingprogressbar.h"
 
-#include "platform/target.h"
 #include "ui_filecopingprogressbar.h"
 
 #include <QFileInfo>
-
-constexpr qint64 kPiece = 256 * 1024; // bytes between two turns of the event loop
 
 static const char *const kStyle = "QProgressBar { background-color: rgb(5, 8, 15); color: rgb(255, 255, 255);"
                                   " border: 1px solid rgb(60, 90, 134); border-radius: 3px; }"
@@ -20,8 +17,7 @@ bool FileCopingProgressBar::copyFile(const QString &source, const QString &targe
 }
 
 FileCopingProgressBar::FileCopingProgressBar(const QString &source, const QString &target, QWidget *parent)
-    : SoftKeyDialog(parent), m_ui(new Ui::FileCopingProgressBar), m_target(Target::path(target)),
-      m_in(Target::path(source)), m_out(m_target + QStringLiteral(".part"))
+    : SoftKeyDialog(parent), m_ui(new Ui::FileCopingProgressBar), m_copy(source, target)
 {
     m_ui->setupUi(this);
     m_ui->progress->setStyleSheet(QString::fromLatin1(kStyle));
@@ -32,53 +28,27 @@ FileCopingProgressBar::FileCopingProgressBar(const QString &source, const QStrin
     m_turn.start(0);
 }
 
-FileCopingProgressBar::~FileCopingProgressBar()
-{
-    if (m_out.isOpen())
-        m_out.remove();
-}
+FileCopingProgressBar::~FileCopingProgressBar() = default;
 
 void FileCopingProgressBar::copyPiece()
 {
-    if (!m_in.isOpen() && !m_in.open(QIODevice::ReadOnly))
-        return fail(m_in.errorString());
-    if (!m_out.isOpen() && !m_out.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Unbuffered))
-        return fail(m_out.errorString());
-    const QByteArray piece = m_in.read(kPiece);
-    if (piece.isEmpty()) {
-        if (m_in.error() != QFileDevice::NoError)
-            return fail(m_in.errorString());
+    if (m_copy.copyPiece() != FileCopy::Running)
         return finish();
-    }
-    if (m_out.write(piece) != piece.size())
-        return fail(m_out.errorString());
-    const double done = m_in.size() > 0 ? double(m_in.pos()) / double(m_in.size()) : 1.0;
-    m_ui->progress->setValue(int(done * m_ui->progress->maximum()));
+    m_ui->progress->setValue(int(m_copy.progress() * m_ui->progress->maximum()));
 }
 
 void FileCopingProgressBar::finish()
 {
     m_turn.stop();
-    m_out.close();
-    QFile::remove(m_target);
-    if (!m_out.rename(m_target))
-        return fail(m_out.errorString());
-    Target::shell(QStringLiteral("sync"));
-    accept();
-}
-
-void FileCopingProgressBar::fail(const QString &reason)
-{
-    err = reason;
-    m_turn.stop();
-    m_out.close();
-    m_out.remove();
-    done(Rejected);
+    if (!m_copy.error().isEmpty())
+        err = m_copy.error();
+    done(m_copy.error().isEmpty() ? Accepted : Rejected);
 }
 
 void FileCopingProgressBar::reject()
 {
-    fail(tr("Canceled"));
+    m_copy.cancel(tr("Canceled"));
+    finish();
 }
 
 void FileCopingProgressBar::pressKey(int key)

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "storage/filecopy.h"
 #include "widgets/dialogs/softkeydialog.h"
 
-#include <QFile>
 #include <QTimer>
 
 #include <memory>
@@ -12,7 +12,8 @@ class FileCopingProgressBar;
 }
 
 /// Copies one file while it shows the progress. It copies a piece at a time between the events of the loop, so that
-/// measuring goes on; "Cancel", a pulled disk or a full one end it, and nothing half-written stays behind.
+/// measuring goes on; "Cancel", a pulled disk or a full one end it, and nothing half-written stays behind: an old
+/// target is then as it was.
 class FileCopingProgressBar : public SoftKeyDialog
 {
     Q_OBJECT
@@ -33,12 +34,9 @@ protected:
 private:
     void copyPiece();
     void finish();
-    void fail(const QString &reason);
     void reject() override;
 
     std::unique_ptr<Ui::FileCopingProgressBar> m_ui;
-    QString m_target;
-    QFile m_in;
-    QFile m_out; // beside the target, under a name of its own
+    FileCopy m_copy;
     QTimer m_turn;
 };

@@ -1,10 +1,11 @@
 #include "widgets/dialogs/savedialog.h"
 
-#include "settings/fileinfo.h"
+#include "storage/fileinfo.h"
 #include "platform/target.h"
 #include "ui_savedialog.h"
 #include "widgets/dialogs/message.h"
 #include "widgets/dialogs/virtualkeyboard.h"
+#include "widgets/text/localtime.h"
 
 #include <QFile>
 
@@ -17,7 +18,7 @@ int SaveDialog::save(int filter, QString &name)
     if (dialog.exec() != QDialog::Accepted)
         return NoFile;
     name = dialog.name();
-    FileInfo().saveInfo(name);
+    FileInfo().saveInfo(name, LocalTime::currentDateTime());
     return dialog.fileType();
 }
 

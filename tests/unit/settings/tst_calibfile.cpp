@@ -3,6 +3,7 @@
 #include "settings/calibfile.h"
 #include "unit/storage/filelimit.h"
 #include "unit/storage/rootfiles.h"
+#include "unit/storage/wornfile.h"
 
 #include <cmath>
 #include <cstring>
@@ -138,6 +139,17 @@ private slots:
             file.save();
         }
         QCOMPARE(CalibFile().data().volt[1][0], 80.5f);
+    }
+
+    void aCalibrationThatCouldNotBeReadIsNotWrittenOver()
+    {
+        QVERIFY(makeWornFile(kPath));
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("read calib file error!"));
+        CalibFile file;
+        QCOMPARE(file.data().volt[0][0], 39.8f);
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("calib file could not be read, is not written over"));
+        file.save();
+        QVERIFY(isWornFile(kPath));
     }
 
     void aFolderInPlaceOfTheFileLeavesTheDefaults()

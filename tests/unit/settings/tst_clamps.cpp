@@ -3,6 +3,7 @@
 #include "settings/clampif.h"
 #include "unit/storage/filelimit.h"
 #include "unit/storage/rootfiles.h"
+#include "unit/storage/wornfile.h"
 
 namespace {
 
@@ -310,6 +311,20 @@ private slots:
         }
         QCOMPARE(clamps.inUsed(), QString("TARN-45")); // in memory
         QCOMPARE(ClampIF(kPath).inUsed(), QString("TARN-44"));
+    }
+
+    void aCatalogueThatCouldNotBeReadIsNotWrittenOver()
+    {
+        QVERIFY(makeWornFile(kPath));
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("clamps.xcl: read fail"));
+        ClampIF clamps(kPath);
+        QCOMPARE(clamps.names(), kBuiltIns);
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("clamps.xcl: could not be read, is not written over"));
+        QVERIFY(!clamps.save(kPath));
+        QVERIFY(isWornFile(kPath));
+        QVERIFY(QFile::remove(Target::path(kPath)));
+        clamps.load(kPath); // the card answers again
+        QVERIFY(clamps.save(kPath));
     }
 
     void aNameWithControlCharactersLeavesAReadableFile()

@@ -7,6 +7,7 @@
 #include "unit/storage/filelimit.h"
 #include "unit/storage/ordinaryuser.h"
 #include "unit/storage/rootfiles.h"
+#include "unit/storage/wornfile.h"
 
 #include <csignal>
 #include <sys/stat.h>
@@ -186,6 +187,18 @@ private slots:
         QCOMPARE(RootFiles::read(kStaging), QByteArray("\nLANG=RU")); // waits for someone who may
     }
 
+    void aReadThatEndsInAnErrorKeepsTheFileAndSaysSo()
+    {
+        QVERIFY(makeWornFile(kPath));
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("test.conf: read fail, LANG is not stored"));
+        Config::writeConfigFile(kPath, "LANG", "RU");
+        QVERIFY(isWornFile(kPath));
+        QVERIFY(!RootFiles::exists(kStaging));
+        QCOMPARE(RootFiles::commands(), QByteArray());
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("test.conf: read fail, the defaults stand"));
+        QCOMPARE(Config::readConfigFile(kPath, "LANG"), QString());
+    }
+
     void aReadOnlyFolderLosesTheWriteAndNothingElse()
     {
         RootFiles::write(kPath, "LANG=ZH\n");
@@ -268,6 +281,30 @@ private slots:
         QVERIFY(QDir().mkpath(Target::path(kStaging)));
         Config::writeConfigFile(kPath, "LANG", "RU");
         QCOMPARE(RootFiles::read(kPath), QByteArray("LANG=ZH\n"));
+    }
+
+    void aPipeNamedLikeTheStagingCopyDoesNotHangTheWriter()
+    {
+        const QByteArray staging = QFile::encodeName(Target::path(kStaging));
+        QVERIFY(::mkfifo(staging.constData(), 0600) == 0);
+        ::alarm(20); // a writer that waits for a reader of the pipe would wait for ever
+        Config::writeConfigFile(kPath, "LANG", "RU");
+        ::alarm(0);
+        QCOMPARE(RootFiles::read(kPath), QByteArray("\nLANG=RU"));
+        QVERIFY(!RootFiles::exists(kStaging));
+    }
+
+    void aLinkNamedLikeTheStagingCopyLeadsNowhere()
+    {
+        const QString other = QStringLiteral("/mnt/userfs/sys/other");
+        RootFiles::write(other, "keep");
+        QVERIFY(::symlink(QFile::encodeName(Target::path(other)).constData(),
+                          QFile::encodeName(Target::path(kStaging)).constData())
+                == 0);
+        Config::writeConfigFile(kPath, "LANG", "RU");
+        QCOMPARE(RootFiles::read(other), QByteArray("keep"));
+        QCOMPARE(RootFiles::read(kPath), QByteArray("\nLANG=RU"));
+        QVERIFY(!QFileInfo(Target::path(kPath)).isSymLink());
     }
 
     void aProcessKilledWhileWritingLeavesAWholeText()

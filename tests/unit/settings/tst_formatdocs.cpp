@@ -3,7 +3,7 @@
 #include "settings/calibfile.h"
 #include "settings/clampif.h"
 #include "settings/config_data.h"
-#include "settings/fileinfo.h"
+#include "storage/fileinfo.h"
 #include "settings/limitsmanager.h"
 #include "platform/clock.h"
 #include "unit/storage/rootfiles.h"
@@ -107,12 +107,9 @@ private slots:
 
     void theIndexExample()
     {
-        m_userConfig_g.setTimeZone("UTC");
-        Clock::setForTest(1700000000000);
-        QVERIFY(FileInfo().saveInfo("Vif_1.png"));
-        Clock::setForTest(1700002800000);
-        QVERIFY(FileInfo().saveInfo("Logger_1_00.csv"));
-        Clock::useSystem();
+        const QDate day(2023, 11, 14);
+        QVERIFY(FileInfo().saveInfo("Vif_1.png", QDateTime(day, QTime(22, 13, 20))));
+        QVERIFY(FileInfo().saveInfo("Logger_1_00.csv", QDateTime(day, QTime(23, 0))));
         QCOMPARE(RootFiles::read("/mnt/storage/.infomation"), example("storage-index.md"));
     }
 

@@ -41,6 +41,12 @@ private slots:
         }
     }
 
+    void theMonitorsDefaultNameTakesTheFirstFreeNumber()
+    {
+        QVERIFY(QDir().mkpath(Target::path("/mnt/storage/231115_221320 Monitor-EN501601")));
+        QCOMPARE(MonitorInfo::getDefName("Monitor", "EN50160"), QString("Monitor-EN501602"));
+    }
+
     void theRecorderStartsWithItsDefaults()
     {
         QCOMPARE(RecordInfo::m_in_recording, 0);

@@ -98,6 +98,15 @@ int integerWord(const monitor_limit &limit, int word)
     return value;
 }
 
+/// As many different attributes of an element.
+QByteArray attributes(int count)
+{
+    QByteArray text;
+    for (int i = 0; i < count; ++i)
+        text += " a" + QByteArray::number(i) + "=''";
+    return text;
+}
+
 QByteArray limitsFile(const QByteArray &children, const QByteArray &attributes = "verison='1.0' name='mine'")
 {
     return "<?xml version = \"1.0\" encoding=\"utf-8\"?>\n<limits " + attributes + ">" + children + "</limits>";
@@ -361,6 +370,11 @@ private slots:
                                                   + QByteArray("</a>").repeated(20000));
         QTest::newRow("entities that grow")
             << QByteArray("<!DOCTYPE l [<!ENTITY a 'aaaaaaaaaa'><!ENTITY b '&a;&a;&a;&a;&a;'>]><limits name='&b;'/>");
+        QTest::newRow("65 attributes") << limitsFile("<a" + attributes(65) + "/>");
+        QTest::newRow("65 attributes behind a bracket in a value") << limitsFile("<a x='>'" + attributes(64) + "/>");
+        QTest::newRow("4097 elements") << limitsFile(QByteArray("<a/>").repeated(4096));
+        QTest::newRow("Latin letters") << QByteArray(
+            "<?xml version='1.0' encoding='iso-8859-1'?><limits name='\xfc'/>");
         QTest::newRow("a byte over 256 kB") << limitsFile(QByteArray(256 * 1024 + 1 - limitsFile("").size(), ' '));
     }
     void filesThatAreNoLimitSetAreRefused()
@@ -377,6 +391,34 @@ private slots:
         QVERIFY(!set.loadFile(kPath));
         QVERIFY(QDir().mkpath(Target::path(kPath)));
         QVERIFY(!set.loadFile(kPath));
+    }
+
+    void anElementFullOfAttributesIsRefusedAtOnce()
+    {
+        RootFiles::write(kPath, limitsFile("<a" + attributes(25000) + "/>")); // seconds for who compares each with all
+        MonitorLimits2 set;
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY(!set.loadFile(kPath));
+        QVERIFY(timer.elapsed() < 500); // ms
+    }
+
+    void sixtyFourAttributesAndWhatOnlyLooksLikeMoreAreStillRead()
+    {
+        const QByteArray more = attributes(100);
+        RootFiles::write(kPath,
+                         limitsFile("<a" + attributes(64) + "/><!-- <a" + more + " --><![CDATA[<a" + more + "]]><?pi <a"
+                                    + more + "?><a x='" + QByteArray("=").repeated(100) + "'>"
+                                    + QByteArray("=").repeated(100) + "</a>"));
+        MonitorLimits2 set;
+        QVERIFY(set.loadFile(kPath));
+    }
+
+    void fourThousandElementsAreStillRead()
+    {
+        RootFiles::write(kPath, limitsFile(QByteArray("<a/>").repeated(4095)));
+        MonitorLimits2 set;
+        QVERIFY(set.loadFile(kPath));
     }
 
     void exactly256KilobytesAreStillRead()

@@ -302,6 +302,18 @@ private slots:
         QVERIFY(LimitsManager().allLimitsList().contains("Other"));
     }
 
+    void ofAFolderFullOfFilesOnlySoManyAreRead()
+    {
+        for (int n = 0; n < 201; ++n) {
+            const QByteArray name = QByteArray::number(n + 1000);
+            RootFiles::write(kFolder + name + ".xml", "<limits name='set" + name + "'/>");
+        }
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("201 files, only 200 are read"));
+        const QStringList sets = LimitsManager().allLimitsList();
+        QCOMPARE(sets.size(), 2 + 200); // the built-in ones, then the first of the folder
+        QCOMPARE(sets.last(), QString("set1199"));
+    }
+
     void namesInAllLettersSurvive()
     {
         LimitsManager manager;

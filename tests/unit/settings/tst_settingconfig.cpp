@@ -4,6 +4,7 @@
 #include "settings/settingconfig.h"
 #include "unit/storage/filelimit.h"
 #include "unit/storage/rootfiles.h"
+#include "unit/storage/wornfile.h"
 
 #include <functional>
 
@@ -299,6 +300,17 @@ private slots:
         QCOMPARE(SettingConfig().getNomFreq(), 400.0); // stored
         config.changeFreqPrev();
         QCOMPARE(config.getNomFreqSelect(), 2);
+    }
+
+    void aStartThatCannotReadTheFileKeepsIt()
+    {
+        QVERIFY(makeWornFile(SettingConfig::filePath()));
+        SettingConfig config; // a start stores the inrush levels of the clamp
+        QCOMPARE(config.getNomFreqSelect(), 1);
+        config.setNomFreq(2); // in memory only
+        QCOMPARE(config.getNomFreqSelect(), 2);
+        QVERIFY(isWornFile(SettingConfig::filePath()));
+        QVERIFY(!RootFiles::exists(SettingConfig::filePath() + ".bak"));
     }
 
     void steppingTheLegacyClampStopsAtTheEnds()

@@ -1,7 +1,9 @@
 #include "dialogdriver.h"
 
-#include "settings/fileinfo.h"
+#include "platform/clock.h"
 #include "platform/target.h"
+#include "settings/config_data.h"
+#include "storage/fileinfo.h"
 #include "widgets/dialogs/message.h"
 #include "widgets/dialogs/savedialog.h"
 #include "widgets/dialogs/virtualkeyboard.h"
@@ -21,6 +23,7 @@ private slots:
     void downTogglesTheKindAndRebuildsTheName();
     void downDoesNothingWithoutTheDataChoice();
     void okAnswersTypeAndNameAndEntersTheIndex();
+    void theIndexTellsTheTimeInTheUsersZone();
     void dataFileHasItsOwnType();
     void cancelAnswersZeroAndLeavesTheIndex();
     void closingAnswersZero();
@@ -45,6 +48,11 @@ static void writeStored(const QString &name)
     file.write("old");
 }
 
+static void enterIndex(const QString &name)
+{
+    QVERIFY(FileInfo().saveInfo(name, QDateTime(QDate(2023, 11, 14), QTime(22, 13, 20))));
+}
+
 void TstSaveDialog::init()
 {
     QDir storage(Target::path(FileInfo::storagePath()));
@@ -57,7 +65,7 @@ void TstSaveDialog::init()
 void TstSaveDialog::defaultNameIsTheFirstFreeOne()
 {
     QCOMPARE(SaveDialog(1, QStringLiteral("VAHz")).name(), QStringLiteral("VAHz1.png"));
-    FileInfo().saveInfo(QStringLiteral("VAHz1.png"));
+    enterIndex(QStringLiteral("VAHz1.png"));
     SaveDialog dialog(1, QStringLiteral("VAHz"));
     QCOMPARE(dialog.name(), QStringLiteral("VAHz2.png"));
     QCOMPARE(dialog.fileName(), QStringLiteral("/mnt/storage/VAHz2.png"));
@@ -81,7 +89,7 @@ void TstSaveDialog::pictureFilterDisablesAndHidesTheDataChoice()
 
 void TstSaveDialog::downTogglesTheKindAndRebuildsTheName()
 {
-    FileInfo().saveInfo(QStringLiteral("VAHz1.png"));
+    enterIndex(QStringLiteral("VAHz1.png"));
     SaveDialog dialog(3, QStringLiteral("VAHz"));
     dialog.show();
     QCOMPARE(dialog.fileType(), 1);
@@ -110,6 +118,18 @@ void TstSaveDialog::okAnswersTypeAndNameAndEntersTheIndex()
     QCOMPARE(SaveDialog::save(1, name), 1);
     QCOMPARE(name, QStringLiteral("VAHz1.png"));
     QCOMPARE(FileInfo().getInfoFiles(), QStringList { "VAHz1.png" });
+}
+
+void TstSaveDialog::theIndexTellsTheTimeInTheUsersZone()
+{
+    Clock::setForTest(1700000000000); // 2023-11-14 22:13:20 UTC
+    m_userConfig_g.setTimeZone("Europe/Warsaw"); // an hour ahead in winter
+    DialogDriver driver({ DialogDriver::press("F") });
+    QString name = QStringLiteral("VAHz");
+    QCOMPARE(SaveDialog::save(1, name), 1);
+    Clock::useSystem();
+    m_userConfig_g.setTimeZone("UTC");
+    QCOMPARE(FileInfo().readInfo(), QStringList { "VAHz1.png,2023-11-14 23:13:20" });
 }
 
 void TstSaveDialog::dataFileHasItsOwnType()
@@ -178,7 +198,7 @@ static QList<DialogDriver::Step> saveAsQ()
 
 void TstSaveDialog::anExistingFileIsAskedAbout()
 {
-    FileInfo().saveInfo(QStringLiteral("q.png"));
+    enterIndex(QStringLiteral("q.png"));
     QString question;
     auto steps = saveAsQ();
     steps << [&question](QDialog *dialog) {
@@ -197,7 +217,7 @@ void TstSaveDialog::anExistingFileIsAskedAbout()
 
 void TstSaveDialog::noKeepsTheDialogOpen()
 {
-    FileInfo().saveInfo(QStringLiteral("q.png"));
+    enterIndex(QStringLiteral("q.png"));
     writeStored(QStringLiteral("q.png"));
     bool open = false;
     auto steps = saveAsQ();
@@ -215,7 +235,7 @@ void TstSaveDialog::noKeepsTheDialogOpen()
 
 void TstSaveDialog::yesRemovesTheOldEntryAndFile()
 {
-    FileInfo().saveInfo(QStringLiteral("q.png"));
+    enterIndex(QStringLiteral("q.png"));
     writeStored(QStringLiteral("q.png"));
     DialogDriver driver(saveAsQ() << DialogDriver::press("F"));
     QString name = QStringLiteral("VAHz");

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+class QDateTime;
+
 /// The text index "/mnt/storage/.infomation" of what the instrument recorded, and the names it gives.
 /// Format: docs/formats/storage-index.md. GUI thread. Failures go to the debug log only.
 class FileInfo
@@ -12,9 +14,11 @@ public:
     bool testInfo() const; // whether the index is readable
     QStringList getInfoFiles() const; // the names
     bool testFileexist(const QString &name) const;
-    /// Adds the entry or replaces those of the same base name; false when the index could not be written.
-    bool saveInfo(const QString &name) const;
-    /// Removes the entries of the name's base name and deletes the stored files of that base name.
+    /// Adds the entry or replaces those of the same base name; false when the index could not be read or written.
+    /// `localTime` is the time of saving in the user's zone.
+    bool saveInfo(const QString &name, const QDateTime &localTime) const;
+    /// Deletes the stored files of the name's base name, then removes its entries. False when the index could not be
+    /// read (then nothing is deleted) or written (then the files are gone and the entries stay).
     bool removeInfo(const QString &name) const;
     /// Files of a folder (a board's path), no dot files, oldest first.
     QStringList getFiles(const QString &path) const;

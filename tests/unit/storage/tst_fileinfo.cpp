@@ -1,16 +1,15 @@
 #include <QtTest>
 
-#include "settings/config_data.h"
-#include "settings/fileinfo.h"
-#include "settings/monitorinfo.h"
+#include "storage/fileinfo.h"
 #include "unit/storage/filelimit.h"
-#include "platform/clock.h"
 #include "unit/storage/rootfiles.h"
+#include "unit/storage/wornfile.h"
 
 #include <sys/time.h>
 
 namespace {
 const QString kIndex = QStringLiteral("/mnt/storage/.infomation");
+const QDateTime kSaved(QDate(2023, 11, 14), QTime(22, 13, 20), Qt::UTC);
 
 void touch(const QString &boardPath, int seconds)
 {
@@ -26,37 +25,23 @@ class TstFileInfo : public QObject
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        RootFiles::clean();
-        Clock::setForTest(1700000000000); // 2023-11-14 22:13:20 UTC
-        m_userConfig_g.setTimeZone("UTC");
-    }
-    void cleanup() { Clock::useSystem(); }
+    void init() { RootFiles::clean(); }
 
     void aMissingIndexIsEmptyAndSaysSo()
     {
-        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("F: settings/fileinfo L: \\d+ > open fail: readInfo"));
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("F: storage/fileinfo L: \\d+ > open fail: readInfo"));
         QCOMPARE(FileInfo().readInfo(), QStringList());
         QVERIFY(!FileInfo().testInfo());
         QCOMPARE(FileInfo().getInfoFiles(), QStringList());
         QVERIFY(!FileInfo().testFileexist("a.pqa"));
     }
 
-    void savingAddsALineWithTheUsersTime()
+    void savingAddsALineWithTheTimeAsTheCallerSeesIt()
     {
-        m_userConfig_g.setTimeZone("Europe/Warsaw"); // an hour ahead in winter
-        QVERIFY(FileInfo().saveInfo("Vif_1.pqa"));
+        QVERIFY(FileInfo().saveInfo("Vif_1.pqa", kSaved.toTimeZone(QTimeZone("Europe/Warsaw")))); // an hour ahead
         QCOMPARE(RootFiles::read(kIndex), QByteArray("Vif_1.pqa,2023-11-14 23:13:20\n"));
         QVERIFY(FileInfo().testInfo());
         QVERIFY(RootFiles::commands().endsWith("sync\n"));
-    }
-
-    void anUnknownTimeZoneCountsAsUtc()
-    {
-        m_userConfig_g.setTimeZone("Nowhere/Land");
-        QVERIFY(FileInfo().saveInfo("a.png"));
-        QCOMPARE(RootFiles::read(kIndex), QByteArray("a.png,2023-11-14 22:13:20\n"));
     }
 
     void namesAreReadUpToTheFirstCommaOrAreTheWholeLine()
@@ -75,7 +60,7 @@ private slots:
                          "one.png,2023-01-01 00:00:00\nshot.png,2023-01-02 00:00:00\nshot.pqa,2023-01-03 00:00:00\n");
         QTest::ignoreMessage(QtDebugMsg, QRegularExpression("file exist ,  cover or not\\?"));
         QTest::ignoreMessage(QtDebugMsg, QRegularExpression("file exist ,  cover or not\\?"));
-        QVERIFY(FileInfo().saveInfo("shot.pqa"));
+        QVERIFY(FileInfo().saveInfo("shot.pqa", kSaved));
         QCOMPARE(RootFiles::read(kIndex), QByteArray("one.png,2023-01-01 00:00:00\nshot.pqa,2023-11-14 22:13:20\n"));
     }
 
@@ -93,13 +78,13 @@ private slots:
 
     void aNameStaysOnItsLine()
     {
-        QVERIFY(FileInfo().saveInfo("a\nb.pqa"));
+        QVERIFY(FileInfo().saveInfo("a\nb.pqa", kSaved));
         QCOMPARE(RootFiles::read(kIndex), QByteArray("a b.pqa,2023-11-14 22:13:20\n"));
     }
 
     void theIndexIsWrittenAsLatin1()
     {
-        QVERIFY(FileInfo().saveInfo(QString::fromUtf8("é工.pqa")));
+        QVERIFY(FileInfo().saveInfo(QString::fromUtf8("é工.pqa"), kSaved));
         QCOMPARE(RootFiles::read(kIndex), QByteArray("\xe9?.pqa,2023-11-14 22:13:20\n"));
     }
 
@@ -140,7 +125,7 @@ private slots:
     {
         QVERIFY(QDir().mkpath(Target::path(kIndex)));
         QTest::ignoreMessage(QtDebugMsg, QRegularExpression("open fail: saveInfo"));
-        QVERIFY(!FileInfo().saveInfo("a.pqa"));
+        QVERIFY(!FileInfo().saveInfo("a.pqa", kSaved));
         RootFiles::write("/mnt/storage/a.pqa", "data");
         QTest::ignoreMessage(QtDebugMsg, QRegularExpression("open fail: removeInfo"));
         QVERIFY(!FileInfo().removeInfo("a.pqa"));
@@ -154,16 +139,43 @@ private slots:
         for (int n = 0; n < old.size() + 26; n += 5) {
             FileLimit full(static_cast<rlim_t>(n));
             QTest::ignoreMessage(QtDebugMsg, QRegularExpression("open fail: saveInfo"));
-            QVERIFY(!FileInfo().saveInfo("c.pqa"));
+            QVERIFY(!FileInfo().saveInfo("c.pqa", kSaved));
         }
         QCOMPARE(RootFiles::read(kIndex), old);
+    }
+
+    void onAFullCardTheFilesGoBeforeTheIndexIsMended()
+    {
+        RootFiles::write(kIndex, "a.pqa,x\nb.pqa,x\n");
+        RootFiles::write("/mnt/storage/a.pqa", "data");
+        RootFiles::write("/mnt/storage/b.pqa", "data");
+        {
+            FileLimit full(0); // not even the new index fits
+            QTest::ignoreMessage(QtDebugMsg, QRegularExpression("open fail: removeInfo"));
+            QVERIFY(!FileInfo().removeInfo("a.pqa"));
+        }
+        QVERIFY(!RootFiles::exists("/mnt/storage/a.pqa"));
+        QVERIFY(RootFiles::exists("/mnt/storage/b.pqa"));
+        QCOMPARE(RootFiles::read(kIndex), QByteArray("a.pqa,x\nb.pqa,x\n"));
+        QVERIFY(FileInfo().removeInfo("a.pqa")); // with the room that this made
+        QCOMPARE(RootFiles::read(kIndex), QByteArray("b.pqa,x\n"));
+    }
+
+    void anIndexThatCouldNotBeReadIsNotWrittenOver()
+    {
+        QVERIFY(makeWornFile(kIndex));
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("open fail: saveInfo"));
+        QVERIFY(!FileInfo().saveInfo("a.pqa", kSaved));
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("open fail: removeInfo"));
+        QVERIFY(!FileInfo().removeInfo("a.pqa"));
+        QVERIFY(isWornFile(kIndex));
     }
 
     void binaryAndEmptyLinesDoNotHurt()
     {
         RootFiles::write(kIndex, QByteArray("\0\xff\n\n\na.pqa,x\n", 13));
         QCOMPARE(FileInfo().getInfoFiles().last(), QString("a.pqa"));
-        QVERIFY(FileInfo().saveInfo("b.pqa"));
+        QVERIFY(FileInfo().saveInfo("b.pqa", kSaved));
         QVERIFY(FileInfo().testFileexist("a.pqa"));
     }
 
@@ -212,7 +224,6 @@ private slots:
         QVERIFY(QDir().mkpath(Target::path("/mnt/storage/231114_221320 Logger_1")));
         QVERIFY(QDir().mkpath(Target::path("/mnt/storage/231115_221320 Monitor-EN501601")));
         QCOMPARE(FileInfo().getDefaultRecordName("Logger_"), QString("Logger_2"));
-        QCOMPARE(MonitorInfo::getDefName("Monitor", "EN50160"), QString("Monitor-EN501602"));
     }
 };
 

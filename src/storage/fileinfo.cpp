@@ -1,34 +1,33 @@
-#include "settings/fileinfo.h"
+#include "storage/fileinfo.h"
 
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
-#include <QTimeZone>
 
-#include "settings/config_data.h"
-#include "storage/safefile.h"
-#include "platform/clock.h"
 #include "platform/debuglog.h"
 #include "platform/target.h"
+#include "storage/safefile.h"
+#include "storage/wholefile.h"
 
 namespace {
 
 constexpr qint64 kLargestIndex = 16 * 1024 * 1024; // bytes; some 300,000 entries
 
-/// The lines of the index. False when it cannot be read.
-bool readLines(QIODevice::OpenMode mode, QStringList *lines)
+WholeFile::Reading readLines(QStringList *lines)
 {
-    const QString path = Target::path(FileInfo::indexPath());
-    if (QFileInfo::exists(path) && !QFileInfo(path).isFile())
-        return false;
-    QFile file(path);
-    if (!file.open(mode | QIODevice::Text))
-        return false;
-    const QByteArray bytes = file.read(kLargestIndex);
-    const QString text = QString::fromLatin1(bytes.constData(), bytes.size()); // zero bytes end nothing
+    QByteArray bytes;
+    const WholeFile::Reading reading = WholeFile::read(FileInfo::indexPath(), kLargestIndex, &bytes);
+    const QString text = QString::fromLatin1(bytes.constData(), bytes.size()).remove(QLatin1Char('\r'));
     for (const QString &line : text.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
-        *lines << line;
-    return true;
+        *lines << line; // zero bytes end nothing
+    return reading;
+}
+
+/// The lines to be changed and written again; a missing index has none. False when they could not be read: what would
+/// then be written loses them all.
+bool linesToRewrite(QStringList *lines)
+{
+    const WholeFile::Reading reading = readLines(lines);
+    return reading == WholeFile::Read || reading == WholeFile::Missing;
 }
 
 bool writeLines(const QStringList &lines)
@@ -66,12 +65,17 @@ QString firstFreeName(const QString &prefix, const QString &suffix, const QStrin
     return {};
 }
 
-QString localTime()
+/// Deletes the stored files of a base name, no folders.
+void removeFiles(const QString &base)
 {
-    const QTimeZone zone(m_userConfig_g.getTimeZone().toLatin1());
-    return Clock::now()
-        .toTimeZone(zone.isValid() ? zone : QTimeZone::utc())
-        .toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    if (base.isEmpty()) // would match the index itself
+        return;
+    QDir storage(Target::path(FileInfo::storagePath()));
+    storage.setFilter(QDir::Files | QDir::NoSymLinks | QDir::Hidden);
+    for (const QString &file : storage.entryList()) {
+        if (FileInfo::baseName(file) == base)
+            storage.remove(file);
+    }
 }
 
 } // namespace
@@ -95,7 +99,7 @@ QString FileInfo::baseName(const QString &name)
 QStringList FileInfo::readInfo() const
 {
     QStringList lines;
-    if (!readLines(QIODevice::ReadOnly, &lines))
+    if (readLines(&lines) != WholeFile::Read)
         QUVERA_DEBUG("open fail: readInfo");
     return lines;
 }
@@ -103,7 +107,7 @@ QStringList FileInfo::readInfo() const
 bool FileInfo::testInfo() const
 {
     QStringList lines;
-    return readLines(QIODevice::ReadOnly, &lines);
+    return readLines(&lines) == WholeFile::Read;
 }
 
 QStringList FileInfo::getInfoFiles() const
@@ -119,10 +123,10 @@ bool FileInfo::testFileexist(const QString &name) const
     return getInfoFiles().contains(name);
 }
 
-bool FileInfo::saveInfo(const QString &name) const
+bool FileInfo::saveInfo(const QString &name, const QDateTime &localTime) const
 {
     QStringList lines;
-    if (!readLines(QIODevice::ReadWrite, &lines)) {
+    if (!linesToRewrite(&lines)) {
         QUVERA_DEBUG("open fail: saveInfo");
         return false;
     }
@@ -133,7 +137,7 @@ bool FileInfo::saveInfo(const QString &name) const
         else
             kept << line;
     }
-    kept << oneLine(name) + QLatin1Char(',') + localTime();
+    kept << oneLine(name) + QLatin1Char(',') + localTime.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
     if (!writeLines(kept)) {
         QUVERA_DEBUG("open fail: saveInfo");
         return false;
@@ -145,28 +149,21 @@ bool FileInfo::removeInfo(const QString &name) const
 {
     const QString base = baseName(name);
     QStringList lines;
-    bool ok = readLines(QIODevice::ReadWrite, &lines);
-    if (ok) {
-        QStringList kept;
-        for (const QString &line : lines) {
-            if (baseName(nameOf(line)) != base)
-                kept << line;
-        }
-        ok = writeLines(kept);
-    }
-    if (!ok) {
+    if (!linesToRewrite(&lines)) {
         QUVERA_DEBUG("open fail: removeInfo");
         return false;
     }
-    if (base.isEmpty()) // would match the index itself
-        return true;
-    QDir storage(Target::path(storagePath()));
-    storage.setFilter(QDir::Files | QDir::NoSymLinks | QDir::Hidden);
-    for (const QString &file : storage.entryList()) {
-        if (baseName(file) == base)
-            storage.remove(file);
+    // The files go first: on a full card only that makes the room which the new index needs.
+    removeFiles(base);
+    QStringList kept;
+    for (const QString &line : lines) {
+        if (baseName(nameOf(line)) != base)
+            kept << line;
     }
-    return true;
+    if (writeLines(kept))
+        return true;
+    QUVERA_DEBUG("open fail: removeInfo");
+    return false;
 }
 
 QStringList FileInfo::getFiles(const QString &path) const

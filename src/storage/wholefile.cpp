@@ -1,0 +1,50 @@
+#include "storage/wholefile.h"
+
+#include <QFile>
+
+#include "platform/target.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+WholeFile::Reading readAll(int fd, qint64 most, QByteArray *bytes)
+{
+    constexpr int kPiece = 64 * 1024;
+    QByteArray piece(kPiece, Qt::Uninitialized);
+    for (;;) {
+        const ssize_t n = ::read(fd, piece.data(), kPiece);
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0)
+            return WholeFile::Failed;
+        if (n == 0)
+            return WholeFile::Read;
+        if (bytes->size() + n > most)
+            return WholeFile::TooLarge;
+        bytes->append(piece.constData(), static_cast<int>(n));
+    }
+}
+
+} // namespace
+
+WholeFile::Reading WholeFile::read(const QString &path, qint64 most, QByteArray *bytes)
+{
+    bytes->clear();
+    const int fd
+        = ::open(QFile::encodeName(Target::path(path)).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    if (fd < 0)
+        return errno == ENOENT || errno == ENOTDIR ? Missing : errno == EIO ? Failed : Refused;
+    struct stat info
+    {
+    };
+    const bool ordinary = ::fstat(fd, &info) == 0 && S_ISREG(info.st_mode);
+    const Reading how = ordinary ? readAll(fd, most, bytes) : Refused;
+    ::close(fd);
+    if (how != Read)
+        bytes->clear();
+    return how;
+}
