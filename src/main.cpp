@@ -5,6 +5,7 @@
 #include "settings/userconfig.h"
 #include "platform/deskkeys.h"
 #include "platform/deskroot.h"
+#include "platform/lineoutput.h"
 #include "widgets/text/keymap.h"
 
 #include <QApplication>
@@ -17,6 +18,7 @@ int main(int argc, char **argv)
 {
     // The output ends in a journal or a pipe.
     setvbuf(stdout, nullptr, _IOLBF, 0);
+    LineOutput::takeToolkitMessages();
     QString error;
     if (!DeskRoot::prepare(&error)) {
         std::fprintf(stderr, "quvera: %s\n", qPrintable(error));

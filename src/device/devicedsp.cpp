@@ -3,6 +3,7 @@
 #include "device/controlframe.h"
 #include "device/datagramkinds.h"
 #include "platform/clock.h"
+#include "platform/lineoutput.h"
 #include "platform/target.h"
 
 #include <QDateTime>
@@ -12,7 +13,6 @@
 #include <cerrno>
 #include <cmath>
 #include <csignal>
-#include <cstdio>
 #include <cstring>
 #include <limits>
 #include <poll.h>
@@ -31,6 +31,8 @@ constexpr double kClockTolerance = 2000.0; // ms
 constexpr qint32 kClockReload = 86400; // r.m.s. datagrams
 constexpr int kSetupRepeats = 3;
 constexpr int kSetupInterval = 1000; // ms
+constexpr int kPackagesPerTurn = 64; // some 50 ms of a stream; then frames that wait to be written have their turn
+constexpr int kFirstPause = 10; // ms after a burst that only failed; each further one doubles the pause
 constexpr int kReadPause = 1000; // ms between looks at a node that cannot be read
 constexpr useconds_t kStopPause = 500000; // microseconds that the processor gets to fall silent
 
@@ -139,7 +141,7 @@ bool DeviceDSP::isNodeOpened()
 {
     if (openDSPDev())
         return true;
-    printf("failed to open /dev/mcasp\n");
+    LineOutput::print("failed to open /dev/mcasp\n");
     return false;
 }
 
@@ -172,18 +174,26 @@ void DeviceDSP::resetDSP()
 }
 
 /// The node cannot be read: its notifier would fire for ever.
-void DeviceDSP::pauseReading(bool nodeIsGone)
+void DeviceDSP::pauseReading(int milliseconds)
 {
-    m_nodeGone = m_nodeGone || nodeIsGone;
     if (m_notifier)
         m_notifier->setEnabled(false);
     if (!m_pauseTimer) {
         m_pauseTimer = new QTimer(this);
-        m_pauseTimer->setInterval(kReadPause);
         connect(m_pauseTimer, &QTimer::timeout, this, &DeviceDSP::resumeReading);
     }
     if (!m_pauseTimer->isActive())
-        m_pauseTimer->start();
+        m_pauseTimer->start(milliseconds);
+}
+
+/// A burst of nothing but errors. One that passes costs a moment; only a node that cannot be read for a second and
+/// tells an error or a hang-up is taken for lost.
+void DeviceDSP::burstFailed()
+{
+    if (m_failedPause >= kReadPause && isNodeHungUp())
+        m_nodeGone = true;
+    m_failedPause = std::clamp(2 * m_failedPause, kFirstPause, kReadPause);
+    pauseReading(m_nodeGone ? 0 : m_failedPause);
 }
 
 bool DeviceDSP::isNodeHungUp() const
@@ -195,16 +205,17 @@ bool DeviceDSP::isNodeHungUp() const
 void DeviceDSP::resumeReading()
 {
     // A failed read alone is no reason to disturb the processor: all state survives it.
-    if (!m_nodeGone && !isNodeHungUp()) {
+    if (!m_nodeGone) {
         m_pauseTimer->stop();
         m_notifier->setEnabled(true);
         return;
     }
-    m_nodeGone = true;
     closeDSPDev();
+    m_pauseTimer->setInterval(kReadPause);
     if (!openDSPDev())
         return;
     m_nodeGone = false;
+    m_failedPause = 0;
     m_pauseTimer->stop();
     m_waitFirst = 1;
     g_store.id = 0; // the far end counts anew, which is no loss
@@ -229,24 +240,36 @@ void DeviceDSP::datagramLoop()
 void DeviceDSP::readPackages()
 {
     int budget = kReadBudget;
+    m_burstErrors = 0;
+    m_burstPackages = 0;
+    // The notifier fires again at once when more is there, but behind what waits for this thread.
     do {
         budget = handleDatagram() == -1 ? budget - 1 : kReadBudget;
-    } while (budget >= 1);
+    } while (budget >= 1 && m_burstPackages < kPackagesPerTurn);
+    if (m_burstPackages > 0 || m_burstErrors < kReadBudget)
+        m_failedPause = 0;
+    if (m_nodeGone)
+        pauseReading(kReadPause);
+    else if (m_burstErrors >= kReadBudget)
+        burstFailed();
 }
 
 int DeviceDSP::handleDatagram()
 {
     const int length = DSPRead(g_datagram, sizeof(g_datagram));
     if (length == 0)
-        pauseReading(true);
+        m_nodeGone = true;
     else if (length < 0 && m_fd >= 0 && errno != EAGAIN && errno != EINTR)
-        pauseReading(false);
+        ++m_burstErrors;
+    else
+        m_burstErrors = 0;
     if (length <= 0)
         return -1;
+    ++m_burstPackages;
     memcpy(&g_head, g_datagram, sizeof(g_head));
     const quint32 flag = g_head.flag;
     if ((flag & kPattern) != kPattern) {
-        printf("L: %d > Unkown package!\n", __LINE__);
+        LineOutput::print("L: %d > Unkown package!\n", __LINE__);
         return -1;
     }
     if (!takesPackage(flag))
@@ -268,8 +291,8 @@ bool DeviceDSP::continuesDatagram(quint32 flag)
     ++wanted_pno;
     if (wanted_pno == static_cast<int>(flag & kNumberMask))
         return true;
-    printf("L: %d > Wrong package number! id = %d; flag = %08X; msec = %lld; wanted = %d\n", __LINE__,
-           static_cast<int>(g_store.id), flag, static_cast<long long>(g_store.msec), wanted_pno);
+    LineOutput::print("L: %d > Wrong package number! id = %d; flag = %08X; msec = %lld; wanted = %d\n", __LINE__,
+                      static_cast<int>(g_store.id), flag, static_cast<long long>(g_store.msec), wanted_pno);
     m_waitFirst = 1;
     return false;
 }
@@ -278,7 +301,7 @@ bool DeviceDSP::beginsDatagram(quint32 flag)
 {
     wanted_pno = static_cast<int>(flag & kNumberMask);
     if (wanted_pno != 0) {
-        printf("L: %d > Wrong first package No. %d!\n", __LINE__, wanted_pno);
+        LineOutput::print("L: %d > Wrong first package No. %d!\n", __LINE__, wanted_pno);
         return false;
     }
     g_store.flagValue = static_cast<quint8>((flag >> 24) & 0x3F);
@@ -286,10 +309,10 @@ bool DeviceDSP::beginsDatagram(quint32 flag)
     const quint32 lastId = g_store.id;
     const quint32 id = g_head.id;
     if (lastId != 0 && id - lastId != 1) {
-        printf("L: %d > May be lost some package id!\n", __LINE__);
-        printf("L: %d > last_id = %u; curr_id = %u\n", __LINE__, lastId, id);
-        printf("L: %d > msec64 = %lld; localms = %lld\n", __LINE__, static_cast<long long>(g_store.msec),
-               static_cast<long long>(Clock::msecs()));
+        LineOutput::print("L: %d > May be lost some package id!\n", __LINE__);
+        LineOutput::print("L: %d > last_id = %u; curr_id = %u\n", __LINE__, lastId, id);
+        LineOutput::print("L: %d > msec64 = %lld; localms = %lld\n", __LINE__, static_cast<long long>(g_store.msec),
+                          static_cast<long long>(Clock::msecs()));
     }
     g_store.id = id;
     g_store.type = static_cast<quint8>(g_head.type);

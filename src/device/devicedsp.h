@@ -10,9 +10,9 @@ class QTimer;
 
 /// Reads the processor's packages of 8192 bytes, reassembles them into datagrams and emits one signal for each; also
 /// the one place that writes to the processor (docs/link-protocol.md).
-/// Lives on the device thread; all it shares with others are queued signals. It decodes nothing: payloads leave as they
-/// came, behind eight bytes of time stamp (ms since 1970, little-endian). Whatever arrives, no copy leaves its buffer:
-/// where a package claims more words than there are, the copy is cut.
+/// Lives on the device thread, where it emits; IDevice hands what it emits to the main thread. It decodes nothing:
+/// payloads leave as they came, behind eight bytes of time stamp (ms since 1970, little-endian). Whatever arrives, no
+/// copy leaves its buffer: where a package claims more words than there are, the copy is cut.
 class DeviceDSP : public QObject
 {
     Q_OBJECT
@@ -72,7 +72,8 @@ private:
     void emitDatagram();
     void checkClock();
     void writeNode(const void *data, int len);
-    void pauseReading(bool nodeIsGone);
+    void pauseReading(int milliseconds);
+    void burstFailed();
     bool isNodeHungUp() const;
     void resumeReading();
 
@@ -90,4 +91,7 @@ private:
     char m_setupFrame[104] = {};
     QTimer *m_pauseTimer = nullptr; // runs while reading is paused
     bool m_nodeGone = false; // to be opened anew when the pause ends
+    int m_failedPause = 0; // ms of the pause behind the last burst, 0 when it was none that only failed
+    int m_burstErrors = 0; // reads of this burst that failed one after the other, an empty node not counted
+    int m_burstPackages = 0; // read in this burst, good or not
 };

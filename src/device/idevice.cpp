@@ -1,18 +1,36 @@
 #include "device/idevice.h"
 
 #include "device/controlframe.h"
+#include "device/deliveryqueue.h"
 #include "device/devicedsp.h"
 #include "device/devicegpio.h"
 #include "device/deviceinit.h"
 #include "device/frameslots.h"
 #include "device/trace.h"
 
+#include <QElapsedTimer>
 #include <QThread>
+#include <QTimer>
 
 IDevice *m_idevice = nullptr;
 
+namespace {
+
+constexpr int kLongestTurn = 20; // ms of results in one go; then the screen and the keys have their turn
+
+using ResultSlot = void (IDevice::*)(__datagramtype, const QByteArray &);
+constexpr ResultSlot kResultSlots[] = {
+    &IDevice::datagramAggregationSlot, &IDevice::datagramRMS_1_2Slot, &IDevice::datagramTransientSlot,
+    &IDevice::datagramWaveSlot,        &IDevice::datagramFlickerSlot, &IDevice::datagramFirmwareInfoSlot,
+    &IDevice::datagramUpdateSlot,
+};
+static_assert(std::size(kResultSlots) == kDatagramKindCount, "one slot per kind");
+
+} // namespace
+
 IDevice::IDevice(QObject *parent)
-    : QObject(parent), m_version(new QString(QStringLiteral("CPU:ADSP-21479;Silicon:0.2;Firmware:None;")))
+    : QObject(parent), m_results(std::make_unique<DeliveryQueue>()),
+      m_version(new QString(QStringLiteral("CPU:ADSP-21479;Silicon:0.2;Firmware:None;")))
 {
     qRegisterMetaType<__datagramtype>("DataGramType");
     qRegisterMetaType<__datagramtype>("__datagramtype");
@@ -46,17 +64,57 @@ void IDevice::connectLink()
     connect(this, &IDevice::dspUpdate, m_dsp, &DeviceDSP::firmwareUpdate, queued);
     connect(this, &IDevice::writeDSP, m_dsp, &DeviceDSP::DSPWrite, queued);
     connect(this, &IDevice::writeHWClock, m_dsp, &DeviceDSP::writeHWClock, queued);
-    connect(m_dsp, &DeviceDSP::datagramAggregation, this, &IDevice::datagramAggregationSlot, queued);
-    connect(m_dsp, &DeviceDSP::datagramRMS_1_2, this, &IDevice::datagramRMS_1_2Slot, queued);
-    connect(m_dsp, &DeviceDSP::datagramTransient, this, &IDevice::datagramTransientSlot, queued);
-    connect(m_dsp, &DeviceDSP::datagramWave, this, &IDevice::datagramWaveSlot, queued);
-    connect(m_dsp, &DeviceDSP::datagramFlicker, this, &IDevice::datagramFlickerSlot, queued);
-    connect(m_dsp, &DeviceDSP::datagramFirmwareInfo, this, &IDevice::datagramFirmwareInfoSlot, queued);
-    connect(m_dsp, &DeviceDSP::datagramUpdate, this, &IDevice::datagramUpdateSlot, queued);
-    connect(m_dsp, &DeviceDSP::dspTimeStamp, this, &IDevice::dspTimeStampSlot, queued);
-    connect(m_dsp, &DeviceDSP::usingBDS, this, &IDevice::usingBDSSlot, queued);
     connect(m_dsp, &DeviceDSP::dspUpdateStatus, this, &IDevice::dspUpdateStatus, queued);
     connect(m_dsp, &DeviceDSP::reopened, this, &IDevice::setUpAgain, queued);
+    connectResults();
+}
+
+/// What the link emits runs on the device thread and goes no further than the queue.
+void IDevice::connectResults()
+{
+    const auto put = [this](Delivery delivery) {
+        if (m_results->put(std::move(delivery)))
+            QMetaObject::invokeMethod(this, "takeResults", Qt::QueuedConnection);
+    };
+    const auto putDatagram = [put](__datagramtype kind, const QByteArray &datagram) { put({ kind, datagram, 0 }); };
+    for (const auto signal : { &DeviceDSP::datagramAggregation, &DeviceDSP::datagramRMS_1_2,
+                               &DeviceDSP::datagramTransient, &DeviceDSP::datagramWave, &DeviceDSP::datagramFlicker,
+                               &DeviceDSP::datagramFirmwareInfo, &DeviceDSP::datagramUpdate })
+        connect(m_dsp, signal, m_dsp, putDatagram, Qt::DirectConnection);
+    const auto direct = Qt::DirectConnection;
+    connect(
+        m_dsp, &DeviceDSP::dspTimeStamp, m_dsp,
+        [put](quint32 s) {
+            put({ Delivery::TimeStamp, {}, s });
+        },
+        direct);
+    connect(
+        m_dsp, &DeviceDSP::usingBDS, m_dsp,
+        [put](quint32 w) {
+            put({ Delivery::BdsWord, {}, w });
+        },
+        direct);
+}
+
+/// One turn of the main thread: what waits, in its order, and the rest behind what else waits for this thread. A slot
+/// may run an event loop of its own (a question to the user); then its turns go on with the order.
+void IDevice::takeResults()
+{
+    m_results->beginTurn();
+    QElapsedTimer turn;
+    turn.start();
+    for (Delivery result; m_results->take(&result);) {
+        if (result.kind == Delivery::TimeStamp)
+            dspTimeStampSlot(result.word);
+        else if (result.kind == Delivery::BdsWord)
+            usingBDSSlot(result.word);
+        else
+            (this->*kResultSlots[result.kind])(static_cast<__datagramtype>(result.kind), result.bytes);
+        if (turn.elapsed() >= kLongestTurn) {
+            QTimer::singleShot(0, this, &IDevice::takeResults);
+            return;
+        }
+    }
 }
 
 /// A processor that went and came back has lost its set-up: it gets the whole start sequence.

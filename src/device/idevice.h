@@ -6,6 +6,9 @@
 #include <QObject>
 #include <QString>
 
+#include <memory>
+
+class DeliveryQueue;
 class DeviceDSP;
 class DeviceGPIO;
 class QThread;
@@ -74,8 +77,11 @@ public slots:
 
 private:
     void connectLink();
+    void connectResults();
+    Q_INVOKABLE void takeResults();
     void setUpAgain();
 
+    std::unique_ptr<DeliveryQueue> m_results; // from the device thread
     DeviceDSP *m_dsp;
     QThread *m_thread;
     qint32 m_requestType = -1; // last type given to requestDSPData

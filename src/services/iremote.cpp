@@ -1,6 +1,7 @@
 #include "services/iremote.h"
 
 #include "board/screenshot.h"
+#include "platform/lineoutput.h"
 #include "platform/target.h"
 #include "widgets/text/keymap.h"
 
@@ -13,7 +14,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
-#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
@@ -63,15 +63,13 @@ sockaddr_in unpackAddress(quint64 packed)
 // As required: an instrument without its remote control ends at once. Other threads run, so nothing is torn down.
 [[noreturn]] void endProcess(const char *text)
 {
-    std::printf("%s", text);
-    std::fflush(stdout);
+    LineOutput::print("%s", text);
     std::_Exit(-1);
 }
 
 void print(const char *text)
 {
-    std::printf("%s", text);
-    std::fflush(stdout);
+    LineOutput::print("%s", text);
 }
 
 // Failures that repeat are waited out for longer and longer, so that a broken socket does not take a core.
@@ -388,8 +386,7 @@ void IRemote::respondImage(const QByteArray &png)
     for (size_t at = 0; at < size_t(stream.size()); at += kDatagramBytes) {
         const size_t size = std::min(kDatagramBytes, size_t(stream.size()) - at);
         if (!sendToPeer(stream.constData() + at, size)) {
-            std::printf("sendto fail errno %s\r\n", std::strerror(errno));
-            std::fflush(stdout);
+            LineOutput::print("sendto fail errno %s\r\n", std::strerror(errno));
             return;
         }
         usleep(kPause);

@@ -1,10 +1,9 @@
 #include "services/modbusresponder.h"
 
 #include "platform/clock.h"
+#include "platform/lineoutput.h"
 #include "services/modbusframer.h"
 #include "services/modbusregisters.h"
-
-#include <cstdio>
 
 namespace {
 
@@ -73,7 +72,7 @@ bool ModbusResponder::answer(const quint8 *frame, int length)
         return answerRead(frame, length);
     if (isLockFunction(function))
         return answerLock(frame, length);
-    std::printf("-----exception: %d %02x\n", length >= kAddressAt + 2 ? word(frame, kAddressAt) : 0, function);
+    LineOutput::print("-----exception: %d %02x\n", length >= kAddressAt + 2 ? word(frame, kAddressAt) : 0, function);
     return refuse(frame, MODBUS_EXCEPTION_ILLEGAL_FUNCTION);
 }
 
@@ -83,7 +82,7 @@ bool ModbusResponder::answerRead(const quint8 *frame, int length)
         return refuse(frame, MODBUS_EXCEPTION_ILLEGAL_DATA_VALUE);
     const int address = word(frame, kAddressAt);
     const timeval now = Clock::timeOfDay();
-    std::printf("### addr: %d %d %d\n", int(now.tv_sec), int(now.tv_usec / 1000), address);
+    LineOutput::print("### addr: %d %d %d\n", int(now.tv_sec), int(now.tv_usec / 1000), address);
 
     const bool locked = m_lock->tab_registers[0] == 1;
     const int count = isWellFormed(frame, length) ? word(frame, kAddressAt + 2) : 0;
@@ -91,11 +90,11 @@ bool ModbusResponder::answerRead(const quint8 *frame, int length)
     int available = 0;
     const auto found = m_registers.read(address, count, locked && count > 0, values, &available);
     if (found == ModbusRegisters::NoBlock) {
-        std::printf("-----exception: %d\n", address);
+        LineOutput::print("-----exception: %d\n", address);
         return refuse(frame, MODBUS_EXCEPTION_ILLEGAL_DATA_ADDRESS);
     }
     if (ModbusRegisters::startsBigBlock(address) && !locked) {
-        std::printf("-----exception: %d %02x\n", address, frame[kFunctionAt]);
+        LineOutput::print("-----exception: %d %02x\n", address, frame[kFunctionAt]);
         return refuse(frame, MODBUS_EXCEPTION_ILLEGAL_DATA_ADDRESS);
     }
     if (count == 0)
@@ -115,7 +114,7 @@ bool ModbusResponder::answerLock(const quint8 *frame, int length)
     const int function = frame[kFunctionAt];
     const int address = length >= kAddressAt + 2 ? word(frame, kAddressAt) : 0;
     if (address != kLockAddress) {
-        std::printf("-----exception: %d %02x\n", address, function);
+        LineOutput::print("-----exception: %d %02x\n", address, function);
         return refuse(frame, MODBUS_EXCEPTION_ILLEGAL_DATA_ADDRESS);
     }
     if (!isWellFormed(frame, length))
@@ -125,11 +124,11 @@ bool ModbusResponder::answerLock(const quint8 *frame, int length)
     if (function == MODBUS_FC_WRITE_AND_READ_REGISTERS
         && (word(frame, kAddressAt + 4) != kLockAddress || word(frame, kAddressAt + 6) != 1
             || word(frame, kAddressAt + 2) != 1)) {
-        std::printf("-----exception: %d %02x\n", word(frame, kAddressAt + 4), function);
+        LineOutput::print("-----exception: %d %02x\n", word(frame, kAddressAt + 4), function);
         return refuse(frame, MODBUS_EXCEPTION_ILLEGAL_DATA_ADDRESS);
     }
     const bool sent = modbus_reply(m_context, frame, length, m_lock) > 0;
     const timeval now = Clock::timeOfDay();
-    std::printf("### Lock: 0x%04X; %d %d\n", m_lock->tab_registers[0], int(now.tv_sec), int(now.tv_usec / 1000));
+    LineOutput::print("### Lock: 0x%04X; %d %d\n", m_lock->tab_registers[0], int(now.tv_sec), int(now.tv_usec / 1000));
     return sent;
 }

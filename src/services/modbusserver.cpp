@@ -1,5 +1,6 @@
 #include "services/modbusserver.h"
 
+#include "platform/lineoutput.h"
 #include "services/modbusframer.h"
 #include "services/modbusregisters.h"
 #include "services/modbusresponder.h"
@@ -10,7 +11,6 @@
 #include <chrono>
 #include <condition_variable>
 #include <csignal>
-#include <cstdio>
 #include <fcntl.h>
 #include <mutex>
 #include <netinet/in.h>
@@ -95,7 +95,7 @@ void ServerLoop::run()
         if (m_client >= 0)
             FD_SET(m_client, &readable);
         if (::select(qMax(qMax(m_listening, m_client), m_stop) + 1, &readable, nullptr, nullptr, nullptr) < 0) {
-            std::puts("Modbus Server select failure.");
+            LineOutput::print("Modbus Server select failure.\n");
             dropClient();
             pause();
             continue;
@@ -111,16 +111,16 @@ void ServerLoop::run()
 
 void ServerLoop::acceptClient()
 {
-    std::printf("---connection: %d\n", m_listening);
+    LineOutput::print("---connection: %d\n", m_listening);
     if (m_client >= 0) {
-        std::printf("-----disconnect old: %d\n", m_client);
+        LineOutput::print("-----disconnect old: %d\n", m_client);
         dropClient();
     }
     // Never blocking: a client that does not read makes a send fail at once.
     const int client = ::accept4(m_listening, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
     if (client < 0) {
         // A newcomer that gave up between the two calls is nothing to wait for.
-        std::puts("Modbus Server accept error.");
+        LineOutput::print("Modbus Server accept error.\n");
         if (errno != EAGAIN && errno != ECONNABORTED)
             pause();
         return;
@@ -129,7 +129,7 @@ void ServerLoop::acceptClient()
         ::close(client);
         return;
     }
-    std::printf("---connect new: %d\n", client);
+    LineOutput::print("---connect new: %d\n", client);
     const int on = 1;
     ::setsockopt(client, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
     m_client = client;
@@ -155,7 +155,7 @@ void ServerLoop::serveClient()
     if (alive)
         return;
     dropClient();
-    std::puts("-----disconnect by master");
+    LineOutput::print("-----disconnect by master\n");
 }
 
 quint16 boundPort(int listening)

@@ -7,6 +7,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QThread>
+#include <QTimer>
 #include <cstring>
 #include <limits>
 #include <memory>
@@ -41,6 +42,8 @@ private slots:
     void versionIsTheInitialTextUntilTheProcessorAnswers();
     void versionEndsAtTheFirstZeroByteOrTheArraysEnd();
     void stalledMainThreadLosesNothing();
+    void stalledMainThreadGetsEverythingInOrder();
+    void backlogLeavesTimersTheirTurn();
     void processorThatComesBackIsSetUpAgain();
     void withoutANodeTheProgramRunsWithoutData();
     void withoutAFacadeFramesGoNowhere();
@@ -434,6 +437,63 @@ void TstIDevice::stalledMainThreadLosesNothing()
     QTRY_COMPARE(waves.size(), kDatagrams);
     for (int i = 0; i < kDatagrams; ++i)
         QCOMPARE(waves[i][0].toByteArray(), timeBytes(0) + countingPayload(16385, quint32(i + 2)));
+}
+
+void TstIDevice::stalledMainThreadGetsEverythingInOrder()
+{
+    connectLink();
+    QVector<QPair<int, quint32>> seen, sent;
+    const auto note = [&seen](int kind) {
+        return [&seen, kind](const QByteArray &bytes) { seen.append({ kind, toWords(bytes).value(2) }); };
+    };
+    connect(m_idevice, &IDevice::datagramAggregation, this, note(DatagramAggregation));
+    connect(m_idevice, &IDevice::datagramRMS_1_2, this, note(DatagramRMS_1_2));
+    connect(m_idevice, &IDevice::datagramWave, this, note(DatagramWave));
+    connect(m_idevice, &IDevice::datagramFlicker, this, note(DatagramFlicker));
+    connect(m_idevice, &IDevice::usingBDS, this, [&seen](quint32 word) { seen.append({ -1, word }); });
+    constexpr int kTicks = 50; // ten seconds of everything, every 200 ms; flicker each second
+    HeadValues head;
+    const auto send = [&](__datagramtype kind) {
+        head.type = quint32(kind);
+        ++head.id;
+        head.bds = head.id;
+        if (kind == DatagramRMS_1_2)
+            sent.append({ -1, head.id });
+        m_peer->send(makeDatagram(head, countingPayload(kDatagramKinds[kind].words - Link::kTimeWords, head.id)));
+        sent.append({ kind, head.id });
+    };
+    for (int tick = 0; tick < kTicks; ++tick) { // this thread runs no event loop meanwhile
+        send(DatagramAggregation);
+        send(DatagramRMS_1_2);
+        send(DatagramWave);
+        if (tick % 5 == 0)
+            send(DatagramFlicker);
+    }
+    QTRY_COMPARE(seen.size(), sent.size());
+    QCOMPARE(seen, sent);
+}
+
+void TstIDevice::backlogLeavesTimersTheirTurn()
+{
+    connectLink();
+    constexpr int kDatagrams = 40;
+    int taken = 0, takenAtTimer = -1;
+    connect(m_idevice, &IDevice::datagramUpdate, this, [&taken] {
+        QThread::msleep(10); // a slow page
+        ++taken;
+    });
+    HeadValues head;
+    head.type = DatagramUpdate;
+    for (int i = 0; i < kDatagrams; ++i) {
+        ++head.id;
+        m_peer->send(makePackage(head));
+    }
+    QThread::msleep(300); // all of them wait now
+    QTimer timer;
+    connect(&timer, &QTimer::timeout, this, [&] { takenAtTimer = takenAtTimer < 0 ? taken : takenAtTimer; });
+    timer.start(30);
+    QTRY_COMPARE(taken, kDatagrams);
+    QVERIFY2(takenAtTimer >= 0 && takenAtTimer < kDatagrams / 2, qPrintable(QString::number(takenAtTimer)));
 }
 
 void TstIDevice::processorThatComesBackIsSetUpAgain()

@@ -4,7 +4,10 @@
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QSocketNotifier>
+#include <QTemporaryFile>
 #include <QTest>
+#include <cerrno>
+#include <dlfcn.h>
 #include <fcntl.h>
 #include <memory>
 #include <unistd.h>
@@ -27,12 +30,41 @@ private slots:
     void farEndThatClosesIsTriedAgainQuietly();
     void nodeThatDisappearsAndComesBackIsReopened();
     void readErrorThatPassesLeavesAllStateAndSpinsNothing();
+    void oneFailedReadInABurstCostsNothing();
+    void readsThatFailForAMomentPauseOnlyForAMoment();
+    void streamThatNeverRunsDryLeavesFramesTheirTurn();
     void nodeThatIsLostForGoodIsOpenedAnew();
     void writesToAClosedFarEndFailUnnoticed();
     void readAnswersWhatTheNodeAnswers();
 };
 
 namespace {
+
+/// Number of the next reads of the node that fail, and how; other descriptors are read as ever.
+struct FailingReads
+{
+    int node = -1;
+    int passing = 0; // reads that still succeed before
+    int failing = 0;
+    int error = 0;
+} g_failing;
+
+} // namespace
+
+/// Stands before the system's read().
+extern "C" ssize_t read(int fd, void *buffer, size_t size)
+{
+    static const auto real = reinterpret_cast<ssize_t (*)(int, void *, size_t)>(::dlsym(RTLD_NEXT, "read"));
+    if (fd == g_failing.node && fd >= 0 && g_failing.passing-- <= 0 && g_failing.failing > 0) {
+        --g_failing.failing;
+        errno = g_failing.error;
+        return -1;
+    }
+    return real(fd, buffer, size);
+}
+
+namespace {
+
 const QByteArray kStop = wordsToBytes({ 122, 193, 0, 123 });
 
 QByteArray setUpFrame(quint32 mark)
@@ -45,6 +77,7 @@ QByteArray setUpFrame(quint32 mark)
 
 void TstLinkNode::cleanup()
 {
+    g_failing = {};
     QFile::remove(ProcessorPeer::node());
 }
 
@@ -240,6 +273,70 @@ void TstLinkNode::readErrorThatPassesLeavesAllStateAndSpinsNothing()
     QCOMPARE(link.datagrams[0].bytes, timeBytes(0) + countingPayload(16385, 1));
     QVERIFY(reopened.isEmpty());
     QVERIFY(out.lines().isEmpty());
+}
+
+void TstLinkNode::oneFailedReadInABurstCostsNothing()
+{
+    for (const int error : { EIO, EOVERFLOW, ENOBUFS }) {
+        OpenLink link;
+        QVERIFY(link.open());
+        QSignalSpy reopened(&link.dsp, &DeviceDSP::reopened);
+        QSocketNotifier *notifier = link.dsp.findChild<QSocketNotifier *>();
+        const QVector<QByteArray> wire = makeDatagram({ 0, 1, DatagramWave, 0, 0, 0 }, countingPayload(16385, 1));
+        link.peer.send(wire);
+        g_failing = { int(notifier->socket()), 3, 1, error };
+        link.pump();
+        QCOMPARE(g_failing.failing, 0);
+        QCOMPARE(link.datagrams.size(), 1); // the rest came with the same burst
+        QCOMPARE(link.datagrams[0].bytes, timeBytes(0) + countingPayload(16385, 1));
+        QVERIFY(notifier->isEnabled());
+        g_failing = {};
+        QTest::qWait(1200);
+        QVERIFY(reopened.isEmpty());
+        QVERIFY(!link.peer.isConnectionWaiting());
+    }
+}
+
+void TstLinkNode::readsThatFailForAMomentPauseOnlyForAMoment()
+{
+    OpenLink link;
+    QVERIFY(link.open());
+    QSignalSpy reopened(&link.dsp, &DeviceDSP::reopened);
+    QSocketNotifier *notifier = link.dsp.findChild<QSocketNotifier *>();
+    g_failing = { int(notifier->socket()), 0, 10, EIO }; // two bursts of nothing else
+    link.peer.send(makePackage({ 0xC0A5FF00, 1, DatagramUpdate, 0, 0, 0 }));
+    QElapsedTimer timer;
+    timer.start();
+    QTRY_COMPARE(link.datagrams.size(), 1);
+    QVERIFY2(timer.elapsed() < 600, qPrintable(QString::number(timer.elapsed())));
+    QVERIFY(reopened.isEmpty());
+    QVERIFY(!link.peer.isConnectionWaiting());
+}
+
+void TstLinkNode::streamThatNeverRunsDryLeavesFramesTheirTurn()
+{
+    OpenLink link;
+    QVERIFY(link.open());
+    constexpr int kPackages = 2000;
+    QTemporaryFile stream; // a node that always has one more package
+    QVERIFY(stream.open());
+    for (quint32 id = 1; id <= kPackages; ++id)
+        stream.write(makePackage({ 0xC0A5FF00, id, DatagramUpdate, 0, 0, 0 }));
+    QVERIFY(stream.flush() && stream.seek(0));
+    QSocketNotifier *notifier = link.dsp.findChild<QSocketNotifier *>();
+    const int node = int(notifier->socket()), kept = ::dup(node);
+    ::dup2(stream.handle(), node);
+    int readBefore = -1;
+    link.pump();
+    QVERIFY(!link.datagrams.isEmpty() && link.datagrams.size() < kPackages / 4);
+    // A frame that is queued while the stream runs is written between two turns.
+    QMetaObject::invokeMethod(
+        &link.dsp, [&] { readBefore = link.datagrams.size(); }, Qt::QueuedConnection);
+    QTRY_VERIFY(readBefore >= 0);
+    QVERIFY(readBefore < kPackages / 2);
+    QTRY_COMPARE(link.datagrams.size(), kPackages); // the turns go on by themselves
+    ::dup2(kept, node);
+    ::close(kept);
 }
 
 void TstLinkNode::nodeThatIsLostForGoodIsOpenedAnew()

@@ -17,6 +17,7 @@ class TstLinkProtocol : public QObject
 private slots:
     void tableOfKindsIsThatOfTheCode();
     void tableOfFramesNamesTheCommands();
+    void everyPrintedLineStandsInTheSource_data();
     void everyPrintedLineStandsInTheSource();
     void packageExampleIsEmittedAsTold();
     void frameExampleIsWhatIsSent();
@@ -51,18 +52,31 @@ void TstLinkProtocol::tableOfFramesNamesTheCommands()
         QVERIFY(text.contains(QString::number(word)));
 }
 
+void TstLinkProtocol::everyPrintedLineStandsInTheSource_data()
+{
+    QTest::addColumn<QString>("section");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<int>("count");
+    QTest::newRow("link") << QStringLiteral("## Assembly") << QStringLiteral("devicedsp") << 7;
+    QTest::newRow("hand-over") << QStringLiteral("## Hand-over") << QStringLiteral("deliveryqueue") << 2;
+}
+
 void TstLinkProtocol::everyPrintedLineStandsInTheSource()
 {
-    QFile source(QStringLiteral(QUVERA_SOURCE_DIR "/src/device/devicedsp.cpp"));
+    QFETCH(QString, section);
+    QFETCH(QString, unit);
+    QFETCH(int, count);
+    QFile source(QStringLiteral(QUVERA_SOURCE_DIR "/src/device/%1.cpp").arg(unit));
     QVERIFY(source.open(QIODevice::ReadOnly));
     const QString code = QString::fromUtf8(source.readAll());
     QStringList lines;
-    for (const QString &line : m_page.section(QStringLiteral("## Assembly")).split(QLatin1Char('\n'))) {
+    for (const QString &line : m_page.section(section).split(QLatin1Char('\n'))) {
         if (line.startsWith(QLatin1String("| `")))
             lines << line.mid(3, line.lastIndexOf(QLatin1Char('`')) - 3);
     }
-    QCOMPARE(lines.size(), 7);
-    QCOMPARE(code.count(QStringLiteral("printf(\"")), 7);
+    QCOMPARE(lines.size(), count);
+    QCOMPARE(code.count(QStringLiteral("LineOutput::print(\"")), count);
+    QVERIFY(!code.contains(QStringLiteral("printf(\"")));
     for (const QString &line : lines)
         QVERIFY2(code.contains(QLatin1Char('"') + line + QStringLiteral("\\n\"")), qPrintable(line));
 }

@@ -1,6 +1,7 @@
 // How the remote control ends, or breaks, with the process that it is in. Each case runs in a process of its own: this
 // executable with a word.
 #include "board/screenshot.h"
+#include "platform/lineoutput.h"
 #include "remotepeer.h"
 #include "services/iremote.h"
 
@@ -116,6 +117,7 @@ void waitForPort()
 int runChild(const QByteArray &word)
 {
     ScreenShot::initScreenShot();
+    LineOutput::print("child\n"); // what the output opens must not get the number of the socket that is closed below
     if (word == "child-no-descriptors") {
         const rlimit limit = { 0, 0 };
         setrlimit(RLIMIT_NOFILE, &limit);

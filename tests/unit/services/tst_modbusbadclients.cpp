@@ -44,6 +44,7 @@ private slots:
     void thousandsOfConnectionsLeaveNoDescriptor();
     void descriptorBeyondTheSetIsClosed();
     void occupiedPortEndsTheServerQuietly();
+    void outputThatStandsStillDelaysNoAnswer();
 
 private:
     std::unique_ptr<CaughtOutput> m_output;
@@ -318,6 +319,30 @@ void TstModbusBadClients::descriptorBeyondTheSetIsClosed()
         ::close(descriptor);
     ModbusClient client(own.port());
     QCOMPARE(client.ask(readInput(100, 1)), modelRead(100, 1));
+}
+
+void TstModbusBadClients::outputThatStandsStillDelaysNoAnswer()
+{
+    int ends[2];
+    QCOMPARE(::pipe(ends), 0);
+    std::fflush(stdout);
+    const int kept = ::dup(STDOUT_FILENO);
+    ::dup2(ends[1], STDOUT_FILENO); // a pipe that nobody reads takes some two thousand of the server's lines
+    int answered = 0;
+    {
+        OwnServer own;
+        ModbusClient client(own.port());
+        for (int i = 0; i < 10000 && client.ask(readInput(100, 1)) == modelRead(100, 1); ++i)
+            ++answered;
+        if (answered < 10000)
+            ::close(ends[0]); // lets a server that waits go on, so that it can end
+        else
+            answered += client.ask(readInput(100, 1)) == modelRead(100, 1);
+    }
+    ::dup2(kept, STDOUT_FILENO);
+    for (const int end : { kept, ends[0], ends[1] })
+        ::close(end);
+    QCOMPARE(answered, 10001);
 }
 
 void TstModbusBadClients::occupiedPortEndsTheServerQuietly()
