@@ -22,8 +22,10 @@ public:
     /// The record that a data file of this page holds; empty: a picture is all there is.
     virtual QByteArray pqaData() const { return {}; }
 
-public slots:
-    virtual void free_parameter() { }
+    /// The page is opened: a function with sub pages begins at its first.
+    virtual void enter() { }
+    /// The user has left for another page; Memory and the like only stand over this one.
+    virtual void left() { }
 
 signals:
     void taskPaused();

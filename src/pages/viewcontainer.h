@@ -18,6 +18,7 @@ public:
     const QList<LivePage *> &pages() const { return m_pages; }
     /// Makes the first sub page current.
     void enterFirstPage();
+    void enter() override { enterFirstPage(); }
 
 public slots:
     void init_parameter() override;

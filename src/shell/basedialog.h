@@ -1,46 +1,32 @@
 #pragma once
 
-#include "task/abstracttask.h"
-#include "pages/uitype.h"
-
 #include <QDialog>
 
 #include <memory>
 
-class FunctionPage;
+class MenuPage;
+class Navigator;
 class QTimer;
+class TaskManage;
 
 namespace Ui {
 class BaseDialog;
 }
 
-/// The main window: title bar and the one stack of pages. It decides, whenever another function is asked for, whether
-/// the running measurement goes on, must end, or must be asked about.
+/// The main window: title bar and the one stack of pages, between which the navigator decides; clock, light and power
+/// key.
 class BaseDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    explicit BaseDialog(QWidget *parent = nullptr);
+    explicit BaseDialog(TaskManage *tasks, QWidget *parent = nullptr);
     ~BaseDialog() override;
 
-    /// The last function page shown, menu included; Memory does not change it.
-    QWidget *currentPage() const { return m_currentPage; }
+    Navigator &navigator() { return *m_navigator; }
+    MenuPage *menu() const { return m_menu; }
 
 public slots:
-    /// The page \a current is to make room for \a target: by the way in which that is entered. Without effect where the
-    /// user stays, or where this software has no such page.
-    void go(_quvera_ui_type current, _quvera_ui_type target);
-    void showLast();
-    void restartTask();
-    void startTransTask() { }
-    void startInrushTask() { }
-    void startLoggerTask();
-    void startMonitorTask();
-    void startWaveTask();
-    void startRecordTask();
-    void startPowerInverterTask();
-    void startDateTimer() { }
     void refleshtime();
     void powerBtnPushed();
     void retranslateUi();
@@ -57,31 +43,14 @@ protected:
     void focusInEvent(QFocusEvent *event) override;
 
 private:
-    /// What the user made of a running measurement.
-    enum Answer { StayOnPage = -1, NoTask = 0, KeepTask = 1 };
-
-    Answer changeTaskOrNot(AbstractTask::UniFunction function, _quvera_ui_type current);
-    bool exitCurTaskIfOrNot(_quvera_ui_type current);
-    bool endTaskAsAsked(_quvera_ui_type current);
-    bool endRecordingAsAsked(_quvera_ui_type current);
-    bool quitTaskAsAsked(_quvera_ui_type current);
-
-    void highLightMenu();
-
-    FunctionPage *builtPage(_quvera_ui_type target);
-    void bringToFront(QWidget *page, const QString &title);
-    void showMenu(_quvera_ui_type current);
-    void showLive(_quvera_ui_type current, _quvera_ui_type target);
-    void showCommanded(_quvera_ui_type current, _quvera_ui_type target);
-    void showSettings(_quvera_ui_type current, _quvera_ui_type target);
-    void showMemory();
-    void startFunction(AbstractTask::UniFunction function, _quvera_ui_type display);
     void armPowerTimer();
 
     std::unique_ptr<Ui::BaseDialog> m_ui;
+    MenuPage *m_menu;
+    Navigator *m_navigator;
     QTimer *m_clockTimer;
-    QWidget *m_currentPage = nullptr;
     QTimer *m_powerTimer;
+    QString m_icons[2]; // names of the pictures shown
     bool m_powerArmed = false;
     int m_powerTicks = 0;
 };

@@ -5,6 +5,7 @@
 #include "model/nominalfrequency.h"
 #include "model/transparam.h"
 #include "record/pqafile.h"
+#include "shell/pagetable.h"
 #include "widgets/text/keymap.h"
 #include "widgets/controls/labellook.h"
 #include "widgets/dialogs/runinfo.h"
@@ -12,44 +13,26 @@
 
 #include <QKeyEvent>
 
+#include <vector>
+
 namespace {
 
 constexpr int kRows = 3;
 constexpr int kColumns = 4;
 
-/// The tiles row by row: object name, caption, and where Enter leads.
-struct Tile
+/// Rows of the pages that have a tile.
+const std::vector<const PageRow *> &tiles()
 {
-    const char *name;
-    const char *caption;
-    _quvera_ui_type target;
-};
-const Tile kTiles[kRows * kColumns] = {
-    { "power", QT_TRANSLATE_NOOP("MenuPage", "Power&Energy\n"), UI_POWER },
-    { "vif", QT_TRANSLATE_NOOP("MenuPage", "Volts/Amps/Hertz\n"), UI_VIF },
-    { "harmonics", QT_TRANSLATE_NOOP("MenuPage", "Harmonics\n"), UI_HARMONICS },
-    { "unbalance", QT_TRANSLATE_NOOP("MenuPage", "Unbalance\n"), UI_UNBALANCE },
-    { "flicker", QT_TRANSLATE_NOOP("MenuPage", "Flicker\n"), UI_FLICKER },
-    { "dips_swells", QT_TRANSLATE_NOOP("MenuPage", "Dips&Swells\n"), UI_DIPS_SWELLS },
-    { "inrush", QT_TRANSLATE_NOOP("MenuPage", "Inrush\n"), UI_INRUSH },
-    { "transients", QT_TRANSLATE_NOOP("MenuPage", "Transients\n"), UI_TRANSIENTS },
-    { "mainssignaling", QT_TRANSLATE_NOOP("MenuPage", "Mains\nSignaling"), UI_MAINS_SIG },
-    { "wave", QT_TRANSLATE_NOOP("MenuPage", "Wave\n"), UI_WAVE },
-    { "logger", QT_TRANSLATE_NOOP("MenuPage", "Logger\n"), UI_LOGGER },
-    { "user", QT_TRANSLATE_NOOP("MenuPage", "User\n"), UI_USER },
-};
-
-/// Function keys that lead away from the menu. F7 has no effect here.
-const struct
-{
-    int key;
-    _quvera_ui_type target;
-} kFunctionKeys[] = {
-    { Qt::Key_F6, UI_SCOPE },
-    { Qt::Key_F8, UI_MONITOR },
-    { Qt::Key_F9, UI_SETUP },
-    { Qt::Key_F10, UI_MEMORY },
-};
+    static const std::vector<const PageRow *> found = [] {
+        std::vector<const PageRow *> rows;
+        for (const PageRow &row : PageTable::rows()) {
+            if (row.tile.place >= 1 && row.tile.place <= kRows * kColumns)
+                rows.push_back(&row);
+        }
+        return rows;
+    }();
+    return found;
+}
 
 } // namespace
 
@@ -64,8 +47,8 @@ MenuPage::MenuPage(QWidget *parent) : QDialog(parent), m_ui(new Ui::MenuPage)
     LabelLook::dress(this);
     m_places[0].current = m_places[0].previous = m_ui->vif;
     m_places[1].current = m_places[1].previous = m_ui->logger;
-    for (const Tile &tile : kTiles)
-        findChild<MenuItem *>(QString::fromLatin1(tile.name))->showPicture(false);
+    for (const PageRow *row : tiles())
+        item(*row)->showPicture(false);
     menuMatrix50();
     retranslateUi();
     showMenuHl();
@@ -75,8 +58,8 @@ MenuPage::~MenuPage() = default;
 
 void MenuPage::retranslateUi()
 {
-    for (const Tile &tile : kTiles)
-        findChild<QLabel *>(QString::fromLatin1(tile.name) + QLatin1String("_t"))->setText(tr(tile.caption));
+    for (const PageRow *row : tiles())
+        findChild<QLabel *>(QString::fromLatin1(row->tile.name) + QLatin1String("_t"))->setText(tr(row->tile.caption));
     m_ui->menu_tips->setText(tr("Press F1-F5 to show more infomation"));
 }
 
@@ -89,13 +72,20 @@ void MenuPage::initMenuMatrix()
     showMenuHl();
 }
 
+MenuItem *MenuPage::item(const PageRow &row) const
+{
+    return findChild<MenuItem *>(QString::fromLatin1(row.tile.name));
+}
+
 void MenuPage::menuMatrix50()
 {
-    MenuItem *items[kRows][kColumns];
-    for (int i = 0; i < kRows * kColumns; ++i)
-        items[i / kColumns][i % kColumns] = findChild<MenuItem *>(QString::fromLatin1(kTiles[i].name));
+    MenuItem *items[kRows][kColumns] = {};
+    for (const PageRow *row : tiles())
+        items[(row->tile.place - 1) / kColumns][(row->tile.place - 1) % kColumns] = item(*row);
     for (int r = 0; r < kRows; ++r) {
         for (int c = 0; c < kColumns; ++c) {
+            if (!items[r][c])
+                continue;
             items[r][c]->left = items[r][(c + kColumns - 1) % kColumns];
             items[r][c]->right = items[r][(c + 1) % kColumns];
             items[r][c]->up = items[(r + kRows - 1) % kRows][c];
@@ -104,15 +94,21 @@ void MenuPage::menuMatrix50()
     }
 }
 
+/// The neighbours of a tile without a function at 400 Hz lead past it; the tile stays on the screen.
 void MenuPage::menuMatrix400()
 {
     menuMatrix50();
-    m_ui->dips_swells->left = m_ui->transients;
-    m_ui->transients->right = m_ui->dips_swells;
-    m_ui->power->up = m_ui->power->down = m_ui->mainssignaling;
-    m_ui->mainssignaling->up = m_ui->mainssignaling->down = m_ui->power;
-    if (m_places[0].current == m_ui->flicker)
-        moveTo(m_ui->vif);
+    for (const PageRow *row : tiles()) {
+        if (row->at400Hz)
+            continue;
+        MenuItem *tile = item(*row);
+        tile->left->right = tile->right;
+        tile->right->left = tile->left;
+        tile->up->down = tile->down;
+        tile->down->up = tile->up;
+        if (m_places[0].current == tile)
+            moveTo(m_ui->vif);
+    }
 }
 
 void MenuPage::setCurrentItem()
@@ -142,9 +138,9 @@ void MenuPage::showMenuHl()
 
 void MenuPage::changePage()
 {
-    for (const Tile &tile : kTiles) {
-        if (m_places[0].current->objectName() == QLatin1String(tile.name)) {
-            emit leave(tile.target);
+    for (const PageRow *row : tiles()) {
+        if (m_places[0].current == item(*row)) {
+            emit leave(row->type);
             return;
         }
     }
@@ -166,9 +162,10 @@ void MenuPage::keyPressEvent(QKeyEvent *event)
     }
     const int key = keyMap::keyPressMap(event->key());
     event->accept();
-    for (const auto &row : kFunctionKeys) {
-        if (row.key == key) {
-            emit leave(row.target);
+    // F7 has no effect here.
+    for (const PageRow &row : PageTable::rows()) {
+        if (row.menuKey == key) {
+            emit leave(row.type);
             showMenuHl();
             return;
         }

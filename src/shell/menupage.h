@@ -7,6 +7,8 @@
 
 #include <memory>
 
+struct PageRow;
+
 namespace Ui {
 class MenuPage;
 }
@@ -65,6 +67,7 @@ private:
         MenuItem *previous = nullptr;
     };
 
+    MenuItem *item(const PageRow &row) const;
     void menuMatrix50();
     void menuMatrix400();
     void moveTo(MenuItem *item);

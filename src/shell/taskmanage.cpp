@@ -1,32 +1,15 @@
 #include "shell/taskmanage.h"
 
 #include "device/deviceinit.h"
-#include "shell/menupage.h"
-#include "services/modbuspublisher.h"
 #include "shell/quveraglobal.h"
+#include "shell/tasklinks.h"
 #include "task/unitask.h"
-#include "pages/functionpage.h"
 
-namespace {
-
-/// Pages that hold and run the task, in the order in which they are wired.
-constexpr _quvera_ui_type kViewPages[] = { UI_SCOPE,   UI_VIF,       UI_DIPS_SWELLS, UI_HARMONICS, UI_POWER,
-                                           UI_FLICKER, UI_UNBALANCE, UI_TRANSIENTS,  UI_INRUSH,    UI_MAINS_SIG };
-
-/// Makes or undoes a connection; what is not built is left out.
-void link(bool connected, const QObject *sender, const char *signal, const QObject *receiver, const char *slot)
+TaskManage::TaskManage(QObject *parent) : QObject(parent), m_links(new TaskLinks(this))
 {
-    if (!sender || !receiver)
-        return;
-    if (connected)
-        QObject::connect(sender, signal, receiver, slot);
-    else
-        QObject::disconnect(sender, signal, receiver, slot);
+    connect(m_links, &TaskLinks::runWanted, this, &TaskManage::continueTask);
+    connect(m_links, &TaskLinks::pauseWanted, this, &TaskManage::pauseTask);
 }
-
-} // namespace
-
-TaskManage::TaskManage(QObject *parent) : QObject(parent) { }
 
 QString TaskManage::curTaskName() const
 {
@@ -52,82 +35,18 @@ AbstractTask *TaskManage::initTask(TaskManage::__type type)
         return nullptr;
     delete g_unitask;
     g_unitask = new UniTask(this);
-    connectTask(true);
+    m_links->follow(g_unitask);
     return g_unitask;
-}
-
-void TaskManage::connectTask(bool connected)
-{
-    const auto page = [](_quvera_ui_type type) { return functionPage(type); };
-
-    link(connected, g_unitask, SIGNAL(refreshEventList(void *)), page(UI_DIPS_SWELLS), SLOT(refreshEventList(void *)));
-    link(connected, g_unitask, SIGNAL(refreshEventList(void *)), page(UI_INRUSH), SLOT(refreshEventList(void *)));
-    link(connected, g_unitask, SIGNAL(recordingStoped()), page(UI_LOGGER), SLOT(recordingStoped()));
-    link(connected, g_unitask, SIGNAL(taskStoped()), m_menupage, SLOT(clearSystemStatus()));
-    link(connected, g_unitask, SIGNAL(hasEvents()), m_menupage, SLOT(eventsChanged()));
-    link(connected, g_unitask, SIGNAL(hasTransEvents()), m_menupage, SLOT(transEventsChanged()));
-    link(connected, g_unitask, SIGNAL(hasTransEvents()), page(UI_TRANSIENTS), SLOT(hasTransEvents()));
-    for (_quvera_ui_type type : kViewPages)
-        link(connected, page(type), SIGNAL(run()), this, SLOT(continueTask()));
-    for (_quvera_ui_type type : kViewPages)
-        link(connected, page(type), SIGNAL(pause()), this, SLOT(pauseTask()));
-    for (_quvera_ui_type type : kViewPages)
-        link(connected, g_unitask, SIGNAL(taskPaused()), page(type), SIGNAL(taskPaused()));
-    for (_quvera_ui_type type : kViewPages)
-        link(connected, g_unitask, SIGNAL(taskContinued()), page(type), SIGNAL(taskContinued()));
-    link(connected, m_idevice, SIGNAL(datagramAggregation(QByteArray)), g_unitask,
-         SLOT(datagramAggregation(QByteArray)));
-    link(connected, m_idevice, SIGNAL(datagramRMS_1_2(QByteArray)), g_unitask, SLOT(datagramRMS_1_2(QByteArray)));
-    link(connected, m_idevice, SIGNAL(datagramWave(QByteArray)), g_unitask, SLOT(datagramWave(QByteArray)));
-    link(connected, m_idevice, SIGNAL(datagramFlicker(QByteArray)), g_unitask, SLOT(datagramFlicker(QByteArray)));
-    link(connected, g_unitask, SIGNAL(buzzerRing(unsigned int)), m_idevice, SLOT(buzzerRing(unsigned int)));
-    // A start empties what the pages show.
-    for (_quvera_ui_type type : kViewPages)
-        link(connected, g_unitask, SIGNAL(init_param()), page(type), SLOT(init_parameter()));
-    if (connected)
-        ModbusPublisher::follow(g_unitask);
 }
 
 void TaskManage::connectDisplay(_quvera_ui_type type)
 {
-    linkDisplay(type, true);
+    m_links->setFront(type);
 }
 
 void TaskManage::disconnectDisplay(_quvera_ui_type type)
 {
-    linkDisplay(type, false);
-}
-
-void TaskManage::linkDisplay(_quvera_ui_type type, bool connected)
-{
-    FunctionPage *page = functionPage(type);
-    if (!page || !g_unitask)
-        return;
-    link(connected, g_unitask, SIGNAL(updateDisplay(void *)), page, SLOT(updateDisplay(void *)));
-    link(connected, g_unitask,
-         type == UI_LOGGER ? SIGNAL(recordTimeChanged(QString)) : SIGNAL(stopWatchChanged(QString)), page,
-         SLOT(stopWatchChanged(QString)));
-    switch (type) {
-    case UI_HARMONICS:
-        link(connected, page, SIGNAL(changeFlag(int)), g_unitask, SLOT(changeFlag(int)));
-        break;
-    case UI_POWER:
-        link(connected, page, SIGNAL(resetEnergy()), g_unitask, SLOT(resetEnergy()));
-        break;
-    case UI_WAVE:
-        link(connected, g_unitask, SIGNAL(taskStoped(uint)), page, SLOT(taskStoped(uint)));
-        link(connected, page, SIGNAL(stopTaskWithSave(bool)), this, SLOT(stopTaskWithSave(bool)));
-        link(connected, page, SIGNAL(exitTask()), this, SLOT(exitTask()));
-        break;
-    case UI_LOGGER:
-        link(connected, page, SIGNAL(stopRecordWithSave(bool)), this, SLOT(stopRecordWithSave(bool)));
-        break;
-    case UI_MONITOR:
-        link(connected, g_unitask, SIGNAL(refreshEventList(void *)), page, SLOT(refreshEventList(void *)));
-        break;
-    default:
-        break;
-    }
+    m_links->clearFront(type);
 }
 
 void TaskManage::stopTask()
@@ -220,9 +139,8 @@ void TaskManage::exitTask()
     task->stopTask();
     if (m_curTask != task)
         return; // who heard of the stop ended it already
-    connectTask(false);
+    m_links->forget(g_unitask);
     g_unitask = nullptr;
     m_curTask = nullptr;
     task->retire(); // it may be the task's own timer or datagram that led here
-    ModbusPublisher::clear();
 }

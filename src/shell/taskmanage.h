@@ -5,7 +5,10 @@
 
 #include <QObject>
 
-/// Owns the current task and ties it to the pages and to the link. All operations tolerate that there is none.
+class TaskLinks;
+
+/// Owns the current task and, in its links, what ties it to the pages and to the device. All operations tolerate that
+/// there is none.
 class TaskManage : public QObject
 {
     Q_OBJECT
@@ -25,7 +28,9 @@ public:
     void stopTask();
     void saveTask(bool keep);
 
-    /// Wires the task to the page in front; a second call adds a second link, which is harmless.
+    /// What the task and the pages say to each other; made with this object.
+    TaskLinks &links() const { return *m_links; }
+    /// The page of this type is in front: it alone is refreshed.
     void connectDisplay(_quvera_ui_type type);
     void disconnectDisplay(_quvera_ui_type type);
 
@@ -46,9 +51,8 @@ public slots:
 
 private:
     void saveAndStopRecord(bool keep);
-    void connectTask(bool connected);
-    void linkDisplay(_quvera_ui_type type, bool connected);
 
+    TaskLinks *m_links;
     qint32 m_curTaskType = 0; // __type of the current task, 0 without one
     AbstractTask *m_curTask = nullptr;
 };

@@ -26,7 +26,7 @@ AbstractTask::AbstractTask(QObject *parent) : QObject(parent), m_dataTimer(new Q
     m_dataTimer->setInterval(kDataInterval);
     m_baseTimer->setInterval(kBaseInterval);
     m_baseTimer->setTimerType(Qt::PreciseTimer);
-    connect(m_dataTimer, SIGNAL(timeout()), this, SLOT(updatedata()));
+    connect(m_dataTimer, &QTimer::timeout, this, &AbstractTask::updatedata);
     connect(m_baseTimer, &QTimer::timeout, this, &AbstractTask::baseTimerTimeout);
 }
 

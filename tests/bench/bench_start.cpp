@@ -49,7 +49,7 @@ class PaintWatch : public QObject
 public:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
-        if (event->type() == QEvent::Paint && watched == m_menupage)
+        if (event->type() == QEvent::Paint && watched == m_basedialog->menu())
             QTimer::singleShot(0, [] {
                 int pages = 0;
                 int labels = 0;

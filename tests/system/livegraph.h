@@ -8,6 +8,8 @@
 #include "model/datagramrecords.h"
 #include "model/displayrecords.h"
 #include "shell/menupage.h"
+#include "shell/navigator.h"
+#include "pages/functionpage.h"
 #include "platform/clock.h"
 #include "shell/quveraglobal.h"
 #include "services/modbusslave.h"
@@ -71,7 +73,7 @@ public:
     {
         for (int row = 0; row < 3; ++row, key(Qt::Key_T)) {
             for (int column = 0; column < 4; ++column, key(Qt::Key_D)) {
-                if (m_menupage->currentItem()->objectName() != tile)
+                if (m_basedialog->menu()->currentItem()->objectName() != tile)
                     continue;
                 key(Qt::Key_K);
                 Clock::advance(11000);

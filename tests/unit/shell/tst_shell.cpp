@@ -36,6 +36,7 @@ private slots:
     void monitorKeyDoesNothingAt400Hz();
     void processorTimeBecomesTheSystemTime();
     void titleBarShowsIconsAndText();
+    void titleBarPaintsAnIconOnlyWhenItChanges();
     void statusDialogRestartsTheTask();
     void languageChangeSetsTheTitleOfTheUserPage();
     void everyTileAndFunctionKeyIsSafe();
@@ -44,17 +45,17 @@ private slots:
 void TstShell::startsInTheMenu()
 {
     QCOMPARE(title(), QStringLiteral("Menu"));
-    QCOMPARE(top(), static_cast<QWidget *>(m_menupage));
+    QCOMPARE(top(), static_cast<QWidget *>(m_basedialog->menu()));
     QCOMPARE(current(), QStringLiteral("vif"));
     QVERIFY(!m_taskmanage->currentTask());
     QCOMPARE(m_basedialog->size(), QSize(640, 480));
     QVERIFY(m_basedialog->geometry().contains(splash->geometry()));
     QVERIFY(splash->isVisible()); // covered, not closed
     QCOMPARE(m_basedialog->findChild<QLabel *>("datetime")->text().size(), 19);
-    QCOMPARE(m_menupage->findChild<QLabel *>("menu_tips")->text(),
+    QCOMPARE(m_basedialog->menu()->findChild<QLabel *>("menu_tips")->text(),
              QStringLiteral("Press F1-F5 to show more infomation"));
-    QCOMPARE(m_menupage->findChild<QLabel *>("mainssignaling_t")->text(), QStringLiteral("Mains\nSignaling"));
-    QCOMPARE(m_menupage->findChild<QLabel *>("power_t")->text(), QStringLiteral("Power&Energy\n"));
+    QCOMPARE(m_basedialog->menu()->findChild<QLabel *>("mainssignaling_t")->text(), QStringLiteral("Mains\nSignaling"));
+    QCOMPARE(m_basedialog->menu()->findChild<QLabel *>("power_t")->text(), QStringLiteral("Power&Energy\n"));
 }
 
 void TstShell::menuIsATorus_data()
@@ -80,19 +81,20 @@ void TstShell::menuIsATorus()
     QFETCH(int, key);
     QFETCH(QString, to);
     moveToTile(from);
-    QTest::keyClick(m_menupage, Qt::Key(key));
+    QTest::keyClick(m_basedialog->menu(), Qt::Key(key));
     QCOMPARE(current(), to);
 }
 
 void TstShell::currentTileIsHighlighted()
 {
     moveToTile("harmonics");
-    const auto picture
-        = [](const char *name) { return m_menupage->findChild<QLabel *>(name)->pixmap(Qt::ReturnByValue).toImage(); };
+    const auto picture = [](const char *name) {
+        return m_basedialog->menu()->findChild<QLabel *>(name)->pixmap(Qt::ReturnByValue).toImage();
+    };
     QVERIFY(!picture("harmonics").isNull());
     QVERIFY(picture("harmonics") != QPixmap(":/harmonics").toImage());
     QCOMPARE(picture("harmonics"), QPixmap(":/harmonics_hl").toImage());
-    QTest::keyClick(m_menupage, kRight);
+    QTest::keyClick(m_basedialog->menu(), kRight);
     QCOMPARE(picture("harmonics"), QPixmap(":/harmonics").toImage());
     QCOMPARE(picture("unbalance"), QPixmap(":/unbalance_hl").toImage());
 }
@@ -101,9 +103,9 @@ void TstShell::menuAt400HzHasNoFlicker()
 {
     moveToTile("flicker");
     m_settingConfig_g.setNomFreq(3);
-    m_menupage->initMenuMatrix();
+    m_basedialog->menu()->initMenuMatrix();
     QCOMPARE(current(), QStringLiteral("vif")); // it stood on flicker
-    QVERIFY(m_menupage->findChild<QLabel *>("flicker")->isVisibleTo(m_menupage));
+    QVERIFY(m_basedialog->menu()->findChild<QLabel *>("flicker")->isVisibleTo(m_basedialog->menu()));
 
     const struct
     {
@@ -122,11 +124,11 @@ void TstShell::menuAt400HzHasNoFlicker()
     };
     for (const auto &row : rows) {
         m_settingConfig_g.setNomFreq(1);
-        m_menupage->initMenuMatrix();
+        m_basedialog->menu()->initMenuMatrix();
         moveToTile(row.from);
         m_settingConfig_g.setNomFreq(3);
-        m_menupage->initMenuMatrix();
-        QTest::keyClick(m_menupage, row.key);
+        m_basedialog->menu()->initMenuMatrix();
+        QTest::keyClick(m_basedialog->menu(), row.key);
         QCOMPARE(current(), QLatin1String(row.to));
     }
 }
@@ -135,11 +137,11 @@ void TstShell::tileOpensItsPageAndStartsTheTask()
 {
     enterVif();
     QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
-    QCOMPARE(top(), static_cast<QWidget *>(m_vifpage));
+    QCOMPARE(top(), static_cast<QWidget *>(vifPage()));
     QCOMPARE(m_taskmanage->curTaskType(), 13);
     QCOMPARE(m_taskmanage->getUniFunction(), 1);
     QVERIFY(!g_unitask->isTaskRunning()); // it starts in ten seconds
-    QCOMPARE(m_basedialog->currentPage(), static_cast<QWidget *>(m_vifpage));
+    QCOMPARE(m_basedialog->navigator().currentPage(), static_cast<QWidget *>(vifPage()));
 }
 
 void TstShell::menuKeepsTheMeasurementRunning()
@@ -147,7 +149,7 @@ void TstShell::menuKeepsTheMeasurementRunning()
     enterVif();
     g_unitask->startTask();
     UniTask *task = g_unitask;
-    QTest::keyClick(m_vifpage->findChild<VifMain *>(), kF7);
+    QTest::keyClick(vifPage()->findChild<VifMain *>(), kF7);
     QCOMPARE(title(), QStringLiteral("Menu"));
     QVERIFY(task->isTaskRunning());
     enterVif();
@@ -158,11 +160,11 @@ void TstShell::menuKeepsTheMeasurementRunning()
 
 void TstShell::goingToAnotherFunctionAsksAndCancelStays()
 {
-    m_basedialog->startWaveTask();
+    m_basedialog->navigator().startFunction(AbstractTask::UniWave, UI_WAVE);
     g_unitask->startTask();
     UniTask *task = g_unitask;
     DialogAnswer answer(kF5);
-    m_basedialog->go(UI_WAVE, UI_VIF);
+    m_basedialog->navigator().go(UI_WAVE, UI_VIF);
     QVERIFY(answer.asked);
     QVERIFY(answer.text.contains("The task \"Power Quality\" is running.\ndo you want to quit?"));
     QCOMPARE(g_unitask, task);
@@ -172,11 +174,11 @@ void TstShell::goingToAnotherFunctionAsksAndCancelStays()
 
 void TstShell::goingToAnotherFunctionAsksAndQuitStartsAnew()
 {
-    m_basedialog->startWaveTask();
+    m_basedialog->navigator().startFunction(AbstractTask::UniWave, UI_WAVE);
     g_unitask->startTask();
     QSignalSpy destroyed(g_unitask, &QObject::destroyed);
     DialogAnswer answer(kF4);
-    m_basedialog->go(UI_WAVE, UI_VIF);
+    m_basedialog->navigator().go(UI_WAVE, UI_VIF);
     QVERIFY(answer.asked);
     QTRY_COMPARE(destroyed.count(), 1);
     QCOMPARE(m_taskmanage->getUniFunction(), 1);
@@ -185,10 +187,10 @@ void TstShell::goingToAnotherFunctionAsksAndQuitStartsAnew()
 
 void TstShell::closedQuestionEndsTheTask()
 {
-    m_basedialog->startWaveTask();
+    m_basedialog->navigator().startFunction(AbstractTask::UniWave, UI_WAVE);
     g_unitask->startTask();
     DialogAnswer answer(Qt::Key_H); // no key of the dialog: it is closed
-    m_basedialog->go(UI_WAVE, UI_VIF);
+    m_basedialog->navigator().go(UI_WAVE, UI_VIF);
     QVERIFY(answer.asked);
     QCOMPARE(m_taskmanage->getUniFunction(), 1);
     QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
@@ -210,28 +212,28 @@ void TstShell::menuKeyOnARunningCaptureAsks()
     m_taskmanage->exitTask();
     switch (type) {
     case UI_WAVE:
-        m_basedialog->startWaveTask();
+        m_basedialog->navigator().startFunction(AbstractTask::UniWave, UI_WAVE);
         break;
     case UI_MONITOR:
-        m_basedialog->startMonitorTask();
+        m_basedialog->navigator().startFunction(AbstractTask::UniMonitor, UI_MONITOR);
         break;
     default:
-        m_basedialog->startPowerInverterTask();
+        m_basedialog->navigator().startFunction(AbstractTask::UniPowerInverter, UI_POWER_INVERTER);
     }
     g_unitask->startTask();
     UniTask *task = g_unitask;
 
     DialogAnswer cancel(kF5);
-    m_basedialog->go(type, UI_MENU);
+    m_basedialog->navigator().go(type, UI_MENU);
     QVERIFY(cancel.text.contains("do you want to quit?"));
-    QCOMPARE(top(), static_cast<QWidget *>(m_vifpage));
+    QCOMPARE(top(), static_cast<QWidget *>(vifPage()));
     QCOMPARE(g_unitask, task);
     QVERIFY(task->isTaskRunning());
 
     DialogAnswer quit(kF4);
-    m_basedialog->go(type, UI_MENU);
+    m_basedialog->navigator().go(type, UI_MENU);
     QVERIFY(quit.asked);
-    QCOMPARE(top(), static_cast<QWidget *>(m_menupage));
+    QCOMPARE(top(), static_cast<QWidget *>(m_basedialog->menu()));
     QVERIFY(!m_taskmanage->currentTask());
 }
 
@@ -239,12 +241,12 @@ void TstShell::scopeKeyOnARunningMonitorAsks()
 {
     enterVif();
     m_taskmanage->exitTask();
-    m_basedialog->startMonitorTask();
+    m_basedialog->navigator().startFunction(AbstractTask::UniMonitor, UI_MONITOR);
     g_unitask->startTask();
     DialogAnswer cancel(kF5);
-    m_basedialog->go(UI_MONITOR, UI_SCOPE);
+    m_basedialog->navigator().go(UI_MONITOR, UI_SCOPE);
     QVERIFY(cancel.text.contains("do you want to quit?"));
-    QCOMPARE(top(), static_cast<QWidget *>(m_vifpage));
+    QCOMPARE(top(), static_cast<QWidget *>(vifPage()));
     QCOMPARE(m_taskmanage->getUniFunction(), 4);
 }
 
@@ -255,12 +257,12 @@ void TstShell::memoryKeyWhileRecordingAsksNothing()
     RecordInfo::m_in_recording = 1;
     UniTask *task = g_unitask;
     DialogAnswer answer(kF5);
-    QTest::keyClick(m_vifpage->findChild<VifMain *>(), kF10);
+    QTest::keyClick(vifPage()->findChild<VifMain *>(), kF10);
     QVERIFY(!answer.text.contains("Logger is running!"));
     QVERIFY(!answer.text.contains("do you want to quit?"));
     QCOMPARE(g_unitask, task);
     QVERIFY(task->isTaskRunning());
-    QCOMPARE(m_basedialog->currentPage(), static_cast<QWidget *>(m_vifpage));
+    QCOMPARE(m_basedialog->navigator().currentPage(), static_cast<QWidget *>(vifPage()));
 }
 
 void TstShell::backFromMemoryRestoresPageAndTitle()
@@ -271,15 +273,15 @@ void TstShell::backFromMemoryRestoresPageAndTitle()
     QVERIFY(other != top());
     stack->setCurrentWidget(other);
     m_basedialog->displayTaskName("Memory");
-    m_basedialog->showLast();
-    QCOMPARE(top(), static_cast<QWidget *>(m_vifpage));
+    m_basedialog->navigator().showLast();
+    QCOMPARE(top(), static_cast<QWidget *>(vifPage()));
     QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
 
-    m_basedialog->go(UI_VIF, UI_MENU);
+    m_basedialog->navigator().go(UI_VIF, UI_MENU);
     stack->setCurrentWidget(other);
     m_basedialog->displayTaskName("Memory");
-    m_basedialog->showLast();
-    QCOMPARE(top(), static_cast<QWidget *>(m_menupage));
+    m_basedialog->navigator().showLast();
+    QCOMPARE(top(), static_cast<QWidget *>(m_basedialog->menu()));
     QCOMPARE(title(), QStringLiteral("Menu"));
 }
 
@@ -292,12 +294,12 @@ void TstShell::recordingQuestionOffersSaveExitRestartCancel()
     } rows[] = { { kF5, false }, { kF4, true }, { kF1, true }, { Qt::Key_Y, false } };
     for (const auto &row : rows) {
         m_taskmanage->exitTask();
-        m_basedialog->go(UI_VIF, UI_MENU);
-        m_basedialog->startWaveTask();
+        m_basedialog->navigator().go(UI_VIF, UI_MENU);
+        m_basedialog->navigator().startFunction(AbstractTask::UniWave, UI_WAVE);
         g_unitask->startTask();
         RecordInfo::m_in_recording = 1;
         DialogAnswer answer(row.key);
-        m_basedialog->go(UI_WAVE, UI_VIF);
+        m_basedialog->navigator().go(UI_WAVE, UI_VIF);
         QVERIFY(answer.text.contains("Logger is running!\nSave: save the data.\nExit: delete the data and exit.\n"
                                      "Restart: delete the data and restart logger."));
         QCOMPARE(title() == QLatin1String("Volts/Amps/Hertz"), row.left);
@@ -312,17 +314,17 @@ void TstShell::restartInTheRecorderQuestionStaysAndBeginsANewRecording()
 {
     enterVif();
     m_taskmanage->exitTask();
-    m_basedialog->startMonitorTask();
+    m_basedialog->navigator().startFunction(AbstractTask::UniMonitor, UI_MONITOR);
     g_unitask->startTask();
     RecordInfo::m_in_recording = 1;
     QSignalSpy destroyed(g_unitask, &QObject::destroyed);
     DialogAnswer restart(Qt::Key_Y);
-    m_basedialog->go(UI_VIF, UI_SCOPE);
+    m_basedialog->navigator().go(UI_VIF, UI_SCOPE);
     QVERIFY(restart.text.contains("Logger is running!"));
     QTRY_COMPARE(destroyed.count(), 1);
     QVERIFY(g_unitask->recordEnabled());
     QCOMPARE(m_taskmanage->getUniFunction(), 1);
-    QCOMPARE(top(), static_cast<QWidget *>(m_vifpage));
+    QCOMPARE(top(), static_cast<QWidget *>(vifPage()));
     QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
 }
 
@@ -330,7 +332,7 @@ void TstShell::functionNotBuiltAnswersWithAMessage()
 {
     DialogAnswer answer(kF5);
     moveToTile("user");
-    QTest::keyClick(m_menupage, kEnter);
+    QTest::keyClick(m_basedialog->menu(), kEnter);
     QVERIFY(answer.asked);
     QVERIFY(answer.text.contains("User is not available"));
     QCOMPARE(title(), QStringLiteral("Menu"));
@@ -340,7 +342,7 @@ void TstShell::monitorKeyDoesNothingAt400Hz()
 {
     m_settingConfig_g.setNomFreq(3);
     DialogAnswer answer(kF5);
-    QTest::keyClick(m_menupage, kF8);
+    QTest::keyClick(m_basedialog->menu(), kF8);
     QTest::qWait(60);
     QVERIFY(!answer.asked);
     QCOMPARE(title(), QStringLiteral("Menu"));
@@ -379,18 +381,46 @@ void TstShell::titleBarShowsIconsAndText()
              QStringLiteral("230V;50Hz\\\nTARN-41A;TARN-41A\\3P WYE"));
 }
 
+void TstShell::titleBarPaintsAnIconOnlyWhenItChanges()
+{
+    /// Counts how often a label is painted.
+    class PaintCount : public QObject
+    {
+    public:
+        int paints = 0;
+
+    protected:
+        bool eventFilter(QObject *, QEvent *event) override
+        {
+            paints += event->type() == QEvent::Paint;
+            return false;
+        }
+    } count;
+    auto *icon = m_basedialog->findChild<QLabel *>("sys_icon_2");
+    m_basedialog->showSysIcon("USB", "battery_1");
+    QCoreApplication::processEvents();
+    icon->installEventFilter(&count);
+    for (int i = 0; i < 3; ++i) {
+        m_basedialog->showSysIcon(i % 2 ? "USB" : "bds", "battery_1"); // the other one changes
+        QCoreApplication::processEvents();
+    }
+    QCOMPARE(count.paints, 0);
+    m_basedialog->showSysIcon("USB", "battery_2");
+    QTRY_VERIFY(count.paints > 0);
+}
+
 void TstShell::statusDialogRestartsTheTask()
 {
     enterVif();
     UniTask *task = g_unitask;
-    QTest::keyClick(m_vifpage->findChild<VifMain *>(), kF7);
+    QTest::keyClick(vifPage()->findChild<VifMain *>(), kF7);
     DialogAnswer stay(kF5);
-    QTest::keyClick(m_menupage, kF4);
+    QTest::keyClick(m_basedialog->menu(), kF4);
     QVERIFY(stay.text.contains("System Status:"));
     QCOMPARE(g_unitask, task);
     QSignalSpy destroyed(task, &QObject::destroyed);
     DialogAnswer restart(kF1);
-    QTest::keyClick(m_menupage, kF1);
+    QTest::keyClick(m_basedialog->menu(), kF1);
     QTRY_COMPARE(destroyed.count(), 1);
     QVERIFY(g_unitask);
     QCOMPARE(m_taskmanage->getUniFunction(), 1);

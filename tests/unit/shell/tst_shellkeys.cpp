@@ -36,9 +36,9 @@ void TstShellKeys::firstPressOnADarkScreenOnlyLightsIt()
 {
     moveToTile("vif");
     BackLight::shutDownBL();
-    QTest::keyClick(m_menupage, kRight);
+    QTest::keyClick(m_basedialog->menu(), kRight);
     QCOMPARE(current(), QStringLiteral("vif"));
-    QTest::keyClick(m_menupage, kRight);
+    QTest::keyClick(m_basedialog->menu(), kRight);
     QCOMPARE(current(), QStringLiteral("harmonics"));
     BackLight::shutDownBL();
     DialogAnswer answer(kF5);
@@ -63,15 +63,15 @@ void TstShellKeys::firstPressOnADarkScreenDoesNothingElseWhicheverKeyItIs()
 
     moveToTile("vif");
     BackLight::shutDownBL();
-    QTest::keyPress(m_menupage, Qt::Key(letter));
+    QTest::keyPress(m_basedialog->menu(), Qt::Key(letter));
     QVERIFY(!BackLight::isShut());
     QCOMPARE(current(), QStringLiteral("vif"));
     QCOMPARE(title(), QStringLiteral("Menu"));
     QCOMPARE(light(), 2);
 
     enterVif();
-    QSignalSpy pause(m_vifpage, &LivePage::pause);
-    auto *main = m_vifpage->findChild<VifMain *>();
+    QSignalSpy pause(vifPage(), &LivePage::pause);
+    auto *main = vifPage()->findChild<VifMain *>();
     BackLight::shutDownBL();
     QTest::keyPress(main, Qt::Key(letter));
     QVERIFY(!BackLight::isShut());
@@ -126,9 +126,9 @@ void TstShellKeys::heldFunctionKeyActsOnce()
         QCoreApplication::sendEvent(page, &event);
     };
     enterVif();
-    auto *page = m_vifpage->findChild<VifMain *>();
-    QSignalSpy pause(m_vifpage, &LivePage::pause);
-    QSignalSpy run(m_vifpage, &LivePage::run);
+    auto *page = vifPage()->findChild<VifMain *>();
+    QSignalSpy pause(vifPage(), &LivePage::pause);
+    QSignalSpy run(vifPage(), &LivePage::run);
     g_unitask->startTask();
     QTest::keyPress(page, kF5);
     for (int i = 0; i < 5; ++i)
@@ -142,13 +142,13 @@ void TstShellKeys::heldFunctionKeyActsOnce()
     QCOMPARE(title(), QStringLiteral("Menu"));
     DialogAnswer answer(kF5);
     for (const auto letter : { kEnter, kF1, kF6, kF10 })
-        repeat(m_menupage, letter);
+        repeat(m_basedialog->menu(), letter);
     QTest::qWait(60);
     QVERIFY(!answer.asked);
     QCOMPARE(title(), QStringLiteral("Menu"));
 
     BackLight::setBackLight(3);
-    repeat(m_menupage, kF12);
+    repeat(m_basedialog->menu(), kF12);
     repeat(m_basedialog, kF12);
     QCOMPARE(BackLight::level(), 3);
 }
@@ -158,7 +158,7 @@ void TstShellKeys::heldArrowGoesOn()
     moveToTile("vif");
     for (const char *tile : { "harmonics", "unbalance" }) {
         QKeyEvent event(QEvent::KeyPress, kRight, Qt::NoModifier, QString(), true);
-        QCoreApplication::sendEvent(m_menupage, &event);
+        QCoreApplication::sendEvent(m_basedialog->menu(), &event);
         QCOMPARE(current(), QLatin1String(tile));
     }
 }
@@ -187,7 +187,7 @@ void TstShellKeys::lightKeyStepsTheLight()
     BackLight::setBackLight(3);
     QCOMPARE(level(), QByteArray("7"));
     for (const char *text : { "5", "3", "1", "7" }) {
-        QTest::keyClick(m_menupage, kF12); // rises to the main window
+        QTest::keyClick(m_basedialog->menu(), kF12); // rises to the main window
         QCOMPARE(level(), QByteArray(text));
     }
 }
@@ -196,7 +196,7 @@ void TstShellKeys::powerKeyAsksAfterAMomentAndCancelChangesNothing()
 {
     enterVif();
     DialogAnswer answer(kF5);
-    QTest::keyClick(m_vifpage->findChild<VifMain *>(), kPower); // pressed and let go at once
+    QTest::keyClick(vifPage()->findChild<VifMain *>(), kPower); // pressed and let go at once
     QTRY_VERIFY(answer.asked);
     QVERIFY(answer.text.contains("Power off?"));
     QVERIFY(m_taskmanage->currentTask());

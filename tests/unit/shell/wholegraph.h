@@ -1,7 +1,11 @@
 #pragma once
 
 #include "device/idevice.h"
+#include "pages/functionpage.h"
+#include "shell/basedialog.h"
+#include "shell/navigator.h"
 #include "shell/quveraglobal.h"
+#include "views/vif/vifpage.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -23,6 +27,17 @@ inline void buildWholeGraph(QPoint splashOffset = {})
     appInit();
     appConnection();
     langConnection();
+}
+
+/// A page of the graph by its type; null if it is of another class.
+template <typename P> P *pageOf(_quvera_ui_type type)
+{
+    return qobject_cast<P *>(m_basedialog->navigator().page(type));
+}
+
+inline VifPage *vifPage()
+{
+    return pageOf<VifPage>(UI_VIF);
 }
 
 /// Frames queued for the processor, by their words.

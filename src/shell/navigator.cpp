@@ -1,0 +1,317 @@
+#include "shell/navigator.h"
+
+#include "model/nominalfrequency.h"
+#include "model/pqaeventitem.h"
+#include "pages/functionpage.h"
+#include "settings/config_data.h"
+#include "settings/langtranslation.h"
+#include "settings/recordinfo.h"
+#include "shell/basedialog.h"
+#include "shell/menupage.h"
+#include "shell/pagetable.h"
+#include "shell/tasklinks.h"
+#include "shell/taskmanage.h"
+#include "widgets/dialogs/message.h"
+
+#include <QStackedWidget>
+
+namespace {
+
+bool is400Hz()
+{
+    return isNominal(m_settingConfig_g.getNomFreq(), 400.0);
+}
+
+} // namespace
+
+Navigator::Navigator(TaskManage *tasks, MenuPage *menu, QStackedWidget *stack, QObject *parent)
+    : QObject(parent), m_tasks(tasks), m_menu(menu), m_stack(stack), m_currentPage(menu)
+{
+    m_stack->addWidget(m_menu);
+    connect(m_menu, &MenuPage::leave, this, [this](_quvera_ui_type target) { go(UI_MENU, target); });
+    connect(m_menu, &MenuPage::restartTask, this, &Navigator::restartTask);
+    connect(&m_tasks->links(), &TaskLinks::ended, m_menu, &MenuPage::clearSystemStatus);
+    connect(&m_tasks->links(), &TaskLinks::startWanted, this, &Navigator::startFunction);
+    makePages();
+}
+
+void Navigator::makePages()
+{
+    for (const PageRow &row : PageTable::rows()) {
+        FunctionPage *page = row.make ? row.make(m_tasks->links()) : nullptr;
+        m_pages.push_back(page);
+        if (!page)
+            continue;
+        m_stack->addWidget(page);
+        m_tasks->links().take(page, row);
+        connect(page, &Page::leave, this, [this, page](_quvera_ui_type target) {
+            if (page == m_currentPage)
+                go(page->uiType(), target);
+        });
+    }
+}
+
+FunctionPage *Navigator::page(_quvera_ui_type type) const
+{
+    const PageRow *row = PageTable::row(type);
+    return row ? m_pages[std::size_t(row - PageTable::rows().data())] : nullptr;
+}
+
+_quvera_ui_type Navigator::currentType() const
+{
+    const auto *page = qobject_cast<const FunctionPage *>(m_currentPage);
+    return page ? page->uiType() : UI_MENU;
+}
+
+void Navigator::retranslatePages()
+{
+    m_menu->retranslateUi();
+    for (const PageRow *row : PageTable::inTurn(&PageRow::languageTurn)) {
+        if (FunctionPage *made = m_pages[std::size_t(row - PageTable::rows().data())])
+            made->retranslateUi();
+    }
+}
+
+void Navigator::beginPages()
+{
+    g_events_list.clear();
+    for (const PageRow *row : PageTable::inTurn(&PageRow::beginTurn)) {
+        if (FunctionPage *made = page(row->type))
+            made->init_parameter();
+    }
+}
+
+Navigator::Answer Navigator::changeTaskOrNot(AbstractTask::UniFunction function, _quvera_ui_type current)
+{
+    if (m_tasks->curTaskType() == 0)
+        return NoTask;
+    if (m_tasks->getUniFunction() == function)
+        return KeepTask;
+    return endTaskAsAsked(current) ? NoTask : StayOnPage;
+}
+
+bool Navigator::exitCurTaskIfOrNot(_quvera_ui_type current)
+{
+    return m_tasks->curTaskType() == 0 || endTaskAsAsked(current);
+}
+
+/// Ends the task if it does not run, or if the user wants it; false: the user stays.
+bool Navigator::endTaskAsAsked(_quvera_ui_type current)
+{
+    const AbstractTask *task = m_tasks->currentTask();
+    if (!task || (!task->isTaskRunning() && !task->isTaskPaused())) {
+        m_tasks->disconnectDisplay(current);
+        m_tasks->exitTask();
+        return true;
+    }
+    return RecordInfo::m_in_recording ? endRecordingAsAsked(current) : quitTaskAsAsked(current);
+}
+
+bool Navigator::endRecordingAsAsked(_quvera_ui_type current)
+{
+    const QString question = BaseDialog::tr("Logger is running!\n") + BaseDialog::tr("Save: save the data.\n")
+        + BaseDialog::tr("Exit: delete the data and exit.\n")
+        + BaseDialog::tr("Restart: delete the data and restart logger.");
+    switch (Message::showMessage(7, question)) {
+    case Message::Save:
+        m_tasks->disconnectDisplay(current);
+        m_tasks->exitTaskWithSave(true);
+        return true;
+    case Message::Discard:
+        m_tasks->disconnectDisplay(current);
+        m_tasks->exitTaskWithSave(false);
+        return true;
+    case Message::Restart:
+        m_tasks->exitTaskWithSave(false);
+        startRecordTask();
+        return false;
+    default:
+        return false;
+    }
+}
+
+bool Navigator::quitTaskAsAsked(_quvera_ui_type current)
+{
+    const QString question = BaseDialog::tr("The task \"") + m_tasks->curTaskName()
+        + BaseDialog::tr("\" is running.\ndo you want to quit?");
+    switch (Message::showMessage(1, question)) {
+    case Message::Cancel:
+        return false;
+    case Message::Quit:
+        m_tasks->disconnectDisplay(current);
+        m_tasks->exitTaskWithSave(false);
+        return true;
+    default:
+        // Closed without a choice.
+        m_tasks->disconnectDisplay(current);
+        m_tasks->exitTask();
+        return true;
+    }
+}
+
+/// The page of a function, or null after saying that this software has none.
+FunctionPage *Navigator::builtPage(_quvera_ui_type target)
+{
+    FunctionPage *built = page(target);
+    if (!built)
+        Message::showMessage(
+            0, BaseDialog::tr("%1 is not available\nin this software version.").arg(PageTable::title(target)));
+    return built;
+}
+
+void Navigator::leaveCurrent()
+{
+    if (auto *page = qobject_cast<FunctionPage *>(m_currentPage))
+        page->left();
+}
+
+void Navigator::bringToFront(QWidget *page, const QString &title)
+{
+    emit titleChanged(title);
+    m_currentPage = page;
+    m_stack->setCurrentWidget(page);
+    page->setFocus();
+}
+
+void Navigator::go(_quvera_ui_type current, _quvera_ui_type target)
+{
+    const PageRow *row = PageTable::row(target);
+    if (!row || current == target)
+        return;
+    switch (row->plan) {
+    case Plan::Menu:
+        return showMenu(current);
+    case Plan::Live:
+        return showLive(current, target);
+    case Plan::Commanded:
+        return showCommanded(current, target);
+    case Plan::Settings:
+        return showSettings(current, target);
+    case Plan::Overlay:
+        return showOverlay(target);
+    case Plan::Unreached:
+        return;
+    }
+}
+
+/// Pages that only read live data: going from one to another never interrupts the measurement.
+void Navigator::showLive(_quvera_ui_type current, _quvera_ui_type target)
+{
+    FunctionPage *page = builtPage(target);
+    if (!page)
+        return;
+    switch (changeTaskOrNot(AbstractTask::UniBasic, current)) {
+    case NoTask:
+        leaveCurrent();
+        beginPages();
+        startFunction(AbstractTask::UniBasic, target);
+        break;
+    case KeepTask:
+        leaveCurrent();
+        m_tasks->disconnectDisplay(current);
+        m_tasks->connectDisplay(target);
+        break;
+    case StayOnPage:
+        return;
+    }
+    page->enter();
+    bringToFront(page, PageTable::title(target));
+}
+
+/// Pages whose function starts by the user's own command: no task starts here.
+void Navigator::showCommanded(_quvera_ui_type current, _quvera_ui_type target)
+{
+    const PageRow &row = *PageTable::row(target);
+    if (!row.at400Hz && is400Hz())
+        return;
+    FunctionPage *page = builtPage(target);
+    if (!page)
+        return;
+    switch (changeTaskOrNot(row.function, current)) {
+    case NoTask:
+        leaveCurrent();
+        beginPages();
+        page->enter();
+        break;
+    case KeepTask:
+        leaveCurrent();
+        m_tasks->disconnectDisplay(current);
+        m_tasks->connectDisplay(target);
+        if (row.entersAgain && row.entersAgain())
+            page->enter();
+        break;
+    case StayOnPage:
+        return;
+    }
+    bringToFront(page, PageTable::title(target));
+}
+
+/// Setup and User always end the measurement.
+void Navigator::showSettings(_quvera_ui_type current, _quvera_ui_type target)
+{
+    FunctionPage *page = builtPage(target);
+    if (!page || !exitCurTaskIfOrNot(current))
+        return;
+    leaveCurrent();
+    if (PageTable::row(target)->hears & Hears::Refresh)
+        m_tasks->connectDisplay(target);
+    bringToFront(page, PageTable::title(target));
+    page->enter();
+}
+
+void Navigator::showMenu(_quvera_ui_type current)
+{
+    if (m_tasks->getUniFunction() > AbstractTask::UniBasic && !exitCurTaskIfOrNot(current))
+        return;
+    leaveCurrent();
+    showMenuPage();
+}
+
+void Navigator::showMenuPage()
+{
+    m_menu->initMenuMatrix();
+    bringToFront(m_menu, PageTable::title(UI_MENU));
+    m_menu->setCurrentItem();
+}
+
+/// The current page stays current: the measurement goes on behind this one.
+void Navigator::showOverlay(_quvera_ui_type target)
+{
+    FunctionPage *page = builtPage(target);
+    if (!page)
+        return;
+    emit titleChanged(PageTable::title(target));
+    m_stack->setCurrentWidget(page);
+    page->setFocus();
+}
+
+void Navigator::showLast()
+{
+    bringToFront(m_currentPage, PageTable::title(currentType()));
+    if (m_currentPage == m_menu)
+        m_menu->setCurrentItem();
+}
+
+void Navigator::startFunction(AbstractTask::UniFunction function, _quvera_ui_type display)
+{
+    AbstractTask *task = m_tasks->initTask(TaskManage::Universal);
+    m_tasks->changeUniFunction(function);
+    m_tasks->startTask(task);
+    m_tasks->connectDisplay(display);
+}
+
+void Navigator::restartTask()
+{
+    m_tasks->exitTaskWithSave(false);
+    beginPages();
+    AbstractTask *task = m_tasks->initTask(TaskManage::Universal);
+    m_tasks->changeUniFunction(AbstractTask::UniBasic);
+    m_tasks->startTask(task);
+}
+
+void Navigator::startRecordTask()
+{
+    if (m_tasks->curTaskType() != TaskManage::Universal)
+        startFunction(AbstractTask::UniBasic, UI_LOGGER);
+    m_tasks->enableRecord();
+}

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "pages/uitype.h"
+#include "task/abstracttask.h"
+
+#include <QObject>
+
+#include <vector>
+
+class FunctionPage;
+class MenuPage;
+class QStackedWidget;
+class QWidget;
+class TaskManage;
+
+/// Has all pages, and decides whenever another one is asked for whether the running measurement goes on, must end, or
+/// must be asked about. What it knows of a page stands in the page table.
+class Navigator : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Makes the pages of the table and puts them into \a stack, behind \a menu. All arguments outlive it.
+    Navigator(TaskManage *tasks, MenuPage *menu, QStackedWidget *stack, QObject *parent = nullptr);
+
+    /// The page that answers to a type; null for the menu and for what is not built into this software.
+    FunctionPage *page(_quvera_ui_type type) const;
+    /// The last function page shown, menu included; one that stands over others does not change it.
+    QWidget *currentPage() const { return m_currentPage; }
+    _quvera_ui_type currentType() const;
+
+    /// The page \a current is to make room for \a target, in the way in which that is entered. Without effect where the
+    /// user stays, or for a type that is no page.
+    void go(_quvera_ui_type current, _quvera_ui_type target);
+    /// The current page again, in front of what stood over it.
+    void showLast();
+    void showMenuPage();
+    /// Ends what runs and starts the basic function anew; the page in front stays.
+    void restartTask();
+    /// Starts a function whose page is \a display.
+    void startFunction(AbstractTask::UniFunction function, _quvera_ui_type display);
+    /// Begins a recording, in the run that there is or in a new one.
+    void startRecordTask();
+    /// Captions of menu and pages anew, in the table's turn.
+    void retranslatePages();
+    /// Prepares a run before its task exists: empties the event list and what the pages show, in the table's turn.
+    void beginPages();
+
+signals:
+    void titleChanged(const QString &title);
+
+private:
+    /// What the user made of a running measurement.
+    enum Answer { StayOnPage = -1, NoTask = 0, KeepTask = 1 };
+
+    void makePages();
+    FunctionPage *builtPage(_quvera_ui_type target);
+    Answer changeTaskOrNot(AbstractTask::UniFunction function, _quvera_ui_type current);
+    bool exitCurTaskIfOrNot(_quvera_ui_type current);
+    bool endTaskAsAsked(_quvera_ui_type current);
+    bool endRecordingAsAsked(_quvera_ui_type current);
+    bool quitTaskAsAsked(_quvera_ui_type current);
+    void leaveCurrent();
+    void bringToFront(QWidget *page, const QString &title);
+    void showMenu(_quvera_ui_type current);
+    void showLive(_quvera_ui_type current, _quvera_ui_type target);
+    void showCommanded(_quvera_ui_type current, _quvera_ui_type target);
+    void showSettings(_quvera_ui_type current, _quvera_ui_type target);
+    void showOverlay(_quvera_ui_type target);
+
+    TaskManage *const m_tasks;
+    MenuPage *const m_menu;
+    QStackedWidget *const m_stack;
+    std::vector<FunctionPage *> m_pages; // by the rows of the page table
+    QWidget *m_currentPage = nullptr;
+};
