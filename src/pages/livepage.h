@@ -30,7 +30,8 @@ signals:
 protected:
     /// F5 is Hold and Run unless the page's table has another use for it.
     bool pressKey(int key) override;
-    void showHold();
+    /// What F5 does now, over its key; nothing where the page has its own use for it.
+    virtual void showHold();
 
 private:
     bool m_running = true;

@@ -33,6 +33,7 @@ enum FrontKey {
     F5 = Qt::Key_L,
     F6 = Qt::Key_E,
     F11 = Qt::Key_I,
+    Enter = Qt::Key_K,
     Left = Qt::Key_O,
     Up = Qt::Key_Q,
     Right = Qt::Key_D,

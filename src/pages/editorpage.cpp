@@ -1,0 +1,189 @@
+#include "pages/editorpage.h"
+#include "ui_editorform.h"
+
+#include "widgets/controls/labellook.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+namespace {
+
+constexpr LabelGrid kGrid = { 330, 0, 234, 24, 44, 76, 240, 24, 1 };
+const char *const kCaptionColors[] = { "#606060", "#c0c0c0" }; // grey row, selectable row
+const char *const kValueColors[] = { "#606060", "#ffffff" };
+
+void setTextColor(QLabel *label, const char *color)
+{
+    QPalette palette = label->palette();
+    palette.setColor(QPalette::WindowText, QColor(QLatin1String(color)));
+    label->setPalette(palette);
+}
+
+} // namespace
+
+void EditorPage::Number::move(int steps) const
+{
+    const double from = read();
+    const double to = std::clamp(from + steps * step, least, most);
+    if (to != from)
+        write(to);
+}
+
+EditorPage::EditorPage(_quvera_ui_type type, const Look &look, int ticksPerStep, KeyRepeat::Steps steps,
+                       QWidget *parent)
+    : LivePage(type, parent), m_look(look), m_ui(new Ui::EditorForm),
+      m_repeat(new KeyRepeat(this, ticksPerStep, std::move(steps)))
+{
+    m_ui->setupUi(this);
+    connect(m_repeat, &KeyRepeat::repeated, this, &EditorPage::changeField);
+}
+
+EditorPage::~EditorPage() = default;
+
+EditorPage::Row EditorPage::numberRow(const QString &name, const char *caption, const Number &number,
+                                      const char *pattern, int decimals)
+{
+    Row row { name, caption, {}, {}, {}, {} };
+    row.text = [number, pattern = QString::fromUtf8(pattern), decimals] {
+        return pattern.arg(number.read(), 0, 'f', decimals);
+    };
+    row.step = [number](int steps) { number.move(steps); };
+    return row;
+}
+
+void EditorPage::setRows(std::vector<Row> rows)
+{
+    setObjectName(QString::fromLatin1(metaObject()->className()));
+    m_rows = std::move(rows);
+    for (std::size_t i = 0; i < m_rows.size(); ++i)
+        m_labels.push_back(kGrid.addRow(this, m_rows[i].name + QLatin1String("_t"), { m_rows[i].name },
+                                        m_look.top + int(i) * m_look.pitch));
+    LabelLook::dress(this);
+    m_field = -1;
+    select(1);
+    m_field = std::max(m_field, 0);
+    showSelection();
+}
+
+void EditorPage::init_parameter()
+{
+    LivePage::init_parameter();
+    m_repeat->stop();
+    load();
+    showRows(); // what they depend on may be another now
+}
+
+void EditorPage::retranslateUi()
+{
+    LivePage::retranslateUi();
+    const char *own = metaObject()->className();
+    setText(m_ui->title, QCoreApplication::translate(own, m_look.title));
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        const Row &row = m_rows[i];
+        if (row.caption)
+            setText(m_labels[i].caption, QCoreApplication::translate(row.context ? row.context : own, row.caption));
+    }
+    showRows();
+}
+
+void EditorPage::ok()
+{
+    m_repeat->stop();
+    store();
+    emit stored();
+}
+
+void EditorPage::cancel()
+{
+    m_repeat->stop();
+    load();
+    showRows();
+    emit cancelled();
+}
+
+bool EditorPage::isEnabled(int row) const
+{
+    return !m_rows[std::size_t(row)].enabled || m_rows[std::size_t(row)].enabled();
+}
+
+void EditorPage::select(int direction)
+{
+    m_repeat->stop();
+    int field = m_field + direction;
+    while (field >= 0 && field < int(m_rows.size()) && !isEnabled(field))
+        field += direction;
+    if (field >= 0 && field < int(m_rows.size()))
+        m_field = field;
+    showSelection();
+}
+
+void EditorPage::changeField(int step)
+{
+    // The selected row may have become grey by what stands behind it.
+    if (m_rows.empty() || !isEnabled(m_field) || !m_rows[std::size_t(m_field)].step)
+        return;
+    m_rows[std::size_t(m_field)].step(step);
+    showRows();
+}
+
+void EditorPage::showRows()
+{
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        setText(m_labels[i].values[0], m_rows[i].text ? m_rows[i].text() : QString());
+        showEnabled(int(i));
+    }
+}
+
+void EditorPage::showEnabled(int row)
+{
+    if (!m_rows[std::size_t(row)].enabled)
+        return; // as it was dressed
+    const LabelGrid::Row &labels = m_labels[std::size_t(row)];
+    const int on = isEnabled(row) ? 1 : 0;
+    setTextColor(labels.caption, kCaptionColors[on]);
+    setTextColor(labels.values[0], kValueColors[on]);
+}
+
+void EditorPage::showSelection()
+{
+    if (m_field >= 0)
+        m_ui->field_bar->move(m_ui->field_bar->x(), m_look.top + m_field * m_look.pitch);
+}
+
+bool EditorPage::pressKey(int key)
+{
+    if (hasOwnKey(key))
+        return LivePage::pressKey(key);
+    switch (key) {
+    case Qt::Key_Up:
+        selectPrev();
+        return true;
+    case Qt::Key_Down:
+        selectNext();
+        return true;
+    case Qt::Key_Left:
+        m_repeat->start(-1);
+        return true;
+    case Qt::Key_Right:
+        m_repeat->start(1);
+        return true;
+    case Qt::Key_Enter:
+    case Qt::Key_Return:
+        if (!m_rows.empty() && isEnabled(m_field) && m_rows[std::size_t(m_field)].enter) {
+            m_rows[std::size_t(m_field)].enter();
+            showRows();
+        }
+        return true;
+    case Qt::Key_F5:
+        return true; // nothing is held here
+    default:
+        return LivePage::pressKey(key);
+    }
+}
+
+void EditorPage::releaseKey(int key)
+{
+    if (key == Qt::Key_Left || key == Qt::Key_Right)
+        m_repeat->stop();
+}

@@ -1,0 +1,109 @@
+#pragma once
+
+#include "pages/keyrepeat.h"
+#include "pages/labelgrid.h"
+#include "pages/livepage.h"
+
+#include <functional>
+#include <memory>
+
+namespace Ui {
+class EditorForm;
+}
+
+/// A page of fields, one below the other: what it shows and how a key changes it stands in its rows. Up and down move
+/// the selection past the rows that are grey, left and right change the field in steps that grow while the key is held,
+/// Enter acts on it. A page either stores every change at once, or keeps a working copy that ok() stores and cancel()
+/// drops. Its own file holds the rows and the soft keys; F5 without a row in its table does nothing.
+class EditorPage : public LivePage
+{
+    Q_OBJECT
+
+public:
+    /// One field: labels <name>_t and <name>.
+    struct Row
+    {
+        QString name;
+        const char *caption; // to be translated; null: the caption is never written
+        std::function<QString()> text; // with its unit
+        std::function<void(int step)> step; // right is positive; null: left and right do nothing
+        std::function<void()> enter; // null: Enter does nothing
+        std::function<bool()> enabled; // null: always; a row that is not is grey and cannot be selected
+        const char *context = nullptr; // of the caption's translation; null: the page's class
+    };
+
+    /// A number as rows step it. Reading gives any number; a step moves from there by \a step times the key's step,
+    /// stops at the bounds and writes only what differs: a key held at a bound must not write a file over and over.
+    struct Number
+    {
+        std::function<double()> read;
+        std::function<void(double)> write;
+        double least;
+        double most;
+        double step = 1;
+
+        void move(int steps) const;
+    };
+
+    ~EditorPage() override;
+
+    int field() const { return m_field; } // selected row, 0 at the top
+
+public slots:
+    void init_parameter() override;
+    void retranslateUi() override;
+
+signals:
+    void stored(); // after ok()
+    void cancelled(); // after cancel()
+
+protected:
+    /// What every page has a fixed place for: \a title at the top left, rows from \a top on in steps of \a pitch
+    /// pixels.
+    struct Look
+    {
+        const char *title; // to be translated
+        int top = 70;
+        int pitch = 60;
+    };
+    /// \a ticksPerStep and \a steps: how the steps of a held key grow.
+    EditorPage(_quvera_ui_type type, const Look &look, int ticksPerStep, KeyRepeat::Steps steps, QWidget *parent);
+
+    /// To be called once, before setKeys. The page is dressed and shows the first row that can be selected.
+    void setRows(std::vector<Row> rows);
+    /// Row \a name steps \a number and shows it in \a pattern: "%1 %" with \a decimals.
+    static Row numberRow(const QString &name, const char *caption, const Number &number, const char *pattern,
+                         int decimals = 0);
+
+    /// Takes the working copy from what is stored; called when a run begins and by cancel(). A page that stores at once
+    /// has none.
+    virtual void load() { }
+    /// Writes the working copy.
+    virtual void store() { }
+    void ok();
+    void cancel();
+
+    void selectPrev() { select(-1); }
+    void selectNext() { select(1); }
+    /// Texts and enabled rows anew; what a key changed is shown by itself.
+    void showRows();
+    void showHold() override { } // nothing is held here
+    void stopRepeat() { m_repeat->stop(); }
+
+    bool pressKey(int key) override;
+    void releaseKey(int key) override;
+
+private:
+    void select(int direction);
+    void changeField(int step);
+    bool isEnabled(int row) const;
+    void showEnabled(int row);
+    void showSelection();
+
+    const Look m_look;
+    std::unique_ptr<Ui::EditorForm> m_ui;
+    KeyRepeat *m_repeat;
+    std::vector<Row> m_rows;
+    std::vector<LabelGrid::Row> m_labels; // in the order of the rows
+    int m_field = 0;
+};
