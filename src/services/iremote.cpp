@@ -1,15 +1,9 @@
 #include "services/iremote.h"
 
-#include "board/screenshot.h"
 #include "platform/lineoutput.h"
 #include "platform/target.h"
-#include "widgets/text/keymap.h"
+#include "services/panel.h"
 
-#include <QApplication>
-#include <QBuffer>
-#include <QKeyEvent>
-#include <QSplashScreen>
-#include <QWidget>
 #include <QtEndian>
 #include <algorithm>
 #include <cerrno>
@@ -38,7 +32,6 @@ constexpr size_t kPictureHead = 8;
 constexpr quint32 kPictureWord = 4;
 constexpr size_t kDatagramBytes = 1024;
 constexpr useconds_t kPause = 500; // us, so that the tool's receive buffer keeps up
-constexpr int kKeysPerRound = 32; // more than anybody presses while the event loop comes round once
 constexpr int kLongestRestMs = 1000;
 
 void putWord(char *at, quint32 word)
@@ -87,49 +80,13 @@ private:
     int m_ms = 1;
 };
 
-// The window that would have the keyboard: the dialog that is open, else the one with the pages. Not the splash behind
-// it.
-QWidget *keyboardWindow()
-{
-    QWidget *window = QApplication::activeModalWidget();
-    const auto candidates = window ? QWidgetList() : QApplication::topLevelWidgets();
-    for (QWidget *candidate : candidates) {
-        if (candidate->isVisible() && candidate->focusWidget())
-            window = candidate;
-    }
-    return window;
-}
-
-// Where a key goes: to the focus, as a key of the panel does. On a desk another program may have the keyboard, or a
-// closed dialog may have left it to nobody; then the window is made active inside this program, so that pages pass the
-// focus on as they do on the board.
-QObject *keyReceiver()
-{
-    QObject *owner = QGuiApplication::focusObject();
-    if (owner && !qobject_cast<QSplashScreen *>(owner)) // it has the focus until the loop runs for the first time
-        return owner;
-    QWidget *window = keyboardWindow();
-    if (!window)
-        return nullptr;
-    if (QApplication::activeWindow() != window)
-        QApplication::setActiveWindow(window);
-    QWidget *focus = QApplication::focusWidget();
-    return focus ? focus : window;
-}
-
 } // namespace
 
 IRemote::IRemote(QObject *parent) : QObject(parent)
 {
     m_iremote = this;
-    m_round.setSingleShot(true);
-    connect(&m_round, &QTimer::timeout, this, &IRemote::loopCameRound);
-    // Two steps to the picture, as many as a key takes, so that they keep their order.
-    connect(this, &IRemote::saveScreen, this, &IRemote::takeScreen, Qt::QueuedConnection);
-    if (ScreenShot *screenShot = ScreenShot::iScreenShot()) {
-        connect(this, &IRemote::grabScreen, screenShot, &ScreenShot::grabScreenPixmap, Qt::QueuedConnection);
-        connect(screenShot, &ScreenShot::screenPixmap, this, QOverload<const QPixmap &>::of(&IRemote::respondScreen));
-    }
+    m_panel = Panel::shared();
+    m_taker = m_panel->addTaker([this](const QByteArray &png) { respondImage(png); });
     initThreadUdpRecv();
 }
 
@@ -140,6 +97,7 @@ IRemote::~IRemote()
         if (write(m_wake[1], &end, 1) == 1)
             pthread_join(m_thread, nullptr);
     }
+    m_panel->removeTaker(m_taker);
     const int socket = m_socket.exchange(-1);
     for (int descriptor : { m_wake[0], m_wake[1], socket }) {
         if (descriptor >= 0)
@@ -234,7 +192,7 @@ void IRemote::act(const char *buffer)
         respondMesg(Identify);
         break;
     case Key:
-        pressKey(qFromLittleEndian<qint32>(buffer + kKeyOffset));
+        m_panel->pressKey(qFromLittleEndian<qint32>(buffer + kKeyOffset));
         break;
     case Screen:
     case ScreenToo:
@@ -248,119 +206,10 @@ void IRemote::act(const char *buffer)
     }
 }
 
-// The focus is the GUI thread's, so the key is carried there before it is posted. Keys beyond what the loop can take in
-// one round are dropped.
-void IRemote::pressKey(int code)
-{
-    const std::lock_guard<std::mutex> guard(m_lock);
-    if (m_keysThisRound >= kKeysPerRound)
-        return;
-    ++m_keysThisRound;
-    m_keys.push_back(code);
-    if (!m_keyPosted) {
-        m_keyPosted = true;
-        QMetaObject::invokeMethod(this, "deliverKey", Qt::QueuedConnection);
-    }
-}
-
-void IRemote::deliverKey()
-{
-    int code = 0;
-    {
-        const std::lock_guard<std::mutex> guard(m_lock);
-        code = m_keys.front();
-        m_keys.pop_front();
-    }
-    postEvent(QEvent::KeyPress, code);
-    postEvent(QEvent::KeyRelease, code);
-    {
-        // The next key waits until this one has done its work: it may have brought another page to the front.
-        const std::lock_guard<std::mutex> guard(m_lock);
-        m_keyPosted = !m_keys.empty();
-        if (m_keyPosted)
-            QMetaObject::invokeMethod(this, "deliverKey", Qt::QueuedConnection);
-    }
-    if (!m_round.isActive())
-        m_round.start(0);
-}
-
-// A timer runs out only when all posted events have been handled: until then no more keys are taken.
-void IRemote::loopCameRound()
-{
-    const std::lock_guard<std::mutex> guard(m_lock);
-    m_keysThisRound = int(m_keys.size());
-}
-
-void IRemote::postEvent(QEvent::Type type, int code)
-{
-    QObject *receiver = keyReceiver();
-    if (!receiver)
-        return;
-    QCoreApplication::postEvent(
-        receiver, new QKeyEvent(type, keyMap::keyboardBackMap(code), Qt::NoModifier, QString(), false, 1));
-}
-
 void IRemote::requestScreen()
 {
     if (m_iremote)
-        m_iremote->requestScr();
-}
-
-// One picture at a time: a request that comes before it is taken is answered by it, one that comes while it is being
-// sent by one more, whole, to the newest peer.
-void IRemote::requestScr()
-{
-    {
-        const std::lock_guard<std::mutex> guard(m_lock);
-        if (m_picturePending) {
-            m_pictureAgain = m_pictureSending;
-            return;
-        }
-        m_picturePending = true;
-    }
-    emit saveScreen();
-}
-
-void IRemote::takeScreen()
-{
-    bool keysFirst = false;
-    {
-        const std::lock_guard<std::mutex> guard(m_lock);
-        keysFirst = m_keyPosted;
-    }
-    if (keysFirst)
-        QMetaObject::invokeMethod(this, "takeScreen", Qt::QueuedConnection);
-    else
-        emit grabScreen();
-}
-
-void IRemote::respondScreen(const QPixmap &pixmap)
-{
-    {
-        const std::lock_guard<std::mutex> guard(m_lock);
-        m_pictureSending = true;
-    }
-    QByteArray png;
-    QBuffer buffer(&png);
-    buffer.open(QIODevice::WriteOnly);
-    pixmap.save(&buffer, "png");
-    respondImage(png);
-    // By a timer, so that a storm of requests leaves the loop its rounds.
-    QTimer::singleShot(0, this, &IRemote::pictureDone);
-}
-
-void IRemote::pictureDone()
-{
-    bool again = false;
-    {
-        const std::lock_guard<std::mutex> guard(m_lock);
-        m_picturePending = false;
-        m_pictureSending = false;
-        again = m_pictureAgain;
-        m_pictureAgain = false;
-    }
-    if (again)
-        requestScr();
+        m_iremote->m_panel->requestPicture(m_iremote->m_taker);
 }
 
 void IRemote::respondScreen()

@@ -1,5 +1,6 @@
 #include "board/screenshot.h"
 #include "services/iremote.h"
+#include "services/panel.h"
 #include "remotepeer.h"
 
 #include <QApplication>
@@ -16,6 +17,8 @@
 #include <atomic>
 #include <clocale>
 #include <csignal>
+#include <future>
+#include <memory>
 #include <thread>
 
 using namespace RemotePeer;
@@ -142,6 +145,7 @@ private:
     Page *m_page = nullptr;
     Page *m_otherPage = nullptr;
     IRemote *m_remote = nullptr;
+    std::shared_ptr<Panel> m_panel;
     Peer *m_peer = nullptr;
 };
 
@@ -163,11 +167,12 @@ void TstIRemote::init()
     m_page->setFocus();
     QApplication::setActiveWindow(m_window);
     QTRY_COMPARE(QGuiApplication::focusObject(), static_cast<QObject *>(m_page));
+    m_panel = Panel::shared(); // as long as the test runs
     m_remote = new IRemote(nullptr);
     wanted = 0;
     // By name: the thread sanitizer takes a connected function object, which the toolkit hands over under a lock that
     // it cannot see, for a race.
-    connect(m_remote, SIGNAL(saveScreen()), this, SLOT(countPicture()), Qt::DirectConnection);
+    connect(m_panel.get(), SIGNAL(pictureWanted()), this, SLOT(countPicture()), Qt::DirectConnection);
     QTRY_VERIFY(IRemote::port() != 0);
     m_peer = new Peer;
 }
@@ -176,6 +181,7 @@ void TstIRemote::cleanup()
 {
     delete m_peer;
     delete m_remote;
+    m_panel.reset();
     delete m_window;
 }
 
@@ -258,7 +264,7 @@ void TstIRemote::pictureOfExactlyTwoDatagramsHasNoThird()
 void TstIRemote::emptyPictureStillTellsItsLength()
 {
     QVERIFY(m_peer->isCaughtUp());
-    m_remote->respondScreen(QPixmap());
+    m_remote->respondImage(QByteArray());
     QTRY_COMPARE_WITH_TIMEOUT(m_peer->received().size(), 1, kPatience);
     QCOMPARE(m_peer->received().first(), QByteArray("\4\0\0\0\0\0\0\0", 8));
 }
@@ -425,19 +431,25 @@ void TstIRemote::oneOfManyPictureRequestsIsPending()
 void TstIRemote::requestWhileAPictureIsSentGetsAWholeOneAfterwards()
 {
     Peer other;
-    QObject context;
-    // Runs behind the remote control's own slot: its picture has left, but the loop has not come round yet.
-    connect(ScreenShot::iScreenShot(), &ScreenShot::screenPixmap, &context, [&] {
-        if (wanted == 1) {
-            other.send(request(2));
-            other.isCaughtUp();
-        }
+    // A second taker, which gets the picture behind the remote control, holds the moment when all of it has been sent.
+    std::promise<void> goesOn;
+    std::atomic<bool> sent { false };
+    const int second = m_panel->addTaker([&](const QByteArray &) {
+        sent = true;
+        goesOn.get_future().wait();
     });
+    m_panel->requestPicture(second);
     m_peer->send(request(2));
+    QVERIFY(m_peer->isCaughtUp());
+    QTRY_VERIFY_WITH_TIMEOUT(sent, kPatience);
+    other.send(request(2));
+    QVERIFY(other.isCaughtUp());
+    goesOn.set_value();
     QTRY_VERIFY_WITH_TIMEOUT(!other.wholePicture().isEmpty(), kPatience);
     QVERIFY(!QImage::fromData(other.wholePicture().mid(8), "PNG").isNull());
     QVERIFY(!m_peer->wholePicture().isEmpty());
     QCOMPARE(wanted.load(), 2);
+    m_panel->removeTaker(second);
 }
 
 void TstIRemote::pictureBehindAKeyShowsWhatTheKeyDid()
@@ -520,7 +532,7 @@ void TstIRemote::keyWithoutAnyWindowIsDropped()
 {
     delete m_window;
     m_window = nullptr;
-    IRemote::postEvent(QEvent::KeyPress, 43);
+    Panel::postKey(QEvent::KeyPress, 43);
     m_peer->send(request(1, 43));
     QVERIFY(m_peer->isCaughtUp());
     QCoreApplication::processEvents();

@@ -1,0 +1,303 @@
+#include "board/screenshot.h"
+#include "services/panel.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QElapsedTimer>
+#include <QImage>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QTest>
+#include <QWidget>
+
+#include <atomic>
+#include <thread>
+#include <time.h>
+
+namespace {
+
+constexpr int kPatience = 30000; // ms
+
+/// A page whose colour the test sets.
+class Page : public QWidget
+{
+public:
+    QColor colour = Qt::darkBlue;
+    int paints = 0;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        ++paints;
+        QPainter(this).fillRect(rect(), colour);
+    }
+};
+
+/// Counts what it gets; lives in the panel's thread while it is called.
+struct Counter
+{
+    std::atomic<int> pictures { 0 };
+    std::atomic<bool> inOtherThread { true };
+    std::mutex lock;
+    QByteArray last;
+
+    Panel::Taker taker()
+    {
+        return [this, gui = std::this_thread::get_id()](const QByteArray &png) {
+            if (std::this_thread::get_id() == gui)
+                inOtherThread = false;
+            {
+                const std::lock_guard<std::mutex> guard(lock);
+                last = png;
+            }
+            ++pictures;
+        };
+    }
+    QByteArray png()
+    {
+        const std::lock_guard<std::mutex> guard(lock);
+        return last;
+    }
+};
+
+qint64 processorMsOfThisThread()
+{
+    timespec time;
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return qint64(time.tv_sec) * 1000 + time.tv_nsec / 1000000;
+}
+
+} // namespace
+
+/// Pictures for those who ask over the network: how many, for whom, at what cost. Keys: tst_iremote.
+class TstPanel : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { ScreenShot::initScreenShot(); }
+    void init();
+    void cleanup();
+
+    void loneRequestIsAnsweredAtOnceWithAPng();
+    void stormGetsOnePictureIn200Ms();
+    void stormLeavesTheScreenItsTime();
+    void waitingRequestsOfAllShareOnePicture();
+    void requestBehindAPictureGetsANewerOne();
+    void nothingToShowGivesNoBytes();
+    void whoDidNotAskGetsNothing();
+    void removedTakerIsNotCalledAgain();
+    void takersBeyondTheirNumberAreRefused();
+    void thereIsOnePanelAndItEndsWithItsLastUser();
+
+private:
+    std::unique_ptr<Page> m_page;
+    std::shared_ptr<Panel> m_panel;
+};
+
+void TstPanel::init()
+{
+    m_page = std::make_unique<Page>();
+    m_page->resize(640, 480);
+    m_page->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_page.get()));
+    m_panel = Panel::shared();
+}
+
+void TstPanel::cleanup()
+{
+    m_panel.reset();
+    m_page.reset();
+}
+
+void TstPanel::loneRequestIsAnsweredAtOnceWithAPng()
+{
+    Counter counter;
+    const int number = m_panel->addTaker(counter.taker());
+    m_panel->requestPicture(number);
+    QTRY_COMPARE_WITH_TIMEOUT(counter.pictures.load(), 1, kPatience);
+    const QImage image = QImage::fromData(counter.png(), "PNG");
+    QCOMPARE(image.pixelColor(320, 240), QColor(Qt::darkBlue));
+    m_panel->removeTaker(number);
+}
+
+void TstPanel::stormGetsOnePictureIn200Ms()
+{
+    Counter counter;
+    QSignalSpy taken(m_panel.get(), &Panel::pictureTaken);
+    const int number = m_panel->addTaker(counter.taker());
+    std::atomic<bool> ends { false };
+    std::atomic<int> requests { 0 };
+    std::thread storm([&] {
+        while (!ends) {
+            m_panel->requestPicture(number);
+            ++requests;
+            std::this_thread::sleep_for(std::chrono::microseconds(1000));
+        }
+    });
+    QElapsedTimer timer;
+    timer.start();
+    QTest::qWait(1500);
+    ends = true;
+    storm.join();
+    // The last one may still have waited.
+    const int most = int(timer.elapsed() / Panel::kPictureSpacing) + 1;
+    QVERIFY2(taken.size() >= 2 && taken.size() <= most, qPrintable(QString::number(taken.size())));
+    QVERIFY(requests > 10 * most);
+    QTRY_COMPARE_WITH_TIMEOUT(counter.pictures.load(), taken.size(), kPatience);
+    QVERIFY(counter.inOtherThread);
+    m_panel->removeTaker(number);
+}
+
+void TstPanel::stormLeavesTheScreenItsTime()
+{
+    // The costliest page: noise changes with every picture, so that each PNG is as long as it can be.
+    QImage noise(640, 480, QImage::Format_RGB32);
+    quint32 seed = 1;
+    const auto change = [&noise, &seed] {
+        for (int y = 0; y < noise.height(); ++y) {
+            auto *line = reinterpret_cast<quint32 *>(noise.scanLine(y));
+            for (int x = 0; x < noise.width(); ++x)
+                line[x] = (seed = seed * 1664525 + 1013904223) >> 8;
+        }
+    };
+    change();
+    m_page->setAutoFillBackground(true);
+    QPalette palette;
+    palette.setBrush(QPalette::Window, noise);
+    m_page->colour = Qt::transparent;
+    m_page->setPalette(palette);
+    Counter counter;
+    const int number = m_panel->addTaker(counter.taker());
+    m_panel->requestPicture(number);
+    QTRY_COMPARE_WITH_TIMEOUT(counter.pictures.load(), 1, kPatience);
+    QElapsedTimer encode;
+    encode.start();
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    const qint64 encodeBefore = processorMsOfThisThread();
+    QVERIFY(noise.save(&buffer, "png"));
+    const qint64 encodeMs = processorMsOfThisThread() - encodeBefore;
+
+    // What the GUI thread spends on eight pictures is less than making two of them would take it.
+    const qint64 before = processorMsOfThisThread();
+    for (int i = 0; i < 8; ++i) {
+        const int had = counter.pictures;
+        m_panel->requestPicture(number);
+        while (counter.pictures == had)
+            QTest::qWait(10);
+    }
+    const qint64 spent = processorMsOfThisThread() - before;
+    QVERIFY2(spent < 2 * encodeMs + 40, qPrintable(QStringLiteral("%1 of %2 ms").arg(spent).arg(encodeMs)));
+    m_panel->removeTaker(number);
+}
+
+void TstPanel::waitingRequestsOfAllShareOnePicture()
+{
+    Counter first, second;
+    QSignalSpy taken(m_panel.get(), &Panel::pictureTaken);
+    QSignalSpy wanted(m_panel.get(), &Panel::pictureWanted);
+    const int one = m_panel->addTaker(first.taker()), two = m_panel->addTaker(second.taker());
+    for (int i = 0; i < 20; ++i) {
+        m_panel->requestPicture(one);
+        m_panel->requestPicture(two);
+    }
+    QTRY_COMPARE_WITH_TIMEOUT(first.pictures.load() + second.pictures.load(), 2, kPatience);
+    QTest::qWait(2 * Panel::kPictureSpacing);
+    QCOMPARE(first.pictures.load(), 1);
+    QCOMPARE(second.pictures.load(), 1);
+    QCOMPARE(taken.size(), 1);
+    QCOMPARE(wanted.size(), 1);
+    m_panel->removeTaker(one);
+    m_panel->removeTaker(two);
+}
+
+void TstPanel::requestBehindAPictureGetsANewerOne()
+{
+    Counter counter;
+    const int number = m_panel->addTaker(counter.taker());
+    connect(
+        m_panel.get(), &Panel::pictureTaken, this,
+        [&] {
+            if (m_page->colour == Qt::green)
+                return;
+            m_page->colour = Qt::green; // behind the first picture
+            m_page->update();
+            m_panel->requestPicture(number);
+        },
+        Qt::DirectConnection);
+    m_panel->requestPicture(number);
+    QTRY_COMPARE_WITH_TIMEOUT(counter.pictures.load(), 2, kPatience);
+    QCOMPARE(QImage::fromData(counter.png(), "PNG").pixelColor(320, 240), QColor(Qt::green));
+    m_panel->removeTaker(number);
+}
+
+void TstPanel::nothingToShowGivesNoBytes()
+{
+    Counter counter;
+    counter.last = "something";
+    m_page->hide();
+    const int number = m_panel->addTaker(counter.taker());
+    m_panel->requestPicture(number);
+    QTRY_COMPARE_WITH_TIMEOUT(counter.pictures.load(), 1, kPatience);
+    QVERIFY(counter.png().isEmpty());
+    m_panel->removeTaker(number);
+}
+
+void TstPanel::whoDidNotAskGetsNothing()
+{
+    Counter asks, silent;
+    const int one = m_panel->addTaker(asks.taker()), two = m_panel->addTaker(silent.taker());
+    m_panel->requestPicture(one);
+    QTRY_COMPARE_WITH_TIMEOUT(asks.pictures.load(), 1, kPatience);
+    QTest::qWait(50);
+    QCOMPARE(silent.pictures.load(), 0);
+    m_panel->removeTaker(one);
+    m_panel->removeTaker(two);
+}
+
+void TstPanel::removedTakerIsNotCalledAgain()
+{
+    Counter counter;
+    const int number = m_panel->addTaker(counter.taker());
+    m_panel->requestPicture(number);
+    m_panel->removeTaker(number);
+    m_panel->requestPicture(number); // of nobody
+    m_panel->requestPicture(-1);
+    m_panel->requestPicture(Panel::kMostTakers);
+    QTest::qWait(2 * Panel::kPictureSpacing);
+    QCOMPARE(counter.pictures.load(), 0);
+}
+
+void TstPanel::takersBeyondTheirNumberAreRefused()
+{
+    Counter counter;
+    for (int i = 0; i < Panel::kMostTakers; ++i)
+        QCOMPARE(m_panel->addTaker(counter.taker()), i);
+    QCOMPARE(m_panel->addTaker(counter.taker()), -1);
+    m_panel->removeTaker(3);
+    QCOMPARE(m_panel->addTaker(counter.taker()), 3);
+    m_panel->removeTaker(-1);
+    m_panel->removeTaker(Panel::kMostTakers);
+}
+
+void TstPanel::thereIsOnePanelAndItEndsWithItsLastUser()
+{
+    const std::weak_ptr<Panel> watched = m_panel;
+    std::shared_ptr<Panel> other = Panel::shared();
+    QCOMPARE(other.get(), m_panel.get());
+    m_panel.reset();
+    QVERIFY(!watched.expired());
+    other.reset();
+    QVERIFY(watched.expired());
+    QVERIFY(Panel::shared());
+}
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    TstPanel test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_panel.moc"
