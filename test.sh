@@ -30,7 +30,7 @@ sanitized()
 }
 
 if [ "${1:-}" != --quick ]; then
-    sanitized asan -LE 'system|long'
+    sanitized asan -LE 'system|long|source'
     sanitized tsan -L tsan
 fi
 
