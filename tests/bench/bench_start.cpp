@@ -176,6 +176,6 @@ int main(int argc, char **argv)
         = compare("start to the splash, beside an empty widget", { self, "--splash" }, { plain }, 1.3);
     const bool menuMeasured
         = compare("start to the painted menu, beside as many plain pages and labels", { self, "--menu" },
-                  { plain, std::to_string(pages), std::to_string(labels) }, 1.5);
+                  { plain, std::to_string(pages), std::to_string(labels) }, 2.0);
     return splashMeasured && menuMeasured ? 0 : 1;
 }
