@@ -1,7 +1,7 @@
 #include "pages/eventspage.h"
 #include "ui_eventspage.h"
 
-#include "pages/keyrepeat.h"
+#include "widgets/controls/keyrepeat.h"
 #include "widgets/controls/labellook.h"
 
 EventsPage::EventsPage(_quvera_ui_type type, QWidget *parent)

@@ -1,13 +1,10 @@
 #include "pages/page.h"
 
 #include "settings/phasecolor.h"
-#include "widgets/text/keymap.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
-
-#include <algorithm>
 
 namespace {
 
@@ -23,30 +20,21 @@ const struct
 
 } // namespace
 
-Page::Page(_quvera_ui_type type, QWidget *parent) : QDialog(parent), m_type(type), m_phaseColors(PhaseColor::digits())
+Page::Page(_quvera_ui_type type, QWidget *parent)
+    : QDialog(parent), m_type(type), m_phaseColors(PhaseColor::digits()), m_keys(this)
 {
     setFocusPolicy(Qt::StrongFocus);
 }
 
-void Page::setNoKeys()
+void Page::finishKeys(std::vector<FrontKeys::Row> rows)
 {
-    m_keys.clear();
-    finishKeys();
-}
-
-void Page::finishKeys()
-{
+    m_keys.setRows(std::move(rows));
     retranslateUi();
-}
-
-bool Page::hasOwnKey(int key) const
-{
-    return std::any_of(m_keys.begin(), m_keys.end(), [key](const Key &row) { return row.key == key; });
 }
 
 void Page::retranslateUi()
 {
-    for (const Key &row : m_keys) {
+    for (const FrontKeys::Row &row : m_keys.rows()) {
         if (row.caption)
             setKeyCaption(row.key - Qt::Key_F1 + 1,
                           QCoreApplication::translate(metaObject()->className(), row.caption));
@@ -66,16 +54,12 @@ void Page::setText(QLabel *label, const QString &text)
 
 void Page::keyPressEvent(QKeyEvent *event)
 {
-    // The press that wakes the screen does nothing else. A held F5 does not toggle again and again.
-    if (keyMap::recoverBackLight() || keyMap::isDroppedRepeat(*event))
-        event->accept();
-    else
-        event->setAccepted(pressKey(keyMap::keyPressMap(event->key())));
+    event->setAccepted(FrontKeys::press(*event, [this](int key) { return pressKey(key); }));
 }
 
 void Page::keyReleaseEvent(QKeyEvent *event)
 {
-    releaseKey(keyMap::keyReleaseMap(event->key()));
+    releaseKey(m_keys.release(*event));
     event->ignore();
 }
 
@@ -97,11 +81,8 @@ void Page::showEvent(QShowEvent *event)
 
 bool Page::pressKey(int key)
 {
-    const auto row = std::find_if(m_keys.begin(), m_keys.end(), [key](const Key &k) { return k.key == key; });
-    if (row != m_keys.end()) {
-        row->action();
+    if (m_keys.act(key))
         return true;
-    }
     for (const auto &exit : kExits) {
         if (exit.key == key) {
             emit leave(exit.target);

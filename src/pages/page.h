@@ -1,10 +1,10 @@
 #pragma once
 
 #include "pages/uitype.h"
+#include "widgets/controls/frontkeys.h"
 
 #include <QDialog>
 
-#include <functional>
 #include <vector>
 
 class QLabel;
@@ -34,23 +34,43 @@ protected:
     /// (a soft-key button paints its own).
     template <typename Owner> struct KeyRow
     {
+        using Action = void (Owner::*)();
+        using Step = void (Owner::*)(int);
+
+        KeyRow(int key, const char *caption, Action action) : key(key), caption(caption), action(action) { }
+        /// A key that steps while it is held: \a direction 1 or -1 is the sign of its steps.
+        KeyRow(int key, const char *caption, Step step, int direction, const KeyRepeat::Pace &pace)
+            : key(key), caption(caption), step(step), direction(direction), pace(pace)
+        { }
+
         int key; // Qt::Key_F1 to F5, arrows, Enter
         const char *caption;
-        void (Owner::*action)();
+        Action action = nullptr;
+        Step step = nullptr;
+        int direction = 0;
+        KeyRepeat::Pace pace;
     };
 
-    /// To be called once, after the form exists.
+    /// To be called once the form exists; a page with modes has a table for each and sets the one in force.
     template <typename Owner, std::size_t N> void setKeys(const KeyRow<Owner> (&rows)[N])
     {
-        m_keys.clear();
+        std::vector<FrontKeys::Row> keys;
         auto *page = static_cast<Owner *>(this);
-        for (const auto &row : rows)
-            m_keys.push_back({ row.key, row.caption, [page, action = row.action] { (page->*action)(); } });
-        finishKeys();
+        for (const KeyRow<Owner> &row : rows) {
+            FrontKeys::Row key { row.key, row.caption, nullptr, nullptr, row.direction, row.pace };
+            if (row.step)
+                key.step = [page, step = row.step](int steps) { (page->*step)(steps); };
+            else
+                key.action = [page, action = row.action] { (page->*action)(); };
+            keys.push_back(std::move(key));
+        }
+        finishKeys(std::move(keys));
     }
     /// For a page without keys of its own.
-    void setNoKeys();
-    bool hasOwnKey(int key) const;
+    void setNoKeys() { finishKeys({}); }
+    bool hasOwnKey(int key) const { return m_keys.has(key); }
+    /// What a held key repeats ends.
+    void stopRepeat() { m_keys.stopRepeat(); }
     /// Text over the soft key F\a number, 1 to 5.
     void setKeyCaption(int number, const QString &text);
     /// Sets a label's text only when it changed: a refresh must not lay out what stands still.
@@ -64,20 +84,13 @@ protected:
 
     /// Handles a key that is already mapped; false: let it rise.
     virtual bool pressKey(int key);
-    /// A key was let go; pages with repeating keys stop them here.
+    /// A key was let go; for pages that handle keys beside their table.
     virtual void releaseKey(int) { }
 
 private:
-    struct Key
-    {
-        int key;
-        const char *caption;
-        std::function<void()> action;
-    };
-
-    void finishKeys();
+    void finishKeys(std::vector<FrontKeys::Row> rows);
 
     const _quvera_ui_type m_type;
     QString m_phaseColors; // digits of the palette that the labels have
-    std::vector<Key> m_keys;
+    FrontKeys m_keys;
 };

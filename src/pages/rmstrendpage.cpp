@@ -1,7 +1,7 @@
 #include "pages/rmstrendpage.h"
 
 #include "settings/config_data.h"
-#include "pages/keyrepeat.h"
+#include "widgets/controls/keyrepeat.h"
 #include "widgets/charts/cursortrendchart.h"
 #include "widgets/text/f_to_str.h"
 #include "widgets/controls/softkeybuttons.h"

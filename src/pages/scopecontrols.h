@@ -1,6 +1,6 @@
 #pragma once
 
-#include "pages/keyrepeat.h"
+#include "widgets/controls/keyrepeat.h"
 
 #include <QObject>
 

@@ -9,7 +9,6 @@
 #include "shell/pagetable.h"
 #include "shell/quveraglobal.h"
 #include "shell/taskmanage.h"
-#include "widgets/text/keymap.h"
 #include "widgets/controls/labellook.h"
 #include "widgets/text/localtime.h"
 #include "widgets/dialogs/message.h"
@@ -30,13 +29,16 @@ QPixmap iconPixmap(const QString &name)
 } // namespace
 
 BaseDialog::BaseDialog(TaskManage *tasks, QWidget *parent)
-    : QDialog(parent), m_ui(new Ui::BaseDialog), m_clockTimer(new QTimer(this)), m_powerTimer(new QTimer(this))
+    : QDialog(parent), m_ui(new Ui::BaseDialog), m_clockTimer(new QTimer(this)), m_powerTimer(new QTimer(this)),
+      m_keys(this)
 {
     m_ui->setupUi(this);
     LabelLook::dress(this);
     setFixedSize(640, 480);
     m_menu = new MenuPage;
     m_navigator = new Navigator(tasks, m_menu, m_ui->base_stackedWidget, this);
+    m_keys.setRows({ { Qt::Key_F12, nullptr, &BackLight::switchBackLight, nullptr, 0, {} },
+                     { Qt::Key_PowerOff, nullptr, [this] { armPowerTimer(); }, nullptr, 0, {} } });
     connect(m_navigator, &Navigator::titleChanged, this, &BaseDialog::displayTaskName);
     connect(m_powerTimer, &QTimer::timeout, this, &BaseDialog::powerBtnPushed);
     connect(m_clockTimer, &QTimer::timeout, this, &BaseDialog::refleshtime);
@@ -49,27 +51,12 @@ BaseDialog::~BaseDialog() = default;
 
 void BaseDialog::keyPressEvent(QKeyEvent *event)
 {
-    if (keyMap::recoverBackLight() || keyMap::isDroppedRepeat(*event)) {
-        event->accept();
-        return;
-    }
-    switch (keyMap::keyPressMap(event->key())) {
-    case Qt::Key_F12:
-        BackLight::switchBackLight();
-        event->accept();
-        break;
-    case Qt::Key_PowerOff:
-        armPowerTimer();
-        event->accept();
-        break;
-    default:
-        event->ignore();
-    }
+    event->setAccepted(FrontKeys::press(*event, [this](int key) { return m_keys.act(key); }));
 }
 
 void BaseDialog::keyReleaseEvent(QKeyEvent *event)
 {
-    keyMap::keyReleaseMap(event->key());
+    m_keys.release(*event);
     event->ignore();
 }
 

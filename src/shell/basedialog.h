@@ -1,5 +1,7 @@
 #pragma once
 
+#include "widgets/controls/frontkeys.h"
+
 #include <QDialog>
 
 #include <memory>
@@ -50,6 +52,7 @@ private:
     Navigator *m_navigator;
     QTimer *m_clockTimer;
     QTimer *m_powerTimer;
+    FrontKeys m_keys;
     QString m_icons[2]; // names of the pictures shown
     bool m_powerArmed = false;
     int m_powerTicks = 0;

@@ -6,12 +6,9 @@
 #include "model/transparam.h"
 #include "record/pqafile.h"
 #include "shell/pagetable.h"
-#include "widgets/text/keymap.h"
 #include "widgets/controls/labellook.h"
 #include "widgets/dialogs/runinfo.h"
 #include "widgets/dialogs/savedialog.h"
-
-#include <QKeyEvent>
 
 #include <vector>
 
@@ -41,8 +38,15 @@ void MenuItem::showPicture(bool highlighted)
     setPixmap(QPixmap(QLatin1String(":/") + objectName() + QLatin1String(highlighted ? "_hl" : "")));
 }
 
-MenuPage::MenuPage(QWidget *parent) : QDialog(parent), m_ui(new Ui::MenuPage)
+MenuPage::MenuPage(QWidget *parent) : Page(UI_MENU, parent), m_ui(new Ui::MenuPage)
 {
+    static const KeyRow<MenuPage> keys[] = {
+        { Qt::Key_Enter, nullptr, &MenuPage::changePage }, { Qt::Key_Left, nullptr, &MenuPage::moveLeft },
+        { Qt::Key_Right, nullptr, &MenuPage::moveRight },  { Qt::Key_Up, nullptr, &MenuPage::moveUp },
+        { Qt::Key_Down, nullptr, &MenuPage::moveDown },    { Qt::Key_F1, nullptr, &MenuPage::showStatus },
+        { Qt::Key_F2, nullptr, &MenuPage::showStatus },    { Qt::Key_F3, nullptr, &MenuPage::showStatus },
+        { Qt::Key_F4, nullptr, &MenuPage::showStatus },    { Qt::Key_F5, nullptr, &MenuPage::showStatus },
+    };
     m_ui->setupUi(this);
     LabelLook::dress(this);
     m_places[0].current = m_places[0].previous = m_ui->vif;
@@ -50,7 +54,7 @@ MenuPage::MenuPage(QWidget *parent) : QDialog(parent), m_ui(new Ui::MenuPage)
     for (const PageRow *row : tiles())
         item(*row)->showPicture(false);
     menuMatrix50();
-    retranslateUi();
+    setKeys(keys);
     showMenuHl();
 }
 
@@ -58,6 +62,7 @@ MenuPage::~MenuPage() = default;
 
 void MenuPage::retranslateUi()
 {
+    Page::retranslateUi();
     for (const PageRow *row : tiles())
         findChild<QLabel *>(QString::fromLatin1(row->tile.name) + QLatin1String("_t"))->setText(tr(row->tile.caption));
     m_ui->menu_tips->setText(tr("Press F1-F5 to show more infomation"));
@@ -128,6 +133,7 @@ void MenuPage::moveTo(MenuItem *item)
     m_places[0].previous = m_places[0].current;
     m_places[0].current = item;
     item->setFocus();
+    showMenuHl();
 }
 
 void MenuPage::showMenuHl()
@@ -154,62 +160,18 @@ void MenuPage::saveSnapshot()
         file.saveSnapshot(name);
 }
 
-void MenuPage::keyPressEvent(QKeyEvent *event)
+void MenuPage::showStatus()
 {
-    if (keyMap::recoverBackLight() || keyMap::isDroppedRepeat(*event)) {
-        event->accept();
-        return;
-    }
-    const int key = keyMap::keyPressMap(event->key());
-    event->accept();
-    // F7 has no effect here.
-    for (const PageRow &row : PageTable::rows()) {
-        if (row.menuKey == key) {
-            emit leave(row.type);
-            showMenuHl();
-            return;
-        }
-    }
-    switch (key) {
-    case Qt::Key_Enter:
-    case Qt::Key_Return:
-        changePage();
-        break;
-    case Qt::Key_Left:
-        moveTo(m_places[0].current->left);
-        break;
-    case Qt::Key_Right:
-        moveTo(m_places[0].current->right);
-        break;
-    case Qt::Key_Up:
-        moveTo(m_places[0].current->up);
-        break;
-    case Qt::Key_Down:
-        moveTo(m_places[0].current->down);
-        break;
-    case Qt::Key_F1:
-    case Qt::Key_F2:
-    case Qt::Key_F3:
-    case Qt::Key_F4:
-    case Qt::Key_F5:
-        if (!RunInfo::showSystemStatus())
-            emit restartTask();
-        break;
-    case Qt::Key_F7:
-        break;
-    case Qt::Key_F11:
-        saveSnapshot();
-        break;
-    default:
-        event->ignore();
-    }
-    showMenuHl();
+    if (!RunInfo::showSystemStatus())
+        emit restartTask();
 }
 
-void MenuPage::keyReleaseEvent(QKeyEvent *event)
+bool MenuPage::pressKey(int key)
 {
-    keyMap::keyReleaseMap(event->key());
-    event->ignore();
+    if (key != Qt::Key_F11)
+        return Page::pressKey(key);
+    saveSnapshot();
+    return true;
 }
 
 void MenuPage::clearSystemStatus()

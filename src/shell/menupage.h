@@ -1,8 +1,7 @@
 #pragma once
 
-#include "pages/uitype.h"
+#include "pages/page.h"
 
-#include <QDialog>
 #include <QLabel>
 
 #include <memory>
@@ -27,7 +26,7 @@ public:
 };
 
 /// The function menu: a torus of twelve tiles.
-class MenuPage : public QDialog
+class MenuPage : public Page
 {
     Q_OBJECT
 
@@ -42,7 +41,7 @@ public:
     const MenuItem *currentItem() const { return m_places[0].current; }
 
 public slots:
-    void retranslateUi();
+    void retranslateUi() override;
     void refreshSystemStatus() { }
     void eventsChanged() { }
     void transEventsChanged() { }
@@ -51,12 +50,9 @@ public slots:
 
 signals:
     void restartTask();
-    /// A tile or a function key asks for another page.
-    void leave(_quvera_ui_type target);
 
 protected:
-    void keyPressEvent(QKeyEvent *event) override;
-    void keyReleaseEvent(QKeyEvent *event) override;
+    bool pressKey(int key) override;
     void focusInEvent(QFocusEvent *event) override;
 
 private:
@@ -71,7 +67,12 @@ private:
     void menuMatrix50();
     void menuMatrix400();
     void moveTo(MenuItem *item);
+    void moveLeft() { moveTo(m_places[0].current->left); }
+    void moveRight() { moveTo(m_places[0].current->right); }
+    void moveUp() { moveTo(m_places[0].current->up); }
+    void moveDown() { moveTo(m_places[0].current->down); }
     void showMenuHl();
+    void showStatus();
     void changePage();
     void saveSnapshot();
 

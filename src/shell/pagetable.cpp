@@ -18,6 +18,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -75,58 +76,66 @@ constexpr auto kBasic = AbstractTask::UniBasic;
 constexpr MenuTile kNoTile {};
 constexpr bool kNot400Hz = false;
 
+/// In the order of the stack.
+// clang-format off
+const PageRow kRows[] = {
+    { UI_MENU, QT_TRANSLATE_NOOP("BaseDialog", "Menu"), kNoTile, Plan::Menu, kBasic, 0, 0, 0, nullptr },
+    { UI_VIF, QT_TRANSLATE_NOOP("BaseDialog", "Volts/Amps/Hertz"),
+      { 2, "vif", QT_TRANSLATE_NOOP("MenuPage", "Volts/Amps/Hertz\n") },
+      Plan::Live, kBasic, Hears::kLive, 2, 1, make<VifPage> },
+    { UI_DIPS_SWELLS, QT_TRANSLATE_NOOP("BaseDialog", "Dips&Swells"),
+      { 6, "dips_swells", QT_TRANSLATE_NOOP("MenuPage", "Dips&Swells\n") },
+      Plan::Live, kBasic, Hears::kLive, 3, 2, makeWithEvents<dswell> },
+    { UI_HARMONICS, QT_TRANSLATE_NOOP("BaseDialog", "Harmonics"),
+      { 3, "harmonics", QT_TRANSLATE_NOOP("MenuPage", "Harmonics\n") },
+      Plan::Live, kBasic, Hears::kLive, 5, 3, makeHarmonics },
+    { UI_POWER, QT_TRANSLATE_NOOP("BaseDialog", "Power&Energy"),
+      { 1, "power", QT_TRANSLATE_NOOP("MenuPage", "Power&Energy\n") },
+      Plan::Live, kBasic, Hears::kLive, 6, 4, makePower },
+    { UI_FLICKER, QT_TRANSLATE_NOOP("BaseDialog", "Flicker"),
+      { 5, "flicker", QT_TRANSLATE_NOOP("MenuPage", "Flicker\n") },
+      Plan::Live, kBasic, Hears::kLive, 4, 5, make<flicker>, kNot400Hz },
+    { UI_UNBALANCE, QT_TRANSLATE_NOOP("BaseDialog", "Unbalance"),
+      { 4, "unbalance", QT_TRANSLATE_NOOP("MenuPage", "Unbalance\n") },
+      Plan::Live, kBasic, Hears::kLive, 8, 6, make<unbalan> },
+    { UI_TRANSIENTS, QT_TRANSLATE_NOOP("BaseDialog", "Transients"),
+      { 8, "transients", QT_TRANSLATE_NOOP("MenuPage", "Transients\n") },
+      Plan::Live, kBasic, Hears::kLive, 7, 8, makeTransients },
+    { UI_USER, QT_TRANSLATE_NOOP("BaseDialog", "User"),
+      { 12, "user", QT_TRANSLATE_NOOP("MenuPage", "User\n") }, Plan::Settings, kBasic, 0, 1, 0, nullptr },
+    { UI_INRUSH, QT_TRANSLATE_NOOP("BaseDialog", "Inrush"),
+      { 7, "inrush", QT_TRANSLATE_NOOP("MenuPage", "Inrush\n") },
+      Plan::Live, kBasic, Hears::kLive, 9, 9, makeWithEvents<InrushPage> },
+    // The logger of text files: its pages exist, no key of this release shows them.
+    { UI_LOGGER, QT_TRANSLATE_NOOP("BaseDialog", "Logger"), kNoTile, Plan::Unreached, kBasic, 0, 0, 0, nullptr },
+    { UI_MONITOR, QT_TRANSLATE_NOOP("BaseDialog", "Monitor"), kNoTile,
+      Plan::Commanded, AbstractTask::UniMonitor, Hears::kFront, 11, 0, nullptr, kNot400Hz },
+    { UI_SCOPE, QT_TRANSLATE_NOOP("BaseDialog", "Scope"), kNoTile,
+      Plan::Live, kBasic, Hears::kLive, 12, 7, make<ScopePage> },
+    { UI_SETUP, QT_TRANSLATE_NOOP("BaseDialog", "Setup"), kNoTile, Plan::Settings, kBasic, Hears::kFront, 14, 0, nullptr },
+    { UI_MEMORY, QT_TRANSLATE_NOOP("BaseDialog", "Memory"), kNoTile, Plan::Overlay, kBasic, 0, 15, 0, nullptr },
+    { UI_WAVE, QT_TRANSLATE_NOOP("BaseDialog", "Wave"),
+      { 10, "wave", QT_TRANSLATE_NOOP("MenuPage", "Wave\n") },
+      Plan::Commanded, AbstractTask::UniWave, Hears::kFront, 13, 10, nullptr },
+    { UI_MAINS_SIG, QT_TRANSLATE_NOOP("BaseDialog", "Mains Signaling"),
+      { 9, "mainssignaling", QT_TRANSLATE_NOOP("MenuPage", "Mains\nSignaling") },
+      Plan::Live, kBasic, Hears::kLive, 16, 11, make<MainsSignaling> },
+    { UI_POWER_INVERTER, QT_TRANSLATE_NOOP("BaseDialog", "Power Inverter"), kNoTile,
+      Plan::Commanded, AbstractTask::UniPowerInverter, Hears::kFront | Hears::Begin, 17, 12, makeInverter },
+    // The recorder. Recording runs inside the basic function.
+    { UI_LOGGER, QT_TRANSLATE_NOOP("BaseDialog", "Logger"),
+      { 11, "logger", QT_TRANSLATE_NOOP("MenuPage", "Logger\n") },
+      Plan::Commanded, kBasic, Hears::Refresh | Hears::RecordTime, 10, 0, nullptr, true, notRecording },
+};
+// clang-format on
+
 } // namespace
 
-#define TITLE(text) QT_TRANSLATE_NOOP("BaseDialog", text)
-#define TILE(place, name, caption)                                                                                     \
-    MenuTile                                                                                                           \
-    {                                                                                                                  \
-        place, name, QT_TRANSLATE_NOOP("MenuPage", caption)                                                            \
-    }
-
-// clang-format off
 const std::vector<PageRow> &PageTable::rows()
 {
-    static const std::vector<PageRow> rows {
-        { UI_MENU, TITLE("Menu"), kNoTile, 0, Plan::Menu, kBasic, 0, 0, 0, nullptr },
-        { UI_VIF, TITLE("Volts/Amps/Hertz"), TILE(2, "vif", "Volts/Amps/Hertz\n"), 0,
-          Plan::Live, kBasic, Hears::kLive, 2, 1, make<VifPage> },
-        { UI_DIPS_SWELLS, TITLE("Dips&Swells"), TILE(6, "dips_swells", "Dips&Swells\n"), 0,
-          Plan::Live, kBasic, Hears::kLive, 3, 2, makeWithEvents<dswell> },
-        { UI_HARMONICS, TITLE("Harmonics"), TILE(3, "harmonics", "Harmonics\n"), 0,
-          Plan::Live, kBasic, Hears::kLive, 5, 3, makeHarmonics },
-        { UI_POWER, TITLE("Power&Energy"), TILE(1, "power", "Power&Energy\n"), 0,
-          Plan::Live, kBasic, Hears::kLive, 6, 4, makePower },
-        { UI_FLICKER, TITLE("Flicker"), TILE(5, "flicker", "Flicker\n"), 0,
-          Plan::Live, kBasic, Hears::kLive, 4, 5, make<flicker>, kNot400Hz },
-        { UI_UNBALANCE, TITLE("Unbalance"), TILE(4, "unbalance", "Unbalance\n"), 0,
-          Plan::Live, kBasic, Hears::kLive, 8, 6, make<unbalan> },
-        { UI_TRANSIENTS, TITLE("Transients"), TILE(8, "transients", "Transients\n"), 0,
-          Plan::Live, kBasic, Hears::kLive, 7, 8, makeTransients },
-        { UI_USER, TITLE("User"), TILE(12, "user", "User\n"), 0, Plan::Settings, kBasic, 0, 1, 0, nullptr },
-        { UI_INRUSH, TITLE("Inrush"), TILE(7, "inrush", "Inrush\n"), 0,
-          Plan::Live, kBasic, Hears::kLive, 9, 9, makeWithEvents<InrushPage> },
-        // The logger of text files: its pages exist, no key of this release shows them.
-        { UI_LOGGER, TITLE("Logger"), kNoTile, 0, Plan::Unreached, kBasic, 0, 0, 0, nullptr },
-        { UI_MONITOR, TITLE("Monitor"), kNoTile, Qt::Key_F8,
-          Plan::Commanded, AbstractTask::UniMonitor, Hears::kFront, 11, 0, nullptr, kNot400Hz },
-        { UI_SCOPE, TITLE("Scope"), kNoTile, Qt::Key_F6,
-          Plan::Live, kBasic, Hears::kLive, 12, 7, make<ScopePage> },
-        { UI_SETUP, TITLE("Setup"), kNoTile, Qt::Key_F9, Plan::Settings, kBasic, Hears::kFront, 14, 0, nullptr },
-        { UI_MEMORY, TITLE("Memory"), kNoTile, Qt::Key_F10, Plan::Overlay, kBasic, 0, 15, 0, nullptr },
-        { UI_WAVE, TITLE("Wave"), TILE(10, "wave", "Wave\n"), 0,
-          Plan::Commanded, AbstractTask::UniWave, Hears::kFront, 13, 10, nullptr },
-        { UI_MAINS_SIG, TITLE("Mains Signaling"), TILE(9, "mainssignaling", "Mains\nSignaling"), 0,
-          Plan::Live, kBasic, Hears::kLive, 16, 11, make<MainsSignaling> },
-        { UI_POWER_INVERTER, TITLE("Power Inverter"), kNoTile, 0,
-          Plan::Commanded, AbstractTask::UniPowerInverter, Hears::kFront | Hears::Begin, 17, 12, makeInverter },
-        // The recorder. Recording runs inside the basic function.
-        { UI_LOGGER, TITLE("Logger"), TILE(11, "logger", "Logger\n"), 0,
-          Plan::Commanded, kBasic, Hears::Refresh | Hears::RecordTime, 10, 0, nullptr, true, notRecording },
-    };
-    return rows;
+    static const std::vector<PageRow> all(std::begin(kRows), std::end(kRows));
+    return all;
 }
-// clang-format on
 
 const PageRow *PageTable::row(_quvera_ui_type type)
 {

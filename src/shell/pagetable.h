@@ -46,7 +46,6 @@ struct PageRow
     _quvera_ui_type type; // of several rows with one type, the first that can be reached answers to it
     const char *title;
     MenuTile tile;
-    int menuKey; // function key that leads there from the menu; 0: none
     Plan plan;
     AbstractTask::UniFunction function; // that it demands of the task
     unsigned hears; // Hears::Flag

@@ -3,7 +3,7 @@
 
 #include "settings/config_data.h"
 #include "settings/harmdata.h"
-#include "pages/keyrepeat.h"
+#include "widgets/controls/keyrepeat.h"
 #include "widgets/text/f_to_str.h"
 #include "widgets/controls/labellook.h"
 

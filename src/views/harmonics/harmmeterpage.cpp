@@ -3,7 +3,7 @@
 
 #include "settings/harmdata.h"
 #include "model/displayrecords.h"
-#include "pages/keyrepeat.h"
+#include "widgets/controls/keyrepeat.h"
 #include "views/harmonics/harmvalues.h"
 #include "widgets/text/f_to_str.h"
 #include "widgets/controls/labellook.h"

@@ -1,7 +1,6 @@
 #include "widgets/dialogs/softkeydialog.h"
 
 #include "widgets/charts/chartparts.h"
-#include "widgets/text/keymap.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -22,7 +21,7 @@ static const char *const kStyle = "QLabel { background-color: transparent; color
                                   "QRadioButton::indicator:unchecked { image: url(:/radio_unchecked); }"
                                   "QRadioButton::indicator:checked { image: url(:/radio_checked); }";
 
-SoftKeyDialog::SoftKeyDialog(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint)
+SoftKeyDialog::SoftKeyDialog(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), m_keys(this)
 {
     setAttribute(Qt::WA_DeleteOnClose, false);
     setModal(true);
@@ -112,14 +111,16 @@ void SoftKeyDialog::setVisible(bool visible)
 
 void SoftKeyDialog::keyPressEvent(QKeyEvent *event)
 {
-    if (!keyMap::recoverBackLight() && !keyMap::isDroppedRepeat(*event))
-        pressKey(keyMap::keyPressMap(event->key()));
+    FrontKeys::press(*event, [this](int key) {
+        pressKey(key);
+        return true;
+    });
     event->accept();
 }
 
 void SoftKeyDialog::keyReleaseEvent(QKeyEvent *event)
 {
-    keyMap::keyReleaseMap(event->key());
+    m_keys.release(*event);
     event->accept();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "widgets/controls/frontkeys.h"
+
 #include <QDialog>
 #include <QPixmap>
 #include <QPointer>
@@ -22,8 +24,10 @@ public:
 protected:
     explicit SoftKeyDialog(QWidget *parent = nullptr);
 
-    /// A key of the front panel, by its Qt key. What is not handled does nothing: no key reaches the page behind.
-    virtual void pressKey(int key) = 0;
+    /// A key of the front panel, by its Qt key: what the table says. What is not handled does nothing: no key reaches
+    /// the page behind.
+    virtual void pressKey(int key) { m_keys.act(key); }
+    FrontKeys &keys() { return m_keys; }
 
     /// Takes the form's size for good and sets the text of each soft key, dropping the picture of those without one.
     void finishForm();
@@ -38,6 +42,7 @@ private:
     /// The window that a dialog opens over: the one with the keyboard, else that of the pages.
     static QWidget *openerWindow();
 
+    FrontKeys m_keys;
     QPointer<QWidget> m_opener;
     QPoint m_origin; // of the instrument's window on the desk's screen
     QPixmap m_background;

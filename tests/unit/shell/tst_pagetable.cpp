@@ -16,7 +16,6 @@ private slots:
     void languageOrder();
     void beginOrder();
     void tilesFillTheMenu();
-    void functionKeysOfTheMenu();
     void plans();
     void functions();
 };
@@ -108,19 +107,6 @@ void TstPageTable::tilesFillTheMenu()
     const QStringList expected { "power",  "vif",        "harmonics",      "unbalance", "flicker", "dips_swells",
                                  "inrush", "transients", "mainssignaling", "wave",      "logger",  "user" };
     QCOMPARE(QStringList(names.values()), expected);
-}
-
-void TstPageTable::functionKeysOfTheMenu()
-{
-    QMap<int, int> keys;
-    for (const PageRow &row : PageTable::rows()) {
-        if (row.menuKey != 0)
-            keys[row.menuKey] = row.type;
-    }
-    const QMap<int, int> expected {
-        { Qt::Key_F6, UI_SCOPE }, { Qt::Key_F8, UI_MONITOR }, { Qt::Key_F9, UI_SETUP }, { Qt::Key_F10, UI_MEMORY }
-    };
-    QCOMPARE(keys, expected);
 }
 
 void TstPageTable::plans()

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "settings/config_data.h"
-#include "pages/keyrepeat.h"
+#include "widgets/controls/keyrepeat.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -1,4 +1,4 @@
-#include "pages/keyrepeat.h"
+#include "widgets/controls/keyrepeat.h"
 
 #include <QKeyEvent>
 #include <QSignalSpy>

@@ -1,4 +1,4 @@
-#include "pages/keyrepeat.h"
+#include "widgets/controls/keyrepeat.h"
 
 #include <QKeyEvent>
 #include <QWidget>
@@ -9,6 +9,13 @@ KeyRepeat::KeyRepeat(QWidget *page, int ticksPerStep, Steps steps)
     m_timer.setInterval(kPeriod);
     connect(&m_timer, &QTimer::timeout, this, &KeyRepeat::tick);
     page->installEventFilter(this);
+}
+
+void KeyRepeat::setPace(const Pace &pace)
+{
+    stop();
+    m_ticksPerStep = pace.ticksPerStep;
+    m_steps = pace.steps.empty() ? Steps { 1 } : pace.steps;
 }
 
 void KeyRepeat::start(int direction)
