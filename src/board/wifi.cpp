@@ -6,17 +6,17 @@
 
 #include <QPointer>
 
+Wifi *wifi = nullptr;
 QWpaCtrl *Wifi::wpaCtrl = nullptr;
 bool Wifi::is_opened = false;
 bool Wifi::is_openning = false;
 __wifi_status Wifi::status;
-Wifi *Wifi::s_wifi = nullptr;
 QVector<WifiInfo> Wifi::s_networks;
 
 Wifi::Wifi(QObject *parent) : QObject(parent)
 {
-    Q_ASSERT(!s_wifi);
-    s_wifi = this;
+    Q_ASSERT(!wifi);
+    wifi = this;
     wpaCtrl = new QWpaCtrl;
     connect(wpaCtrl, &QWpaCtrl::connected, this, &Wifi::connected);
     connect(wpaCtrl, &QWpaCtrl::disconnected, this, &Wifi::disconnected);
@@ -29,7 +29,7 @@ Wifi::~Wifi()
 {
     delete wpaCtrl;
     wpaCtrl = nullptr;
-    s_wifi = nullptr;
+    wifi = nullptr;
     is_opened = is_openning = false;
     status = {};
     s_networks.clear();
@@ -118,21 +118,21 @@ void Wifi::disconnected()
 void Wifi::scanStatus()
 {
     const QByteArray command = "STATUS";
-    if (!s_wifi || wpaCtrl->isWaiting(command))
+    if (!wifi || wpaCtrl->isWaiting(command))
         return;
-    ask(command, s_wifi, [](int, const QByteArray &answer) {
+    ask(command, wifi, [](int, const QByteArray &answer) {
         status = WpaAnswers::status(answer);
-        emit s_wifi->statusChanged();
+        emit wifi->statusChanged();
     });
 }
 
 void Wifi::scanResults()
 {
-    if (!s_wifi || s_wifi->m_reading)
+    if (!wifi || wifi->m_reading)
         return;
-    s_wifi->m_reading = true;
-    s_wifi->m_found.clear();
-    s_wifi->askForNetwork(0);
+    wifi->m_reading = true;
+    wifi->m_found.clear();
+    wifi->askForNetwork(0);
 }
 
 void Wifi::askForNetwork(int number)
@@ -206,9 +206,9 @@ void Wifi::reconfigureNetwork()
 void Wifi::saveConfig(QObject *context, Done done)
 {
     const QPointer<QObject> asker(context);
-    askOk("SAVE_CONFIG", s_wifi ? s_wifi : context, [asker, done](bool ok) {
-        if (s_wifi)
-            s_wifi->m_shell.run(QStringLiteral("sync"));
+    askOk("SAVE_CONFIG", wifi ? wifi : context, [asker, done](bool ok) {
+        if (wifi)
+            wifi->m_shell.run(QStringLiteral("sync"));
         if (asker)
             done(ok);
     });
@@ -246,7 +246,7 @@ void Wifi::configNetworkWithAuth(int id, const WifiInfo &info, const QString &pa
 void Wifi::addSsid(const WifiInfo &info, const QString &password, QObject *context, Number done)
 {
     // The steps run to their end even when the asker is gone: a half-configured network must not stay behind.
-    QObject *keeper = s_wifi ? s_wifi : context;
+    QObject *keeper = wifi ? wifi : context;
     const QPointer<QObject> asker(context);
     const Number answer = [asker, done](int number) {
         if (asker)
@@ -273,9 +273,9 @@ void Wifi::addSsid(const WifiInfo &info, const QString &password, QObject *conte
 void Wifi::change2Network(int id, QObject *context, Done done)
 {
     const QPointer<QObject> asker(context);
-    selectNetwork(id, s_wifi ? s_wifi : context, [asker, done](bool ok) {
-        if (s_wifi)
-            saveConfig(s_wifi, [](bool) {});
+    selectNetwork(id, wifi ? wifi : context, [asker, done](bool ok) {
+        if (wifi)
+            saveConfig(wifi, [](bool) {});
         if (asker)
             done(ok);
     });

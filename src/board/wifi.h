@@ -1,6 +1,6 @@
 #pragma once
 
-#include "board/shellqueue.h"
+#include "platform/shellqueue.h"
 #include "board/wifiinfo.h"
 #include "board/wpaanswers.h"
 #include "board/wpachannel.h"
@@ -100,7 +100,6 @@ private:
     void askForNetwork(int number);
     void takeNetworks();
 
-    static Wifi *s_wifi;
     static QVector<WifiInfo> s_networks;
 
     QTimer m_statusTimer;
@@ -108,3 +107,6 @@ private:
     QVector<WifiInfo> m_found; // of the list that is being read
     bool m_reading = false;
 };
+
+/// The one object, from its construction to its end.
+extern Wifi *wifi;

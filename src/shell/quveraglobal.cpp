@@ -7,6 +7,7 @@
 #include "board/backlight.h"
 #include "device/deviceinit.h"
 #include "board/screenshot.h"
+#include "board/wifi.h"
 #include "shell/navigator.h"
 #include "services/modbuspublisher.h"
 #include "services/iremote.h"
@@ -41,6 +42,7 @@ void appInit()
 {
     qRegisterMetaType<_quvera_ui_type>("QuveraUiType");
 
+    wifi = new Wifi;
     m_taskmanage = new TaskManage;
     m_idevice = new IDevice;
     ModbusPublisher::publishSettings();
@@ -61,6 +63,7 @@ void appInit()
 
     m_remote_ctrl = new IRemote(nullptr);
     systemTray = new SystemTray;
+    systemTray->setWirelessQuery(&Wifi::isWifiConnected);
     udisk = new uDiskStorage;
 }
 

@@ -18,7 +18,7 @@ class SystemTray : public QObject
 public:
     explicit SystemTray(QObject *parent = nullptr);
 
-    /// How to learn whether the wireless network is joined; the wireless service lives in a folder above this one.
+    /// How to learn whether the wireless network is joined; the object graph gives the wireless service's answer.
     void setWirelessQuery(const std::function<bool()> &query) { m_wirelessJoined = query; }
 
     /// Texts that stand in turn with the set-up line, one a cycle.

@@ -1,7 +1,7 @@
 #include "board/qwpactrl.h"
-#include "board/shellqueue.h"
 #include "board/wifi.h"
 #include "scripteddaemon.h"
+#include "standins.h"
 
 #include <QFile>
 #include <QSignalSpy>
@@ -32,8 +32,6 @@ private slots:
     void listOfTenThousandIsBounded();
     void daemonThatDiesInAListShowsNoNetworks();
     void pageScansEverySecond();
-    void commandsRunOneAfterTheOther();
-    void linkThatFlapsLeavesFewCommands();
     void shellThatHangsStopsNoTimer();
     void namesAreTurnedBackIntoText();
 
@@ -57,15 +55,6 @@ QByteArrayList shellCommands()
     QByteArrayList lines = file.readAll().split('\n');
     lines.removeLast(); // behind the last line feed
     return lines;
-}
-
-/// Puts a script in the place of one of the desk's commands.
-void setStandIn(const QString &name, const QByteArray &script)
-{
-    QFile file(Target::path(QStringLiteral("/bin/") + name));
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    QVERIFY(file.write("#!/bin/sh\n" + script) > 0);
-    QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
 }
 
 } // namespace
@@ -99,6 +88,7 @@ void TstWifiState::openingJoinsOnceAndScans()
     m_daemon->event("<3>CTRL-EVENT-CONNECTED - Connection completed");
     QTRY_VERIFY(!Wifi::is_openning);
     QVERIFY(Wifi::is_opened);
+    QTRY_COMPARE(shellCommands(), QByteArrayList({ "udhcpc -i wlan0" }));
     Wifi::stopScan();
     QVERIFY(!Wifi::wpaCtrl->isScanning());
     Wifi::open();
@@ -260,28 +250,6 @@ void TstWifiState::pageScansEverySecond()
     QTRY_VERIFY_WITH_TIMEOUT(m_daemon->count("SCAN") >= 3, 15000);
     Wifi::restoreScanInv();
     QCOMPARE(Wifi::wpaCtrl->scanInterval(), 5000);
-}
-
-void TstWifiState::commandsRunOneAfterTheOther()
-{
-    ShellQueue queue;
-    queue.run(QStringLiteral("sleep 0.1; echo first >> /var/log/commands"));
-    queue.run(QStringLiteral("/no/such/command"));
-    queue.run(QStringLiteral("echo second >> /var/log/commands"));
-    QVERIFY(shellCommands().isEmpty());
-    QTRY_COMPARE(shellCommands(), QByteArrayList({ "first", "second" }));
-}
-
-void TstWifiState::linkThatFlapsLeavesFewCommands()
-{
-    ShellQueue queue;
-    queue.run(QStringLiteral("sleep 0.2"));
-    for (int i = 0; i < 1000; ++i) {
-        queue.run(QStringLiteral("echo left >> /var/log/commands"));
-        queue.run(QStringLiteral("echo joined >> /var/log/commands"));
-    }
-    queue.run(QStringLiteral("echo left >> /var/log/commands"));
-    QTRY_COMPARE(shellCommands(), QByteArrayList({ "joined", "left" }));
 }
 
 void TstWifiState::shellThatHangsStopsNoTimer()

@@ -1,4 +1,4 @@
-#include "board/shellqueue.h"
+#include "platform/shellqueue.h"
 
 #include "platform/target.h"
 
@@ -12,6 +12,11 @@ ShellQueue::ShellQueue(QObject *parent) : QObject(parent)
         if (error == QProcess::FailedToStart)
             QMetaObject::invokeMethod(this, &ShellQueue::startNext, Qt::QueuedConnection);
     });
+}
+
+ShellQueue::~ShellQueue()
+{
+    m_shell.disconnect(this); // its end would start the next one
 }
 
 void ShellQueue::run(const QString &command)

@@ -12,6 +12,8 @@ class ShellQueue : public QObject
 
 public:
     explicit ShellQueue(QObject *parent = nullptr);
+    /// Ends the command that runs and forgets those that wait.
+    ~ShellQueue() override;
 
     /// Queues a command of the board. One that waits already moves to the end instead of standing there twice, so that
     /// a link that flaps leaves few commands, and the last of them are those of its last state.

@@ -1,0 +1,99 @@
+#include "platform/shellqueue.h"
+#include "platform/target.h"
+
+#include <QFile>
+#include <QTest>
+#include <QTimer>
+
+/// Commands of the board in the background.
+class TstShellQueue : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void commandsRunOneAfterTheOther();
+    void repeatedCommandsMoveToTheEnd();
+    void queueMayGoWhileCommandsRun();
+    void slowCommandStopsNoTimer();
+    void commandsAreThoseOfTheDesk();
+};
+
+namespace {
+
+/// What the commands of a test wrote into one file, line by line.
+QByteArrayList ran()
+{
+    QFile file(Target::path(QStringLiteral("/var/log/ran")));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QByteArrayList lines = file.readAll().split('\n');
+    lines.removeLast(); // behind the last line feed
+    return lines;
+}
+
+} // namespace
+
+void TstShellQueue::init()
+{
+    QFile::remove(Target::path(QStringLiteral("/var/log/ran")));
+}
+
+void TstShellQueue::commandsRunOneAfterTheOther()
+{
+    ShellQueue queue;
+    queue.run(QStringLiteral("sleep 0.1; echo first >> /var/log/ran"));
+    queue.run(QStringLiteral("/no/such/command"));
+    queue.run(QStringLiteral("echo second >> /var/log/ran"));
+    QVERIFY(ran().isEmpty());
+    QTRY_COMPARE(ran(), QByteArrayList({ "first", "second" }));
+}
+
+void TstShellQueue::repeatedCommandsMoveToTheEnd()
+{
+    ShellQueue queue;
+    queue.run(QStringLiteral("sleep 0.2"));
+    for (int i = 0; i < 1000; ++i) {
+        queue.run(QStringLiteral("echo left >> /var/log/ran"));
+        queue.run(QStringLiteral("echo joined >> /var/log/ran"));
+    }
+    queue.run(QStringLiteral("echo left >> /var/log/ran"));
+    QTRY_COMPARE(ran(), QByteArrayList({ "joined", "left" }));
+}
+
+void TstShellQueue::queueMayGoWhileCommandsRun()
+{
+    {
+        ShellQueue queue;
+        queue.run(QStringLiteral("sleep 1"));
+        queue.run(QStringLiteral("echo waited >> /var/log/ran"));
+    }
+    QTest::qWait(50);
+    QVERIFY(ran().isEmpty());
+}
+
+void TstShellQueue::slowCommandStopsNoTimer()
+{
+    ShellQueue queue;
+    int turns = 0;
+    QTimer screen;
+    connect(&screen, &QTimer::timeout, this, [&turns] { ++turns; });
+    screen.start(10);
+    queue.run(QStringLiteral("sleep 0.5; echo slow >> /var/log/ran"));
+    QCOMPARE(turns, 0);
+    QTRY_COMPARE(ran(), QByteArrayList({ "slow" }));
+    QVERIFY2(turns >= 5, qPrintable(QString::number(turns)));
+}
+
+void TstShellQueue::commandsAreThoseOfTheDesk()
+{
+    ShellQueue queue;
+    queue.run(QStringLiteral("udhcpc -i wlan0 > /dev/null 2>&1 &"));
+    QFile noted(Target::path(QStringLiteral("/var/log/commands")));
+    QTRY_VERIFY(noted.exists() && noted.size() > 0);
+    QVERIFY(noted.open(QIODevice::ReadOnly));
+    QCOMPARE(noted.readAll(), QByteArray("udhcpc -i wlan0\n"));
+}
+
+QTEST_GUILESS_MAIN(TstShellQueue)
+#include "tst_shellqueue.moc"
