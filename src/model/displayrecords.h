@@ -5,15 +5,13 @@
 
 #include <QList>
 
-// Records that the pages show. The task writes them, the pages allocate and read them; all on the main thread.
+// Records that the pages show. LiveData owns them, the task writes them, the pages read them; all on the main thread.
 
 constexpr int kTrendPoints = 600; // one a second: ten minutes
 
-/// Trend of one quantity: extremes of the phases together [0] and of the fourth channel [1], and a series per channel.
+/// Trend of one quantity: a series per channel.
 struct __trend_data
 {
-    float max[2] = { 0, 0 };
-    float min[2] = { 0, 0 };
     QList<float> series[kChannels];
 };
 
@@ -151,8 +149,6 @@ struct __flicker_data
 /// Half-cycle r.m.s. trends: series 0 to 3 the voltages, 4 to 7 the currents.
 struct __rms_trend_data
 {
-    float max[2] = {};
-    float min[2] = {};
     QList<float> voltage[kChannels]; // V
     QList<float> current[kChannels]; // A
 };
@@ -174,7 +170,7 @@ struct __mains_sig_data
     QList<float> frequencyTrend; // Hz, magnitude
 };
 
-/// Power inverter values; the page fills them from the live records.
+/// Power inverter values, derived from the live records.
 struct __pi_data
 {
     float inputPower = 0; // W
@@ -187,19 +183,3 @@ struct __pi_data
     float frequency = 0; // Hz
     __trend_data trend[6];
 };
-
-extern __vif_data *g_vif_data;
-extern __power_data *g_power_data;
-extern __power_data *g_power_data_ui;
-extern harm_data *g_harm_data;
-extern __unbalance_data *g_unbalance_data;
-extern __scope_data *g_scope_data;
-extern __scope_data_ui *g_scope_data_ui;
-extern __flicker_data *g_flicker_data;
-extern __trans_data *g_trans_data;
-extern __rms_trend_data *g_inrush_data;
-extern __rms_trend_data *g_inrush_trend_data;
-extern __rms_trend_data *g_dipswell_trend;
-extern __rms_trend_data *g_dipswell_trend_ui;
-extern __mains_sig_data *g_mains_sig;
-extern __pi_data *g_pi_data;

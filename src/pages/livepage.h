@@ -3,7 +3,7 @@
 #include "pages/page.h"
 
 /// A page that shows live records: hold and run on F5, the stop watch, a refresh with every update of the task. It
-/// computes no measurement; it reads the global display records, which may still be null.
+/// computes no measurement; it reads the records that are shown.
 class LivePage : public Page
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ public:
 public slots:
     virtual void setPause();
     virtual void setContinue();
-    /// Redraws from the global record; must be harmless when called twice. The argument is always 0.
+    /// Redraws from the records that are shown; must be harmless when called twice. The argument is always 0.
     virtual void updateDisplay(void *) { }
     virtual void stopWatchChanged(const QString &text);
     /// A run begins: forget what was shown.

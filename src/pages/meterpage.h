@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/displayunits.h"
+#include "model/livedata.h"
 #include "pages/labelgrid.h"
 #include "pages/livepage.h"
 
@@ -31,7 +32,7 @@ class MeterPage : public LivePage
     Q_OBJECT
 
 public:
-    using LivePage::LivePage;
+    MeterPage(_quvera_ui_type type, const LiveData &data, QWidget *parent) : LivePage(type, parent), m_data(data) { }
 
 public slots:
     void updateDisplay(void *) override { showCurParams(); }
@@ -52,8 +53,9 @@ protected:
     /// Everything that follows the wiring, the units and the language.
     virtual void showTitle();
     virtual void showHeaders() { ChannelLabels::showHeaders(m_headers); }
-    /// The latest record, if there is one.
+    /// The values of the records that are shown.
     virtual void showCurParams() = 0;
+    const DisplayRecords &shown() const { return m_data.shown(); }
     void showCaptions();
 
     ChannelLabels::LabelRow m_headers;
@@ -63,6 +65,7 @@ private:
     void addLine(const MeterGrid &grid, const MeterLine &line, const char *fourth);
     void finishRows(const MeterGrid &grid);
 
+    const LiveData &m_data;
     std::vector<const MeterLine *> m_lines;
     std::vector<QLabel *> m_captions; // in the same order
 };

@@ -34,18 +34,18 @@ QVector<float> decimate(const QList<float> &values, const Window &window, float 
 }
 
 TrendScaler::Picture scale(const QList<float> (&lists)[kChannels], const Window &window, float reference, double factor,
-                           float *max, float *min, int counted)
+                           int counted)
 {
     TrendScaler::Picture picture;
-    if (window.offset >= lists[0].size() || !TrendScaler::findExtremes(lists, max, min, counted))
+    if (window.offset >= lists[0].size() || !TrendScaler::findExtremes(lists, picture.max, picture.min, counted))
         return picture;
-    TrendScaler::labelLimits(picture, max, min, factor);
+    TrendScaler::labelLimits(picture, factor);
     for (int c = 0; c < kChannels; ++c) {
         const int group = c < 3 ? 0 : 1;
         const QVector<float> points = decimate(lists[c], window, reference);
         picture.series[c].reserve(points.size());
         for (const float value : points)
-            picture.series[c].append(TrendScaler::bandOffset(value, min[group], max[group]));
+            picture.series[c].append(TrendScaler::bandOffset(value, picture.min[group], picture.max[group]));
     }
     return picture;
 }
@@ -71,26 +71,6 @@ QStringList axisLabels(int count, int seconds, int extra)
             labels << QStringLiteral("%1m%2s").arg(t / 60).arg(t % 60);
     }
     return labels;
-}
-
-void takeValues(__rms_trend_data &from, __rms_trend_data &to, int limit)
-{
-    const auto take = [limit](QList<float> &source, QList<float> &target) {
-        target.append(source);
-        source.clear();
-        const int excess = target.size() - std::max(limit, 0);
-        if (excess > 0)
-            target.erase(target.begin(), target.begin() + excess);
-    };
-    for (int c = 0; c < kChannels; ++c) {
-        take(from.voltage[c], to.voltage[c]);
-        take(from.current[c], to.current[c]);
-    }
-}
-
-void clear(__rms_trend_data &record)
-{
-    record = __rms_trend_data();
 }
 
 namespace {

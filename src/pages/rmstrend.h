@@ -27,11 +27,11 @@ struct Window
 /// zoom. What is no number counts as 0. An offset beyond the list gives no points.
 QVector<float> decimate(const QList<float> &values, const Window &window, float reference);
 
-/// Offsets and limit labels of four lists. Extremes count over the whole lists, so that paging does not rescale, and go
-/// to \a max and \a min; only the lists of the mask \a counted count. \a factor is the display scale of the labels.
-/// Empty without values in the first list or with an offset beyond it.
+/// Offsets and limit labels of four lists. Extremes count over the whole lists, so that paging does not rescale; only
+/// the lists of the mask \a counted count. \a factor is the display scale of the labels. Empty without values in the
+/// first list or with an offset beyond it.
 TrendScaler::Picture scale(const QList<float> (&lists)[kChannels], const Window &window, float reference, double factor,
-                           float *max, float *min, int counted = TrendScaler::kAllSeries);
+                           int counted = TrendScaler::kAllSeries);
 
 /// Value under a cursor that stands on the \a position th point from the right edge, 1 to 600: the oldest value behind
 /// that point. 0 for an empty list or an offset beyond it; positions before the first value give the first.
@@ -39,12 +39,6 @@ float valueAt(const QList<float> &values, const Window &window, int position);
 
 /// Labels of a time axis over \a seconds, oldest first: "6s", "2m", "1m30s". \a extra seconds are added to the whole.
 QStringList axisLabels(int count, int seconds, int extra = 0);
-
-/// Moves all values of \a from to the end of the lists of \a to, which then keep the newest \a limit values each.
-void takeValues(__rms_trend_data &from, __rms_trend_data &to, int limit);
-
-/// Empties lists and extremes.
-void clear(__rms_trend_data &record);
 
 /// Saved record: bytes of the r.m.s. block, bytes of the event block (4 bytes each); of each of the eight lists as many
 /// values as the first list has, missing ones 0; the twelve words of each event.

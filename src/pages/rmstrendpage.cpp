@@ -74,16 +74,14 @@ void RmsTrendPage::showEventsCounts(int count)
 
 void RmsTrendPage::updateDisplay(void *)
 {
-    if (!isRunning())
-        return;
-    if (freshRecord() && shownRecord())
-        RmsTrend::takeValues(*freshRecord(), *shownRecord(), valuesPerSecond() * keptSeconds());
-    showTrend();
+    if (isRunning())
+        showTrend();
 }
 
-const RmsTrendPage::Lists &RmsTrendPage::shownLists(const __rms_trend_data &record) const
+const RmsTrendPage::Lists &RmsTrendPage::shownLists() const
 {
-    return m_quantity == Current ? record.current : record.voltage;
+    const __rms_trend_data &shown = record(m_data.shown());
+    return m_quantity == Current ? shown.current : shown.voltage;
 }
 
 void RmsTrendPage::changeType()
@@ -104,16 +102,12 @@ void RmsTrendPage::showType()
 
 void RmsTrendPage::showTrend()
 {
-    __rms_trend_data *record = shownRecord();
-    if (!record)
-        return;
     const DisplayUnits &units = m_settingConfig_g.units();
     const bool current = m_quantity == Current;
     // A dip or swell lies far from the nominal voltage, an inrush far from no current.
     const int flags = ChannelLabels::channels().dipTrendFlags();
-    m_picture = RmsTrend::scale(shownLists(*record), m_window, current ? 0.0f : m_settingConfig_g.getRealNominalVolt(),
-                                current ? units.factorAmpere : units.factorVolt, record->max, record->min,
-                                TrendScaler::seriesOf(flags));
+    m_picture = RmsTrend::scale(shownLists(), m_window, current ? 0.0f : m_settingConfig_g.getRealNominalVolt(),
+                                current ? units.factorAmpere : units.factorVolt, TrendScaler::seriesOf(flags));
     m_chart->setFlags(flags);
     if (!m_picture.upper[0].isNull())
         m_chart->setLimits(m_picture.upper, m_picture.lower);
@@ -127,12 +121,9 @@ void RmsTrendPage::showTrend()
 
 void RmsTrendPage::showCurVal()
 {
-    const __rms_trend_data *record = shownRecord();
-    if (!record)
-        return;
     float values[kChannels];
     for (int c = 0; c < kChannels; ++c)
-        values[c] = RmsTrend::valueAt(shownLists(*record)[c], m_window, m_cursorOn ? m_position : 1);
+        values[c] = RmsTrend::valueAt(shownLists()[c], m_window, m_cursorOn ? m_position : 1);
     ChannelLabels::showValues(m_values, values, m_quantity == Current ? F_to_Str::number_A : F_to_Str::number_V);
 }
 
@@ -219,12 +210,9 @@ void RmsTrendPage::changeCursorPos(int step)
 
 void RmsTrendPage::moveCursorL()
 {
-    const __rms_trend_data *record = shownRecord();
-    if (!record)
-        return;
     if (m_position < m_picture.series[0].size()) {
         ++m_position;
-    } else if (m_position == RmsTrend::kPoints && m_window.offset + m_window.values() < shownLists(*record)[0].size()) {
+    } else if (m_position == RmsTrend::kPoints && m_window.offset + m_window.values() < shownLists()[0].size()) {
         m_window.offset += kPage;
         m_position = 1;
         showTrend();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/livedata.h"
 #include "model/trendzoom.h"
 #include "pages/channellabels.h"
 #include "pages/rmstrend.h"
@@ -31,7 +32,7 @@ public:
     const RmsTrend::Window &window() const { return m_window; }
 
 public slots:
-    /// Takes the new values over and redraws; nothing on hold.
+    /// Redraws; nothing on hold.
     void updateDisplay(void *) override;
     void init_parameter() override;
     void retranslateUi() override;
@@ -39,17 +40,15 @@ public slots:
     void showEventsCounts(int count);
 
 protected:
-    using LivePage::LivePage;
+    RmsTrendPage(_quvera_ui_type type, const LiveData &data, QWidget *parent) : LivePage(type, parent), m_data(data) { }
 
     /// Labels of the form are found by their names; the keys F1 to F4, left and right get their actions. To be called
     /// once, after the form exists.
     void setUp(CursorTrendChart *chart);
 
-    /// The task's lists, and this page's copy of them; null before the first run.
-    virtual __rms_trend_data *freshRecord() const = 0;
-    virtual __rms_trend_data *shownRecord() const = 0;
+    /// The lists that the page shows.
+    virtual const __rms_trend_data &record(const DisplayRecords &shown) const = 0;
     virtual int valuesPerSecond() const = 0;
-    virtual int keptSeconds() const = 0; // values beyond are dropped
     virtual QVector<TrendZoom> zoomSteps() const = 0; // longest first
     virtual int zoomIndex() const = 0;
     virtual void zoomIndexChanged(int index) = 0;
@@ -80,8 +79,9 @@ private:
     void showCurVal();
     void showScaleList();
     using Lists = QList<float>[kChannels];
-    const Lists &shownLists(const __rms_trend_data &record) const;
+    const Lists &shownLists() const;
 
+    const LiveData &m_data;
     CursorTrendChart *m_chart = nullptr;
     Btn2 *m_cursorButton = nullptr;
     Btn3 *m_zoomButton = nullptr;

@@ -6,8 +6,8 @@
 
 #include <QLabel>
 
-TrendPage::TrendPage(_quvera_ui_type type, const std::vector<Quantity> &cycle, QWidget *parent)
-    : LivePage(type, parent), m_cycle(cycle)
+TrendPage::TrendPage(_quvera_ui_type type, const LiveData &data, const std::vector<Quantity> &cycle, QWidget *parent)
+    : LivePage(type, parent), m_data(data), m_cycle(cycle)
 { }
 
 void TrendPage::initTrend(const QStringList &axis, const char *chart, const char *captionEnd)
@@ -34,8 +34,7 @@ void TrendPage::retranslateUi()
     LivePage::retranslateUi();
     initTrendFlags();
     showType();
-    if (quantity().record())
-        showValue(); // on hold no refresh would bring it back
+    showValue(); // on hold no refresh would bring it back
 }
 
 void TrendPage::nextType()
@@ -80,10 +79,8 @@ ChannelLabels::LabelRow TrendPage::drawn(ChannelLabels::LabelRow row) const
 
 void TrendPage::showTrend()
 {
-    __trend_data *record = quantity().record();
-    if (!record)
-        return;
-    m_picture = TrendScaler::scale(*record, quantity().factor(), TrendScaler::seriesOf(quantity().flags()));
+    const Quantity &q = quantity();
+    m_picture = TrendScaler::scale(q.record(m_data.shown()), q.factor(), TrendScaler::seriesOf(q.flags()));
     if (!m_picture.upper[0].isNull())
         m_chart->setLimits(m_picture.upper, m_picture.lower);
     __trend_chart_data data;
@@ -96,15 +93,16 @@ void TrendPage::showTrend()
 void TrendPage::showValue()
 {
     const Quantity &q = quantity();
+    const Values values = q.values(m_data.shown());
     if (q.single) {
         if (q.plain)
-            setText(m_values[0], q.format(*q.values()));
+            setText(m_values[0], q.format(values[0]));
         else
-            ChannelLabels::showFrequency(m_values[0], *q.values(), QString());
+            ChannelLabels::showFrequency(m_values[0], values[0], QString());
         return;
     }
-    ChannelLabels::showValues(drawn(m_values), q.values(), q.format);
+    ChannelLabels::showValues(drawn(m_values), values.data(), q.format);
     // A total stands in the fourth place whatever the wiring; where there is none the place stays empty.
     if (q.fourthCaption)
-        setText(m_values[3], *q.fourthCaption ? q.format(q.values()[3]) : QString());
+        setText(m_values[3], *q.fourthCaption ? q.format(values[3]) : QString());
 }

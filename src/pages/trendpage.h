@@ -1,11 +1,14 @@
 #pragma once
 
+#include "model/livedata.h"
 #include "pages/channellabels.h"
 #include "pages/trendscaler.h"
 #include "pages/livepage.h"
 
 #include <QStringList>
 
+#include <algorithm>
+#include <array>
 #include <vector>
 
 class QLabel;
@@ -19,15 +22,25 @@ class TrendPage : public LivePage
     Q_OBJECT
 
 public:
+    using Values = std::array<float, kChannels>;
+    /// Values out of an array of a record, which may have fewer places than there are channels.
+    template <std::size_t N> static Values valuesOf(const float (&array)[N])
+    {
+        static_assert(N <= kChannels, "a place for each channel");
+        Values values = {};
+        std::copy(std::begin(array), std::end(array), values.begin());
+        return values;
+    }
+
     /// One quantity that the page can show.
     struct Quantity
     {
         int type; // selector value
         QString (*caption)(); // with its unit
-        __trend_data *(*record)(); // null while there is none
+        const __trend_data &(*record)(const DisplayRecords &);
         double (*factor)(); // display scale of the limit labels
         int (*flags)(); // curves of the chart
-        const float *(*values)(); // latest values of the four channels
+        Values (*values)(const DisplayRecords &); // latest ones of the four channels
         QString (*format)(float);
         bool single = false; // one value without a channel: the frequency, with its grey rule
         const char *fourthCaption = nullptr; // in place of the neutral's, such as "T :"
@@ -43,7 +56,7 @@ public slots:
 
 protected:
     /// \a cycle in the order of F1; it outlives the page.
-    TrendPage(_quvera_ui_type type, const std::vector<Quantity> &cycle, QWidget *parent);
+    TrendPage(_quvera_ui_type type, const LiveData &data, const std::vector<Quantity> &cycle, QWidget *parent);
 
     /// To be called once the form exists, before setKeys.
     /// \a chart: name of the chart in the form; \a captionEnd follows the channel in the captions of the values.
@@ -63,6 +76,7 @@ private:
     /// \a row without the phases that have no curve.
     ChannelLabels::LabelRow drawn(ChannelLabels::LabelRow row) const;
 
+    const LiveData &m_data;
     const std::vector<Quantity> &m_cycle;
     std::size_t m_index = 0;
     VifTrendChart *m_chart = nullptr;

@@ -47,11 +47,6 @@ int seriesOf(int trendFlags)
     return series;
 }
 
-bool findExtremes(__trend_data &record, int counted)
-{
-    return findExtremes(record.series, record.max, record.min, counted);
-}
-
 bool findExtremes(const QList<float> (&series)[kChannels], float *max, float *min, int counted)
 {
     if (series[0].isEmpty())
@@ -88,23 +83,23 @@ QVector<qint16> offsets(const QList<float> &values, float min, float max)
     return result;
 }
 
-void labelLimits(Picture &picture, const float *max, const float *min, double factor)
+void labelLimits(Picture &picture, double factor)
 {
     for (int group = 0; group < 2; ++group) {
-        picture.upper[group] = QString::number(qint64(max[group] * factor));
-        picture.lower[group] = QString::number(qint64(min[group] * factor));
+        picture.upper[group] = QString::number(qint64(picture.max[group] * factor));
+        picture.lower[group] = QString::number(qint64(picture.min[group] * factor));
     }
 }
 
-Picture scale(__trend_data &record, double factor, int counted)
+Picture scale(const __trend_data &record, double factor, int counted)
 {
     Picture picture;
-    if (!findExtremes(record, counted))
+    if (!findExtremes(record.series, picture.max, picture.min, counted))
         return picture;
-    labelLimits(picture, record.max, record.min, factor);
+    labelLimits(picture, factor);
     for (int c = 0; c < kChannels; ++c) {
         const int group = c < 3 ? 0 : 1;
-        picture.series[c] = offsets(record.series[c], record.min[group], record.max[group]);
+        picture.series[c] = offsets(record.series[c], picture.min[group], picture.max[group]);
     }
     return picture;
 }

@@ -25,29 +25,29 @@ constexpr int kAllSeries = (1 << kChannels) - 1;
 /// a single value in the fourth band in the fourth.
 int seriesOf(int trendFlags);
 
-/// Extremes of the first three series together [0] and of the fourth [1], rounded outward, stored into the record.
-/// Only the series of the mask \a counted count: an input that the wiring does not have may stand at any value and
-/// would flatten the curves of the others. False without any value in series 0.
-bool findExtremes(__trend_data &record, int counted = kAllSeries);
-/// The same of four lists, into \a max and \a min with two places each.
+/// Extremes of the first three series together [0] and of the fourth [1], rounded outward, into \a max and \a min
+/// with two places each. Only the series of the mask \a counted count: an input that the wiring does not have may stand
+/// at any value and would flatten the curves of the others. False without any value in series 0.
 bool findExtremes(const QList<float> (&series)[kChannels], float *max, float *min, int counted = kAllSeries);
 
 /// At most the last 600 points of \a values as offsets between \a min and \a max.
 QVector<qint16> offsets(const QList<float> &values, float min, float max);
 
-/// The four series of one picture and its limit labels.
+/// The four series of one picture, what they were scaled between, and its limit labels.
 struct Picture
 {
+    float max[2] = {}; // phases, fourth channel
+    float min[2] = {};
     QVector<qint16> series[kChannels];
     QString upper[2]; // phases, fourth channel
     QString lower[2];
 };
 
-/// Limit labels of \a picture: whole numbers of the extremes (two places each) times \a factor.
-void labelLimits(Picture &picture, const float *max, const float *min, double factor);
+/// Limit labels of \a picture: whole numbers of its extremes times \a factor.
+void labelLimits(Picture &picture, double factor);
 
 /// Scales \a record by its series \a counted; \a factor is the display scale of the limit labels. Without values the
 /// picture is empty and the labels are null.
-Picture scale(__trend_data &record, double factor, int counted = kAllSeries);
+Picture scale(const __trend_data &record, double factor, int counted = kAllSeries);
 
 } // namespace TrendScaler

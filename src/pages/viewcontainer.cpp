@@ -4,8 +4,8 @@
 
 #include <QStackedWidget>
 
-ViewContainer::ViewContainer(_quvera_ui_type type, SaveIdentity identity, QWidget *parent)
-    : FunctionPage(type, identity, parent), m_stack(new QStackedWidget(this))
+ViewContainer::ViewContainer(_quvera_ui_type type, SaveIdentity identity, const LiveData &data, QWidget *parent)
+    : FunctionPage(type, identity, parent), m_data(data), m_stack(new QStackedWidget(this))
 {
     resize(640, 448);
     LabelLook::setBackground(this, QStringLiteral("black"));

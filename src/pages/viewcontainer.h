@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/livedata.h"
 #include "pages/functionpage.h"
 
 #include <QList>
@@ -12,7 +13,8 @@ class ViewContainer : public FunctionPage
     Q_OBJECT
 
 public:
-    ViewContainer(_quvera_ui_type type, SaveIdentity identity, QWidget *parent = nullptr);
+    /// \a data outlives the page.
+    ViewContainer(_quvera_ui_type type, SaveIdentity identity, const LiveData &data, QWidget *parent = nullptr);
 
     LivePage *currentPage() const;
     const QList<LivePage *> &pages() const { return m_pages; }
@@ -30,14 +32,16 @@ protected:
     /// Takes over \a page, forwards its navigation, run and pause, and sends it the task's answers.
     void addPage(LivePage *page);
     void showPage(LivePage *page);
-    /// Allocates the function's record at the first call, empties it at each further one. Runs before the sub pages.
+    /// Empties what the container itself keeps of a run. Runs before the sub pages begin theirs.
     virtual void initDisplayParam() { }
+    const DisplayRecords &shown() const { return m_data.shown(); }
 
     /// Only Save; everything else belongs to the sub pages or to the main window.
     bool pressKey(int key) override;
     void focusInEvent(QFocusEvent *event) override;
 
 private:
+    const LiveData &m_data;
     QStackedWidget *m_stack;
     QList<LivePage *> m_pages;
 };

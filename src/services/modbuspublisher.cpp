@@ -1,7 +1,7 @@
 #include "services/modbuspublisher.h"
 
 #include "settings/config_data.h"
-#include "model/displayrecords.h"
+#include "model/livedata.h"
 #include "services/modbusblocks.h"
 #include "services/modbusslave.h"
 #include "task/unitask.h"
@@ -45,10 +45,8 @@ void follow(UniTask *task)
         fillModbus(&mb_data_trans, *record, m_settingConfig_g.wvi());
         mbSlave.setModbusBigData(&mb_data_trans.head);
     });
-    QObject::connect(task, &UniTask::flickerTaken, task, [] {
-        if (!g_flicker_data)
-            return;
-        fillModbus(&mb_data_flicker, *g_flicker_data);
+    QObject::connect(task, &UniTask::flickerTaken, task, [task] {
+        fillModbus(&mb_data_flicker, task->live().flicker); // a hold of the display does not concern the master
         mbSlave.setModbusData(&mb_data_flicker.head);
     });
 }

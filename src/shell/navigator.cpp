@@ -1,5 +1,6 @@
 #include "shell/navigator.h"
 
+#include "model/livedata.h"
 #include "model/nominalfrequency.h"
 #include "model/pqaeventitem.h"
 #include "pages/functionpage.h"
@@ -38,7 +39,7 @@ Navigator::Navigator(TaskManage *tasks, MenuPage *menu, QStackedWidget *stack, Q
 void Navigator::makePages()
 {
     for (const PageRow &row : PageTable::rows()) {
-        FunctionPage *page = row.make ? row.make(m_tasks->links()) : nullptr;
+        FunctionPage *page = row.make ? row.make(m_tasks->links(), m_tasks->data()) : nullptr;
         m_pages.push_back(page);
         if (!page)
             continue;
@@ -75,6 +76,7 @@ void Navigator::retranslatePages()
 void Navigator::beginPages()
 {
     g_events_list.clear();
+    m_tasks->data().empty(float(m_settingConfig_g.getNomFreq()));
     for (const PageRow *row : PageTable::inTurn(&PageRow::beginTurn)) {
         if (FunctionPage *made = page(row->type))
             made->init_parameter();

@@ -43,7 +43,8 @@ public:
     void startRecordTask();
     /// Captions of menu and pages anew, in the table's turn.
     void retranslatePages();
-    /// Prepares a run before its task exists: empties the event list and what the pages show, in the table's turn.
+    /// Prepares a run before its task exists: empties the event list and the measured data, and lets the pages begin
+    /// anew, in the table's turn.
     void beginPages();
 
 signals:

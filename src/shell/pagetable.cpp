@@ -24,44 +24,44 @@ namespace {
 
 // A page's maker also ties what this page alone has to say to the task, or to hear of it.
 
-template <typename P> FunctionPage *make(TaskLinks &)
+template <typename P> FunctionPage *make(TaskLinks &, const LiveData &data)
 {
-    return new P;
+    return new P(data);
 }
 
-template <typename P> FunctionPage *makeWithEvents(TaskLinks &links)
+template <typename P> FunctionPage *makeWithEvents(TaskLinks &links, const LiveData &data)
 {
-    auto *page = new P;
+    auto *page = new P(data);
     QObject::connect(&links, &TaskLinks::eventListChanged, page, &P::refreshEventList);
     return page;
 }
 
-FunctionPage *makeHarmonics(TaskLinks &links)
+FunctionPage *makeHarmonics(TaskLinks &links, const LiveData &data)
 {
-    auto *page = new harm;
+    auto *page = new harm(data);
     QObject::connect(page, &harm::changeFlag, &links,
                      [page, &links](int flag) { links.ask(page, [flag](UniTask &task) { task.changeFlag(flag); }); });
     return page;
 }
 
-FunctionPage *makePower(TaskLinks &links)
+FunctionPage *makePower(TaskLinks &links, const LiveData &data)
 {
-    auto *page = new powen;
+    auto *page = new powen(data);
     QObject::connect(page, &powen::resetEnergy, &links,
                      [page, &links] { links.ask(page, [](UniTask &task) { task.resetEnergy(); }); });
     return page;
 }
 
-FunctionPage *makeTransients(TaskLinks &links)
+FunctionPage *makeTransients(TaskLinks &links, const LiveData &data)
 {
-    auto *page = new trans;
+    auto *page = new trans(data);
     QObject::connect(&links, &TaskLinks::transientsChanged, page, &trans::hasTransEvents);
     return page;
 }
 
-FunctionPage *makeInverter(TaskLinks &links)
+FunctionPage *makeInverter(TaskLinks &links, const LiveData &data)
 {
-    auto *page = new PowerInverter;
+    auto *page = new PowerInverter(data);
     QObject::connect(page, &PowerInverter::startPowerInverterTask, &links,
                      [&links] { emit links.startWanted(AbstractTask::UniPowerInverter, UI_POWER_INVERTER); });
     return page;
@@ -121,7 +121,7 @@ const PageRow kRows[] = {
       { 9, "mainssignaling", QT_TRANSLATE_NOOP("MenuPage", "Mains\nSignaling") },
       Plan::Live, kBasic, Hears::kLive, 16, 11, make<MainsSignaling> },
     { UI_POWER_INVERTER, QT_TRANSLATE_NOOP("BaseDialog", "Power Inverter"), kNoTile,
-      Plan::Commanded, AbstractTask::UniPowerInverter, Hears::kFront | Hears::Begin, 17, 12, makeInverter },
+      Plan::Commanded, AbstractTask::UniPowerInverter, Hears::kLive, 17, 12, makeInverter },
     // The recorder. Recording runs inside the basic function.
     { UI_LOGGER, QT_TRANSLATE_NOOP("BaseDialog", "Logger"),
       { 11, "logger", QT_TRANSLATE_NOOP("MenuPage", "Logger\n") },

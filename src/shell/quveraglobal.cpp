@@ -2,6 +2,7 @@
 
 #include "shell/basedialog.h"
 #include "settings/langtranslation.h"
+#include "model/livedata.h"
 #include "storage/udiskstorage.h"
 #include "settings/userconfig.h"
 #include "board/backlight.h"
@@ -43,7 +44,8 @@ void appInit()
     qRegisterMetaType<_quvera_ui_type>("QuveraUiType");
 
     wifi = new Wifi;
-    m_taskmanage = new TaskManage;
+    auto *data = new LiveData; // like all of this graph never deleted
+    m_taskmanage = new TaskManage(*data);
     m_idevice = new IDevice;
     ModbusPublisher::publishSettings();
     // Before any page exists: the processor sets itself up while the pages are built.

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "settings/config_data.h"
-#include "model/displayrecords.h"
 #include "device/idevice.h"
 
 class BaseDialog;
@@ -34,5 +33,5 @@ void appInit();
 void appConnection();
 /// Wires the language change to the pages.
 void langConnection();
-/// Empties the event list and prepares the display records. Runs before a task, which writes them.
+/// Empties the event list and the measured data, and lets the pages begin anew. Runs before a task.
 void initUiParameter();

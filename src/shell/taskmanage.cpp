@@ -5,7 +5,7 @@
 #include "shell/tasklinks.h"
 #include "task/unitask.h"
 
-TaskManage::TaskManage(QObject *parent) : QObject(parent), m_links(new TaskLinks(this))
+TaskManage::TaskManage(LiveData &data, QObject *parent) : QObject(parent), m_data(data), m_links(new TaskLinks(this))
 {
     connect(m_links, &TaskLinks::runWanted, this, &TaskManage::continueTask);
     connect(m_links, &TaskLinks::pauseWanted, this, &TaskManage::pauseTask);
@@ -34,7 +34,7 @@ AbstractTask *TaskManage::initTask(TaskManage::__type type)
     if (type != Universal)
         return nullptr;
     delete g_unitask;
-    g_unitask = new UniTask(this);
+    g_unitask = new UniTask(m_data, this);
     m_links->follow(g_unitask);
     return g_unitask;
 }

@@ -5,6 +5,7 @@
 
 #include <QObject>
 
+class LiveData;
 class TaskLinks;
 
 /// Owns the current task and, in its links, what ties it to the pages and to the device. All operations tolerate that
@@ -16,7 +17,10 @@ class TaskManage : public QObject
 public:
     enum __type { Universal = 13 };
 
-    explicit TaskManage(QObject *parent = nullptr);
+    /// \a data, which each task writes, outlives this.
+    explicit TaskManage(LiveData &data, QObject *parent = nullptr);
+
+    LiveData &data() { return m_data; }
 
     AbstractTask *currentTask() const { return m_curTask; }
     int curTaskType() const { return m_curTaskType; }
@@ -52,6 +56,7 @@ public slots:
 private:
     void saveAndStopRecord(bool keep);
 
+    LiveData &m_data;
     TaskLinks *m_links;
     qint32 m_curTaskType = 0; // __type of the current task, 0 without one
     AbstractTask *m_curTask = nullptr;

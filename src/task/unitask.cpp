@@ -8,12 +8,13 @@
 #include "settings/monitorinfo.h"
 #include "settings/waveinfo.h"
 #include "device/datatypes.h"
-#include "model/displayrecords.h"
+#include "model/livedata.h"
 #include "device/trace.h"
 #include "platform/clock.h"
 #include "detect/flickerprocessor.h"
 #include "detect/powerevents.h"
 #include "task/displayfeed.h"
+#include "task/inverterfeed.h"
 #include "task/triggersearch.h"
 
 #include <cmath>
@@ -36,6 +37,13 @@ template <typename T> std::unique_ptr<T> makeRecord()
     return record;
 }
 
+/// Output phases of the inverter, as the wiring and the user's choice have them.
+int inverterOutputs()
+{
+    const ChannelSet *set = m_settingConfig_g.channels();
+    return InverterFeed::outputMask(set ? set->trendFlags() : 0, singleOrThree != 0);
+}
+
 /// Length of a monitor's run; -1, the longest, for hours that no run can have.
 int monitorSeconds(int hours)
 {
@@ -45,7 +53,7 @@ int monitorSeconds(int hours)
 
 } // namespace
 
-UniTask::UniTask(QObject *parent) : AbstractTask(parent)
+UniTask::UniTask(LiveData &data, QObject *parent) : AbstractTask(parent), m_data(data)
 {
     initLimitsData();
     m_events = new PowerEvents(this);
@@ -63,12 +71,39 @@ UniTask::UniTask(QObject *parent) : AbstractTask(parent)
     m_flickerProcessor = std::make_unique<FlickerProcessor>();
 
     setTaskType(0, 1000);
+    // First of all that listen: the pages find the records as their new state has them.
+    connect(this, &AbstractTask::init_param, this, &UniTask::beginRecords);
+    connect(this, &AbstractTask::taskPaused, this, &UniTask::holdRecords);
+    connect(this, &AbstractTask::taskContinued, this, &UniTask::continueRecords);
     connect(this, &AbstractTask::taskStarted, this, &UniTask::startBaseTimer);
     connect(this, QOverload<>::of(&AbstractTask::taskStoped), this, &UniTask::stopBaseTimer);
     DataTypes::calculateK_viw();
 }
 
 UniTask::~UniTask() = default;
+
+const DisplayRecords &UniTask::live() const
+{
+    return m_data.live();
+}
+
+void UniTask::beginRecords()
+{
+    m_data.empty(float(m_settingConfig_g.getNomFreq()));
+}
+
+void UniTask::holdRecords()
+{
+    // The page in front is drawn once more, so that what a key brings to light later is of the same moment.
+    copyScope();
+    emit updateDisplay(nullptr);
+    m_data.hold();
+}
+
+void UniTask::continueRecords()
+{
+    m_data.run();
+}
 
 void UniTask::initLimitsData()
 {
@@ -104,7 +139,7 @@ void UniTask::initUniFunction(AbstractTask::UniFunction function)
 
 void UniTask::initPowerInverterData()
 {
-    // The page makes its record out of the live ones: the task has nothing to hold for it.
+    // Its record is derived from the live ones with each aggregation: there is nothing to hold for it.
     QV_TRACE("task/unitask") << "initPowerInverterData";
 }
 
@@ -163,43 +198,41 @@ void UniTask::integrateEnergy()
     if (elapsed < 0 || elapsed > kLongestGap)
         return;
 
+    __power_data &power = m_data.live().power;
     m_energyMicroseconds += elapsed;
     while (m_energyMicroseconds > 999'999) {
         m_energyMicroseconds -= 1'000'000;
         ++m_energySeconds;
-        if (!g_power_data || ++g_power_data->seconds <= 59)
+        if (++power.seconds <= 59)
             continue;
-        g_power_data->seconds = 0;
-        if (++g_power_data->minutes <= 59)
+        power.seconds = 0;
+        if (++power.minutes <= 59)
             continue;
-        g_power_data->minutes = 0;
-        ++g_power_data->hours;
+        power.minutes = 0;
+        ++power.hours;
     }
 
     const float hours = float(double(elapsed) / 3.6e9);
     for (int c = 0; c < kChannels; ++c) {
-        const PowerRow &power = m_aggregation->power[c];
+        const PowerRow &row = m_aggregation->power[c];
         EnergyRow &energy = m_aggregation->energy[c];
-        energy.active += double(hours * power.active);
-        energy.apparent += double(hours * power.apparent);
-        energy.reactive += double(hours * power.reactive);
+        energy.active += double(hours * row.active);
+        energy.apparent += double(hours * row.apparent);
+        energy.reactive += double(hours * row.reactive);
     }
 }
 
 void UniTask::feedDisplayRecords(float signedFrequency)
 {
-    if (g_vif_data) {
-        g_vif_data->frequency = signedFrequency;
-        DisplayFeed::feedVif(*m_aggregation, *g_vif_data);
-    }
-    if (g_power_data)
-        DisplayFeed::feedPower(*m_aggregation, *g_power_data);
-    if (g_harm_data)
-        DisplayFeed::feedHarmonics(*m_aggregation, HarmData::m_harm_max_numb, *g_harm_data);
-    if (g_unbalance_data)
-        DisplayFeed::feedUnbalance(*m_aggregation, *g_unbalance_data);
-    if (g_mains_sig)
-        DisplayFeed::feedMainsSignal(*m_aggregation, signedFrequency, *g_mains_sig);
+    DisplayRecords &live = m_data.live();
+    live.vif.frequency = signedFrequency;
+    DisplayFeed::feedVif(*m_aggregation, live.vif);
+    DisplayFeed::feedPower(*m_aggregation, live.power);
+    DisplayFeed::feedHarmonics(*m_aggregation, HarmData::m_harm_max_numb, live.harmonics);
+    DisplayFeed::feedUnbalance(*m_aggregation, live.unbalance);
+    DisplayFeed::feedMainsSignal(*m_aggregation, signedFrequency, live.mainsSignal);
+    if (m_function == UniPowerInverter)
+        InverterFeed::feed(live.vif, live.power, singleOrThree != 0, inverterOutputs(), live.inverter);
 }
 
 void UniTask::appendSecondTrends()
@@ -207,15 +240,18 @@ void UniTask::appendSecondTrends()
     if (!m_aggregationFresh)
         return;
     m_aggregationFresh = false;
-    if (m_function != UniBasic || m_energySeconds == m_trendSecond)
+    const bool inverter = m_function == UniPowerInverter;
+    if ((m_function != UniBasic && !inverter) || m_energySeconds == m_trendSecond)
         return;
     m_trendSecond = m_energySeconds;
-    if (g_vif_data)
-        DisplayFeed::trendVif(*g_vif_data);
-    if (g_power_data)
-        DisplayFeed::trendPower(*g_power_data);
-    if (g_mains_sig)
-        DisplayFeed::trendMainsSignal(*g_mains_sig);
+    DisplayRecords &live = m_data.live();
+    if (inverter) {
+        InverterFeed::appendTrends(inverterOutputs(), live.inverter);
+        return;
+    }
+    DisplayFeed::trendVif(live.vif);
+    DisplayFeed::trendPower(live.power);
+    DisplayFeed::trendMainsSignal(live.mainsSignal);
 }
 
 void UniTask::updatedata()
@@ -229,30 +265,24 @@ void UniTask::updatedata()
 
 void UniTask::copyScope()
 {
-    if (!g_scope_data || !g_vif_data)
-        return;
     using namespace TriggerSearch;
-    g_scope_data->frequency = g_vif_data->frequency;
+    const __vif_data &vif = m_data.live().vif;
+    __scope_data &scope = m_data.live().scope;
+    __trans_data &transient = m_data.live().transient;
     const int start = findTrigger(m_wave->voltage[0]);
+    scope.frequency = transient.frequency = vif.frequency;
     for (int c = 0; c < kChannels; ++c) {
-        std::memcpy(g_scope_data->voltageSamples[c], m_wave->voltage[c] + start, kShownSamples * sizeof(qint16));
-        std::memcpy(g_scope_data->currentSamples[c], m_wave->current[c] + start, kShownSamples * sizeof(qint16));
-        g_scope_data->voltage[c] = g_vif_data->voltage[c];
-        g_scope_data->current[c] = g_vif_data->current[c];
-    }
-    if (!g_trans_data)
-        return;
-    g_trans_data->frequency = g_vif_data->frequency;
-    for (int c = 0; c < kChannels; ++c) {
-        g_trans_data->rms[c] = g_vif_data->voltage[c];
-        DataTypes::lineInterpolation(g_trans_data->samples[c], m_wave->voltage[c] + start, 600, kShownSamples);
+        std::memcpy(scope.voltageSamples[c], m_wave->voltage[c] + start, kShownSamples * sizeof(qint16));
+        std::memcpy(scope.currentSamples[c], m_wave->current[c] + start, kShownSamples * sizeof(qint16));
+        scope.voltage[c] = transient.rms[c] = vif.voltage[c];
+        scope.current[c] = vif.current[c];
+        DataTypes::lineInterpolation(transient.samples[c], m_wave->voltage[c] + start, 600, kShownSamples);
     }
 }
 
 void UniTask::changeFlag(int value)
 {
-    if (g_harm_data)
-        g_harm_data->reference = value == 1 ? 2 : 1;
+    m_data.setHarmonicReference(value == 1 ? 2 : 1);
     emit updateDisplay(nullptr);
 }
 
@@ -260,10 +290,10 @@ void UniTask::resetEnergy()
 {
     for (EnergyRow &row : m_aggregation->energy)
         row = { 0, 0, 0 };
-    if (g_power_data) {
-        g_power_data->hours = g_power_data->minutes = g_power_data->seconds = 0;
-        for (int c = 0; c < kChannels; ++c)
-            g_power_data->activeEnergy[c] = g_power_data->apparentEnergy[c] = g_power_data->reactiveEnergy[c] = 0;
-    }
+    // On hold the page goes on showing the energies of its moment; the zeros appear when it runs again.
+    __power_data &power = m_data.live().power;
+    power.hours = power.minutes = power.seconds = 0;
+    for (int c = 0; c < kChannels; ++c)
+        power.activeEnergy[c] = power.apparentEnergy[c] = power.reactiveEnergy[c] = 0;
     emit updateDisplay(nullptr);
 }

@@ -12,19 +12,22 @@
 #include <sys/time.h>
 
 class FlickerProcessor;
+class LiveData;
+struct DisplayRecords;
 class Pqa2FF;
 class PowerEvents;
 struct PQAEventItem;
 struct __trans_data;
 
-/// The one concrete task: it receives every datagram, decodes it, fills the global display records and feeds the active
-/// function. Datagrams are queued calls on the main thread, so its slots, timers and key handling never overlap.
+/// The one concrete task: it receives every datagram, decodes it, fills the live records and feeds the active function.
+/// Datagrams are queued calls on the main thread, so its slots, timers and key handling never overlap.
 class UniTask : public AbstractTask
 {
     Q_OBJECT
 
 public:
-    explicit UniTask(QObject *parent = nullptr);
+    /// \a data, whose live records the task writes, outlives it.
+    explicit UniTask(LiveData &data, QObject *parent = nullptr);
     ~UniTask() override;
 
     QString getTaskName() override { return QStringLiteral("Power Quality"); }
@@ -42,6 +45,8 @@ public:
     const __datagram_aggregation &aggregation() const { return *m_aggregation; }
     const __datagram_rms &halfCycles() const { return *m_rms; }
     const __datagram_wave &wave() const { return *m_wave; }
+    /// The records that it writes, whatever the pages show.
+    const DisplayRecords &live() const;
 
     /// Heads of all events to the files that are open.
     void saveAllEvents();
@@ -92,6 +97,9 @@ private:
     void feedDisplayRecords(float signedFrequency);
     void appendSecondTrends();
     void initPowerInverterData();
+    void beginRecords();
+    void holdRecords();
+    void continueRecords();
     void copyScope();
     // unitask_events.cpp
     void pushHalfCycles();
@@ -103,6 +111,7 @@ private:
     void fillEventWaves();
     static QByteArray transientBlock(const __trans_data &record);
 
+    LiveData &m_data;
     std::unique_ptr<__datagram_aggregation> m_aggregation;
     std::unique_ptr<__datagram_rms> m_rms;
     std::unique_ptr<__datagram_wave> m_wave;

@@ -2,7 +2,7 @@
 
 #include "settings/config_data.h"
 #include "device/datatypes.h"
-#include "model/displayrecords.h"
+#include "model/livedata.h"
 #include "detect/powerevents.h"
 #include "record/pqa2ff.h"
 #include "task/displayfeed.h"
@@ -39,9 +39,9 @@ void UniTask::pushHalfCycles()
             voltageSum += voltage.entry[i].value;
             currentSum += current.entry[i].value;
         }
-        if (g_mains_sig && count > 0) {
-            g_mains_sig->rms1[c] = voltageSum / float(count);
-            g_mains_sig->rms2[c] = currentSum / float(count);
+        if (count > 0) {
+            m_data.live().mainsSignal.rms1[c] = voltageSum / float(count);
+            m_data.live().mainsSignal.rms2[c] = currentSum / float(count);
         }
     }
 }
@@ -67,19 +67,17 @@ void UniTask::checkHalfCycles()
 
 void UniTask::drainRings()
 {
+    initLimitsData(); // another duration may have been chosen since
     for (int c = 0; c < m_channels; ++c) {
         for (int input : { c, c + kChannels }) {
             const bool isVoltage = input < kChannels;
             while (m_rings[input].rmsfifoCount() >= 1) {
                 const float value = m_rings[input].rms_data_extract();
-                if (g_dipswell_trend) {
-                    auto &list = isVoltage ? g_dipswell_trend->voltage[c] : g_dipswell_trend->current[c];
-                    DisplayFeed::appendLimited(list, value, m_dipTrendLimit);
-                }
-                if (g_inrush_data) {
-                    auto &list = isVoltage ? g_inrush_data->voltage[c] : g_inrush_data->current[c];
-                    DisplayFeed::appendLimited(list, value, m_inrushTrendLimit);
-                }
+                __rms_trend_data &dips = m_data.live().dips;
+                __rms_trend_data &inrush = m_data.live().inrush;
+                DisplayFeed::appendLimited(isVoltage ? dips.voltage[c] : dips.current[c], value, m_dipTrendLimit);
+                DisplayFeed::appendLimited(isVoltage ? inrush.voltage[c] : inrush.current[c], value,
+                                           m_inrushTrendLimit);
             }
         }
     }

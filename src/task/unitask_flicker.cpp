@@ -2,7 +2,7 @@
 
 #include "settings/recordinfo.h"
 #include "device/datatypes.h"
-#include "model/displayrecords.h"
+#include "model/livedata.h"
 #include "detect/flickerprocessor.h"
 #include "record/pqa2ff.h"
 
@@ -34,13 +34,13 @@ void UniTask::datagramFlicker(const QByteArray &bytes)
     if (!DataTypes::fits(DatagramFlicker, bytes))
         return;
     DataTypes::datagramFlicker(m_flicker.get(), bytes.constData());
-    if (!isLive() || !g_flicker_data)
+    if (!isLive())
         return;
 
     // The recorder's blocks start with the time in milliseconds, the monitor's with seconds.
     const bool monitoring = m_function == UniMonitor;
     const QByteArray head = monitoring ? blockHead(quint32(m_flicker->time / 1000)) : blockHead(m_flicker->time);
-    const FlickerOutput out = m_flickerProcessor->process(*m_flicker, head, *g_flicker_data);
+    const FlickerOutput out = m_flickerProcessor->process(*m_flicker, head, m_data.live().flicker);
 
     if (monitoring) {
         writeFlickerBlocks(m_monitorFile, out, Pqa2MonitorFlickerShort, Pqa2MonitorFlickerLong);

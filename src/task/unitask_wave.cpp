@@ -3,7 +3,7 @@
 #include "model/channelset.h"
 #include "settings/config_data.h"
 #include "device/datatypes.h"
-#include "model/displayrecords.h"
+#include "model/livedata.h"
 #include "record/pqa2ff.h"
 #include "task/transientcutter.h"
 
@@ -39,8 +39,7 @@ void UniTask::captureTransient()
         record->rms[c] = m_aggregation->channel[c].voltage;
     TransientCutter::cut(*m_wave, *record);
     // Until the next refresh puts the running waveform there.
-    if (g_trans_data)
-        *g_trans_data = *record;
+    m_data.live().transient = *record;
 
     Pqa2FF *file
         = m_function == UniMonitor ? m_monitorFile : (m_function == UniBasic && isRecording() ? m_commonFile : nullptr);

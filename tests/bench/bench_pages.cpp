@@ -1,6 +1,6 @@
 #include "settings/config_data.h"
-#include "model/displayrecords.h"
 #include "ratios.h"
+#include "unit/measureddata.h"
 #include "pages/viewcontainer.h"
 #include "views/harmonics/harm.h"
 #include "views/power/powen.h"
@@ -16,6 +16,8 @@
 #include <memory>
 
 // One refresh of a page with its repaint, beside the same number of plain labels that take new texts.
+
+using namespace MeasuredData;
 
 namespace {
 
@@ -64,16 +66,15 @@ private:
 void feed(float value)
 {
     for (int c = 0; c < kChannels; ++c) {
-        g_vif_data->voltage[c] = g_vif_data->voltagePeak[c] = g_vif_data->current[c] = value;
-        if (g_power_data)
-            g_power_data->row[c] = { value, value, value, 0.9f, 0.9f, 0.1f };
+        live().vif.voltage[c] = live().vif.voltagePeak[c] = live().vif.current[c] = value;
+        live().power.row[c] = { value, value, value, 0.9f, 0.9f, 0.1f };
     }
 }
 
 template <typename Page> void refreshPage(benchmark::State &state)
 {
     static auto *page = [] {
-        auto *made = new Page;
+        auto *made = new Page(liveData());
         made->init_parameter();
         return made;
     }();
@@ -109,7 +110,7 @@ void scope(benchmark::State &state)
 void labels(benchmark::State &state)
 {
     static auto *plain = [] {
-        static VifPage page;
+        static VifPage page(liveData());
         page.init_parameter();
         feed(100);
         page.updateDisplay(nullptr);
@@ -137,8 +138,7 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     setlocale(LC_NUMERIC, "C");
-    VifPage first; // allocates the record that all of them are fed through
-    first.init_parameter();
+    renewLive();
     return Ratios::run(
         argc, argv, Ratios::ProcessorTime,
         {

@@ -175,7 +175,8 @@ void TstLiveEvents::initTestCase()
 
     // Slowly until gains and ranges are those of the set-up; then as fast as both keep up with.
     QVERIFY(LiveGraph::setSpeed(0.5));
-    QTRY_VERIFY_WITH_TIMEOUT(std::fabs(g_vif_data->voltage[0] - kVolts) < 0.001 * kVolts, kPatienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(std::fabs(m_taskmanage->data().live().vif.voltage[0] - kVolts) < 0.001 * kVolts,
+                             kPatienceMs);
     QVERIFY(LiveGraph::measuredUntil() < LiveGraph::startMs() + qint64(1000 * kFirstMoment) - 1000);
     QCOMPARE(g_events_list.size(), 0);
     const qint64 end = LiveGraph::startMs() + qint64(1000 * momentOf(m_cases.size()));

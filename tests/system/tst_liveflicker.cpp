@@ -91,13 +91,15 @@ void TstLiveFlicker::pageShowsPstOneAtThePublishedPoints()
 {
     // An interval is 600 s of the signal. The first one begins with the signal; the second has no beginning in it.
     for (int interval = 1; interval <= 2; ++interval) {
-        QVERIFY(LiveGraph::runUntil([&] { return g_flicker_data->pstTrend[2].size() >= interval; }, 100));
+        QVERIFY(LiveGraph::runUntil([&] { return m_taskmanage->data().live().flicker.pstTrend[2].size() >= interval; },
+                                    100));
         for (const char *label : { "Pst_L1", "Pst_L2", "Pst_L3" })
             QTRY_VERIFY2_WITH_TIMEOUT(std::fabs(LiveGraph::number(label) - 1.0) <= 0.05,
                                       qPrintable(QLatin1String(label) + QLatin1Char(' ') + LiveGraph::text(label)),
                                       kPatienceMs);
         for (int phase = 0; phase < 3; ++phase)
-            QVERIFY2(std::fabs(g_flicker_data->pstTrend[phase].at(interval - 1) - 1.0f) <= 0.05f, kPoints[phase]);
+            QVERIFY2(std::fabs(m_taskmanage->data().live().flicker.pstTrend[phase].at(interval - 1) - 1.0f) <= 0.05f,
+                     kPoints[phase]);
     }
     QCOMPARE(LiveGraph::status(QStringLiteral("dropped")), QStringLiteral("0"));
     QCOMPARE(LiveGraph::status(QStringLiteral("lamp")), kIs230 ? QStringLiteral("230") : QStringLiteral("120"));

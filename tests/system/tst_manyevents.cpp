@@ -64,7 +64,7 @@ void TstManyEvents::initTestCase()
     QVERIFY2(m_live->start({ QStringLiteral("--scenario"), path }), qPrintable(m_live->desk().error()));
     QVERIFY(LiveGraph::open(QStringLiteral("dips_swells")));
     QVERIFY(LiveGraph::setSpeed(0.5));
-    QTRY_VERIFY_WITH_TIMEOUT(std::fabs(g_vif_data->voltage[0] - 230) < 0.23, kPatienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(std::fabs(m_taskmanage->data().live().vif.voltage[0] - 230) < 0.23, kPatienceMs);
     const qint64 end = LiveGraph::startMs() + kFirstMs + qint64(kEvents) * kEveryMs;
     const int before = residentKilobytes();
     QVERIFY(LiveGraph::runUntil([end] { return LiveGraph::measuredUntil() > end; }, kSpeed));
@@ -123,7 +123,7 @@ void TstManyEvents::tableAndPageShowTheNewest()
 // A minute at 100 values a second.
 void TstManyEvents::trendsKeepTheirLengths()
 {
-    QVERIFY(g_dipswell_trend->voltage[0].size() <= 6000 + 100);
+    QVERIFY(m_taskmanage->data().live().dips.voltage[0].size() <= 6000 + 100);
 }
 
 // Two curves of three seconds, voltage and current, 300 samples of 12 bytes each: 14.4 kB for an event of one phase.

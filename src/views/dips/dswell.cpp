@@ -1,15 +1,15 @@
 #include "views/dips/dswell.h"
 
 #include "settings/config_data.h"
-#include "model/displayrecords.h"
 #include "pages/rmstrend.h"
 #include "views/dips/dipseventpage.h"
 #include "views/dips/dswellmain.h"
 
 QList<__event_item> m_ds_events_list;
 
-dswell::dswell(QWidget *parent)
-    : ViewContainer(UI_DIPS_SWELLS, { 3, "DipSwell" }, parent), m_main(new DswellMain), m_events(new DipsEventPage)
+dswell::dswell(const LiveData &data, QWidget *parent)
+    : ViewContainer(UI_DIPS_SWELLS, { 3, "DipSwell" }, data, parent), m_main(new DswellMain(data)),
+      m_events(new DipsEventPage)
 {
     addPage(m_main);
     addPage(m_events);
@@ -29,12 +29,6 @@ void dswell::showDispEvent()
 
 void dswell::initDisplayParam()
 {
-    // The addresses must stay: the task and the pages hold them for the life of the process.
-    for (__rms_trend_data **record : { &g_dipswell_trend, &g_dipswell_trend_ui }) {
-        if (!*record)
-            *record = new __rms_trend_data;
-        RmsTrend::clear(**record);
-    }
     m_ds_events_list.clear();
 }
 
@@ -57,5 +51,5 @@ void dswell::refreshEventList(void *)
 
 QByteArray dswell::pqaData() const
 {
-    return g_dipswell_trend_ui ? RmsTrend::savedRecord(*g_dipswell_trend_ui, m_ds_events_list) : QByteArray();
+    return RmsTrend::savedRecord(shown().dips, m_ds_events_list);
 }

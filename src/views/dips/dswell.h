@@ -15,7 +15,7 @@ class dswell : public ViewContainer
     Q_OBJECT
 
 public:
-    explicit dswell(QWidget *parent = nullptr);
+    explicit dswell(const LiveData &data, QWidget *parent = nullptr);
 
     QByteArray pqaData() const override;
 

@@ -2,10 +2,10 @@
 #include "ui_dswellmain.h"
 
 #include "settings/dipswellinfo.h"
-#include "model/displayrecords.h"
 #include "widgets/controls/labellook.h"
 
-DswellMain::DswellMain(QWidget *parent) : RmsTrendPage(UI_DIPS_SWELLS, parent), m_ui(new Ui::DswellMain)
+DswellMain::DswellMain(const LiveData &data, QWidget *parent)
+    : RmsTrendPage(UI_DIPS_SWELLS, data, parent), m_ui(new Ui::DswellMain)
 {
     m_ui->setupUi(this);
     LabelLook::dress(this);
@@ -18,16 +18,6 @@ void DswellMain::init_parameter()
 {
     DipSwellInfo::initInfoTimes();
     RmsTrendPage::init_parameter();
-}
-
-__rms_trend_data *DswellMain::freshRecord() const
-{
-    return g_dipswell_trend;
-}
-
-__rms_trend_data *DswellMain::shownRecord() const
-{
-    return g_dipswell_trend_ui;
 }
 
 int DswellMain::valuesPerSecond() const

@@ -14,7 +14,7 @@ class DswellMain : public RmsTrendPage
     Q_OBJECT
 
 public:
-    explicit DswellMain(QWidget *parent = nullptr);
+    explicit DswellMain(const LiveData &data, QWidget *parent = nullptr);
     ~DswellMain() override;
 
 public slots:
@@ -24,10 +24,8 @@ signals:
     void goDispEvent();
 
 protected:
-    __rms_trend_data *freshRecord() const override;
-    __rms_trend_data *shownRecord() const override;
+    const __rms_trend_data &record(const DisplayRecords &shown) const override { return shown.dips; }
     int valuesPerSecond() const override;
-    int keptSeconds() const override { return 60; }
     QVector<TrendZoom> zoomSteps() const override;
     int zoomIndex() const override;
     void zoomIndexChanged(int index) override;

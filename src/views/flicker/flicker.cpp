@@ -1,6 +1,5 @@
 #include "views/flicker/flicker.h"
 
-#include "model/displayrecords.h"
 #include "views/flicker/flickermain.h"
 #include "views/flicker/flickerpage.h"
 #include "views/flicker/flickerparam.h"
@@ -25,8 +24,9 @@ static_assert(sizeof(__flicker_pqa_data) == 7240, "told size of the saved record
 
 } // namespace
 
-flicker::flicker(QWidget *parent)
-    : ViewContainer(UI_FLICKER, { 9, "Flicker" }, parent), m_main(new FlickerMain), m_trend(new FlickerPage)
+flicker::flicker(const LiveData &data, QWidget *parent)
+    : ViewContainer(UI_FLICKER, { 9, "Flicker" }, data, parent), m_main(new FlickerMain(data)),
+      m_trend(new FlickerPage(data))
 {
     addPage(m_main);
     addPage(m_trend);
@@ -58,34 +58,25 @@ void flicker::showTitle()
     FlickerParam::m_cur_title = currentPage() == m_trend ? tr("pinst") : tr("Flicker");
 }
 
-void flicker::initDisplayParam()
-{
-    // The address must stay: the task and the pages hold it for the life of the process.
-    if (!g_flicker_data)
-        g_flicker_data = new __flicker_data;
-    *g_flicker_data = {};
-}
-
 QByteArray flicker::pqaData() const
 {
-    if (!g_flicker_data)
-        return {};
+    const __flicker_data &record = shown().flicker;
     QByteArray bytes(int(sizeof(__flicker_pqa_data)), '\0');
     __flicker_pqa_data data = {};
     int count = kTrendPoints;
-    for (const QList<float> &trend : g_flicker_data->pinstTrend) {
+    for (const QList<float> &trend : record.pinstTrend) {
         // A phase that the wiring does not measure has no trend and does not shorten the others.
         if (!trend.isEmpty())
             count = std::min(count, int(trend.size()));
     }
-    if (g_flicker_data->pinstTrend[0].isEmpty())
+    if (record.pinstTrend[0].isEmpty())
         count = 0;
     data.count = count;
     for (int p = 0; p < kPhases; ++p) {
-        data.values[p] = g_flicker_data->flickerMax[p];
-        data.values[kPhases + p] = g_flicker_data->pst[p];
-        data.values[2 * kPhases + p] = g_flicker_data->plt[p];
-        const QList<float> &trend = g_flicker_data->pinstTrend[p];
+        data.values[p] = record.flickerMax[p];
+        data.values[kPhases + p] = record.pst[p];
+        data.values[2 * kPhases + p] = record.plt[p];
+        const QList<float> &trend = record.pinstTrend[p];
         const int used = std::min(count, int(trend.size()));
         std::copy(trend.end() - used, trend.end(), data.pinst[p]);
     }

@@ -11,7 +11,7 @@ class flicker : public ViewContainer
     Q_OBJECT
 
 public:
-    explicit flicker(QWidget *parent = nullptr);
+    explicit flicker(const LiveData &data, QWidget *parent = nullptr);
 
     void enterFlicker() { showFlickerMain(); }
     QByteArray pqaData() const override;
@@ -20,9 +20,6 @@ public slots:
     void showFlickerMain();
     void showFlickerTrend();
     void retranslateUi() override;
-
-protected:
-    void initDisplayParam() override;
 
 private:
     void showTitle();

@@ -1,7 +1,6 @@
 #include "views/flicker/flickermain.h"
 #include "ui_flickermain.h"
 
-#include "model/displayrecords.h"
 #include "widgets/text/f_to_str.h"
 
 #include <algorithm>
@@ -25,7 +24,8 @@ constexpr MeterGrid kGrid = { { 170, 150, 140, 30, 46, 16, 134, 20, kPhases }, 5
 
 } // namespace
 
-FlickerMain::FlickerMain(QWidget *parent) : MeterPage(UI_FLICKER, parent), m_ui(new Ui::FlickerMain)
+FlickerMain::FlickerMain(const LiveData &data, QWidget *parent)
+    : MeterPage(UI_FLICKER, data, parent), m_ui(new Ui::FlickerMain)
 {
     static const KeyRow<FlickerMain> keys[] = {
         { Qt::Key_F4, QT_TRANSLATE_NOOP("FlickerMain", "Trend"), &FlickerMain::goFlickerTrend },
@@ -44,12 +44,10 @@ void FlickerMain::showHeaders()
 
 void FlickerMain::showCurParams()
 {
-    if (!g_flicker_data)
-        return;
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
         // The label rows have a place for the neutral, the record has none.
         float values[kChannels] = {};
-        std::copy_n(g_flicker_data->*kRows[i].values, kPhases, values);
+        std::copy_n(shown().flicker.*kRows[i].values, kPhases, values);
         ChannelLabels::showValues(m_rows[i], values, F_to_Str::number_2);
     }
 }

@@ -14,7 +14,7 @@ class FlickerMain : public MeterPage
     Q_OBJECT
 
 public:
-    explicit FlickerMain(QWidget *parent = nullptr);
+    explicit FlickerMain(const LiveData &data, QWidget *parent = nullptr);
     ~FlickerMain() override;
 
 signals:

@@ -1,7 +1,6 @@
 #include "views/flicker/flickerpage.h"
 #include "ui_flickerpage.h"
 
-#include "model/displayrecords.h"
 #include "widgets/text/f_to_str.h"
 #include "widgets/controls/labellook.h"
 
@@ -12,7 +11,8 @@ constexpr int kPhaseFlags = (1 << kPhases) - 1; // no curve for the neutral
 
 } // namespace
 
-FlickerPage::FlickerPage(QWidget *parent) : LivePage(UI_FLICKER, parent), m_ui(new Ui::FlickerPage)
+FlickerPage::FlickerPage(const LiveData &data, QWidget *parent)
+    : LivePage(UI_FLICKER, parent), m_data(data), m_ui(new Ui::FlickerPage)
 {
     static const KeyRow<FlickerPage> keys[] = {
         { Qt::Key_F4, QT_TRANSLATE_NOOP("FlickerPage", "Back"), &FlickerPage::goFlickerMain },
@@ -52,12 +52,10 @@ void FlickerPage::showTitle()
 
 void FlickerPage::showFlickerTrend()
 {
-    if (!g_flicker_data)
-        return;
     __trend_data record; // shares the lists
     float latest[kChannels] = {};
     for (int p = 0; p < kPhases; ++p) {
-        record.series[p] = g_flicker_data->pinstTrend[p];
+        record.series[p] = m_data.shown().flicker.pinstTrend[p];
         if (!record.series[p].isEmpty())
             latest[p] = record.series[p].last();
     }

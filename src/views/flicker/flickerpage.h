@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/livedata.h"
 #include "pages/channellabels.h"
 #include "pages/trendscaler.h"
 #include "pages/livepage.h"
@@ -16,7 +17,7 @@ class FlickerPage : public LivePage
     Q_OBJECT
 
 public:
-    explicit FlickerPage(QWidget *parent = nullptr);
+    explicit FlickerPage(const LiveData &data, QWidget *parent = nullptr);
     ~FlickerPage() override;
 
 public slots:
@@ -31,6 +32,7 @@ private:
     void showTitle();
     void showFlickerTrend();
 
+    const LiveData &m_data;
     std::unique_ptr<Ui::FlickerPage> m_ui;
     ChannelLabels::LabelRow m_captions;
     ChannelLabels::LabelRow m_values;

@@ -11,7 +11,7 @@ class harm : public ViewContainer
     Q_OBJECT
 
 public:
-    explicit harm(QWidget *parent = nullptr);
+    explicit harm(const LiveData &data, QWidget *parent = nullptr);
 
     void enterHarm() { enterFirstPage(); }
     QByteArray pqaData() const override;
@@ -23,9 +23,6 @@ public slots:
 signals:
     /// Asks for the other reference than \a flag: 1 percent of r.m.s., 2 percent of the fundamental.
     void changeFlag(int flag);
-
-protected:
-    void initDisplayParam() override;
 
 private:
     HarmMain *m_main;

@@ -20,8 +20,8 @@ constexpr double kDegrees = 180.0 / 3.141592653589793; // per radian
 
 } // namespace
 
-HarmMain::HarmMain(QWidget *parent)
-    : LivePage(UI_HARMONICS, parent), m_ui(new Ui::HarmMain), m_repeat(new KeyRepeat(this, kTicksPerStep))
+HarmMain::HarmMain(const LiveData &data, QWidget *parent)
+    : LivePage(UI_HARMONICS, parent), m_data(data), m_ui(new Ui::HarmMain), m_repeat(new KeyRepeat(this, kTicksPerStep))
 {
     static const KeyRow<HarmMain> keys[] = {
         { Qt::Key_F1, nullptr, &HarmMain::swapQuantity },
@@ -161,8 +161,6 @@ void HarmMain::initHarmCursorPos()
 
 void HarmMain::changeCursorPos(int step)
 {
-    if (!g_harm_data)
-        return;
     for (int i = 0; i < std::abs(step); ++i) {
         if (step < 0)
             changeGraphCursorPosL();
@@ -212,9 +210,7 @@ void HarmMain::changeHarmGraph()
 void HarmMain::showBars()
 {
     m_bars.clear();
-    if (!g_harm_data)
-        return;
-    m_bars = HarmValues::bars(*g_harm_data, m_quantity, m_first, m_last, m_inter);
+    m_bars = HarmValues::bars(shown(), m_quantity, m_first, m_last, m_inter);
     m_ui->graph->showGraph(&m_bars, m_first, m_last);
 }
 
@@ -231,10 +227,8 @@ Item HarmMain::itemAtCursor() const
 
 void HarmMain::showCurVal()
 {
-    if (!g_harm_data)
-        return;
     const DisplayUnits &units = m_settingConfig_g.units();
-    const QString reference = g_harm_data->reference == 2 ? QStringLiteral("%f") : QStringLiteral("%r");
+    const QString reference = shown().reference == 2 ? QStringLiteral("%f") : QStringLiteral("%r");
     setText(m_ui->type,
             m_quantity == Voltage ? QStringLiteral("U(%1) %2").arg(units.volt, reference)
                                   : QStringLiteral("I(%1) %2").arg(units.ampere, reference));
@@ -258,7 +252,7 @@ QString HarmMain::orderText(Item item) const
         break;
     }
     const int index = std::clamp(item.order, 1, kHarmonicOrders) - 1;
-    const HarmChannel &from = block(*g_harm_data, m_quantity, allChannels() ? 0 : m_channel - GraphL1);
+    const HarmChannel &from = block(shown(), m_quantity, allChannels() ? 0 : m_channel - GraphL1);
     const bool inter = item.kind == Interharmonic;
     const float frequency = inter ? from.inter[index].frequency : from.harmonic[index].frequency;
     return QStringLiteral("%1%2  %3Hz")
@@ -270,13 +264,13 @@ QString HarmMain::orderText(Item item) const
 /// Values of one channel under the cursor, in two lines.
 QString HarmMain::valueText(int channel, Item item) const
 {
-    const HarmChannel &from = block(*g_harm_data, m_quantity, channel);
+    const HarmChannel &from = block(shown(), m_quantity, channel);
     if (!(from.rms > 0)) // nothing measured yet
         return QStringLiteral("_.__");
     const float value = magnitude(from, item);
     const QString number = m_quantity == Voltage ? F_to_Str::number_V(value) : F_to_Str::number_A(value);
     const QString percent
-        = F_to_Str::number_2(HarmValues::percent(*g_harm_data, m_quantity, channel, item)) + QLatin1Char('%');
+        = F_to_Str::number_2(HarmValues::percent(shown(), m_quantity, channel, item)) + QLatin1Char('%');
     switch (item.kind) {
     case Distortion:
         return percent;

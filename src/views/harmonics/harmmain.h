@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/livedata.h"
 #include "pages/channellabels.h"
 #include "pages/livepage.h"
 #include "views/harmonics/harmvalues.h"
@@ -20,7 +21,7 @@ class HarmMain : public LivePage
     Q_OBJECT
 
 public:
-    explicit HarmMain(QWidget *parent = nullptr);
+    explicit HarmMain(const LiveData &data, QWidget *parent = nullptr);
     ~HarmMain() override;
 
     int quantity() const { return m_quantity; }
@@ -70,6 +71,9 @@ private:
     QString valueText(int channel, HarmValues::Item item) const;
     QString orderText(HarmValues::Item item) const;
 
+    const harm_data &shown() const { return m_data.shown().harmonics; }
+
+    const LiveData &m_data;
     std::unique_ptr<Ui::HarmMain> m_ui;
     KeyRepeat *m_repeat;
     ChannelLabels::LabelRow m_captions;

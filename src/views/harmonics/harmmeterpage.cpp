@@ -2,7 +2,6 @@
 #include "ui_harmmeterpage.h"
 
 #include "settings/harmdata.h"
-#include "model/displayrecords.h"
 #include "widgets/controls/keyrepeat.h"
 #include "views/harmonics/harmvalues.h"
 #include "widgets/text/f_to_str.h"
@@ -41,8 +40,9 @@ int tableLines()
 
 } // namespace
 
-HarmMeterPage::HarmMeterPage(QWidget *parent)
-    : LivePage(UI_HARMONICS, parent), m_ui(new Ui::HarmMeterPage), m_repeat(new KeyRepeat(this, kTicksPerStep))
+HarmMeterPage::HarmMeterPage(const LiveData &data, QWidget *parent)
+    : LivePage(UI_HARMONICS, parent), m_data(data), m_ui(new Ui::HarmMeterPage),
+      m_repeat(new KeyRepeat(this, kTicksPerStep))
 {
     static const KeyRow<HarmMeterPage> keys[] = {
         { Qt::Key_F3, nullptr, &HarmMeterPage::changeReference },
@@ -98,14 +98,12 @@ void HarmMeterPage::initTitle()
 
 void HarmMeterPage::changeReference()
 {
-    if (g_harm_data)
-        emit changeFlag(g_harm_data->reference);
+    emit changeFlag(shown().reference);
 }
 
 void HarmMeterPage::showReference()
 {
-    if (g_harm_data)
-        m_ui->btn_f3->setBtnFlag(g_harm_data->reference);
+    m_ui->btn_f3->setBtnFlag(shown().reference);
 }
 
 void HarmMeterPage::pressUp()
@@ -170,17 +168,15 @@ void HarmMeterPage::showNames()
 
 void HarmMeterPage::showCurValue()
 {
-    if (!g_harm_data)
-        return;
     for (int i = 0; i < kLines; ++i) {
         if (m_position + i >= tableLines()) {
             ChannelLabels::clear(m_cells[i]); // behind the last order
             continue;
         }
-        const Line shown = line(m_position + i, HarmData::m_harm_max_numb);
+        const Line entry = line(m_position + i, HarmData::m_harm_max_numb);
         float values[kChannels];
         for (int c = 0; c < kChannels; ++c)
-            values[c] = percent(*g_harm_data, shown.quantity, c, shown.item);
+            values[c] = percent(shown(), entry.quantity, c, entry.item);
         ChannelLabels::showValues(m_cells[i], values, F_to_Str::number_3);
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/livedata.h"
 #include "pages/labelgrid.h"
 #include "pages/livepage.h"
 
@@ -19,7 +20,7 @@ class HarmMeterPage : public LivePage
 public:
     static constexpr int kLines = 7;
 
-    explicit HarmMeterPage(QWidget *parent = nullptr);
+    explicit HarmMeterPage(const LiveData &data, QWidget *parent = nullptr);
     ~HarmMeterPage() override;
 
     int scrollPosition() const { return m_position; } // first line shown, a multiple of 7
@@ -51,6 +52,9 @@ private:
     void showReference();
     void showCurValue();
 
+    const harm_data &shown() const { return m_data.shown().harmonics; }
+
+    const LiveData &m_data;
     std::unique_ptr<Ui::HarmMeterPage> m_ui;
     KeyRepeat *m_repeat;
     ChannelLabels::LabelRow m_headers;

@@ -2,7 +2,6 @@
 
 #include "settings/config_data.h"
 #include "device/controlframe.h"
-#include "model/displayrecords.h"
 #include "device/idevice.h"
 #include "pages/rmstrend.h"
 #include "views/inrush/inrusheventpage.h"
@@ -11,9 +10,9 @@
 
 QList<__event_item> m_inrush_events_list;
 
-InrushPage::InrushPage(QWidget *parent)
-    : ViewContainer(UI_INRUSH, { 7, "Inrush" }, parent), m_main(new InrushMain), m_start(new InrushStartPage),
-      m_events(new InrushEventPage)
+InrushPage::InrushPage(const LiveData &data, QWidget *parent)
+    : ViewContainer(UI_INRUSH, { 7, "Inrush" }, data, parent), m_main(new InrushMain),
+      m_start(new InrushStartPage(data)), m_events(new InrushEventPage)
 {
     addPage(m_main);
     addPage(m_start);
@@ -57,12 +56,6 @@ void InrushPage::showInrushEvent()
 
 void InrushPage::initDisplayParam()
 {
-    // The addresses must stay: the task and the pages hold them for the life of the process.
-    for (__rms_trend_data **record : { &g_inrush_data, &g_inrush_trend_data }) {
-        if (!*record)
-            *record = new __rms_trend_data;
-        RmsTrend::clear(**record);
-    }
     m_inrush_events_list.clear();
 }
 
@@ -79,5 +72,5 @@ void InrushPage::refreshEventList(void *)
 
 QByteArray InrushPage::pqaData() const
 {
-    return g_inrush_trend_data ? RmsTrend::savedRecord(*g_inrush_trend_data, m_inrush_events_list) : QByteArray();
+    return RmsTrend::savedRecord(shown().inrush, m_inrush_events_list);
 }

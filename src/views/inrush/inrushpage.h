@@ -16,7 +16,7 @@ class InrushPage : public ViewContainer
     Q_OBJECT
 
 public:
-    explicit InrushPage(QWidget *parent = nullptr);
+    explicit InrushPage(const LiveData &data, QWidget *parent = nullptr);
 
     QByteArray pqaData() const override;
 

@@ -2,7 +2,6 @@
 #include "ui_inrushstartpage.h"
 
 #include "settings/inrushinfo.h"
-#include "model/displayrecords.h"
 #include "widgets/controls/labellook.h"
 
 #include <algorithm>
@@ -18,7 +17,8 @@ const InrushInfo::Duration &duration()
 
 } // namespace
 
-InrushStartPage::InrushStartPage(QWidget *parent) : RmsTrendPage(UI_INRUSH, parent), m_ui(new Ui::InrushStartPage)
+InrushStartPage::InrushStartPage(const LiveData &data, QWidget *parent)
+    : RmsTrendPage(UI_INRUSH, data, parent), m_ui(new Ui::InrushStartPage)
 {
     m_ui->setupUi(this);
     LabelLook::dress(this);
@@ -39,24 +39,9 @@ void InrushStartPage::beginView()
     resetView();
 }
 
-__rms_trend_data *InrushStartPage::freshRecord() const
-{
-    return g_inrush_data;
-}
-
-__rms_trend_data *InrushStartPage::shownRecord() const
-{
-    return g_inrush_trend_data;
-}
-
 int InrushStartPage::valuesPerSecond() const
 {
     return InrushInfo::m_rms_numb_per_sec;
-}
-
-int InrushStartPage::keptSeconds() const
-{
-    return duration().seconds;
 }
 
 TrendZoom InrushStartPage::durationScale() const

@@ -15,7 +15,7 @@ class InrushStartPage : public RmsTrendPage
     Q_OBJECT
 
 public:
-    explicit InrushStartPage(QWidget *parent = nullptr);
+    explicit InrushStartPage(const LiveData &data, QWidget *parent = nullptr);
     ~InrushStartPage() override;
 
     /// The user starts a capture: newest values, at the scale of the duration chosen now.
@@ -28,10 +28,8 @@ signals:
     void goInrushEvent();
 
 protected:
-    __rms_trend_data *freshRecord() const override;
-    __rms_trend_data *shownRecord() const override;
+    const __rms_trend_data &record(const DisplayRecords &shown) const override { return shown.inrush; }
     int valuesPerSecond() const override;
-    int keptSeconds() const override;
     /// The four zoom pairs and, where none of them has its length, the scale of the duration.
     QVector<TrendZoom> zoomSteps() const override;
     int zoomIndex() const override { return m_zoom; }

@@ -1,6 +1,5 @@
 #include "views/mainssignaling/mainssignaling.h"
 
-#include "model/displayrecords.h"
 #include "pages/rmstrend.h"
 #include "views/mainssignaling/mainssignalingevent.h"
 #include "views/mainssignaling/mainssignalingmain.h"
@@ -8,9 +7,9 @@
 
 QList<__event_item> m_ms_events_list;
 
-MainsSignaling::MainsSignaling(QWidget *parent)
-    : ViewContainer(UI_MAINS_SIG, { 12, "MainsSig" }, parent), m_main(new MainsSignalingMain),
-      m_trend(new MainsSignalingTrend), m_events(new MainsSignalingEvent)
+MainsSignaling::MainsSignaling(const LiveData &data, QWidget *parent)
+    : ViewContainer(UI_MAINS_SIG, { 12, "MainsSig" }, data, parent), m_main(new MainsSignalingMain(data)),
+      m_trend(new MainsSignalingTrend(data)), m_events(new MainsSignalingEvent)
 {
     addPage(m_main);
     addPage(m_trend);
@@ -44,10 +43,6 @@ void MainsSignaling::refreshEventList(void *)
 
 void MainsSignaling::initDisplayParam()
 {
-    // The address must stay: the task and the pages hold it for the life of the process.
-    if (!g_mains_sig)
-        g_mains_sig = new __mains_sig_data;
-    *g_mains_sig = {};
     m_ms_events_list.clear();
 }
 

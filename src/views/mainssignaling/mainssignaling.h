@@ -16,7 +16,7 @@ class MainsSignaling : public ViewContainer
     Q_OBJECT
 
 public:
-    explicit MainsSignaling(QWidget *parent = nullptr);
+    explicit MainsSignaling(const LiveData &data, QWidget *parent = nullptr);
 
     void enterMainsSignaling() { enterFirstPage(); }
     /// The event list in the form of the other event pages, with no trend before it.

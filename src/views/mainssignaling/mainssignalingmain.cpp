@@ -2,7 +2,6 @@
 #include "ui_mainssignalingmain.h"
 
 #include "settings/config_data.h"
-#include "model/displayrecords.h"
 #include "widgets/text/f_to_str.h"
 
 namespace {
@@ -35,8 +34,8 @@ constexpr MeterGrid kGrid = { { 150, 120, 112, 24, 38, 16, 134, 20 }, 40, 30, 24
 
 } // namespace
 
-MainsSignalingMain::MainsSignalingMain(QWidget *parent)
-    : MeterPage(UI_MAINS_SIG, parent), m_ui(new Ui::MainsSignalingMain)
+MainsSignalingMain::MainsSignalingMain(const LiveData &data, QWidget *parent)
+    : MeterPage(UI_MAINS_SIG, data, parent), m_ui(new Ui::MainsSignalingMain)
 {
     static const KeyRow<MainsSignalingMain> keys[] = {
         { Qt::Key_F2, QT_TRANSLATE_NOOP("MainsSignalingMain", "Events"), &MainsSignalingMain::goMainsSignalingEvent },
@@ -62,13 +61,12 @@ void MainsSignalingMain::showTitle()
 
 void MainsSignalingMain::showCurParams()
 {
-    if (!g_mains_sig)
-        return;
+    const __mains_sig_data &data = shown().mainsSignal;
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
         float values[kChannels];
         for (int c = 0; c < kChannels; ++c)
-            values[c] = (g_mains_sig->*kRows[i].values)[c] * kRows[i].scale;
+            values[c] = (data.*kRows[i].values)[c] * kRows[i].scale;
         ChannelLabels::showValues(m_rows[i], values, kRows[i].format);
     }
-    ChannelLabels::showFrequency(m_ui->freq, g_mains_sig->frequency);
+    ChannelLabels::showFrequency(m_ui->freq, data.frequency);
 }

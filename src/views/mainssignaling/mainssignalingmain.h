@@ -14,7 +14,7 @@ class MainsSignalingMain : public MeterPage
     Q_OBJECT
 
 public:
-    explicit MainsSignalingMain(QWidget *parent = nullptr);
+    explicit MainsSignalingMain(const LiveData &data, QWidget *parent = nullptr);
     ~MainsSignalingMain() override;
 
 signals:

@@ -11,23 +11,23 @@ namespace {
 /// Places in __mains_sig_data::trend.
 enum Trend { Signal1 = 0, Signal2 = 2, Rms1 = 4, Rms2 = 5 };
 
-template <int trend> __trend_data *record()
+template <int trend> const __trend_data &record(const DisplayRecords &shown)
 {
-    return g_mains_sig ? &g_mains_sig->trend[trend] : nullptr;
+    return shown.mainsSignal.trend[trend];
 }
 
-template <float (__mains_sig_data::*values)[kChannels]> const float *latest()
+template <float (__mains_sig_data::*values)[kChannels]> TrendPage::Values latest(const DisplayRecords &shown)
 {
-    return g_mains_sig->*values;
+    return TrendPage::valuesOf(shown.mainsSignal.*values);
 }
 
 /// In percent, as the trend.
-template <float (__mains_sig_data::*values)[kChannels]> const float *percent()
+template <float (__mains_sig_data::*values)[kChannels]> TrendPage::Values percent(const DisplayRecords &shown)
 {
-    static float shown[kChannels];
-    for (int c = 0; c < kChannels; ++c)
-        shown[c] = (g_mains_sig->*values)[c] * 100.0f;
-    return shown;
+    TrendPage::Values percents = latest<values>(shown);
+    for (float &value : percents)
+        value *= 100.0f;
+    return percents;
 }
 
 } // namespace
@@ -50,8 +50,8 @@ const std::vector<TrendPage::Quantity> &MainsSignalingTrend::cycle()
     return quantities;
 }
 
-MainsSignalingTrend::MainsSignalingTrend(QWidget *parent)
-    : TrendPage(UI_MAINS_SIG, cycle(), parent), m_ui(new Ui::MainsSignalingTrend)
+MainsSignalingTrend::MainsSignalingTrend(const LiveData &data, QWidget *parent)
+    : TrendPage(UI_MAINS_SIG, data, cycle(), parent), m_ui(new Ui::MainsSignalingTrend)
 {
     static const KeyRow<MainsSignalingTrend> keys[] = {
         { Qt::Key_F1, QT_TRANSLATE_NOOP("MainsSignalingTrend", "Type"), &MainsSignalingTrend::nextType },

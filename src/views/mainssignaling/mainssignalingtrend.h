@@ -14,7 +14,7 @@ class MainsSignalingTrend : public TrendPage
     Q_OBJECT
 
 public:
-    explicit MainsSignalingTrend(QWidget *parent = nullptr);
+    explicit MainsSignalingTrend(const LiveData &data, QWidget *parent = nullptr);
     ~MainsSignalingTrend() override;
 
 signals:

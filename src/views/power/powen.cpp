@@ -1,6 +1,5 @@
 #include "views/power/powen.h"
 
-#include "model/displayrecords.h"
 #include "views/power/powermain.h"
 #include "views/power/powertrendpage.h"
 
@@ -23,18 +22,11 @@ struct _power_pqa_data
 static_assert(sizeof(_power_pqa_data) == 76996, "told size of the saved record");
 static_assert(offsetof(__power_data, hours) == 45 * 4 && offsetof(__power_data, row) == 19 * 4, "words of the record");
 
-void renew(__power_data *&record)
-{
-    if (!record)
-        record = new __power_data;
-    else
-        *record = __power_data();
-}
-
 } // namespace
 
-powen::powen(QWidget *parent)
-    : ViewContainer(UI_POWER, { 6, "Power" }, parent), m_main(new PowerMain), m_trend(new PowerTrendPage)
+powen::powen(const LiveData &data, QWidget *parent)
+    : ViewContainer(UI_POWER, { 6, "Power" }, data, parent), m_main(new PowerMain(data)),
+      m_trend(new PowerTrendPage(data))
 {
     addPage(m_main);
     addPage(m_trend);
@@ -53,35 +45,20 @@ void powen::showPowerMain()
     showPage(m_main);
 }
 
-void powen::initDisplayParam()
-{
-    renew(g_power_data);
-    renew(g_power_data_ui);
-}
-
-void powen::updateDisplay(void *data)
-{
-    // The sub pages show a copy, so that both show the same moment. Lists share their values until the task writes.
-    if (g_power_data && g_power_data_ui)
-        *g_power_data_ui = *g_power_data;
-    ViewContainer::updateDisplay(data);
-}
-
 QByteArray powen::pqaData() const
 {
-    if (!g_power_data_ui)
-        return {};
+    const __power_data &power = shown().power;
     QByteArray bytes(int(sizeof(_power_pqa_data)), '\0');
     auto *data = reinterpret_cast<_power_pqa_data *>(bytes.data());
-    std::memcpy(data->record, g_power_data_ui, sizeof(data->record));
+    std::memcpy(data->record, &power, sizeof(data->record));
 
     int count = kTrendPoints;
-    for (const QList<float> &series : g_power_data_ui->trend[0].series)
+    for (const QList<float> &series : power.trend[0].series)
         count = std::min(count, int(series.size()));
     data->count = count;
     for (int q = 0; q < kTrends; ++q) {
         for (int c = 0; c < kChannels; ++c) {
-            const QList<float> &series = g_power_data_ui->trend[q].series[c];
+            const QList<float> &series = power.trend[q].series[c];
             std::copy_n(series.begin(), std::min(count, int(series.size())), data->series[q][c]);
         }
     }

@@ -11,21 +11,17 @@ class powen : public ViewContainer
     Q_OBJECT
 
 public:
-    explicit powen(QWidget *parent = nullptr);
+    explicit powen(const LiveData &data, QWidget *parent = nullptr);
 
     QByteArray pqaData() const override;
 
 public slots:
     void showPowerTrend();
     void showPowerMain();
-    void updateDisplay(void *data) override;
 
 signals:
     /// The user wants the energy counters at zero.
     void resetEnergy();
-
-protected:
-    void initDisplayParam() override;
 
 private:
     PowerMain *m_main;

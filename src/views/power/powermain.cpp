@@ -3,7 +3,6 @@
 
 #include "settings/config_data.h"
 #include "settings/phasecolor.h"
-#include "model/displayrecords.h"
 #include "widgets/text/f_to_str.h"
 #include "widgets/controls/labellook.h"
 
@@ -65,7 +64,7 @@ constexpr int kEnergyPitch = 44;
 
 } // namespace
 
-PowerMain::PowerMain(QWidget *parent) : MeterPage(UI_POWER, parent), m_ui(new Ui::PowerMain)
+PowerMain::PowerMain(const LiveData &data, QWidget *parent) : MeterPage(UI_POWER, data, parent), m_ui(new Ui::PowerMain)
 {
     static const KeyRow<PowerMain> keys[] = {
         { Qt::Key_F2, nullptr, &PowerMain::pressReset },
@@ -161,9 +160,7 @@ void PowerMain::showRow(const ChannelLabels::LabelRow &row, const float *values,
 
 void PowerMain::showCurParams()
 {
-    if (!g_power_data_ui)
-        return;
-    const __power_data &data = *g_power_data_ui;
+    const __power_data &data = shown().power;
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
         const Row &row = kRows[i];
         float values[kChannels] = {};
@@ -177,7 +174,7 @@ void PowerMain::showCurParams()
 
 void PowerMain::showEnergies()
 {
-    const __power_data &data = *g_power_data_ui;
+    const __power_data &data = shown().power;
     for (std::size_t i = 0; i < m_energies.size(); ++i)
         showRow(m_energies[i].values, data.*kEnergies[i].values, true, F_to_Str::number_E);
     const QLatin1Char zero('0');
@@ -193,7 +190,7 @@ void PowerMain::showCaporInd()
     constexpr float kNothing = 1e-5f; // var
 
     for (int c = 0; c < kChannels; ++c) {
-        const float reactive = g_power_data_ui->row[c].reactive;
+        const float reactive = shown().power.row[c].reactive;
         QString sheet;
         if (isShown(c, true) && reactive < -kNothing)
             sheet = QStringLiteral("background-image: url(:/capacitance);");

@@ -15,7 +15,7 @@ class PowerMain : public MeterPage
     Q_OBJECT
 
 public:
-    explicit PowerMain(QWidget *parent = nullptr);
+    explicit PowerMain(const LiveData &data, QWidget *parent = nullptr);
     ~PowerMain() override;
 
     bool isEnergyShown() const { return m_energyShown; }

@@ -2,7 +2,6 @@
 #include "ui_powertrendpage.h"
 
 #include "settings/config_data.h"
-#include "model/displayrecords.h"
 #include "widgets/text/f_to_str.h"
 #include "widgets/controls/labellook.h"
 #include "widgets/charts/viftrendchart.h"
@@ -14,26 +13,23 @@ template <double DisplayUnits::*factor> double scale()
     return m_settingConfig_g.units().*factor;
 }
 
-template <int trend> __trend_data *record()
+template <int trend> const __trend_data &record(const DisplayRecords &shown)
 {
-    return g_power_data_ui ? &g_power_data_ui->trend[trend] : nullptr;
+    return shown.power.trend[trend];
 }
 
 /// Latest values of the four rows, gathered out of the record.
-template <float PowerDisplayRow::*field> const float *rows()
+template <float PowerDisplayRow::*field> TrendPage::Values rows(const DisplayRecords &shown)
 {
-    static float values[kChannels];
+    TrendPage::Values values;
     for (int c = 0; c < kChannels; ++c)
-        values[c] = g_power_data_ui->row[c].*field;
+        values[c] = shown.power.row[c].*field;
     return values;
 }
 
-template <float (__power_data::*phases)[3]> const float *threePhases()
+template <float (__power_data::*phases)[3]> TrendPage::Values threePhases(const DisplayRecords &shown)
 {
-    static float values[kChannels] = {};
-    for (int c = 0; c < 3; ++c)
-        values[c] = (g_power_data_ui->*phases)[c];
-    return values;
+    return TrendPage::valuesOf(shown.power.*phases);
 }
 
 QString withUnit(const char *text, QString DisplayUnits::*unit)
@@ -83,7 +79,8 @@ const std::vector<TrendPage::Quantity> &PowerTrendPage::cycle()
     return quantities;
 }
 
-PowerTrendPage::PowerTrendPage(QWidget *parent) : TrendPage(UI_POWER, cycle(), parent), m_ui(new Ui::PowerTrendPage)
+PowerTrendPage::PowerTrendPage(const LiveData &data, QWidget *parent)
+    : TrendPage(UI_POWER, data, cycle(), parent), m_ui(new Ui::PowerTrendPage)
 {
     static const KeyRow<PowerTrendPage> keys[] = {
         { Qt::Key_F1, QT_TRANSLATE_NOOP("PowerTrendPage", "Type"), &PowerTrendPage::nextType },

@@ -14,7 +14,7 @@ class PowerTrendPage : public TrendPage
     Q_OBJECT
 
 public:
-    explicit PowerTrendPage(QWidget *parent = nullptr);
+    explicit PowerTrendPage(const LiveData &data, QWidget *parent = nullptr);
     ~PowerTrendPage() override;
 
 signals:

@@ -12,13 +12,11 @@ class PowerInverter : public ViewContainer
     Q_OBJECT
 
 public:
-    explicit PowerInverter(QWidget *parent = nullptr);
+    explicit PowerInverter(const LiveData &data, QWidget *parent = nullptr);
 
     void enterPowerInverter() { enterFirstPage(); }
 
 public slots:
-    /// Derives the record from the live values, then redraws; nothing on hold.
-    void updateDisplay(void *data) override;
     void showPowerInverterSetup();
     void showPowerInverterMain();
     void showPowerInverterTrend();
@@ -26,15 +24,8 @@ public slots:
 signals:
     void startPowerInverterTask();
 
-protected:
-    void initDisplayParam() override;
-
 private:
-    void setHeld(bool held);
-
     PowerInverterSetup *m_setup;
     PowerInverterMain *m_main;
     PowerInverterTrend *m_trend;
-    bool m_held = false;
-    quint32 m_trendSecond = 0; // of the last trend point; s since 1970
 };

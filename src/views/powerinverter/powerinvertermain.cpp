@@ -2,8 +2,7 @@
 #include "ui_powerinvertermain.h"
 
 #include "settings/config_data.h"
-#include "model/displayrecords.h"
-#include "views/powerinverter/inverterfeed.h"
+#include "task/inverterfeed.h"
 #include "widgets/text/f_to_str.h"
 #include "widgets/controls/labellook.h"
 
@@ -46,8 +45,8 @@ const Row<float[kPhases]> kOutputs[] = {
 
 } // namespace
 
-PowerInverterMain::PowerInverterMain(QWidget *parent)
-    : LivePage(UI_POWER_INVERTER, parent), m_ui(new Ui::PowerInverterMain)
+PowerInverterMain::PowerInverterMain(const LiveData &data, QWidget *parent)
+    : LivePage(UI_POWER_INVERTER, parent), m_data(data), m_ui(new Ui::PowerInverterMain)
 {
     static const KeyRow<PowerInverterMain> keys[] = {
         { Qt::Key_F4, QT_TRANSLATE_NOOP("PowerInverterMain", "Trend"), &PowerInverterMain::goPowerInverterTrend },
@@ -109,16 +108,15 @@ void PowerInverterMain::showTitle()
 
 void PowerInverterMain::showCurParams()
 {
-    if (!g_pi_data)
-        return;
+    const __pi_data &record = m_data.shown().inverter;
     for (std::size_t i = 0; i < m_inputs.size(); ++i)
-        setText(m_inputs[i].values[0], kInputs[i].format(g_pi_data->*kInputs[i].value));
+        setText(m_inputs[i].values[0], kInputs[i].format(record.*kInputs[i].value));
     for (std::size_t i = 0; i < m_outputs.size(); ++i) {
         // The label rows have a place for the neutral, the record has none.
         float values[kChannels] = {};
-        std::copy_n(g_pi_data->*kOutputs[i].value, kPhases, values);
+        std::copy_n(record.*kOutputs[i].value, kPhases, values);
         ChannelLabels::showValues(outputs(m_outputs[i].values), values, kOutputs[i].format);
     }
-    setText(m_ui->eff, F_to_Str::number_2(g_pi_data->efficiency) + QLatin1Char('%'));
-    ChannelLabels::showFrequency(m_ui->freq, g_pi_data->frequency);
+    setText(m_ui->eff, F_to_Str::number_2(record.efficiency) + QLatin1Char('%'));
+    ChannelLabels::showFrequency(m_ui->freq, record.frequency);
 }

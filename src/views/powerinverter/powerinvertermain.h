@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/livedata.h"
 #include "pages/labelgrid.h"
 #include "pages/livepage.h"
 
@@ -16,7 +17,7 @@ class PowerInverterMain : public LivePage
     Q_OBJECT
 
 public:
-    explicit PowerInverterMain(QWidget *parent = nullptr);
+    explicit PowerInverterMain(const LiveData &data, QWidget *parent = nullptr);
     ~PowerInverterMain() override;
 
     /// Captions for the wiring, the units and the output in force.
@@ -35,6 +36,7 @@ private:
     /// \a row without the places of phases that the inverter does not have.
     static ChannelLabels::LabelRow outputs(ChannelLabels::LabelRow row);
 
+    const LiveData &m_data;
     std::unique_ptr<Ui::PowerInverterMain> m_ui;
     ChannelLabels::LabelRow m_headers;
     std::vector<LabelGrid::Row> m_inputs; // in the order of the table of inputs

@@ -1,7 +1,7 @@
 #include "views/powerinverter/powerinvertersetup.h"
 #include "ui_powerinvertersetup.h"
 
-#include "views/powerinverter/inverterfeed.h"
+#include "task/inverterfeed.h"
 #include "widgets/controls/labellook.h"
 
 PowerInverterSetup::PowerInverterSetup(QWidget *parent)

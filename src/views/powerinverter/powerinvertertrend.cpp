@@ -2,12 +2,10 @@
 #include "ui_powerinvertertrend.h"
 
 #include "settings/config_data.h"
-#include "views/powerinverter/inverterfeed.h"
+#include "task/inverterfeed.h"
 #include "widgets/text/f_to_str.h"
 #include "widgets/controls/labellook.h"
 #include "widgets/charts/viftrendchart.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -41,22 +39,20 @@ int singleFlag()
     return TrendSingle;
 }
 
-template <InverterFeed::Trend trend> __trend_data *record()
+template <InverterFeed::Trend trend> const __trend_data &record(const DisplayRecords &shown)
 {
-    return g_pi_data ? &g_pi_data->trend[trend] : nullptr;
+    return shown.inverter.trend[trend];
 }
 
-template <float __pi_data::*value> const float *input()
+template <float __pi_data::*value> TrendPage::Values input(const DisplayRecords &shown)
 {
-    return &(g_pi_data->*value);
+    return { shown.inverter.*value };
 }
 
 /// With a place for the neutral, which an output does not have.
-template <float (__pi_data::*values)[3]> const float *output()
+template <float (__pi_data::*values)[3]> TrendPage::Values output(const DisplayRecords &shown)
 {
-    static float shown[kChannels];
-    std::copy_n(g_pi_data->*values, 3, shown);
-    return shown;
+    return TrendPage::valuesOf(shown.inverter.*values);
 }
 
 } // namespace
@@ -81,8 +77,8 @@ const std::vector<TrendPage::Quantity> &PowerInverterTrend::cycle()
     return quantities;
 }
 
-PowerInverterTrend::PowerInverterTrend(QWidget *parent)
-    : TrendPage(UI_POWER_INVERTER, cycle(), parent), m_ui(new Ui::PowerInverterTrend)
+PowerInverterTrend::PowerInverterTrend(const LiveData &data, QWidget *parent)
+    : TrendPage(UI_POWER_INVERTER, data, cycle(), parent), m_ui(new Ui::PowerInverterTrend)
 {
     static const KeyRow<PowerInverterTrend> keys[] = {
         { Qt::Key_F1, QT_TRANSLATE_NOOP("PowerInverterTrend", "Type"), &PowerInverterTrend::nextType },

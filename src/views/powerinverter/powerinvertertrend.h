@@ -14,7 +14,7 @@ class PowerInverterTrend : public TrendPage
     Q_OBJECT
 
 public:
-    explicit PowerInverterTrend(QWidget *parent = nullptr);
+    explicit PowerInverterTrend(const LiveData &data, QWidget *parent = nullptr);
     ~PowerInverterTrend() override;
 
 signals:

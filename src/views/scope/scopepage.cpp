@@ -29,9 +29,9 @@ static_assert(sizeof(__scope_pqa_data) == 19236, "told size of the saved record"
 
 } // namespace
 
-ScopePage::ScopePage(QWidget *parent)
-    : FunctionPage(UI_SCOPE, { 11, "Scope" }, parent), m_ui(new Ui::ScopePage),
-      m_readout((m_ui->setupUi(this), LabelLook::dress(this), this)),
+ScopePage::ScopePage(const LiveData &data, QWidget *parent)
+    : FunctionPage(UI_SCOPE, { 11, "Scope" }, parent), m_data(data), m_drawn(new __scope_data_ui()),
+      m_ui(new Ui::ScopePage), m_readout((m_ui->setupUi(this), LabelLook::dress(this), this)),
       m_controls(new ScopeControls(this, m_ui->scope, m_ui->btn_f3, m_ui->btn_f4, m_ui->zoom_scale))
 {
     static const KeyRow<ScopePage> keys[] = {
@@ -53,17 +53,6 @@ ScopePage::ScopePage(QWidget *parent)
 
 ScopePage::~ScopePage() = default;
 
-void ScopePage::initDisplayParam()
-{
-    // The addresses must stay: the task and the widgets hold them for the life of the process.
-    if (!g_scope_data)
-        g_scope_data = new __scope_data;
-    if (!g_scope_data_ui)
-        g_scope_data_ui = new __scope_data_ui;
-    std::memset(g_scope_data, 0, sizeof *g_scope_data);
-    std::memset(g_scope_data_ui, 0, sizeof *g_scope_data_ui);
-}
-
 void ScopePage::init_parameter()
 {
     FunctionPage::init_parameter();
@@ -72,9 +61,7 @@ void ScopePage::init_parameter()
     m_controls->reset();
     initScopeWidget();
     m_controls->showDefaultZoom();
-    initDisplayParam();
-    showCurVal();
-    m_ui->scope->showScopeData(g_scope_data_ui);
+    updateDisplay(nullptr);
 }
 
 void ScopePage::retranslateUi()
@@ -94,25 +81,20 @@ void ScopePage::initScopeWidget()
 
 void ScopePage::updateDisplay(void *)
 {
-    if (!g_scope_data || !g_scope_data_ui)
-        return;
-    std::memcpy(g_scope_data_ui, g_scope_data, offsetof(__scope_data_ui, voltageSamples));
+    const __scope_data &shown = m_data.shown().scope;
+    std::memcpy(m_drawn.get(), &shown, offsetof(__scope_data_ui, voltageSamples));
     for (int c = 0; c < kChannels; ++c) {
-        lineSample(g_scope_data_ui->voltageSamples[c], g_scope_data->voltageSamples[c], kPoints, wave_step,
-                   kWaveSamples, kCycles);
-        lineSample(g_scope_data_ui->currentSamples[c], g_scope_data->currentSamples[c], kPoints, wave_step,
-                   kWaveSamples, kCycles);
+        lineSample(m_drawn->voltageSamples[c], shown.voltageSamples[c], kPoints, wave_step, kWaveSamples, kCycles);
+        lineSample(m_drawn->currentSamples[c], shown.currentSamples[c], kPoints, wave_step, kWaveSamples, kCycles);
     }
     showCurVal();
-    m_ui->scope->showScopeData(g_scope_data_ui);
+    m_ui->scope->showScopeData(m_drawn.get());
 }
 
 void ScopePage::showCurVal()
 {
-    if (!g_scope_data_ui)
-        return;
-    m_readout.show(*g_scope_data_ui, m_controls->cursorOn() ? m_controls->cursorIndex() : -1);
-    ChannelLabels::showFrequency(m_ui->freq, g_scope_data_ui->frequency);
+    m_readout.show(*m_drawn, m_controls->cursorOn() ? m_controls->cursorIndex() : -1);
+    ChannelLabels::showFrequency(m_ui->freq, m_drawn->frequency);
 }
 
 void ScopePage::nextMode()
@@ -173,16 +155,14 @@ void ScopePage::releaseKey(int key)
 
 QByteArray ScopePage::pqaData() const
 {
-    if (!g_scope_data_ui)
-        return {};
     __scope_pqa_data data;
-    std::memcpy(&data, g_scope_data_ui, offsetof(__scope_pqa_data, voltageSamples));
+    std::memcpy(&data, m_drawn.get(), offsetof(__scope_pqa_data, voltageSamples));
     for (int c = 0; c < kChannels; ++c) {
         const float volt = ScopeReadout::voltCoefficient(c);
         const float ampere = ScopeReadout::ampereCoefficient(c);
         for (int i = 0; i < kPoints; ++i) {
-            data.voltageSamples[c][i] = ScopeReadout::fromSample(volt, g_scope_data_ui->voltageSamples[c][i]);
-            data.currentSamples[c][i] = ScopeReadout::fromSample(ampere, g_scope_data_ui->currentSamples[c][i]);
+            data.voltageSamples[c][i] = ScopeReadout::fromSample(volt, m_drawn->voltageSamples[c][i]);
+            data.currentSamples[c][i] = ScopeReadout::fromSample(ampere, m_drawn->currentSamples[c][i]);
         }
     }
     return QByteArray(reinterpret_cast<const char *>(&data), int(sizeof data));

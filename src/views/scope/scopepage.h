@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/livedata.h"
 #include "pages/functionpage.h"
 #include "pages/scopereadout.h"
 
@@ -20,10 +21,12 @@ class ScopePage : public FunctionPage
     Q_OBJECT
 
 public:
-    explicit ScopePage(QWidget *parent = nullptr);
+    explicit ScopePage(const LiveData &data, QWidget *parent = nullptr);
     ~ScopePage() override;
 
     int displayMode() const { return m_mode; } // 0 to 5: U, I, N, L1, L2, L3
+    /// What the chart draws: the held or live samples, shortened to its width.
+    const __scope_data_ui &drawn() const { return *m_drawn; }
     QByteArray pqaData() const override;
 
 public slots:
@@ -47,9 +50,10 @@ private:
     void stayHere() { }
 
     void initScopeWidget();
-    void initDisplayParam();
     void showCurVal();
 
+    const LiveData &m_data;
+    const std::unique_ptr<__scope_data_ui> m_drawn; // the chart keeps its address
     std::unique_ptr<Ui::ScopePage> m_ui;
     ScopeReadout m_readout;
     ScopeControls *m_controls;

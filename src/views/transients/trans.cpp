@@ -1,7 +1,7 @@
 #include "views/transients/trans.h"
 
 #include "device/deviceinit.h"
-#include "model/displayrecords.h"
+#include "model/transparam.h"
 #include "record/pqafile.h"
 #include "views/transients/transmain.h"
 #include "views/transients/transtart.h"
@@ -21,8 +21,8 @@ void appendWord(QByteArray &bytes, qint32 word)
 
 } // namespace
 
-trans::trans(QWidget *parent)
-    : ViewContainer(UI_TRANSIENTS, { 5, "Trans" }, parent), m_main(new TransMain), m_start(new TranStart),
+trans::trans(const LiveData &data, QWidget *parent)
+    : ViewContainer(UI_TRANSIENTS, { 5, "Trans" }, data, parent), m_main(new TransMain), m_start(new TranStart(data)),
       m_view(new TransView)
 {
     addPage(m_main);
@@ -63,14 +63,6 @@ void trans::showTransView()
 {
     m_view->selectNewest();
     showPage(m_view);
-}
-
-void trans::initDisplayParam()
-{
-    // The address must stay: the task and the pages hold it for the life of the process.
-    if (!g_trans_data)
-        g_trans_data = new __trans_data;
-    *g_trans_data = __trans_data();
 }
 
 bool trans::pressKey(int key)

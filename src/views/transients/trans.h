@@ -12,7 +12,7 @@ class trans : public ViewContainer
     Q_OBJECT
 
 public:
-    explicit trans(QWidget *parent = nullptr);
+    explicit trans(const LiveData &data, QWidget *parent = nullptr);
 
     /// Number of transients and bytes of one (4 bytes each), then the captured transients, oldest first, each as its
     /// fields stand in order (4,836 bytes).
@@ -31,7 +31,6 @@ signals:
     void startTransTask();
 
 protected:
-    void initDisplayParam() override;
     bool pressKey(int key) override;
 
 private:

@@ -5,7 +5,8 @@
 #include "model/transparam.h"
 #include "widgets/controls/labellook.h"
 
-TranStart::TranStart(QWidget *parent) : TransScopePage(parent), m_ui(new Ui::TranStart)
+TranStart::TranStart(const LiveData &data, QWidget *parent)
+    : TransScopePage(parent), m_data(data), m_ui(new Ui::TranStart)
 {
     static const KeyRow<TranStart> keys[] = {
         { Qt::Key_F1, QT_TRANSLATE_NOOP("TranStart", "Events"), &TranStart::goTransView },
@@ -40,9 +41,7 @@ void TranStart::retranslateUi()
 
 void TranStart::updateDisplay(void *)
 {
-    if (!g_trans_data)
-        return;
-    showRecord(g_trans_data);
+    showRecord(&m_data.shown().transient);
     showCount();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/livedata.h"
 #include "views/transients/transscopepage.h"
 
 namespace Ui {
@@ -12,7 +13,7 @@ class TranStart : public TransScopePage
     Q_OBJECT
 
 public:
-    explicit TranStart(QWidget *parent = nullptr);
+    explicit TranStart(const LiveData &data, QWidget *parent = nullptr);
     ~TranStart() override;
 
     void showCount();
@@ -26,5 +27,6 @@ signals:
     void goTransView();
 
 private:
+    const LiveData &m_data;
     std::unique_ptr<Ui::TranStart> m_ui;
 };

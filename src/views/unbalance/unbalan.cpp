@@ -1,11 +1,11 @@
 #include "views/unbalance/unbalan.h"
 
-#include "model/displayrecords.h"
 #include "views/unbalance/unbalanmain.h"
 #include "views/unbalance/unbalvectorpage.h"
 
-unbalan::unbalan(QWidget *parent)
-    : ViewContainer(UI_UNBALANCE, { 8, "Unbalance" }, parent), m_main(new UnbalanMain), m_vector(new UnbalVectorPage)
+unbalan::unbalan(const LiveData &data, QWidget *parent)
+    : ViewContainer(UI_UNBALANCE, { 8, "Unbalance" }, data, parent), m_main(new UnbalanMain(data)),
+      m_vector(new UnbalVectorPage(data))
 {
     addPage(m_main);
     addPage(m_vector);
@@ -24,17 +24,7 @@ void unbalan::showUnbalanVector()
     showPage(m_vector);
 }
 
-void unbalan::initDisplayParam()
-{
-    // The address must stay: the task and the pages hold it for the life of the process.
-    if (!g_unbalance_data)
-        g_unbalance_data = new __unbalance_data;
-    *g_unbalance_data = {};
-}
-
 QByteArray unbalan::pqaData() const
 {
-    return g_unbalance_data
-        ? QByteArray(reinterpret_cast<const char *>(g_unbalance_data), int(sizeof(__unbalance_data)))
-        : QByteArray();
+    return QByteArray(reinterpret_cast<const char *>(&shown().unbalance), int(sizeof(__unbalance_data)));
 }

@@ -11,7 +11,7 @@ class unbalan : public ViewContainer
     Q_OBJECT
 
 public:
-    explicit unbalan(QWidget *parent = nullptr);
+    explicit unbalan(const LiveData &data, QWidget *parent = nullptr);
 
     void enterUnbalan() { enterFirstPage(); }
     QByteArray pqaData() const override;
@@ -19,9 +19,6 @@ public:
 public slots:
     void showUnbalanMain();
     void showUnbalanVector();
-
-protected:
-    void initDisplayParam() override;
 
 private:
     UnbalanMain *m_main;

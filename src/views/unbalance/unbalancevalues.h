@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/displayrecords.h"
+#include "model/livedata.h"
 #include "pages/channellabels.h"
 
 #include <cmath>
@@ -13,11 +13,12 @@ inline bool hasSequences()
     return ChannelLabels::channels().has(2);
 }
 
-/// Frequency with the sign of the lock, Hz. The record keeps the magnitude only; the live values know the sign.
-inline float signedFrequency(const __unbalance_data &record)
+/// Frequency with the sign of the lock, Hz. The function's own record keeps the magnitude only; that of volts, amperes
+/// and hertz knows the sign.
+inline float signedFrequency(const DisplayRecords &shown)
 {
-    const bool lost = record.frequency < 0 || (g_vif_data && g_vif_data->frequency < 0);
-    return lost ? -std::fabs(record.frequency) : record.frequency;
+    const float frequency = shown.unbalance.frequency;
+    return frequency < 0 || shown.vif.frequency < 0 ? -std::fabs(frequency) : frequency;
 }
 
 } // namespace UnbalanceValues

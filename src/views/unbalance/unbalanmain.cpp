@@ -6,16 +6,16 @@
 
 namespace {
 
-using Values = const float *(*)(); // of the four channels; null: no record
+using Values = const float *(*)(const DisplayRecords &); // of the four channels
 
-template <float (__vif_data::*values)[kChannels]> const float *live()
+template <float (__vif_data::*values)[kChannels]> const float *live(const DisplayRecords &shown)
 {
-    return g_vif_data ? g_vif_data->*values : nullptr;
+    return shown.vif.*values;
 }
 
-template <float (__unbalance_data::*values)[kChannels]> const float *own()
+template <float (__unbalance_data::*values)[kChannels]> const float *own(const DisplayRecords &shown)
 {
-    return g_unbalance_data ? g_unbalance_data->*values : nullptr;
+    return shown.unbalance.*values;
 }
 
 struct Row : MeterLine
@@ -62,7 +62,8 @@ constexpr int kRatioPitch = 44;
 
 } // namespace
 
-UnbalanMain::UnbalanMain(QWidget *parent) : MeterPage(UI_UNBALANCE, parent), m_ui(new Ui::UnbalanMain)
+UnbalanMain::UnbalanMain(const LiveData &data, QWidget *parent)
+    : MeterPage(UI_UNBALANCE, data, parent), m_ui(new Ui::UnbalanMain)
 {
     static const KeyRow<UnbalanMain> keys[] = {
         { Qt::Key_F4, QT_TRANSLATE_NOOP("UnbalanMain", "Vector"), &UnbalanMain::goUnbalanVector },
@@ -92,15 +93,11 @@ void UnbalanMain::showTitle()
 
 void UnbalanMain::showCurParams()
 {
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        if (const float *values = kRows[i].values())
-            ChannelLabels::showValues(m_rows[i], values, kRows[i].format);
-    }
-    if (!g_unbalance_data)
-        return;
+    for (std::size_t i = 0; i < m_rows.size(); ++i)
+        ChannelLabels::showValues(m_rows[i], kRows[i].values(shown()), kRows[i].format);
     if (UnbalanceValues::hasSequences()) {
         for (std::size_t i = 0; i < m_ratios.size(); ++i)
-            setText(m_ratios[i].values[0], F_to_Str::number_2(g_unbalance_data->*kRatios[i].value) + QLatin1Char('%'));
+            setText(m_ratios[i].values[0], F_to_Str::number_2(shown().unbalance.*kRatios[i].value) + QLatin1Char('%'));
     }
-    ChannelLabels::showFrequency(m_ui->freq_v, UnbalanceValues::signedFrequency(*g_unbalance_data));
+    ChannelLabels::showFrequency(m_ui->freq_v, UnbalanceValues::signedFrequency(shown()));
 }

@@ -15,7 +15,7 @@ class UnbalanMain : public MeterPage
     Q_OBJECT
 
 public:
-    explicit UnbalanMain(QWidget *parent = nullptr);
+    explicit UnbalanMain(const LiveData &data, QWidget *parent = nullptr);
     ~UnbalanMain() override;
 
 signals:

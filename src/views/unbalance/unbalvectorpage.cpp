@@ -36,7 +36,8 @@ const char *const kAngleCaptions[3] = {
 
 } // namespace
 
-UnbalVectorPage::UnbalVectorPage(QWidget *parent) : LivePage(UI_UNBALANCE, parent), m_ui(new Ui::UnbalVectorPage)
+UnbalVectorPage::UnbalVectorPage(const LiveData &data, QWidget *parent)
+    : LivePage(UI_UNBALANCE, parent), m_data(data), m_ui(new Ui::UnbalVectorPage)
 {
     static const KeyRow<UnbalVectorPage> keys[] = {
         { Qt::Key_F1, nullptr, &UnbalVectorPage::nextSelector },
@@ -145,9 +146,7 @@ void UnbalVectorPage::showTitle()
 
 void UnbalVectorPage::showCurParams()
 {
-    if (!g_unbalance_data)
-        return;
-    const __unbalance_data &data = *g_unbalance_data;
+    const __unbalance_data &data = m_data.shown().unbalance;
     const std::vector<Vector> shown = vectors();
     for (std::size_t i = 0; i < shown.size(); ++i) {
         const auto [current, phase] = shown[i];
@@ -163,7 +162,7 @@ void UnbalVectorPage::showCurParams()
         setText(m_ui->neg_v, F_to_Str::number_2(negative) + QLatin1Char('%'));
         setText(m_ui->zero_v, F_to_Str::number_2(zero) + QLatin1Char('%'));
     }
-    ChannelLabels::showFrequency(m_ui->freq_v, UnbalanceValues::signedFrequency(data));
+    ChannelLabels::showFrequency(m_ui->freq_v, UnbalanceValues::signedFrequency(m_data.shown()));
     showChart();
 }
 
@@ -172,7 +171,8 @@ void UnbalVectorPage::showChart()
     bool visible[2][kPlaces] = {};
     for (const Vector &vector : vectors())
         visible[vector.current][vector.phase] = true;
-    const float *angles[] = { g_unbalance_data->voltageAngle, g_unbalance_data->currentAngle };
+    const __unbalance_data &data = m_data.shown().unbalance;
+    const float *angles[] = { data.voltageAngle, data.currentAngle };
     for (int kind = 0; kind < 2; ++kind) {
         for (int phase = 0; phase < kPlaces; ++phase)
             (m_ui->vector_chart->*kSetAngle[kind][phase])(double(angles[kind][phase]), visible[kind][phase]);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/livedata.h"
 #include "pages/channellabels.h"
 #include "pages/livepage.h"
 
@@ -18,7 +19,7 @@ class UnbalVectorPage : public LivePage
     Q_OBJECT
 
 public:
-    explicit UnbalVectorPage(QWidget *parent = nullptr);
+    explicit UnbalVectorPage(const LiveData &data, QWidget *parent = nullptr);
     ~UnbalVectorPage() override;
 
     /// 1 voltages, 2 currents, 3 to 5 one phase.
@@ -52,6 +53,7 @@ private:
     void showCurParams();
     void showChart();
 
+    const LiveData &m_data;
     std::unique_ptr<Ui::UnbalVectorPage> m_ui;
     using Places = std::array<QLabel *, kPlaces>;
     Places labels(const char *pattern) const;

@@ -1,7 +1,6 @@
 #include "views/vif/vifmain.h"
 #include "ui_vifmain.h"
 
-#include "model/displayrecords.h"
 #include "widgets/text/f_to_str.h"
 
 namespace {
@@ -29,7 +28,7 @@ constexpr MeterGrid kGrid = { { 150, 120, 112, 24, 38, 16, 130, 20 }, 40, 32, 24
 
 } // namespace
 
-VifMain::VifMain(QWidget *parent) : MeterPage(UI_VIF, parent), m_ui(new Ui::VifMain)
+VifMain::VifMain(const LiveData &data, QWidget *parent) : MeterPage(UI_VIF, data, parent), m_ui(new Ui::VifMain)
 {
     static const KeyRow<VifMain> keys[] = {
         { Qt::Key_F4, QT_TRANSLATE_NOOP("VifMain", "Trend"), &VifMain::goVifTrend },
@@ -43,9 +42,8 @@ VifMain::~VifMain() = default;
 
 void VifMain::showCurParams()
 {
-    if (!g_vif_data)
-        return;
+    const __vif_data &data = shown().vif;
     for (std::size_t i = 0; i < m_rows.size(); ++i)
-        ChannelLabels::showValues(m_rows[i], g_vif_data->*kRows[i].values, kRows[i].format);
-    ChannelLabels::showFrequency(m_ui->freq, g_vif_data->frequency);
+        ChannelLabels::showValues(m_rows[i], data.*kRows[i].values, kRows[i].format);
+    ChannelLabels::showFrequency(m_ui->freq, data.frequency);
 }

@@ -14,7 +14,7 @@ class VifMain : public MeterPage
     Q_OBJECT
 
 public:
-    explicit VifMain(QWidget *parent = nullptr);
+    explicit VifMain(const LiveData &data, QWidget *parent = nullptr);
     ~VifMain() override;
 
 signals:

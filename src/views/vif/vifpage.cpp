@@ -1,7 +1,5 @@
 #include "views/vif/vifpage.h"
 
-#include "settings/config_data.h"
-#include "model/displayrecords.h"
 #include "views/vif/vifmain.h"
 #include "views/vif/viftrendpage.h"
 
@@ -26,8 +24,8 @@ constexpr VifTrend kSavedTrends[]
 
 } // namespace
 
-VifPage::VifPage(QWidget *parent)
-    : ViewContainer(UI_VIF, { 2, "VAHz" }, parent), m_main(new VifMain), m_trend(new VifTrendPage)
+VifPage::VifPage(const LiveData &data, QWidget *parent)
+    : ViewContainer(UI_VIF, { 2, "VAHz" }, data, parent), m_main(new VifMain(data)), m_trend(new VifTrendPage(data))
 {
     addPage(m_main);
     addPage(m_trend);
@@ -45,35 +43,24 @@ void VifPage::showVifmain()
     showPage(m_main);
 }
 
-void VifPage::initDisplayParam()
-{
-    // The address must stay: the task and the pages hold it for the life of the process.
-    if (!g_vif_data)
-        g_vif_data = new __vif_data;
-    else
-        *g_vif_data = __vif_data();
-    g_vif_data->frequency = m_settingConfig_g.getNomFreq();
-}
-
 QByteArray VifPage::pqaData() const
 {
-    if (!g_vif_data)
-        return {};
+    const __vif_data &vif = shown().vif;
     QByteArray bytes(int(sizeof(__vif_pqa_data)), '\0');
     __vif_pqa_data data = {};
-    std::memcpy(data.values, g_vif_data, sizeof(data.values));
+    std::memcpy(data.values, &vif, sizeof(data.values));
 
     int count = kTrendPoints;
-    for (const QList<float> &series : g_vif_data->trend[VifTrendURms].series)
+    for (const QList<float> &series : vif.trend[VifTrendURms].series)
         count = std::min(count, int(series.size()));
     data.count = count;
     for (int q = 0; q < 6; ++q) {
         for (int c = 0; c < kChannels; ++c) {
-            const QList<float> &series = g_vif_data->trend[kSavedTrends[q]].series[c];
+            const QList<float> &series = vif.trend[kSavedTrends[q]].series[c];
             std::copy_n(series.begin(), std::min(count, int(series.size())), data.series[q][c]);
         }
     }
-    const QList<float> &frequency = g_vif_data->trend[VifTrendFrequency].series[0];
+    const QList<float> &frequency = vif.trend[VifTrendFrequency].series[0];
     std::copy_n(frequency.begin(), std::min(count, int(frequency.size())), data.frequency);
     std::memcpy(bytes.data(), &data, sizeof(data));
     return bytes;

@@ -11,7 +11,7 @@ class VifPage : public ViewContainer
     Q_OBJECT
 
 public:
-    explicit VifPage(QWidget *parent = nullptr);
+    explicit VifPage(const LiveData &data, QWidget *parent = nullptr);
 
     void enterVif() { enterFirstPage(); }
     QByteArray pqaData() const override;
@@ -19,9 +19,6 @@ public:
 public slots:
     void showVifTrend();
     void showVifmain();
-
-protected:
-    void initDisplayParam() override;
 
 private:
     VifMain *m_main;

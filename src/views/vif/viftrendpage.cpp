@@ -18,14 +18,14 @@ double factorAmpere()
     return m_settingConfig_g.units().factorAmpere;
 }
 
-template <VifTrend trend> __trend_data *record()
+template <VifTrend trend> const __trend_data &record(const DisplayRecords &shown)
 {
-    return g_vif_data ? &g_vif_data->trend[trend] : nullptr;
+    return shown.vif.trend[trend];
 }
 
-template <float (__vif_data::*values)[kChannels]> const float *latest()
+template <float (__vif_data::*values)[kChannels]> TrendPage::Values latest(const DisplayRecords &shown)
 {
-    return g_vif_data->*values;
+    return TrendPage::valuesOf(shown.vif.*values);
 }
 
 QString volts(const char *text)
@@ -61,12 +61,13 @@ const std::vector<TrendPage::Quantity> &VifTrendPage::cycle()
         { 7, [] { return tr("I cf"); }, record<VifTrendICrest>, unscaled, wiringFlags,
           latest<&__vif_data::currentCrest>, F_to_Str::number_2 },
         { 9, [] { return tr("Freq(Hz)"); }, record<VifTrendFrequency>, unscaled, [] { return int(TrendSingle); },
-          []() -> const float * { return &g_vif_data->frequency; }, F_to_Str::number_F, true },
+          [](const DisplayRecords &shown) { return Values { shown.vif.frequency }; }, F_to_Str::number_F, true },
     };
     return quantities;
 }
 
-VifTrendPage::VifTrendPage(QWidget *parent) : TrendPage(UI_VIF, cycle(), parent), m_ui(new Ui::VifTrendPage)
+VifTrendPage::VifTrendPage(const LiveData &data, QWidget *parent)
+    : TrendPage(UI_VIF, data, cycle(), parent), m_ui(new Ui::VifTrendPage)
 {
     static const KeyRow<VifTrendPage> keys[] = {
         { Qt::Key_F1, QT_TRANSLATE_NOOP("VifTrendPage", "Type"), &VifTrendPage::nextType },

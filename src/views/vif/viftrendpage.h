@@ -14,7 +14,7 @@ class VifTrendPage : public TrendPage
     Q_OBJECT
 
 public:
-    explicit VifTrendPage(QWidget *parent = nullptr);
+    explicit VifTrendPage(const LiveData &data, QWidget *parent = nullptr);
     ~VifTrendPage() override;
 
 signals:

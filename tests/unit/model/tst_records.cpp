@@ -15,7 +15,6 @@ private slots:
     void tablesHaveTheOffsetsOfTheCode();
     void entryExampleIsTheRecordsBytes();
     void displayRecordsBeginWithTheirWordsInOrder();
-    void displayPointersAreNullBeforeThePages();
 
 private:
     const DocumentPage m_page { QStringLiteral("formats/records.md") };
@@ -130,14 +129,6 @@ void TstRecords::displayRecordsBeginWithTheirWordsInOrder()
     QCOMPARE(power.row[0].reactive, 20.0f); // before the apparent power here
     QCOMPARE(power.row[3].tangent, 42.0f);
     QCOMPARE(reinterpret_cast<char *>(&power.hours) - reinterpret_cast<char *>(&power.voltage), ptrdiff_t(4 * 45));
-}
-
-void TstRecords::displayPointersAreNullBeforeThePages()
-{
-    QVERIFY(!g_vif_data && !g_power_data && !g_power_data_ui && !g_harm_data && !g_unbalance_data && !g_scope_data);
-    QVERIFY(!g_scope_data_ui && !g_flicker_data && !g_trans_data && !g_inrush_data && !g_inrush_trend_data);
-    QVERIFY(!g_dipswell_trend && !g_dipswell_trend_ui && !g_mains_sig && !g_pi_data);
-    QVERIFY(g_trans_events.isEmpty());
 }
 
 QTEST_GUILESS_MAIN(TstRecords)

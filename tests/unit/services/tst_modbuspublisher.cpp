@@ -3,14 +3,16 @@
 #include "settings/config_data.h"
 #include "model/transparam.h"
 #include "device/datatypes.h"
-#include "model/displayrecords.h"
 #include "services/modbuspublisher.h"
 #include "services/modbusslave.h"
 #include "task/unitask.h"
+#include "unit/measureddata.h"
 
 #include <QTest>
 
 #include <memory>
+
+using namespace MeasuredData;
 
 /// What a master reads of a running measurement. Scales are 1, so that values read as sent.
 class TstModbusPublisher : public QObject
@@ -56,14 +58,14 @@ private:
 
 void TstModbusPublisher::initTestCase()
 {
-    g_flicker_data = new __flicker_data();
+    renewLive();
 }
 
 void TstModbusPublisher::init()
 {
     m_settingConfig_g.setJoinMode(1);
     ModbusPublisher::clear();
-    m_task = std::make_unique<UniTask>();
+    m_task = std::make_unique<UniTask>(liveData());
     for (int c = 0; c < kChannels; ++c)
         DataTypes::k_v[c] = DataTypes::k_i[c] = DataTypes::k_w[c] = 1;
     ModbusPublisher::follow(m_task.get());

@@ -4,6 +4,7 @@
 #include "shell/tasklinks.h"
 #include "shell/taskmanage.h"
 #include "task/unitask.h"
+#include "unit/measureddata.h"
 
 #include <QSignalSpy>
 
@@ -51,7 +52,7 @@ void TstTaskLinks::visitsDoNotAddUp()
     TaskLinks links;
     CountingPage page(UI_VIF);
     links.take(&page, rowWith(UI_VIF, Hears::kLive));
-    UniTask task;
+    UniTask task(MeasuredData::liveData());
     links.follow(&task);
     for (int visit = 0; visit < 5; ++visit) {
         // From the menu to the page and back.
@@ -78,7 +79,7 @@ void TstTaskLinks::onlyThePageInFrontHearsRefreshAndTime()
     CountingPage second(UI_SCOPE);
     links.take(&first, rowWith(UI_VIF, Hears::kLive));
     links.take(&second, rowWith(UI_SCOPE, Hears::kLive));
-    UniTask task;
+    UniTask task(MeasuredData::liveData());
     links.follow(&task);
     emit task.updateDisplay(nullptr); // none in front
     links.setFront(UI_VIF);
@@ -106,7 +107,7 @@ void TstTaskLinks::aPageHearsWhatItsRowSays()
     CountingPage deaf(UI_USER);
     links.take(&recorder, rowWith(UI_LOGGER, Hears::Refresh | Hears::RecordTime));
     links.take(&deaf, rowWith(UI_USER, 0));
-    UniTask task;
+    UniTask task(MeasuredData::liveData());
     links.follow(&task);
     links.setFront(UI_LOGGER);
     emit task.stopWatchChanged("00:00:07");
@@ -128,11 +129,11 @@ void TstTaskLinks::aForgottenTaskIsNotHeard()
     TaskLinks links;
     CountingPage page(UI_VIF);
     links.take(&page, rowWith(UI_VIF, Hears::kLive));
-    UniTask old;
+    UniTask old(MeasuredData::liveData());
     links.follow(&old);
     links.setFront(UI_VIF);
     links.forget(&old);
-    UniTask task;
+    UniTask task(MeasuredData::liveData());
     links.follow(&task);
     links.setFront(UI_VIF);
     emit old.updateDisplay(nullptr);
@@ -151,7 +152,7 @@ void TstTaskLinks::onlyThePageInFrontAsksTheTask()
     int asked = 0;
     const auto ask = [&] { links.ask(&page, [&](UniTask &) { ++asked; }); };
     ask(); // no task
-    UniTask task;
+    UniTask task(MeasuredData::liveData());
     links.follow(&task);
     ask(); // not in front
     QCOMPARE(asked, 0);

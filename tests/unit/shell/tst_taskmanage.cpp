@@ -82,16 +82,19 @@ void TstTaskManage::datagramBeforeAnyTaskIsDropped()
     emit m_idevice->datagramAggregation(QByteArray(13000, '\x41'));
     emit m_idevice->datagramWave(QByteArray(65548, '\x41'));
     QVERIFY(!g_unitask);
-    QCOMPARE(g_vif_data->voltage[0], 0.0f);
+    QCOMPARE(m_taskmanage->data().live().vif.voltage[0], 0.0f);
 }
 
 void TstTaskManage::recordsKeepTheirAddress()
 {
-    const void *vif = g_vif_data;
-    QVERIFY(vif);
-    for (int i = 0; i < 3; ++i)
-        initUiParameter();
-    QCOMPARE(static_cast<const void *>(g_vif_data), vif);
+    LiveData &data = m_taskmanage->data();
+    const __vif_data *vif = &data.live().vif;
+    data.live().vif.voltage[0] = 5;
+    data.hold();
+    initUiParameter();
+    QCOMPARE(&data.live().vif, vif);
+    QCOMPARE(data.live().vif.voltage[0], 0.0f);
+    QVERIFY(!data.isHeld());
 }
 
 void TstTaskManage::initTwiceKeepsTheTask()
@@ -176,7 +179,7 @@ void TstTaskManage::displayLinkMovesAndUnlinks()
 {
     m_taskmanage->startTask(m_taskmanage->initTask(TaskManage::Universal));
     auto *label = vifPage()->findChild<QLabel *>("Urms_L1");
-    g_vif_data->voltage[0] = 111.0f;
+    m_taskmanage->data().live().vif.voltage[0] = 111.0f;
     emit g_unitask->updateDisplay(nullptr);
     QVERIFY(!label->text().startsWith("111"));
     m_taskmanage->connectDisplay(UI_VIF);
@@ -185,7 +188,7 @@ void TstTaskManage::displayLinkMovesAndUnlinks()
     emit g_unitask->stopWatchChanged("00:00:42");
     QCOMPARE(vifPage()->findChild<QLabel *>("stop_watch")->text(), QStringLiteral("00:00:42"));
     m_taskmanage->disconnectDisplay(UI_VIF);
-    g_vif_data->voltage[0] = 222.0f;
+    m_taskmanage->data().live().vif.voltage[0] = 222.0f;
     emit g_unitask->updateDisplay(nullptr);
     QVERIFY(label->text().startsWith("111"));
     m_taskmanage->connectDisplay(UI_MENU); // no page, no link
@@ -197,12 +200,12 @@ void TstTaskManage::aSecondLinkChangesNothing()
     m_taskmanage->startTask(m_taskmanage->initTask(TaskManage::Universal));
     m_taskmanage->connectDisplay(UI_VIF);
     m_taskmanage->connectDisplay(UI_VIF);
-    g_vif_data->voltage[0] = 123.0f;
+    m_taskmanage->data().live().vif.voltage[0] = 123.0f;
     emit g_unitask->updateDisplay(nullptr);
     auto *label = vifPage()->findChild<QLabel *>("Urms_L1");
     QVERIFY(label->text().startsWith("123"));
     m_taskmanage->disconnectDisplay(UI_VIF);
-    g_vif_data->voltage[0] = 321.0f;
+    m_taskmanage->data().live().vif.voltage[0] = 321.0f;
     emit g_unitask->updateDisplay(nullptr);
     QVERIFY(label->text().startsWith("123"));
 }
@@ -212,15 +215,15 @@ void TstTaskManage::energyResetIsShownAtOnce()
     m_taskmanage->startTask(m_taskmanage->initTask(TaskManage::Universal));
     m_taskmanage->connectDisplay(UI_POWER);
     auto *label = pageOf<powen>(UI_POWER)->findChild<QLabel *>("kwh_1");
-    g_power_data->activeEnergy[0] = 9000.0f;
+    m_taskmanage->data().live().power.activeEnergy[0] = 9000.0f;
     emit g_unitask->updateDisplay(nullptr);
     QCOMPARE(label->text(), QStringLiteral("9.000"));
     emit pageOf<powen>(UI_POWER)->resetEnergy();
     QCOMPARE(label->text(), QStringLiteral("0.000"));
     m_taskmanage->disconnectDisplay(UI_POWER);
-    g_power_data->activeEnergy[0] = 9000.0f;
+    m_taskmanage->data().live().power.activeEnergy[0] = 9000.0f;
     emit pageOf<powen>(UI_POWER)->resetEnergy(); // no longer linked
-    QCOMPARE(g_power_data->activeEnergy[0], 9000.0f);
+    QCOMPARE(m_taskmanage->data().live().power.activeEnergy[0], 9000.0f);
 }
 
 void TstTaskManage::stoppedRunTellsItsTimeToTheWavePage()
@@ -239,9 +242,9 @@ void TstTaskManage::functionChangesReachTheTask()
 
 void TstTaskManage::runEmptiesThePages()
 {
-    g_vif_data->voltage[2] = 55.0f;
+    m_taskmanage->data().live().vif.voltage[2] = 55.0f;
     m_taskmanage->startTask(m_taskmanage->initTask(TaskManage::Universal));
-    QCOMPARE(g_vif_data->voltage[2], 0.0f);
+    QCOMPARE(m_taskmanage->data().live().vif.voltage[2], 0.0f);
 }
 
 void TstTaskManage::datagramsReachTheTaskAndTheScreen()

@@ -65,7 +65,7 @@ private:
 void TstUniTaskStream::init()
 {
     renewRecords();
-    m_task = std::make_unique<UniTask>();
+    m_task = std::make_unique<UniTask>(liveData());
 }
 
 void TstUniTaskStream::cleanup()
@@ -79,15 +79,15 @@ void TstUniTaskStream::halfCyclesFeedTrendsAndMeans()
     start();
     m_task->datagramRMS_1_2(halfCycles(20, 2.9f, 1.0f).bytes());
     for (int c = 0; c < 3; ++c) {
-        QCOMPARE(g_dipswell_trend->voltage[c].size(), 20);
-        QCOMPARE(g_dipswell_trend->voltage[c].first(), 2.9f * kVolt);
-        QCOMPARE(g_dipswell_trend->voltage[c].last(), (2.9f + 0.001f * 19) * kVolt);
-        QCOMPARE(g_dipswell_trend->current[c].last(), kAmpere);
-        QCOMPARE(g_inrush_data->current[c].size(), 20);
-        QVERIFY(std::fabs(g_mains_sig->rms1[c] - (2.9f + 0.0095f) * kVolt) < 0.001f); // mean of 0 to 19 is 9.5
-        QCOMPARE(g_mains_sig->rms2[c], kAmpere);
+        QCOMPARE(live().dips.voltage[c].size(), 20);
+        QCOMPARE(live().dips.voltage[c].first(), 2.9f * kVolt);
+        QCOMPARE(live().dips.voltage[c].last(), (2.9f + 0.001f * 19) * kVolt);
+        QCOMPARE(live().dips.current[c].last(), kAmpere);
+        QCOMPARE(live().inrush.current[c].size(), 20);
+        QVERIFY(std::fabs(live().mainsSignal.rms1[c] - (2.9f + 0.0095f) * kVolt) < 0.001f); // mean of 0 to 19 is 9.5
+        QCOMPARE(live().mainsSignal.rms2[c], kAmpere);
     }
-    QVERIFY(g_dipswell_trend->voltage[3].isEmpty());
+    QVERIFY(live().dips.voltage[3].isEmpty());
 }
 
 void TstUniTaskStream::trendsKeepTheirLength()
@@ -95,8 +95,8 @@ void TstUniTaskStream::trendsKeepTheirLength()
     start();
     for (int i = 0; i < 320; ++i)
         m_task->datagramRMS_1_2(halfCycles(20, 2.9f, 1.0f, kNow + 200 * i).bytes());
-    QCOMPARE(g_dipswell_trend->voltage[0].size(), 6000); // a minute at 100 values a second
-    QCOMPARE(g_inrush_data->current[0].size(), 600); // the first duration is six seconds
+    QCOMPARE(live().dips.voltage[0].size(), 6000); // a minute at 100 values a second
+    QCOMPARE(live().inrush.current[0].size(), 600); // the first duration is six seconds
 }
 
 void TstUniTaskStream::singlePhaseWiringFeedsOneChannel()
@@ -104,9 +104,9 @@ void TstUniTaskStream::singlePhaseWiringFeedsOneChannel()
     m_settingConfig_g.setJoinMode(3);
     start();
     m_task->datagramRMS_1_2(halfCycles(20, 2.9f, 1.0f).bytes());
-    QCOMPARE(g_dipswell_trend->voltage[0].size(), 20);
-    QVERIFY(g_dipswell_trend->voltage[1].isEmpty());
-    QVERIFY(g_dipswell_trend->voltage[2].isEmpty());
+    QCOMPARE(live().dips.voltage[0].size(), 20);
+    QVERIFY(live().dips.voltage[1].isEmpty());
+    QVERIFY(live().dips.voltage[2].isEmpty());
 }
 
 void TstUniTaskStream::dipIsListed()
@@ -170,8 +170,8 @@ void TstUniTaskStream::transientIsCutAndListed()
     QCOMPARE(g_trans_events[0]->position, (2u << 24) | 301u);
     QCOMPARE(g_trans_events[0]->frequency, 50.1f);
     QCOMPARE(g_trans_events[0]->rms[0], 2.0f * kVolt);
-    QCOMPARE(g_trans_data->number, 2); // the last one, until the next refresh
-    QCOMPARE(g_trans_data->rms[0], 2.0f * kVolt);
+    QCOMPARE(live().transient.number, 2); // the last one, until the next refresh
+    QCOMPARE(live().transient.rms[0], 2.0f * kVolt);
 }
 
 void TstUniTaskStream::transientNumberRestartsWithTheTask()
@@ -180,7 +180,7 @@ void TstUniTaskStream::transientNumberRestartsWithTheTask()
     m_task->datagramWave(wave((2u << 24) | 2000).bytes());
     m_task->datagramWave(wave((2u << 24) | 2000).bytes());
     QCOMPARE(g_trans_events.last()->number, 2);
-    m_task = std::make_unique<UniTask>();
+    m_task = std::make_unique<UniTask>(liveData());
     start();
     m_task->datagramWave(wave((2u << 24) | 2000).bytes());
     QCOMPARE(g_trans_events.last()->number, 1);
@@ -195,7 +195,7 @@ void TstUniTaskStream::transientCodesFollowTheWiring()
     } rows[] = { { 1, 3 }, { 2, 3 }, { 3, 1 }, { 5, 2 }, { 6, 1 }, { 10, 3 } };
     for (const auto &row : rows) {
         m_settingConfig_g.setJoinMode(row.joinMode);
-        m_task = std::make_unique<UniTask>();
+        m_task = std::make_unique<UniTask>(liveData());
         start();
         qDeleteAll(g_trans_events);
         g_trans_events.clear();
@@ -208,7 +208,7 @@ void TstUniTaskStream::transientCodesFollowTheWiring()
 void TstUniTaskStream::transientOfCode3IsIgnoredInSplitPhase()
 {
     m_settingConfig_g.setJoinMode(5);
-    m_task = std::make_unique<UniTask>();
+    m_task = std::make_unique<UniTask>(liveData());
     start();
     QSignalSpy told(m_task.get(), &UniTask::hasTransEvents);
     m_task->datagramWave(wave((3u << 24) | 2000).bytes());
@@ -240,9 +240,9 @@ void TstUniTaskStream::shortPayloadsAreDropped()
         m_task->datagramFlicker(bytes.left(6011));
         m_task->datagramRMS_1_2(bytes.left(2179));
     }
-    QCOMPARE(g_vif_data->voltage[0], 0.0f);
+    QCOMPARE(live().vif.voltage[0], 0.0f);
     QVERIFY(g_trans_events.isEmpty());
-    QVERIFY(g_dipswell_trend->voltage[0].isEmpty());
+    QVERIFY(live().dips.voltage[0].isEmpty());
 }
 
 void TstUniTaskStream::countsOutOfRangeFeedAtMostThirtyHalfCycles_data()
@@ -269,10 +269,10 @@ void TstUniTaskStream::countsOutOfRangeFeedAtMostThirtyHalfCycles()
         payload.set(2 + 181 * c, count);
     m_task->datagramRMS_1_2(payload.bytes());
     for (int c = 0; c < 3; ++c) {
-        QCOMPARE(g_dipswell_trend->voltage[c].size(), entries);
-        QCOMPARE(g_dipswell_trend->current[c].size(), entries);
+        QCOMPARE(live().dips.voltage[c].size(), entries);
+        QCOMPARE(live().dips.current[c].size(), entries);
     }
-    QVERIFY(std::isfinite(g_mains_sig->rms1[0]));
+    QVERIFY(std::isfinite(live().mainsSignal.rms1[0]));
 }
 
 void TstUniTaskStream::wildValuesHurtNothing()
@@ -295,7 +295,7 @@ void TstUniTaskStream::wildValuesHurtNothing()
     }
     QVERIFY(m_task->isTaskRunning());
     for (int c = 0; c < kChannels; ++c)
-        QVERIFY(std::isfinite(g_vif_data->voltage[c]));
+        QVERIFY(std::isfinite(live().vif.voltage[c]));
 }
 
 void TstUniTaskStream::anyPayloadAtAnyTimeInAnyWiringKeepsTheListsBounded()
@@ -325,7 +325,7 @@ void TstUniTaskStream::anyPayloadAtAnyTimeInAnyWiringKeepsTheListsBounded()
     };
     for (int joinMode = 1; joinMode <= 10; ++joinMode) {
         m_settingConfig_g.setJoinMode(joinMode);
-        m_task = std::make_unique<UniTask>();
+        m_task = std::make_unique<UniTask>(liveData());
         start();
         for (int i = 0; i < 40; ++i) {
             m_task->datagramAggregation(any(Link::kAggregationWords));
@@ -339,11 +339,11 @@ void TstUniTaskStream::anyPayloadAtAnyTimeInAnyWiringKeepsTheListsBounded()
         QVERIFY(g_events_list.size() <= 10'001);
         QVERIFY(g_trans_events.size() <= 1000);
         for (int p = 0; p < kFlickerPhases; ++p)
-            QVERIFY(g_flicker_data->pinstTrend[p].size() <= 600);
+            QVERIFY(live().flicker.pinstTrend[p].size() <= 600);
         for (int c = 0; c < kChannels; ++c) {
-            QVERIFY(g_dipswell_trend->voltage[c].size() <= 6000);
-            QVERIFY(g_inrush_data->current[c].size() <= 600);
-            QVERIFY(g_mains_sig->mean1[c].size() <= 15);
+            QVERIFY(live().dips.voltage[c].size() <= 6000);
+            QVERIFY(live().inrush.current[c].size() <= 600);
+            QVERIFY(live().mainsSignal.mean1[c].size() <= 15);
         }
     }
 }

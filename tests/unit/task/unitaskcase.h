@@ -3,14 +3,16 @@
 #include "settings/config_data.h"
 #include "model/transparam.h"
 #include "device/datagramtypes.h"
-#include "model/displayrecords.h"
 #include "platform/clock.h"
 #include "task/unitask.h"
+#include "unit/measureddata.h"
 
 #include <cstring>
 #include <vector>
 
 // Payloads as they leave the link, and fresh records behind a universal task at a fixed time.
+
+using namespace MeasuredData;
 
 constexpr qint64 kNow = 1'700'000'000'000; // ms
 // Factory calibration at 230 V in a star wiring, clamp of 10 mV/A: row 1 of the voltage gains, row 3 of the current
@@ -76,27 +78,12 @@ inline Payload wave(quint32 transient = 0, qint64 time = kNow)
     return p;
 }
 
-template <typename T> void renew(T *&record)
-{
-    delete record;
-    record = new T();
-}
-
 /// Fixed time, "3P WYE", empty records and lists.
 inline void renewRecords()
 {
     Clock::setForTest(kNow);
     m_settingConfig_g.setJoinMode(1);
-    renew(g_vif_data);
-    renew(g_power_data);
-    renew(g_harm_data);
-    renew(g_unbalance_data);
-    renew(g_scope_data);
-    renew(g_trans_data);
-    renew(g_flicker_data);
-    renew(g_mains_sig);
-    renew(g_dipswell_trend);
-    renew(g_inrush_data);
+    renewLive();
     qDeleteAll(g_trans_events);
     g_trans_events.clear();
     g_events_list.clear();

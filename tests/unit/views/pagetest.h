@@ -1,6 +1,8 @@
 #pragma once
 
 #include "settings/config_data.h"
+#include "pages/functionpage.h"
+#include "unit/measureddata.h"
 #include "widgets/controls/keyrepeat.h"
 
 #include <QApplication>
@@ -13,6 +15,8 @@
 // What the tests of pages have in common: reading labels by name, and the letters that the front panel sends.
 
 namespace PageTest {
+
+using namespace MeasuredData;
 
 /// A QTEST_MAIN for pages: with the pictures and the decimal point that the program has.
 #define PAGE_TEST_MAIN(TestClass)                                                                                      \
@@ -102,6 +106,26 @@ inline void addShownColumns()
     QTest::newRow("1P") << 3 << QList<bool> { true, false, false, true };
     QTest::newRow("1P SPLIT") << 5 << QList<bool> { true, true, false, true };
     QTest::newRow("1P IT") << 6 << QList<bool> { true, false, false, false };
+}
+
+/// A run begins, as the start of a task does it: the records are emptied, then the page forgets what it showed.
+inline void beginRun(FunctionPage &page)
+{
+    renewLive();
+    page.init_parameter();
+}
+
+/// What the task's pause does to a page and to what it shows.
+inline void holdRun(FunctionPage &page)
+{
+    liveData().hold();
+    emit page.taskPaused();
+}
+
+inline void continueRun(FunctionPage &page)
+{
+    liveData().run();
+    emit page.taskContinued();
 }
 
 /// Press and release.

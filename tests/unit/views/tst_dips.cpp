@@ -61,7 +61,6 @@ private slots:
     void scaleTakesPhasesTogetherAndTheFourthAlone();
     void valueAtTheCursorCountsBackFromTheWindow();
     void axisLabelsAreSecondsMinutesOrBoth();
-    void takingValuesKeepsTheNewest();
     void savedRecordHoldsTrendAndEvents();
 
     // the trend page
@@ -84,9 +83,8 @@ private slots:
     void onePhaseWiringsShowASingleCurve();
     void anInputThatTheWiringDoesNotHaveLeavesTheScaleAlone();
     void holdFreezesTheTrend();
-    void newValuesComeInOnceAndTheOldestGo();
-    void recordsKeepTheirAddresses();
-    void pagesLiveWithoutRecords();
+    void eachStartShowsEmptyRecords();
+    void pagesLiveBeforeTheFirstStart();
     void chartCursorStandsOnTheNewestPointAtTheStart();
 
     // events
@@ -111,8 +109,8 @@ void TstDips::init()
 {
     setUpMeasurement(1);
     DipSwellInfo::m_zoom_index = 0;
-    m_page = std::make_unique<dswell>();
-    m_page->init_parameter();
+    m_page = std::make_unique<dswell>(liveData());
+    beginRun(*m_page);
 }
 
 /// \a count half-cycle values arrive on every phase, and the display is refreshed.
@@ -120,8 +118,8 @@ void TstDips::feed(int count, float value)
 {
     for (int i = 0; i < count; ++i) {
         for (int c = 0; c < 3; ++c) {
-            g_dipswell_trend->voltage[c].append(value);
-            g_dipswell_trend->current[c].append(value / 100);
+            live().dips.voltage[c].append(value);
+            live().dips.current[c].append(value / 100);
         }
     }
     m_page->updateDisplay(nullptr);
@@ -175,10 +173,9 @@ void TstDips::offsetBeyondTheListGivesNothing()
 {
     QVERIFY(RmsTrend::decimate({ 1, 2 }, { 2, 1 }, 0).isEmpty());
     QVERIFY(RmsTrend::decimate({}, { 0, 1 }, 0).isEmpty());
-    float max[2], min[2];
     const QList<float> lists[kChannels] = { { 1, 2 }, {}, {}, {} };
-    QVERIFY(RmsTrend::scale(lists, { 2, 1 }, 0, 1.0, max, min).series[0].isEmpty());
-    QVERIFY(RmsTrend::scale(lists, { 2, 1 }, 0, 1.0, max, min).upper[0].isNull());
+    QVERIFY(RmsTrend::scale(lists, { 2, 1 }, 0, 1.0).series[0].isEmpty());
+    QVERIFY(RmsTrend::scale(lists, { 2, 1 }, 0, 1.0).upper[0].isNull());
 }
 
 void TstDips::wildValuesCountAsZero()
@@ -193,12 +190,11 @@ void TstDips::wildValuesCountAsZero()
 void TstDips::scaleTakesPhasesTogetherAndTheFourthAlone()
 {
     const QList<float> lists[kChannels] = { { 225, 235 }, { 231, 232 }, { 208, 230 }, { 1, 19 } };
-    float max[2], min[2];
-    const TrendScaler::Picture picture = RmsTrend::scale(lists, { 0, 1 }, 230, 0.1, max, min);
+    const TrendScaler::Picture picture = RmsTrend::scale(lists, { 0, 1 }, 230, 0.1);
     // 208 to 235 goes out to 200 and 240, 1 to 19 to 0 and 20; labels are a tenth of it.
-    QCOMPARE(max[0], 240.0f);
-    QCOMPARE(min[0], 200.0f);
-    QCOMPARE(max[1], 20.0f);
+    QCOMPARE(picture.max[0], 240.0f);
+    QCOMPARE(picture.min[0], 200.0f);
+    QCOMPARE(picture.max[1], 20.0f);
     QCOMPARE(picture.upper[0], QStringLiteral("24"));
     QCOMPARE(picture.lower[0], QStringLiteral("20"));
     QCOMPARE(picture.upper[1], QStringLiteral("2"));
@@ -230,24 +226,11 @@ void TstDips::axisLabelsAreSecondsMinutesOrBoth()
     QCOMPARE(RmsTrend::axisLabels(5, 40, 60), QStringList({ "1m40s", "1m20s", "1m", "40s", "20s" }));
 }
 
-void TstDips::takingValuesKeepsTheNewest()
-{
-    __rms_trend_data fresh, shown;
-    shown.voltage[0] = { 1, 2, 3 };
-    fresh.voltage[0] = { 4, 5 };
-    fresh.current[2] = { 6, 7, 8, 9, 10, 11 };
-    RmsTrend::takeValues(fresh, shown, 4);
-    QCOMPARE(shown.voltage[0], QList<float>({ 2, 3, 4, 5 }));
-    QCOMPARE(shown.current[2], QList<float>({ 8, 9, 10, 11 }));
-    QVERIFY(fresh.voltage[0].isEmpty());
-    QVERIFY(fresh.current[2].isEmpty());
-}
-
 void TstDips::savedRecordHoldsTrendAndEvents()
 {
-    g_dipswell_trend->voltage[0] = { 230, 231, 232 };
-    g_dipswell_trend->voltage[1] = { 1, 2, 3, 4 }; // longer: cut
-    g_dipswell_trend->current[3] = { 5 }; // shorter: filled up
+    live().dips.voltage[0] = { 230, 231, 232 };
+    live().dips.voltage[1] = { 1, 2, 3, 4 }; // longer: cut
+    live().dips.current[3] = { 5 }; // shorter: filled up
     m_page->updateDisplay(nullptr);
     __event_item dip = eventOf(EventDip, 2);
     dip.finished = 1;
@@ -306,7 +289,7 @@ void TstDips::axisFollowsTheNominalFrequency()
     QFETCH(QStringList, labels);
     QFETCH(int, valuesPerPoint);
     setUpMeasurement(1, select);
-    m_page->init_parameter();
+    beginRun(*m_page);
     QCOMPARE(chart()->fullScale(), labels);
     QCOMPARE(mainPage()->seconds(), 60);
     QCOMPARE(mainPage()->window().valuesPerPoint, valuesPerPoint);
@@ -346,7 +329,7 @@ void TstDips::zoomPairsSetSecondsAndValuesPerPoint()
     QFETCH(QVector<int>, seconds);
     QFETCH(QVector<int>, values);
     setUpMeasurement(1, select);
-    m_page->init_parameter();
+    beginRun(*m_page);
     for (int i = 0; i < 6; ++i) {
         press(mainPage(), i < 3 ? Right : Left);
         QCOMPARE(mainPage()->seconds(), seconds[i]);
@@ -447,7 +430,7 @@ void TstDips::cursorValueShowsInTheLabels()
 {
     for (int i = 0; i < 6000; ++i) {
         for (int c = 0; c < 3; ++c)
-            g_dipswell_trend->voltage[c].append(i < 5970 ? 200.0f + c : 240.0f + c);
+            live().dips.voltage[c].append(i < 5970 ? 200.0f + c : 240.0f + c);
     }
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(mainPage(), "D1_Caption"), QStringLiteral("L1:"));
@@ -486,11 +469,11 @@ void TstDips::f1SwapsVoltageAndCurrent()
 void TstDips::everyRestartBeginsWithTheVoltage()
 {
     for (int i = 0; i < 3; ++i) {
-        m_page->init_parameter();
+        beginRun(*m_page);
         QCOMPARE(mainPage()->quantity(), int(RmsTrendPage::Voltage));
     }
     press(mainPage(), F1);
-    m_page->init_parameter();
+    beginRun(*m_page);
     QCOMPARE(mainPage()->quantity(), int(RmsTrendPage::Voltage));
 }
 
@@ -508,7 +491,7 @@ void TstDips::onePhaseWiringsShowASingleCurve()
     QFETCH(int, joinMode);
     QFETCH(int, flags);
     setUpMeasurement(joinMode);
-    m_page->init_parameter();
+    beginRun(*m_page);
     feed(10);
     QCOMPARE(chart()->flags(), flags);
 }
@@ -519,10 +502,10 @@ void TstDips::anInputThatTheWiringDoesNotHaveLeavesTheScaleAlone()
     chart->resize(609, 317);
     setUpMeasurement(5); // L1, L2 and N
     const auto picture = [&](float open) {
-        m_page->init_parameter();
+        beginRun(*m_page);
         for (int c = 0; c < kChannels; ++c) {
             for (int i = 0; i < 100; ++i)
-                g_dipswell_trend->voltage[c].append(c == 2 ? open : 230.0f + i % 7);
+                live().dips.voltage[c].append(c == 2 ? open : 230.0f + i % 7);
         }
         m_page->updateDisplay(nullptr);
         return chart->grab().toImage();
@@ -533,53 +516,33 @@ void TstDips::anInputThatTheWiringDoesNotHaveLeavesTheScaleAlone()
 void TstDips::holdFreezesTheTrend()
 {
     feed(50);
-    emit m_page->taskPaused();
+    holdRun(*m_page);
     feed(50, 100);
-    QCOMPARE(g_dipswell_trend_ui->voltage[0].size(), 50);
     QCOMPARE(text(mainPage(), "D1_Value"), F_to_Str::number_V(kNominal));
-    emit m_page->taskContinued();
+    continueRun(*m_page);
     m_page->updateDisplay(nullptr);
-    QCOMPARE(g_dipswell_trend_ui->voltage[0].size(), 100);
     QCOMPARE(text(mainPage(), "D1_Value"), F_to_Str::number_V(100));
 }
 
-void TstDips::newValuesComeInOnceAndTheOldestGo()
+void TstDips::eachStartShowsEmptyRecords()
 {
-    feed(5990);
-    m_page->updateDisplay(nullptr);
-    QCOMPARE(g_dipswell_trend_ui->voltage[1].size(), 5990);
-    feed(20, 100);
-    QCOMPARE(g_dipswell_trend_ui->voltage[1].size(), 6000); // a minute
-    QCOMPARE(g_dipswell_trend_ui->voltage[1].at(5979), kNominal);
-    QCOMPARE(g_dipswell_trend_ui->voltage[1].at(5980), 100.0f);
-}
-
-void TstDips::recordsKeepTheirAddresses()
-{
-    const auto *record = g_dipswell_trend;
-    const auto *copy = g_dipswell_trend_ui;
     feed(10);
-    for (int i = 0; i < 3; ++i)
-        m_page->init_parameter();
-    QVERIFY(g_dipswell_trend == record && g_dipswell_trend_ui == copy);
-    QVERIFY(g_dipswell_trend_ui->voltage[0].isEmpty());
+    QCOMPARE(text(mainPage(), "D1_Value"), F_to_Str::number_V(kNominal));
+    beginRun(*m_page);
+    QCOMPARE(text(mainPage(), "D1_Value"), F_to_Str::number_V(0));
+    QCOMPARE(m_page->pqaData(), QByteArray(8, 0));
 }
 
-void TstDips::pagesLiveWithoutRecords()
+void TstDips::pagesLiveBeforeTheFirstStart()
 {
-    const auto record = std::exchange(g_dipswell_trend, nullptr);
-    const auto copy = std::exchange(g_dipswell_trend_ui, nullptr);
-    {
-        dswell page;
-        page.updateDisplay(nullptr);
-        page.refreshEventList(nullptr);
-        page.retranslateUi();
-        for (const FrontKey key : { F1, F2, F3, Left, Right, F4, Left, Right, F5 })
-            press(page.findChild<DswellMain *>(), key);
-        QVERIFY(page.pqaData().isEmpty());
-    }
-    g_dipswell_trend = record;
-    g_dipswell_trend_ui = copy;
+    renewLive();
+    dswell page(liveData());
+    page.updateDisplay(nullptr);
+    page.refreshEventList(nullptr);
+    page.retranslateUi();
+    for (const FrontKey key : { F1, F2, F3, Left, Right, F4, Left, Right, F5 })
+        press(page.findChild<DswellMain *>(), key);
+    QCOMPARE(page.pqaData(), QByteArray(8, 0));
 }
 
 void TstDips::chartCursorStandsOnTheNewestPointAtTheStart()
@@ -658,7 +621,7 @@ void TstDips::eventKeysOpenTheListAndLeadBack()
     QCOMPARE(static_cast<QWidget *>(m_page->currentPage()), static_cast<QWidget *>(eventPage()));
     press(eventPage(), F5);
     QCOMPARE(static_cast<QWidget *>(m_page->currentPage()), static_cast<QWidget *>(mainPage()));
-    emit m_page->taskPaused();
+    holdRun(*m_page);
     QCOMPARE(text(eventPage(), "btn_f5"), QStringLiteral("Back"));
 }
 
@@ -666,7 +629,7 @@ void TstDips::restartEmptiesTheLists()
 {
     g_events_list = { eventOf(EventDip) };
     m_page->refreshEventList(nullptr);
-    m_page->init_parameter();
+    beginRun(*m_page);
     QVERIFY(g_events_list.isEmpty());
     QVERIFY(m_ds_events_list.isEmpty());
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("0/0"));

@@ -24,7 +24,7 @@ private slots:
     void tableShowsOnlyThePhasesOfTheWiring_data();
     void tableShowsOnlyThePhasesOfTheWiring();
     void deltaWiringsNameBothVoltageAndPhase();
-    void recordKeepsItsAddressAndIsEmptiedByEachStart();
+    void eachStartShowsEmptyRecords();
     void f4OpensTheTrendAndLeadsBack();
     void titleFollowsThePageOnTop();
     void f5AsksToPause();
@@ -34,7 +34,7 @@ private slots:
     void trendHasNoCurveForTheNeutral();
     void savedRecordHoldsScalarsCountAndTrends();
     void savedRecordIgnoresPhasesThatAreNotMeasured();
-    void pagesLiveWithoutARecord();
+    void pagesLiveBeforeTheFirstStart();
     void wildValuesAreShown();
 
 private:
@@ -49,12 +49,12 @@ private:
 void TstFlicker::start(int joinMode)
 {
     setUpMeasurement(joinMode);
-    m_page->init_parameter();
+    beginRun(*m_page);
 }
 
 void TstFlicker::init()
 {
-    m_page = std::make_unique<flicker>();
+    m_page = std::make_unique<flicker>(liveData());
     start(1);
 }
 
@@ -74,9 +74,9 @@ void TstFlicker::beforeTheFirstIntervalTheTableShowsZero()
 void TstFlicker::tableShowsPstPltAndPinst()
 {
     for (int p = 0; p < 3; ++p) {
-        g_flicker_data->flickerMax[p] = 1.25f + float(p);
-        g_flicker_data->pst[p] = 0.875f + float(p);
-        g_flicker_data->plt[p] = 10.5f + float(p);
+        live().flicker.flickerMax[p] = 1.25f + float(p);
+        live().flicker.pst[p] = 0.875f + float(p);
+        live().flicker.plt[p] = 10.5f + float(p);
     }
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(mainPage(), "Pst_t"), QStringLiteral("Pst"));
@@ -115,15 +115,12 @@ void TstFlicker::deltaWiringsNameBothVoltageAndPhase()
     QCOMPARE(text(mainPage(), "header_3"), QStringLiteral("L31/L3"));
 }
 
-void TstFlicker::recordKeepsItsAddressAndIsEmptiedByEachStart()
+void TstFlicker::eachStartShowsEmptyRecords()
 {
-    const __flicker_data *record = g_flicker_data;
-    g_flicker_data->pst[1] = 5;
-    g_flicker_data->pinstTrend[2].append(1);
-    m_page->init_parameter();
-    QCOMPARE(static_cast<const __flicker_data *>(g_flicker_data), record);
-    QCOMPARE(g_flicker_data->pst[1], 0.0f);
-    QVERIFY(g_flicker_data->pinstTrend[2].isEmpty());
+    live().flicker.pst[1] = 5;
+    m_page->updateDisplay(nullptr);
+    QCOMPARE(text(mainPage(), "Pst_L2"), QStringLiteral("5.00"));
+    beginRun(*m_page);
     QCOMPARE(text(mainPage(), "Pst_L2"), QStringLiteral("0.00"));
 }
 
@@ -152,14 +149,14 @@ void TstFlicker::f5AsksToPause()
     press(mainPage(), F5);
     press(trendPage(), F5);
     QCOMPARE(asked, 2);
-    emit m_page->taskPaused();
+    holdRun(*m_page);
     QCOMPARE(text(trendPage(), "btn_f5"), QStringLiteral("Run"));
 }
 
 void TstFlicker::trendShowsTheLatestValueOfEachPhase()
 {
     for (int p = 0; p < 3; ++p)
-        g_flicker_data->pinstTrend[p] = { 9.0f, 0.5f + float(p) };
+        live().flicker.pinstTrend[p] = { 9.0f, 0.5f + float(p) };
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(trendPage(), "type"), QStringLiteral("pinst"));
     QCOMPARE(text(trendPage(), "P_L1"), QStringLiteral("L1"));
@@ -188,11 +185,11 @@ void TstFlicker::trendHasNoCurveForTheNeutral()
 void TstFlicker::savedRecordHoldsScalarsCountAndTrends()
 {
     for (int p = 0; p < 3; ++p) {
-        g_flicker_data->flickerMax[p] = float(p + 1);
-        g_flicker_data->pst[p] = float(p + 4);
-        g_flicker_data->plt[p] = float(p + 7);
+        live().flicker.flickerMax[p] = float(p + 1);
+        live().flicker.pst[p] = float(p + 4);
+        live().flicker.plt[p] = float(p + 7);
         for (int i = 0; i < 5 + p; ++i)
-            g_flicker_data->pinstTrend[p].append(float(100 * p + i));
+            live().flicker.pinstTrend[p].append(float(100 * p + i));
     }
     const QByteArray bytes = m_page->pqaData();
     QCOMPARE(bytes.size(), 7240);
@@ -211,42 +208,38 @@ void TstFlicker::savedRecordHoldsScalarsCountAndTrends()
 
 void TstFlicker::savedRecordIgnoresPhasesThatAreNotMeasured()
 {
-    g_flicker_data->pinstTrend[0] = { 1, 2, 3 };
+    live().flicker.pinstTrend[0] = { 1, 2, 3 };
     const QByteArray bytes = m_page->pqaData();
     qint32 count;
     std::memcpy(&count, bytes.constData() + 36, 4);
     QCOMPARE(count, 3);
     QCOMPARE(word(bytes, 12), 3.0f);
-    g_flicker_data->pinstTrend[0].clear();
+    live().flicker.pinstTrend[0].clear();
     std::memcpy(&count, m_page->pqaData().constData() + 36, 4);
     QCOMPARE(count, 0);
     for (int i = 0; i < 1000; ++i) // longer than the record's places
-        g_flicker_data->pinstTrend[0].append(float(i));
+        live().flicker.pinstTrend[0].append(float(i));
     const QByteArray full = m_page->pqaData();
     std::memcpy(&count, full.constData() + 36, 4);
     QCOMPARE(count, 600);
     QCOMPARE(word(full, 10 + 599), 999.0f);
 }
 
-void TstFlicker::pagesLiveWithoutARecord()
+void TstFlicker::pagesLiveBeforeTheFirstStart()
 {
-    __flicker_data *kept = g_flicker_data;
-    g_flicker_data = nullptr;
-    {
-        flicker page;
-        page.updateDisplay(nullptr);
-        page.retranslateUi();
-        QVERIFY(page.pqaData().isEmpty());
-    }
-    g_flicker_data = kept;
+    renewLive();
+    flicker page(liveData());
+    page.updateDisplay(nullptr);
+    page.retranslateUi();
+    QCOMPARE(page.pqaData().size(), 7240);
 }
 
 void TstFlicker::wildValuesAreShown()
 {
     const float wild[] = { std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(), 1e30f };
     for (float value : wild) {
-        g_flicker_data->pst[0] = value;
-        g_flicker_data->pinstTrend[0].append(value);
+        live().flicker.pst[0] = value;
+        live().flicker.pinstTrend[0].append(value);
         m_page->updateDisplay(nullptr);
         trendPage()->grab();
     }

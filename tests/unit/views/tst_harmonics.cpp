@@ -11,6 +11,7 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 
+#include <algorithm>
 #include <cstring>
 #include <memory>
 
@@ -24,9 +25,9 @@ private slots:
     void init();
 
     void startShowsVoltageOfL1WithoutInterharmonics();
-    void recordKeepsItsAddressAndIsEmptiedByEachStart();
+    void eachStartShowsEmptyRecords();
     void savedRecordIsTheLiveOneByteForByte();
-    void pagesLiveWithoutARecord();
+    void pagesLiveBeforeTheFirstStart();
 
     // the graph
     void f1SwapsVoltageAndCurrentAndPutsTheCursorBack();
@@ -76,14 +77,14 @@ private:
 void TstHarmonics::start(int joinMode, int frequency)
 {
     setUpMeasurement(joinMode, frequency);
-    m_page->init_parameter();
+    beginRun(*m_page);
     fill();
     m_page->updateDisplay(nullptr);
 }
 
 void TstHarmonics::fill()
 {
-    for (HarmChannel &channel : g_harm_data->channel) {
+    for (HarmChannel &channel : live().harmonics.channel) {
         channel.rms = 200;
         channel.offset = 10;
         channel.distortion = 40;
@@ -96,7 +97,7 @@ void TstHarmonics::fill()
 
 void TstHarmonics::init()
 {
-    m_page = std::make_unique<harm>();
+    m_page = std::make_unique<harm>(liveData());
     start(1);
 }
 
@@ -106,60 +107,56 @@ void TstHarmonics::startShowsVoltageOfL1WithoutInterharmonics()
     press(mainPage(), F2);
     press(mainPage(), F3);
     press(mainPage(), Right);
-    m_page->init_parameter();
+    beginRun(*m_page);
     QCOMPARE(mainPage()->quantity(), int(HarmValues::Voltage));
     QCOMPARE(mainPage()->channelFlag(), int(GraphL1));
     QVERIFY(!mainPage()->interharmonics());
     QCOMPARE(mainPage()->cursorIndex(), 0);
-    QCOMPARE(g_harm_data->reference, 2);
+    QCOMPARE(live().harmonics.reference, 2);
     QCOMPARE(text(mainPage(), "type"), QStringLiteral("U(V) %f"));
     QCOMPARE(text(mainPage(), "btn_f4"), QStringLiteral("Meter"));
     QCOMPARE(text(mainPage(), "btn_f5"), QStringLiteral("Hold"));
 }
 
-void TstHarmonics::recordKeepsItsAddressAndIsEmptiedByEachStart()
+void TstHarmonics::eachStartShowsEmptyRecords()
 {
-    const harm_data *record = g_harm_data;
-    g_harm_data->reference = 1;
-    m_page->init_parameter();
-    QCOMPARE(static_cast<const harm_data *>(g_harm_data), record);
-    QCOMPARE(g_harm_data->reference, 2);
-    QCOMPARE(g_harm_data->channel[7].rms, 0.0f);
-    QCOMPARE(g_harm_data->channel[0].harmonic[99].magnitude, 0.0f);
+    live().harmonics.reference = 1;
+    m_page->updateDisplay(nullptr);
+    QCOMPARE(text(mainPage(), "type"), QStringLiteral("U(V) %r"));
+    beginRun(*m_page);
+    QCOMPARE(text(mainPage(), "type"), QStringLiteral("U(V) %f"));
+    QCOMPARE(text(mainPage(), "D1_val"), QStringLiteral("_.__"));
 }
 
 void TstHarmonics::savedRecordIsTheLiveOneByteForByte()
 {
     const QByteArray bytes = m_page->pqaData();
     QCOMPARE(bytes.size(), 19300);
-    QCOMPARE(std::memcmp(bytes.constData(), g_harm_data, 19300), 0);
+    QCOMPARE(std::memcmp(bytes.constData(), &live().harmonics, 19300), 0);
 }
 
-void TstHarmonics::pagesLiveWithoutARecord()
+void TstHarmonics::pagesLiveBeforeTheFirstStart()
 {
-    harm_data *kept = g_harm_data;
-    g_harm_data = nullptr;
-    {
-        harm page;
-        page.updateDisplay(nullptr);
-        page.retranslateUi();
-        QVERIFY(page.pqaData().isEmpty());
-        auto *main = page.findChild<HarmMain *>();
-        for (FrontKey key : { F1, F2, F3, Left, Right })
-            press(main, key);
-        QVERIFY(main->bars().isEmpty());
-        auto *meter = page.findChild<HarmMeterPage *>();
-        QSignalSpy asked(&page, &harm::changeFlag);
-        for (FrontKey key : { F3, Up, Down })
-            press(meter, key);
-        QCOMPARE(asked.count(), 0);
-    }
-    g_harm_data = kept;
+    renewLive();
+    harm page(liveData());
+    page.updateDisplay(nullptr);
+    page.retranslateUi();
+    QCOMPARE(page.pqaData().size(), 19300);
+    auto *main = page.findChild<HarmMain *>();
+    for (FrontKey key : { F1, F2, F3, Left, Right })
+        press(main, key);
+    for (const __graphdata &bar : main->bars())
+        QVERIFY(std::all_of(std::begin(bar.value), std::end(bar.value), [](float value) { return value == 0; }));
+    auto *meter = page.findChild<HarmMeterPage *>();
+    QSignalSpy asked(&page, &harm::changeFlag);
+    for (FrontKey key : { F3, Up, Down })
+        press(meter, key);
+    QCOMPARE(asked.count(), 1);
 }
 
 void TstHarmonics::f1SwapsVoltageAndCurrentAndPutsTheCursorBack()
 {
-    g_harm_data->channel[4].rms = 5;
+    live().harmonics.channel[4].rms = 5;
     press(mainPage(), Right, 3);
     press(mainPage(), F1);
     QCOMPARE(mainPage()->quantity(), int(HarmValues::Current));
@@ -349,8 +346,8 @@ void TstHarmonics::heldCursorGrowsAfterEightTicks()
 
 void TstHarmonics::barsAreCutAtHundredPercent()
 {
-    g_harm_data->channel[0].harmonic[4].magnitude = 320; // twice the fundamental
-    g_harm_data->channel[0].offset = -10;
+    live().harmonics.channel[0].harmonic[4].magnitude = 320; // twice the fundamental
+    live().harmonics.channel[0].offset = -10;
     m_page->updateDisplay(nullptr);
     QCOMPARE(mainPage()->bars().at(2 + 4).value[0], 100.0f);
     QCOMPARE(mainPage()->bars().at(1).value[0], 0.0f);
@@ -363,7 +360,7 @@ void TstHarmonics::barsFollowTheReference()
     QCOMPARE(bars.at(0).value[0], 25.0f);
     QCOMPARE(bars.at(1).value[0], 6.25f);
     QCOMPARE(bars.at(6).value[2], 20.0f);
-    g_harm_data->reference = 1;
+    live().harmonics.reference = 1;
     m_page->updateDisplay(nullptr);
     QCOMPARE(mainPage()->bars().at(0).value[0], 20.0f);
     QCOMPARE(mainPage()->bars().at(1).value[0], 5.0f);
@@ -404,7 +401,7 @@ void TstHarmonics::cursorOnThdAndDc()
 
 void TstHarmonics::channelWithoutDataShowsPlaces()
 {
-    m_page->init_parameter();
+    beginRun(*m_page);
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(mainPage(), "D1_val"), QStringLiteral("_.__"));
 }
@@ -428,7 +425,7 @@ void TstHarmonics::allShowsEveryChannelOfTheWiring()
 void TstHarmonics::wildRecordIsShown()
 {
     for (float value : kWildFloats) {
-        for (HarmChannel &channel : g_harm_data->channel) {
+        for (HarmChannel &channel : live().harmonics.channel) {
             channel.rms = channel.offset = channel.distortion = value;
             for (HarmLine &line : channel.harmonic)
                 line = { value, value, value };
@@ -438,7 +435,7 @@ void TstHarmonics::wildRecordIsShown()
         for (const __graphdata &bar : mainPage()->bars())
             QVERIFY(bar.value[0] >= 0 && bar.value[0] <= 100);
     }
-    g_harm_data->reference = 99;
+    live().harmonics.reference = 99;
     m_page->updateDisplay(nullptr);
 }
 
@@ -487,13 +484,13 @@ void TstHarmonics::tableEndsAtItsLastPageAt400Hz()
 
 void TstHarmonics::tableShowsPercentOfTheReference()
 {
-    g_harm_data->channel[1].offset = 4;
-    g_harm_data->channel[6].distortion = 8;
+    live().harmonics.channel[1].offset = 4;
+    live().harmonics.channel[6].distortion = 8;
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(meterPage(), "row1_L2"), QStringLiteral("2.500")); // 4 of 160
     QCOMPARE(text(meterPage(), "row4_L3"), QStringLiteral("5.000")); // 8 of 160
     QCOMPARE(text(meterPage(), "row7_N"), QStringLiteral("33.333"));
-    g_harm_data->reference = 1;
+    live().harmonics.reference = 1;
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(meterPage(), "row1_L2"), QStringLiteral("2.000")); // 4 of 200
     QCOMPARE(text(meterPage(), "row5_L1"), QStringLiteral("80.000"));
@@ -532,7 +529,7 @@ void TstHarmonics::f3AsksForTheOtherReference()
     press(meterPage(), F3);
     QCOMPARE(asked.count(), 1);
     QCOMPARE(asked.at(0).at(0).toInt(), 2);
-    g_harm_data->reference = 1;
+    live().harmonics.reference = 1;
     m_page->updateDisplay(nullptr);
     press(meterPage(), F3);
     QCOMPARE(asked.at(1).at(0).toInt(), 1);

@@ -50,11 +50,10 @@ private slots:
     void trendOpensAtTheScaleOfTheDuration_data();
     void trendOpensAtTheScaleOfTheDuration();
     void zoomPassesThePairsAndTheScaleOfTheDuration();
-    void trendKeepsTheDurationChosen();
     void cursorCountsFromTheRightEdge();
     void valuesAtTheCursorAreThoseOfTheTask();
     void wiringDecidesCaptionsAndCurves();
-    void pagesLiveWithoutRecords();
+    void pagesLiveBeforeTheFirstStart();
     void longReadingsAndCaptionsFitTheirLabels();
 
     // events
@@ -89,8 +88,8 @@ void TstInrush::init()
     setUpMeasurement(1);
     InrushInfo::m_duration_index = 0;
     setClamp(1000, 1000);
-    m_page = std::make_unique<InrushPage>();
-    m_page->init_parameter();
+    m_page = std::make_unique<InrushPage>(liveData());
+    beginRun(*m_page);
 }
 
 /// A clamp of \a range amperes and \a ratio microvolts an ampere, and the levels that follow from it.
@@ -106,8 +105,8 @@ void TstInrush::feed(int count, float amps)
 {
     for (int i = 0; i < count; ++i) {
         for (int c = 0; c < 3; ++c) {
-            g_inrush_data->voltage[c].append(230);
-            g_inrush_data->current[c].append(amps + c);
+            live().inrush.voltage[c].append(230);
+            live().inrush.current[c].append(amps + c);
         }
     }
     m_page->updateDisplay(nullptr);
@@ -152,7 +151,7 @@ void TstInrush::nominalAmpsMoveByTheClampsStep()
     QCOMPARE(InrushInfo::m_nom_amps, 240.0);
 
     setClamp(5, 10000); // steps of a milliampere
-    m_page->init_parameter();
+    beginRun(*m_page);
     QCOMPARE(text(mainPage(), "nom_amps"), QStringLiteral("1.250 A"));
     press(mainPage(), Right);
     QCOMPARE(text(mainPage(), "nom_amps"), QStringLiteral("1.251 A"));
@@ -173,7 +172,7 @@ void TstInrush::nominalAmpsStopAtTheClampsRangeAndAtOneStep()
 void TstInrush::aValueBetweenTwoStepsMovesOntoTheGrid()
 {
     setClamp(150, 1000); // a quarter is 37.5 A, steps are 1 A
-    m_page->init_parameter();
+    beginRun(*m_page);
     press(mainPage(), Right);
     QCOMPARE(InrushInfo::m_nom_amps, 38.0);
     InrushInfo::m_nom_amps = 37.5;
@@ -259,7 +258,7 @@ void TstInrush::defaultsRestoreEverything()
 void TstInrush::aRestartKeepsTheUsersLevels()
 {
     press(mainPage(), Right);
-    m_page->init_parameter();
+    beginRun(*m_page);
     QCOMPARE(text(mainPage(), "nom_amps"), QStringLiteral("260 A"));
 }
 
@@ -318,7 +317,7 @@ void TstInrush::trendOpensWithTheCurrents()
     press(startPage(), F1);
     QCOMPARE(text(startPage(), "btn_f1"), amps);
     press(startPage(), F1);
-    m_page->init_parameter();
+    beginRun(*m_page);
     QCOMPARE(text(startPage(), "btn_f1"), amps);
 }
 
@@ -345,7 +344,7 @@ void TstInrush::trendOpensAtTheScaleOfTheDuration()
     QFETCH(int, seconds);
     QFETCH(int, valuesPerPoint);
     setUpMeasurement(1, frequency);
-    m_page->init_parameter();
+    beginRun(*m_page);
     InrushInfo::m_duration_index = duration;
     press(mainPage(), F5);
     QCOMPARE(startPage()->seconds(), seconds);
@@ -370,17 +369,6 @@ void TstInrush::zoomPassesThePairsAndTheScaleOfTheDuration()
     press(startPage(), Right, 9);
     QCOMPARE(startPage()->seconds(), 6);
     QCOMPARE(InrushInfo::m_zoom_index, 3); // the last pair that was passed
-}
-
-void TstInrush::trendKeepsTheDurationChosen()
-{
-    feed(700, 5);
-    QCOMPARE(g_inrush_trend_data->current[0].size(), 600); // six seconds
-    InrushInfo::m_duration_index = 1;
-    feed(5700, 6);
-    QCOMPARE(g_inrush_trend_data->current[0].size(), 6000); // a minute
-    QCOMPARE(g_inrush_trend_data->current[0].first(), 5.0f);
-    QVERIFY(g_inrush_data->current[0].isEmpty());
 }
 
 void TstInrush::cursorCountsFromTheRightEdge()
@@ -419,14 +407,14 @@ void TstInrush::valuesAtTheCursorAreThoseOfTheTask()
 void TstInrush::wiringDecidesCaptionsAndCurves()
 {
     setUpMeasurement(4);
-    m_page->init_parameter();
+    beginRun(*m_page);
     feed(10, 1);
     QCOMPARE(text(startPage(), "D1_Caption"), QStringLiteral("L12:"));
     QCOMPARE(text(startPage(), "D3_Caption"), QStringLiteral("L31:"));
     QCOMPARE(text(startPage(), "D4_Caption"), QString());
     QCOMPARE(chart()->flags(), 7);
     setUpMeasurement(6);
-    m_page->init_parameter();
+    beginRun(*m_page);
     feed(10, 1);
     QCOMPARE(chart()->flags(), 1);
     QCOMPARE(text(startPage(), "D2_Caption"), QString());
@@ -441,22 +429,17 @@ void TstInrush::longReadingsAndCaptionsFitTheirLabels()
     }
 }
 
-void TstInrush::pagesLiveWithoutRecords()
+void TstInrush::pagesLiveBeforeTheFirstStart()
 {
-    const auto record = std::exchange(g_inrush_data, nullptr);
-    const auto copy = std::exchange(g_inrush_trend_data, nullptr);
-    {
-        InrushPage page;
-        page.updateDisplay(nullptr);
-        page.refreshEventList(nullptr);
-        page.retranslateUi();
-        press(page.findChild<InrushMain *>(), F5);
-        for (const FrontKey key : { F1, F2, F3, Left, Right, F4, Left, Right, F5 })
-            press(page.findChild<InrushStartPage *>(), key);
-        QVERIFY(page.pqaData().isEmpty());
-    }
-    g_inrush_data = record;
-    g_inrush_trend_data = copy;
+    renewLive();
+    InrushPage page(liveData());
+    page.updateDisplay(nullptr);
+    page.refreshEventList(nullptr);
+    page.retranslateUi();
+    press(page.findChild<InrushMain *>(), F5);
+    for (const FrontKey key : { F1, F2, F3, Left, Right, F4, Left, Right, F5 })
+        press(page.findChild<InrushStartPage *>(), key);
+    QCOMPARE(page.pqaData(), QByteArray(8, 0));
 }
 
 void TstInrush::onlyInrushEventsAreListed()
@@ -471,7 +454,7 @@ void TstInrush::onlyInrushEventsAreListed()
     QCOMPARE(m_inrush_events_list.size(), 2);
     QCOMPARE(m_inrush_events_list.first().type, int(EventInrush));
     QCOMPARE(text(startPage(), "events_count"), QStringLiteral("2"));
-    m_page->init_parameter();
+    beginRun(*m_page);
     QVERIFY(m_inrush_events_list.isEmpty());
     QCOMPARE(text(startPage(), "events_count"), QStringLiteral("0"));
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("0/0"));

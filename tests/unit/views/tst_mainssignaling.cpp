@@ -25,8 +25,8 @@ private slots:
     void tableShowsOnlyTheChannelsOfTheWiring_data();
     void tableShowsOnlyTheChannelsOfTheWiring();
     void lostFrequencyIsGreyAndPositive();
-    void recordKeepsItsAddressAndIsEmptiedByEachStart();
-    void pagesLiveWithoutARecord();
+    void eachStartShowsEmptyRecords();
+    void pagesLiveBeforeTheFirstStart();
     void f4OpensTheTrendAndLeadsBack();
     void f2OpensTheEventsAndF5LeadsBack();
 
@@ -53,22 +53,22 @@ private:
 void TstMainsSignaling::start(int joinMode)
 {
     setUpMeasurement(joinMode);
-    m_page->init_parameter();
+    beginRun(*m_page);
     for (int c = 0; c < 4; ++c) {
-        g_mains_sig->signal1[c] = 0.0125f + 0.01f * float(c);
-        g_mains_sig->signal1Mean[c] = 2.5f + float(c);
-        g_mains_sig->signal2[c] = 0.05f;
-        g_mains_sig->signal2Mean[c] = 11.5f;
-        g_mains_sig->rms1[c] = 230.0f + float(c);
-        g_mains_sig->rms2[c] = 5.0f + float(c);
+        live().mainsSignal.signal1[c] = 0.0125f + 0.01f * float(c);
+        live().mainsSignal.signal1Mean[c] = 2.5f + float(c);
+        live().mainsSignal.signal2[c] = 0.05f;
+        live().mainsSignal.signal2Mean[c] = 11.5f;
+        live().mainsSignal.rms1[c] = 230.0f + float(c);
+        live().mainsSignal.rms2[c] = 5.0f + float(c);
     }
-    g_mains_sig->frequency = 50;
+    live().mainsSignal.frequency = 50;
     m_page->updateDisplay(nullptr);
 }
 
 void TstMainsSignaling::init()
 {
-    m_page = std::make_unique<MainsSignaling>();
+    m_page = std::make_unique<MainsSignaling>(liveData());
     start(1);
 }
 
@@ -104,7 +104,7 @@ void TstMainsSignaling::tableShowsTheFrequenciesOfTheCarriers()
 {
     // Those of the limit set in use, which the processor measures; the settings hold others.
     m_settingConfig_g.setMainsSigFreq1(1350);
-    m_page->init_parameter();
+    beginRun(*m_page);
     QCOMPARE(text(mainPage(), "carriers"), QStringLiteral("1: 1375Hz  2: 285Hz"));
 }
 
@@ -136,40 +136,29 @@ void TstMainsSignaling::tableShowsOnlyTheChannelsOfTheWiring()
 
 void TstMainsSignaling::lostFrequencyIsGreyAndPositive()
 {
-    g_mains_sig->frequency = -49.5f;
+    live().mainsSignal.frequency = -49.5f;
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(mainPage(), "freq"), QStringLiteral("49.50Hz"));
     QCOMPARE(sheet(mainPage(), "freq"), QStringLiteral("color: #808080;"));
 }
 
-void TstMainsSignaling::recordKeepsItsAddressAndIsEmptiedByEachStart()
+void TstMainsSignaling::eachStartShowsEmptyRecords()
 {
-    const __mains_sig_data *record = g_mains_sig;
-    g_mains_sig->trend[3].series[1].append(1);
-    g_mains_sig->mean2[0].append(1);
-    g_mains_sig->frequencyTrend.append(50);
     addEvents(2);
-    m_page->init_parameter();
-    QCOMPARE(static_cast<const __mains_sig_data *>(g_mains_sig), record);
-    QCOMPARE(g_mains_sig->signal1[0], 0.0f);
-    QVERIFY(g_mains_sig->trend[3].series[1].isEmpty());
-    QVERIFY(g_mains_sig->mean2[0].isEmpty());
-    QVERIFY(g_mains_sig->frequencyTrend.isEmpty());
+    beginRun(*m_page);
+    QCOMPARE(text(mainPage(), "sig1_L1"), QStringLiteral("0.00"));
+    QCOMPARE(text(mainPage(), "rms1_L2"), QStringLiteral("0.00"));
     QVERIFY(m_ms_events_list.isEmpty());
 }
 
-void TstMainsSignaling::pagesLiveWithoutARecord()
+void TstMainsSignaling::pagesLiveBeforeTheFirstStart()
 {
-    __mains_sig_data *kept = g_mains_sig;
-    g_mains_sig = nullptr;
-    {
-        MainsSignaling page;
-        page.updateDisplay(nullptr);
-        page.retranslateUi();
-        press(page.findChild<MainsSignalingTrend *>(), F1, 5);
-        page.showMainsSignalingEvent();
-    }
-    g_mains_sig = kept;
+    renewLive();
+    MainsSignaling page(liveData());
+    page.updateDisplay(nullptr);
+    page.retranslateUi();
+    press(page.findChild<MainsSignalingTrend *>(), F1, 5);
+    page.showMainsSignalingEvent();
 }
 
 void TstMainsSignaling::f4OpensTheTrendAndLeadsBack()

@@ -23,7 +23,7 @@ class TstPower : public QObject
 private slots:
     void init();
 
-    void recordsKeepTheirAddresses();
+    void eachStartShowsEmptyRecords();
     void tableShowsEveryRow();
     void columnsFollowTheWiring_data();
     void columnsFollowTheWiring();
@@ -37,7 +37,7 @@ private slots:
     void trendCaptionsEndBeforeTheirValues();
     void trendFlagsShowTheTotalInTheFourthBand();
     void savedRecordHoldsWordsAndTrends();
-    void pagesLiveWithoutARecord();
+    void pagesLiveBeforeTheFirstStart();
 
 private:
     PowerMain *mainPage() { return m_page->findChild<PowerMain *>(); }
@@ -50,19 +50,17 @@ private:
 void TstPower::init()
 {
     m_settingConfig_g.setJoinMode(1);
-    m_page = std::make_unique<powen>();
-    m_page->init_parameter();
+    m_page = std::make_unique<powen>(liveData());
+    beginRun(*m_page);
 }
 
-void TstPower::recordsKeepTheirAddresses()
+void TstPower::eachStartShowsEmptyRecords()
 {
-    const auto *data = g_power_data;
-    const auto *shown = g_power_data_ui;
-    g_power_data->row[0].active = 5;
-    m_page->init_parameter();
-    QCOMPARE(static_cast<const __power_data *>(g_power_data), data);
-    QCOMPARE(static_cast<const __power_data *>(g_power_data_ui), shown);
-    QCOMPARE(g_power_data->row[0].active, 0.0f);
+    live().power.row[0].factor = 0.5f;
+    m_page->updateDisplay(nullptr);
+    QCOMPARE(text(mainPage(), "TPF_L1"), QStringLiteral("0.50"));
+    beginRun(*m_page);
+    QCOMPARE(text(mainPage(), "TPF_L1"), QStringLiteral("0.00"));
 }
 
 void TstPower::tableShowsEveryRow()
@@ -76,9 +74,9 @@ void TstPower::tableShowsEveryRow()
     QCOMPARE(text(mainPage(), "tan_t"), QStringLiteral("tanΦ"));
     QCOMPARE(text(mainPage(), "Urms_t"), QStringLiteral("Urms(V)"));
     for (int c = 0; c < 4; ++c)
-        g_power_data->row[c] = { 1230.0f + 1000 * c, -2340.0f, 3450.0f, 0.95f, 0.97f, 0.31f };
-    g_power_data->voltage[2] = 231.0f;
-    g_power_data->current[0] = 2.5f;
+        live().power.row[c] = { 1230.0f + 1000 * c, -2340.0f, 3450.0f, 0.95f, 0.97f, 0.31f };
+    live().power.voltage[2] = 231.0f;
+    live().power.current[0] = 2.5f;
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(mainPage(), "P_L1"), QStringLiteral("1.23"));
     QCOMPARE(text(mainPage(), "P_Tot"), QStringLiteral("4.23"));
@@ -110,7 +108,7 @@ void TstPower::columnsFollowTheWiring()
     QFETCH(QStringList, headers);
     m_page->updateDisplay(nullptr);
     m_settingConfig_g.setJoinMode(joinMode);
-    m_page->init_parameter();
+    beginRun(*m_page);
     m_page->updateDisplay(nullptr);
     const char *const columns[] = { "L1", "L2", "L3", "Tot" };
     for (int c = 0; c < 4; ++c) {
@@ -143,12 +141,12 @@ void TstPower::resetKeyWorksOnlyWithThePanelShown()
 
 void TstPower::panelShowsEnergiesAndRunningTime()
 {
-    g_power_data->activeEnergy[0] = 1234.5f;
-    g_power_data->apparentEnergy[1] = 2000.0f;
-    g_power_data->reactiveEnergy[3] = -3000.0f;
-    g_power_data->hours = 101;
-    g_power_data->minutes = 2;
-    g_power_data->seconds = 3;
+    live().power.activeEnergy[0] = 1234.5f;
+    live().power.apparentEnergy[1] = 2000.0f;
+    live().power.reactiveEnergy[3] = -3000.0f;
+    live().power.hours = 101;
+    live().power.minutes = 2;
+    live().power.seconds = 3;
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(mainPage(), "energy_t"), QStringLiteral("E(kWh)"));
     QCOMPARE(text(mainPage(), "kwh"), QStringLiteral("kWh"));
@@ -174,7 +172,7 @@ void TstPower::reactiveFlagFollowsTheSign()
 {
     QFETCH(float, reactive);
     QFETCH(QString, sheet);
-    g_power_data->row[3].reactive = reactive;
+    live().power.row[3].reactive = reactive;
     m_page->updateDisplay(nullptr);
     QCOMPARE(mainPage()->findChild<QLabel *>("q_flag4")->styleSheet(), sheet);
     QCOMPARE(mainPage()->findChild<QLabel *>("q_flag1")->styleSheet(), QString());
@@ -233,11 +231,11 @@ void TstPower::trendFlagsShowTheTotalInTheFourthBand()
 {
     auto *chart = static_cast<VifTrendChart *>(trendPage()->findChild<QWidget *>("trend_power"));
     QCOMPARE(chart->flags(), 7 | 64);
-    g_power_data->row[3].active = 9000.0f;
+    live().power.row[3].active = 9000.0f;
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(trendPage(), "D4_Caption"), QStringLiteral("T :"));
     QCOMPARE(text(trendPage(), "D1_Caption"), QStringLiteral("L1 :"));
-    g_power_data->trend[0].series[0].append(1.0f);
+    live().power.trend[0].series[0].append(1.0f);
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(trendPage(), "D4_Value"), QStringLiteral("9.00"));
     for (int i = 0; i < 6; ++i)
@@ -246,18 +244,18 @@ void TstPower::trendFlagsShowTheTotalInTheFourthBand()
     QCOMPARE(text(trendPage(), "D4_Caption"), QString());
     QCOMPARE(text(trendPage(), "D4_Value"), QString());
     m_settingConfig_g.setJoinMode(5);
-    m_page->init_parameter();
+    beginRun(*m_page);
     QCOMPARE(chart->flags(), 3);
 }
 
 void TstPower::savedRecordHoldsWordsAndTrends()
 {
-    g_power_data->row[3].tangent = 0.5f; // word 42
-    g_power_data->seconds = 59; // word 47
+    live().power.row[3].tangent = 0.5f; // word 42
+    live().power.seconds = 59; // word 47
     for (int c = 0; c < 4; ++c) {
         for (int i = 0; i < 5; ++i) {
-            g_power_data->trend[0].series[c].append(float(10 * c + i));
-            g_power_data->trend[7].series[c].append(float(100 * c + i));
+            live().power.trend[0].series[c].append(float(10 * c + i));
+            live().power.trend[7].series[c].append(float(100 * c + i));
         }
     }
     m_page->updateDisplay(nullptr);
@@ -280,15 +278,13 @@ void TstPower::savedRecordHoldsWordsAndTrends()
     QCOMPARE(word(49 + 600 * (7 * 4 + 2) + 1), 201.0f); // I rms of L3
 }
 
-void TstPower::pagesLiveWithoutARecord()
+void TstPower::pagesLiveBeforeTheFirstStart()
 {
-    __power_data *kept = g_power_data_ui;
-    g_power_data_ui = nullptr;
-    powen page;
+    renewLive();
+    powen page(liveData());
     page.updateDisplay(nullptr);
     press(page.findChild<PowerTrendPage *>(), F1);
-    QVERIFY(page.pqaData().isEmpty());
-    g_power_data_ui = kept;
+    QCOMPARE(page.pqaData().size(), 76996);
 }
 
 PAGE_TEST_MAIN(TstPower)

@@ -2,8 +2,7 @@
 #include "device/idevice.h"
 #include "framespy.h"
 #include "pagetest.h"
-#include "platform/clock.h"
-#include "views/powerinverter/inverterfeed.h"
+#include "task/inverterfeed.h"
 #include "views/powerinverter/powerinverter.h"
 #include "views/powerinverter/powerinvertermain.h"
 #include "views/powerinverter/powerinvertersetup.h"
@@ -39,7 +38,6 @@ private slots:
     void outputsFollowTheWiring_data();
     void outputsFollowTheWiring();
     void longReadingsFitTheirLabels();
-    void trendTakesOnePointASecondHoweverOftenItIsRefreshed();
     void trendKeepsTenMinutes();
     void trendQuantityCycles();
     void trendShowsInputsAsSingleValuesWithTheirSign();
@@ -48,22 +46,21 @@ private slots:
     void holdFreezesTheValues();
     void leavingByAFunctionKeySetsTheProcessorUp_data();
     void leavingByAFunctionKeySetsTheProcessorUp();
-    void recordKeepsItsAddressAndIsEmptiedByEachStart();
+    void eachStartShowsEmptyRecords();
     void savesAPictureOnly();
-    void pagesLiveWithoutRecords();
+    void pagesLiveBeforeTheFirstStart();
     void wildValuesAreShown();
 
 private:
     PowerInverterSetup *setupPage() { return m_page->findChild<PowerInverterSetup *>(); }
     PowerInverterMain *mainPage() { return m_page->findChild<PowerInverterMain *>(); }
     PowerInverterTrend *trendPage() { return m_page->findChild<PowerInverterTrend *>(); }
-    /// One refresh, a second after the last.
+    /// New values, one point of each trend, and a refresh.
     void refresh();
     void start(int joinMode, bool single);
+    static void measure();
 
     std::unique_ptr<PowerInverter> m_page;
-    __vif_data m_live;
-    __power_data m_power;
 };
 
 void TstPowerInverter::initTestCase()
@@ -75,43 +72,45 @@ void TstPowerInverter::initTestCase()
 void TstPowerInverter::start(int joinMode, bool single)
 {
     setUpMeasurement(joinMode);
-    m_page->init_parameter();
+    beginRun(*m_page);
+    measure();
     press(setupPage(), single ? Up : Down);
     press(setupPage(), F5);
     refresh();
 }
 
+void TstPowerInverter::measure()
+{
+    for (int c = 0; c < 3; ++c) {
+        live().vif.voltage[c] = 230.0f + float(c);
+        live().vif.current[c] = 10.0f + float(c);
+        live().power.row[c].active = 1000.0f * float(c + 1);
+    }
+    live().power.row[3].active = 6000;
+    live().vif.voltage[3] = 999; // the alternating part of the input plays no role
+    live().vif.voltageOffset[3] = 400;
+    live().vif.currentOffset[3] = 20;
+    live().vif.frequency = 50;
+}
+
 void TstPowerInverter::init()
 {
-    Clock::setForTest(1000000000000);
-    m_live = {};
-    m_power = {};
-    for (int c = 0; c < 3; ++c) {
-        m_live.voltage[c] = 230.0f + float(c);
-        m_live.current[c] = 10.0f + float(c);
-        m_power.row[c].active = 1000.0f * float(c + 1);
-    }
-    m_power.row[3].active = 6000;
-    m_live.voltage[3] = 999; // the alternating part of the input plays no role
-    m_live.voltageOffset[3] = 400;
-    m_live.currentOffset[3] = 20;
-    m_live.frequency = 50;
-    g_vif_data = &m_live;
-    g_power_data = &m_power;
     singleOrThree = 0;
-    m_page = std::make_unique<PowerInverter>();
+    m_page = std::make_unique<PowerInverter>(liveData());
     start(1, false);
 }
 
 void TstPowerInverter::cleanup()
 {
     m_page.reset();
-    Clock::useSystem();
 }
 
 void TstPowerInverter::refresh()
 {
-    Clock::advance(1000);
+    // As the task feeds it.
+    const int outputs = InverterFeed::outputMask(ChannelLabels::channels().trendFlags(), singleOrThree != 0);
+    InverterFeed::feed(live().vif, live().power, singleOrThree != 0, outputs, live().inverter);
+    InverterFeed::appendTrends(outputs, live().inverter);
     m_page->updateDisplay(nullptr);
 }
 
@@ -155,9 +154,9 @@ void TstPowerInverter::entryShowsTheSetup()
 
 void TstPowerInverter::inputIsTheOffsetOfTheFourthChannel()
 {
-    QCOMPARE(g_pi_data->inputVoltage, 400.0f);
-    QCOMPARE(g_pi_data->inputCurrent, 20.0f);
-    QCOMPARE(g_pi_data->inputPower, 8000.0f);
+    QCOMPARE(live().inverter.inputVoltage, 400.0f);
+    QCOMPARE(live().inverter.inputCurrent, 20.0f);
+    QCOMPARE(live().inverter.inputPower, 8000.0f);
     QCOMPARE(text(mainPage(), "Uin_t"), QStringLiteral("U in(V)"));
     QCOMPARE(text(mainPage(), "Uin"), QStringLiteral("400.00"));
     QCOMPARE(text(mainPage(), "Uout_t"), QStringLiteral("U out(V)"));
@@ -169,12 +168,12 @@ void TstPowerInverter::inputIsTheOffsetOfTheFourthChannel()
 void TstPowerInverter::efficiencyIsOutputOverInput()
 {
     start(1, true);
-    m_power.row[0].active = 7600;
+    live().power.row[0].active = 7600;
     refresh();
-    QCOMPARE(g_pi_data->efficiency, 95.0f); // 7600 of 8000
+    QCOMPARE(live().inverter.efficiency, 95.0f); // 7600 of 8000
     QCOMPARE(text(mainPage(), "eff"), QStringLiteral("95.00%"));
     QCOMPARE(text(mainPage(), "eff_t"), QStringLiteral("Efficiency"));
-    m_power.row[0].active = 8800; // a reading above all is shown as it is
+    live().power.row[0].active = 8800; // a reading above all is shown as it is
     refresh();
     QCOMPARE(text(mainPage(), "eff"), QStringLiteral("110.00%"));
 }
@@ -195,19 +194,19 @@ void TstPowerInverter::efficiencyIsZeroWithoutInput()
 {
     QFETCH(float, volts);
     QFETCH(float, amperes);
-    m_live.voltageOffset[3] = volts;
-    m_live.currentOffset[3] = amperes;
+    live().vif.voltageOffset[3] = volts;
+    live().vif.currentOffset[3] = amperes;
     refresh();
     QCOMPARE(text(mainPage(), "eff"), QStringLiteral("0.00%"));
 }
 
 void TstPowerInverter::threePhaseEfficiencyTakesTheTotal()
 {
-    QCOMPARE(g_pi_data->efficiency, 75.0f); // 6000 of 8000
+    QCOMPARE(live().inverter.efficiency, 75.0f); // 6000 of 8000
     start(4, false); // two wattmeters: the phases need not add up
-    m_power.row[3].active = 4000;
+    live().power.row[3].active = 4000;
     refresh();
-    QCOMPARE(g_pi_data->efficiency, 50.0f);
+    QCOMPARE(live().inverter.efficiency, 50.0f);
 }
 
 void TstPowerInverter::singlePhaseShowsL1Only()
@@ -220,7 +219,7 @@ void TstPowerInverter::singlePhaseShowsL1Only()
     QCOMPARE(text(mainPage(), "Pout_L1"), QStringLiteral("1.00"));
     for (const char *name : { "header_2", "header_3", "Uout_L2", "Iout_L3", "Pout_L2" })
         QCOMPARE(text(mainPage(), name), QString());
-    QCOMPARE(g_pi_data->efficiency, 12.5f); // 1000 of 8000
+    QCOMPARE(live().inverter.efficiency, 12.5f); // 1000 of 8000
     start(1, false);
     QCOMPARE(text(mainPage(), "Uout_L3"), QStringLiteral("232.00"));
     QCOMPARE(text(mainPage(), "Pout_L2"), QStringLiteral("2.00"));
@@ -254,18 +253,6 @@ void TstPowerInverter::longReadingsFitTheirLabels()
     }
 }
 
-void TstPowerInverter::trendTakesOnePointASecondHoweverOftenItIsRefreshed()
-{
-    const int before = g_pi_data->trend[InverterFeed::InputVoltage].series[0].size();
-    for (int i = 0; i < 6; ++i) {
-        Clock::advance(500);
-        m_page->updateDisplay(nullptr);
-        m_page->updateDisplay(nullptr);
-    }
-    QCOMPARE(g_pi_data->trend[InverterFeed::InputVoltage].series[0].size(), before + 3);
-    QCOMPARE(g_pi_data->trend[InverterFeed::OutputPower].series[2].size(), before + 3);
-}
-
 void TstPowerInverter::trendKeepsTenMinutes()
 {
     __pi_data data;
@@ -289,7 +276,7 @@ void TstPowerInverter::trendQuantityCycles()
 
 void TstPowerInverter::trendShowsInputsAsSingleValuesWithTheirSign()
 {
-    m_live.voltageOffset[3] = -400;
+    live().vif.voltageOffset[3] = -400;
     refresh();
     QCOMPARE(text(trendPage(), "D1_Value"), QStringLiteral("-400.00"));
     QCOMPARE(sheet(trendPage(), "D1_Value"), QString());
@@ -329,20 +316,24 @@ void TstPowerInverter::f4OpensTheTrendAndF5LeadsBack()
 
 void TstPowerInverter::holdFreezesTheValues()
 {
+    QSignalSpy paused(m_page.get(), &LivePage::pause);
     press(mainPage(), F5);
+    QCOMPARE(paused.count(), 1);
+    QCOMPARE(text(mainPage(), "btn_f5"), QStringLiteral("Hold")); // until the task answers
+    holdRun(*m_page);
     QCOMPARE(text(mainPage(), "btn_f5"), QStringLiteral("Run"));
-    m_live.voltageOffset[3] = 500;
+    live().vif.voltageOffset[3] = 500;
     refresh();
     QCOMPARE(text(mainPage(), "Uin"), QStringLiteral("400.00"));
-    QCOMPARE(g_pi_data->inputVoltage, 400.0f);
-    press(mainPage(), F5);
+    press(mainPage(), F4);
+    QCOMPARE(text(trendPage(), "D1_Value"), QStringLiteral("400.00"));
+    continueRun(*m_page);
     QCOMPARE(text(mainPage(), "btn_f5"), QStringLiteral("Hold"));
     refresh();
     QCOMPARE(text(mainPage(), "Uin"), QStringLiteral("500.00"));
-    press(mainPage(), F5);
-    m_page->init_parameter();
-    refresh();
-    QCOMPARE(text(mainPage(), "Uin"), QStringLiteral("500.00"));
+    holdRun(*m_page);
+    start(1, false);
+    QCOMPARE(text(mainPage(), "Uin"), QStringLiteral("400.00"));
     QCOMPARE(text(mainPage(), "btn_f5"), QStringLiteral("Hold"));
 }
 
@@ -367,13 +358,11 @@ void TstPowerInverter::leavingByAFunctionKeySetsTheProcessorUp()
     QCOMPARE(spy.count(), 3);
 }
 
-void TstPowerInverter::recordKeepsItsAddressAndIsEmptiedByEachStart()
+void TstPowerInverter::eachStartShowsEmptyRecords()
 {
-    const __pi_data *record = g_pi_data;
-    m_page->init_parameter();
-    QCOMPARE(static_cast<const __pi_data *>(g_pi_data), record);
-    QCOMPARE(g_pi_data->inputVoltage, 0.0f);
-    QVERIFY(g_pi_data->trend[InverterFeed::InputVoltage].series[0].isEmpty());
+    beginRun(*m_page);
+    QCOMPARE(text(mainPage(), "Uin"), QStringLiteral("0.00"));
+    QCOMPARE(text(trendPage(), "D1_Value"), QStringLiteral("0.00"));
 }
 
 void TstPowerInverter::savesAPictureOnly()
@@ -381,32 +370,24 @@ void TstPowerInverter::savesAPictureOnly()
     QVERIFY(m_page->pqaData().isEmpty());
 }
 
-void TstPowerInverter::pagesLiveWithoutRecords()
+void TstPowerInverter::pagesLiveBeforeTheFirstStart()
 {
-    __pi_data *kept = g_pi_data;
-    g_vif_data = nullptr;
-    refresh();
-    g_power_data = nullptr;
-    refresh();
-    g_pi_data = nullptr;
-    {
-        PowerInverter page;
-        page.updateDisplay(nullptr);
-        page.retranslateUi();
-        press(page.findChild<PowerInverterTrend *>(), F1, 7);
-        press(page.findChild<PowerInverterSetup *>(), F5);
-    }
-    g_pi_data = kept;
+    renewLive();
+    PowerInverter page(liveData());
+    page.updateDisplay(nullptr);
+    page.retranslateUi();
+    press(page.findChild<PowerInverterTrend *>(), F1, 7);
+    press(page.findChild<PowerInverterSetup *>(), F5);
 }
 
 void TstPowerInverter::wildValuesAreShown()
 {
     for (float value : { std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(), 1e38f }) {
-        m_live.voltageOffset[3] = value;
-        m_live.currentOffset[3] = value;
+        live().vif.voltageOffset[3] = value;
+        live().vif.currentOffset[3] = value;
         for (int c = 0; c < 3; ++c)
-            m_live.voltage[c] = m_live.current[c] = m_power.row[c].active = value;
-        m_power.row[3].active = value;
+            live().vif.voltage[c] = live().vif.current[c] = live().power.row[c].active = value;
+        live().power.row[3].active = value;
         refresh();
         for (int i = 0; i < 6; ++i) {
             press(trendPage(), F1);

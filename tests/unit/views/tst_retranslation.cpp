@@ -62,7 +62,7 @@ using MakePage = std::function<FunctionPage *()>;
 
 template <typename Page> FunctionPage *makePage()
 {
-    return new Page;
+    return new Page(PageTest::liveData());
 }
 
 } // namespace
@@ -134,7 +134,7 @@ void TstRetranslation::languageChangeReachesEveryText()
 
 void TstRetranslation::heldPageSaysRunInTheNewLanguage()
 {
-    harm page;
+    harm page(PageTest::liveData());
     page.init_parameter();
     emit page.taskPaused();
     MarkedLanguage language;

@@ -81,7 +81,7 @@ private slots:
     void f6StaysHere();
     void restartForgetsEverything();
     void holdLabelFollowsTheTask();
-    void pageLivesWithoutRecords();
+    void pageLivesBeforeTheFirstStart();
     void refreshIsHarmlessWhenRepeated();
     void longReadingsAndCaptionsFitTheirLabels();
 
@@ -95,8 +95,8 @@ private:
 void TstScope::init()
 {
     setUpMeasurement(1);
-    m_page = std::make_unique<ScopePage>();
-    m_page->init_parameter();
+    m_page = std::make_unique<ScopePage>(liveData());
+    beginRun(*m_page);
 }
 
 void TstScope::fillSine(int cycles, double amplitude)
@@ -104,8 +104,8 @@ void TstScope::fillSine(int cycles, double amplitude)
     for (int c = 0; c < 4; ++c) {
         for (int i = 0; i < 4096; ++i) {
             const double s = amplitude * std::sin(2 * kPi * cycles * (i + 0.5) / 4090.0);
-            g_scope_data->voltageSamples[c][i] = qint16(std::lround(s));
-            g_scope_data->currentSamples[c][i] = qint16(std::lround(-s));
+            live().scope.voltageSamples[c][i] = qint16(std::lround(s));
+            live().scope.currentSamples[c][i] = qint16(std::lround(-s));
         }
     }
 }
@@ -217,7 +217,7 @@ void TstScope::f1StepsThroughTheModesOfTheWiring()
     QFETCH(int, joinMode);
     QFETCH(QVector<int>, cycle);
     setUpMeasurement(joinMode);
-    m_page->init_parameter();
+    beginRun(*m_page);
     QCOMPARE(m_page->displayMode(), 0);
     for (const int mode : cycle) {
         press(m_page.get(), F1);
@@ -242,7 +242,7 @@ void TstScope::modesShowTheirCurves()
     QFETCH(int, joinMode);
     QFETCH(QVector<int>, flags);
     setUpMeasurement(joinMode);
-    m_page->init_parameter();
+    beginRun(*m_page);
     for (const int expected : flags) {
         QCOMPARE(int(scope()->flags()), expected);
         press(m_page.get(), F1);
@@ -263,7 +263,7 @@ void TstScope::oneEightCyclesFillTheScreen()
     wave_step = step;
     m_page->updateDisplay(nullptr);
     int falling = 0; // once in the middle of each cycle
-    const qint16 *s = g_scope_data_ui->voltageSamples[2];
+    const qint16 *s = m_page->drawn().voltageSamples[2];
     for (int i = 1; i < 600; ++i)
         falling += s[i - 1] >= 0 && s[i] < 0;
     QCOMPARE(falling, step);
@@ -290,19 +290,19 @@ void TstScope::waveStepShowsAlsoOnHold()
 {
     fillSine(10, 10000);
     m_page->updateDisplay(nullptr);
-    emit m_page->taskPaused();
-    const qint16 before = g_scope_data_ui->voltageSamples[0][150];
+    holdRun(*m_page);
+    const qint16 before = m_page->drawn().voltageSamples[0][150];
     press(m_page.get(), F3);
     press(m_page.get(), Right);
-    QVERIFY(g_scope_data_ui->voltageSamples[0][150] != before);
+    QVERIFY(m_page->drawn().voltageSamples[0][150] != before);
 }
 
 void TstScope::cursorShowsTheSampleInVoltsAndAmperes()
 {
     for (int i = 0; i < 4096; ++i) {
         for (int c = 0; c < 4; ++c) {
-            g_scope_data->voltageSamples[c][i] = qint16(1000 * (c + 1));
-            g_scope_data->currentSamples[c][i] = qint16(-2000 * (c + 1));
+            live().scope.voltageSamples[c][i] = qint16(1000 * (c + 1));
+            live().scope.currentSamples[c][i] = qint16(-2000 * (c + 1));
         }
     }
     m_page->updateDisplay(nullptr);
@@ -318,8 +318,8 @@ void TstScope::cursorShowsTheSampleInVoltsAndAmperes()
 void TstScope::withoutCursorTheRmsValuesShow()
 {
     for (int c = 0; c < 4; ++c) {
-        g_scope_data->voltage[c] = 230.5f + c;
-        g_scope_data->current[c] = 1.25f + c;
+        live().scope.voltage[c] = 230.5f + c;
+        live().scope.current[c] = 1.25f + c;
     }
     press(m_page.get(), F3);
     m_page->updateDisplay(nullptr);
@@ -332,8 +332,8 @@ void TstScope::withoutCursorTheRmsValuesShow()
 void TstScope::oneChannelShowsVoltageAndCurrentInTwoRows()
 {
     for (int c = 0; c < 4; ++c) {
-        g_scope_data->voltage[c] = 100.0f + c;
-        g_scope_data->current[c] = 10.0f + c;
+        live().scope.voltage[c] = 100.0f + c;
+        live().scope.current[c] = 10.0f + c;
     }
     press(m_page.get(), F3);
     press(m_page.get(), F1, 4); // L2
@@ -352,13 +352,13 @@ void TstScope::captionsFollowTheWiring()
 {
     QCOMPARE(text(m_page.get(), "D4_Caption"), QStringLiteral("N:"));
     setUpMeasurement(4);
-    m_page->init_parameter();
+    beginRun(*m_page);
     QCOMPARE(text(m_page.get(), "D1_Caption"), QStringLiteral("L12:"));
     QCOMPARE(text(m_page.get(), "D2_Caption"), QStringLiteral("L23:"));
     QCOMPARE(text(m_page.get(), "D3_Caption"), QStringLiteral("L31:"));
     QCOMPARE(text(m_page.get(), "D4_Caption"), QString());
     setUpMeasurement(3);
-    m_page->init_parameter();
+    beginRun(*m_page);
     QCOMPARE(text(m_page.get(), "D1_Caption"), QStringLiteral("L1:"));
     QCOMPARE(text(m_page.get(), "D2_Caption"), QString());
     QCOMPARE(text(m_page.get(), "D4_Caption"), QStringLiteral("N:"));
@@ -374,9 +374,9 @@ void TstScope::captionsHaveTheColoursOfTheCurves()
 void TstScope::holdKeepsSamplesWhileCursorAndZoomWork()
 {
     for (int i = 0; i < 4096; ++i)
-        g_scope_data->voltageSamples[0][i] = qint16(i * 7);
+        live().scope.voltageSamples[0][i] = qint16(i * 7);
     m_page->updateDisplay(nullptr);
-    emit m_page->taskPaused();
+    holdRun(*m_page);
     QCOMPARE(text(m_page.get(), "btn_f5"), QStringLiteral("Run"));
     const QString first = text(m_page.get(), "D1_Value");
     hold(m_page.get(), Right, 8);
@@ -484,14 +484,14 @@ void TstScope::nominalCurrentPeaksAtTheEdgeOfTheGrid()
 
 void TstScope::savedRecordIsInPhysicalUnits()
 {
-    g_scope_data->frequency = 49.5f;
+    live().scope.frequency = 49.5f;
     for (int c = 0; c < 4; ++c) {
-        g_scope_data->voltage[c] = 200.0f + c;
-        g_scope_data->current[c] = 20.0f + c;
+        live().scope.voltage[c] = 200.0f + c;
+        live().scope.current[c] = 20.0f + c;
     }
     for (int i = 0; i < 4096; ++i)
-        g_scope_data->currentSamples[3][i] = 1234;
-    g_scope_data->voltageSamples[0][0] = -321;
+        live().scope.currentSamples[3][i] = 1234;
+    live().scope.voltageSamples[0][0] = -321;
     m_page->updateDisplay(nullptr);
     const QByteArray record = m_page->pqaData();
     QCOMPARE(record.size(), 19236);
@@ -510,11 +510,11 @@ void TstScope::savedRecordIsInPhysicalUnits()
 
 void TstScope::withoutLockTheFrequencyIsGrey()
 {
-    g_scope_data->frequency = 50.02f;
+    live().scope.frequency = 50.02f;
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(m_page.get(), "freq"), QStringLiteral("50.02Hz"));
     QCOMPARE(sheet(m_page.get(), "freq"), QStringLiteral("color: #ffffff;"));
-    g_scope_data->frequency = -47.5f;
+    live().scope.frequency = -47.5f;
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(m_page.get(), "freq"), QStringLiteral("47.50Hz"));
     QCOMPARE(sheet(m_page.get(), "freq"), QStringLiteral("color: #808080;"));
@@ -531,7 +531,6 @@ void TstScope::f6StaysHere()
 
 void TstScope::restartForgetsEverything()
 {
-    const __scope_data *record = g_scope_data;
     fillSine(10, 1000);
     m_page->updateDisplay(nullptr);
     press(m_page.get(), F1, 2);
@@ -539,11 +538,9 @@ void TstScope::restartForgetsEverything()
     press(m_page.get(), F3);
     press(m_page.get(), Up, 2);
     press(m_page.get(), Right);
-    emit m_page->taskPaused();
-    m_page->init_parameter();
-    QCOMPARE(static_cast<const __scope_data *>(g_scope_data), record);
-    QCOMPARE(int(g_scope_data->voltageSamples[0][100]), 0);
-    QCOMPARE(int(g_scope_data_ui->voltageSamples[0][100]), 0);
+    holdRun(*m_page);
+    beginRun(*m_page);
+    QCOMPARE(int(m_page->drawn().voltageSamples[0][100]), 0);
     QCOMPARE(m_page->displayMode(), 0);
     QCOMPARE(wave_step, 1);
     QCOMPARE(scope()->cursorPosition(), 1);
@@ -562,28 +559,23 @@ void TstScope::holdLabelFollowsTheTask()
     press(m_page.get(), F5);
     QCOMPARE(paused.count(), 1);
     QCOMPARE(text(m_page.get(), "btn_f5"), QStringLiteral("Hold"));
-    emit m_page->taskPaused();
+    holdRun(*m_page);
     QCOMPARE(text(m_page.get(), "btn_f5"), QStringLiteral("Run"));
     press(m_page.get(), F5);
     QCOMPARE(run.count(), 1);
-    emit m_page->taskContinued();
+    continueRun(*m_page);
     QCOMPARE(text(m_page.get(), "btn_f5"), QStringLiteral("Hold"));
 }
 
-void TstScope::pageLivesWithoutRecords()
+void TstScope::pageLivesBeforeTheFirstStart()
 {
-    const auto data = std::exchange(g_scope_data, nullptr);
-    const auto ui = std::exchange(g_scope_data_ui, nullptr);
-    {
-        ScopePage page;
-        page.updateDisplay(nullptr);
-        page.retranslateUi();
-        for (const FrontKey key : { F1, F2, F3, F4, F5, Left, Right, Up, Down })
-            press(&page, key);
-        QVERIFY(page.pqaData().isEmpty());
-    }
-    g_scope_data = data;
-    g_scope_data_ui = ui;
+    renewLive();
+    ScopePage page(liveData());
+    page.updateDisplay(nullptr);
+    page.retranslateUi();
+    for (const FrontKey key : { F1, F2, F3, F4, F5, Left, Right, Up, Down })
+        press(&page, key);
+    QCOMPARE(page.pqaData().size(), 19236);
 }
 
 void TstScope::longReadingsAndCaptionsFitTheirLabels()
@@ -599,9 +591,9 @@ void TstScope::refreshIsHarmlessWhenRepeated()
 {
     fillSine(10, 5000);
     m_page->updateDisplay(nullptr);
-    const __scope_data_ui first = *g_scope_data_ui;
+    const __scope_data_ui first = m_page->drawn();
     m_page->updateDisplay(nullptr);
-    QCOMPARE(std::memcmp(&first, g_scope_data_ui, sizeof first), 0);
+    QCOMPARE(std::memcmp(&first, &m_page->drawn(), sizeof first), 0);
 }
 
 PAGE_TEST_MAIN(TstScope)

@@ -88,7 +88,7 @@ private slots:
     void wiringDecidesTheCaptions();
     void zoomTextsAreThoseOfTheScope();
     void savedRecordHoldsEveryTransient();
-    void pagesLiveWithoutRecords();
+    void pagesLiveBeforeTheFirstStart();
     void longReadingsAndCaptionsFitTheirLabels();
 
 private:
@@ -116,8 +116,8 @@ void TstTransients::init()
     setUpMeasurement(1);
     if (m_settingConfig_g.getTransThreshold() != 50)
         m_settingConfig_g.setTransThreshold(50);
-    m_page = std::make_unique<trans>();
-    m_page->init_parameter();
+    m_page = std::make_unique<trans>(liveData());
+    beginRun(*m_page);
 }
 
 void TstTransients::cleanup()
@@ -237,8 +237,8 @@ void TstTransients::snapshotOfTheSetUpPageAsksForAName()
 
 void TstTransients::liveVoltagesShowWithRmsOrCursorValues()
 {
-    std::unique_ptr<__trans_data> live(transient(1, 0, 0, 500));
-    *g_trans_data = *live;
+    std::unique_ptr<__trans_data> running(transient(1, 0, 0, 500));
+    live().transient = *running;
     m_page->updateDisplay(nullptr);
     const double volts = 500 * 10.0 / 32768.0 * m_calib_data_g.data().volt[m_settingConfig_g.getVoltIndex()][0];
     QCOMPARE(text(startPage(), "D1_Value"), F_to_Str::number_V(float(volts)));
@@ -285,7 +285,7 @@ void TstTransients::holdLabelFollowsTheTask()
     QSignalSpy spy(m_page.get(), &LivePage::pause);
     press(startPage(), F5);
     QCOMPARE(spy.count(), 1);
-    emit m_page->taskPaused();
+    holdRun(*m_page);
     QCOMPARE(text(startPage(), "btn_f5"), QStringLiteral("Run"));
     QCOMPARE(text(mainPage(), "btn_f5"), QStringLiteral("Start"));
     QCOMPARE(text(viewPage(), "btn_f5"), QStringLiteral("Back"));
@@ -489,7 +489,7 @@ void TstTransients::wildRecordsDoNoHarm()
 void TstTransients::wiringDecidesTheCaptions()
 {
     setUpMeasurement(4);
-    m_page->init_parameter();
+    beginRun(*m_page);
     capture(transient(1, 2));
     m_page->showTransView();
     QCOMPARE(text(viewPage(), "D2_Caption"), QStringLiteral("L23:"));
@@ -541,22 +541,19 @@ void TstTransients::longReadingsAndCaptionsFitTheirLabels()
     QVERIFY(holds(startPage(), QStringLiteral("trans_count"), QStringLiteral("#1000")));
 }
 
-void TstTransients::pagesLiveWithoutRecords()
+void TstTransients::pagesLiveBeforeTheFirstStart()
 {
-    const auto record = std::exchange(g_trans_data, nullptr);
-    {
-        trans page;
-        page.updateDisplay(nullptr);
-        page.hasTransEvents();
-        page.retranslateUi();
-        for (const FrontKey key : { F1, F2, F3, F4, Left, Right, Up, Down }) {
-            press(page.findChild<TransMain *>(), key);
-            press(page.findChild<TranStart *>(), key);
-            press(page.findChild<TransView *>(), key);
-        }
-        QCOMPARE(page.pqaData().size(), 8);
+    renewLive();
+    trans page(liveData());
+    page.updateDisplay(nullptr);
+    page.hasTransEvents();
+    page.retranslateUi();
+    for (const FrontKey key : { F1, F2, F3, F4, Left, Right, Up, Down }) {
+        press(page.findChild<TransMain *>(), key);
+        press(page.findChild<TranStart *>(), key);
+        press(page.findChild<TransView *>(), key);
     }
-    g_trans_data = record;
+    QCOMPARE(page.pqaData().size(), 8);
 }
 
 PAGE_TEST_MAIN(TstTransients)

@@ -27,9 +27,9 @@ private slots:
     void fieldsOfMissingPhasesStayEmpty_data();
     void fieldsOfMissingPhasesStayEmpty();
     void lostFrequencyIsGreyAndPositive();
-    void recordKeepsItsAddressAndIsEmptiedByEachStart();
+    void eachStartShowsEmptyRecords();
     void savedRecordIsTheLiveOne();
-    void pagesLiveWithoutARecord();
+    void pagesLiveBeforeTheFirstStart();
     void f4OpensThePhasorsRefreshedAndLeadsBack();
 
     void selectorRunsByTheWiringAndWraps_data();
@@ -49,36 +49,33 @@ private:
     static bool hasColor(const QImage &image, const QColor &color);
 
     std::unique_ptr<unbalan> m_page;
-    __vif_data m_live;
 };
 
 void TstUnbalance::start(int joinMode)
 {
     setUpMeasurement(joinMode);
-    m_page->init_parameter();
-    *g_unbalance_data = { 50,
-                          1.5f,
-                          2.25f,
-                          3.5f,
-                          4.75f,
-                          { 230, 231, 232, 3 },
-                          { 10, 11, 12, 1 },
-                          { 0, -120, -240, -10 },
-                          { -30, -150, -270, -20 },
-                          { 30, 31.5f, 32, 33 } };
+    beginRun(*m_page);
+    for (int c = 0; c < 4; ++c) {
+        live().vif.voltage[c] = 240.0f + float(c);
+        live().vif.current[c] = 20.0f + float(c);
+    }
+    live().vif.frequency = 50;
+    live().unbalance = { 50,
+                         1.5f,
+                         2.25f,
+                         3.5f,
+                         4.75f,
+                         { 230, 231, 232, 3 },
+                         { 10, 11, 12, 1 },
+                         { 0, -120, -240, -10 },
+                         { -30, -150, -270, -20 },
+                         { 30, 31.5f, 32, 33 } };
     m_page->updateDisplay(nullptr);
 }
 
 void TstUnbalance::init()
 {
-    m_live = {};
-    for (int c = 0; c < 4; ++c) {
-        m_live.voltage[c] = 240.0f + float(c);
-        m_live.current[c] = 20.0f + float(c);
-    }
-    m_live.frequency = 50;
-    g_vif_data = &m_live;
-    m_page = std::make_unique<unbalan>();
+    m_page = std::make_unique<unbalan>(liveData());
     start(1);
 }
 
@@ -141,24 +138,23 @@ void TstUnbalance::fieldsOfMissingPhasesStayEmpty()
 
 void TstUnbalance::lostFrequencyIsGreyAndPositive()
 {
-    m_live.frequency = -49.5f;
-    g_unbalance_data->frequency = 49.5f; // the record keeps the magnitude
+    live().vif.frequency = -49.5f;
+    live().unbalance.frequency = 49.5f; // the record keeps the magnitude
     m_page->updateDisplay(nullptr);
     for (const QWidget *page : { static_cast<QWidget *>(mainPage()), static_cast<QWidget *>(vectorPage()) }) {
         QCOMPARE(text(page, "freq_v"), QStringLiteral("49.50Hz"));
         QCOMPARE(sheet(page, "freq_v"), QStringLiteral("color: #808080;"));
     }
-    m_live.frequency = 50;
+    live().vif.frequency = 50;
     m_page->updateDisplay(nullptr);
     QCOMPARE(sheet(mainPage(), "freq_v"), QStringLiteral("color: #ffffff;"));
 }
 
-void TstUnbalance::recordKeepsItsAddressAndIsEmptiedByEachStart()
+void TstUnbalance::eachStartShowsEmptyRecords()
 {
-    const __unbalance_data *record = g_unbalance_data;
-    m_page->init_parameter();
-    QCOMPARE(static_cast<const __unbalance_data *>(g_unbalance_data), record);
-    QCOMPARE(g_unbalance_data->voltageFundamental[0], 0.0f);
+    QCOMPARE(text(mainPage(), "Uf_L1"), QStringLiteral("230.00"));
+    beginRun(*m_page);
+    QCOMPARE(text(mainPage(), "Uf_L1"), QStringLiteral("0.00"));
 }
 
 void TstUnbalance::savedRecordIsTheLiveOne()
@@ -173,26 +169,21 @@ void TstUnbalance::savedRecordIsTheLiveOne()
     QCOMPARE(word[24], 33.0f);
 }
 
-void TstUnbalance::pagesLiveWithoutARecord()
+void TstUnbalance::pagesLiveBeforeTheFirstStart()
 {
-    __unbalance_data *kept = g_unbalance_data;
-    g_unbalance_data = nullptr;
-    g_vif_data = nullptr;
-    {
-        unbalan page;
-        page.updateDisplay(nullptr);
-        page.retranslateUi();
-        page.showUnbalanVector();
-        press(page.findChild<UnbalVectorPage *>(), F1, 6);
-        QVERIFY(page.pqaData().isEmpty());
-    }
-    g_unbalance_data = kept;
+    renewLive();
+    unbalan page(liveData());
+    page.updateDisplay(nullptr);
+    page.retranslateUi();
+    page.showUnbalanVector();
+    press(page.findChild<UnbalVectorPage *>(), F1, 6);
+    QCOMPARE(page.pqaData().size(), 100);
 }
 
 void TstUnbalance::f4OpensThePhasorsRefreshedAndLeadsBack()
 {
     QCOMPARE(text(mainPage(), "btn_f4"), QStringLiteral("Vector"));
-    g_unbalance_data->voltageFundamental[0] = 100;
+    live().unbalance.voltageFundamental[0] = 100;
     press(mainPage(), F4);
     QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(vectorPage()));
     QCOMPARE(text(vectorPage(), "v1_v"), QStringLiteral("100.00"));
@@ -302,10 +293,10 @@ void TstUnbalance::wildRecordIsShown()
 {
     for (float value : { std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(), 1e30f }) {
         for (int c = 0; c < 4; ++c) {
-            g_unbalance_data->voltageAngle[c] = g_unbalance_data->currentAngle[c] = value;
-            g_unbalance_data->voltageFundamental[c] = value;
+            live().unbalance.voltageAngle[c] = live().unbalance.currentAngle[c] = value;
+            live().unbalance.voltageFundamental[c] = value;
         }
-        g_unbalance_data->frequency = value;
+        live().unbalance.frequency = value;
         for (int i = 0; i < 5; ++i) {
             press(vectorPage(), F1);
             m_page->updateDisplay(nullptr);

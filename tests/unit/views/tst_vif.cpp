@@ -31,7 +31,7 @@ class TstVif : public QObject
 private slots:
     void init();
 
-    void recordKeepsItsAddressOverAnyNumberOfStarts();
+    void eachStartShowsEmptyRecords();
     void startShowsTheNominalFrequency();
     void showsOnlyTheChannelsOfTheWiring_data();
     void showsOnlyTheChannelsOfTheWiring();
@@ -39,7 +39,7 @@ private slots:
     void aWiringOutsideTheTableLeavesTheFieldsUntouched();
     void tableShowsEveryQuantityWithItsFormat();
     void longReadingsAndCaptionsFitTheirLabels();
-    void pagesLiveWithoutARecord();
+    void pagesLiveBeforeTheFirstStart();
     void negativeFrequencyIsShownGreyAndPositive();
     void f4OpensTheTrendAndLeadsBack();
     void f5AsksToPauseAndMovesOnlyOnTheAnswer();
@@ -72,26 +72,24 @@ private:
 void TstVif::init()
 {
     m_settingConfig_g.setJoinMode(1);
-    m_page = std::make_unique<VifPage>();
-    m_page->init_parameter();
+    m_page = std::make_unique<VifPage>(liveData());
+    beginRun(*m_page);
 }
 
-void TstVif::recordKeepsItsAddressOverAnyNumberOfStarts()
+void TstVif::eachStartShowsEmptyRecords()
 {
-    const __vif_data *record = g_vif_data;
-    QVERIFY(record);
-    g_vif_data->trend[0].series[0].append(1.0f);
-    g_vif_data->voltage[2] = 5;
-    for (int i = 0; i < 5; ++i)
-        m_page->init_parameter();
-    QCOMPARE(static_cast<const __vif_data *>(g_vif_data), record);
-    QVERIFY(g_vif_data->trend[0].series[0].isEmpty());
-    QCOMPARE(g_vif_data->voltage[2], 0.0f);
+    live().vif.trend[0].series[0].append(1.0f);
+    live().vif.voltage[2] = 5;
+    m_page->updateDisplay(nullptr);
+    QCOMPARE(text(mainPage(), "Urms_L3"), QStringLiteral("5.00"));
+    beginRun(*m_page);
+    QCOMPARE(text(mainPage(), "Urms_L3"), QStringLiteral("0.00"));
+    QCOMPARE(text(trendPage(), "D3_Value"), QStringLiteral("0.00"));
 }
 
 void TstVif::startShowsTheNominalFrequency()
 {
-    QCOMPARE(g_vif_data->frequency, 50.0f);
+    QCOMPARE(live().vif.frequency, 50.0f);
     QCOMPARE(text(mainPage(), "freq"), QStringLiteral("50.00Hz"));
     QCOMPARE(text(mainPage(), "freq_t"), QStringLiteral("Freq ="));
 }
@@ -121,7 +119,7 @@ void TstVif::showsOnlyTheChannelsOfTheWiring()
     // Values of a fuller wiring must not stay behind.
     m_page->updateDisplay(nullptr);
     m_settingConfig_g.setJoinMode(joinMode);
-    m_page->init_parameter();
+    beginRun(*m_page);
     m_page->updateDisplay(nullptr);
     for (int c = 0; c < 4; ++c) {
         QCOMPARE(text(mainPage(), QStringLiteral("header_%1").arg(c + 1)), headers[c]);
@@ -135,12 +133,12 @@ void TstVif::showsOnlyTheChannelsOfTheWiring()
 void TstVif::singlePhaseWithoutNeutralFillsOnlyTheFirstColumnOfTableAndTrend()
 {
     for (int c = 0; c < 4; ++c)
-        g_vif_data->voltage[c] = 100.0f + c;
+        live().vif.voltage[c] = 100.0f + c;
     m_page->updateDisplay(nullptr); // all four columns of the wiring before
     m_settingConfig_g.setJoinMode(6);
-    m_page->init_parameter();
+    beginRun(*m_page);
     for (int c = 0; c < 4; ++c)
-        g_vif_data->voltage[c] = 100.0f + c;
+        live().vif.voltage[c] = 100.0f + c;
     m_page->updateDisplay(nullptr);
     const QStringList values { "100.00", "", "", "" };
     const QStringList captions { "L12:", "", "", "" };
@@ -155,10 +153,10 @@ void TstVif::singlePhaseWithoutNeutralFillsOnlyTheFirstColumnOfTableAndTrend()
 
 void TstVif::aWiringOutsideTheTableLeavesTheFieldsUntouched()
 {
-    g_vif_data->voltage[0] = 230.0f;
+    live().vif.voltage[0] = 230.0f;
     m_page->updateDisplay(nullptr);
     m_settingConfig_g.setJoinMode(11);
-    m_page->init_parameter();
+    beginRun(*m_page);
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(mainPage(), "header_1"), QStringLiteral("L1"));
     QCOMPARE(text(mainPage(), "header_4"), QStringLiteral("N"));
@@ -168,14 +166,14 @@ void TstVif::aWiringOutsideTheTableLeavesTheFieldsUntouched()
 void TstVif::tableShowsEveryQuantityWithItsFormat()
 {
     for (int c = 0; c < 4; ++c) {
-        g_vif_data->voltage[c] = 230.04f + c;
-        g_vif_data->voltagePeak[c] = 325.0f + c;
-        g_vif_data->voltageCrest[c] = 1.414f;
-        g_vif_data->current[c] = 1.5f + c;
-        g_vif_data->currentPeak[c] = 2.5f + c;
-        g_vif_data->currentCrest[c] = std::numeric_limits<float>::quiet_NaN();
+        live().vif.voltage[c] = 230.04f + c;
+        live().vif.voltagePeak[c] = 325.0f + c;
+        live().vif.voltageCrest[c] = 1.414f;
+        live().vif.current[c] = 1.5f + c;
+        live().vif.currentPeak[c] = 2.5f + c;
+        live().vif.currentCrest[c] = std::numeric_limits<float>::quiet_NaN();
     }
-    g_vif_data->frequency = 49.987f;
+    live().vif.frequency = 49.987f;
     m_page->updateDisplay(nullptr);
     // 79.25 V a unit resolves 79.25 * 10 / 65536 = 0.0121 V: two decimals are worth showing.
     QCOMPARE(text(mainPage(), "Urms_L2"), QStringLiteral("231.04"));
@@ -206,26 +204,24 @@ void TstVif::longReadingsAndCaptionsFitTheirLabels()
     }
 }
 
-void TstVif::pagesLiveWithoutARecord()
+void TstVif::pagesLiveBeforeTheFirstStart()
 {
-    __vif_data *kept = g_vif_data;
-    g_vif_data = nullptr;
-    VifPage page;
+    renewLive();
+    VifPage page(liveData());
     page.updateDisplay(nullptr);
     page.retranslateUi();
-    QVERIFY(page.pqaData().isEmpty());
+    QCOMPARE(page.pqaData().size(), 60136);
     press(page.findChild<VifTrendPage *>(), F1);
-    g_vif_data = kept;
 }
 
 void TstVif::negativeFrequencyIsShownGreyAndPositive()
 {
     auto *label = mainPage()->findChild<QLabel *>("freq");
-    g_vif_data->frequency = -49.5f;
+    live().vif.frequency = -49.5f;
     m_page->updateDisplay(nullptr);
     QCOMPARE(label->text(), QStringLiteral("49.50Hz"));
     QCOMPARE(label->styleSheet(), QStringLiteral("color: #808080;"));
-    g_vif_data->frequency = 50.0f;
+    live().vif.frequency = 50.0f;
     m_page->updateDisplay(nullptr);
     QCOMPARE(label->styleSheet(), QStringLiteral("color: #ffffff;"));
 }
@@ -253,12 +249,12 @@ void TstVif::f5AsksToPauseAndMovesOnlyOnTheAnswer()
     QCOMPARE(text(mainPage(), "btn_f5"), QStringLiteral("Hold"));
     QVERIFY(mainPage()->isRunning());
 
-    emit m_page->taskPaused();
+    holdRun(*m_page);
     QCOMPARE(text(mainPage(), "btn_f5"), QStringLiteral("Run"));
     QCOMPARE(text(trendPage(), "btn_f5"), QStringLiteral("Run"));
     press(trendPage(), F5);
     QCOMPARE(run.count(), 1);
-    emit m_page->taskContinued();
+    continueRun(*m_page);
     QCOMPARE(text(trendPage(), "btn_f5"), QStringLiteral("Hold"));
 }
 
@@ -345,7 +341,7 @@ void TstVif::trendFlagsFollowTheWiringAndTheFrequencyIsSingle()
     auto *chart = static_cast<VifTrendChart *>(trendPage()->findChild<QWidget *>("trend"));
     for (int mode = 1; mode <= 10; ++mode) {
         m_settingConfig_g.setJoinMode(mode);
-        m_page->init_parameter();
+        beginRun(*m_page);
         QCOMPARE(chart->flags(), flags[mode - 1]);
     }
     for (int i = 0; i < 8; ++i)
@@ -358,16 +354,16 @@ void TstVif::trendFlagsFollowTheWiringAndTheFrequencyIsSingle()
 void TstVif::trendValuesUseTheChannelsOfTheWiring()
 {
     m_settingConfig_g.setJoinMode(5);
-    m_page->init_parameter();
+    beginRun(*m_page);
     for (int c = 0; c < 4; ++c)
-        g_vif_data->voltage[c] = 100.0f + c;
+        live().vif.voltage[c] = 100.0f + c;
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(trendPage(), "D1_Caption"), QStringLiteral("L1:"));
     QCOMPARE(text(trendPage(), "D2_Value"), QStringLiteral("101.00"));
     QCOMPARE(text(trendPage(), "D3_Caption"), QString());
     QCOMPARE(text(trendPage(), "D3_Value"), QString());
     QCOMPARE(text(trendPage(), "D4_Caption"), QStringLiteral("N:"));
-    g_vif_data->frequency = -50.02f;
+    live().vif.frequency = -50.02f;
     for (int i = 0; i < 8; ++i)
         press(trendPage(), F1);
     QCOMPARE(text(trendPage(), "D1_Value"), QStringLiteral("50.02"));
@@ -387,15 +383,15 @@ void TstVif::stopWatchReachesAllSubPages()
 
 void TstVif::savedRecordHoldsValuesAndSeries()
 {
-    g_vif_data->currentCrest[3] = 1.5f; // word 31
-    g_vif_data->frequency = 50.5f; // word 32
+    live().vif.currentCrest[3] = 1.5f; // word 31
+    live().vif.frequency = 50.5f; // word 32
     for (int c = 0; c < 4; ++c) {
         for (int i = 0; i < 10 + c; ++i) {
-            g_vif_data->trend[VifTrendURms].series[c].append(float(100 * c + i));
-            g_vif_data->trend[VifTrendICrest].series[c].append(float(1000 * c + i));
+            live().vif.trend[VifTrendURms].series[c].append(float(100 * c + i));
+            live().vif.trend[VifTrendICrest].series[c].append(float(1000 * c + i));
         }
     }
-    g_vif_data->trend[VifTrendFrequency].series[0].append(49.0f);
+    live().vif.trend[VifTrendFrequency].series[0].append(49.0f);
     const QByteArray bytes = m_page->pqaData();
     QCOMPARE(bytes.size(), 60136);
     const auto word = [&bytes](int index) {
@@ -454,10 +450,10 @@ void TstVif::scalingRoundsOutwardToTens()
     record.series[2] = { 245.0f };
     record.series[3] = { -3.0f, 3.0f };
     const TrendScaler::Picture picture = TrendScaler::scale(record, 0.1);
-    QCOMPARE(record.max[0], 250.0f);
-    QCOMPARE(record.min[0], 220.0f);
-    QCOMPARE(record.max[1], 10.0f);
-    QCOMPARE(record.min[1], -10.0f);
+    QCOMPARE(picture.max[0], 250.0f);
+    QCOMPARE(picture.min[0], 220.0f);
+    QCOMPARE(picture.max[1], 10.0f);
+    QCOMPARE(picture.min[1], -10.0f);
     QCOMPARE(picture.upper[0], QStringLiteral("25")); // labels carry the display scale
     QCOMPARE(picture.lower[0], QStringLiteral("22"));
     // (1 - (221 - 220) / 30) * 75 = 72.5 and (1 - 19 / 30) * 75 = 27.5
@@ -470,13 +466,13 @@ void TstVif::anInputThatTheWiringDoesNotHaveLeavesTheScaleAlone()
     QFETCH(int, joinMode);
     QFETCH(int, flags);
     setUpMeasurement(joinMode);
-    m_page->init_parameter();
+    beginRun(*m_page);
     QWidget *chart = named<QWidget>(trendPage(), "trend");
     chart->resize(609, 317);
     // Whatever the inputs that are not connected pick up, the picture is that of the wiring's own.
     const auto picture = [&](float open) {
         for (int c = 0; c < kChannels; ++c)
-            g_vif_data->trend[VifTrendURms].series[c] = { 231.0f, flags >> c & 1 ? 238.0f : open, 233.0f };
+            live().vif.trend[VifTrendURms].series[c] = { 231.0f, flags >> c & 1 ? 238.0f : open, 233.0f };
         m_page->updateDisplay(nullptr);
         return chart->grab().toImage();
     };

@@ -1,6 +1,7 @@
-#include "views/powerinverter/inverterfeed.h"
+#include "task/inverterfeed.h"
 
-#include "widgets/text/f_to_str.h"
+#include "device/cleanvalue.h"
+#include "task/displayfeed.h"
 
 #include <cmath>
 
@@ -16,9 +17,7 @@ constexpr int kTotal = 3; // row of the sum of the phases
 
 void append(QList<float> &series, float value)
 {
-    while (series.size() >= kTrendPoints)
-        series.removeFirst();
-    series.append(value);
+    DisplayFeed::appendLimited(series, value, kTrendPoints);
 }
 
 } // namespace
@@ -30,8 +29,8 @@ int outputMask(int channelMask, bool single)
 
 void feed(const __vif_data &live, const __power_data &power, bool single, int outputs, __pi_data &to)
 {
-    to.inputVoltage = F_to_Str::clean(live.voltageOffset[kDirect]);
-    to.inputCurrent = F_to_Str::clean(live.currentOffset[kDirect]);
+    to.inputVoltage = SafeMath::cleaned(live.voltageOffset[kDirect]);
+    to.inputCurrent = SafeMath::cleaned(live.currentOffset[kDirect]);
     to.inputPower = to.inputVoltage * to.inputCurrent;
     for (int p = 0; p < kPhases; ++p) {
         const bool shown = outputs >> p & 1;
@@ -40,8 +39,8 @@ void feed(const __vif_data &live, const __power_data &power, bool single, int ou
         to.outputPower[p] = shown ? power.row[p].active : 0;
     }
     // The total row knows how the wiring adds up, also where the phases have no power of their own.
-    const float output = F_to_Str::clean(single ? power.row[0].active : power.row[kTotal].active);
-    const float ratio = F_to_Str::div_sn(output, to.inputPower) * 100.0f;
+    const float output = SafeMath::cleaned(single ? power.row[0].active : power.row[kTotal].active);
+    const float ratio = SafeMath::div_sn(output, to.inputPower) * 100.0f;
     to.efficiency = std::isfinite(ratio) ? ratio : 0;
     to.frequency = live.frequency;
 }

@@ -1,0 +1,28 @@
+#include "model/livedata.h"
+
+namespace {
+
+constexpr int kFundamental = 2;
+
+} // namespace
+
+void LiveData::empty(float nominalFrequency)
+{
+    m_held.reset();
+    m_live = DisplayRecords();
+    m_live.vif.frequency = nominalFrequency;
+    m_live.harmonics.reference = kFundamental;
+}
+
+void LiveData::hold()
+{
+    if (!m_held)
+        m_held.emplace(m_live);
+}
+
+void LiveData::setHarmonicReference(int reference)
+{
+    m_live.harmonics.reference = reference;
+    if (m_held)
+        m_held->harmonics.reference = reference;
+}
