@@ -40,6 +40,7 @@ Pqa2FF::~Pqa2FF()
 int Pqa2FF::open(const QString &path)
 {
     close();
+    m_part = 1;
     m_path = path;
     return open();
 }
@@ -54,10 +55,19 @@ int Pqa2FF::open()
     if (m_path.isEmpty())
         return 0;
     close();
+    m_path = m_part > 1 ? m_firstPath : m_path;
+    m_part = 1;
+    return begin();
+}
+
+/// Starts the file of m_path anew.
+bool Pqa2FF::begin()
+{
     m_last.clear();
     m_end = 0;
+    m_full = false;
     if (m_device->freeSize() < kRoomToOpen || !m_device->open(m_path))
-        return 0;
+        return false;
     m_open = true;
     const bool begun = initFileHeader() && addDataBlock(Pqa2InstrumentInfo, getInstrumentInfo().toLatin1()) == 0
         && addDataBlock(Pqa2SystemSetting, getSystemSetting().toLatin1()) == 0
@@ -65,6 +75,21 @@ int Pqa2FF::open()
     if (!begun)
         close();
     return begun;
+}
+
+void Pqa2FF::continueInParts(std::function<void(Pqa2FF &)> begin)
+{
+    m_continues = true;
+    m_beginPart = std::move(begin);
+}
+
+QString Pqa2FF::partPath(const QString &path, int part)
+{
+    if (part <= 1)
+        return path;
+    const QString suffix = QFileInfo(path).suffix();
+    const QString dotted = suffix.isEmpty() ? suffix : QLatin1Char('.') + suffix;
+    return QStringLiteral("%1_%2%3").arg(path.left(path.size() - dotted.size())).arg(part).arg(dotted);
 }
 
 bool Pqa2FF::initFileHeader()
@@ -141,11 +166,36 @@ int Pqa2FF::appendBlock(quint32 type, const char *data, qint64 size)
         return 0;
     if (size < 0 || size > kMostPayload || (size > 0 && !data) || m_device->freeSize() < kRoomToWrite)
         return -1;
+    const qint64 whole = qint64(sizeof(Pqa2BlockHead)) + alignedUp(size);
+    if (m_end + whole >= qint64(kPqa2LastBlock)) { // no link could tell where the next block starts
+        m_full = true;
+        if (!m_continues || !beginNextPart())
+            return -1;
+    }
+    return storeBlock(type, data, size);
+}
+
+/// The next file takes the place of this one. Without room for it this one stays open.
+bool Pqa2FF::beginNextPart()
+{
+    if (m_device->freeSize() < kRoomToOpen)
+        return false;
+    close();
+    m_firstPath = m_part > 1 ? m_firstPath : m_path;
+    m_path = partPath(m_firstPath, ++m_part);
+    if (!begin()) {
+        m_full = true;
+        return false;
+    }
+    if (m_beginPart)
+        m_beginPart(*this);
+    return m_open;
+}
+
+int Pqa2FF::storeBlock(quint32 type, const char *data, qint64 size)
+{
     const qint64 start = m_end;
     const qint64 whole = qint64(sizeof(Pqa2BlockHead)) + alignedUp(size);
-    if (start + whole >= qint64(kPqa2LastBlock)) // no link could tell where the next block starts
-        return -1;
-
     const Pqa2BlockHead head = { kPqa2LastBlock, type, quint32(size) };
     m_buffer.resize(int(whole));
     std::memcpy(m_buffer.data(), &head, sizeof head);

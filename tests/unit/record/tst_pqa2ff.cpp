@@ -3,7 +3,7 @@
 #include "platform/clock.h"
 #include "platform/target.h"
 #include "record/pqa2info.h"
-#include "pqa2reader.h"
+#include "readblocks.h"
 #include "unit/documentpage.h"
 
 #include <QFile>
@@ -49,9 +49,6 @@ private slots:
     void tornTailThatCannotBeCutIsOverwritten();
     void processKilledAtEveryCallLeavesWholeBlocks();
     void offsetsReachUpToTheLastLink();
-    void millionBlocksAreWalked();
-    void readerStopsAtDamage_data();
-    void readerStopsAtDamage();
 };
 
 namespace {
@@ -569,52 +566,6 @@ void TstPqa2FF::offsetsReachUpToTheLastLink()
     QCOMPARE(fake.file->addDataBlock(Pqa2DBType(0x5002), QByteArray(16, 'x')), 0);
     QCOMPARE(fake.state.writes.constLast().second, QByteArray::fromHex("e0ffffff"));
     QCOMPARE(fake.file->addBlankBlock(), -1);
-}
-
-void TstPqa2FF::millionBlocksAreWalked()
-{
-    constexpr int kBlocks = 1'000'000;
-    const QString path = QStringLiteral("/mnt/storage/million.pqa2");
-    QFile file(Target::path(path));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QByteArray bytes(reinterpret_cast<const char *>(&kPqa2FileHeader), int(sizeof kPqa2FileHeader));
-    bytes.reserve(bytes.size() + 12 * kBlocks);
-    for (int n = 0; n < kBlocks; ++n) {
-        const Pqa2BlockHead head = { n + 1 < kBlocks ? quint32(24 + 12 * (n + 1)) : kPqa2LastBlock, quint32(n), 0 };
-        bytes.append(reinterpret_cast<const char *>(&head), int(sizeof head));
-    }
-    file.write(bytes);
-    file.close();
-    const QList<ReadBlock> blocks = readBlocks(fileBytes(path));
-    QCOMPARE(blocks.size(), kBlocks);
-    QCOMPARE(blocks.constLast().type, quint32(kBlocks - 1));
-    QFile::remove(Target::path(path));
-}
-
-void TstPqa2FF::readerStopsAtDamage_data()
-{
-    QTest::addColumn<int>("at"); // place in the second block's head
-    QTest::addColumn<quint32>("word");
-    QTest::addColumn<int>("blocks");
-    QTest::newRow("link to itself") << 0 << 0u << 2;
-    QTest::newRow("link backwards") << 0 << 24u << 2;
-    QTest::newRow("link beyond the end") << 0 << 0xFFFFFF00u << 2;
-    QTest::newRow("link not aligned") << 0 << 1001u << 2;
-    QTest::newRow("size beyond the end") << 8 << 0x7FFFFFFFu << 1;
-    QTest::newRow("largest size") << 8 << 0xFFFFFFFFu << 1;
-}
-
-void TstPqa2FF::readerStopsAtDamage()
-{
-    QFETCH(int, at);
-    QFETCH(quint32, word);
-    QFETCH(int, blocks);
-    Fake fake;
-    QVERIFY(fake.open());
-    QByteArray bytes = fake.state.content;
-    const int second = int(readBlocks(bytes).at(1).offset);
-    bytes.replace(second + at, 4, QByteArray(reinterpret_cast<const char *>(&word), 4));
-    QCOMPARE(readBlocks(bytes).size(), blocks);
 }
 
 QTEST_GUILESS_MAIN(TstPqa2FF)

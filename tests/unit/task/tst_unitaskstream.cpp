@@ -3,7 +3,7 @@
 #include "settings/recordinfo.h"
 #include "platform/target.h"
 #include "record/pqa2ff.h"
-#include "unit/record/pqa2reader.h"
+#include "unit/record/readblocks.h"
 #include "unitaskcase.h"
 
 #include <QFile>
