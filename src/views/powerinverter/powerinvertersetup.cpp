@@ -1,49 +1,30 @@
 #include "views/powerinverter/powerinvertersetup.h"
-#include "ui_powerinvertersetup.h"
 
 #include "task/inverterfeed.h"
-#include "widgets/controls/labellook.h"
+
+namespace {
+enum { SinglePhase, ThreePhase };
+}
 
 PowerInverterSetup::PowerInverterSetup(QWidget *parent)
-    : LivePage(UI_POWER_INVERTER, parent), m_ui(new Ui::PowerInverterSetup)
+    : ChoicePage(UI_POWER_INVERTER, OneOf,
+                 { QT_TRANSLATE_NOOP("PowerInverterSetup", "Power Inverter"), 240, 160, 60, 220 }, parent)
 {
+    static const Choice choices[] = {
+        { "phase1", QT_TRANSLATE_NOOP("PowerInverterSetup", "1-Phase") },
+        { "phase3", QT_TRANSLATE_NOOP("PowerInverterSetup", "3-Phase") },
+    };
     static const KeyRow<PowerInverterSetup> keys[] = {
-        { Qt::Key_Up, nullptr, &PowerInverterSetup::chooseSingle },
-        { Qt::Key_Down, nullptr, &PowerInverterSetup::chooseThree },
         { Qt::Key_F5, QT_TRANSLATE_NOOP("PowerInverterSetup", "Start"), &PowerInverterSetup::start },
     };
-    m_ui->setupUi(this);
-    LabelLook::dress(this);
-    for (QWidget *button : { m_ui->phase1, m_ui->phase3 })
-        button->setFocusPolicy(Qt::NoFocus);
-    m_ui->phase3->setChecked(true);
+    setChoices(choices);
+    setChosen(ThreePhase);
     setKeys(keys);
 }
 
-PowerInverterSetup::~PowerInverterSetup() = default;
-
-void PowerInverterSetup::init_parameter()
+void PowerInverterSetup::load()
 {
-    LivePage::init_parameter();
-    (singleOrThree ? m_ui->phase1 : m_ui->phase3)->setChecked(true);
-}
-
-void PowerInverterSetup::retranslateUi()
-{
-    LivePage::retranslateUi();
-    setText(m_ui->title, tr("Power Inverter"));
-    m_ui->phase1->setText(tr("1-Phase"));
-    m_ui->phase3->setText(tr("3-Phase"));
-}
-
-void PowerInverterSetup::chooseSingle()
-{
-    m_ui->phase1->setChecked(true);
-}
-
-void PowerInverterSetup::chooseThree()
-{
-    m_ui->phase3->setChecked(true);
+    setChosen(singleOrThree ? SinglePhase : ThreePhase);
 }
 
 void PowerInverterSetup::start()
@@ -55,7 +36,7 @@ void PowerInverterSetup::start()
 
 void PowerInverterSetup::initInverter()
 {
-    singleOrThree = m_ui->phase1->isChecked() ? 1 : 0;
+    singleOrThree = chosen() == SinglePhase ? 1 : 0;
 }
 
 void PowerInverterSetup::startPowerInverter()
