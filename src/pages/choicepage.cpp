@@ -138,24 +138,12 @@ void ChoicePage::showCursor()
                                  m_look.width + 2 * kBarMargin, kHeight);
 }
 
-bool ChoicePage::pressKey(int key)
+std::vector<FrontKeys::Row> ChoicePage::commonKeys()
 {
-    if (hasOwnKey(key))
-        return LivePage::pressKey(key);
-    switch (key) {
-    case Qt::Key_Up:
-        moveCursor(-1);
-        return true;
-    case Qt::Key_Down:
-        moveCursor(1);
-        return true;
-    case Qt::Key_Enter:
-    case Qt::Key_Return:
-        toggle();
-        return true;
-    case Qt::Key_F5:
-        return true; // nothing is held here
-    default:
-        return LivePage::pressKey(key);
-    }
+    return {
+        { Qt::Key_Up, nullptr, [this] { moveCursor(-1); }, {}, 0, {} },
+        { Qt::Key_Down, nullptr, [this] { moveCursor(1); }, {}, 0, {} },
+        { Qt::Key_Enter, nullptr, [this] { toggle(); }, {}, 0, {} },
+        { Qt::Key_F5, nullptr, {}, {}, 0, {} }, // nothing is held here
+    };
 }

@@ -74,8 +74,7 @@ protected:
     void selectAll();
     void invertAll();
 
-    void showHold() override { } // nothing is held here
-    bool pressKey(int key) override;
+    std::vector<FrontKeys::Row> commonKeys() override;
 
 private:
     void addChoice(const Choice &choice);

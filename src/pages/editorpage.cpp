@@ -30,13 +30,10 @@ void EditorPage::Number::move(int steps) const
         write(to);
 }
 
-EditorPage::EditorPage(_quvera_ui_type type, const Look &look, int ticksPerStep, KeyRepeat::Steps steps,
-                       QWidget *parent)
-    : LivePage(type, parent), m_look(look), m_ui(new Ui::EditorForm),
-      m_repeat(new KeyRepeat(this, ticksPerStep, std::move(steps)))
+EditorPage::EditorPage(_quvera_ui_type type, const Look &look, const KeyRepeat::Pace &pace, QWidget *parent)
+    : LivePage(type, parent), m_look(look), m_pace(pace), m_ui(new Ui::EditorForm)
 {
     m_ui->setupUi(this);
-    connect(m_repeat, &KeyRepeat::repeated, this, &EditorPage::changeField);
 }
 
 EditorPage::~EditorPage() = default;
@@ -69,7 +66,7 @@ void EditorPage::setRows(std::vector<Row> rows)
 void EditorPage::init_parameter()
 {
     LivePage::init_parameter();
-    m_repeat->stop();
+    stopRepeat();
     load();
     showRows(); // what they depend on may be another now
 }
@@ -89,14 +86,14 @@ void EditorPage::retranslateUi()
 
 void EditorPage::ok()
 {
-    m_repeat->stop();
+    stopRepeat();
     store();
     emit stored();
 }
 
 void EditorPage::cancel()
 {
-    m_repeat->stop();
+    stopRepeat();
     load();
     showRows();
     emit cancelled();
@@ -109,7 +106,7 @@ bool EditorPage::isEnabled(int row) const
 
 void EditorPage::select(int direction)
 {
-    m_repeat->stop();
+    stopRepeat();
     int field = m_field + direction;
     while (field >= 0 && field < int(m_rows.size()) && !isEnabled(field))
         field += direction;
@@ -151,39 +148,23 @@ void EditorPage::showSelection()
         m_ui->field_bar->move(m_ui->field_bar->x(), m_look.top + m_field * m_look.pitch);
 }
 
-bool EditorPage::pressKey(int key)
+void EditorPage::enterField()
 {
-    if (hasOwnKey(key))
-        return LivePage::pressKey(key);
-    switch (key) {
-    case Qt::Key_Up:
-        selectPrev();
-        return true;
-    case Qt::Key_Down:
-        selectNext();
-        return true;
-    case Qt::Key_Left:
-        m_repeat->start(-1);
-        return true;
-    case Qt::Key_Right:
-        m_repeat->start(1);
-        return true;
-    case Qt::Key_Enter:
-    case Qt::Key_Return:
-        if (!m_rows.empty() && isEnabled(m_field) && m_rows[std::size_t(m_field)].enter) {
-            m_rows[std::size_t(m_field)].enter();
-            showRows();
-        }
-        return true;
-    case Qt::Key_F5:
-        return true; // nothing is held here
-    default:
-        return LivePage::pressKey(key);
-    }
+    if (m_rows.empty() || !isEnabled(m_field) || !m_rows[std::size_t(m_field)].enter)
+        return;
+    m_rows[std::size_t(m_field)].enter();
+    showRows();
 }
 
-void EditorPage::releaseKey(int key)
+std::vector<FrontKeys::Row> EditorPage::commonKeys()
 {
-    if (key == Qt::Key_Left || key == Qt::Key_Right)
-        m_repeat->stop();
+    const auto step = [this](int steps) { changeField(steps); };
+    return {
+        { Qt::Key_Up, nullptr, [this] { selectPrev(); }, {}, 0, {} },
+        { Qt::Key_Down, nullptr, [this] { selectNext(); }, {}, 0, {} },
+        { Qt::Key_Left, nullptr, {}, step, -1, m_pace },
+        { Qt::Key_Right, nullptr, {}, step, 1, m_pace },
+        { Qt::Key_Enter, nullptr, [this] { enterField(); }, {}, 0, {} },
+        { Qt::Key_F5, nullptr, {}, {}, 0, {} }, // nothing is held here
+    };
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "widgets/controls/keyrepeat.h"
 #include "pages/labelgrid.h"
 #include "pages/livepage.h"
 
@@ -66,8 +65,8 @@ protected:
         int top = 70;
         int pitch = 60;
     };
-    /// \a ticksPerStep and \a steps: how the steps of a held key grow.
-    EditorPage(_quvera_ui_type type, const Look &look, int ticksPerStep, KeyRepeat::Steps steps, QWidget *parent);
+    /// \a pace: how the steps of a held key grow.
+    EditorPage(_quvera_ui_type type, const Look &look, const KeyRepeat::Pace &pace, QWidget *parent);
 
     /// To be called once, before setKeys. The page is dressed and shows the first row that can be selected.
     void setRows(std::vector<Row> rows);
@@ -87,22 +86,20 @@ protected:
     void selectNext() { select(1); }
     /// Texts and enabled rows anew; what a key changed is shown by itself.
     void showRows();
-    void showHold() override { } // nothing is held here
-    void stopRepeat() { m_repeat->stop(); }
 
-    bool pressKey(int key) override;
-    void releaseKey(int key) override;
+    std::vector<FrontKeys::Row> commonKeys() override;
 
 private:
     void select(int direction);
     void changeField(int step);
+    void enterField();
     bool isEnabled(int row) const;
     void showEnabled(int row);
     void showSelection();
 
     const Look m_look;
+    const KeyRepeat::Pace m_pace;
     std::unique_ptr<Ui::EditorForm> m_ui;
-    KeyRepeat *m_repeat;
     std::vector<Row> m_rows;
     std::vector<LabelGrid::Row> m_labels; // in the order of the rows
     int m_field = 0;

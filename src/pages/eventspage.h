@@ -1,18 +1,17 @@
 #pragma once
 
 #include "model/pqaeventitem.h"
-#include "pages/livepage.h"
+#include "pages/listpage.h"
 
 #include <memory>
 
 namespace Ui {
 class EventsPage;
 }
-class KeyRepeat;
 
 /// List of a function's events, one line selected, with a counter "3/17". The arrows up and down move the selection,
 /// and go on while they are held; F5 goes back.
-class EventsPage : public LivePage
+class EventsPage : public ListPage
 {
     Q_OBJECT
 
@@ -31,14 +30,11 @@ signals:
     void goBack();
 
 protected:
-    void releaseKey(int key) override;
+    ScrollModel &list() override;
+    void showList() override;
 
 private:
-    void pressUp();
-    void pressDown();
-    void accTimerSlot(int step);
     void showEventsCounts();
 
     std::unique_ptr<Ui::EventsPage> m_ui;
-    KeyRepeat *m_repeat;
 };

@@ -30,8 +30,7 @@ signals:
 protected:
     /// F5 is Hold and Run unless the page's table has another use for it.
     bool pressKey(int key) override;
-    /// What F5 does now, over its key; nothing where the page has its own use for it.
-    virtual void showHold();
+    void showHold();
 
 private:
     bool m_running = true;

@@ -28,6 +28,8 @@ Page::Page(_quvera_ui_type type, QWidget *parent)
 
 void Page::finishKeys(std::vector<FrontKeys::Row> rows)
 {
+    for (FrontKeys::Row &row : commonKeys())
+        rows.push_back(std::move(row));
     m_keys.setRows(std::move(rows));
     retranslateUi();
 }

@@ -68,6 +68,8 @@ protected:
     }
     /// For a page without keys of its own.
     void setNoKeys() { finishKeys({}); }
+    /// Keys that all pages of a kind have; the rows of the page's own table go before them.
+    virtual std::vector<FrontKeys::Row> commonKeys() { return {}; }
     bool hasOwnKey(int key) const { return m_keys.has(key); }
     /// What a held key repeats ends.
     void stopRepeat() { m_keys.stopRepeat(); }

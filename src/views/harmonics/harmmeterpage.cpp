@@ -2,18 +2,14 @@
 #include "ui_harmmeterpage.h"
 
 #include "settings/harmdata.h"
-#include "widgets/controls/keyrepeat.h"
 #include "views/harmonics/harmvalues.h"
 #include "widgets/text/f_to_str.h"
 #include "widgets/controls/labellook.h"
-
-#include <cstdlib>
 
 using namespace HarmValues;
 
 namespace {
 
-constexpr int kTicksPerStep = 3;
 constexpr LabelGrid kGrid = { 150, 114, 106, 24, 40, 16, 134, 20 };
 
 /// Name of a line; "%1" stands for the order.
@@ -41,17 +37,15 @@ int tableLines()
 } // namespace
 
 HarmMeterPage::HarmMeterPage(const LiveData &data, QWidget *parent)
-    : LivePage(UI_HARMONICS, parent), m_data(data), m_ui(new Ui::HarmMeterPage),
-      m_repeat(new KeyRepeat(this, kTicksPerStep))
+    : ListPage(UI_HARMONICS, Pages, { 3, { 1, 5, 10, 20 } }, parent), m_data(data), m_ui(new Ui::HarmMeterPage)
 {
     static const KeyRow<HarmMeterPage> keys[] = {
         { Qt::Key_F3, nullptr, &HarmMeterPage::changeReference },
         { Qt::Key_F4, QT_TRANSLATE_NOOP("HarmMeterPage", "Harmonic"), &HarmMeterPage::goHarmMain },
-        { Qt::Key_Up, nullptr, &HarmMeterPage::pressUp },
-        { Qt::Key_Down, nullptr, &HarmMeterPage::pressDown },
     };
     m_ui->setupUi(this);
-    m_ui->verticalScrollBar->setFocusPolicy(Qt::NoFocus);
+    m_ui->verticalScrollBar->setPageStep(kLines);
+    setScrollBar(m_ui->verticalScrollBar);
     m_headers = kGrid.addHeaders(this, 34, 30, 22);
     for (int i = 0; i < kLines; ++i) {
         const LabelGrid::Row row = kGrid.addChannels(this, QStringLiteral("row%1").arg(i + 1), 66 + i * 48);
@@ -59,7 +53,6 @@ HarmMeterPage::HarmMeterPage(const LiveData &data, QWidget *parent)
         m_cells[i] = row.values;
     }
     LabelLook::dress(this);
-    connect(m_repeat, &KeyRepeat::repeated, this, &HarmMeterPage::scroll);
     setKeys(keys);
 }
 
@@ -67,18 +60,17 @@ HarmMeterPage::~HarmMeterPage() = default;
 
 void HarmMeterPage::init_parameter()
 {
-    LivePage::init_parameter();
-    m_position = 0;
-    m_ui->verticalScrollBar->setRange(0, lastPosition());
-    m_ui->verticalScrollBar->setPageStep(kLines);
+    ListPage::init_parameter();
+    m_list.reset();
+    m_list.setCount(tableLines()); // 404 with 100 orders, 28 at 400 Hz
     initTitle();
-    VerticalScrollBar();
+    refreshList();
     showReference();
 }
 
 void HarmMeterPage::retranslateUi()
 {
-    LivePage::retranslateUi();
+    ListPage::retranslateUi();
     ChannelLabels::showColors(m_headers);
     showNames();
 }
@@ -106,49 +98,8 @@ void HarmMeterPage::showReference()
     m_ui->btn_f3->setBtnFlag(shown().reference);
 }
 
-void HarmMeterPage::pressUp()
+void HarmMeterPage::showList()
 {
-    m_repeat->start(-1);
-}
-
-void HarmMeterPage::pressDown()
-{
-    m_repeat->start(1);
-}
-
-void HarmMeterPage::releaseKey(int key)
-{
-    if (key == Qt::Key_Up || key == Qt::Key_Down)
-        m_repeat->stop();
-}
-
-int HarmMeterPage::lastPosition() const
-{
-    return (tableLines() - 1) / kLines * kLines; // 399 with 100 orders, 21 at 400 Hz
-}
-
-void HarmMeterPage::setScrollBarNext()
-{
-    if (m_position < lastPosition())
-        m_position += kLines;
-}
-
-void HarmMeterPage::setScrollBarPrev()
-{
-    if (m_position > 0)
-        m_position -= kLines;
-}
-
-void HarmMeterPage::scroll(int step)
-{
-    for (int i = 0; i < std::abs(step); ++i)
-        step < 0 ? setScrollBarPrev() : setScrollBarNext();
-    VerticalScrollBar();
-}
-
-void HarmMeterPage::VerticalScrollBar()
-{
-    m_ui->verticalScrollBar->setValue(m_position);
     showNames();
     showCurValue();
 }
@@ -156,11 +107,11 @@ void HarmMeterPage::VerticalScrollBar()
 void HarmMeterPage::showNames()
 {
     for (int i = 0; i < kLines; ++i) {
-        if (m_position + i >= tableLines()) {
+        if (m_list.first() + i >= tableLines()) {
             setText(m_names[i], QString());
             continue;
         }
-        const Line shown = line(m_position + i, HarmData::m_harm_max_numb);
+        const Line shown = line(m_list.first() + i, HarmData::m_harm_max_numb);
         const QString text = tr(name(shown));
         setText(m_names[i], hasOrder(shown) ? text.arg(shown.item.order) : text);
     }
@@ -169,11 +120,11 @@ void HarmMeterPage::showNames()
 void HarmMeterPage::showCurValue()
 {
     for (int i = 0; i < kLines; ++i) {
-        if (m_position + i >= tableLines()) {
+        if (m_list.first() + i >= tableLines()) {
             ChannelLabels::clear(m_cells[i]); // behind the last order
             continue;
         }
-        const Line entry = line(m_position + i, HarmData::m_harm_max_numb);
+        const Line entry = line(m_list.first() + i, HarmData::m_harm_max_numb);
         float values[kChannels];
         for (int c = 0; c < kChannels; ++c)
             values[c] = percent(shown(), entry.quantity, c, entry.item);

@@ -2,7 +2,7 @@
 
 #include "model/livedata.h"
 #include "pages/labelgrid.h"
-#include "pages/livepage.h"
+#include "pages/listpage.h"
 
 #include <array>
 #include <memory>
@@ -10,10 +10,9 @@
 namespace Ui {
 class HarmMeterPage;
 }
-class KeyRepeat;
 
 /// Table of all orders of voltage and current in percent, seven lines at a time.
-class HarmMeterPage : public LivePage
+class HarmMeterPage : public ListPage
 {
     Q_OBJECT
 
@@ -23,7 +22,7 @@ public:
     explicit HarmMeterPage(const LiveData &data, QWidget *parent = nullptr);
     ~HarmMeterPage() override;
 
-    int scrollPosition() const { return m_position; } // first line shown, a multiple of 7
+    int scrollPosition() const { return m_list.first(); } // first line shown, a multiple of 7
 
 public slots:
     void updateDisplay(void *) override;
@@ -36,17 +35,11 @@ signals:
     void changeFlag(int flag);
 
 protected:
-    void releaseKey(int key) override;
+    ScrollModel &list() override { return m_list; }
+    void showList() override;
 
 private:
     void changeReference();
-    void pressUp();
-    void pressDown();
-    void scroll(int step);
-    int lastPosition() const;
-    void setScrollBarNext();
-    void setScrollBarPrev();
-    void VerticalScrollBar();
     void initTitle();
     void showNames();
     void showReference();
@@ -56,9 +49,8 @@ private:
 
     const LiveData &m_data;
     std::unique_ptr<Ui::HarmMeterPage> m_ui;
-    KeyRepeat *m_repeat;
     ChannelLabels::LabelRow m_headers;
     std::array<QLabel *, kLines> m_names {};
     std::array<ChannelLabels::LabelRow, kLines> m_cells {};
-    int m_position = 0;
+    ScrollModel m_list { kLines };
 };

@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr int kTicksPerStep = 3;
 constexpr char kPercent[] = "%1 %";
 constexpr int kLastDuration = 6;
 constexpr double kLeast = 1; // percent
@@ -88,7 +87,7 @@ EditorPage::Number hysteresisNumber()
 } // namespace
 
 InrushMain::InrushMain(QWidget *parent)
-    : EditorPage(UI_INRUSH, { QT_TRANSLATE_NOOP("InrushMain", "Inrush") }, kTicksPerStep, { 1, 5, 10, 20 }, parent)
+    : EditorPage(UI_INRUSH, { QT_TRANSLATE_NOOP("InrushMain", "Inrush") }, { 3, { 1, 5, 10, 20 } }, parent)
 {
     static const KeyRow<InrushMain> keys[] = {
         { Qt::Key_F4, QT_TRANSLATE_NOOP("InrushMain", "Defaults"), &InrushMain::initInrushMain },

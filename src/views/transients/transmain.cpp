@@ -13,8 +13,8 @@ constexpr int kTop = 100; // pixels
 }
 
 TransMain::TransMain(QWidget *parent)
-    : EditorPage(UI_TRANSIENTS, { QT_TRANSLATE_NOOP("TransMain", "Transients"), kTop }, kTicksPerStep,
-                 { 1, 5, 10, 20, 50, 100 }, parent)
+    : EditorPage(UI_TRANSIENTS, { QT_TRANSLATE_NOOP("TransMain", "Transients"), kTop },
+                 { kTicksPerStep, { 1, 5, 10, 20, 50, 100 } }, parent)
 {
     static const KeyRow<TransMain> keys[] = {
         { Qt::Key_F1, nullptr, &TransMain::selectNext },

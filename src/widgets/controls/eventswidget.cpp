@@ -75,55 +75,33 @@ void EventsWidget::eventTypeFilter()
                 m_filtered.append(i);
         }
     }
-    m_count = m_filter == EventsAll ? m_all.size() : m_filtered.size();
-    if (m_first >= m_count)
-        m_first = 0; // the list became shorter than where we stood
-    m_last = std::min(m_first + kRows, m_count);
-    m_row = std::min(m_row, std::max(m_last - m_first - 1, 0));
+    m_scroll.setCount(shownSize());
 }
 
 void EventsWidget::changeEventType(int type)
 {
     m_filter = type;
-    m_first = 0;
-    m_row = 0;
+    m_scroll.reset();
     eventTypeFilter();
     update();
 }
 
 void EventsWidget::selectPrevItem()
 {
-    if (m_row > 0) {
-        --m_row;
-    } else if (m_first > 0) {
-        --m_first;
-        --m_last;
-    }
+    m_scroll.moveLines(-1);
     update();
 }
 
 void EventsWidget::selectNextItem()
 {
-    const int visible = std::min(m_count, kRows);
-    if (m_row == visible)
-        return;
-    if (m_row + 1 == visible) {
-        if (m_last < m_count) {
-            ++m_first;
-            ++m_last;
-        }
-    } else {
-        ++m_row;
-    }
+    m_scroll.moveLines(1);
     update();
 }
 
 void EventsWidget::initEventsCnt()
 {
-    m_row = 0;
-    m_count = 0;
-    m_first = 0;
-    m_last = 0;
+    m_scroll.setCount(0);
+    m_scroll.reset();
     m_all.clear();
     m_filtered.clear();
     update();
@@ -184,8 +162,8 @@ void EventsWidget::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.drawPixmap(0, 0, m_background);
     drawHeader(painter);
-    for (int index = m_first; index < m_last && index < shownSize(); ++index)
-        drawRow(painter, index - m_first, lineTexts(index));
+    for (int index = firstShown(); index < lastShown() && index < shownSize(); ++index)
+        drawRow(painter, index - firstShown(), lineTexts(index));
 }
 
 void EventsWidget::drawHeader(QPainter &painter) const
@@ -200,7 +178,7 @@ void EventsWidget::drawHeader(QPainter &painter) const
 void EventsWidget::drawRow(QPainter &painter, int row, const QStringList &texts) const
 {
     const int top = kFirstRowTop + row * kRowStep;
-    if (row == m_row)
+    if (row == m_scroll.row())
         painter.drawPixmap(3, top, m_bar);
     painter.setPen(Qt::white);
     ChartParts::setFontPixels(painter, 18);

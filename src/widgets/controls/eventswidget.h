@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/pqaeventitem.h"
+#include "widgets/controls/scrollmodel.h"
 
 #include <QCoreApplication>
 #include <QPixmap>
@@ -45,12 +46,14 @@ public:
 
     /// Back to an empty table at its first row.
     void initEventsCnt();
-    void setEventCnt(int count) { m_count = count; }
-    int eventsCnt() const { return m_count; } // lines that pass the filter
+    void setEventCnt(int count) { m_scroll.setCount(count); }
+    int eventsCnt() const { return m_scroll.count(); } // lines that pass the filter
 
-    int firstShown() const { return m_first; }
-    int lastShown() const { return m_last; } // one behind the last line shown
-    int row() const { return m_row; } // selection within the page
+    int firstShown() const { return m_scroll.first(); }
+    int lastShown() const { return m_scroll.end(); } // one behind the last line shown
+    int row() const { return m_scroll.row(); } // selection within the page
+    /// Where the table stands; the widget wants an update() after it was moved.
+    ScrollModel &scroll() { return m_scroll; }
 
     /// Texts of one line of the shown list as painted: time, type, level, duration; empty for a line that is not there.
     QStringList lineTexts(int index) const;
@@ -66,13 +69,10 @@ private:
     void drawHeader(QPainter &painter) const;
     void drawRow(QPainter &painter, int row, const QStringList &texts) const;
 
-    int m_row = 0;
     int m_filter = EventsAll;
-    int m_count = 0;
+    ScrollModel m_scroll { kRows };
     QVector<__event_item> m_all; // lines without the curves
     QVector<int> m_filtered; // places in m_all; unused while all are shown
-    int m_first = 0;
-    int m_last = 0;
     QPixmap m_background; // scaled to the widget
     QPixmap m_bar; // scaled to a row
 };

@@ -15,7 +15,7 @@ namespace {
 class SampleEditor : public EditorPage
 {
 public:
-    SampleEditor() : EditorPage(UI_SETUP, { "Sample" }, 3, { 1, 5, 10, 20 }, nullptr)
+    SampleEditor() : EditorPage(UI_SETUP, { "Sample" }, { 3, { 1, 5, 10, 20 } }, nullptr)
     {
         static const KeyRow<SampleEditor> keys[] = {
             { Qt::Key_F4, "Ok", &SampleEditor::ok },
@@ -211,7 +211,7 @@ void TstEditorPage::f5IsNeverHold()
     class BareEditor : public EditorPage
     {
     public:
-        BareEditor() : EditorPage(UI_SETUP, { "Bare" }, 3, { 1 }, nullptr)
+        BareEditor() : EditorPage(UI_SETUP, { "Bare" }, { 3, { 1 } }, nullptr)
         {
             setRows({});
             setNoKeys();
@@ -242,7 +242,7 @@ namespace {
 class StartEditor : public EditorPage
 {
 public:
-    StartEditor() : EditorPage(UI_LOGGER, { "Start", 50, 50 }, 3, { 1, 5, 10, 20 }, nullptr)
+    StartEditor() : EditorPage(UI_LOGGER, { "Start", 50, 50 }, { 3, { 1, 5, 10, 20 } }, nullptr)
     {
         setRows(start.rows());
         setNoKeys();
