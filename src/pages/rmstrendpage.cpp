@@ -72,12 +72,6 @@ void RmsTrendPage::showEventsCounts(int count)
     setText(m_eventsLabel, QString::number(count));
 }
 
-void RmsTrendPage::updateDisplay(void *)
-{
-    if (isRunning())
-        showTrend();
-}
-
 const RmsTrendPage::Lists &RmsTrendPage::shownLists() const
 {
     const __rms_trend_data &shown = record(m_data.shown());

@@ -32,8 +32,7 @@ public:
     const RmsTrend::Window &window() const { return m_window; }
 
 public slots:
-    /// Redraws; nothing on hold.
-    void updateDisplay(void *) override;
+    void updateDisplay(void *) override { showTrend(); }
     void init_parameter() override;
     void retranslateUi() override;
     /// Prints the number of events beside "EVENTS :".

@@ -196,6 +196,15 @@ void Navigator::go(_quvera_ui_type current, _quvera_ui_type target)
     }
 }
 
+/// The page follows another one in front of a run. What it showed when it was left is of another moment, and on hold no
+/// refresh would come to change that.
+void Navigator::takeFront(_quvera_ui_type current, FunctionPage *page)
+{
+    m_tasks->disconnectDisplay(current);
+    m_tasks->connectDisplay(page->uiType());
+    page->updateDisplay(nullptr);
+}
+
 /// Pages that only read live data: going from one to another never interrupts the measurement.
 void Navigator::showLive(_quvera_ui_type current, _quvera_ui_type target)
 {
@@ -210,8 +219,7 @@ void Navigator::showLive(_quvera_ui_type current, _quvera_ui_type target)
         break;
     case KeepTask:
         leaveCurrent();
-        m_tasks->disconnectDisplay(current);
-        m_tasks->connectDisplay(target);
+        takeFront(current, page);
         break;
     case StayOnPage:
         return;
@@ -237,8 +245,7 @@ void Navigator::showCommanded(_quvera_ui_type current, _quvera_ui_type target)
         break;
     case KeepTask:
         leaveCurrent();
-        m_tasks->disconnectDisplay(current);
-        m_tasks->connectDisplay(target);
+        takeFront(current, page);
         if (row.entersAgain && row.entersAgain())
             page->enter();
         break;

@@ -57,6 +57,7 @@ private:
     void makePages();
     FunctionPage *builtPage(_quvera_ui_type target);
     Answer changeTaskOrNot(AbstractTask::UniFunction function, _quvera_ui_type current);
+    void takeFront(_quvera_ui_type current, FunctionPage *page);
     bool exitCurTaskIfOrNot(_quvera_ui_type current);
     bool endTaskAsAsked(_quvera_ui_type current);
     bool endRecordingAsAsked(_quvera_ui_type current);

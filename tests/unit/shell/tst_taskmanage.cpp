@@ -34,6 +34,7 @@ private slots:
     void displayLinkMovesAndUnlinks();
     void aSecondLinkChangesNothing();
     void energyResetIsShownAtOnce();
+    void energyResetOnHoldShowsAtRun();
     void stoppedRunTellsItsTimeToTheWavePage();
     void functionChangesReachTheTask();
     void runEmptiesThePages();
@@ -224,6 +225,23 @@ void TstTaskManage::energyResetIsShownAtOnce()
     m_taskmanage->data().live().power.activeEnergy[0] = 9000.0f;
     emit pageOf<powen>(UI_POWER)->resetEnergy(); // no longer linked
     QCOMPARE(m_taskmanage->data().live().power.activeEnergy[0], 9000.0f);
+}
+
+void TstTaskManage::energyResetOnHoldShowsAtRun()
+{
+    m_taskmanage->startTask(m_taskmanage->initTask(TaskManage::Universal));
+    m_taskmanage->connectDisplay(UI_POWER);
+    g_unitask->startTask();
+    auto *label = pageOf<powen>(UI_POWER)->findChild<QLabel *>("kwh_1");
+    m_taskmanage->data().live().power.activeEnergy[0] = 9000.0f;
+    emit pageOf<powen>(UI_POWER)->pause();
+    QCOMPARE(label->text(), QStringLiteral("9.000")); // the moment of the hold is shown at once
+    emit pageOf<powen>(UI_POWER)->resetEnergy();
+    QCOMPARE(label->text(), QStringLiteral("9.000"));
+    QCOMPARE(m_taskmanage->data().live().power.activeEnergy[0], 0.0f);
+    emit pageOf<powen>(UI_POWER)->run();
+    g_unitask->updatedata();
+    QCOMPARE(label->text(), QStringLiteral("0.000"));
 }
 
 void TstTaskManage::stoppedRunTellsItsTimeToTheWavePage()

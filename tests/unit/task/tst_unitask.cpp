@@ -1,6 +1,7 @@
 #include "settings/inrushinfo.h"
 #include "settings/monitorinfo.h"
 #include "settings/waveinfo.h"
+#include "task/inverterfeed.h"
 #include "unitaskcase.h"
 
 #include <QRegularExpression>
@@ -35,6 +36,10 @@ private slots:
     void energyIntegratesByTheLocalClock();
     void clockStepsCountNoEnergy();
     void pausedTaskStillTakesData();
+    void pausedTaskHoldsWhatIsShown();
+    void resetOnHoldClearsTheLiveCountersOnly();
+    void startEmptiesTheRecordsAndHoldsNothing();
+    void inverterValuesAreFedByItsFunctionOnly();
     void updateDisplayComesOnlyWhileRunning();
     void changeFlagSetsTheReference();
     void resetEnergyClearsCountersAndShowsIt();
@@ -273,6 +278,73 @@ void TstUniTask::pausedTaskStillTakesData()
     QCOMPARE(live().vif.voltage[0], 2.0f * kVolt);
     m_task->datagramRMS_1_2(halfCycles(20, 2.9f, 1.0f).bytes());
     QCOMPARE(live().dips.voltage[0].size(), 20);
+}
+
+void TstUniTask::pausedTaskHoldsWhatIsShown()
+{
+    start();
+    m_task->datagramAggregation(aggregation().bytes());
+    m_task->pauseTask();
+    m_task->datagramAggregation(aggregation(51).set(8, 7.0f).bytes());
+    m_task->datagramRMS_1_2(halfCycles(20, 2.9f, 1.0f).bytes());
+    QCOMPARE(liveData().shown().vif.voltage[0], 2.0f * kVolt);
+    QCOMPARE(liveData().shown().vif.frequency, 50.0f);
+    QVERIFY(liveData().shown().dips.voltage[0].isEmpty());
+    m_task->continueTask();
+    QCOMPARE(liveData().shown().vif.voltage[0], 7.0f * kVolt);
+    QCOMPARE(liveData().shown().dips.voltage[0].size(), 20); // no gap
+}
+
+void TstUniTask::resetOnHoldClearsTheLiveCountersOnly()
+{
+    start();
+    live().power.activeEnergy[2] = 5;
+    live().power.minutes = 3;
+    m_task->pauseTask();
+    m_task->resetEnergy();
+    QCOMPARE(liveData().shown().power.activeEnergy[2], 5.0f);
+    QCOMPARE(liveData().shown().power.minutes, 3);
+    QCOMPARE(live().power.activeEnergy[2], 0.0f);
+    m_task->continueTask();
+    QCOMPARE(liveData().shown().power.minutes, 0);
+}
+
+void TstUniTask::startEmptiesTheRecordsAndHoldsNothing()
+{
+    live().vif.voltage[0] = 5;
+    liveData().hold();
+    m_task->preStartTask();
+    QVERIFY(!liveData().isHeld());
+    QCOMPARE(live().vif.voltage[0], 0.0f);
+    QCOMPARE(live().vif.frequency, 50.0f);
+}
+
+void TstUniTask::inverterValuesAreFedByItsFunctionOnly()
+{
+    start();
+    Payload p = aggregation();
+    m_task->datagramAggregation(p.bytes());
+    m_task->datagramWave(wave().bytes());
+    QCOMPARE(live().inverter.outputVoltage[0], 0.0f);
+    m_task = std::make_unique<UniTask>(liveData());
+    m_task->initUniFunction(AbstractTask::UniPowerInverter);
+    m_task->startTask();
+    for (int i = 1; i <= 4; ++i) { // two a second
+        Clock::advance(500);
+        m_task->datagramAggregation(p.bytes());
+        m_task->datagramWave(wave().bytes());
+    }
+    QCOMPARE(live().inverter.outputVoltage[0], 2.0f * kVolt);
+    QCOMPARE(live().inverter.outputCurrent[2], 3.0f * kAmpere);
+    QCOMPARE(live().inverter.frequency, 50.0f);
+    QCOMPARE(live().inverter.trend[InverterFeed::OutputVoltage].series[0].size(), 2); // one point a second
+    QVERIFY(live().vif.trend[VifTrendURms].series[0].isEmpty());
+    m_task->pauseTask();
+    Clock::advance(1000);
+    m_task->datagramAggregation(p.set(8, 7.0f).bytes());
+    m_task->datagramWave(wave().bytes());
+    QCOMPARE(liveData().shown().inverter.outputVoltage[0], 2.0f * kVolt);
+    QCOMPARE(live().inverter.trend[InverterFeed::OutputVoltage].series[0].size(), 3); // they go on behind a hold
 }
 
 void TstUniTask::updateDisplayComesOnlyWhileRunning()

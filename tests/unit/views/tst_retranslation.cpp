@@ -1,23 +1,11 @@
 #include "settings/phasecolor.h"
 #include "device/idevice.h"
-#include "pagetest.h"
-#include "views/dips/dswell.h"
-#include "views/flicker/flicker.h"
-#include "views/harmonics/harm.h"
-#include "views/inrush/inrushpage.h"
-#include "views/mainssignaling/mainssignaling.h"
-#include "views/power/powen.h"
-#include "views/powerinverter/powerinverter.h"
-#include "views/scope/scopepage.h"
-#include "views/transients/trans.h"
-#include "views/unbalance/unbalan.h"
-#include "views/vif/vifpage.h"
+#include "allpages.h"
 
 #include <QAbstractButton>
 #include <QMap>
 #include <QTranslator>
 
-#include <functional>
 #include <memory>
 
 namespace {
@@ -58,15 +46,7 @@ QStringList sheets(const QWidget *page)
     return result;
 }
 
-using MakePage = std::function<FunctionPage *()>;
-
-template <typename Page> FunctionPage *makePage()
-{
-    return new Page(PageTest::liveData());
-}
-
 } // namespace
-Q_DECLARE_METATYPE(MakePage)
 
 /// Every measuring function after the user chose another language or other phase colours.
 class TstRetranslation : public QObject
@@ -78,7 +58,7 @@ private slots:
     void languageChangeReachesEveryText_data();
     void languageChangeReachesEveryText();
     void heldPageSaysRunInTheNewLanguage();
-    void newPhaseColoursReachTheLabelsWhenThePageIsShown_data() { languageChangeReachesEveryText_data(); }
+    void newPhaseColoursReachTheLabelsWhenThePageIsShown_data() { addAllPages(); }
     void newPhaseColoursReachTheLabelsWhenThePageIsShown();
 };
 
@@ -91,18 +71,7 @@ void TstRetranslation::initTestCase()
 
 void TstRetranslation::languageChangeReachesEveryText_data()
 {
-    QTest::addColumn<MakePage>("make");
-    QTest::newRow("vif") << MakePage(makePage<VifPage>);
-    QTest::newRow("scope") << MakePage(makePage<ScopePage>);
-    QTest::newRow("dips and swells") << MakePage(makePage<dswell>);
-    QTest::newRow("harmonics") << MakePage(makePage<harm>);
-    QTest::newRow("power") << MakePage(makePage<powen>);
-    QTest::newRow("flicker") << MakePage(makePage<flicker>);
-    QTest::newRow("unbalance") << MakePage(makePage<unbalan>);
-    QTest::newRow("transients") << MakePage(makePage<trans>);
-    QTest::newRow("inrush") << MakePage(makePage<InrushPage>);
-    QTest::newRow("mains signaling") << MakePage(makePage<MainsSignaling>);
-    QTest::newRow("power inverter") << MakePage(makePage<PowerInverter>);
+    addAllPages();
 }
 
 void TstRetranslation::languageChangeReachesEveryText()
