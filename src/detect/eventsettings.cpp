@@ -52,13 +52,17 @@ EventSettings eventSettings(const monitor_limit &limits, const EventNominals &no
     return settings;
 }
 
+EventNominals eventNominals(const SettingValues &values, const Derived &derived)
+{
+    return { derived.realNominalVolt,   float(derived.nominalFrequency), values.inrushNomAmps,
+             values.inrushThreshold,    values.inrushHysteresis,         derived.ratioI.numerator,
+             derived.ratioI.denominator };
+}
+
 EventSettings currentEventSettings()
 {
-    const SettingConfig &config = m_settingConfig_g;
     return eventSettings(*m_limits_g.getLimitsInUsed(),
-                         { config.getRealNominalVolt(), float(config.getNomFreq()), config.readInrushNomAmps(),
-                           config.getInrushThreshold(), config.getInrushHysteresis(), config.getRatioIFenzi(),
-                           config.getRatioIFenmu() });
+                         eventNominals(m_settingConfig_g.values(), m_settingConfig_g.derived()));
 }
 
 int currentJoinMode()

@@ -2,6 +2,9 @@
 
 #include "settings/limits.h"
 
+struct Derived;
+struct SettingValues;
+
 constexpr int kEventPhases = 3; // phases with states of their own
 constexpr int kEventInputs = 8; // four voltages, then four currents
 constexpr int kHarmonicLimits = 25; // THD and orders 2 to 25
@@ -51,6 +54,9 @@ struct EventNominals
     int currentRatioNumerator;
     int currentRatioDenominator;
 };
+
+/// The nominals of a set-up; no globals.
+EventNominals eventNominals(const SettingValues &values, const Derived &derived);
 
 /// Thresholds of a limit set; no globals. Values without sense give thresholds that nothing crosses.
 EventSettings eventSettings(const monitor_limit &limits, const EventNominals &nominals);

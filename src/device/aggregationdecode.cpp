@@ -1,4 +1,3 @@
-#include "settings/config_data.h"
 #include "device/aggregationpayload.h"
 #include "device/cleanvalue.h"
 #include "device/datatypes.h"
@@ -114,23 +113,23 @@ float angleDegrees(float phase, double reference)
 
 } // namespace
 
-void DataTypes::aggregation_vif(__datagram_aggregation *record, const float *payload, const quint32 *)
+void DataTypes::aggregation_vif(__datagram_aggregation *record, const float *payload, const DecodeSettings &by)
 {
     for (int c = 0; c < kChannels; ++c) {
         ChannelRms &to = record->channel[c];
         const float *from = payload + channelWord(c, 0);
-        to.voltage = cleaned(from[kVoltage] * k_v[c]);
-        to.voltagePeak = cleaned(from[kVoltagePeak] * k_v[c]);
-        to.voltageOffset = cleaned(from[kVoltageOffset] * k_v[c]);
-        to.current = cleaned(from[kCurrent] * k_i[c]);
-        to.currentPeak = cleaned(from[kCurrentPeak] * k_i[c]);
-        to.currentOffset = cleaned(from[kCurrentOffset] * k_i[c]);
+        to.voltage = cleaned(from[kVoltage] * by.scales.voltage[c]);
+        to.voltagePeak = cleaned(from[kVoltagePeak] * by.scales.voltage[c]);
+        to.voltageOffset = cleaned(from[kVoltageOffset] * by.scales.voltage[c]);
+        to.current = cleaned(from[kCurrent] * by.scales.current[c]);
+        to.currentPeak = cleaned(from[kCurrentPeak] * by.scales.current[c]);
+        to.currentOffset = cleaned(from[kCurrentOffset] * by.scales.current[c]);
         to.voltageCrest = cleaned(div_sn(to.voltagePeak, to.voltage));
         to.currentCrest = cleaned(div_sn(to.currentPeak, to.current));
     }
 }
 
-void DataTypes::aggregation_unbalance(__datagram_aggregation *record, const float *, const quint32 *)
+void DataTypes::aggregation_unbalance(__datagram_aggregation *record)
 {
     Fundamentals voltage, current;
     double voltagePhase[3];
@@ -162,15 +161,15 @@ void DataTypes::aggregation_unbalance(__datagram_aggregation *record, const floa
         = cleaned(static_cast<float>(3.0 * (positiveVoltage * std::conj(positiveCurrent)).imag()));
 }
 
-void DataTypes::aggregation_power(__datagram_aggregation *record, const float *payload, const quint32 *)
+void DataTypes::aggregation_power(__datagram_aggregation *record, const float *payload, const DecodeSettings &by)
 {
     PowerRow(&row)[kChannels] = record->power;
     for (int c = 0; c < kChannels; ++c) {
-        row[c].active = cleaned(k_w[c] * payload[channelWord(c, kActivePower)]);
-        row[c].apparent = cleaned(k_w[c] * payload[channelWord(c, kApparentPower)]);
+        row[c].active = cleaned(by.scales.power[c] * payload[channelWord(c, kActivePower)]);
+        row[c].apparent = cleaned(by.scales.power[c] * payload[channelWord(c, kApparentPower)]);
     }
 
-    const PowerRule rule = powerRule(m_settingConfig_g.channels());
+    const PowerRule rule = powerRule(by.wiring);
     const int rows = measuredRows(rule);
     for (int c = 0; c < rows; ++c) {
         // Between lines a row is no load by itself.
@@ -210,13 +209,13 @@ void DataTypes::aggregation_power(__datagram_aggregation *record, const float *p
     finishFactors(row[kTotal]);
 }
 
-void DataTypes::aggregation_mainssig(__datagram_aggregation *record, const float *payload, const quint32 *)
+void DataTypes::aggregation_mainssig(__datagram_aggregation *record, const float *payload, const DecodeSettings &by)
 {
-    const float nominal = static_cast<float>(m_settingConfig_g.getNomVolt());
+    const float nominal = static_cast<float>(by.nominalVolt);
     for (int c = 0; c < kChannels; ++c) {
         MainsSignalRow &to = record->mainsSignal[c];
-        to.volt1 = k_v[c] * payload[kMainsSignal + 2 * c];
-        to.volt2 = k_v[c] * payload[kMainsSignal + 2 * c + 1];
+        to.volt1 = by.scales.voltage[c] * payload[kMainsSignal + 2 * c];
+        to.volt2 = by.scales.voltage[c] * payload[kMainsSignal + 2 * c + 1];
         to.ratio1 = div_sn(to.volt1, nominal);
         to.ratio2 = div_sn(to.volt2, nominal);
         to.reserved[0] = 0;

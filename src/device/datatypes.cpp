@@ -1,14 +1,9 @@
 #include "device/datatypes.h"
 
-#include "settings/config_data.h"
 #include "device/datagramkinds.h"
 
 #include <algorithm>
 #include <cstring>
-
-float DataTypes::k_v[kChannels] = { 1, 1, 1, 1 };
-float DataTypes::k_i[kChannels] = { 1, 1, 1, 1 };
-float DataTypes::k_w[kChannels] = { 1, 1, 1, 1 };
 
 namespace {
 
@@ -52,18 +47,8 @@ bool DataTypes::fits(__datagramtype kind, const QByteArray &payload)
     return kind >= 0 && kind < kDatagramKindCount && payload.size() >= emittedBytes(kDatagramKinds[kind]);
 }
 
-void DataTypes::calculateK_viw()
+void DataTypes::datagramRMS_1_2(__datagram_rms *record, const char *payload, const ScaleTable &scales)
 {
-    const float *scales = m_settingConfig_g.wvi();
-    std::copy_n(scales, kChannels, k_w);
-    std::copy_n(scales + 4, kChannels, k_v);
-    std::copy_n(scales + 8, kChannels, k_i);
-}
-
-void DataTypes::datagramRMS_1_2(__datagram_rms *record, const char *payload)
-{
-    const float *voltScale = m_settingConfig_g.wvi() + 4;
-    const float *currentScale = m_settingConfig_g.wvi() + 8;
     for (int c = 0; c < 3; ++c) {
         WireBlock block;
         memcpy(&block, payload + 4 * Link::kTimeWords + static_cast<size_t>(c) * sizeof(block), sizeof(block));
@@ -75,9 +60,9 @@ void DataTypes::datagramRMS_1_2(__datagram_rms *record, const char *payload)
         for (quint32 i = 0; i < n; ++i) {
             const WireEntry &from = block.entry[i];
             voltage.entry[i].time = wireTime(from.voltageSeconds, from.voltageMilliseconds);
-            voltage.entry[i].value = limited(from.voltage) * voltScale[c];
+            voltage.entry[i].value = limited(from.voltage) * scales.voltage[c];
             current.entry[i].time = wireTime(from.currentSeconds, from.currentMilliseconds);
-            current.entry[i].value = limited(from.current) * currentScale[c];
+            current.entry[i].value = limited(from.current) * scales.current[c];
         }
     }
 }
@@ -100,7 +85,7 @@ void DataTypes::datagramFlicker(__datagram_flicker *record, const char *payload)
     memcpy(record, payload, sizeof(*record));
 }
 
-void DataTypes::datagramAggregation(__datagram_aggregation *record, const char *payload)
+void DataTypes::datagramAggregation(__datagram_aggregation *record, const char *payload, const DecodeSettings &by)
 {
     // The arrays of the link are aligned for words; others are moved first.
     alignas(16) float moved[Link::kAggregationWords];
@@ -109,12 +94,11 @@ void DataTypes::datagramAggregation(__datagram_aggregation *record, const char *
         payload = reinterpret_cast<const char *>(moved);
     }
     const float *values = reinterpret_cast<const float *>(payload);
-    const quint32 *words = reinterpret_cast<const quint32 *>(payload);
     memcpy(&record->time, payload, sizeof(record->time));
     memcpy(&record->frequency, payload + sizeof(record->time), sizeof(record->frequency));
-    aggregation_vif(record, values, words);
-    aggregation_harm(record, values, words);
-    aggregation_unbalance(record, values, words);
-    aggregation_power(record, values, words);
-    aggregation_mainssig(record, values, words);
+    aggregation_vif(record, values, by);
+    aggregation_harm(record, values, by);
+    aggregation_unbalance(record);
+    aggregation_power(record, values, by);
+    aggregation_mainssig(record, values, by);
 }

@@ -1,43 +1,53 @@
 #pragma once
 
-#include "model/datagramrecords.h"
 #include "device/datagramtypes.h"
+#include "model/datagramrecords.h"
+#include "settings/derived.h"
 
 #include <QByteArray>
 #include <QList>
 
+/// What decides how an aggregation is decoded.
+struct DecodeSettings
+{
+    ScaleTable scales;
+    const ChannelSet *wiring = nullptr;
+    double nominalFrequency = 50.0; // Hz
+    int nominalVolt = 0; // V, without the transformer's ratio
+
+    DecodeSettings() = default;
+    /// `measuring`: the scales that the measurement began with; the rest as it stands now.
+    DecodeSettings(const ScaleTable &measuring, const Derived &now)
+        : scales(measuring), wiring(now.channels), nominalFrequency(now.nominalFrequency), nominalVolt(now.nominalVolt)
+    { }
+};
+
 /// Decodes payloads of datagrams into records in volts, amperes, watts, hertz and degrees, and works out the quantities
 /// derived from them. Payload tables: docs/link-protocol.md; records: docs/formats/records.md.
-/// All functions are static, allocate nothing and report nothing; what is not a number stays one unless told. Main
-/// thread.
+/// All functions are static, read no settings, allocate nothing and report nothing; a NaN stays one where nothing else
+/// is said. Any thread.
 class DataTypes
 {
 public:
     /// Whether an array holds the payload of a kind; the decoders below read that many bytes.
     static bool fits(__datagramtype kind, const QByteArray &payload);
 
-    /// Takes the scales k_v, k_i and k_w from the settings. Runs when a task is made.
-    static void calculateK_viw();
-    static float k_v[kChannels]; // V per converter unit: L1, L2, L3, N
-    static float k_i[kChannels]; // A per converter unit
-    static float k_w[kChannels]; // W per squared converter unit: L1, L2, L3, Total
-
-    /// 545 words. Values are held to 10 converter units; scales come from the settings as they stand now.
-    static void datagramRMS_1_2(__datagram_rms *record, const char *payload);
+    /// 545 words. Values are held to 10 converter units.
+    static void datagramRMS_1_2(__datagram_rms *record, const char *payload, const ScaleTable &scales);
     /// 16387 words.
     static void datagramWave(__datagram_wave *record, const char *payload);
     /// 1503 words.
     static void datagramFlicker(__datagram_flicker *record, const char *payload);
     /// 3250 words. Energies keep their old contents, so do the orders that a 400 Hz system does not have.
-    static void datagramAggregation(__datagram_aggregation *record, const char *payload);
+    static void datagramAggregation(__datagram_aggregation *record, const char *payload, const DecodeSettings &by);
 
-    // The steps of datagramAggregation in their order: later ones read what earlier ones wrote. Both pointers show the
-    // same 3250 words, as floats and as integers.
-    static void aggregation_vif(__datagram_aggregation *record, const float *payload, const quint32 *words);
-    static void aggregation_harm(__datagram_aggregation *record, const float *payload, const quint32 *words);
-    static void aggregation_unbalance(__datagram_aggregation *record, const float *payload, const quint32 *words);
-    static void aggregation_power(__datagram_aggregation *record, const float *payload, const quint32 *words);
-    static void aggregation_mainssig(__datagram_aggregation *record, const float *payload, const quint32 *words);
+    // The steps of datagramAggregation in their order: later ones read what earlier ones wrote. `payload` has 3250
+    // words.
+    static void aggregation_vif(__datagram_aggregation *record, const float *payload, const DecodeSettings &by);
+    static void aggregation_harm(__datagram_aggregation *record, const float *payload, const DecodeSettings &by);
+    static void aggregation_unbalance(__datagram_aggregation *record);
+    static void aggregation_power(__datagram_aggregation *record, const float *payload, const DecodeSettings &by);
+    static void aggregation_mainssig(__datagram_aggregation *record, const float *payload, const DecodeSettings &by);
 
     /// a - b, degrees, brought into -180 to 180; both ends stay as they are.
     static float iu_pahse_difference(float a, float b);

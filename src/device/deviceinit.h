@@ -3,8 +3,9 @@
 #include <QByteArray>
 #include <QtGlobal>
 
-/// Builds the frames that set the measurement processor up and sends them through m_idevice; nothing answers them.
-/// Layouts: docs/link-protocol.md, "Frames". Main thread; does nothing without m_idevice.
+/// Sends the frames that set the measurement processor up through m_idevice; nothing answers them. It takes the set-up
+/// in use from the globals and builds by setupframe.h. Layouts: docs/link-protocol.md, "Frames". Main thread; does
+/// nothing without m_idevice.
 class DeviceInit
 {
 public:
@@ -24,7 +25,6 @@ public:
     static void change2CalibMode();
     /// The same with four voltage and four current offsets, converter units.
     static void changeCalibZero(float *v, float *i);
-    static void setupDSP4PowerInverter() { } // nothing calls it
 
     /// Hertz that the set-up frame carries: 50 or 60 when `hertz` lies within 1 of it, else 400.
     static quint32 nominalFrequencyWord(double hertz);

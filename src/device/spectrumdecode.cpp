@@ -1,4 +1,3 @@
-#include "settings/config_data.h"
 #include "model/nominalfrequency.h"
 #include "device/aggregationpayload.h"
 #include "device/cleanvalue.h"
@@ -192,9 +191,9 @@ float decodeInput400(const float *wire, float scale, const SharedLines &shared, 
 
 } // namespace
 
-void DataTypes::aggregation_harm(__datagram_aggregation *record, const float *payload, const quint32 *)
+void DataTypes::aggregation_harm(__datagram_aggregation *record, const float *payload, const DecodeSettings &by)
 {
-    const double nominal = m_settingConfig_g.getNomFreq();
+    const double nominal = by.nominalFrequency;
     const bool at400 = isNominal(nominal, 400.0);
     const WireLines &lines = at400 ? kLines400 : kUsualLines;
     const float reference = payload[spectrumWord(0) + kLineWords * lines.firstLine + kPhase];
@@ -204,9 +203,10 @@ void DataTypes::aggregation_harm(__datagram_aggregation *record, const float *pa
     const auto decode = at400 ? decodeInput400 : decodeInput;
     for (int c = 0; c < kChannels; ++c) {
         ChannelSpectrum &to = record->spectrum[c];
-        const float voltage = decode(payload + spectrumWord(c), k_v[c], shared, to.voltage, to.voltageInter);
+        const float voltage
+            = decode(payload + spectrumWord(c), by.scales.voltage[c], shared, to.voltage, to.voltageInter);
         const float current
-            = decode(payload + spectrumWord(kChannels + c), k_i[c], shared, to.current, to.currentInter);
+            = decode(payload + spectrumWord(kChannels + c), by.scales.current[c], shared, to.current, to.currentInter);
         to.voltageDistortion = SafeMath::cleaned(std::sqrt(voltage));
         to.currentDistortion = SafeMath::cleaned(std::sqrt(current));
     }

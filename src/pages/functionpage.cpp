@@ -1,6 +1,7 @@
 #include "pages/functionpage.h"
 
 #include "record/pqafile.h"
+#include "settings/config_data.h"
 #include "widgets/dialogs/savedialog.h"
 
 FunctionPage::FunctionPage(_quvera_ui_type type, SaveIdentity identity, QWidget *parent)
@@ -20,7 +21,7 @@ void FunctionPage::saveToFile()
     enum { Picture = 1, Data = 2 };
 
     const QByteArray record = pqaData();
-    PqaFile file(m_identity.windowId);
+    PqaFile file(m_identity.windowId, m_settingConfig_g.derived());
     if (!record.isEmpty())
         file.writeFileData(record.constData(), quint32(record.size()));
     QString name = QString::fromLatin1(m_identity.defaultName);

@@ -1,6 +1,6 @@
 #include "record/pqafile.h"
 
-#include "settings/config_data.h"
+#include "settings/derived.h"
 #include "storage/fileinfo.h"
 #include "settings/softwareversion.h"
 #include "board/screenshot.h"
@@ -35,8 +35,9 @@ QString PqaFile::dataPath()
     return QStringLiteral("/tmp/dat.pqa");
 }
 
-PqaFile::PqaFile(int winId) : m_winId(winId), m_screen(ScreenShot::getScreenPixmap())
+PqaFile::PqaFile(int winId, const Derived &setUp) : m_screen(ScreenShot::getScreenPixmap())
 {
+    initFileHeader(winId, setUp);
     saveImage();
 }
 
@@ -57,7 +58,7 @@ void PqaFile::saveImage()
 void PqaFile::writeFileData(const void *data, quint32 size)
 {
     open();
-    initFileHeader();
+    m_header.time = Clock::seconds();
     pushData(data, size);
     writeFileHeader();
     writeImageData();
@@ -72,15 +73,13 @@ void PqaFile::open()
     m_opened = m_file->open(QIODevice::ReadWrite) && m_file->seek(0);
 }
 
-void PqaFile::initFileHeader()
+void PqaFile::initFileHeader(int winId, const Derived &setUp)
 {
-    const Clamp *clamp = m_settingConfig_g.curClamp();
-    m_header.page = m_winId;
-    m_header.time = Clock::seconds();
-    m_header.nominalVolt = truncated(double(m_settingConfig_g.getRealNominalVolt()));
-    m_header.nominalFrequency = truncated(m_settingConfig_g.getNomFreq());
-    m_header.joinMode = m_settingConfig_g.getJoinMode();
-    m_header.clampRatio = clamp ? clamp->ratio() : 0;
+    m_header.page = winId;
+    m_header.nominalVolt = truncated(double(setUp.realNominalVolt));
+    m_header.nominalFrequency = truncated(setUp.nominalFrequency);
+    m_header.joinMode = setUp.joinMode;
+    m_header.clampRatio = setUp.clamp.ratio;
     m_header.version = kVersion;
     m_header.magic = kMagic;
 }

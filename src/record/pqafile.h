@@ -9,6 +9,7 @@
 #include <memory>
 
 class QFile;
+struct Derived;
 
 #pragma pack(push, 1)
 /// Head of a ".pqa" file, little-endian. Format: docs/formats/pqa.md.
@@ -36,7 +37,7 @@ static_assert(sizeof(__pqa_file_header) == 40, "the picture starts at byte 40");
 class PqaFile
 {
 public:
-    explicit PqaFile(int winId);
+    PqaFile(int winId, const Derived &setUp);
     ~PqaFile();
     PqaFile(const PqaFile &) = delete;
     PqaFile &operator=(const PqaFile &) = delete;
@@ -55,7 +56,7 @@ public:
 private:
     void saveImage();
     void open();
-    void initFileHeader();
+    void initFileHeader(int winId, const Derived &setUp);
     void pushData(const void *data, quint32 size);
     void writeFileHeader();
     void writeImageData();
@@ -64,7 +65,6 @@ private:
     void write(const void *data, qint64 length);
     static void store(const QString &temporary, const QString &name);
 
-    int m_winId;
     __pqa_file_header m_header {};
     QPixmap m_screen;
     std::unique_ptr<QFile> m_file;

@@ -9,10 +9,7 @@ public:
     static int m_rms_numb_per_sec;
     static const TrendZoom *m_zoom_time; // the four steps in force
     static int m_zoom_index; // 0 to 3
-    static double m_threshold, m_hysteresis; // percent
-    static double m_nom_amps; // A
 
     /// Takes rate and steps of the nominal frequency; another than 50, 60, 400 Hz changes nothing.
-    static void initInfoTimes();
     static void initInfoTimes(double nominalFrequency);
 };

@@ -1,6 +1,5 @@
 #include "settings/harmdata.h"
 
-#include "settings/config_data.h"
 #include "model/nominalfrequency.h"
 
 namespace {
@@ -9,11 +8,6 @@ constexpr int kOrders400 = 12;
 
 int HarmData::m_harm_max_numb = 100;
 bool HarmData::m_bewith_inharm = true;
-
-void HarmData::initHarmMaxNumb()
-{
-    initHarmMaxNumb(m_settingConfig_g.getNomFreq());
-}
 
 void HarmData::initHarmMaxNumb(double nominalFrequency)
 {

@@ -8,6 +8,5 @@ public:
     static bool m_bewith_inharm; // interharmonics available
 
     /// 100 orders with interharmonics at 50 and 60 Hz, 12 without at 400 Hz; another frequency changes nothing.
-    static void initHarmMaxNumb();
     static void initHarmMaxNumb(double nominalFrequency);
 };

@@ -1,12 +1,9 @@
 #pragma once
 
-#include <QString>
-
 #include "model/trendzoom.h"
 
-class SettingConfig;
-
-/// Parameters of the inrush function: length and zoom of its trend, the levels of the detector, steps of the editor.
+/// Length and zoom of the inrush trend. The levels of the detector are settings, what an editor of them needs follows
+/// from the clamp (Derived::inrush).
 class InrushInfo : public RmsTrendTables
 {
 public:
@@ -23,20 +20,7 @@ public:
     static const Duration m_dura_time_50[7], m_dura_time_60[7], m_dura_time_400[7];
     static const TrendZoom *m_zoom_time; // the four steps in force
     static int m_zoom_index;
-    static double m_nom_amps; // A at the clamp
-    static double m_threshold, m_hysteresis; // percent of m_nom_amps
-    static double inrush_step, inrush_range; // in the shown unit
-    static double unit_ki; // shown number = A x unit_ki
-    static QString *inrush_unit; // "mA", "A" or "kA"
-    static int inrush_amps_prec; // decimals
 
-    /// Takes everything from the nominal frequency and the clamp, and stores the levels that follow.
-    static void initInfoTimes();
-    static void initInfoTimes(SettingConfig &settings);
-    /// After a change of the clamp: range, unit, step and levels anew.
-    static void changeInfoCuzClamp();
-    static void changeInfoCuzClamp(SettingConfig &settings);
-    /// After a change of the nominal frequency: rate and tables anew.
-    static void changeInfoCuzFreq();
+    /// After a change of the nominal frequency: rate and tables anew. Another one than 50, 60, 400 Hz leaves them.
     static void changeInfoCuzFreq(double nominalFrequency);
 };

@@ -1,7 +1,7 @@
 #include "settings/loggerinfo.h"
 
 #include "settings/config.h"
-#include "settings/config_data.h"
+#include "settings/settingrow.h"
 #include "storage/fileinfo.h"
 #include "storage/massstorage.h"
 #include "model/nominalfrequency.h"
@@ -52,9 +52,9 @@ void LoggerInfo::writeSelectedParam()
     Config::writeConfigFile(QLatin1String(kFile), QLatin1String(kKey), QString::number(m_paramselected));
 }
 
-void LoggerInfo::initHarmMaxNumb()
+void LoggerInfo::initHarmMaxNumb(double nominalFrequency)
 {
-    m_harm_max_numb = highestOrder(m_settingConfig_g.getNomFreq(), kOrders400, m_harm_max_numb);
+    m_harm_max_numb = highestOrder(nominalFrequency, kOrders400, m_harm_max_numb);
 }
 
 int LoggerInfo::countParamNumb(quint32 selected, double nominalFrequency)
@@ -64,9 +64,9 @@ int LoggerInfo::countParamNumb(quint32 selected, double nominalFrequency)
         + bitCount(selected & kHarmonicBits) * orders + ((selected & kFlickerBit) ? 3 : 0);
 }
 
-void LoggerInfo::countParamNumb()
+void LoggerInfo::countParamNumb(double nominalFrequency)
 {
-    m_param_numb = countParamNumb(m_paramselected, m_settingConfig_g.getNomFreq());
+    m_param_numb = countParamNumb(m_paramselected, nominalFrequency);
 }
 
 int LoggerInfo::maxDuration(float room, int paramNumb, int intervalSeconds)

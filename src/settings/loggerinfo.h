@@ -23,9 +23,9 @@ public:
     static void readSelectedParam();
     static void writeSelectedParam();
     /// 100 orders at 50 and 60 Hz, 13 at 400 Hz; another nominal frequency changes nothing.
-    static void initHarmMaxNumb();
+    static void initHarmMaxNumb(double nominalFrequency);
     /// Counts the chosen columns into m_param_numb.
-    static void countParamNumb();
+    static void countParamNumb(double nominalFrequency);
     static int countParamNumb(quint32 selected, double nominalFrequency);
     /// Takes the room of the storage and holds the duration to what it allows.
     static void checkMaxDuration();

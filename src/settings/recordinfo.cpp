@@ -1,7 +1,7 @@
 #include "settings/recordinfo.h"
 
 #include "settings/config.h"
-#include "settings/config_data.h"
+#include "settings/settingrow.h"
 #include "model/nominalfrequency.h"
 
 namespace {
@@ -33,8 +33,8 @@ void RecordInfo::writeSelectedParam()
     Config::writeConfigFile(QLatin1String(kFile), QLatin1String(kKey), QString::number(m_recordItems));
 }
 
-void RecordInfo::initHarmMaxNumb()
+void RecordInfo::initHarmMaxNumb(double nominalFrequency)
 {
     constexpr int kOrders400 = 12;
-    m_harm_max_numb = highestOrder(m_settingConfig_g.getNomFreq(), kOrders400, m_harm_max_numb);
+    m_harm_max_numb = highestOrder(nominalFrequency, kOrders400, m_harm_max_numb);
 }

@@ -43,5 +43,5 @@ public:
     static void readSelectedParam();
     static void writeSelectedParam();
     /// 100 orders at 50 and 60 Hz, 12 at 400 Hz; another nominal frequency changes nothing.
-    static void initHarmMaxNumb();
+    static void initHarmMaxNumb(double nominalFrequency);
 };

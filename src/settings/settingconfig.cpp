@@ -2,11 +2,15 @@
 
 #include <QDir>
 
-#include "settings/inrushinfo.h"
 #include "model/transparam.h"
 #include "platform/target.h"
+#include "settings/config_data.h"
+#include "settings/inrushinfo.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstring>
+#include <limits>
 
 namespace {
 
@@ -14,6 +18,19 @@ const char kFolder[] = "/mnt/userfs/sys/";
 const char kClamps[] = "/mnt/userfs/sys/clamps.xcl";
 const char kClampsN[] = "/mnt/userfs/sys/clampsN.xcl";
 constexpr int kLegacyClamps = 10;
+
+QString clampName(const Clamp *clamp)
+{
+    return clamp ? clamp->name() : QString();
+}
+
+/// The nearest whole number that the type holds.
+template <typename T> T wholeNumber(double value)
+{
+    constexpr double kLowest = std::numeric_limits<T>::min();
+    constexpr double kHighest = std::numeric_limits<T>::max();
+    return static_cast<T>(std::llround(std::clamp(value, kLowest, kHighest)));
+}
 
 } // namespace
 
@@ -61,7 +78,6 @@ void SettingConfig::loadSettingConfig()
     readRows(file,
              { "NOM_VOLT_SELECT", "NOM_VOLT_LINE_SELECT", "NOM_VOLT_CUSTOM", "NOM_VOLT_LINE_CUSTOM", "NOM_FREQ",
                "JOINMODE", "CLAMP_TYPE", "TRANS_THRESHOLD", "LOGGER_FLAG" });
-    TransParam::m_trans_threshold = m_values.transThreshold;
     readRows(file,
              { "RATIO_IFENMU", "RATIO_IFENZI", "RATIO_VFENMU", "RATIO_VFENZI", "RATIO_ICUSTOM", "RATIO_VCUSTOM",
                "RATIO_INFENMU", "RATIO_INFENZI", "RATIO_VNFENMU", "RATIO_VNFENZI", "RATIO_INCUSTOM", "RATIO_VNCUSTOM",
@@ -69,15 +85,10 @@ void SettingConfig::loadSettingConfig()
                "MAINSSIG_THRESHOLD2" });
     readRows(file, { "CLAMP_RATIO", "RANGE_I" });
     initClamps();
-    initInputMode();
-    initNominalVolt();
-    initCalibIndex();
     m_stepSize = 2;
-    Tmp_wvi();
-    clampPrecision();
-    clampNPrecision();
+    follow(FollowDerived | FollowTables);
     readRows(file, { "INRUSH_INDEX", "INRUSH_NOMAMPS", "INRUSH_THRESHOLD", "INRUSH_HYSTERESIS" });
-    InrushInfo::initInfoTimes(*this);
+    initInrushLevels();
     readRows(file, { "KFACTOR_METHOD", "KFACTOR_E", "KFACTOR_Q" });
 }
 
@@ -97,7 +108,20 @@ void SettingConfig::saveClampConfig()
     m_clamps.save(QLatin1String(kClamps));
     m_clampsN.save(QLatin1String(kClampsN));
     followSettings();
-    InrushInfo::changeInfoCuzClamp(*this);
+    initInrushLevels();
+}
+
+void SettingConfig::initInrushLevels()
+{
+    // As required: the levels go to the settings whenever the clamp is taken over, at every start too.
+    constexpr int kThreshold = 200; // percent
+    constexpr int kHysteresis = 2; // percent
+    if (m_values.inrushNomAmps != m_derived.inrush.nomAmps)
+        setInrushNomAmps(m_derived.inrush.nomAmps);
+    if (m_values.inrushThreshold != kThreshold)
+        setInrushThreshold(kThreshold);
+    if (m_values.inrushHysteresis != kHysteresis)
+        setInrushHysteresis(kHysteresis);
 }
 
 template <typename T> void SettingConfig::store(T SettingValues::*member, T value)
@@ -107,6 +131,7 @@ template <typename T> void SettingConfig::store(T SettingValues::*member, T valu
         const auto *kept = std::get_if<T SettingValues::*>(&row.member);
         if (!kept || *kept != member)
             continue;
+        follow(row.follows);
         QString text;
         if constexpr (std::is_same_v<T, double>)
             text = SettingText::fromDouble(value);
@@ -117,45 +142,103 @@ template <typename T> void SettingConfig::store(T SettingValues::*member, T valu
     }
 }
 
-void SettingConfig::followSettings()
+void SettingConfig::follow(unsigned what)
 {
-    initInputMode();
-    initNominalVolt();
-    initCalibIndex();
-    Tmp_wvi();
-    clampPrecision();
-    clampNPrecision();
+    if (what & FollowDerived)
+        followSettings();
+    if (what & FollowTables)
+        InrushInfo::changeInfoCuzFreq(m_derived.nominalFrequency);
+    TransParam::m_trans_threshold = m_values.transThreshold;
+    m_legacyClamps.last().ratio = m_values.clampRatio;
+    m_legacyClamps.last().range = m_values.rangeI;
 }
 
-// Setters of values that others follow from: the cached value, what follows, then the file.
-#define FOLLOWED_SETTER(name, member)                                                                                  \
-    void SettingConfig::name(int value)                                                                                \
-    {                                                                                                                  \
-        m_values.member = value;                                                                                       \
-        followSettings();                                                                                              \
-        store(&SettingValues::member, value);                                                                          \
+void SettingConfig::followSettings()
+{
+    m_derived = derive(m_values, curClamp(), curClampN(), m_calib_data_g.data());
+}
+
+const SettingRow<SettingValues> *SettingConfig::row(const char *key)
+{
+    for (const auto &row : rows()) {
+        if (strcmp(row.key, key) == 0)
+            return &row;
     }
-FOLLOWED_SETTER(setNomVoltStarSelect, nomVoltStarSelect)
-FOLLOWED_SETTER(setNomVoltDeltaSelect, nomVoltDeltaSelect)
-FOLLOWED_SETTER(setNomVoltStarCustom, nomVoltStarCustom)
-FOLLOWED_SETTER(setNomVoltDeltaCustom, nomVoltDeltaCustom)
-FOLLOWED_SETTER(setJoinMode, joinMode)
-FOLLOWED_SETTER(setRatioIFenzi, ratioIFenzi)
-FOLLOWED_SETTER(setRatioIFenmu, ratioIFenmu)
-FOLLOWED_SETTER(setRatioVFenzi, ratioVFenzi)
-FOLLOWED_SETTER(setRatioVFenmu, ratioVFenmu)
-FOLLOWED_SETTER(setRatioINFenzi, ratioINFenzi)
-FOLLOWED_SETTER(setRatioINFenmu, ratioINFenmu)
-FOLLOWED_SETTER(setRatioVNFenzi, ratioVNFenzi)
-FOLLOWED_SETTER(setRatioVNFenmu, ratioVNFenmu)
-#undef FOLLOWED_SETTER
+    return nullptr;
+}
+
+EditRange SettingConfig::editRange(const SettingRow<SettingValues> &row) const
+{
+    EditRange range = { row.edit.lowest, row.edit.highest, row.edit.step };
+    if (strcmp(row.key, "INRUSH_NOMAMPS") == 0) {
+        const double step = m_derived.inrush.stepAtClamp;
+        range = { step, std::max(step, double(m_derived.clamp.range)), step };
+    } else if (strcmp(row.key, "RANGE_I") == 0 && m_values.clampRatio > 0) {
+        constexpr int kLargestOutput = 2000000; // uV
+        range.highest = std::clamp(double(kLargestOutput / m_values.clampRatio), range.lowest, range.highest);
+    }
+    return range;
+}
+
+double SettingConfig::value(const SettingRow<SettingValues> &row) const
+{
+    if (const auto *whole = std::get_if<int SettingValues::*>(&row.member))
+        return m_values.**whole;
+    if (const auto *mask = std::get_if<unsigned SettingValues::*>(&row.member))
+        return m_values.**mask;
+    return m_values.*std::get<double SettingValues::*>(row.member);
+}
+
+bool SettingConfig::setValue(const SettingRow<SettingValues> &row, double wanted)
+{
+    const double before = value(row);
+    const double held = editRange(row).held(std::isfinite(wanted) ? wanted : before);
+    if (const auto *whole = std::get_if<int SettingValues::*>(&row.member)) {
+        const int rounded = wholeNumber<int>(held);
+        if (rounded != m_values.**whole)
+            store(*whole, rounded);
+    } else if (const auto *mask = std::get_if<unsigned SettingValues::*>(&row.member)) {
+        const auto rounded = wholeNumber<unsigned>(held);
+        if (rounded != m_values.**mask)
+            store(*mask, rounded);
+    } else if (const auto *real = std::get_if<double SettingValues::*>(&row.member); held != before) {
+        store(*real, held);
+    }
+    return value(row) != before;
+}
+
+bool SettingConfig::moveValue(const SettingRow<SettingValues> &row, int steps)
+{
+    return setValue(row, editRange(row).moved(value(row), steps));
+}
+
+bool SettingConfig::setDefault(const SettingRow<SettingValues> &row)
+{
+    return setValue(row, SettingText::toDouble(QLatin1String(row.defaultText)));
+}
 
 #define SETTER(type, name, member)                                                                                     \
     void SettingConfig::name(type value)                                                                               \
     {                                                                                                                  \
         store(&SettingValues::member, value);                                                                          \
     }
+SETTER(int, setNomVoltStarSelect, nomVoltStarSelect)
+SETTER(int, setNomVoltDeltaSelect, nomVoltDeltaSelect)
+SETTER(int, setNomVoltStarCustom, nomVoltStarCustom)
+SETTER(int, setNomVoltDeltaCustom, nomVoltDeltaCustom)
+SETTER(int, setNomFreq, nomFreqSelect)
+SETTER(int, setJoinMode, joinMode)
+SETTER(int, setRatioIFenzi, ratioIFenzi)
+SETTER(int, setRatioIFenmu, ratioIFenmu)
+SETTER(int, setRatioVFenzi, ratioVFenzi)
+SETTER(int, setRatioVFenmu, ratioVFenmu)
+SETTER(int, setRatioINFenzi, ratioINFenzi)
+SETTER(int, setRatioINFenmu, ratioINFenmu)
+SETTER(int, setRatioVNFenzi, ratioVNFenzi)
+SETTER(int, setRatioVNFenmu, ratioVNFenmu)
 SETTER(int, setClampType, clampType)
+SETTER(int, setClampRatio, clampRatio)
+SETTER(int, setRangeI, rangeI)
 SETTER(int, setRatioICustom, ratioICustom)
 SETTER(int, setRatioVCustom, ratioVCustom)
 SETTER(int, setRatioINCustom, ratioINCustom)
@@ -165,6 +248,7 @@ SETTER(int, setInrushIndex, inrushIndex)
 SETTER(double, setInrushNomAmps, inrushNomAmps)
 SETTER(int, setInrushThreshold, inrushThreshold)
 SETTER(int, setInrushHysteresis, inrushHysteresis)
+SETTER(int, setTransThreshold, transThreshold)
 SETTER(unsigned, setLoggerFlag, loggerFlag)
 SETTER(int, setkFactorMethod, kFactorMethod)
 SETTER(double, setkFactorE, kFactorE)
@@ -174,30 +258,6 @@ SETTER(double, setMainsSigThreshold1, mainsSigThreshold1)
 SETTER(double, setMainsSigFreq2, mainsSigFreq2)
 SETTER(double, setMainsSigThreshold2, mainsSigThreshold2)
 #undef SETTER
-
-void SettingConfig::setNomFreq(int select)
-{
-    store(&SettingValues::nomFreqSelect, select);
-    InrushInfo::changeInfoCuzFreq(getNomFreq());
-}
-
-void SettingConfig::setTransThreshold(int percent)
-{
-    TransParam::m_trans_threshold = percent;
-    store(&SettingValues::transThreshold, percent);
-}
-
-void SettingConfig::setClampRatio(int microvoltsPerAmp)
-{
-    store(&SettingValues::clampRatio, microvoltsPerAmp);
-    m_legacyClamps.last().ratio = microvoltsPerAmp;
-}
-
-void SettingConfig::setRangeI(int amps)
-{
-    store(&SettingValues::rangeI, amps);
-    m_legacyClamps.last().range = amps;
-}
 
 void SettingConfig::changeFreqPrev()
 {
@@ -226,4 +286,36 @@ void SettingConfig::changeClampNext()
 void SettingConfig::changeStepSize(int step)
 {
     m_stepSize = qBound(1, step, 10);
+}
+
+QString SettingConfig::getJoinModeName(int mode)
+{
+    const ChannelSet *set = channelSet(mode);
+    return set ? QString::fromLatin1(set->name) : QString();
+}
+
+QString SettingConfig::getJoinModeFullName(int mode)
+{
+    const ChannelSet *set = channelSet(mode);
+    return set ? QString::fromLatin1(set->fullName) : QString();
+}
+
+bool SettingConfig::isStarJoinMode(int mode)
+{
+    const ChannelSet *set = channelSet(mode);
+    return set && set->star();
+}
+
+float SettingConfig::getClampRatioF(int row) const
+{
+    if (row < 1 || row > m_legacyClamps.size())
+        return 0.0f;
+    return static_cast<float>(m_legacyClamps.at(row - 1).ratio) / 1000.0f;
+}
+
+QString SettingConfig::systemInfo() const
+{
+    return QStringLiteral("%1V;%2Hz\\%3;%4\\%5")
+        .arg(QString::number(m_derived.nominalVolt), QString::number(m_derived.nominalFrequency, 'f', 0),
+             clampName(curClamp()), clampName(curClampN()), getJoinModeName());
 }

@@ -4,30 +4,11 @@
 #include <QVector>
 
 #include "model/channelset.h"
-#include "settings/clampif.h"
 #include "model/displayunits.h"
+#include "settings/clampif.h"
+#include "settings/derived.h"
 #include "settings/settingrow.h"
-
-class CalibFile;
-
-/// The values behind the keys of setting.conf; meanings, defaults and bounds stand in SettingConfig::rows().
-struct SettingValues
-{
-    int nomVoltStarSelect, nomVoltDeltaSelect, nomVoltStarCustom, nomVoltDeltaCustom;
-    int nomFreqSelect, joinMode;
-    int clampType, clampRatio, rangeI;
-    int flickerWeightingCurve;
-    int inrushIndex;
-    double inrushNomAmps;
-    int inrushThreshold, inrushHysteresis;
-    int transThreshold;
-    unsigned loggerFlag;
-    int ratioIFenmu, ratioIFenzi, ratioVFenmu, ratioVFenzi, ratioICustom, ratioVCustom;
-    int ratioINFenmu, ratioINFenzi, ratioVNFenmu, ratioVNFenzi, ratioINCustom, ratioVNCustom;
-    int kFactorMethod;
-    double kFactorE, kFactorQ;
-    double mainsSigFreq1, mainsSigThreshold1, mainsSigFreq2, mainsSigThreshold2;
-};
+#include "settings/settingvalues.h"
 
 /// One row of the legacy clamp table.
 struct LegacyClamp
@@ -38,9 +19,10 @@ struct LegacyClamp
     int ratio; // uV/A
 };
 
-/// The measurement set-up of "/mnt/userfs/sys/setting.conf" and what follows from it: nominal voltage, clamps, range
-/// and calibration rows, scale factors, units, decimals. The file is read at construction only; every setter keeps the
-/// value and stores it at once. GUI thread; other threads read members only. Keys: docs/settings.md.
+/// The measurement set-up of "/mnt/userfs/sys/setting.conf", the clamps, and the one record of what follows from both
+/// and from the calibration. The file is read at construction only; every setter keeps the value, works the record out
+/// anew where that follows, and stores the value at once. GUI thread; other threads read members only. Keys:
+/// docs/settings.md.
 class SettingConfig
 {
 public:
@@ -78,10 +60,29 @@ public:
     /// All keys of the file, in their order.
     static const QVector<SettingRow<SettingValues>> &rows();
     static QString filePath(); // the board's
+    /// The row of a key; null for an unknown one.
+    static const SettingRow<SettingValues> *row(const char *key);
     const SettingValues &values() const { return m_values; }
 
-    /// Reads everything anew, in the told order.
+    /// Reads everything anew, in the order that the keys depend on each other.
     void loadSettingConfig();
+
+    // For editors, by the row of a key
+    /// Bounds and step of the present moment: the clamps decide some of them.
+    EditRange editRange(const SettingRow<SettingValues> &row) const;
+    double value(const SettingRow<SettingValues> &row) const;
+    /// Keeps and stores a value held to editRange; whole numbers are rounded. True when it is another one than before:
+    /// then what row.follows names has to follow, of which derived() and the tables have already.
+    bool setValue(const SettingRow<SettingValues> &row, double value);
+    /// Moves a value by so many steps of editRange, likewise.
+    bool moveValue(const SettingRow<SettingValues> &row, int steps);
+    /// Back to the value of a missing key, likewise.
+    bool setDefault(const SettingRow<SettingValues> &row);
+
+    /// What follows from settings, clamps and calibration.
+    const Derived &derived() const { return m_derived; }
+    /// Works it out anew: after a change that does not come through a setter, such as a calibration.
+    void followSettings();
 
     // Nominal voltage, volts
     int getNomVoltStarSelect() const { return m_values.nomVoltStarSelect; }
@@ -93,19 +94,18 @@ public:
     int getNomVoltDeltaCustom() const { return m_values.nomVoltDeltaCustom; }
     void setNomVoltDeltaCustom(int volts);
     int getNomVoltStar() const { return getNomVoltStar(m_values.nomVoltStarSelect); }
-    int getNomVoltStar(int row) const; // 0 outside 1 to 9
+    int getNomVoltStar(int row) const { return nominalStarVolts(m_values, row); } // 0 outside 1 to 9
     int getNomVoltDelta() const { return getNomVoltDelta(m_values.nomVoltDeltaSelect); }
-    int getNomVoltDelta(int row) const; // 0 outside 1 to 9
+    int getNomVoltDelta(int row) const { return nominalDeltaVolts(m_values, row); } // 0 outside 1 to 9
     /// Phase voltage in star modes, line voltage in delta modes, 0 for a join mode outside 1 to 10.
     int getNomVolt() const { return getNomVolt(m_values.joinMode); }
-    int getNomVolt(int joinMode) const;
+    int getNomVolt(int joinMode) const { return nominalVolts(m_values, joinMode); }
     /// getNomVolt times the voltage transformer's ratio.
-    float getRealNominalVolt() const;
-    void initNominalVolt();
+    float getRealNominalVolt() const { return m_derived.realNominalVolt; }
 
     // Frequency
     int getNomFreqSelect() const { return m_values.nomFreqSelect; } // 1 to 3
-    double getNomFreq() const; // Hz: 50, 60 or 400
+    double getNomFreq() const { return m_derived.nominalFrequency; } // Hz: 50, 60 or 400
     void setNomFreq(int select);
     void changeFreqPrev();
     void changeFreqNext();
@@ -121,9 +121,8 @@ public:
     static bool isStarJoinMode(int mode); // 1, 3, 5, 7, 9
     /// The channels of the wiring; null for a join mode outside 1 to 10.
     const ChannelSet *channels() const { return channelSet(m_values.joinMode); }
-    void initInputMode();
-    bool starFlag() const { return m_star; }
-    bool neutralFlag() const { return m_neutral; }
+    bool starFlag() const { return m_derived.star; }
+    bool neutralFlag() const { return m_derived.neutral; }
 
     // Clamps
     ClampIF *clamps() { return &m_clamps; }
@@ -131,7 +130,8 @@ public:
     const Clamp *curClamp() const { return m_clamps.getCurClamp(); }
     const Clamp *curClampN() const { return m_clampsN.getCurClamp(); }
     void initClamps();
-    void saveClampConfig(); // both catalogues; what follows from the clamps is worked out anew
+    /// Stores both catalogues; what follows from the clamps is worked out anew, the inrush levels too.
+    void saveClampConfig();
     int getClampType() const { return m_values.clampType; }
     void setClampType(int row);
     void changeClampPrev();
@@ -170,10 +170,10 @@ public:
     int getRatioVNCustom() const { return m_values.ratioVNCustom; }
     void setRatioVNCustom(int value);
     // The quotients; a denominator of 0 counts as 1.
-    float ratioI() const;
-    float ratioV() const;
-    float ratioIN() const;
-    float ratioVN() const;
+    float ratioI() const { return m_derived.ratioI.quotient(); }
+    float ratioV() const { return m_derived.ratioV.quotient(); }
+    float ratioIN() const { return m_derived.ratioIN.quotient(); }
+    float ratioVN() const { return m_derived.ratioVN.quotient(); }
 
     // Functions
     int getFlickerWeightingCurve() const { return m_values.flickerWeightingCurve; } // V of the lamp
@@ -187,6 +187,9 @@ public:
     void setInrushThreshold(int percent);
     int getInrushHysteresis() const { return m_values.inrushHysteresis; } // percent
     void setInrushHysteresis(int percent);
+    /// Sets the three levels to those that the clamp in use begins with. What stands there already is not written
+    /// again.
+    void initInrushLevels();
     int getTransThreshold() const { return m_values.transThreshold; } // percent
     void setTransThreshold(int percent);
     unsigned getLoggerFlag() const { return m_values.loggerFlag; }
@@ -210,23 +213,16 @@ public:
     int getStepSize() const { return m_stepSize; }
     void changeStepSize(int step); // held to 1..10
 
-    // What follows from the settings
-    /// Works out the rows of the calibration block that are in use.
-    void initCalibIndex();
-    int getVoltIndex() const { return m_voltIndex; }
-    int getCurrentIndex() const { return m_currentIndex; }
-    int getCurrentNIndex() const { return m_currentNIndex; }
-    /// Works out the scale table and the units; needs the indices. Called after a new calibration too.
-    void Tmp_wvi();
+    // Parts of derived()
+    int getVoltIndex() const { return m_derived.voltIndex; }
+    int getCurrentIndex() const { return m_derived.currentIndex; }
+    int getCurrentNIndex() const { return m_derived.currentNIndex; }
     /// Twelve floats: power scale A, B, C, N; voltage scale A, B, C, N; current scale A, B, C, N.
-    const float *wvi() const { return m_wvi; }
-    const DisplayUnits &units() const { return m_units; }
-    const DisplayUnits &unitsN() const { return m_unitsN; }
-    /// Works out and answers the decimals shown for a current.
-    int clampPrecision();
-    int clampNPrecision();
-    int currentDigits() const { return m_currentDigits; }
-    int currentNDigits() const { return m_currentNDigits; }
+    const float *wvi() const { return m_derived.scales.all(); }
+    const DisplayUnits &units() const { return m_derived.units; }
+    const DisplayUnits &unitsN() const { return m_derived.unitsN; }
+    int currentDigits() const { return m_derived.currentDigits; }
+    int currentNDigits() const { return m_derived.currentNDigits; }
 
     /// One line: voltage;frequency\clamp;neutral clamp\wiring.
     QString systemInfo() const;
@@ -235,22 +231,12 @@ private:
     void readRow(const QByteArray &file, const SettingRow<SettingValues> &row);
     void readRows(const QByteArray &file, std::initializer_list<const char *> keys);
     template <typename T> void store(T SettingValues::*member, T value);
-    void followSettings();
+    void follow(unsigned what);
 
     SettingValues m_values {};
     ClampIF m_clamps;
     ClampIF m_clampsN;
     QVector<LegacyClamp> m_legacyClamps;
-    int m_nominalVolt = 0;
-    bool m_star = true;
-    bool m_neutral = true;
     int m_stepSize = 2;
-    int m_currentDigits = 0;
-    int m_currentNDigits = 0;
-    int m_voltIndex = 0;
-    int m_currentIndex = 0;
-    int m_currentNIndex = 0;
-    float m_wvi[12] = {};
-    DisplayUnits m_units;
-    DisplayUnits m_unitsN;
+    Derived m_derived;
 };

@@ -1,6 +1,22 @@
 #include "settings/settingrow.h"
 
+#include <algorithm>
 #include <cmath>
+
+double EditRange::held(double value) const
+{
+    return highest > lowest ? std::clamp(value, lowest, highest) : value;
+}
+
+double EditRange::moved(double value, int steps) const
+{
+    constexpr double kRounding = 1e-6; // of a step: what stands on the grid in floating point
+    if (!any())
+        return value;
+    const double places = (value - lowest) / step;
+    const double onto = steps < 0 ? std::ceil(places - kRounding) : std::floor(places + kRounding);
+    return held(lowest + (onto + steps) * step);
+}
 
 int SettingText::toInt(const QString &text)
 {

@@ -1,6 +1,5 @@
 #include "settings/waveinfo.h"
 
-#include "settings/config_data.h"
 #include "model/nominalfrequency.h"
 
 int WaveInfo::m_in_waving = 0;
@@ -15,11 +14,10 @@ int WaveInfo::m_max_duration = 600;
 int WaveInfo::m_points_numb = 0;
 int WaveInfo::m_storage_room = 0;
 
-void WaveInfo::initPointsNumbs()
+void WaveInfo::initPointsNumbs(double nominal)
 {
     const int rate = m_sample_times[qBound(0, m_sample_index, 2)];
     m_step = m_sample_times[0] / rate;
-    const double nominal = m_settingConfig_g.getNomFreq();
     if (isNominal(nominal, 50.0) || isNominal(nominal, 60.0) || isNominal(nominal, 400.0))
         m_points_numb = m_duration * rate;
 }

@@ -19,5 +19,5 @@ public:
     static int m_storage_room; // MB free when checked
 
     /// Works out m_step and, for a nominal frequency of 50, 60 or 400 Hz, m_points_numb.
-    static void initPointsNumbs();
+    static void initPointsNumbs(double nominal);
 };

@@ -154,7 +154,7 @@ void MenuPage::changePage()
 
 void MenuPage::saveSnapshot()
 {
-    PqaFile file(1);
+    PqaFile file(1, m_settingConfig_g.derived());
     QString name = QStringLiteral("Menu");
     if (SaveDialog::save(1, name) == 1)
         file.saveSnapshot(name);

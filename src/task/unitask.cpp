@@ -53,7 +53,8 @@ int monitorSeconds(int hours)
 
 } // namespace
 
-UniTask::UniTask(LiveData &data, QObject *parent) : AbstractTask(parent), m_data(data)
+UniTask::UniTask(LiveData &data, QObject *parent)
+    : AbstractTask(parent), m_data(data), m_scales(m_settingConfig_g.derived().scales)
 {
     initLimitsData();
     m_events = new PowerEvents(this);
@@ -77,7 +78,6 @@ UniTask::UniTask(LiveData &data, QObject *parent) : AbstractTask(parent), m_data
     connect(this, &AbstractTask::taskContinued, this, &UniTask::continueRecords);
     connect(this, &AbstractTask::taskStarted, this, &UniTask::startBaseTimer);
     connect(this, QOverload<>::of(&AbstractTask::taskStoped), this, &UniTask::stopBaseTimer);
-    DataTypes::calculateK_viw();
 }
 
 UniTask::~UniTask() = default;
@@ -171,7 +171,7 @@ void UniTask::datagramAggregation(const QByteArray &bytes)
     const Call call(this);
     if (!DataTypes::fits(DatagramAggregation, bytes))
         return;
-    DataTypes::datagramAggregation(m_aggregation.get(), bytes.constData());
+    DataTypes::datagramAggregation(m_aggregation.get(), bytes.constData(), { m_scales, m_settingConfig_g.derived() });
 
     if (!isLive()) {
         startRecordTimer(quint64(m_aggregation->time));

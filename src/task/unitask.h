@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/datagramrecords.h"
+#include "settings/derived.h"
 #include "task/abstracttask.h"
 #include "task/eventwave.h"
 #include "task/rmsring.h"
@@ -112,6 +113,7 @@ private:
     static QByteArray transientBlock(const __trans_data &record);
 
     LiveData &m_data;
+    const ScaleTable m_scales; // of aggregations: as the settings stood when the task was made
     std::unique_ptr<__datagram_aggregation> m_aggregation;
     std::unique_ptr<__datagram_rms> m_rms;
     std::unique_ptr<__datagram_wave> m_wave;

@@ -17,7 +17,7 @@ void UniTask::datagramRMS_1_2(const QByteArray &bytes)
     const Call call(this);
     if (!DataTypes::fits(DatagramRMS_1_2, bytes))
         return;
-    DataTypes::datagramRMS_1_2(m_rms.get(), bytes.constData());
+    DataTypes::datagramRMS_1_2(m_rms.get(), bytes.constData(), m_settingConfig_g.derived().scales);
     if (!isLive())
         return;
     pushHalfCycles();

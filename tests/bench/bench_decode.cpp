@@ -2,6 +2,7 @@
 // does it with vectors. The decoder places each word anew, so the second is a limit that no decoder reaches.
 #include "bench/ratios.h"
 #include "device/datatypes.h"
+#include "settings/config_data.h"
 
 #include <QByteArray>
 
@@ -36,9 +37,9 @@ void decodeAggregation(benchmark::State &state)
     const QByteArray bytes = payload();
     static __datagram_aggregation record;
     benchmark::DoNotOptimize(&record);
-    DataTypes::calculateK_viw();
+    const DecodeSettings by(m_settingConfig_g.derived().scales, m_settingConfig_g.derived());
     for (auto _ : state) {
-        DataTypes::datagramAggregation(&record, bytes.constData());
+        DataTypes::datagramAggregation(&record, bytes.constData(), by);
         benchmark::ClobberMemory();
     }
 }

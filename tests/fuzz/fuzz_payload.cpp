@@ -52,8 +52,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         return 0;
     setUp(1 + data[0] % 10, 1 + data[1] % 3);
     const float scale = data[2] % 4 == 3 ? 1e30f : float(data[2]);
+    DecodeSettings by(ScaleTable(), m_settingConfig_g.derived());
     for (int c = 0; c < kChannels; ++c)
-        DataTypes::k_v[c] = DataTypes::k_i[c] = DataTypes::k_w[c] = scale;
+        by.scales.voltage[c] = by.scales.current[c] = by.scales.power[c] = scale;
     data += 3;
     size -= 3;
 
@@ -68,9 +69,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     static auto rms = std::make_unique<__datagram_rms>();
     static auto wave = std::make_unique<__datagram_wave>();
     static auto flicker = std::make_unique<__datagram_flicker>();
-    DataTypes::datagramAggregation(aggregation.get(), filled(Link::kAggregationWords).data());
+    DataTypes::datagramAggregation(aggregation.get(), filled(Link::kAggregationWords).data(), by);
     checkAggregation(*aggregation);
-    DataTypes::datagramRMS_1_2(rms.get(), filled(Link::kRmsWords).data());
+    DataTypes::datagramRMS_1_2(rms.get(), filled(Link::kRmsWords).data(), m_settingConfig_g.derived().scales);
     for (int c = 0; c < 3; ++c)
         expect(rms->voltage[c].count <= kRmsEntries && rms->current[c].count <= kRmsEntries,
                "a count beyond the record");

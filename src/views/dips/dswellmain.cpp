@@ -1,6 +1,7 @@
 #include "views/dips/dswellmain.h"
 #include "ui_dswellmain.h"
 
+#include "settings/config_data.h"
 #include "settings/dipswellinfo.h"
 #include "widgets/controls/labellook.h"
 
@@ -16,7 +17,7 @@ DswellMain::~DswellMain() = default;
 
 void DswellMain::init_parameter()
 {
-    DipSwellInfo::initInfoTimes();
+    DipSwellInfo::initInfoTimes(m_settingConfig_g.getNomFreq());
     RmsTrendPage::init_parameter();
 }
 

@@ -47,7 +47,7 @@ void HarmMain::init_parameter()
     m_quantity = Voltage;
     m_channel = GraphL1;
     m_inter = false;
-    HarmData::initHarmMaxNumb();
+    HarmData::initHarmMaxNumb(m_settingConfig_g.getNomFreq());
     restartView();
 }
 

@@ -4,17 +4,11 @@
 #include "settings/inrushinfo.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 namespace {
 
-constexpr char kPercent[] = "%1 %";
 constexpr int kLastDuration = 6;
-constexpr double kLeast = 1; // percent
-constexpr double kMostThreshold = 1000; // percent
-constexpr double kMostHysteresis = 100; // percent
-constexpr double kRounding = 1e-6; // of a step: what stands on the grid in floating point
 
 /// Keeps \a value; false if it stood there already: a key held at a bound must not write the settings file over and
 /// over.
@@ -23,17 +17,16 @@ template <typename T> bool keep(T &place, T value)
     return std::exchange(place, value) != value;
 }
 
-/// One ampere at the clamp in the shown unit.
-double shownPerAmp()
-{
-    return double(m_settingConfig_g.ratioI()) * InrushInfo::unit_ki;
-}
-
 QString nomAmpsText()
 {
-    return QStringLiteral("%1 %2").arg(
-        QString::number(InrushInfo::m_nom_amps * shownPerAmp(), 'f', InrushInfo::inrush_amps_prec),
-        *InrushInfo::inrush_unit);
+    const InrushEditing &shown = m_settingConfig_g.derived().inrush;
+    const double amps = m_settingConfig_g.getInrushNomAmps() * shown.shownPerAmp;
+    return QStringLiteral("%1 %2").arg(QString::number(amps, 'f', shown.decimals), shown.unit);
+}
+
+QString percentText(int percent)
+{
+    return QStringLiteral("%1 %").arg(percent);
 }
 
 QString durationText()
@@ -43,20 +36,6 @@ QString durationText()
                              : QString::number(seconds) + QStringLiteral(" s");
 }
 
-void changeNomAmps(int step)
-{
-    const double scale = shownPerAmp();
-    const double grid = InrushInfo::inrush_step;
-    if (!(scale > 0) || !(grid > 0))
-        return;
-    // A value between two steps, such as a quarter of the clamp's range, moves onto the grid first.
-    const double places = InrushInfo::m_nom_amps * scale / grid;
-    const double moved = (step < 0 ? std::ceil(places - kRounding) : std::floor(places + kRounding)) + step;
-    const double shown = std::clamp(moved * grid, grid, std::max(grid, InrushInfo::inrush_range));
-    if (keep(InrushInfo::m_nom_amps, shown / scale))
-        m_settingConfig_g.setInrushNomAmps(InrushInfo::m_nom_amps);
-}
-
 void changeDuration(int step)
 {
     const int moved = InrushInfo::m_duration_index + (step < 0 ? -1 : 1); // seven rows: no larger steps
@@ -64,24 +43,14 @@ void changeDuration(int step)
         m_settingConfig_g.setInrushIndex(InrushInfo::m_duration_index);
 }
 
-EditorPage::Number thresholdNumber()
+/// A field that steps the setting of a key within its editing bounds; one that stands at a bound is not written again.
+EditorPage::Row settingRow(const char *name, const char *caption, const char *key, std::function<QString()> text)
 {
-    return { [] { return InrushInfo::m_threshold; },
-             [](double percent) {
-                 InrushInfo::m_threshold = percent;
-                 m_settingConfig_g.setInrushThreshold(int(percent));
-             },
-             kLeast, kMostThreshold };
-}
-
-EditorPage::Number hysteresisNumber()
-{
-    return { [] { return InrushInfo::m_hysteresis; },
-             [](double percent) {
-                 InrushInfo::m_hysteresis = percent;
-                 m_settingConfig_g.setInrushHysteresis(int(percent));
-             },
-             kLeast, kMostHysteresis };
+    const auto step = [key](int steps) {
+        if (const auto *row = SettingConfig::row(key))
+            m_settingConfig_g.moveValue(*row, steps);
+    };
+    return { name, caption, std::move(text), step, {}, {} };
 }
 
 } // namespace
@@ -94,9 +63,11 @@ InrushMain::InrushMain(QWidget *parent)
         { Qt::Key_F5, QT_TRANSLATE_NOOP("InrushMain", "Start"), &InrushMain::goInrushStart },
     };
     setRows({
-        { "nom_amps", QT_TRANSLATE_NOOP("InrushMain", "Nominal Amps"), nomAmpsText, changeNomAmps, {}, {} },
-        numberRow("threshold", QT_TRANSLATE_NOOP("InrushMain", "Threshold"), thresholdNumber(), kPercent),
-        numberRow("hysteresis", QT_TRANSLATE_NOOP("InrushMain", "Hysteresis"), hysteresisNumber(), kPercent),
+        settingRow("nom_amps", QT_TRANSLATE_NOOP("InrushMain", "Nominal Amps"), "INRUSH_NOMAMPS", nomAmpsText),
+        settingRow("threshold", QT_TRANSLATE_NOOP("InrushMain", "Threshold"), "INRUSH_THRESHOLD",
+                   [] { return percentText(m_settingConfig_g.getInrushThreshold()); }),
+        settingRow("hysteresis", QT_TRANSLATE_NOOP("InrushMain", "Hysteresis"), "INRUSH_HYSTERESIS",
+                   [] { return percentText(m_settingConfig_g.getInrushHysteresis()); }),
         { "duration", QT_TRANSLATE_NOOP("InrushMain", "DURATION"), durationText, changeDuration, {}, {} },
         { "arming",
           QT_TRANSLATE_NOOP("InrushMain", "Switch"),
@@ -111,7 +82,7 @@ InrushMain::InrushMain(QWidget *parent)
 void InrushMain::initInrushMain()
 {
     stopRepeat();
-    InrushInfo::initInfoTimes();
+    m_settingConfig_g.initInrushLevels();
     m_switchOn = true;
     if (keep(InrushInfo::m_duration_index, 0))
         m_settingConfig_g.setInrushIndex(0);

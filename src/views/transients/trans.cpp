@@ -3,6 +3,7 @@
 #include "device/deviceinit.h"
 #include "model/transparam.h"
 #include "record/pqafile.h"
+#include "settings/config_data.h"
 #include "views/transients/transmain.h"
 #include "views/transients/transtart.h"
 #include "views/transients/transview.h"
@@ -69,7 +70,7 @@ bool trans::pressKey(int key)
 {
     if (key != Qt::Key_F11 || currentPage() != m_main)
         return ViewContainer::pressKey(key);
-    PqaFile file(kMainWindowId);
+    PqaFile file(kMainWindowId, m_settingConfig_g.derived());
     QString name = QStringLiteral("Trans");
     if (SaveDialog::save(1, name) == 1)
         file.saveSnapshot(name);

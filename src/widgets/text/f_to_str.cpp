@@ -1,6 +1,7 @@
 #include "widgets/text/f_to_str.h"
 
 #include "settings/config_data.h"
+#include "widgets/text/numberformat.h"
 
 #include <algorithm>
 #include <cmath>
@@ -33,20 +34,17 @@ int F_to_Str::precision_num(float r)
 
 QString F_to_Str::number_V(float value)
 {
-    const int row = std::clamp(m_settingConfig_g.getVoltIndex(), 0, 3);
-    const float coefficient = m_calib_data_g.data().volt[row][0]; // As required: channel U1 stands for all
-    return scaled(value, m_settingConfig_g.units().factorVolt, precision_num(coefficient));
+    return NumberFormat::volt(value, m_settingConfig_g.derived());
 }
 
 QString F_to_Str::number_A(float value)
 {
-    // As required: the decimals follow clamp and ratio; the resolution of the current range has no say.
-    return scaled(value, m_settingConfig_g.units().factorAmpere, m_settingConfig_g.currentDigits() + 1);
+    return NumberFormat::ampere(value, m_settingConfig_g.derived());
 }
 
 QString F_to_Str::number_AN(float value)
 {
-    return scaled(value, m_settingConfig_g.unitsN().factorAmpere, m_settingConfig_g.currentNDigits() + 1);
+    return NumberFormat::ampereN(value, m_settingConfig_g.derived());
 }
 
 QString F_to_Str::number_F(float value)
@@ -61,12 +59,12 @@ QString F_to_Str::number_Ang(float value)
 
 QString F_to_Str::number_P(float value)
 {
-    return scaled(value, m_settingConfig_g.units().factorWatt, 2);
+    return NumberFormat::watt(value, m_settingConfig_g.derived());
 }
 
 QString F_to_Str::number_E(float value)
 {
-    return scaled(value, m_settingConfig_g.units().factorWattHour, 3);
+    return NumberFormat::wattHour(value, m_settingConfig_g.derived());
 }
 
 QString F_to_Str::number_1(float value)

@@ -3,8 +3,8 @@
 #include <QString>
 
 /// Every number that a page prints. A value that is no number, is infinite, or is smaller than 0.0001 in magnitude
-/// counts as 0; all print in the fixed format. number_V to number_E apply the display scale of the settings, so that a
-/// page writes the value and the unit text beside it. GUI thread.
+/// counts as 0; all print in the fixed format. number_V to number_E are those of numberformat.h by the settings in use,
+/// so that a page writes the value and the unit text beside it. GUI thread.
 class F_to_Str
 {
 public:

@@ -85,6 +85,7 @@ private slots:
     void buildHasTheFolderOrderOfTheDocument();
     void includesPointDownTheFolderList();
     void everyExceptionIsStillNeeded();
+    void onlyTheListedEdgesReadTheSettingsInUse();
     void everyFolderHasAShortReadme();
     void processorIncludesNothingOfTheInstrument();
     void toolsIncludeNothingOfTheInstrument();
@@ -159,6 +160,31 @@ void TstArchitecture::everyExceptionIsStillNeeded()
         QVERIFY2(includesOf(QStringLiteral("src/") + row.value(0)).contains(row.value(1)), list(row));
         QVERIFY2(!row.value(2).isEmpty(), "an exception has its reason");
     }
+}
+
+// Pages, services and the shell ask the settings in use; what computes below them takes them as an argument.
+void TstArchitecture::onlyTheListedEdgesReadTheSettingsInUse()
+{
+    const QRegularExpression globals(QStringLiteral("\\bm_(settingConfig|calib_data|limits|userConfig)_g\\b"));
+    QSet<QString> listed;
+    const auto rows = documentTable(QStringLiteral("Settings in use"));
+    for (const QStringList &row : rows) {
+        listed.insert(row.value(0));
+        QVERIFY2(!row.value(1).isEmpty(), "an edge has its reason");
+    }
+    QSet<QString> found;
+    const auto ranks = folderRanks();
+    const auto paths = sources(QStringLiteral("src"));
+    for (const QString &path : paths) {
+        const bool owner = path.startsWith(QStringLiteral("src/settings/config_data."));
+        if (!owner && ranks.value(folderOf(path)) < ranks.value(QStringLiteral("pages"))
+            && globals.match(code(path)).hasMatch())
+            found.insert(path.mid(4));
+    }
+    const QStringList unlisted = (found - listed).values();
+    const QStringList unneeded = (listed - found).values();
+    QVERIFY2(unlisted.isEmpty(), list(unlisted));
+    QVERIFY2(unneeded.isEmpty(), list(unneeded));
 }
 
 void TstArchitecture::everyFolderHasAShortReadme()

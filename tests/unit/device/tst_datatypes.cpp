@@ -15,7 +15,7 @@ class TstDataTypes : public QObject
 
 private slots:
     void init();
-    void scalesComeFromTheTableOfTheSettings();
+    void anotherCalibrationDecodesWithoutTouchingTheOneInUse();
     void payloadFitsFromItsWholeLengthOn();
     void rmsCountIsCappedAt60AndHalved_data();
     void rmsCountIsCappedAt60AndHalved();
@@ -39,11 +39,13 @@ private slots:
     void unalignedPayloadsAreDecodedToo();
 
 private:
+    DecodeSettings by() const { return { m_scales, m_settingConfig_g.derived() }; }
     void decode(const Payload &payload)
     {
         *m_record = {};
-        DataTypes::datagramAggregation(m_record.get(), payload.data());
+        DataTypes::datagramAggregation(m_record.get(), payload.data(), by());
     }
+    ScaleTable m_scales; // of 1, unless a test sets others
     std::unique_ptr<__datagram_aggregation> m_record = std::make_unique<__datagram_aggregation>();
 };
 
@@ -53,20 +55,24 @@ void TstDataTypes::init()
         m_settingConfig_g.setJoinMode(1);
     if (m_settingConfig_g.getNomFreqSelect() != 1)
         m_settingConfig_g.setNomFreq(1);
-    for (int c = 0; c < 4; ++c)
-        DataTypes::k_v[c] = DataTypes::k_i[c] = DataTypes::k_w[c] = 1;
+    m_scales = ScaleTable();
 }
 
-void TstDataTypes::scalesComeFromTheTableOfTheSettings()
+void TstDataTypes::anotherCalibrationDecodesWithoutTouchingTheOneInUse()
 {
-    DataTypes::calculateK_viw();
-    for (int c = 0; c < 4; ++c) {
-        QCOMPARE(DataTypes::k_w[c], m_settingConfig_g.wvi()[c]);
-        QCOMPARE(DataTypes::k_v[c], m_settingConfig_g.wvi()[4 + c]);
-        QCOMPARE(DataTypes::k_i[c], m_settingConfig_g.wvi()[8 + c]);
-    }
-    // 230 V star uses the row of 79.25 V a unit.
-    QCOMPARE(DataTypes::k_v[0], 79.25f);
+    __calib_data other = m_calib_data_g.data();
+    other.volt[1][0] = 40.0f; // 230 V star uses row 1
+    other.current[3][0] = 70.0f; // 5 A x 10 mV/A uses row 3
+    const Clamp clamp("own", 5, 10000, false, true, QString());
+    const Derived derived = derive(m_settingConfig_g.values(), &clamp, nullptr, other);
+    Payload payload(Link::kAggregationWords);
+    payload.set(8, 2.0f);
+    payload.set(9, 3.0f);
+    *m_record = {};
+    DataTypes::datagramAggregation(m_record.get(), payload.data(), { derived.scales, derived });
+    NEAR(m_record->channel[0].voltage, 2 * 40.0);
+    NEAR(m_record->channel[0].current, 3 * 70.0 / 10);
+    QCOMPARE(m_settingConfig_g.derived().scales.voltage[0], 79.25f);
 }
 
 void TstDataTypes::payloadFitsFromItsWholeLengthOn()
@@ -100,7 +106,7 @@ void TstDataTypes::rmsCountIsCappedAt60AndHalved()
         payload.setInt(2 + 181 * c, word);
     __datagram_rms record = {};
     record.voltage[3].count = record.current[3].count = 77;
-    DataTypes::datagramRMS_1_2(&record, payload.data());
+    DataTypes::datagramRMS_1_2(&record, payload.data(), m_settingConfig_g.derived().scales);
     for (int c = 0; c < 3; ++c) {
         QCOMPARE(record.voltage[c].count, entries);
         QCOMPARE(record.current[c].count, entries);
@@ -123,7 +129,7 @@ void TstDataTypes::rmsValuesAreHeldToTenUnitsAndScaled()
         }
     }
     __datagram_rms record = {};
-    DataTypes::datagramRMS_1_2(&record, payload.data());
+    DataTypes::datagramRMS_1_2(&record, payload.data(), m_settingConfig_g.derived().scales);
     for (int c = 0; c < 3; ++c) {
         for (int i = 0; i < 5; ++i) {
             QCOMPARE(record.voltage[c].entry[i].value, held[i] * scales[4 + c]);
@@ -142,7 +148,7 @@ void TstDataTypes::rmsTimesAreSecondsAndMilliseconds()
     payload.setInt(entry + 3, 0xFFFFFFFF);
     payload.setInt(entry + 4, 0xFFFFFFFF);
     __datagram_rms record = {};
-    DataTypes::datagramRMS_1_2(&record, payload.data());
+    DataTypes::datagramRMS_1_2(&record, payload.data(), m_settingConfig_g.derived().scales);
     const qint64 voltage = record.voltage[1].entry[2].time, current = record.current[1].entry[2].time;
     QCOMPARE(voltage, qint64(1600000000999));
     QCOMPARE(current, qint64(4294967295) * 1001);
@@ -201,8 +207,8 @@ void TstDataTypes::voltAmpsAndCrestOfEachChannel()
     payload.setInt(1, 1);
     payload.set(2, -49.5f);
     for (int c = 0; c < 4; ++c) {
-        DataTypes::k_v[c] = 100.0f + float(c);
-        DataTypes::k_i[c] = 10.0f + float(c);
+        m_scales.voltage[c] = 100.0f + float(c);
+        m_scales.current[c] = 10.0f + float(c);
         const float raw[] = { 2.0f, 1.0f, 3.0f, 0.01f, 2.0f, -0.02f }; // words 8 to 13
         for (int i = 0; i < 6; ++i)
             payload.set(8 + 9 * c + i, raw[i]);
@@ -275,8 +281,8 @@ void TstDataTypes::harmonicsAgreeWithThePlainFormula()
             payload.set(word + 3, phase(random));
         }
         for (int c = 0; c < 4; ++c) {
-            DataTypes::k_v[c] = 50.0f + float(c);
-            DataTypes::k_i[c] = 3.0f + float(c);
+            m_scales.voltage[c] = 50.0f + float(c);
+            m_scales.current[c] = 3.0f + float(c);
         }
         decode(payload);
         const double p0 = double(payload.at(45)), f = std::fabs(double(payload.at(2)));
@@ -284,7 +290,7 @@ void TstDataTypes::harmonicsAgreeWithThePlainFormula()
             const ChannelSpectrum &spectrum = m_record->spectrum[input % 4];
             const SpectrumLine *lines = input < 4 ? spectrum.voltage : spectrum.current;
             const SpectrumLine *inter = input < 4 ? spectrum.voltageInter : spectrum.currentInter;
-            const double k = double(input < 4 ? DataTypes::k_v[input] : DataTypes::k_i[input - 4]);
+            const double k = double(input < 4 ? m_scales.voltage[input] : m_scales.current[input - 4]);
             double squares = 0;
             for (int h = 0; h < 100; ++h) {
                 const int word = 42 + 400 * input + 4 * h;
@@ -315,7 +321,7 @@ void TstDataTypes::negativeHarmonicMagnitudesAreStoredAsZero()
     }
     *m_record = {};
     memset(static_cast<void *>(m_record->spectrum), 0x55, sizeof(m_record->spectrum));
-    DataTypes::datagramAggregation(m_record.get(), payload.data());
+    DataTypes::datagramAggregation(m_record.get(), payload.data(), by());
     for (const ChannelSpectrum &spectrum : m_record->spectrum) {
         for (int h = 0; h < 100; ++h) {
             QCOMPARE(float(spectrum.voltage[h].magnitude), 0.0f);
@@ -405,7 +411,7 @@ void TstDataTypes::at400HzTwelveOrdersAreReadAndTheRestKept()
             spectrum.voltageInter[h] = { 67, 68, 69 };
         }
     }
-    DataTypes::datagramAggregation(m_record.get(), payload.data());
+    DataTypes::datagramAggregation(m_record.get(), payload.data(), by());
     const ChannelSpectrum &l2 = m_record->spectrum[1];
     QCOMPARE(float(l2.voltage[0].magnitude), 115.0f);
     QCOMPARE(float(l2.voltage[11].magnitude), 1.0f);
@@ -436,7 +442,7 @@ void TstDataTypes::energiesAreLeftAlone()
 {
     *m_record = {};
     m_record->energy[3].apparent = 12.5;
-    DataTypes::datagramAggregation(m_record.get(), balanced(230, 10, 0).data());
+    DataTypes::datagramAggregation(m_record.get(), balanced(230, 10, 0).data(), by());
     QCOMPARE(double(m_record->energy[3].apparent), 12.5);
 }
 
@@ -454,8 +460,8 @@ void TstDataTypes::randomBytesLeaveEveryDecoderSound()
         Payload payload(Link::kWaveWords);
         for (int word = 0; word < Link::kAggregationWords; ++word)
             payload.setInt(word, quint32(random()));
-        DataTypes::datagramAggregation(m_record.get(), payload.data());
-        DataTypes::datagramRMS_1_2(rms.get(), payload.data());
+        DataTypes::datagramAggregation(m_record.get(), payload.data(), by());
+        DataTypes::datagramRMS_1_2(rms.get(), payload.data(), m_scales);
         DataTypes::datagramFlicker(flicker.get(), payload.data());
         DataTypes::datagramWave(wave.get(), payload.data());
         for (const ChannelRms &row : m_record->channel) {
@@ -472,7 +478,7 @@ void TstDataTypes::unalignedPayloadsAreDecodedToo()
 {
     const QByteArray bytes = QByteArray("x") + balanced(230, 10, 30).bytes();
     *m_record = {};
-    DataTypes::datagramAggregation(m_record.get(), bytes.constData() + 1);
+    DataTypes::datagramAggregation(m_record.get(), bytes.constData() + 1, by());
     NEAR(m_record->power[3].active, 3 * 2300 * 0.8660254);
 }
 

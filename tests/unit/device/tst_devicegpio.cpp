@@ -196,7 +196,7 @@ void TstDeviceGpio::rangesFollowTheIndices()
     m_settingConfig_g.setJoinMode(1);
     m_settingConfig_g.setNomVoltStarSelect(9);
     m_settingConfig_g.setNomVoltStarCustom(volts);
-    m_settingConfig_g.initCalibIndex();
+    m_settingConfig_g.followSettings();
     m_idevice = new IDevice;
     for (int line : { 54, 58, 55, 59, 52, 48, 53, 51 })
         watch(gpio(line, "value"));

@@ -85,6 +85,7 @@ void TstIDevice::init()
     m_settingConfig_g.setNomVoltStarSelect(5);
     m_settingConfig_g.setFlickerWeightingCurve(230);
     m_calib_data_g.initCalibData();
+    m_settingConfig_g.followSettings();
     m_peer = std::make_unique<ProcessorPeer>();
 }
 
@@ -137,6 +138,7 @@ void TstIDevice::setUpFrameCarriesTheSettingsByPosition()
         calibration.zeroCurrent[i][k] = 0.001f * float(k + 1);
         calibration.volt[v][k] = 80.0f + float(k);
     }
+    m_settingConfig_g.followSettings();
     m_settingConfig_g.setTransThreshold(40);
     DeviceInit::setupADSP21479();
     const QVector<quint32> words = receiveWords();
@@ -237,6 +239,7 @@ void TstIDevice::payloadWordsThatReadAsMarkersAreEscaped()
     zero[1] = fromBits(122);
     zero[2] = fromBits(124); // nothing special
     zero[3] = fromBits(125);
+    m_settingConfig_g.followSettings();
     DeviceInit::setupADSP21479();
     const QVector<quint32> words = receiveWords();
     QCOMPARE(words.size(), 24 + 3);

@@ -34,8 +34,9 @@ private:
     void decode(const Payload &payload)
     {
         *m_record = {};
-        DataTypes::datagramAggregation(m_record.get(), payload.data());
+        DataTypes::datagramAggregation(m_record.get(), payload.data(), { m_scales, m_settingConfig_g.derived() });
     }
+    ScaleTable m_scales; // of 1, unless a test sets others
     std::unique_ptr<__datagram_aggregation> m_record = std::make_unique<__datagram_aggregation>();
 };
 
@@ -43,8 +44,7 @@ void TstPowerDecode::init()
 {
     if (m_settingConfig_g.getJoinMode() != 1)
         m_settingConfig_g.setJoinMode(1);
-    for (int c = 0; c < 4; ++c)
-        DataTypes::k_v[c] = DataTypes::k_i[c] = DataTypes::k_w[c] = 1;
+    m_scales = ScaleTable();
 }
 
 void TstPowerDecode::sequencesOfEitherRotationArePositive_data()
@@ -270,7 +270,7 @@ void TstPowerDecode::mainsSignalsInVoltsAndOfTheNominal()
 {
     Payload payload(Link::kAggregationWords);
     for (int c = 0; c < 4; ++c) {
-        DataTypes::k_v[c] = 10.0f * float(c + 1);
+        m_scales.voltage[c] = 10.0f * float(c + 1);
         payload.set(3242 + 2 * c, 2.3f);
         payload.set(3243 + 2 * c, -0.23f);
     }

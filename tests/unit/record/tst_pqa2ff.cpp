@@ -230,15 +230,17 @@ void TstPqa2FF::systemLogHoldsTimeAndText()
 
 void TstPqa2FF::openingBlocksTellTheInstrument()
 {
-    QCOMPARE(getInstrumentInfo(),
+    QCOMPARE(getInstrumentInfo({ "QUVERA", "1AA000000", QString() }),
              QStringLiteral("MODEL: QUVERA\nSN: 1AA000000\nDT: 2024-01-18 16:15:00\nSV: 2.2.6\n"
                             "FV: None\n"));
-    QCOMPARE(getSystemSetting(),
+    QCOMPARE(getSystemSetting(m_settingConfig_g.derived()),
              QStringLiteral("Fnom: 50Hz\nUnom: 230V\nJoin: 3P WYE_1\nClamp: TARN-41A;10mV/A 5A\n"
                             "Ratio: 1/1;1/1\nClampN: TARN-41A;10mV/A 5A\nRatioN: 1/1;1/1\n"));
-    m_settingConfig_g.clamps()->setCurClamp(QStringLiteral("TARN-F2"));
-    QVERIFY(getSystemSetting().contains(QStringLiteral("Clamp: TARN-F2;0.065mV/A 6000A\n")));
-    m_settingConfig_g.clamps()->setCurClamp(QStringLiteral("TARN-41A"));
+    Derived other = m_settingConfig_g.derived();
+    other.clamp = { QStringLiteral("TARN-F2"), 6000, 65, true };
+    other.ratioIN = { 100, 5 };
+    QVERIFY(getSystemSetting(other).contains(QStringLiteral("Clamp: TARN-F2;0.065mV/A 6000A\n")));
+    QVERIFY(getSystemSetting(other).endsWith(QStringLiteral("RatioN: 1/1;100/5\n")));
 }
 
 void TstPqa2FF::firmwareFollowsItsWord_data()
@@ -261,7 +263,7 @@ void TstPqa2FF::firmwareFollowsItsWord()
 
 void TstPqa2FF::channelFactorsStandVoltageCurrentPower()
 {
-    const QByteArray bytes = getChannelFactor();
+    const QByteArray bytes = getChannelFactor(m_settingConfig_g.derived().scales);
     QCOMPARE(bytes.size(), 48);
     float factors[12];
     memcpy(factors, bytes.constData(), sizeof factors);

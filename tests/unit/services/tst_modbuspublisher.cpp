@@ -56,6 +56,19 @@ private:
     std::unique_ptr<ModbusClient> m_master;
 };
 
+/// A calibration with which a converter unit is a volt, an ampere and a watt.
+static void setUnitScales()
+{
+    const Clamp *clamp = m_settingConfig_g.curClamp();
+    for (int row = 0; row < 4; ++row) {
+        for (int c = 0; c < kChannels; ++c) {
+            m_calib_data_g.data().volt[row][c] = 1;
+            m_calib_data_g.data().current[row][c] = float(clamp->ratio()) / 1000;
+        }
+    }
+    m_settingConfig_g.followSettings();
+}
+
 void TstModbusPublisher::initTestCase()
 {
     renewLive();
@@ -65,9 +78,10 @@ void TstModbusPublisher::init()
 {
     m_settingConfig_g.setJoinMode(1);
     ModbusPublisher::clear();
+    setUnitScales();
     m_task = std::make_unique<UniTask>(liveData());
-    for (int c = 0; c < kChannels; ++c)
-        DataTypes::k_v[c] = DataTypes::k_i[c] = DataTypes::k_w[c] = 1;
+    m_calib_data_g.initCalibData(); // aggregations keep the scales that the task began with
+    m_settingConfig_g.followSettings();
     ModbusPublisher::follow(m_task.get());
     m_master = std::make_unique<ModbusClient>(ModbusSlave::port());
     QVERIFY(m_master->isConnected());

@@ -178,9 +178,10 @@ private slots:
         const int others[] = { 100, 100, 12 };
         for (int select = 1; select <= 3; ++select) {
             m_settingConfig_g.setNomFreq(select);
-            LoggerInfo::initHarmMaxNumb();
-            RecordInfo::initHarmMaxNumb();
-            HarmData::initHarmMaxNumb();
+            const double hertz = m_settingConfig_g.getNomFreq();
+            LoggerInfo::initHarmMaxNumb(hertz);
+            RecordInfo::initHarmMaxNumb(hertz);
+            HarmData::initHarmMaxNumb(hertz);
             QCOMPARE(LoggerInfo::m_harm_max_numb, logger[select - 1]);
             QCOMPARE(RecordInfo::m_harm_max_numb, others[select - 1]);
             QCOMPARE(HarmData::m_harm_max_numb, others[select - 1]);
@@ -205,13 +206,13 @@ private slots:
         WaveInfo::m_duration = 30;
         for (int i = 0; i < 3; ++i) {
             WaveInfo::m_sample_index = i;
-            WaveInfo::initPointsNumbs();
+            WaveInfo::initPointsNumbs(50.0);
             QCOMPARE(WaveInfo::m_sample_times[i], rates[i]);
             QCOMPARE(WaveInfo::m_step, steps[i]);
             QCOMPARE(WaveInfo::m_points_numb, 30 * rates[i]);
         }
         WaveInfo::m_sample_index = -3;
-        WaveInfo::initPointsNumbs();
+        WaveInfo::initPointsNumbs(50.0);
         QCOMPARE(WaveInfo::m_step, 1);
         WaveInfo::m_sample_index = 0;
         WaveInfo::m_duration = 10;
@@ -285,14 +286,12 @@ private slots:
         settings.clamps()->addClamp(new Clamp("c", range, 1000, false, true, ""));
         settings.clamps()->setCurClamp("c");
         settings.setRatioIFenzi(ratio);
-        InrushInfo::changeInfoCuzClamp();
-        QTEST(*InrushInfo::inrush_unit, "unit");
-        QTEST(InrushInfo::inrush_range, "shownRange");
-        QTEST(InrushInfo::inrush_step, "step");
-        QTEST(InrushInfo::inrush_amps_prec, "decimals");
-        QCOMPARE(InrushInfo::m_nom_amps, range * 0.25);
-        QCOMPARE(InrushInfo::m_threshold, 200.0);
-        QCOMPARE(InrushInfo::m_hysteresis, 2.0);
+        settings.initInrushLevels();
+        const InrushEditing &shown = settings.derived().inrush;
+        QTEST(shown.unit, "unit");
+        QTEST(shown.range, "shownRange");
+        QTEST(shown.step, "step");
+        QTEST(shown.decimals, "decimals");
         QCOMPARE(settings.getInrushNomAmps(), range * 0.25);
         QCOMPARE(settings.getInrushThreshold(), 200);
         QCOMPARE(settings.getInrushHysteresis(), 2);
@@ -304,17 +303,17 @@ private slots:
         QVERIFY(InrushInfo::m_dura_time == InrushInfo::m_dura_time_60);
         m_settingConfig_g.clamps()->setCurClamp("TARN-45"); // 1000 A
         m_settingConfig_g.saveClampConfig();
-        QCOMPARE(InrushInfo::m_nom_amps, 250.0);
+        QCOMPARE(m_settingConfig_g.getInrushNomAmps(), 250.0);
         QCOMPARE(Config::readConfigFile(SettingConfig::filePath(), "INRUSH_NOMAMPS"), QString("250"));
     }
 
     void theInrushLevelsAreStoredOnlyWhenTheyChange()
     {
         QFile::remove(Target::path("/var/log/commands"));
-        InrushInfo::initInfoTimes();
+        m_settingConfig_g.initInrushLevels();
         QCOMPARE(RootFiles::commands(), QByteArray());
         m_settingConfig_g.setInrushThreshold(150);
-        InrushInfo::initInfoTimes();
+        m_settingConfig_g.initInrushLevels();
         QCOMPARE(Config::readConfigFile(SettingConfig::filePath(), "INRUSH_THRESHOLD"), QString("200"));
     }
 

@@ -20,13 +20,7 @@ struct Setup
         config.clampsN()->setCurClamp("testN");
         refresh();
     }
-    void refresh()
-    {
-        config.initCalibIndex();
-        config.Tmp_wvi();
-        config.clampPrecision();
-        config.clampNPrecision();
-    }
+    void refresh() { config.followSettings(); }
 };
 
 } // namespace
@@ -227,8 +221,35 @@ private slots:
     {
         SettingConfig config;
         m_calib_data_g.data().volt[1][0] = 50.0f;
-        config.Tmp_wvi();
+        config.followSettings();
         QCOMPARE(config.wvi()[4], 50.0f);
+    }
+
+    void anotherCalibrationAndOtherClampsTouchNothing()
+    {
+        SettingConfig config;
+        __calib_data other {};
+        for (int k = 0; k < 4; ++k) {
+            other.volt[1][k] = 50.0f + k; // 230 V: row 1
+            other.current[1][k] = 10.0f; // 50 A x 10 mV/A: row 1
+            other.current[2][k] = 30.0f; // 1000 A x 1 mV/A: row 2
+            other.zeroVolt[1][k] = 0.5f;
+            other.zeroCurrent[1][k] = 0.25f;
+        }
+        const Clamp clamp("own", 50, 10000, true, true, ""), clampN("ownN", 1000, 1000, false, true, "");
+        const Derived derived = derive(config.values(), &clamp, &clampN, other);
+        QCOMPARE(derived.scales.voltage[2], 52.0f);
+        QCOMPARE(derived.scales.current[0], 1.0f);
+        QCOMPARE(derived.scales.current[3], 30.0f);
+        QCOMPARE(derived.scales.power[0], 50.0f);
+        QCOMPARE(derived.zeroVolt[3], 0.5f);
+        QCOMPARE(derived.zeroCurrent[0], 0.25f);
+        QCOMPARE(derived.clamp.name, QString("own"));
+        QVERIFY(derived.clamp.flexible && !derived.clampN.flexible);
+        QCOMPARE(derived.inrush.nomAmps, 12.5);
+        QCOMPARE(config.derived().scales.voltage[2], 79.25f);
+        QCOMPARE(config.derived().clamp.name, QString("TARN-41A"));
+        QCOMPARE(derive(config.values(), nullptr, nullptr, other).scales.current[0], 0.0f);
     }
 
     void aClampWithoutOutputMeasuresNothing()
@@ -366,8 +387,8 @@ private slots:
     void theDecimalsFollowClampAndRatio()
     {
         Setup setup(5, 10000, 1000, 1000);
-        QCOMPARE(setup.config.clampPrecision(), 1); // 10000 is above 1e3
-        QCOMPARE(setup.config.clampNPrecision(), 0); // 1000 is above 100
+        QCOMPARE(setup.config.currentDigits(), 1); // 10000 is above 1e3
+        QCOMPARE(setup.config.currentNDigits(), 0); // 1000 is above 100
         setup.config.setRatioIFenmu(2); // 20000
         QCOMPARE(setup.config.currentDigits(), 2);
         setup.config.setRatioINFenzi(100); // 10: base -1, in kA plus 3

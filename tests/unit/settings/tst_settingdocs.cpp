@@ -15,6 +15,23 @@ template <typename Values> QString line(const QString &file, const SettingRow<Va
         .arg(row.key, file, row.type, row.defaultText, bounds, row.meaning);
 }
 
+QString editLine(const SettingRow<SettingValues> &row)
+{
+    static const char *const names[] = { "derived", "ranges", "processor", "modbus", "tables", "task" };
+    QStringList follows;
+    for (int bit = 0; bit < 6; ++bit) {
+        if (row.follows >> bit & 1)
+            follows << names[bit];
+    }
+    const EditRule &edit = row.edit;
+    return QStringLiteral("| `%1` | %2 | %3 | %4 | %5 | %6 | %7 |")
+        .arg(row.key, QString::number(edit.lowest, 'g', 9), QString::number(edit.highest, 'g', 9),
+             QString::number(edit.step), *edit.unit ? QString(edit.unit) : QStringLiteral("none"),
+             edit.ticksPerStep ? QStringLiteral("%1 ticks, %2").arg(edit.ticksPerStep).arg(edit.largestStep)
+                               : QStringLiteral("no"),
+             follows.isEmpty() ? QStringLiteral("none") : follows.join(", "));
+}
+
 } // namespace
 
 /// The page docs/settings.md says what the tables of the code say.
@@ -36,6 +53,16 @@ private slots:
         for (int i = 0; i < qMin(found.size(), expected.size()); ++i)
             QCOMPARE(found.at(i), expected.at(i));
         QCOMPARE(found.size(), expected.size());
+    }
+
+    void theTableOfEditingIsThatOfTheCode()
+    {
+        QStringList expected;
+        for (const auto &row : SettingConfig::rows()) {
+            if (row.edit.highest > row.edit.lowest)
+                expected << editLine(row);
+        }
+        QCOMPARE(m_page.split('\n').filter(QRegularExpression("^\\| `[A-Z0-9_]+` \\| [0-9.]+ \\|")), expected);
     }
 
     void theTableOfLanguagesIsThatOfTheCode()

@@ -87,7 +87,8 @@ int main(int argc, char **argv)
                QCoreApplication::instance() != nullptr, m_settingConfig_g.getJoinMode(), m_settingConfig_g.getNomVolt(),
                m_settingConfig_g.getNomFreq(), m_settingConfig_g.getVoltIndex(), double(m_settingConfig_g.wvi()[4]),
                m_userConfig_g.getLang(), qPrintable(PhaseColor::digits()), qPrintable(m_limits_g.activeLimitsName()),
-               int(g_events_list.isEmpty()), qPrintable(*InrushInfo::inrush_unit), InrushInfo::m_rms_numb_per_sec);
+               int(g_events_list.isEmpty()), qPrintable(m_settingConfig_g.derived().inrush.unit),
+               InrushInfo::m_rms_numb_per_sec);
         return 0;
     }
     QCoreApplication application(argc, argv);

@@ -98,7 +98,8 @@ void TstInrush::setClamp(int range, int ratio)
     auto *clamp = m_settingConfig_g.clamps()->getCurClamp();
     clamp->setRange(range);
     clamp->setRatio(ratio);
-    InrushInfo::initInfoTimes();
+    m_settingConfig_g.followSettings();
+    m_settingConfig_g.initInrushLevels();
 }
 
 void TstInrush::feed(int count, float amps)
@@ -148,7 +149,7 @@ void TstInrush::nominalAmpsMoveByTheClampsStep()
     QCOMPARE(text(mainPage(), "nom_amps"), QStringLiteral("260 A"));
     press(mainPage(), Left, 2);
     QCOMPARE(text(mainPage(), "nom_amps"), QStringLiteral("240 A"));
-    QCOMPARE(InrushInfo::m_nom_amps, 240.0);
+    QCOMPARE(m_settingConfig_g.getInrushNomAmps(), 240.0);
 
     setClamp(5, 10000); // steps of a milliampere
     beginRun(*m_page);
@@ -174,10 +175,10 @@ void TstInrush::aValueBetweenTwoStepsMovesOntoTheGrid()
     setClamp(150, 1000); // a quarter is 37.5 A, steps are 1 A
     beginRun(*m_page);
     press(mainPage(), Right);
-    QCOMPARE(InrushInfo::m_nom_amps, 38.0);
-    InrushInfo::m_nom_amps = 37.5;
+    QCOMPARE(m_settingConfig_g.getInrushNomAmps(), 38.0);
+    m_settingConfig_g.setInrushNomAmps(37.5);
     press(mainPage(), Left);
-    QCOMPARE(InrushInfo::m_nom_amps, 37.0);
+    QCOMPARE(m_settingConfig_g.getInrushNomAmps(), 37.0);
 }
 
 void TstInrush::thresholdStaysBetweenOneAndAThousandPercent()
@@ -205,10 +206,10 @@ void TstInrush::heldKeyGrowsToTwentyPercentPerTick()
 {
     press(mainPage(), Down);
     hold(mainPage(), Right, 11);
-    QCOMPARE(InrushInfo::m_threshold, 200.0 + 1 + 3 * 1 + 3 * 5 + 3 * 10 + 2 * 20);
+    QCOMPARE(m_settingConfig_g.getInrushThreshold(), 200 + 1 + 3 * 1 + 3 * 5 + 3 * 10 + 2 * 20);
     release(mainPage(), Right);
     press(mainPage(), Left);
-    QCOMPARE(InrushInfo::m_threshold, 288.0);
+    QCOMPARE(m_settingConfig_g.getInrushThreshold(), 288);
 }
 
 void TstInrush::durationHasSevenRows()

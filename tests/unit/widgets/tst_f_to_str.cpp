@@ -1,5 +1,6 @@
 #include "settings/config_data.h"
 #include "widgets/text/f_to_str.h"
+#include "widgets/text/numberformat.h"
 
 #include <QtTest>
 
@@ -16,6 +17,7 @@ private slots:
     void voltageDecimalsFollowTheRange_data();
     void voltageDecimalsFollowTheRange();
     void voltageAndCurrentKeepTheSignOfNegativeValues();
+    void aRecordOfOnesOwnDecidesUnitsAndDecimals();
     void voltagePrintsInTheUnitInForce();
     void currentDecimalsAreTheClampsPlusOne();
     void powerAndEnergyAreScaled();
@@ -100,16 +102,34 @@ void TstFToStr::voltageAndCurrentKeepTheSignOfNegativeValues()
     QVERIFY(F_to_Str::number_AN(-12.5f).startsWith(QLatin1Char('-')));
 }
 
+void TstFToStr::aRecordOfOnesOwnDecidesUnitsAndDecimals()
+{
+    Derived by;
+    by.voltGain[0] = 667.0f; // 0.1 V a count
+    by.units.factorVolt = 0.001;
+    by.units.factorAmpere = 1000.0;
+    by.units.factorWatt = 1e-6;
+    by.units.factorWattHour = 0.001;
+    by.unitsN.factorAmpere = 1.0;
+    by.currentDigits = 0;
+    by.currentNDigits = 2;
+    QCOMPARE(NumberFormat::volt(12340.0f, by), QStringLiteral("12.3"));
+    QCOMPARE(NumberFormat::ampere(0.25f, by), QStringLiteral("250.0"));
+    QCOMPARE(NumberFormat::ampereN(0.25f, by), QStringLiteral("0.250"));
+    QCOMPARE(NumberFormat::watt(2500000.0f, by), QStringLiteral("2.50"));
+    QCOMPARE(NumberFormat::wattHour(1500.0f, by), QStringLiteral("1.500"));
+    QCOMPARE(NumberFormat::watt(NAN, by), QStringLiteral("0.00"));
+}
+
 void TstFToStr::voltagePrintsInTheUnitInForce()
 {
     // A fresh instrument: 230 V (scale "V"), 79.25 V per converter volt in its range, so two decimals.
     m_calib_data_g.initCalibData();
     m_settingConfig_g.loadSettingConfig();
-    const int row = m_settingConfig_g.getVoltIndex();
-    m_calib_data_g.data().volt[row][0] = 79.25f;
     QCOMPARE(m_settingConfig_g.units().volt, QStringLiteral("V"));
     QCOMPARE(F_to_Str::number_V(230.456f), QStringLiteral("230.46"));
-    m_calib_data_g.data().volt[row][0] = 667.0f;
+    m_calib_data_g.data().volt[m_settingConfig_g.getVoltIndex()][0] = 667.0f;
+    m_settingConfig_g.followSettings();
     QCOMPARE(F_to_Str::number_V(-230.456f), QStringLiteral("-230.5"));
     m_calib_data_g.initCalibData();
 
