@@ -9,7 +9,7 @@ usage()
 Usage: ./run.sh [options]
   --fresh             start with a new desk root: factory settings, empty storage
   --root DIR          the folder that stands for the board's "/" (default: build/desk, kept between runs)
-  --scenario NAME     what stands at the inputs: a file, or a name of processor/scenarios (default: nominal)
+  --scenario NAME     what stands at the inputs: a file, or a name of processor/scenarios (default: living)
   --speed N           let time run N times faster
   --modbus-port N     TCP port of the Modbus server (default 1502; the board's is 502)
   --remote-port N     UDP port of the remote control (default 3527)
@@ -22,7 +22,7 @@ EOF
 
 root=$top/build/desk fresh= offscreen= build_only=
 modbus_port=${QUVERA_MODBUS_PORT:-1502} remote_port=${QUVERA_REMOTE_PORT:-3527}
-scenario=
+scenario= replay=
 processor_options=()
 value() { case "${2:-}" in ''|--*) die "option $1 needs a value" ;; esac; printf '%s' "$2"; }
 while [ $# -gt 0 ]; do
@@ -36,6 +36,7 @@ while [ $# -gt 0 ]; do
     --modbus-port) modbus_port=$(value "$@") || exit; shift ;;
     --remote-port) remote_port=$(value "$@") || exit; shift ;;
     --speed|--seed|--record|--replay|--log-frames)
+        [ "$1" != --replay ] || replay=yes
         processor_options+=("$1" "$(value "$@")") || exit; shift ;;
     *) die "unknown option $1 (./run.sh --help lists them)" ;;
     esac
@@ -49,6 +50,7 @@ case "$root" in /*) ;; *) root=$PWD/$root ;; esac
 case "$root" in
 *[!A-Za-z0-9_./+@%,-]*) die "the root $root holds blanks or other signs of the shell; choose another with --root" ;;
 esac
+[ -n "$scenario$replay" ] || scenario=living # a recording is its own supply
 if [ -n "$scenario" ] && [ ! -f "$scenario" ]; then
     [ -f "$top/processor/scenarios/$scenario.json" ] ||
         die "no scenario $scenario (names: $(cd "$top/processor/scenarios" && echo *.json | sed 's/\.json//g'))"

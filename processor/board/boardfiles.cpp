@@ -14,6 +14,9 @@ namespace {
 constexpr char kGpio[] = "/sys/class/gpio/";
 constexpr char kGauge[] = "/sys/bus/iio/devices/iio:device0/in_voltage0_raw";
 constexpr char kBackLight[] = "/sys/class/backlight/backlight/brightness";
+constexpr char kSettings[] = "/mnt/userfs/sys/setting.conf";
+constexpr char kWiringKey[] = "JOINMODE=";
+constexpr int kWirings = 10;
 constexpr char kCarrier[] = "/sys/class/net/eth0/carrier";
 
 // The gauge counts 1/4096 of 1.8 V; a divider of 1.5 and a factor of 11.5 lie between it and the battery.
@@ -118,6 +121,20 @@ RangeSelectors BoardFiles::ranges(const RangeSelectors &last) const
     ranges.phaseCurrent = selector(kPhaseCurrent, last.phaseCurrent);
     ranges.neutralCurrent = selector(kNeutralCurrent, last.neutralCurrent);
     return ranges;
+}
+
+int BoardFiles::wiring() const
+{
+    QFile file(path(QLatin1String(kSettings)));
+    int wiring = 0;
+    if (file.open(QIODevice::ReadOnly)) {
+        const QList<QByteArray> lines = file.read(1 << 16).split('\n');
+        for (const QByteArray &line : lines) { // the last one counts, as for the instrument
+            if (line.startsWith(kWiringKey))
+                wiring = line.mid(int(sizeof kWiringKey) - 1).trimmed().toInt();
+        }
+    }
+    return wiring >= 1 && wiring <= kWirings ? wiring : 0;
 }
 
 int BoardFiles::gaugeReading(double volts)

@@ -46,6 +46,10 @@ public:
     /// Value of a line: 0 or 1, nothing when its file is missing or holds neither.
     std::optional<int> line(int gpio) const;
 
+    /// The wiring that the instrument is set to, 1 to 10, from its settings; 0 when they hold none. Whoever connects
+    /// the instrument looks there too.
+    int wiring() const;
+
     bool setBattery(double volts);
     bool setCharger(Charger charger);
     bool setNetwork(bool up);

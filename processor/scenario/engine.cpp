@@ -138,6 +138,15 @@ void Engine::watchClock()
     m_clockSetAt = QDateTime::currentMSecsSinceEpoch();
 }
 
+// The frame names what the processor works out from the inputs; which leads are plugged in stands in the settings only.
+void Engine::watchSetup()
+{
+    if (!m_simulator || m_setupSeen == m_link.setupCount())
+        return;
+    m_setupSeen = m_link.setupCount();
+    m_simulator->setWiring(m_files.wiring());
+}
+
 void Engine::begin()
 {
     m_begun = true;
@@ -159,6 +168,7 @@ int Engine::run()
         const Pacer::Clock::time_point now = Pacer::Clock::now();
         readBoard(now);
         watchClock();
+        watchSetup();
         if (!m_begun && m_link.needsTime())
             begin();
         Pacer::Nanoseconds left = kIdleWait;

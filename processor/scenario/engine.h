@@ -44,6 +44,7 @@ private:
     void wait(Pacer::Nanoseconds time);
     void serve();
     void watchClock();
+    void watchSetup();
     void begin();
     void advance();
     void advanceReplay();
@@ -71,6 +72,7 @@ private:
     QString m_scenarioName;
     board::RangeSelectors m_ranges;
     unsigned m_clockSeen = 0; // clock changes of the link
+    unsigned m_setupSeen = 0; // set-ups of the link
     qint64 m_clockSetAt = 0; // host ms of the last one
     double m_replaySeconds = 0.0;
     bool m_begun = false;

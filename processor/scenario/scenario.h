@@ -47,6 +47,8 @@ struct Scenario
     std::optional<quint64> seed;
     processor::ProcessorSetup setup; // until the instrument sends its own
     processor::SignalSpec signal = processor::SignalSpec::threePhase(230.0, 50.0);
+    /// The signal is that of a star at the set-up's nominal frequency, and becomes what the instrument is set to.
+    bool followsSetup = false;
     FrontEndSpec frontEnd;
     std::vector<TimedEvent> events;
     std::vector<Step> steps;

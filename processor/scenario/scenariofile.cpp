@@ -205,6 +205,7 @@ void readScenario(JsonErrors *errors, const QString &folder, const QJsonValue &v
     section("setup", [&](const QJsonValue &one) { readSetup(errors, one, &scenario->setup); });
     section("signal",
             [&](const QJsonValue &one) { scenario->signal = readSignal(errors, QStringLiteral("signal"), one); });
+    scenario->followsSetup = keys.flag(QStringLiteral("followSetup"), false);
     section("frontEnd", [&](const QJsonValue &one) { readFrontEnd(errors, folder, one, &scenario->frontEnd); });
     section("clock", [&](const QJsonValue &one) { readClock(errors, one, scenario); });
     section("link", [&](const QJsonValue &one) { readLink(errors, one, scenario); });

@@ -1,6 +1,7 @@
 #include "scenario/simulator.h"
 
 #include "signal/eventplay.h"
+#include "signal/wiredsupply.h"
 
 #include <QFile>
 
@@ -32,9 +33,9 @@ constexpr double kDeliveredClamp = 10000.0;
 } // namespace
 
 Simulator::Simulator(const Scenario &scenario, quint64 seed, wire::ProcessorLink *link)
-    : m_scenario(scenario), m_link(link), m_signal(withoutEvents(scenario.signal)), m_synthesiser(m_signal, seed),
-      m_frontEnd(seed), m_chain(link->setup(), *link), m_setupSeen(link->setupCount() - 1),
-      m_clockSeen(link->clockCount() - 1)
+    : m_scenario(scenario), m_link(link), m_supply(withoutEvents(scenario.signal)), m_signal(m_supply),
+      m_synthesiser(m_signal, seed), m_frontEnd(seed), m_chain(link->setup(), *link),
+      m_setupSeen(link->setupCount() - 1), m_clockSeen(link->clockCount() - 1)
 {
     const FrontEndSpec &given = scenario.frontEnd;
     if (given.noise)
@@ -70,6 +71,7 @@ void Simulator::followLink()
         const processor::ProcessorSetup &setup = m_link->setup();
         m_chain.setSetup(setup);
         m_frontEnd.setRogowski(m_scenario.frontEnd.rogowski.value_or(setup.flexibleClamp), setup.nominalFrequency);
+        followSetup();
     }
     if (m_clockSeen != m_link->clockCount()) {
         m_clockSeen = m_link->clockCount();
@@ -102,8 +104,12 @@ void Simulator::takeDue(double until, QStringList *commands)
 {
     for (Step &step : m_scenario.steps) {
         while (step.at < until) {
-            if (step.signal)
-                setSignal(*step.signal);
+            if (step.signal) {
+                m_supply = withoutEvents(*step.signal);
+                m_signal = m_supply;
+                applySignal();
+                followSetup();
+            }
             if (!step.tell.isEmpty() && commands)
                 commands->append(step.tell);
             step.at = step.every > 0.0 ? step.at + step.every : std::numeric_limits<double>::infinity();
@@ -150,8 +156,24 @@ void Simulator::clearEvents()
     m_synthesiser.clearEvents();
 }
 
+void Simulator::setWiring(int wiring)
+{
+    m_wiring = wiring;
+    followSetup();
+}
+
+void Simulator::followSetup()
+{
+    if (!m_scenario.followsSetup)
+        return;
+    m_signal = processor::wiredSupply(m_supply, m_wiring);
+    m_signal.frequencyHz += m_link->setup().nominalFrequency - m_scenario.setup.nominalFrequency;
+    applySignal();
+}
+
 void Simulator::setSignal(const processor::SignalSpec &signal)
 {
+    m_scenario.followsSetup = false;
     m_signal = withoutEvents(signal);
     applySignal();
 }

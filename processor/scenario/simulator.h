@@ -46,9 +46,13 @@ public:
     /// Begins \a event so many seconds from now. False, and nothing begins, while kMostRunning are not over.
     bool addEvent(processor::SignalEvent event, double secondsFromNow);
     void clearEvents();
-    /// The steady signal, without events. Running events go on when it is replaced.
+    /// The steady signal, without events. Running events go on when it is replaced. One that is set stays as it is,
+    /// whatever set-up the scenario's own would have followed.
     const processor::SignalSpec &signal() const { return m_signal; }
     void setSignal(const processor::SignalSpec &signal);
+
+    /// The instrument's wiring, 1 to 10, which a supply that follows the set-up takes; 0: not known, a star.
+    void setWiring(int wiring);
 
     processor::FrontEnd &frontEnd() { return m_frontEnd; }
     void setRanges(const board::RangeSelectors &ranges);
@@ -64,11 +68,14 @@ private:
     void takeDue(double until, QStringList *commands);
     void begin(const processor::SignalEvent &event);
     void forgetOver();
+    void followSetup();
     void applySignal();
 
     Scenario m_scenario; // times of its events and steps move on as they recur
     wire::ProcessorLink *m_link;
-    processor::SignalSpec m_signal;
+    processor::SignalSpec m_supply; // as the scenario describes it
+    processor::SignalSpec m_signal; // as it stands at the inputs
+    int m_wiring = 0;
     processor::Synthesiser m_synthesiser;
     processor::FrontEnd m_frontEnd;
     processor::MeasurementChain m_chain;

@@ -37,7 +37,7 @@ namespace {
 
 /// A scenario that has every key.
 const char kEveryKey[] = R"({
-        "name": "all", "description": "d", "seed": 9,
+        "name": "all", "description": "d", "seed": 9, "followSetup": true,
         "setup": { "nominal": 60, "lamp": 120, "wiring": 1 },
         "frontEnd": { "noise": 0.0, "clamp": 10000, "neutralClamp": 500, "rogowski": true },
         "clock": { "start": "2024-01-18T12:00:00", "bds": true },
@@ -74,6 +74,7 @@ void TstProcessorScenario::keysOfTheScenarioArriveWhereTheyBelong()
     QVERIFY(*scenario->frontEnd.rogowski);
     QCOMPARE(scenario->clockStart, qint64(1705579200000));
     QVERIFY(scenario->bds);
+    QVERIFY(scenario->followsSetup);
     QCOMPARE(scenario->events.at(0).every, 5.0);
     QCOMPARE(scenario->events.at(0).event.percent, 60.0); // 40 percent are left
     QCOMPARE(scenario->events.at(0).event.startPhaseDeg, 90.0);
@@ -144,10 +145,10 @@ void rowsOfWrongFiles()
     QTest::newRow("no JSON") << QByteArray("{\n  \"seed\": x }") << "s.json: line 2, column 11: illegal number";
     QTest::newRow("empty") << QByteArray() << "s.json: line 1, column 1: illegal value";
     QTest::newRow("a list") << QByteArray("[]") << "s.json: expected an object, found a list";
-    QTest::newRow("unknown key")
-        << QByteArray(R"({"sinal": {}})")
-        << "s.json: sinal: unknown key, expected one of clock, description, events, frontEnd, link, name, seed, setup, "
-           "signal, steps";
+    QTest::newRow("unknown key") << QByteArray(R"({"sinal": {}})")
+                                 << "s.json: sinal: unknown key, expected one of clock, description, events, "
+                                    "followSetup, frontEnd, link, name, seed, "
+                                    "setup, signal, steps";
     QTest::newRow("text for a number") << QByteArray(R"({"signal": {"f": "50"}})")
                                        << "s.json: signal.f: expected a number from 10 to 1000, found \"50\"";
     QTest::newRow("number out of bounds")
