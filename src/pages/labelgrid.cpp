@@ -48,15 +48,17 @@ ChannelLabels::LabelRow LabelGrid::addHeaders(QWidget *form, int top, int header
     return headers;
 }
 
-void ValueStrip::add(QWidget *form, const char *caption, const char *value, int count) const
+ValueStrip::Labels ValueStrip::add(QWidget *form, const char *caption, const char *value, int count) const
 {
     constexpr int kHeight = 30;
     constexpr int kTextSize = 20;
-    for (int c = 0; c < count; ++c) {
+    Labels labels;
+    for (int c = 0; c < std::min(count, int(kChannels)); ++c) {
         const int x = left + c * pitch;
-        addLabel(form, QString::fromLatin1(caption).arg(c + 1), QRect(x, top, captionWidth, kHeight), kTextSize,
-                 Qt::AlignLeft);
-        addLabel(form, QString::fromLatin1(value).arg(c + 1), QRect(x + captionWidth, top, valueWidth, kHeight),
-                 kTextSize, Qt::AlignLeft);
+        labels.captions[c] = addLabel(form, QString::fromLatin1(caption).arg(c + 1),
+                                      QRect(x, top, captionWidth, kHeight), kTextSize, Qt::AlignLeft);
+        labels.values[c] = addLabel(form, QString::fromLatin1(value).arg(c + 1),
+                                    QRect(x + captionWidth, top, valueWidth, kHeight), kTextSize, Qt::AlignLeft);
     }
+    return labels;
 }

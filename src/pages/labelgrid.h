@@ -37,6 +37,12 @@ struct LabelGrid
 /// A line of pairs of caption and value below a chart, one for each channel.
 struct ValueStrip
 {
+    struct Labels
+    {
+        ChannelLabels::LabelRow captions {};
+        ChannelLabels::LabelRow values {};
+    };
+
     int left; // of the first caption
     int pitch; // from one caption to the next
     int captionWidth;
@@ -44,6 +50,6 @@ struct ValueStrip
     int top = 368;
 
     /// Labels by number: "%1" of the patterns is 1 to \a count.
-    void add(QWidget *form, const char *caption = "D%1_Caption", const char *value = "D%1_Value",
-             int count = kChannels) const;
+    Labels add(QWidget *form, const char *caption = "D%1_Caption", const char *value = "D%1_Value",
+               int count = kChannels) const;
 };

@@ -1,10 +1,11 @@
 #include "pages/rmstrendpage.h"
+#include "ui_rmstrendform.h"
 
 #include "settings/config_data.h"
 #include "widgets/controls/keyrepeat.h"
 #include "widgets/charts/cursortrendchart.h"
 #include "widgets/text/f_to_str.h"
-#include "widgets/controls/softkeybuttons.h"
+#include "widgets/controls/labellook.h"
 
 #include <QLabel>
 
@@ -13,8 +14,18 @@
 
 namespace {
 constexpr int kTicksPerStep = 3;
+constexpr QRect kChartPlace(16, 32, 609, 317);
+constexpr ValueStrip kValues = { 16, 154, 50, 100 };
 constexpr int kPage = 600; // values by which the window moves when the cursor leaves it
 }
+
+RmsTrendPage::RmsTrendPage(_quvera_ui_type type, const LiveData &data, QWidget *parent)
+    : LivePage(type, parent), m_data(data), m_ui(new Ui::RmsTrendForm)
+{
+    m_ui->setupUi(this);
+}
+
+RmsTrendPage::~RmsTrendPage() = default;
 
 void RmsTrendPage::setUp(CursorTrendChart *chart)
 {
@@ -23,12 +34,13 @@ void RmsTrendPage::setUp(CursorTrendChart *chart)
         { Qt::Key_F3, nullptr, &RmsTrendPage::toggleCursor }, { Qt::Key_F4, nullptr, &RmsTrendPage::toggleZoom },
         { Qt::Key_Left, nullptr, &RmsTrendPage::pressLeft },  { Qt::Key_Right, nullptr, &RmsTrendPage::pressRight },
     };
+    setObjectName(QString::fromLatin1(metaObject()->className()));
     m_chart = chart;
-    m_cursorButton = findChild<Btn2 *>(QStringLiteral("btn_f3"));
-    m_zoomButton = findChild<Btn3 *>(QStringLiteral("btn_f4"));
-    m_eventsLabel = findChild<QLabel *>(QStringLiteral("events_count"));
-    m_captions = ChannelLabels::numberedRow(this, "D%1_Caption");
-    m_values = ChannelLabels::numberedRow(this, "D%1_Value");
+    m_chart->setParent(this);
+    m_chart->setObjectName(QStringLiteral("trend"));
+    m_chart->setGeometry(kChartPlace);
+    m_labels = kValues.add(this);
+    LabelLook::dress(this);
     m_repeat = new KeyRepeat(this, kTicksPerStep);
     connect(m_repeat, &KeyRepeat::repeated, this, &RmsTrendPage::changeCursorPos);
     setKeys(keys);
@@ -62,14 +74,14 @@ void RmsTrendPage::retranslateUi()
 {
     LivePage::retranslateUi();
     setKeyCaption(2, tr("Events"));
-    setText(findChild<QLabel *>(QStringLiteral("events_t")), tr("EVENTS :"));
+    setText(m_ui->events_t, tr("EVENTS :"));
     showType();
     showCurVal(); // on hold no refresh would bring the values back
 }
 
 void RmsTrendPage::showEventsCounts(int count)
 {
-    setText(m_eventsLabel, QString::number(count));
+    setText(m_ui->events_count, QString::number(count));
 }
 
 const RmsTrendPage::Lists &RmsTrendPage::shownLists() const
@@ -89,9 +101,9 @@ void RmsTrendPage::showType()
 {
     const DisplayUnits &units = m_settingConfig_g.units();
     setKeyCaption(1, m_quantity == Current ? tr("I(%1)").arg(units.ampere) : tr("U(%1)").arg(units.volt));
-    ChannelLabels::clear(m_captions);
-    ChannelLabels::clear(m_values);
-    ChannelLabels::showHeaders(m_captions, QStringLiteral(":"));
+    ChannelLabels::clear(m_labels.captions);
+    ChannelLabels::clear(m_labels.values);
+    ChannelLabels::showHeaders(m_labels.captions, QStringLiteral(":"));
 }
 
 void RmsTrendPage::showTrend()
@@ -118,7 +130,7 @@ void RmsTrendPage::showCurVal()
     float values[kChannels];
     for (int c = 0; c < kChannels; ++c)
         values[c] = RmsTrend::valueAt(shownLists()[c], m_window, m_cursorOn ? m_position : 1);
-    ChannelLabels::showValues(m_values, values, m_quantity == Current ? F_to_Str::number_A : F_to_Str::number_V);
+    ChannelLabels::showValues(m_labels.values, values, m_quantity == Current ? F_to_Str::number_A : F_to_Str::number_V);
 }
 
 void RmsTrendPage::showCursor()
@@ -131,12 +143,12 @@ void RmsTrendPage::showCursor()
     if (m_chart->cursorFlags() != flags)
         m_chart->setCursorFlags(flags);
     showChartCursor(m_position);
-    m_cursorButton->setBtnFlag(m_cursorOn);
+    m_ui->btn_f3->setBtnFlag(m_cursorOn);
 }
 
 void RmsTrendPage::showZoom()
 {
-    m_zoomButton->setBtnFlag(m_zoomOn);
+    m_ui->btn_f4->setBtnFlag(m_zoomOn);
 }
 
 void RmsTrendPage::showScaleList()

@@ -2,14 +2,18 @@
 
 #include "model/livedata.h"
 #include "model/trendzoom.h"
-#include "pages/channellabels.h"
-#include "pages/rmstrend.h"
+#include "pages/labelgrid.h"
 #include "pages/livepage.h"
+#include "pages/rmstrend.h"
 
 #include <QVector>
 
-class Btn2;
-class Btn3;
+#include <memory>
+
+namespace Ui {
+class RmsTrendForm;
+}
+
 class CursorTrendChart;
 class KeyRepeat;
 struct __trend_chart_data;
@@ -23,6 +27,8 @@ class RmsTrendPage : public LivePage
 
 public:
     enum Quantity { Voltage = 1, Current = 2 };
+
+    ~RmsTrendPage() override;
 
     int quantity() const { return m_quantity; }
     bool cursorOn() const { return m_cursorOn; }
@@ -39,10 +45,10 @@ public slots:
     void showEventsCounts(int count);
 
 protected:
-    RmsTrendPage(_quvera_ui_type type, const LiveData &data, QWidget *parent) : LivePage(type, parent), m_data(data) { }
+    RmsTrendPage(_quvera_ui_type type, const LiveData &data, QWidget *parent);
 
-    /// Labels of the form are found by their names; the keys F1 to F4, left and right get their actions. To be called
-    /// once, after the form exists.
+    /// Puts \a chart into its place in the form and takes it over; the keys F1 to F4, left and right get their actions.
+    /// To be called once.
     void setUp(CursorTrendChart *chart);
 
     /// The lists that the page shows.
@@ -81,13 +87,10 @@ private:
     const Lists &shownLists() const;
 
     const LiveData &m_data;
+    std::unique_ptr<Ui::RmsTrendForm> m_ui;
     CursorTrendChart *m_chart = nullptr;
-    Btn2 *m_cursorButton = nullptr;
-    Btn3 *m_zoomButton = nullptr;
-    QLabel *m_eventsLabel = nullptr;
     KeyRepeat *m_repeat = nullptr;
-    ChannelLabels::LabelRow m_captions {};
-    ChannelLabels::LabelRow m_values {};
+    ValueStrip::Labels m_labels;
 
     int m_quantity = 0; // 0 only before the first run
     bool m_cursorOn = true;

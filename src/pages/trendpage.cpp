@@ -7,23 +7,18 @@
 #include <QLabel>
 
 TrendPage::TrendPage(_quvera_ui_type type, const LiveData &data, const std::vector<Quantity> &cycle, QWidget *parent)
-    : LivePage(type, parent), m_data(data), m_cycle(cycle)
+    : TrendChartPage(type, parent), m_data(data), m_cycle(cycle)
 { }
 
-void TrendPage::initTrend(const QStringList &axis, const char *chart, const char *captionEnd)
+void TrendPage::initTrend(const ValueStrip &strip, const char *chart, const char *captionEnd)
 {
-    // The chart has no meta-object of its own: it is found by its name.
-    m_chart = static_cast<VifTrendChart *>(findChild<QWidget *>(QLatin1String(chart)));
     m_captionEnd = QLatin1String(captionEnd);
-    m_typeLabel = findChild<QLabel *>(QStringLiteral("type"));
-    m_captions = ChannelLabels::numberedRow(this, "D%1_Caption");
-    m_values = ChannelLabels::numberedRow(this, "D%1_Value");
-    m_chart->setFullScale(axis);
+    setUpChart({ "10m", "8m", "6m", "4m", "2m" }, chart, strip.add(this));
 }
 
 void TrendPage::init_parameter()
 {
-    LivePage::init_parameter();
+    TrendChartPage::init_parameter();
     initTrendFlags();
     showType();
     showTrend();
@@ -31,7 +26,7 @@ void TrendPage::init_parameter()
 
 void TrendPage::retranslateUi()
 {
-    LivePage::retranslateUi();
+    TrendChartPage::retranslateUi();
     initTrendFlags();
     showType();
     showValue(); // on hold no refresh would bring it back
@@ -47,23 +42,23 @@ void TrendPage::nextType()
 
 void TrendPage::initTrendFlags()
 {
-    m_chart->setFlags(quantity().flags());
+    chart().setFlags(quantity().flags());
 }
 
 void TrendPage::showType()
 {
-    setText(m_typeLabel, quantity().caption());
-    ChannelLabels::clear(m_captions);
-    ChannelLabels::clear(m_values);
+    showName(quantity().caption());
+    ChannelLabels::clear(m_labels.captions);
+    ChannelLabels::clear(m_labels.values);
     // The grey of a lost frequency must not stay with the next quantity.
-    if (!m_values[0]->styleSheet().isEmpty())
-        m_values[0]->setStyleSheet(QString());
+    if (!m_labels.values[0]->styleSheet().isEmpty())
+        m_labels.values[0]->setStyleSheet(QString());
     if (quantity().single)
         return;
-    ChannelLabels::showHeaders(drawn(m_captions), m_captionEnd);
-    if (quantity().fourthCaption && m_captions[3]) {
-        setText(m_captions[3], QString::fromLatin1(quantity().fourthCaption));
-        LabelLook::setColor(m_captions[3], PhaseColor::colorN());
+    ChannelLabels::showHeaders(drawn(m_labels.captions), m_captionEnd);
+    if (quantity().fourthCaption && m_labels.captions[3]) {
+        setText(m_labels.captions[3], QString::fromLatin1(quantity().fourthCaption));
+        LabelLook::setColor(m_labels.captions[3], PhaseColor::colorN());
     }
 }
 
@@ -80,13 +75,7 @@ ChannelLabels::LabelRow TrendPage::drawn(ChannelLabels::LabelRow row) const
 void TrendPage::showTrend()
 {
     const Quantity &q = quantity();
-    m_picture = TrendScaler::scale(q.record(m_data.shown()), q.factor(), TrendScaler::seriesOf(q.flags()));
-    if (!m_picture.upper[0].isNull())
-        m_chart->setLimits(m_picture.upper, m_picture.lower);
-    __trend_chart_data data;
-    for (int c = 0; c < kChannels; ++c)
-        data.series[c] = &m_picture.series[c];
-    m_chart->showVifData(&data);
+    showPicture(TrendScaler::scale(q.record(m_data.shown()), q.factor(), TrendScaler::seriesOf(q.flags())));
     showValue();
 }
 
@@ -96,13 +85,13 @@ void TrendPage::showValue()
     const Values values = q.values(m_data.shown());
     if (q.single) {
         if (q.plain)
-            setText(m_values[0], q.format(values[0]));
+            setText(m_labels.values[0], q.format(values[0]));
         else
-            ChannelLabels::showFrequency(m_values[0], values[0], QString());
+            ChannelLabels::showFrequency(m_labels.values[0], values[0], QString());
         return;
     }
-    ChannelLabels::showValues(drawn(m_values), values.data(), q.format);
+    ChannelLabels::showValues(drawn(m_labels.values), values.data(), q.format);
     // A total stands in the fourth place whatever the wiring; where there is none the place stays empty.
     if (q.fourthCaption)
-        setText(m_values[3], *q.fourthCaption ? q.format(values[3]) : QString());
+        setText(m_labels.values[3], *q.fourthCaption ? q.format(values[3]) : QString());
 }

@@ -1,23 +1,16 @@
 #pragma once
 
 #include "model/livedata.h"
-#include "pages/channellabels.h"
-#include "pages/trendscaler.h"
-#include "pages/livepage.h"
-
-#include <QStringList>
+#include "pages/trendchartpage.h"
 
 #include <algorithm>
 #include <array>
 #include <vector>
 
-class QLabel;
-class VifTrendChart;
-
 /// Ten-minute trend of one quantity at a time, with its latest values below the chart: what every trend page does. A
-/// page adds its table of quantities and the key back. Its form has the labels "type", "D1_Caption" to "D4_Caption",
-/// "D1_Value" to "D4_Value" and the chart "trend".
-class TrendPage : public LivePage
+/// page adds its table of quantities and the key back. Labels: "type", "D1_Caption" to "D4_Caption", "D1_Value" to
+/// "D4_Value".
+class TrendPage : public TrendChartPage
 {
     Q_OBJECT
 
@@ -58,9 +51,9 @@ protected:
     /// \a cycle in the order of F1; it outlives the page.
     TrendPage(_quvera_ui_type type, const LiveData &data, const std::vector<Quantity> &cycle, QWidget *parent);
 
-    /// To be called once the form exists, before setKeys.
-    /// \a chart: name of the chart in the form; \a captionEnd follows the channel in the captions of the values.
-    void initTrend(const QStringList &axis, const char *chart = "trend", const char *captionEnd = ":");
+    /// To be called once, before setKeys. \a strip: where the values stand; \a chart: object name of the chart;
+    /// \a captionEnd follows the channel in the captions of the values.
+    void initTrend(const ValueStrip &strip, const char *chart = "trend", const char *captionEnd = ":");
     /// F1: the next quantity.
     void nextType();
     virtual void showTrend();
@@ -79,10 +72,5 @@ private:
     const LiveData &m_data;
     const std::vector<Quantity> &m_cycle;
     std::size_t m_index = 0;
-    VifTrendChart *m_chart = nullptr;
     QString m_captionEnd;
-    QLabel *m_typeLabel = nullptr;
-    ChannelLabels::LabelRow m_captions = {};
-    ChannelLabels::LabelRow m_values = {};
-    TrendScaler::Picture m_picture; // kept alive for the chart
 };

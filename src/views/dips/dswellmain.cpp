@@ -1,19 +1,14 @@
 #include "views/dips/dswellmain.h"
-#include "ui_dswellmain.h"
 
 #include "settings/config_data.h"
 #include "settings/dipswellinfo.h"
-#include "widgets/controls/labellook.h"
+#include "widgets/charts/dstrendchart.h"
 
 DswellMain::DswellMain(const LiveData &data, QWidget *parent)
-    : RmsTrendPage(UI_DIPS_SWELLS, data, parent), m_ui(new Ui::DswellMain)
+    : RmsTrendPage(UI_DIPS_SWELLS, data, parent), m_chart(new DSTrendChart)
 {
-    m_ui->setupUi(this);
-    LabelLook::dress(this);
-    setUp(m_ui->trend);
+    setUp(m_chart);
 }
-
-DswellMain::~DswellMain() = default;
 
 void DswellMain::init_parameter()
 {
@@ -48,10 +43,10 @@ int DswellMain::axisLabelCount() const
 
 void DswellMain::showSeries(const __trend_chart_data &data)
 {
-    m_ui->trend->showDSData(&data);
+    m_chart->showDSData(&data);
 }
 
 void DswellMain::showChartCursor(int position)
 {
-    m_ui->trend->setCursorPosition(601 - position); // the chart counts from the left
+    m_chart->setCursorPosition(601 - position); // the chart counts from the left
 }

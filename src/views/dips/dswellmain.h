@@ -2,11 +2,7 @@
 
 #include "pages/rmstrendpage.h"
 
-#include <memory>
-
-namespace Ui {
-class DswellMain;
-}
+class DSTrendChart;
 
 /// Trend of the half-cycle values over the last minute, in which dips and swells show.
 class DswellMain : public RmsTrendPage
@@ -15,7 +11,6 @@ class DswellMain : public RmsTrendPage
 
 public:
     explicit DswellMain(const LiveData &data, QWidget *parent = nullptr);
-    ~DswellMain() override;
 
 public slots:
     void init_parameter() override;
@@ -35,5 +30,5 @@ protected:
     void openEvents() override { emit goDispEvent(); }
 
 private:
-    std::unique_ptr<Ui::DswellMain> m_ui;
+    DSTrendChart *m_chart;
 };

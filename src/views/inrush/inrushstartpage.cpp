@@ -1,8 +1,7 @@
 #include "views/inrush/inrushstartpage.h"
-#include "ui_inrushstartpage.h"
 
 #include "settings/inrushinfo.h"
-#include "widgets/controls/labellook.h"
+#include "widgets/charts/inrushtrendchart.h"
 
 #include <algorithm>
 
@@ -18,14 +17,10 @@ const InrushInfo::Duration &duration()
 } // namespace
 
 InrushStartPage::InrushStartPage(const LiveData &data, QWidget *parent)
-    : RmsTrendPage(UI_INRUSH, data, parent), m_ui(new Ui::InrushStartPage)
+    : RmsTrendPage(UI_INRUSH, data, parent), m_chart(new InrushTrendChart)
 {
-    m_ui->setupUi(this);
-    LabelLook::dress(this);
-    setUp(m_ui->trend);
+    setUp(m_chart);
 }
-
-InrushStartPage::~InrushStartPage() = default;
 
 void InrushStartPage::init_parameter()
 {
@@ -86,11 +81,11 @@ int InrushStartPage::axisLabelCount() const
 
 void InrushStartPage::showSeries(const __trend_chart_data &data)
 {
-    m_ui->trend->showVifData(&data);
+    m_chart->showVifData(&data);
 }
 
 void InrushStartPage::showChartCursor(int position)
 {
     // The chart counts from the right and puts 0 beside the plot: the newest point shares the pixel of its neighbour.
-    m_ui->trend->setCursorPosition(std::max(position - 1, 1));
+    m_chart->setCursorPosition(std::max(position - 1, 1));
 }

@@ -2,11 +2,7 @@
 
 #include "pages/rmstrendpage.h"
 
-#include <memory>
-
-namespace Ui {
-class InrushStartPage;
-}
+class InrushTrendChart;
 
 /// Trend of the half-cycle values over the chosen duration, in which an inrush shows. It opens with the currents, at
 /// the finest scale that the duration stores.
@@ -16,7 +12,6 @@ class InrushStartPage : public RmsTrendPage
 
 public:
     explicit InrushStartPage(const LiveData &data, QWidget *parent = nullptr);
-    ~InrushStartPage() override;
 
     /// The user starts a capture: newest values, at the scale of the duration chosen now.
     void beginView();
@@ -44,6 +39,6 @@ private:
     TrendZoom durationScale() const;
     void chooseScale();
 
-    std::unique_ptr<Ui::InrushStartPage> m_ui;
+    InrushTrendChart *m_chart;
     int m_zoom = 0; // into zoomSteps()
 };

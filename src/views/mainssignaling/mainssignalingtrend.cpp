@@ -1,9 +1,7 @@
 #include "views/mainssignaling/mainssignalingtrend.h"
-#include "ui_mainssignalingtrend.h"
 
 #include "settings/config_data.h"
 #include "widgets/text/f_to_str.h"
-#include "widgets/controls/labellook.h"
 #include "widgets/charts/viftrendchart.h"
 
 namespace {
@@ -51,16 +49,12 @@ const std::vector<TrendPage::Quantity> &MainsSignalingTrend::cycle()
 }
 
 MainsSignalingTrend::MainsSignalingTrend(const LiveData &data, QWidget *parent)
-    : TrendPage(UI_MAINS_SIG, data, cycle(), parent), m_ui(new Ui::MainsSignalingTrend)
+    : TrendPage(UI_MAINS_SIG, data, cycle(), parent)
 {
     static const KeyRow<MainsSignalingTrend> keys[] = {
         { Qt::Key_F1, QT_TRANSLATE_NOOP("MainsSignalingTrend", "Type"), &MainsSignalingTrend::nextType },
         { Qt::Key_F4, QT_TRANSLATE_NOOP("MainsSignalingTrend", "Back"), &MainsSignalingTrend::goBack },
     };
-    m_ui->setupUi(this);
-    LabelLook::dress(this);
-    initTrend({ "10m", "8m", "6m", "4m", "2m" });
+    initTrend({ 16, 154, 48, 100 });
     setKeys(keys);
 }
-
-MainsSignalingTrend::~MainsSignalingTrend() = default;

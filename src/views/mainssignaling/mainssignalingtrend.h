@@ -2,12 +2,6 @@
 
 #include "pages/trendpage.h"
 
-#include <memory>
-
-namespace Ui {
-class MainsSignalingTrend;
-}
-
 /// Ten-minute trend of the two carriers and of the half-cycle r.m.s. values.
 class MainsSignalingTrend : public TrendPage
 {
@@ -15,13 +9,10 @@ class MainsSignalingTrend : public TrendPage
 
 public:
     explicit MainsSignalingTrend(const LiveData &data, QWidget *parent = nullptr);
-    ~MainsSignalingTrend() override;
 
 signals:
     void goBack();
 
 private:
     static const std::vector<Quantity> &cycle();
-
-    std::unique_ptr<Ui::MainsSignalingTrend> m_ui;
 };

@@ -1,9 +1,7 @@
 #include "views/power/powertrendpage.h"
-#include "ui_powertrendpage.h"
 
 #include "settings/config_data.h"
 #include "widgets/text/f_to_str.h"
-#include "widgets/controls/labellook.h"
 #include "widgets/charts/viftrendchart.h"
 
 namespace {
@@ -79,17 +77,12 @@ const std::vector<TrendPage::Quantity> &PowerTrendPage::cycle()
     return quantities;
 }
 
-PowerTrendPage::PowerTrendPage(const LiveData &data, QWidget *parent)
-    : TrendPage(UI_POWER, data, cycle(), parent), m_ui(new Ui::PowerTrendPage)
+PowerTrendPage::PowerTrendPage(const LiveData &data, QWidget *parent) : TrendPage(UI_POWER, data, cycle(), parent)
 {
     static const KeyRow<PowerTrendPage> keys[] = {
         { Qt::Key_F1, QT_TRANSLATE_NOOP("PowerTrendPage", "Type"), &PowerTrendPage::nextType },
         { Qt::Key_F4, QT_TRANSLATE_NOOP("PowerTrendPage", "Back"), &PowerTrendPage::goPowerMain },
     };
-    m_ui->setupUi(this);
-    LabelLook::dress(this);
-    initTrend({ "10m", "8m", "6m", "4m", "2m" }, "trend_power", " :");
+    initTrend({ 12, 154, 52, 100 }, "trend_power", " :");
     setKeys(keys);
 }
-
-PowerTrendPage::~PowerTrendPage() = default;

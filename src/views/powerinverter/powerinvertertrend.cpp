@@ -1,10 +1,8 @@
 #include "views/powerinverter/powerinvertertrend.h"
-#include "ui_powerinvertertrend.h"
 
 #include "settings/config_data.h"
 #include "task/inverterfeed.h"
 #include "widgets/text/f_to_str.h"
-#include "widgets/controls/labellook.h"
 #include "widgets/charts/viftrendchart.h"
 
 namespace {
@@ -78,16 +76,12 @@ const std::vector<TrendPage::Quantity> &PowerInverterTrend::cycle()
 }
 
 PowerInverterTrend::PowerInverterTrend(const LiveData &data, QWidget *parent)
-    : TrendPage(UI_POWER_INVERTER, data, cycle(), parent), m_ui(new Ui::PowerInverterTrend)
+    : TrendPage(UI_POWER_INVERTER, data, cycle(), parent)
 {
     static const KeyRow<PowerInverterTrend> keys[] = {
         { Qt::Key_F1, QT_TRANSLATE_NOOP("PowerInverterTrend", "Type"), &PowerInverterTrend::nextType },
         { Qt::Key_F5, QT_TRANSLATE_NOOP("PowerInverterTrend", "Back"), &PowerInverterTrend::goPowerInverterMain },
     };
-    m_ui->setupUi(this);
-    LabelLook::dress(this);
-    initTrend({ "10m", "8m", "6m", "4m", "2m" });
+    initTrend({ 16, 154, 48, 100 });
     setKeys(keys);
 }
-
-PowerInverterTrend::~PowerInverterTrend() = default;

@@ -1,9 +1,7 @@
 #include "views/vif/viftrendpage.h"
-#include "ui_viftrendpage.h"
 
 #include "settings/config_data.h"
 #include "widgets/text/f_to_str.h"
-#include "widgets/controls/labellook.h"
 #include "widgets/charts/viftrendchart.h"
 
 namespace {
@@ -66,17 +64,12 @@ const std::vector<TrendPage::Quantity> &VifTrendPage::cycle()
     return quantities;
 }
 
-VifTrendPage::VifTrendPage(const LiveData &data, QWidget *parent)
-    : TrendPage(UI_VIF, data, cycle(), parent), m_ui(new Ui::VifTrendPage)
+VifTrendPage::VifTrendPage(const LiveData &data, QWidget *parent) : TrendPage(UI_VIF, data, cycle(), parent)
 {
     static const KeyRow<VifTrendPage> keys[] = {
         { Qt::Key_F1, QT_TRANSLATE_NOOP("VifTrendPage", "Type"), &VifTrendPage::nextType },
         { Qt::Key_F4, QT_TRANSLATE_NOOP("VifTrendPage", "Back"), &VifTrendPage::goBack },
     };
-    m_ui->setupUi(this);
-    LabelLook::dress(this);
-    initTrend({ "10m", "8m", "6m", "4m", "2m" });
+    initTrend({ 16, 154, 50, 100 });
     setKeys(keys);
 }
-
-VifTrendPage::~VifTrendPage() = default;
