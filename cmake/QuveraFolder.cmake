@@ -10,7 +10,7 @@ set(QUVERA_NEIGHBOURS views services)
 
 # Folders that a tool without a screen can link: nothing but the toolkit's core is under them, and of the folders before
 # them they see each other only.
-set(QUVERA_CORE_FOLDERS platform model storage)
+set(QUVERA_CORE_FOLDERS platform model storage record)
 
 # quvera_folder(<folder> [FIRST <files...>] [LIBS <libraries...>] [OPTIMISED <files...>] [SCREEN <files...>])
 # All sources, headers and forms of the folder and of the folders in it.

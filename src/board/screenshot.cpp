@@ -1,6 +1,7 @@
 #include "board/screenshot.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QScreen>
@@ -85,6 +86,20 @@ QPixmap ScreenShot::getScreenPixmap()
     const bool shared = screen && !area.isEmpty() && !area.contains(screen->geometry());
     const QPixmap picture = screen && !shared ? screen->grabWindow(0) : QPixmap();
     return picture.isNull() ? composeWindows(windows, area) : picture;
+}
+
+QByteArray ScreenShot::getScreenPng()
+{
+    return png(getScreenPixmap().toImage());
+}
+
+QByteArray ScreenShot::png(const QImage &picture)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    if (!picture.isNull())
+        picture.save(&buffer, "png");
+    return buffer.data();
 }
 
 void ScreenShot::grabScreenPixmap()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
 #include <QPixmap>
 
@@ -16,6 +17,10 @@ public:
     /// screen back, the picture is composed of the instrument's visible windows: dialogs over pages, menus over
     /// dialogs. A null picture when there is nothing to show.
     static QPixmap getScreenPixmap();
+    /// The same as a PNG file; empty when there is nothing to show.
+    static QByteArray getScreenPng();
+    /// A picture as a PNG file of the toolkit's usual quality; empty for a null one. Any thread.
+    static QByteArray png(const QImage &picture);
 
 signals:
     void screenPixmap(QPixmap picture);

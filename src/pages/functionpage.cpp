@@ -1,5 +1,6 @@
 #include "pages/functionpage.h"
 
+#include "board/screenshot.h"
 #include "record/pqafile.h"
 #include "settings/config_data.h"
 #include "widgets/dialogs/savedialog.h"
@@ -21,7 +22,7 @@ void FunctionPage::saveToFile()
     enum { Picture = 1, Data = 2 };
 
     const QByteArray record = pqaData();
-    PqaFile file(m_identity.windowId, m_settingConfig_g.derived());
+    PqaFile file(m_identity.windowId, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
     if (!record.isEmpty())
         file.writeFileData(record.constData(), quint32(record.size()));
     QString name = QString::fromLatin1(m_identity.defaultName);

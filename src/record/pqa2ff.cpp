@@ -1,11 +1,8 @@
 #include "record/pqa2ff.h"
 
-#include "device/idevice.h"
 #include "device/trace.h"
 #include "platform/clock.h"
 #include "record/pqa2device.h"
-#include "record/pqa2info.h"
-#include "settings/config_data.h"
 
 #include <QFileInfo>
 
@@ -23,12 +20,7 @@ constexpr qint64 alignedUp(qint64 bytes)
 
 } // namespace
 
-/// What the opening blocks say of this instrument.
-static InstrumentLabels instrumentLabels()
-{
-    return { m_userConfig_g.getInstrumentModelName(), m_userConfig_g.getInstrumentSN(),
-             m_idevice ? m_idevice->dspVersion() : QString() };
-}
+Pqa2Opening (*Pqa2FF::s_opening)() = nullptr;
 
 Pqa2FF::Pqa2FF() : Pqa2FF(std::make_unique<Pqa2Device>()) { }
 
@@ -78,11 +70,10 @@ bool Pqa2FF::begin()
     if (m_device->freeSize() < kRoomToOpen || !m_device->open(m_path))
         return false;
     m_open = true;
-    const Derived &setUp = m_settingConfig_g.derived();
-    const bool begun = initFileHeader()
-        && addDataBlock(Pqa2InstrumentInfo, getInstrumentInfo(instrumentLabels()).toLatin1()) == 0
-        && addDataBlock(Pqa2SystemSetting, getSystemSetting(setUp).toLatin1()) == 0
-        && addDataBlock(Pqa2ChannelFactor, getChannelFactor(setUp.scales)) == 0;
+    const Pqa2Opening opening = s_opening ? s_opening() : Pqa2Opening();
+    const bool begun = initFileHeader() && addDataBlock(Pqa2InstrumentInfo, opening.instrument) == 0
+        && addDataBlock(Pqa2SystemSetting, opening.setting) == 0
+        && addDataBlock(Pqa2ChannelFactor, opening.factors) == 0;
     if (!begun)
         close();
     return begun;

@@ -27,6 +27,14 @@ struct _pqa2_block_iterator
     quint32 oonb;
 };
 
+/// Payloads of the opening blocks: what a file says of its instrument (pqa2info.h).
+struct Pqa2Opening
+{
+    QByteArray instrument;
+    QByteArray setting;
+    QByteArray factors;
+};
+
 /// Writer of a PQA2 file: a head and a chain of typed blocks. A block is linked from the one before it only when all of
 /// it is in the file, so that whatever ends the process leaves every finished block readable (docs/formats/pqa2.md).
 /// Main thread only.
@@ -44,6 +52,9 @@ public:
     ~Pqa2FF();
     Pqa2FF(const Pqa2FF &) = delete;
     Pqa2FF &operator=(const Pqa2FF &) = delete;
+
+    /// Who is asked, at each opening, what the file says of the instrument; nothing is said before.
+    static void setOpening(Pqa2Opening (*source)()) { s_opening = source; }
 
     /// Starts the file anew with its head and the three opening blocks. 0 without a path, without room, or when the
     /// file cannot be opened or begun; then there is no open file.
@@ -87,6 +98,8 @@ private:
     bool begin();
     bool modifyLastOONB(const _pqa2_block_iterator &block);
     void dropTail(qint64 end);
+
+    static Pqa2Opening (*s_opening)();
 
     std::unique_ptr<Pqa2Device> m_device;
     QString m_path; // of the part that is open, or of the first one

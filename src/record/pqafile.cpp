@@ -3,7 +3,6 @@
 #include "settings/derived.h"
 #include "storage/fileinfo.h"
 #include "settings/softwareversion.h"
-#include "board/screenshot.h"
 #include "platform/clock.h"
 #include "platform/target.h"
 
@@ -35,20 +34,20 @@ QString PqaFile::dataPath()
     return QStringLiteral("/tmp/dat.pqa");
 }
 
-PqaFile::PqaFile(int winId, const Derived &setUp) : m_screen(ScreenShot::getScreenPixmap())
+PqaFile::PqaFile(int winId, const Derived &setUp, const QByteArray &png)
 {
     initFileHeader(winId, setUp);
-    saveImage();
+    saveImage(png);
 }
 
 PqaFile::~PqaFile() = default;
 
-void PqaFile::saveImage()
+void PqaFile::saveImage(const QByteArray &png)
 {
     QFile image(Target::path(imagePath()));
     image.remove(); // of a save that was cancelled
     if (image.open(QIODevice::WriteOnly)) {
-        m_screen.save(&image, "png");
+        image.write(png);
         image.flush();
         image.close();
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QPixmap>
+#include <QByteArray>
 #include <QString>
 #include <QtGlobal>
 
@@ -32,12 +32,13 @@ static_assert(offsetof(__pqa_file_header, imageSize) == 24 && offsetof(__pqa_fil
 static_assert(sizeof(__pqa_file_header) == 40, "the picture starts at byte 40");
 
 /// Stores a page as a picture of the screen, or as a data file of that picture with the page's record. Both are built
-/// in "/tmp"; the one asked for is copied to the storage. The picture is taken by the constructor, so that the dialog
-/// for the name is not in it. No failure is told: a full disk ends in a short file. GUI thread.
+/// in "/tmp"; the one asked for is copied to the storage. No failure is told: a full disk ends in a short file. GUI
+/// thread.
 class PqaFile
 {
 public:
-    PqaFile(int winId, const Derived &setUp);
+    /// @param png picture of the screen, taken before the dialog for the name comes up; may be empty
+    PqaFile(int winId, const Derived &setUp, const QByteArray &png);
     ~PqaFile();
     PqaFile(const PqaFile &) = delete;
     PqaFile &operator=(const PqaFile &) = delete;
@@ -54,7 +55,7 @@ public:
     static QString dataPath(); // temporary data file, the board's
 
 private:
-    void saveImage();
+    void saveImage(const QByteArray &png);
     void open();
     void initFileHeader(int winId, const Derived &setUp);
     void pushData(const void *data, quint32 size);
@@ -66,7 +67,6 @@ private:
     static void store(const QString &temporary, const QString &name);
 
     __pqa_file_header m_header {};
-    QPixmap m_screen;
     std::unique_ptr<QFile> m_file;
     bool m_opened = false;
     std::unique_ptr<char, decltype(&std::free)> m_data { nullptr, &std::free };

@@ -4,7 +4,6 @@
 #include "widgets/text/keymap.h"
 
 #include <QApplication>
-#include <QBuffer>
 #include <QKeyEvent>
 #include <QSplashScreen>
 #include <QWidget>
@@ -42,16 +41,6 @@ QObject *keyReceiver()
         QApplication::setActiveWindow(window);
     QWidget *focus = QApplication::focusWidget();
     return focus ? focus : window;
-}
-
-QByteArray pngOf(const QImage &picture)
-{
-    QByteArray png;
-    QBuffer buffer(&png);
-    buffer.open(QIODevice::WriteOnly);
-    if (!picture.isNull())
-        picture.save(&buffer, "png");
-    return png;
 }
 
 } // namespace
@@ -234,7 +223,7 @@ void Panel::makePictures()
             takers = m_pictureFor;
         }
         if (png.isEmpty() || picture != last) // a page on hold, or a menu, is made once
-            png = pngOf(picture);
+            png = ScreenShot::png(picture);
         last = std::move(picture);
         handOut(png, takers);
         // By the event loop, so that a storm of requests leaves it its rounds.

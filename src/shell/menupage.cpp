@@ -4,6 +4,7 @@
 #include "settings/config_data.h"
 #include "model/nominalfrequency.h"
 #include "model/transparam.h"
+#include "board/screenshot.h"
 #include "record/pqafile.h"
 #include "shell/pagetable.h"
 #include "widgets/controls/labellook.h"
@@ -154,7 +155,7 @@ void MenuPage::changePage()
 
 void MenuPage::saveSnapshot()
 {
-    PqaFile file(1, m_settingConfig_g.derived());
+    PqaFile file(1, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
     QString name = QStringLiteral("Menu");
     if (SaveDialog::save(1, name) == 1)
         file.saveSnapshot(name);

@@ -6,6 +6,7 @@
 #include "storage/udiskstorage.h"
 #include "settings/userconfig.h"
 #include "board/backlight.h"
+#include "task/recordopening.h"
 #include "device/deviceinit.h"
 #include "board/screenshot.h"
 #include "board/wifi.h"

@@ -2,6 +2,7 @@
 
 #include "device/deviceinit.h"
 #include "model/transparam.h"
+#include "board/screenshot.h"
 #include "record/pqafile.h"
 #include "settings/config_data.h"
 #include "views/transients/transmain.h"
@@ -70,7 +71,7 @@ bool trans::pressKey(int key)
 {
     if (key != Qt::Key_F11 || currentPage() != m_main)
         return ViewContainer::pressKey(key);
-    PqaFile file(kMainWindowId, m_settingConfig_g.derived());
+    PqaFile file(kMainWindowId, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
     QString name = QStringLiteral("Trans");
     if (SaveDialog::save(1, name) == 1)
         file.saveSnapshot(name);

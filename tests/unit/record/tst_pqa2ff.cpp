@@ -15,11 +15,20 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+/// What a fresh instrument says of itself.
+static Pqa2Opening opening()
+{
+    const Derived &setUp = m_settingConfig_g.derived();
+    return { getInstrumentInfo({ QStringLiteral("QUVERA"), QStringLiteral("1AA000000"), QString() }).toLatin1(),
+             getSystemSetting(setUp).toLatin1(), getChannelFactor(setUp.scales) };
+}
+
 class TstPqa2FF : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void initTestCase() { Pqa2FF::setOpening(opening); }
     void init() { Clock::setForTest(1'705'594'500'000); } // 2024-01-18 16:15:00 UTC
     void cleanup() { Clock::useSystem(); }
 

@@ -74,7 +74,7 @@ void TstPqaFile::init()
 void TstPqaFile::headerHasItsFieldsAtTheirOffsets()
 {
     Clock::setForTest(1700000000999);
-    PqaFile file(4, m_settingConfig_g.derived());
+    PqaFile file(4, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
     const QByteArray record(100, 'r');
     file.writeFileData(record.constData(), quint32(record.size()));
     const QByteArray image = read(PqaFile::imagePath());
@@ -108,7 +108,7 @@ void TstPqaFile::nominalVoltsAreTruncatedAndHeldTo32Bits()
     for (const auto &row : rows) {
         m_settingConfig_g.setRatioVFenzi(row.numerator);
         m_settingConfig_g.setRatioVFenmu(row.denominator);
-        PqaFile file(4, m_settingConfig_g.derived());
+        PqaFile file(4, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
         file.writeFileData("", 0);
         QCOMPARE(word(read(PqaFile::dataPath()), 8), row.expected);
     }
@@ -118,7 +118,7 @@ void TstPqaFile::nominalVoltsAreTruncatedAndHeldTo32Bits()
 
 void TstPqaFile::pictureRecordAndTrailerFollowTheHeader()
 {
-    PqaFile file(2, m_settingConfig_g.derived());
+    PqaFile file(2, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
     QByteArray record;
     for (int i = 0; i < 1000; ++i)
         record.append(char(i));
@@ -172,7 +172,7 @@ void TstPqaFile::formatPageTellsTheHeaderAndItsExample()
 
 void TstPqaFile::snapshotIsAPlainPngOfTheScreen()
 {
-    PqaFile file(2, m_settingConfig_g.derived());
+    PqaFile file(2, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
     file.saveSnapshot(QStringLiteral("VAHz1.png"));
     const QImage image = QImage::fromData(read(QStringLiteral("/mnt/storage/VAHz1.png")), "png");
     QVERIFY(!image.isNull());
@@ -181,7 +181,7 @@ void TstPqaFile::snapshotIsAPlainPngOfTheScreen()
 
 void TstPqaFile::pictureIsTakenAtConstruction()
 {
-    PqaFile file(2, m_settingConfig_g.derived());
+    PqaFile file(2, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
     QWidget dialog(nullptr, Qt::Dialog);
     dialog.setFixedSize(64, 48);
     dialog.setStyleSheet(QStringLiteral("background-color: rgb(250, 0, 0);"));
@@ -195,13 +195,13 @@ void TstPqaFile::pictureIsTakenAtConstruction()
 void TstPqaFile::aCancelledSaveLeavesTemporariesThatTheNextOneReplaces()
 {
     {
-        PqaFile cancelled(2, m_settingConfig_g.derived());
+        PqaFile cancelled(2, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
         const QByteArray record(5000, 'c');
         cancelled.writeFileData(record.constData(), quint32(record.size()));
     }
     QVERIFY(QFile::exists(Target::path(PqaFile::imagePath())));
     QVERIFY(QFile::exists(Target::path(PqaFile::dataPath())));
-    PqaFile file(11, m_settingConfig_g.derived());
+    PqaFile file(11, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
     file.writeFileData("new", 3);
     const QByteArray bytes = read(PqaFile::dataPath());
     QCOMPARE(word(bytes, 0), 11u);
@@ -211,7 +211,7 @@ void TstPqaFile::aCancelledSaveLeavesTemporariesThatTheNextOneReplaces()
 
 void TstPqaFile::aPageWithoutARecordStoresThePictureOnly()
 {
-    PqaFile file(1, m_settingConfig_g.derived());
+    PqaFile file(1, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
     file.saveSnapshot(QStringLiteral("Menu1.png"));
     QVERIFY(read(QStringLiteral("/mnt/storage/Menu1.png")).startsWith("\x89PNG\r\n"));
     QVERIFY(!QFile::exists(Target::path(PqaFile::dataPath())));
@@ -224,7 +224,7 @@ void TstPqaFile::storedFilesReplaceOldOnes()
     QVERIFY(old.open(QIODevice::WriteOnly));
     old.write(QByteArray(500000, 'o'));
     old.close();
-    PqaFile file(11, m_settingConfig_g.derived());
+    PqaFile file(11, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
     file.writeFileData("data", 4);
     const QByteArray built = read(PqaFile::dataPath());
     file.saveDataFile(QStringLiteral("Scope1.pqa"));
@@ -233,7 +233,7 @@ void TstPqaFile::storedFilesReplaceOldOnes()
 
 void TstPqaFile::temporariesGoWhenStored()
 {
-    PqaFile file(11, m_settingConfig_g.derived());
+    PqaFile file(11, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
     file.writeFileData("data", 4);
     file.saveDataFile(QStringLiteral("Scope1.pqa"));
     QVERIFY(!QFile::exists(Target::path(PqaFile::dataPath())));
@@ -244,7 +244,7 @@ void TstPqaFile::temporariesGoWhenStored()
 
 void TstPqaFile::anEmptyRecordIsWrittenWithoutData()
 {
-    PqaFile file(2, m_settingConfig_g.derived());
+    PqaFile file(2, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
     file.writeFileData(nullptr, 0);
     const QByteArray bytes = read(PqaFile::dataPath());
     QCOMPARE(word(bytes, 28), 0u);
@@ -257,14 +257,14 @@ void TstPqaFile::aFailedOpenLeavesEverythingSilentlyUnwritten()
 {
     // A folder in the place of the file cannot be opened, not even by the administrator.
     QVERIFY(QDir().mkpath(Target::path(PqaFile::dataPath()) + QStringLiteral("/in-the-way")));
-    PqaFile file(2, m_settingConfig_g.derived());
+    PqaFile file(2, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
     file.writeFileData("data", 4);
     QVERIFY(QFileInfo(Target::path(PqaFile::dataPath())).isDir());
     file.saveDataFile(QStringLiteral("VAHz1.pqa"));
     QVERIFY(!QFile::exists(Target::path(QStringLiteral("/mnt/storage/VAHz1.pqa"))));
 
     QVERIFY(QDir(Target::path(QStringLiteral("/tmp"))).removeRecursively()); // no folder for temporaries at all
-    PqaFile nowhere(2, m_settingConfig_g.derived());
+    PqaFile nowhere(2, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
     nowhere.writeFileData("data", 4);
     nowhere.saveSnapshot(QStringLiteral("VAHz1.png"));
     QVERIFY(!QFile::exists(Target::path(QStringLiteral("/mnt/storage/VAHz1.png"))));
@@ -286,7 +286,7 @@ void TstPqaFile::knownRecordSizesAreStoredWhole()
 {
     QFETCH(int, page);
     QFETCH(int, size);
-    PqaFile file(page, m_settingConfig_g.derived());
+    PqaFile file(page, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
     const QByteArray record(size, char(page));
     file.writeFileData(record.constData(), quint32(size));
     const QByteArray bytes = read(PqaFile::dataPath());
