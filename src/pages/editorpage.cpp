@@ -1,6 +1,7 @@
 #include "pages/editorpage.h"
 #include "ui_editorform.h"
 
+#include "settings/config_data.h"
 #include "widgets/controls/labellook.h"
 
 #include <QCoreApplication>
@@ -46,6 +47,17 @@ EditorPage::Row EditorPage::numberRow(const QString &name, const char *caption, 
         return pattern.arg(number.read(), 0, 'f', decimals);
     };
     row.step = [number](int steps) { number.move(steps); };
+    return row;
+}
+
+EditorPage::Row EditorPage::settingRow(const QString &name, const char *caption, const char *key,
+                                       std::function<QString()> text, std::function<void()> changed)
+{
+    Row row { name, caption, std::move(text), {}, {}, {} };
+    row.step = [setting = SettingConfig::row(key), changed = std::move(changed)](int steps) {
+        if (setting && m_settingConfig_g.moveValue(*setting, steps) && changed)
+            changed();
+    };
     return row;
 }
 

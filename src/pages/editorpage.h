@@ -73,6 +73,11 @@ protected:
     /// Row \a name steps \a number and shows it in \a pattern: "%1 %" with \a decimals.
     static Row numberRow(const QString &name, const char *caption, const Number &number, const char *pattern,
                          int decimals = 0);
+    /// Row \a name steps the setting of \a key (settings/settingrow.h) within its editing bounds and stores every
+    /// change at once; \a changed is called when the value is another one. A key that is no setting's gives a row that
+    /// stays.
+    static Row settingRow(const QString &name, const char *caption, const char *key, std::function<QString()> text,
+                          std::function<void()> changed = {});
 
     /// Takes the working copy from what is stored; called when a run begins and by cancel(). A page that stores at once
     /// has none.

@@ -43,16 +43,6 @@ void changeDuration(int step)
         m_settingConfig_g.setInrushIndex(InrushInfo::m_duration_index);
 }
 
-/// A field that steps the setting of a key within its editing bounds; one that stands at a bound is not written again.
-EditorPage::Row settingRow(const char *name, const char *caption, const char *key, std::function<QString()> text)
-{
-    const auto step = [key](int steps) {
-        if (const auto *row = SettingConfig::row(key))
-            m_settingConfig_g.moveValue(*row, steps);
-    };
-    return { name, caption, std::move(text), step, {}, {} };
-}
-
 } // namespace
 
 InrushMain::InrushMain(QWidget *parent)

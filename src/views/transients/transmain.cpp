@@ -5,9 +5,7 @@
 #include <utility>
 
 namespace {
-constexpr int kLeast = 1; // percent
-constexpr int kMost = 6000; // percent
-constexpr int kDefault = 50; // percent
+constexpr char kKey[] = "TRANS_THRESHOLD";
 constexpr int kTicksPerStep = 5; // a long range: later, but larger steps
 constexpr int kTop = 100; // pixels
 }
@@ -21,9 +19,10 @@ TransMain::TransMain(QWidget *parent)
         { Qt::Key_F4, QT_TRANSLATE_NOOP("TransMain", "Defaults"), &TransMain::restoreDefaults },
         { Qt::Key_F5, QT_TRANSLATE_NOOP("TransMain", "Start"), &TransMain::goTranStart },
     };
-    const Number threshold { [] { return double(m_settingConfig_g.getTransThreshold()); },
-                             [this](double percent) { setThreshold(int(percent)); }, kLeast, kMost };
-    setRows({ numberRow("threshold", QT_TRANSLATE_NOOP("TransMain", "Threshold"), threshold, "%1 %") });
+    setRows({ settingRow(
+        "threshold", QT_TRANSLATE_NOOP("TransMain", "Threshold"), kKey,
+        [] { return QStringLiteral("%1 %").arg(m_settingConfig_g.getTransThreshold()); },
+        [this] { m_changed = true; }) });
     setKeys(keys);
 }
 
@@ -35,13 +34,7 @@ bool TransMain::takeChanged()
 void TransMain::restoreDefaults()
 {
     stopRepeat();
-    if (m_settingConfig_g.getTransThreshold() != kDefault)
-        setThreshold(kDefault);
+    if (m_settingConfig_g.setDefault(*SettingConfig::row(kKey)))
+        m_changed = true;
     showRows();
-}
-
-void TransMain::setThreshold(int percent)
-{
-    m_settingConfig_g.setTransThreshold(percent);
-    m_changed = true;
 }

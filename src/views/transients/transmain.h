@@ -19,7 +19,6 @@ signals:
 
 private:
     void restoreDefaults();
-    void setThreshold(int percent);
 
     bool m_changed = false;
 };

@@ -15,6 +15,7 @@ private slots:
     void voltageEventRunsAtAnyVoltageButTheThreshold();
     void inrushLevelIsAmpsTimesPercentTimesRatio();
     void ratioWithoutDenominatorCountsAsOne();
+    void nominalsComeFromTheRecordThatIsGiven();
     void detectorLatchesTheActiveSet();
 };
 
@@ -102,6 +103,24 @@ void TstEventSettings::ratioWithoutDenominatorCountsAsOne()
     nominals.currentRatioNumerator = 4;
     nominals.currentRatioDenominator = 0;
     QCOMPARE(eventSettings(en50160(), nominals).inrushLevel, 10.0); // 1.25 A x 2 x 4
+}
+
+void TstEventSettings::nominalsComeFromTheRecordThatIsGiven()
+{
+    SettingValues values {};
+    values.inrushNomAmps = 2.5;
+    values.inrushThreshold = 150;
+    values.inrushHysteresis = 4;
+    Derived derived;
+    derived.realNominalVolt = 11000.0f;
+    derived.nominalFrequency = 60.0;
+    derived.ratioI = { 200, 5 };
+    const EventNominals nominals = eventNominals(values, derived);
+    const EventSettings settings = eventSettings(en50160(), nominals);
+    QVERIFY(isNear(double(settings.dipLevel), 9900.0)); // 90 percent
+    QCOMPARE(settings.nominalFrequency, 60.0f);
+    QCOMPARE(settings.inrushLevel, 150.0); // 2.5 A x 1.5 x 40
+    QCOMPARE(settings.inrushHysteresis, 4.0);
 }
 
 void TstEventSettings::detectorLatchesTheActiveSet()
