@@ -1,27 +1,9 @@
 #include "detect/eventraw.h"
 
+#include "detect/eventcurves.h"
 #include "detect/powerevents.h"
 
 namespace {
-
-/// Splits the curves of one input into the part for the first section and the part for the second.
-void mergeCurves(const RmsCurve &start, const RmsCurve &end, RmsCurve *first, RmsCurve *second)
-{
-    if (start.isEmpty())
-        return;
-    *first = start;
-    if (end.isEmpty())
-        return;
-    const qint64 last = start.constLast().time;
-    if (end.constFirst().time > last) {
-        *second = end;
-        return;
-    }
-    for (const _value_with_time &sample : end) {
-        if (sample.time > last)
-            first->append(sample);
-    }
-}
 
 void appendCurve(QByteArray *out, const RmsCurve &curve)
 {
@@ -55,8 +37,11 @@ QByteArray PowerEvents::toRawData(const PQAEventItem &event)
 {
     RmsCurve first[8];
     RmsCurve second[8];
-    for (int i = 0; i < 8; ++i)
-        mergeCurves(event.startRms[i], event.endRms[i], &first[i], &second[i]);
+    for (int i = 0; i < 8; ++i) {
+        first[i] = event.startRms[i];
+        second[i] = event.endRms[i];
+        joinCurves(first[i], second[i]);
+    }
     if (first[0].isEmpty() && first[1].isEmpty() && first[2].isEmpty() && first[3].isEmpty())
         return QByteArray();
     QByteArray out = rawHead(event);

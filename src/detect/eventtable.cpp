@@ -1,6 +1,6 @@
 #include "detect/eventtable.h"
 
-void ModbusEventTable::fill(const QList<PQAEventItem> &events)
+void ModbusEventTable::fill(const EventList &events)
 {
     for (ModbusEventRow &unused : row)
         unused.valid = 0;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/pqaeventitem.h"
+#include "model/eventlist.h"
 #include "detect/modbusheader.h"
 
 #include <cstddef>
@@ -29,6 +29,6 @@ struct ModbusEventTable
     ModbusEventRow row[kModbusEventRows] = {};
 
     /// Marks all rows as unused and enters the newest events of the list. An unused row keeps its other registers.
-    void fill(const QList<PQAEventItem> &events);
+    void fill(const EventList &events);
 };
 static_assert(sizeof(ModbusEventTable) == 208 && offsetof(ModbusEventTable, row) == 8, "head and ten rows");

@@ -1,6 +1,7 @@
 #include "detect/powerevents.h"
 
 #include "model/channelset.h"
+#include "detect/eventcurves.h"
 
 namespace {
 
@@ -25,21 +26,23 @@ bool hasCurves(qint32 type)
 
 } // namespace
 
-PowerEvents::PowerEvents(QObject *parent) : QObject(parent), m_settings(currentEventSettings())
+PowerEvents::PowerEvents(EventList &list, QObject *parent) : PowerEvents(list, currentEventSettings(), -1, parent) { }
+
+PowerEvents::PowerEvents(EventList &list, const EventSettings &settings, int joinMode, QObject *parent)
+    : QObject(parent), m_settings(settings), m_fixedJoinMode(joinMode), m_events(list)
 {
     initLimitsData();
 }
 
 PowerEvents::PowerEvents(const EventSettings &settings, int joinMode, QObject *parent)
-    : QObject(parent), m_settings(settings), m_fixedJoinMode(joinMode)
-{
-    initLimitsData();
-}
+    : PowerEvents(m_ownEvents, settings, joinMode, parent)
+{ }
 
 PowerEvents::~PowerEvents() = default;
 
 void PowerEvents::initLimitsData()
 {
+    connect(&m_events, &EventList::cleared, this, &PowerEvents::forgetPlaces);
     m_counter = 0;
     m_globalBits = 0;
     for (int i = 0; i < kEventPhases; ++i)
@@ -61,13 +64,19 @@ void PowerEvents::setUserFile(Pqa2FF *file)
         m_userFile = file;
 }
 
-void PowerEvents::clear()
+void PowerEvents::forgetPlaces()
 {
     m_pending.clear();
     m_unfinished.clear();
-    m_fullEvents.clear();
-    m_allEvents.clear();
-    emit eventListChanged(m_allEvents);
+    m_complete.clear();
+}
+
+QList<PQAEventItem> PowerEvents::getFullEvents() const
+{
+    QList<PQAEventItem> events;
+    for (const int place : m_complete)
+        events.append(m_events.at(place));
+    return events;
 }
 
 void PowerEvents::checkPowerEvents(const QList<_value_with_time> &values)
@@ -130,21 +139,20 @@ void PowerEvents::walkPending(quint8 phases)
 {
     for (int i = 0; i < m_pending.size();) {
         const int place = m_pending.at(i);
-        const PQAEventItem &event = m_allEvents.at(place);
+        PQAEventItem &event = m_events.quietly(place); // curves show on no page and in no table
         const CurveWait &wait = event.type == EventInterruption ? kInterruptionWait : kCurveWait;
         if (event.startRms[0].isEmpty() && historyReaches(event, event.startTime, wait.start))
-            copyHistory(phases, m_allEvents[place].startRms);
-        const PQAEventItem &started = m_allEvents.at(place);
-        if (started.finished && started.endRms[0].isEmpty() && historyReaches(started, started.endTime, wait.end))
-            copyHistory(phases, m_allEvents[place].endRms);
-        const PQAEventItem &ended = m_allEvents.at(place);
-        if (ended.startRms[0].isEmpty() || ended.endRms[0].isEmpty()) {
+            copyHistory(phases, event.startRms);
+        if (event.finished && event.endRms[0].isEmpty() && historyReaches(event, event.endTime, wait.end))
+            copyHistory(phases, event.endRms);
+        if (event.startRms[0].isEmpty() || event.endRms[0].isEmpty()) {
             ++i;
             continue;
         }
+        joinCurves(event);
         m_pending.remove(i);
-        m_fullEvents.append(ended);
-        emit eventFinishedWithRMS(m_fullEvents.constLast());
+        m_complete.append(place);
+        emit eventFinishedWithRMS(event);
     }
 }
 
@@ -157,11 +165,10 @@ int PowerEvents::addEventItem(qint32 type, qint32 channel, int &counter, float v
     event.value = value;
     event.startSeconds = quint32(time / 1000);
     event.startTime = event.endTime = time;
-    m_allEvents.append(event);
-    m_unfinished.append(m_allEvents.size() - 1);
+    m_unfinished.append(m_events.size());
     if (hasCurves(type))
-        m_pending.append(m_allEvents.size() - 1);
-    emit eventListChanged(m_allEvents);
+        m_pending.append(m_events.size());
+    m_events.append(event);
     emit changeEventsWave(time);
     refreshMbEvents();
     emit buzzerRing(0);
@@ -171,7 +178,7 @@ int PowerEvents::addEventItem(qint32 type, qint32 channel, int &counter, float v
 int PowerEvents::firstUnfinished(qint32 type) const
 {
     for (const int place : m_unfinished) {
-        if (m_allEvents.at(place).type == type)
+        if (m_events.at(place).type == type)
             return place;
     }
     return -1;
@@ -182,15 +189,15 @@ void PowerEvents::finishEvent(qint32 type, qint32 channel, float value, qint64 t
     const int place = firstUnfinished(type);
     if (place < 0)
         return;
-    PQAEventItem &event = m_allEvents[place];
-    event.channel = channel;
-    event.value = value;
-    event.endTime = time;
-    event.duration = qint32(quint32(quint64(event.endTime) - quint64(event.startTime)));
-    event.finished = 1;
     m_unfinished.removeOne(place);
-    emit eventFinished(event);
-    emit eventListChanged(m_allEvents);
+    m_events.change(place, [&](PQAEventItem &event) {
+        event.channel = channel;
+        event.value = value;
+        event.endTime = time;
+        event.duration = qint32(quint32(quint64(event.endTime) - quint64(event.startTime)));
+        event.finished = 1;
+        emit eventFinished(event);
+    });
     refreshMbEvents();
 }
 
@@ -199,20 +206,20 @@ void PowerEvents::changeEventType(qint32 oldType, qint32 channel, float value, q
     const int place = firstUnfinished(oldType);
     if (place < 0)
         return;
-    PQAEventItem &event = m_allEvents[place];
-    event.channel = channel;
-    event.type = newType;
-    event.value = value;
-    event.startTime = event.endTime = time;
-    event.startSeconds = quint32(time / 1000);
-    event.duration = 0;
     m_globalBits = (m_globalBits & ~quint32(DipRunning)) | InterruptionRunning;
-    emit eventListChanged(m_allEvents);
+    m_events.change(place, [&](PQAEventItem &event) {
+        event.channel = channel;
+        event.type = newType;
+        event.value = value;
+        event.startTime = event.endTime = time;
+        event.startSeconds = quint32(time / 1000);
+        event.duration = 0;
+    });
     refreshMbEvents();
 }
 
 void PowerEvents::refreshMbEvents()
 {
-    m_table.fill(m_allEvents);
+    m_table.fill(m_events);
     emit mbEventsChanged(QByteArray(reinterpret_cast<const char *>(&m_table), int(sizeof m_table)));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/pqaeventitem.h"
+#include "model/eventlist.h"
 #include "detect/eventsettings.h"
 #include "detect/eventtable.h"
 #include "detect/rvcfifo.h"
@@ -14,17 +14,22 @@
 
 class Pqa2FF;
 
-/// Event detector of the instrument: takes the half-cycle values of all inputs and the slower aggregated values, keeps
+/// Event detector of the instrument: takes the half-cycle values of all inputs and the slower aggregated values, writes
 /// the one list of events, and completes each event with the r.m.s. curves around its start and its end
-/// (docs/events.md). Main thread only; all signals are direct.
+/// (docs/events.md). What a change costs does not depend on how many events there are. Main thread only; all signals
+/// are direct.
 class PowerEvents : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Latches the active limit set and the present settings; the wiring is read anew at every sample.
-    explicit PowerEvents(QObject *parent = nullptr);
-    /// Works on given thresholds and a given wiring, without any global.
+    /// Latches the active limit set and the present settings; the wiring is read anew at every sample. \a list, which
+    /// outlives the detector, is written by no one else but may be emptied by its owner: what runs then ends without an
+    /// entry.
+    explicit PowerEvents(EventList &list, QObject *parent = nullptr);
+    /// The same with given thresholds and a given wiring, without any global.
+    PowerEvents(EventList &list, const EventSettings &settings, int joinMode, QObject *parent = nullptr);
+    /// The same with a list of its own.
     PowerEvents(const EventSettings &settings, int joinMode, QObject *parent = nullptr);
     ~PowerEvents() override;
 
@@ -40,11 +45,11 @@ public:
     void checkEventHarm(int phase, int index, const _value_with_time &ratio);
     void checkEventFlicker(int phase, const _value_with_time &plt);
 
-    QList<PQAEventItem> getAllEvents() const { return m_allEvents; }
-    /// Events whose curves are complete.
-    QList<PQAEventItem> getFullEvents() const { return m_fullEvents; }
-    /// Forgets all events and says so. Counter and running states stay: what runs ends without an entry.
-    void clear();
+    const EventList &getAllEvents() const { return m_events; }
+    /// Copies of the events whose curves are complete, in the order of their completion.
+    QList<PQAEventItem> getFullEvents() const;
+    /// Forgets all events. Counter and running states stay: what runs ends without an entry.
+    void clear() { m_events.clear(); }
     /// Kept for the caller's sake; a null pointer is not taken, and nothing reads the file.
     void setUserFile(Pqa2FF *file);
     /// Brings the Modbus table up to date and hands it on.
@@ -61,8 +66,9 @@ public:
     static QByteArray rawHead(const __event_item &event);
 
 signals:
-    void eventListChanged(const QList<PQAEventItem> &events);
+    // The list itself says which event is new or changed.
     void eventFinished(const PQAEventItem &event);
+    /// Its curves are complete.
     void eventFinishedWithRMS(const PQAEventItem &event);
     void buzzerRing(unsigned int);
     void changeEventsWave(long long time); // ms since 1970
@@ -108,6 +114,7 @@ private:
     void walkPending(quint8 phases);
     void copyHistory(quint8 phases, RmsCurve *curves) const;
     bool historyReaches(const PQAEventItem &event, qint64 time, quint64 wait) const;
+    void forgetPlaces();
     int addEventItem(qint32 type, qint32 channel, int &counter, float value, qint64 time);
     void finishEvent(qint32 type, qint32 channel, float value, qint64 time);
     void changeEventType(qint32 oldType, qint32 channel, float value, qint32 newType, qint64 time);
@@ -127,11 +134,12 @@ private:
     int m_fixedJoinMode = -1; // below 0: that of the settings
     Pqa2FF *m_userFile = nullptr;
 
-    QList<PQAEventItem> m_allEvents; // in the order of detection
-    // Places in m_allEvents, not pointers: a list that someone holds a copy of moves its entries when it changes.
+    EventList m_ownEvents; // unused where a list is given
+    EventList &m_events;
+    // Places in the list.
     QVector<int> m_pending; // events whose curves are not complete
     QVector<int> m_unfinished; // in the order of the list
-    QList<PQAEventItem> m_fullEvents;
+    QVector<int> m_complete; // events whose curves are complete
     std::deque<_value_with_time> m_history[kEventInputs];
     ModbusEventTable m_table;
 

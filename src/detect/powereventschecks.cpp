@@ -237,7 +237,6 @@ void PowerEvents::checkRVC(int channel)
     event.startSeconds = quint32(change.startTime / 1000);
     event.startTime = change.startTime;
     event.endTime = change.endTime;
-    m_allEvents.append(event);
-    emit eventListChanged(m_allEvents);
+    m_events.append(event);
     refreshMbEvents();
 }

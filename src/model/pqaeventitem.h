@@ -47,8 +47,9 @@ struct __event_item
 /// R.m.s. curve of one input. Thousands of events keep theirs: a vector takes 12 bytes a sample, a list 40.
 using RmsCurve = QVector<_value_with_time>;
 
-/// One power-quality event with the r.m.s. curves around its start and its end.
-/// Lists by input: 0 to 3 the voltages L1, L2, L3, N; 4 to 7 the currents I1, I2, I3, IN.
+/// One power-quality event with the r.m.s. curves around its start and its end. Where the two overlap, those of a
+/// complete event stand in the first alone and the second is empty.
+/// Curves by input: 0 to 3 the voltages L1, L2, L3, N; 4 to 7 the currents I1, I2, I3, IN.
 struct PQAEventItem : __event_item
 {
     RmsCurve startRms[8];

@@ -31,7 +31,7 @@ void EventsPage::retranslateUi()
     m_ui->events->update(); // its column titles
 }
 
-void EventsPage::refreshEventList(const QList<__event_item> *list)
+void EventsPage::refreshEventList(const EventSelection *list)
 {
     m_ui->events->refreshEventList(list);
     showEventsCounts();

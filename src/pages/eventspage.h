@@ -1,6 +1,5 @@
 #pragma once
 
-#include "model/pqaeventitem.h"
 #include "pages/listpage.h"
 
 #include <memory>
@@ -8,6 +7,7 @@
 namespace Ui {
 class EventsPage;
 }
+class EventSelection;
 
 /// List of a function's events, one line selected, with a counter "3/17". The arrows up and down move the selection,
 /// and go on while they are held; F5 goes back.
@@ -19,8 +19,8 @@ public:
     explicit EventsPage(_quvera_ui_type type, QWidget *parent = nullptr);
     ~EventsPage() override;
 
-    /// Shows \a list; null empties the table.
-    void refreshEventList(const QList<__event_item> *list);
+    /// Shows \a list, which outlives the page; null empties the table.
+    void refreshEventList(const EventSelection *list);
 
 public slots:
     void init_parameter() override;

@@ -85,7 +85,7 @@ void appendWord(QByteArray &bytes, qint32 word)
 
 } // namespace
 
-QByteArray savedRecord(const __rms_trend_data &record, const QList<__event_item> &events)
+QByteArray savedRecord(const __rms_trend_data &record, const EventSelection &events)
 {
     const int n = record.voltage[0].size();
     QByteArray bytes;
@@ -98,7 +98,8 @@ QByteArray savedRecord(const __rms_trend_data &record, const QList<__event_item>
             bytes.append(reinterpret_cast<const char *>(values.constData()), n * int(sizeof(float)));
         }
     }
-    for (const __event_item &event : events) {
+    for (int i = 0; i < events.size(); ++i) {
+        const __event_item &event = events.at(i);
         // Field by field into zeroed words: the gaps between the fields must not carry chance bytes into a file.
         char words[sizeof(__event_item)] = {};
         const auto put = [&words](std::size_t at, const auto &field) { std::memcpy(words + at, &field, sizeof field); };

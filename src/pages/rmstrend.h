@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/pqaeventitem.h"
+#include "model/eventselection.h"
 #include "model/displayrecords.h"
 #include "pages/trendscaler.h"
 
@@ -42,6 +42,6 @@ QStringList axisLabels(int count, int seconds, int extra = 0);
 
 /// Saved record: bytes of the r.m.s. block, bytes of the event block (4 bytes each); of each of the eight lists as many
 /// values as the first list has, missing ones 0; the twelve words of each event.
-QByteArray savedRecord(const __rms_trend_data &record, const QList<__event_item> &events);
+QByteArray savedRecord(const __rms_trend_data &record, const EventSelection &events);
 
 } // namespace RmsTrend

@@ -9,4 +9,4 @@ SettingConfig m_settingConfig_g;
 UserConfig m_userConfig_g;
 LimitsManager m_limits_g;
 LangTranslation languageTranslator;
-QList<__event_item> g_events_list;
+EventList g_events_list;

@@ -5,7 +5,7 @@
 #include "settings/calibfile.h"
 #include "settings/langtranslation.h"
 #include "settings/limitsmanager.h"
-#include "model/pqaeventitem.h"
+#include "model/eventlist.h"
 #include "settings/settingconfig.h"
 #include "settings/userconfig.h"
 
@@ -15,4 +15,4 @@ extern SettingConfig m_settingConfig_g;
 extern UserConfig m_userConfig_g;
 extern LimitsManager m_limits_g;
 extern LangTranslation languageTranslator;
-extern QList<__event_item> g_events_list; // the live events, as the pages read them
+extern EventList g_events_list; // the events of the measurement: the task writes, the others read

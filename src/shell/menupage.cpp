@@ -177,7 +177,7 @@ bool MenuPage::pressKey(int key)
 
 void MenuPage::clearSystemStatus()
 {
-    g_events_list.clear();
+    g_events_list.finish();
     qDeleteAll(g_trans_events);
     g_trans_events.clear();
 }

@@ -43,7 +43,6 @@ public:
 public slots:
     void retranslateUi() override;
     void refreshSystemStatus() { }
-    void eventsChanged() { }
     void transEventsChanged() { }
     /// A run ended: its events are forgotten.
     void clearSystemStatus();

@@ -29,13 +29,6 @@ template <typename P> FunctionPage *make(TaskLinks &, const LiveData &data)
     return new P(data);
 }
 
-template <typename P> FunctionPage *makeWithEvents(TaskLinks &links, const LiveData &data)
-{
-    auto *page = new P(data);
-    QObject::connect(&links, &TaskLinks::eventListChanged, page, &P::refreshEventList);
-    return page;
-}
-
 FunctionPage *makeHarmonics(TaskLinks &links, const LiveData &data)
 {
     auto *page = new harm(data);
@@ -85,7 +78,7 @@ const PageRow kRows[] = {
       Plan::Live, kBasic, Hears::kLive, 2, 1, make<VifPage> },
     { UI_DIPS_SWELLS, QT_TRANSLATE_NOOP("BaseDialog", "Dips&Swells"),
       { 6, "dips_swells", QT_TRANSLATE_NOOP("MenuPage", "Dips&Swells\n") },
-      Plan::Live, kBasic, Hears::kLive, 3, 2, makeWithEvents<dswell> },
+      Plan::Live, kBasic, Hears::kLive, 3, 2, make<dswell> },
     { UI_HARMONICS, QT_TRANSLATE_NOOP("BaseDialog", "Harmonics"),
       { 3, "harmonics", QT_TRANSLATE_NOOP("MenuPage", "Harmonics\n") },
       Plan::Live, kBasic, Hears::kLive, 5, 3, makeHarmonics },
@@ -105,7 +98,7 @@ const PageRow kRows[] = {
       { 12, "user", QT_TRANSLATE_NOOP("MenuPage", "User\n") }, Plan::Settings, kBasic, 0, 1, 0, nullptr },
     { UI_INRUSH, QT_TRANSLATE_NOOP("BaseDialog", "Inrush"),
       { 7, "inrush", QT_TRANSLATE_NOOP("MenuPage", "Inrush\n") },
-      Plan::Live, kBasic, Hears::kLive, 9, 9, makeWithEvents<InrushPage> },
+      Plan::Live, kBasic, Hears::kLive, 9, 9, make<InrushPage> },
     // The logger of text files: its pages exist, no key of this release shows them.
     { UI_LOGGER, QT_TRANSLATE_NOOP("BaseDialog", "Logger"), kNoTile, Plan::Unreached, kBasic, 0, 0, 0, nullptr },
     { UI_MONITOR, QT_TRANSLATE_NOOP("BaseDialog", "Monitor"), kNoTile,

@@ -24,7 +24,6 @@ void TaskLinks::take(FunctionPage *page, const PageRow &row)
 void TaskLinks::follow(UniTask *task)
 {
     m_task = task;
-    connect(task, &UniTask::refreshEventList, this, &TaskLinks::eventListChanged);
     connect(task, &UniTask::hasTransEvents, this, &TaskLinks::transientsChanged);
     connect(task, qOverload<>(&AbstractTask::taskStoped), this, &TaskLinks::ended);
     connect(task, &AbstractTask::taskPaused, this, &TaskLinks::paused);

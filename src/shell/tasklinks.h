@@ -43,7 +43,6 @@ signals:
     void continued();
     void begun(); // a run begins: what was shown is to be forgotten
     void ended();
-    void eventListChanged(void *);
     void transientsChanged();
     // of the pages
     void pauseWanted();

@@ -57,10 +57,8 @@ UniTask::UniTask(LiveData &data, QObject *parent)
     : AbstractTask(parent), m_data(data), m_scales(m_settingConfig_g.derived().scales)
 {
     initLimitsData();
-    m_events = new PowerEvents(this);
+    m_events = new PowerEvents(g_events_list, this);
     connect(m_events, &PowerEvents::buzzerRing, this, &UniTask::buzzerRing);
-    connect(m_events, &PowerEvents::eventListChanged, this, &UniTask::changeEventsList);
-    connect(m_events, &PowerEvents::eventFinished, this, &UniTask::eventFinished);
     connect(m_events, &PowerEvents::eventFinishedWithRMS, this, &UniTask::eventFinishedWithRMS);
     connect(m_events, &PowerEvents::changeEventsWave, this, &UniTask::changeEventsWave);
     connect(m_events, &PowerEvents::mbEventsChanged, this, &UniTask::eventTableChanged);

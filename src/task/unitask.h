@@ -70,17 +70,13 @@ public slots:
     void resetEnergy();
     void startBaseTimer();
     void stopBaseTimer();
-    void changeEventsList(const QList<PQAEventItem> &events);
-    void eventFinished(const PQAEventItem &event);
     void eventFinishedWithRMS(const PQAEventItem &event);
     /// The waveform around \a time (ms since 1970) is wanted for the recorder.
     void changeEventsWave(long long time);
 
 signals:
     void updateDisplay(void *);
-    void refreshEventList(void *);
     void buzzerRing(unsigned int);
-    void hasEvents();
     void hasTransEvents();
     // What the plant's master may read: told as it arrives, the records are valid during the call.
     void aggregationTaken(const __datagram_aggregation *record);

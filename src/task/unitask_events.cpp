@@ -83,23 +83,6 @@ void UniTask::drainRings()
     }
 }
 
-void UniTask::changeEventsList(const QList<PQAEventItem> &events)
-{
-    // Entries are overwritten where they stand: ten thousand of them made anew at each change would hold up the pages.
-    while (g_events_list.size() > events.size())
-        g_events_list.removeLast();
-    for (int i = 0; i < events.size(); ++i) {
-        if (i < g_events_list.size())
-            g_events_list[i] = events.at(i);
-        else
-            g_events_list.append(events.at(i));
-    }
-    emit refreshEventList(nullptr);
-    emit hasEvents();
-}
-
-void UniTask::eventFinished(const PQAEventItem &) { }
-
 void UniTask::eventFinishedWithRMS(const PQAEventItem &event)
 {
     if (m_function == UniBasic && isRecording() && m_commonFile && m_commonFile->isOpen())
@@ -120,8 +103,7 @@ QByteArray eventHead(const PQAEventItem &event)
 
 void UniTask::saveAllEvents()
 {
-    const QList<PQAEventItem> events = m_events->getAllEvents();
-    for (const PQAEventItem &event : events) {
+    for (const PQAEventItem &event : m_events->getAllEvents()) {
         for (Pqa2FF *file : { m_commonFile, m_monitorFile }) {
             if (file && file->isOpen())
                 file->addDataBlock(Pqa2EventHead, eventHead(event));
@@ -131,8 +113,7 @@ void UniTask::saveAllEvents()
 
 void UniTask::saveEvents(bool finished)
 {
-    const QList<PQAEventItem> events = m_events->getAllEvents();
-    for (const PQAEventItem &event : events) {
+    for (const PQAEventItem &event : m_events->getAllEvents()) {
         if ((event.finished != 0) != finished)
             continue;
         if (m_commonFile && m_commonFile->isOpen())

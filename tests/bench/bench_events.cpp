@@ -1,9 +1,15 @@
 // One half cycle through all event detectors, beside a plain pass over the same values: the eight inputs, and the
-// windows of three rapid-voltage-change rings (sum, maximum and minimum of 100 half cycles each).
+// windows of three rapid-voltage-change rings (sum, maximum and minimum of 100 half cycles each). And an event's change
+// where the list is full, beside one where it is short.
 #include "bench/ratios.h"
 #include "settings/limits.h"
 #include "detect/powerevents.h"
+#include "pages/eventfollower.h"
+#include "pages/eventspage.h"
 
+#include <QApplication>
+
+#include <clocale>
 #include <memory>
 #include <vector>
 
@@ -103,6 +109,67 @@ void dipEverySecond(benchmark::State &state)
     }
 }
 
+/// An event that comes and goes where \a count are in the list: detector, Modbus table, the page in front with its
+/// table, and a page behind it. The lists are made anew before they grow by more than a little.
+void changeAmong(benchmark::State &state, int count)
+{
+    constexpr int kPairs = 100;
+    EventsPage front(UI_DIPS_SWELLS);
+    QWidget hidden;
+    front.show();
+    std::unique_ptr<EventList> list;
+    std::unique_ptr<EventFollower> followers[2];
+    std::unique_ptr<PowerEvents> events;
+    int shown = 0;
+    const auto renew = [&] {
+        front.refreshEventList(nullptr);
+        events.reset();
+        for (auto &follower : followers)
+            follower.reset();
+        list = std::make_unique<EventList>();
+        PQAEventItem item;
+        item.type = EventUnbalance;
+        for (int i = 0; i < count; ++i)
+            list->append(item);
+        const auto show = [&](const EventSelection &selection) {
+            front.refreshEventList(&selection);
+            ++shown;
+        };
+        followers[0] = std::make_unique<EventFollower>(&front, *list, kAllEvents, show);
+        followers[1] = std::make_unique<EventFollower>(&hidden, *list, kAllEvents, show);
+        for (auto &follower : followers)
+            follower->catchUp();
+        events = std::make_unique<PowerEvents>(*list, settings(), 1);
+    };
+    renew();
+    int pairs = 0;
+    for (auto _ : state) {
+        events->checkEventUnbal({ 10, 30 });
+        events->checkEventUnbal({ 20, 0 });
+        if (++pairs == kPairs) {
+            state.PauseTiming();
+            if (list->size() != count + kPairs || shown < 2 * kPairs)
+                state.SkipWithError("each change reaches the list and the page");
+            renew();
+            pairs = shown = 0;
+            state.ResumeTiming();
+        }
+    }
+    front.refreshEventList(nullptr);
+}
+
+void changeAmongTen(benchmark::State &state)
+{
+    changeAmong(state, 10);
+}
+
+void changeAtTheLimit(benchmark::State &state)
+{
+    changeAmong(state, 10'000);
+}
+
+BENCHMARK(changeAmongTen);
+BENCHMARK(changeAtTheLimit);
 BENCHMARK(plainPass);
 BENCHMARK(quietNetwork);
 BENCHMARK(dipEverySecond);
@@ -111,7 +178,12 @@ BENCHMARK(dipEverySecond);
 
 int main(int argc, char **argv)
 {
-    return Ratios::run(argc, argv, Ratios::ProcessorTime,
-                       { { "events, quiet network / plain pass", "quietNetwork", "plainPass", 0 },
-                         { "events, a dip every second / plain pass", "dipEverySecond", "plainPass", 0 } });
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    setlocale(LC_NUMERIC, "C");
+    return Ratios::run(
+        argc, argv, Ratios::ProcessorTime,
+        { { "events, quiet network / plain pass", "quietNetwork", "plainPass", 0 },
+          { "events, a dip every second / plain pass", "dipEverySecond", "plainPass", 0 },
+          { "events, a change at 10,000 events / a change at 10", "changeAtTheLimit", "changeAmongTen", 2.0 } });
 }

@@ -160,39 +160,43 @@ void vectors(benchmark::State &state)
     repaint(state, chart);
 }
 
-QList<__event_item> events(int count)
+EventSelection dips(EventList &list, int count)
 {
-    QList<__event_item> list;
-    __event_item item;
+    PQAEventItem item;
     item.type = EventDip;
     for (int i = 0; i < count; ++i) {
         item.startSeconds = 1700000000u + quint32(i);
-        list << item;
+        list.append(item);
     }
-    return list;
+    EventSelection all(list, kAllEvents);
+    all.refresh();
+    return all;
 }
 
 void eventTable(benchmark::State &state)
 {
     EventsWidget table;
     table.resize(600, 320);
-    const QList<__event_item> list = events(1000);
-    table.refreshEventList(&list);
+    EventList list;
+    const EventSelection events = dips(list, 1000);
+    table.refreshEventList(&events);
     repaint(state, table);
 }
 
 void eventRefresh(benchmark::State &state)
 {
     EventsWidget table;
-    const QList<__event_item> list = events(100000);
+    EventList list;
+    const EventSelection events = dips(list, 100000);
     table.changeEventType(EventsDips);
     for (auto _ : state)
-        table.refreshEventList(&list);
+        table.refreshEventList(&events);
 }
 
 void eventCopy(benchmark::State &state)
 {
-    const QList<__event_item> list = events(100000);
+    EventList list;
+    dips(list, 100000);
     QVector<__event_item> copy(list.size());
     for (auto _ : state) {
         std::copy(list.begin(), list.end(), copy.begin());

@@ -338,7 +338,7 @@ void TstLiveEvents::comparePage(const __event_item &event, const Expected &expec
     const auto *table = dynamic_cast<EventsWidget *>(page->findChild<QWidget *>(QStringLiteral("events")));
     QVERIFY(table);
     int line = 0; // events of the page's own kinds in front of this one
-    for (const __event_item &other : qAsConst(g_events_list)) {
+    for (const __event_item &other : g_events_list) {
         if (other.startTime == event.startTime && other.type == event.type && other.channel == event.channel)
             break;
         line += (other.type == EventInrush) == inrush;
@@ -383,7 +383,7 @@ void TstLiveEvents::modbusTableFollowedEveryChange()
 void TstLiveEvents::listPageCountsItsEvents()
 {
     int dips = 0;
-    for (const __event_item &event : qAsConst(g_events_list))
+    for (const __event_item &event : g_events_list)
         dips += event.type != EventInrush;
     LiveGraph::key(Qt::Key_Y); // F2, "Events"
     QTRY_VERIFY(LiveGraph::text("events_count").endsWith(QStringLiteral("/%1").arg(dips)));

@@ -69,7 +69,7 @@ void TstManyEvents::initTestCase()
     const int before = residentKilobytes();
     QVERIFY(LiveGraph::runUntil([end] { return LiveGraph::measuredUntil() > end; }, kSpeed));
     m_grownKilobytes = residentKilobytes() - before;
-    m_listed = g_events_list;
+    m_listed = QList<__event_item>(g_events_list.begin(), g_events_list.end());
     QCOMPARE(LiveGraph::status(QStringLiteral("dropped")), QStringLiteral("0"));
 }
 

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "model/pqaeventitem.h"
+#include "pages/eventfollower.h"
 #include "pages/viewcontainer.h"
+
+#include <memory>
 
 class DipsEventPage;
 class DswellMain;
-
-/// Events of the dip family, copied from the live list: dips, swells, interruptions, rapid voltage changes.
-extern QList<__event_item> m_ds_events_list;
 
 /// Dips and swells: the trend of half-cycle values and the list of events found in it.
 class dswell : public ViewContainer
@@ -18,17 +17,15 @@ public:
     explicit dswell(const LiveData &data, QWidget *parent = nullptr);
 
     QByteArray pqaData() const override;
+    /// Dips, swells, interruptions and rapid voltage changes of the live list.
+    const EventSelection &events() const { return m_follower->events(); }
 
 public slots:
-    void init_parameter() override;
-    void refreshEventList(void *);
     void showDispMain();
     void showDispEvent();
-
-protected:
-    void initDisplayParam() override;
 
 private:
     DswellMain *m_main;
     DipsEventPage *m_events;
+    std::unique_ptr<EventFollower> m_follower;
 };

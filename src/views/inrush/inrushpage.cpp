@@ -8,8 +8,6 @@
 #include "views/inrush/inrushmain.h"
 #include "views/inrush/inrushstartpage.h"
 
-QList<__event_item> m_inrush_events_list;
-
 InrushPage::InrushPage(const LiveData &data, QWidget *parent)
     : ViewContainer(UI_INRUSH, { 7, "Inrush" }, data, parent), m_main(new InrushMain),
       m_start(new InrushStartPage(data)), m_events(new InrushEventPage)
@@ -20,6 +18,11 @@ InrushPage::InrushPage(const LiveData &data, QWidget *parent)
     connect(m_main, &InrushMain::goInrushStart, this, &InrushPage::showInrushStart);
     connect(m_start, &InrushStartPage::goInrushEvent, this, &InrushPage::showInrushEvent);
     connect(m_events, &InrushEventPage::goInrushStart, this, &InrushPage::backToStart);
+    m_follower = std::make_unique<EventFollower>(this, g_events_list, EventKinds { EventInrush, EventInrush },
+                                                 [this](const EventSelection &events) {
+                                                     m_events->refreshEventList(&events);
+                                                     m_start->showEventsCounts(events.size());
+                                                 });
 }
 
 void InrushPage::sendCMD()
@@ -54,23 +57,7 @@ void InrushPage::showInrushEvent()
     showPage(m_events);
 }
 
-void InrushPage::initDisplayParam()
-{
-    m_inrush_events_list.clear();
-}
-
-void InrushPage::refreshEventList(void *)
-{
-    m_inrush_events_list.clear();
-    for (const __event_item &event : qAsConst(g_events_list)) {
-        if (event.type == EventInrush)
-            m_inrush_events_list.append(event);
-    }
-    m_events->refreshEventList(&m_inrush_events_list);
-    m_start->showEventsCounts(m_inrush_events_list.size());
-}
-
 QByteArray InrushPage::pqaData() const
 {
-    return RmsTrend::savedRecord(shown().inrush, m_inrush_events_list);
+    return RmsTrend::savedRecord(shown().inrush, events());
 }

@@ -1,14 +1,13 @@
 #pragma once
 
-#include "model/pqaeventitem.h"
+#include "pages/eventfollower.h"
 #include "pages/viewcontainer.h"
+
+#include <memory>
 
 class InrushEventPage;
 class InrushMain;
 class InrushStartPage;
-
-/// Inrush events, copied from the live list.
-extern QList<__event_item> m_inrush_events_list;
 
 /// Inrush currents: the levels that make one, the trend in which it shows, and the list of those found.
 class InrushPage : public ViewContainer
@@ -19,9 +18,10 @@ public:
     explicit InrushPage(const LiveData &data, QWidget *parent = nullptr);
 
     QByteArray pqaData() const override;
+    /// Inrush events of the live list.
+    const EventSelection &events() const { return m_follower->events(); }
 
 public slots:
-    void refreshEventList(void *);
     void showInrushMain();
     /// Arms the processor, where the switch is on, and shows the trend.
     void showInrushStart();
@@ -29,9 +29,6 @@ public slots:
 
 signals:
     void startInrushTask();
-
-protected:
-    void initDisplayParam() override;
 
 private:
     /// The raw inrush command to the processor.
@@ -41,4 +38,5 @@ private:
     InrushMain *m_main;
     InrushStartPage *m_start;
     InrushEventPage *m_events;
+    std::unique_ptr<EventFollower> m_follower;
 };

@@ -5,8 +5,6 @@
 #include "views/mainssignaling/mainssignalingmain.h"
 #include "views/mainssignaling/mainssignalingtrend.h"
 
-QList<__event_item> m_ms_events_list;
-
 MainsSignaling::MainsSignaling(const LiveData &data, QWidget *parent)
     : ViewContainer(UI_MAINS_SIG, { 12, "MainsSig" }, data, parent), m_main(new MainsSignalingMain(data)),
       m_trend(new MainsSignalingTrend(data)), m_events(new MainsSignalingEvent)
@@ -18,6 +16,8 @@ MainsSignaling::MainsSignaling(const LiveData &data, QWidget *parent)
     connect(m_main, &MainsSignalingMain::goMainsSignalingEvent, this, &MainsSignaling::showMainsSignalingEvent);
     connect(m_trend, &MainsSignalingTrend::goBack, this, &MainsSignaling::showMainsSignalingMain);
     connect(m_events, &MainsSignalingEvent::goBack, this, &MainsSignaling::showMainsSignalingMain);
+    m_follower = std::make_unique<EventFollower>(
+        this, m_list, kAllEvents, [this](const EventSelection &events) { m_events->refreshEventList(&events); });
 }
 
 void MainsSignaling::showMainsSignalingMain()
@@ -32,21 +32,16 @@ void MainsSignaling::showMainsSignalingTrend()
 
 void MainsSignaling::showMainsSignalingEvent()
 {
-    refreshEventList(nullptr);
+    m_follower->catchUp();
     showPage(m_events);
-}
-
-void MainsSignaling::refreshEventList(void *)
-{
-    m_events->refreshEventList(&m_ms_events_list);
 }
 
 void MainsSignaling::initDisplayParam()
 {
-    m_ms_events_list.clear();
+    m_list.clear();
 }
 
 QByteArray MainsSignaling::pqaData() const
 {
-    return RmsTrend::savedRecord(__rms_trend_data(), m_ms_events_list);
+    return RmsTrend::savedRecord(__rms_trend_data(), m_follower->events());
 }

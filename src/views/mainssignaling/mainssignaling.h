@@ -1,14 +1,13 @@
 #pragma once
 
-#include "model/pqaeventitem.h"
+#include "pages/eventfollower.h"
 #include "pages/viewcontainer.h"
+
+#include <memory>
 
 class MainsSignalingEvent;
 class MainsSignalingMain;
 class MainsSignalingTrend;
-
-/// Mains-signalling events. The detector makes none; whoever reads a stored file may fill the list.
-extern QList<__event_item> m_ms_events_list;
 
 /// Mains signaling: the table of the two carriers, their ten-minute trend, and a list of events.
 class MainsSignaling : public ViewContainer
@@ -21,13 +20,13 @@ public:
     void enterMainsSignaling() { enterFirstPage(); }
     /// The event list in the form of the other event pages, with no trend before it.
     QByteArray pqaData() const override;
+    /// The page's own list. The detector makes no events of its kind; whoever reads a stored file may fill it.
+    EventList &events() { return m_list; }
 
 public slots:
     void showMainsSignalingMain();
     void showMainsSignalingTrend();
     void showMainsSignalingEvent();
-    /// Shows m_ms_events_list as it stands.
-    void refreshEventList(void *);
 
 protected:
     void initDisplayParam() override;
@@ -36,4 +35,6 @@ private:
     MainsSignalingMain *m_main;
     MainsSignalingTrend *m_trend;
     MainsSignalingEvent *m_events;
+    EventList m_list;
+    std::unique_ptr<EventFollower> m_follower;
 };

@@ -10,16 +10,7 @@
 #include <algorithm>
 #include <iterator>
 
-namespace {
-/// Kinds that a filter lets through, first and last `PQAEventType`.
-struct KindRange
-{
-    int first;
-    int last;
-};
-} // namespace
-
-static const KindRange kFilters[] = {
+static const EventKinds kFilters[] = {
     { EventThd, EventMainsSignaling }, // unused: filter 0 takes the list as it is
     { EventRms, EventRms },
     { EventThd, EventHarmonicLast },
@@ -44,37 +35,24 @@ constexpr int kRowStep = 22;
 
 EventsWidget::EventsWidget(QWidget *parent) : QWidget(parent) { }
 
-void EventsWidget::refreshEventList(const QList<__event_item> *list)
+void EventsWidget::refreshEventList(const EventSelection *list)
 {
     if (!list) {
         initEventsCnt();
         return;
     }
-    // Slices of 48 bytes: sharing the list itself would make the detector copy all of it, curves included, at its
-    // next event.
-    m_all.resize(list->size());
-    std::copy(list->begin(), list->end(), m_all.begin());
+    m_all = list;
     eventTypeFilter();
     update();
-}
-
-bool EventsWidget::passes(const __event_item &item) const
-{
-    const KindRange &range = kFilters[m_filter];
-    return item.type >= range.first && item.type <= range.last;
 }
 
 void EventsWidget::eventTypeFilter()
 {
     if (m_filter < 0 || m_filter >= int(std::size(kFilters)))
         m_filter = EventsAll;
-    m_filtered.clear();
-    if (m_filter != EventsAll) {
-        for (int i = 0; i < m_all.size(); ++i) {
-            if (passes(m_all.at(i)))
-                m_filtered.append(i);
-        }
-    }
+    m_filtered.reset();
+    if (m_filter != EventsAll && m_all)
+        m_filtered = m_all->among(kFilters[m_filter]);
     m_scroll.setCount(shownSize());
 }
 
@@ -102,26 +80,16 @@ void EventsWidget::initEventsCnt()
 {
     m_scroll.setCount(0);
     m_scroll.reset();
-    m_all.clear();
-    m_filtered.clear();
+    m_all = nullptr;
+    m_filtered.reset();
     update();
-}
-
-int EventsWidget::shownSize() const
-{
-    return m_filter == EventsAll ? m_all.size() : m_filtered.size();
-}
-
-const __event_item &EventsWidget::shownItem(int index) const
-{
-    return m_all.at(m_filter == EventsAll ? index : m_filtered.at(index));
 }
 
 QStringList EventsWidget::lineTexts(int index) const
 {
     if (index < 0 || index >= shownSize())
         return {};
-    const __event_item &item = shownItem(index);
+    const __event_item &item = shown()->at(index);
     const QDateTime start = LocalTime::toLocalDateTime(QDateTime::fromSecsSinceEpoch(item.startSeconds, Qt::UTC));
     const bool known = item.type >= 0 && item.type < int(std::size(kTypeNames));
     const bool hasDuration = item.finished == 1 && item.type != EventRvc;

@@ -1,13 +1,14 @@
 #pragma once
 
-#include "model/pqaeventitem.h"
+#include "model/eventselection.h"
 #include "widgets/controls/scrollmodel.h"
 
 #include <QCoreApplication>
 #include <QPixmap>
 #include <QStringList>
-#include <QVector>
 #include <QWidget>
+
+#include <optional>
 
 /// Which events the table shows.
 enum __event_type {
@@ -21,7 +22,7 @@ enum __event_type {
 };
 
 /// Table of power-quality events, thirteen lines at a time, with a selection bar and a filter by kind. It only
-/// displays: it keeps the lines of the list it was last given. Needs 30 + 13 x 22 pixels in height. GUI thread.
+/// displays: the lines stand in the events it was last given. Needs 30 + 13 x 22 pixels in height. GUI thread.
 class EventsWidget : public QWidget
 {
     Q_DECLARE_TR_FUNCTIONS(EventsWidget)
@@ -31,8 +32,9 @@ public:
 
     static constexpr int kRows = 13;
 
-    /// Takes the lines of the list and filters them; a null list resets rows and counts.
-    void refreshEventList(const QList<__event_item> *list);
+    /// Shows the events of \a list, which must live until the next call, and filters them; a null list resets rows and
+    /// counts. Without a filter the cost does not depend on their number.
+    void refreshEventList(const EventSelection *list);
 
     /// Rebuilds the shown list by the filter in force.
     void eventTypeFilter();
@@ -63,16 +65,16 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    bool passes(const __event_item &item) const;
-    int shownSize() const;
-    const __event_item &shownItem(int index) const;
+    /// What passes the filter; null: nothing was given.
+    const EventSelection *shown() const { return m_filtered ? &*m_filtered : m_all; }
+    int shownSize() const { return shown() ? shown()->size() : 0; }
     void drawHeader(QPainter &painter) const;
     void drawRow(QPainter &painter, int row, const QStringList &texts) const;
 
     int m_filter = EventsAll;
     ScrollModel m_scroll { kRows };
-    QVector<__event_item> m_all; // lines without the curves
-    QVector<int> m_filtered; // places in m_all; unused while all are shown
+    const EventSelection *m_all = nullptr;
+    std::optional<EventSelection> m_filtered; // none while all are shown
     QPixmap m_background; // scaled to the widget
     QPixmap m_bar; // scaled to a row
 };

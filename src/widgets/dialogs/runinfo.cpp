@@ -31,14 +31,16 @@ RunInfo::~RunInfo() = default;
 
 QString RunInfo::statusText()
 {
-    const auto count = [](PQAEventType type) {
-        return std::count_if(g_events_list.cbegin(), g_events_list.cend(),
+    const EventList &events = g_events_list;
+    const int all = events.isOver() ? 0 : events.size();
+    const auto count = [&events, all](PQAEventType type) {
+        return std::count_if(events.begin(), events.begin() + all,
                              [type](const __event_item &item) { return item.type == type; });
     };
     return tr("System Status:\n\nLogger: %1\nTotal Events: %2\nDips: %3;   Swell: %4;   Interruption: %5;   "
               "Transients: %6;   Inrush: %7")
         .arg(RecordInfo::m_in_recording ? tr("Running") : tr("Stoped"))
-        .arg(g_events_list.size() + g_trans_events.size())
+        .arg(all + g_trans_events.size())
         .arg(count(EventDip))
         .arg(count(EventSwell))
         .arg(count(EventInterruption))

@@ -26,7 +26,8 @@ private slots:
     void inrushGetsCurvesAndOtherKindsDoNot();
     void wiringDecidesTheCurves_data();
     void wiringDecidesTheCurves();
-    void copyOfTheListSurvivesLaterChanges();
+    void longEventKeepsBothCurves();
+    void entriesStayWhereTheyAre();
     void rawFormHoldsHeadAndBothSections();
     void overlappingCurvesMergeIntoTheFirstSection();
     void rawFormSkipsInputsWithoutStart();
@@ -66,7 +67,7 @@ void TstEventCurves::historyDropsOneSampleACallBeyondThreeSeconds()
     EventStream in(events);
     in.feed(500, 200);
     in.feed(230, 200, 200); // swell at 1005000
-    in.feed(200, 200);
+    in.feed(151, 200);
     const PQAEventItem event = events.getAllEvents().at(0);
     const RmsCurve &start = event.startRms[0];
     // Taken at the first sample more than 1500 ms later, 1006510. A sample goes when the span before the append is
@@ -80,7 +81,7 @@ void TstEventCurves::historyMeasuresTheFirstInputAlone()
 {
     PowerEvents events(exactSettings(), 1);
     // Input 0 advances by 10 ms, all others by a day: nothing is dropped before input 0 spans three seconds.
-    for (int i = 0; i <= 200; ++i) {
+    for (int i = 0; i <= 151; ++i) {
         QList<_value_with_time> values;
         for (int k = 0; k < 8; ++k)
             values.append({ k == 0 ? 1000 + 10 * i : qint64(i) * 86'400'000, k == 0 && i == 0 ? 230.0f : 200.0f });
@@ -164,8 +165,12 @@ void TstEventCurves::startCurveIsTakenAfterMoreThan1500Ms()
     in.feed(1, 200); // ends at 1001520
     in.feed(150, 200); // up to 1003020
     QVERIFY(events.getAllEvents().at(0).endRms[0].isEmpty());
-    in.feed(1, 200);
-    QVERIFY(!events.getAllEvents().at(0).endRms[0].isEmpty());
+    QCOMPARE(events.getFullEvents().size(), 0);
+    in.feed(1, 200); // 1003030
+    // The two windows overlap: 152 half cycles to 1001510, and the 152 later ones of the end's.
+    QCOMPARE(events.getFullEvents().size(), 1);
+    QCOMPARE(events.getAllEvents().at(0).startRms[0].size(), 304);
+    QCOMPARE(qint64(events.getAllEvents().at(0).startRms[0].constLast().time), qint64(1'003'030));
 }
 
 void TstEventCurves::interruptionWaits1800And1600Ms()
@@ -179,9 +184,10 @@ void TstEventCurves::interruptionWaits1800And1600Ms()
     QVERIFY(!events.getAllEvents().at(0).startRms[0].isEmpty());
     in.feed(1, 200);
     in.feed(160, 200);
-    QVERIFY(events.getAllEvents().at(0).endRms[0].isEmpty());
+    QVERIFY(events.getFullEvents().isEmpty());
     in.feed(1, 200);
-    QVERIFY(!events.getAllEvents().at(0).endRms[0].isEmpty());
+    QCOMPARE(events.getFullEvents().size(), 1);
+    QCOMPARE(qint64(events.getAllEvents().at(0).startRms[0].constLast().time), qint64(1'001'820 + 1610));
 }
 
 void TstEventCurves::completeEventLeavesThePendingListOnce()
@@ -209,8 +215,13 @@ void TstEventCurves::shortEventGetsOverlappingWindows()
     const PQAEventItem event = events.getFullEvents().at(0);
     QCOMPARE(event.duration, 10);
     // The start curve ends at 1002510, the end curve one half cycle later: they overlap but for one sample.
-    QCOMPARE(event.startRms[0].size(), 252);
-    QCOMPARE(event.endRms[0].size(), 253);
+    // Each half cycle is kept once.
+    QCOMPARE(event.startRms[0].size(), 253);
+    QVERIFY(event.endRms[0].isEmpty());
+    QCOMPARE(event.startRms[0].capacity(), 253);
+    QCOMPARE(event.endRms[0].capacity(), 0);
+    for (int i = 1; i < event.startRms[0].size(); ++i)
+        QCOMPARE(event.startRms[0].at(i).time - event.startRms[0].at(i - 1).time, qint64(10));
     const QByteArray raw = PowerEvents::toRawData(event);
     QCOMPARE(at<qint32>(raw, 32), 3 * 2 * 253 * 12); // three voltages and three currents
     QCOMPARE(at<qint32>(raw, raw.size() - 4), 0);
@@ -256,22 +267,43 @@ void TstEventCurves::wiringDecidesTheCurves()
     for (int i = 0; i < 4; ++i) {
         QCOMPARE(!event.startRms[i].isEmpty(), i < phases);
         QCOMPARE(!event.startRms[i + 4].isEmpty(), i < phases);
-        QCOMPARE(!event.endRms[i].isEmpty(), i < phases);
+        // Its end was taken, too, and stands behind the start: 1510 ms after the end of 10 ms.
+        QCOMPARE(event.startRms[i].isEmpty() ? 0 : qint64(event.startRms[i].constLast().time),
+                 i < phases ? qint64(1'001'520) : 0);
     }
 }
 
-void TstEventCurves::copyOfTheListSurvivesLaterChanges()
+void TstEventCurves::longEventKeepsBothCurves()
 {
     PowerEvents events(exactSettings(), 1);
     EventStream in(events);
-    in.feed(1, 230);
-    const QList<PQAEventItem> kept = events.getAllEvents(); // shares its entries until the list changes
     in.feed(400, 200);
-    QCOMPARE(kept.at(0).finished, 0);
-    QVERIFY(kept.at(0).startRms[0].isEmpty());
-    QCOMPARE(events.getAllEvents().at(0).finished, 1);
-    QVERIFY(!events.getAllEvents().at(0).startRms[0].isEmpty());
-    QCOMPARE(events.getFullEvents().size(), 1);
+    in.feed(500, 230); // five seconds, from 1004000
+    in.feed(400, 200);
+    const PQAEventItem event = events.getFullEvents().at(0);
+    QCOMPARE(event.startRms[0].size(), 302);
+    QCOMPARE(event.endRms[0].size(), 302);
+    QCOMPARE(qint64(event.startRms[0].constLast().time), qint64(1'004'000 + 1510));
+    QCOMPARE(qint64(event.endRms[0].constLast().time), qint64(1'009'000 + 1510));
+}
+
+void TstEventCurves::entriesStayWhereTheyAre()
+{
+    // Who reads an event may hold it by reference: later events and the curves of this one move nothing.
+    PowerEvents events(exactSettings(), 1);
+    EventStream in(events);
+    in.feed(1, 230);
+    const PQAEventItem *first = &events.getAllEvents().at(0);
+    QCOMPARE(first->finished, 0);
+    in.feed(400, 200);
+    for (int i = 0; i < 5000; ++i) {
+        events.checkEventUnbal({ in.time, 3 });
+        events.checkEventUnbal({ in.time, 1 });
+    }
+    QCOMPARE(events.getAllEvents().size(), 5001);
+    QCOMPARE(&events.getAllEvents().at(0), first);
+    QCOMPARE(first->finished, 1);
+    QCOMPARE(first->startRms[0].size(), 153);
 }
 
 void TstEventCurves::rawFormHoldsHeadAndBothSections()

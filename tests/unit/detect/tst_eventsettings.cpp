@@ -126,9 +126,10 @@ void TstEventSettings::nominalsComeFromTheRecordThatIsGiven()
 void TstEventSettings::detectorLatchesTheActiveSet()
 {
     m_limits_g.changeActiveLimits(QStringLiteral("EN50160"));
-    PowerEvents before;
+    EventList list;
+    PowerEvents before(list);
     m_limits_g.changeActiveLimits(QStringLiteral("GOST32144"));
-    PowerEvents after;
+    PowerEvents after(list);
     m_limits_g.changeActiveLimits(QStringLiteral("EN50160"));
     const double volt = double(m_settingConfig_g.getRealNominalVolt());
     QVERIFY(isNear(before.settings().interruptionLevel, volt * 0.01));

@@ -324,7 +324,7 @@ void TstModbusBlocks::transientTimeBeyondAllIntegersIsSentAsZero()
 
 void TstModbusBlocks::eventRowsStandTenRegistersApart()
 {
-    QList<PQAEventItem> events;
+    EventList events;
     for (int i = 0; i < 12; ++i) {
         PQAEventItem event;
         event.finished = i % 2;

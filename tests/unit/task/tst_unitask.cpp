@@ -136,7 +136,7 @@ void TstUniTask::loggerAndInverterRunLikeBasicMeasuring()
 
 void TstUniTask::functionOutsideTheTableOnlyClearsTheEvents()
 {
-    g_events_list.append(__event_item());
+    g_events_list.append({});
     m_task->initUniFunction(AbstractTask::UniFunction(9));
     QVERIFY(g_events_list.isEmpty());
     QCOMPARE(m_task->startTime(), 0u);

@@ -91,6 +91,8 @@ private slots:
     void withNoEventsTheCounterShowsZeroOfZero();
     void unbalanceNeverShowsUp();
     void eventsOfTheFamilyKeepTheirOrder();
+    void hiddenPageCatchesUpWhenItIsShown();
+    void shownPageFollowsEachChange();
     void upAndDownMoveTheSelectionAndTheCounter();
     void heldKeyGoesOnOneLineAtATime();
     void eventKeysOpenTheListAndLeadBack();
@@ -98,6 +100,9 @@ private slots:
 
 private:
     DswellMain *mainPage() { return m_page->findChild<DswellMain *>(); }
+    /// Makes these the live list under the page, which is shown.
+    void list(const QList<__event_item> &events);
+    QList<int> listedTypes() const;
     DipsEventPage *eventPage() { return m_page->findChild<DipsEventPage *>(); }
     DSTrendChart *chart() { return named<DSTrendChart>(mainPage(), "trend"); }
     void feed(int count, float value = kNominal);
@@ -239,8 +244,7 @@ void TstDips::savedRecordHoldsTrendAndEvents()
     dip.startTime = 1700000000123;
     dip.endTime = 1700000000223;
     dip.duration = 100;
-    g_events_list = { dip, eventOf(EventSwell) };
-    m_page->refreshEventList(nullptr);
+    list({ dip, eventOf(EventSwell) });
 
     const QByteArray record = m_page->pqaData();
     QCOMPARE(record.size(), 8 + 8 * 3 * 4 + 2 * 48);
@@ -538,7 +542,6 @@ void TstDips::pagesLiveBeforeTheFirstStart()
     renewLive();
     dswell page(liveData());
     page.updateDisplay(nullptr);
-    page.refreshEventList(nullptr);
     page.retranslateUi();
     for (const FrontKey key : { F1, F2, F3, Left, Right, F4, Left, Right, F5 })
         press(page.findChild<DswellMain *>(), key);
@@ -561,36 +564,48 @@ void TstDips::withNoEventsTheCounterShowsZeroOfZero()
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("0/0"));
 }
 
+void TstDips::list(const QList<__event_item> &events)
+{
+    m_page->show();
+    g_events_list.clear();
+    for (const __event_item &event : events)
+        g_events_list.append({ event, {}, {} });
+}
+
+QList<int> TstDips::listedTypes() const
+{
+    QList<int> types;
+    for (int i = 0; i < m_page->events().size(); ++i)
+        types << m_page->events().at(i).type;
+    return types;
+}
+
 void TstDips::unbalanceNeverShowsUp()
 {
+    QList<__event_item> events;
     for (int type = 0; type <= 34; ++type)
-        g_events_list.append(eventOf(type));
-    m_page->refreshEventList(nullptr);
-    QCOMPARE(m_ds_events_list.size(), 4);
-    for (const __event_item &item : qAsConst(m_ds_events_list))
-        QVERIFY(item.type != EventUnbalance && item.type >= 27 && item.type <= 30);
+        events.append(eventOf(type));
+    list(events);
+    QCOMPARE(m_page->events().size(), 4);
+    for (const int type : listedTypes())
+        QVERIFY(type != EventUnbalance && type >= 27 && type <= 30);
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("1/4"));
     QCOMPARE(text(mainPage(), "events_count"), QStringLiteral("4"));
 }
 
 void TstDips::eventsOfTheFamilyKeepTheirOrder()
 {
-    g_events_list = { eventOf(EventSwell),  eventOf(EventRms), eventOf(EventInterruption), eventOf(EventDip),
-                      eventOf(EventInrush), eventOf(EventRvc), eventOf(EventDip) };
-    m_page->refreshEventList(nullptr);
-    QList<int> types;
-    for (const __event_item &item : qAsConst(m_ds_events_list))
-        types << item.type;
-    QCOMPARE(types, QList<int>({ 28, 29, 27, 30, 27 }));
-    m_page->refreshEventList(nullptr);
-    QCOMPARE(m_ds_events_list.size(), 5);
+    list({ eventOf(EventSwell), eventOf(EventRms), eventOf(EventInterruption), eventOf(EventDip), eventOf(EventInrush),
+           eventOf(EventRvc), eventOf(EventDip) });
+    QCOMPARE(listedTypes(), QList<int>({ 28, 29, 27, 30, 27 }));
+    m_page->hide();
+    m_page->show();
+    QCOMPARE(m_page->events().size(), 5);
 }
 
 void TstDips::upAndDownMoveTheSelectionAndTheCounter()
 {
-    for (int i = 0; i < 20; ++i)
-        g_events_list.append(eventOf(EventDip));
-    m_page->refreshEventList(nullptr);
+    list(QVector<__event_item>(20, eventOf(EventDip)).toList());
     press(eventPage(), Down, 14);
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("15/20"));
     QCOMPARE(named<EventsWidget>(eventPage(), "events")->firstShown(), 2);
@@ -604,9 +619,7 @@ void TstDips::upAndDownMoveTheSelectionAndTheCounter()
 
 void TstDips::heldKeyGoesOnOneLineAtATime()
 {
-    for (int i = 0; i < 50; ++i)
-        g_events_list.append(eventOf(EventDip));
-    m_page->refreshEventList(nullptr);
+    list(QVector<__event_item>(50, eventOf(EventDip)).toList());
     hold(eventPage(), Down, 12);
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("14/50"));
     release(eventPage(), Down);
@@ -625,13 +638,51 @@ void TstDips::eventKeysOpenTheListAndLeadBack()
     QCOMPARE(text(eventPage(), "btn_f5"), QStringLiteral("Back"));
 }
 
+void TstDips::hiddenPageCatchesUpWhenItIsShown()
+{
+    list({ eventOf(EventDip), eventOf(EventDip) });
+    press(eventPage(), Down);
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("2/2"));
+    m_page->hide();
+    g_events_list.append({ eventOf(EventSwell), {}, {} });
+    g_events_list.change(1, [](PQAEventItem &event) { event.type = EventInrush; });
+    g_events_list.append({ eventOf(EventRvc), {}, {} });
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("2/2")); // nothing was done for it
+    QCOMPARE(text(mainPage(), "events_count"), QStringLiteral("2"));
+    m_page->show();
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("2/3"));
+    QCOMPARE(text(mainPage(), "events_count"), QStringLiteral("3"));
+    QCOMPARE(listedTypes(), QList<int>({ 27, 28, 30 }));
+    m_page->hide();
+    g_events_list.clear();
+    QVERIFY(m_page->events().isEmpty());
+}
+
+void TstDips::shownPageFollowsEachChange()
+{
+    list({ eventOf(EventDip) });
+    g_events_list.append({ eventOf(EventUnbalance), {}, {} });
+    g_events_list.append({ eventOf(EventSwell), {}, {} });
+    QCOMPARE(listedTypes(), QList<int>({ 27, 28 }));
+    g_events_list.change(0, [](PQAEventItem &event) { event.type = EventInterruption; });
+    QCOMPARE(named<EventsWidget>(eventPage(), "events")->lineTexts(0).value(1), QStringLiteral("L1 INT"));
+    g_events_list.change(0, [](PQAEventItem &event) { event.type = EventFrequency; });
+    QCOMPARE(listedTypes(), QList<int>({ 28 }));
+    g_events_list.change(1, [](PQAEventItem &event) { event.type = EventRvc; });
+    QCOMPARE(listedTypes(), QList<int>({ 30, 28 }));
+    QCOMPARE(text(mainPage(), "events_count"), QStringLiteral("2"));
+    g_events_list.clear();
+    QCOMPARE(text(mainPage(), "events_count"), QStringLiteral("0"));
+    QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("0/0"));
+}
+
 void TstDips::restartEmptiesTheLists()
 {
-    g_events_list = { eventOf(EventDip) };
-    m_page->refreshEventList(nullptr);
+    list({ eventOf(EventDip) });
+    QCOMPARE(m_page->events().size(), 1);
+    g_events_list.clear(); // as the task does it at each start
     beginRun(*m_page);
-    QVERIFY(g_events_list.isEmpty());
-    QVERIFY(m_ds_events_list.isEmpty());
+    QVERIFY(m_page->events().isEmpty());
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("0/0"));
     QCOMPARE(text(mainPage(), "events_count"), QStringLiteral("0"));
 }

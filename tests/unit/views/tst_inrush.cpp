@@ -435,7 +435,6 @@ void TstInrush::pagesLiveBeforeTheFirstStart()
     renewLive();
     InrushPage page(liveData());
     page.updateDisplay(nullptr);
-    page.refreshEventList(nullptr);
     page.retranslateUi();
     press(page.findChild<InrushMain *>(), F5);
     for (const FrontKey key : { F1, F2, F3, Left, Right, F4, Left, Right, F5 })
@@ -446,17 +445,19 @@ void TstInrush::pagesLiveBeforeTheFirstStart()
 void TstInrush::onlyInrushEventsAreListed()
 {
     g_events_list.clear();
+    m_page->show();
     for (int type = 0; type <= 34; ++type) {
-        __event_item item;
+        PQAEventItem item;
         item.type = type;
-        g_events_list << item << item;
+        g_events_list.append(item);
+        g_events_list.append(item);
     }
-    m_page->refreshEventList(nullptr);
-    QCOMPARE(m_inrush_events_list.size(), 2);
-    QCOMPARE(m_inrush_events_list.first().type, int(EventInrush));
+    QCOMPARE(m_page->events().size(), 2);
+    QCOMPARE(m_page->events().at(0).type, int(EventInrush));
     QCOMPARE(text(startPage(), "events_count"), QStringLiteral("2"));
+    g_events_list.clear(); // as the task does it at each start
     beginRun(*m_page);
-    QVERIFY(m_inrush_events_list.isEmpty());
+    QVERIFY(m_page->events().isEmpty());
     QCOMPARE(text(startPage(), "events_count"), QStringLiteral("0"));
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("0/0"));
     g_events_list.clear();
@@ -465,11 +466,11 @@ void TstInrush::onlyInrushEventsAreListed()
 void TstInrush::counterFollowsTheSelection()
 {
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("0/0"));
-    __event_item item;
+    PQAEventItem item;
     item.type = EventInrush;
     for (int i = 0; i < 3; ++i)
-        g_events_list << item;
-    m_page->refreshEventList(nullptr);
+        g_events_list.append(item);
+    m_page->show();
     press(eventPage(), Down);
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("2/3"));
     press(eventPage(), Up, 2);
@@ -480,13 +481,12 @@ void TstInrush::counterFollowsTheSelection()
 void TstInrush::savedRecordHoldsTrendAndEvents()
 {
     feed(4, 5);
-    __event_item item;
+    PQAEventItem item;
     item.type = EventInrush;
     item.value = 123.5f;
-    g_events_list << item;
-    m_page->refreshEventList(nullptr);
-    g_events_list.clear();
+    g_events_list.append(item);
     const QByteArray record = m_page->pqaData();
+    g_events_list.clear();
     QCOMPARE(record.size(), 8 + 8 * 4 * 4 + 48);
     float values[32];
     std::memcpy(values, record.constData() + 8, sizeof values);

@@ -45,7 +45,7 @@ private:
     MainsSignalingTrend *trendPage() { return m_page->findChild<MainsSignalingTrend *>(); }
     MainsSignalingEvent *eventPage() { return m_page->findChild<MainsSignalingEvent *>(); }
     void start(int joinMode);
-    static void addEvents(int count);
+    void addEvents(int count);
 
     std::unique_ptr<MainsSignaling> m_page;
 };
@@ -75,11 +75,11 @@ void TstMainsSignaling::init()
 void TstMainsSignaling::addEvents(int count)
 {
     for (int i = 0; i < count; ++i) {
-        __event_item item;
+        PQAEventItem item;
         item.type = EventMainsSignaling;
         item.channel = i % 3;
         item.value = float(i);
-        m_ms_events_list.append(item);
+        m_page->events().append(item);
     }
 }
 
@@ -148,7 +148,7 @@ void TstMainsSignaling::eachStartShowsEmptyRecords()
     beginRun(*m_page);
     QCOMPARE(text(mainPage(), "sig1_L1"), QStringLiteral("0.00"));
     QCOMPARE(text(mainPage(), "rms1_L2"), QStringLiteral("0.00"));
-    QVERIFY(m_ms_events_list.isEmpty());
+    QVERIFY(m_page->events().isEmpty());
 }
 
 void TstMainsSignaling::pagesLiveBeforeTheFirstStart()

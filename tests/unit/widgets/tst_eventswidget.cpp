@@ -34,6 +34,23 @@ private slots:
     void rowsStandEvery22PixelsFrom30();
 };
 
+/// A list of events with all of them selected, as a page holds them.
+class Lines
+{
+public:
+    explicit Lines(const QList<__event_item> &events) : m_selection(m_list, kAllEvents)
+    {
+        for (const __event_item &event : events)
+            m_list.append({ event, {}, {} });
+        m_selection.refresh();
+    }
+    const EventSelection *all() const { return &m_selection; }
+
+private:
+    EventList m_list;
+    EventSelection m_selection;
+};
+
 static __event_item item(int type, int channel = 0, float value = 0)
 {
     __event_item event;
@@ -75,8 +92,8 @@ void TstEventsWidget::filterShowsItsKinds()
     QFETCH(int, filter);
     QFETCH(QStringList, names);
     EventsWidget table;
-    const QList<__event_item> list = oneOfEach();
-    table.refreshEventList(&list);
+    const Lines list(oneOfEach());
+    table.refreshEventList(list.all());
     QCOMPARE(table.eventsCnt(), 35);
     table.changeEventType(filter);
     QCOMPARE(table.eventsCnt(), names.size());
@@ -87,8 +104,8 @@ void TstEventsWidget::filterShowsItsKinds()
 void TstEventsWidget::filterOfSevenAndAboveShowsAll()
 {
     EventsWidget table;
-    const QList<__event_item> list = oneOfEach();
-    table.refreshEventList(&list);
+    const Lines list(oneOfEach());
+    table.refreshEventList(list.all());
     table.changeEventType(2);
     QCOMPARE(table.eventsCnt(), 25); // distortion and the orders 2 to 25
     for (const int type : { 7, 100, -1 }) {
@@ -101,8 +118,8 @@ void TstEventsWidget::filterOfSevenAndAboveShowsAll()
 void TstEventsWidget::filterFiveShowsUnbalanceAndFrequency()
 {
     EventsWidget table;
-    const QList<__event_item> list { item(EventFrequency), item(EventInrush), item(EventUnbalance), item(EventDip) };
-    table.refreshEventList(&list);
+    const Lines list({ item(EventFrequency), item(EventInrush), item(EventUnbalance), item(EventDip) });
+    table.refreshEventList(list.all());
     table.changeEventType(5);
     QCOMPARE(table.eventsCnt(), 2);
     QCOMPARE(table.lineTexts(0).at(1), QStringLiteral("L1  Hz"));
@@ -126,10 +143,11 @@ void TstEventsWidget::everyKindHasItsName()
           << "L%1 MSIG";
     EventsWidget table;
     for (int channel = 0; channel < 4; ++channel) {
-        QList<__event_item> list;
+        QList<__event_item> events;
         for (int type = 0; type <= 34; ++type)
-            list.append(item(type, channel));
-        table.refreshEventList(&list);
+            events.append(item(type, channel));
+        const Lines list(events);
+        table.refreshEventList(list.all());
         for (int type = 0; type <= 34; ++type)
             QCOMPARE(table.lineTexts(type).at(1), QString(names.at(type)).arg(channel + 1));
     }
@@ -145,8 +163,8 @@ void TstEventsWidget::anEmptyListDrawsTheHeaderOnly()
 {
     EventsWidget widget;
     const QImage before = table(widget);
-    const QList<__event_item> list;
-    widget.refreshEventList(&list);
+    const Lines list({});
+    widget.refreshEventList(list.all());
     QCOMPARE(widget.eventsCnt(), 0);
     QCOMPARE(widget.firstShown(), 0);
     QCOMPARE(widget.lastShown(), 0);
@@ -158,8 +176,8 @@ void TstEventsWidget::anEmptyListDrawsTheHeaderOnly()
 void TstEventsWidget::theFourteenthEventShowsOnlyAfterScrolling()
 {
     EventsWidget widget;
-    const QList<__event_item> list = dips(14);
-    widget.refreshEventList(&list);
+    const Lines list(dips(14));
+    widget.refreshEventList(list.all());
     QCOMPARE(widget.firstShown(), 0);
     QCOMPARE(widget.lastShown(), 13);
     for (int i = 0; i < 12; ++i)
@@ -176,9 +194,9 @@ void TstEventsWidget::selectNextOnTheLastRowOfTheLastPageDoesNothing()
 {
     EventsWidget widget;
     for (const int count : { 1, 5, 13, 14, 40 }) {
-        const QList<__event_item> list = dips(count);
+        const Lines list(dips(count));
         widget.refreshEventList(nullptr);
-        widget.refreshEventList(&list);
+        widget.refreshEventList(list.all());
         for (int i = 0; i < 100; ++i)
             widget.selectNextItem();
         QCOMPARE(widget.firstShown() + widget.row(), count - 1);
@@ -199,8 +217,8 @@ void TstEventsWidget::selectNextOnAnEmptyTableDoesNothing()
 void TstEventsWidget::selectPrevScrollsBackAtTheFirstRow()
 {
     EventsWidget widget;
-    const QList<__event_item> list = dips(20);
-    widget.refreshEventList(&list);
+    const Lines list(dips(20));
+    widget.refreshEventList(list.all());
     for (int i = 0; i < 19; ++i)
         widget.selectNextItem();
     QCOMPARE(widget.firstShown(), 7);
@@ -221,12 +239,12 @@ void TstEventsWidget::selectPrevScrollsBackAtTheFirstRow()
 void TstEventsWidget::aShorterListKeepsSelectionInside()
 {
     EventsWidget widget;
-    const QList<__event_item> many = dips(40);
-    widget.refreshEventList(&many);
+    const Lines many(dips(40));
+    widget.refreshEventList(many.all());
     for (int i = 0; i < 39; ++i)
         widget.selectNextItem();
-    const QList<__event_item> few = dips(3);
-    widget.refreshEventList(&few);
+    const Lines few(dips(3));
+    widget.refreshEventList(few.all());
     QCOMPARE(widget.firstShown(), 0);
     QCOMPARE(widget.lastShown(), 3);
     QVERIFY(widget.row() < 3);
@@ -236,8 +254,8 @@ void TstEventsWidget::aShorterListKeepsSelectionInside()
 void TstEventsWidget::aNullListResetsRowsAndCounts()
 {
     EventsWidget widget;
-    const QList<__event_item> list = dips(20);
-    widget.refreshEventList(&list);
+    const Lines list(dips(20));
+    widget.refreshEventList(list.all());
     for (int i = 0; i < 15; ++i)
         widget.selectNextItem();
     widget.refreshEventList(nullptr);
@@ -251,9 +269,9 @@ void TstEventsWidget::timeIsShownInTheUsersZone()
 {
     __event_item event = item(EventDip);
     event.startSeconds = 1700000000; // 2023-11-14 22:13:20 UTC
-    const QList<__event_item> list { event };
+    const Lines list({ event });
     EventsWidget widget;
-    widget.refreshEventList(&list);
+    widget.refreshEventList(list.all());
     QCOMPARE(widget.lineTexts(0).at(0), QStringLiteral("2023/11/14 22:13:20"));
     m_userConfig_g.setTimeZone(QStringLiteral("Asia/Shanghai"));
     QCOMPARE(widget.lineTexts(0).at(0), QStringLiteral("2023/11/15 06:13:20"));
@@ -261,9 +279,9 @@ void TstEventsWidget::timeIsShownInTheUsersZone()
 
 void TstEventsWidget::levelHasOneDecimal()
 {
-    const QList<__event_item> list { item(EventSwell, 0, 251.26f), item(EventSwell, 0, NAN) };
+    const Lines list({ item(EventSwell, 0, 251.26f), item(EventSwell, 0, NAN) });
     EventsWidget widget;
-    widget.refreshEventList(&list);
+    widget.refreshEventList(list.all());
     QCOMPARE(widget.lineTexts(0).at(2), QStringLiteral("251.3"));
     QCOMPARE(widget.lineTexts(1).at(2), QStringLiteral("0.0"));
 }
@@ -275,9 +293,9 @@ void TstEventsWidget::anUnfinishedDipHasNoDurationNorHasARapidVoltageChange()
     __event_item change = item(EventRvc);
     change.duration = 5000;
     change.finished = 1;
-    const QList<__event_item> list { dip, change };
+    const Lines list({ dip, change });
     EventsWidget widget;
-    widget.refreshEventList(&list);
+    widget.refreshEventList(list.all());
     QCOMPARE(widget.lineTexts(0).at(3), QString());
     QCOMPARE(widget.lineTexts(1).at(3), QString());
 }
@@ -287,17 +305,17 @@ void TstEventsWidget::aFinishedEventShowsItsDuration()
     __event_item dip = item(EventDip);
     dip.finished = 1;
     dip.duration = 3723045; // 1 h 2 min 3.045 s
-    const QList<__event_item> list { dip };
+    const Lines list({ dip });
     EventsWidget widget;
-    widget.refreshEventList(&list);
+    widget.refreshEventList(list.all());
     QCOMPARE(widget.lineTexts(0).at(3), QStringLiteral("01:02:03:045"));
 }
 
 void TstEventsWidget::anUnknownKindHasNoName()
 {
-    const QList<__event_item> list { item(35), item(-1), item(INT_MAX) };
+    const Lines list({ item(35), item(-1), item(INT_MAX) });
     EventsWidget widget;
-    widget.refreshEventList(&list);
+    widget.refreshEventList(list.all());
     for (int i = 0; i < 3; ++i)
         QCOMPARE(widget.lineTexts(i).at(1), QString());
     QCOMPARE(table(widget).size(), QSize(600, 320));
@@ -306,8 +324,8 @@ void TstEventsWidget::anUnknownKindHasNoName()
 void TstEventsWidget::aCountSetByHandReadsNothingBeyondTheList()
 {
     EventsWidget widget;
-    const QList<__event_item> list = dips(2);
-    widget.refreshEventList(&list);
+    const Lines list(dips(2));
+    widget.refreshEventList(list.all());
     widget.setEventCnt(500);
     for (int i = 0; i < 30; ++i)
         widget.selectNextItem();
@@ -319,8 +337,8 @@ void TstEventsWidget::aCountSetByHandReadsNothingBeyondTheList()
 void TstEventsWidget::rowsStandEvery22PixelsFrom30()
 {
     EventsWidget widget;
-    const QList<__event_item> list = dips(13);
-    widget.refreshEventList(&list);
+    const Lines list(dips(13));
+    widget.refreshEventList(list.all());
     widget.resize(600, 320);
     const QImage image = painted(widget);
     for (int row = 0; row < 13; ++row) {

@@ -13,6 +13,7 @@ private slots:
     void initTestCase() { Q_INIT_RESOURCE(skin); }
     void cleanup();
     void countsTheEventsByKind();
+    void eventsOfAMeasurementThatIsOverAreNotCounted();
     void totalIsBothListsTogether();
     void tellsWhetherTheRecorderRuns();
     void restartAnswersZeroAndCancelOne();
@@ -30,7 +31,7 @@ void TstRunInfo::cleanup()
 
 static void addEvents(int type, int count)
 {
-    __event_item item;
+    PQAEventItem item;
     item.type = type;
     for (int i = 0; i < count; ++i)
         g_events_list.append(item);
@@ -46,6 +47,17 @@ void TstRunInfo::countsTheEventsByKind()
     QCOMPARE(RunInfo::statusText(),
              QStringLiteral("System Status:\n\nLogger: Stoped\nTotal Events: 15\nDips: 3;   Swell: 2;   "
                             "Interruption: 1;   Transients: 0;   Inrush: 4"));
+}
+
+void TstRunInfo::eventsOfAMeasurementThatIsOverAreNotCounted()
+{
+    addEvents(EventDip, 3);
+    g_events_list.finish();
+    QVERIFY(RunInfo::statusText().contains(QStringLiteral("Total Events: 0\nDips: 0;")));
+    QCOMPARE(g_events_list.size(), 3);
+    g_events_list.clear();
+    addEvents(EventDip, 1);
+    QVERIFY(RunInfo::statusText().contains(QStringLiteral("Total Events: 1\nDips: 1;")));
 }
 
 void TstRunInfo::totalIsBothListsTogether()
