@@ -4,6 +4,7 @@
 
 #include <QtGlobal>
 #include <cstddef>
+#include <type_traits>
 
 // Decoded payloads. Files, Modbus and saved pages copy parts of these records as bytes, so their layout is fixed.
 
@@ -123,6 +124,7 @@ static_assert(offsetof(__datagram_aggregation, spectrum) == 4 * 104, "word 104")
 static_assert(offsetof(__datagram_aggregation, voltageSequence) == 4 * 4912, "word 4912");
 static_assert(offsetof(__datagram_aggregation, mainsSignal) == 4 * 4922, "word 4922");
 static_assert(sizeof(__datagram_aggregation) == 19784, "record that the recorder sweeps and stores");
+static_assert(std::is_trivially_copyable_v<__datagram_aggregation>, "swept and stored byte for byte");
 
 /// Half-cycle values of one input.
 struct RmsSeries
@@ -138,7 +140,8 @@ struct __datagram_rms
     RmsSeries voltage[kChannels]; // V
     RmsSeries current[kChannels]; // A
 };
-static_assert(offsetof(__datagram_rms, current) == 4 * 364, "word 364");
+static_assert(offsetof(__datagram_rms, current) == 4 * 364 && sizeof(__datagram_rms) == 4 * 728, "words 364 and 728");
+static_assert(std::is_trivially_copyable_v<__datagram_rms>, "cleared byte for byte");
 
 /// Decoded wave datagram: unscaled samples, 32768 is 10 processor units.
 struct __datagram_wave
@@ -150,7 +153,10 @@ struct __datagram_wave
 };
 static_assert(offsetof(__datagram_wave, current) - offsetof(__datagram_wave, voltage) == 32768,
               "distance of the halves");
-static_assert(sizeof(__datagram_wave) == 65548, "as on the wire");
+static_assert(sizeof(__datagram_wave) == 65548 && offsetof(__datagram_wave, voltage) == 8
+                  && offsetof(__datagram_wave, transient) == 65544,
+              "as on the wire");
+static_assert(std::is_trivially_copyable_v<__datagram_wave>, "samples are copied in blocks");
 
 /// Decoded flicker datagram.
 struct __datagram_flicker
@@ -159,6 +165,9 @@ struct __datagram_flicker
     float pinst[kFlickerPhases][kFlickerSamples];
     quint32 samplesPerWindow;
 };
-static_assert(sizeof(__datagram_flicker) == 6012, "as on the wire");
+static_assert(sizeof(__datagram_flicker) == 6012 && offsetof(__datagram_flicker, pinst) == 8
+                  && offsetof(__datagram_flicker, samplesPerWindow) == 6008,
+              "as on the wire");
+static_assert(std::is_trivially_copyable_v<__datagram_flicker>, "copied in blocks");
 
 #pragma pack(pop)

@@ -5,6 +5,9 @@
 
 #include <QList>
 
+#include <cstddef>
+#include <type_traits>
+
 // Records that the pages show. LiveData owns them, the task writes them, the pages read them; all on the main thread.
 
 constexpr int kTrendPoints = 600; // one a second: ten minutes
@@ -31,6 +34,10 @@ struct __vif_data
     /// frequency.
     __trend_data trend[9];
 };
+static_assert(offsetof(__vif_data, voltage) == 0 && offsetof(__vif_data, current) == 4 * 16
+                  && offsetof(__vif_data, frequency) == 4 * 32,
+              "words that a saved page begins with");
+
 enum VifTrend {
     VifTrendURms,
     VifTrendUPeak,
@@ -69,6 +76,10 @@ struct __power_data
     /// P, S, Q, PF, cos phi, tan phi (series 3: total), U rms, I rms.
     __trend_data trend[8];
 };
+static_assert(sizeof(PowerDisplayRow) == 24 && std::is_trivially_copyable_v<PowerDisplayRow>, "six words a row");
+static_assert(offsetof(__power_data, voltage) == 0 && offsetof(__power_data, activeEnergy) == 4 * 6
+                  && offsetof(__power_data, row) == 4 * 19 && offsetof(__power_data, hours) == 4 * 45,
+              "words that a saved page begins with");
 
 /// One harmonic of one channel for the display.
 struct HarmLine
@@ -87,7 +98,8 @@ struct HarmChannel
     HarmLine harmonic[kHarmonicOrders];
     HarmLine inter[kHarmonicOrders]; // phase unused
 };
-static_assert(sizeof(HarmChannel) == 603 * 4, "stored block");
+static_assert(sizeof(HarmLine) == 12 && sizeof(HarmChannel) == 603 * 4, "stored block");
+static_assert(offsetof(HarmChannel, harmonic) == 4 * 3 && offsetof(HarmChannel, inter) == 4 * 303, "words 3 and 303");
 
 /// Live spectra, 19300 bytes; the saved page holds them byte for byte.
 struct harm_data
@@ -95,7 +107,8 @@ struct harm_data
     qint32 reference; // 1: percent of r.m.s. ("%r"), 2: percent of the fundamental ("%f")
     HarmChannel channel[8]; // U1, U2, U3, UN, I1, I2, I3, IN
 };
-static_assert(sizeof(harm_data) == 19300, "saved page record");
+static_assert(sizeof(harm_data) == 19300 && offsetof(harm_data, channel) == 4, "saved page record");
+static_assert(std::is_trivially_copyable_v<harm_data>, "saved byte for byte");
 
 /// Live values of the unbalance pages (100 bytes).
 struct __unbalance_data
@@ -112,6 +125,11 @@ struct __unbalance_data
     float angleDifference[kChannels]; // degrees
 };
 static_assert(sizeof(__unbalance_data) == 100, "saved page record");
+static_assert(offsetof(__unbalance_data, voltageFundamental) == 4 * 5
+                  && offsetof(__unbalance_data, voltageAngle) == 4 * 13
+                  && offsetof(__unbalance_data, angleDifference) == 4 * 21,
+              "words 5, 13 and 21");
+static_assert(std::is_trivially_copyable_v<__unbalance_data>, "saved byte for byte");
 
 /// Live waveforms, 65572 bytes.
 struct __scope_data
@@ -122,7 +140,10 @@ struct __scope_data
     qint16 voltageSamples[kChannels][kWaveSamples];
     qint16 currentSamples[kChannels][kWaveSamples];
 };
-static_assert(sizeof(__scope_data) == 65572, "told size");
+static_assert(sizeof(__scope_data) == 65572 && offsetof(__scope_data, voltageSamples) == 36
+                  && offsetof(__scope_data, currentSamples) == 36 + 32768,
+              "head, voltages, currents");
+static_assert(std::is_trivially_copyable_v<__scope_data>, "copied in blocks");
 
 /// What the scope draws: the same shortened to 600 samples a channel, 9636 bytes.
 struct __scope_data_ui
@@ -133,7 +154,10 @@ struct __scope_data_ui
     qint16 voltageSamples[kChannels][600];
     qint16 currentSamples[kChannels][600];
 };
-static_assert(sizeof(__scope_data_ui) == 9636, "told size");
+static_assert(sizeof(__scope_data_ui) == 9636 && offsetof(__scope_data_ui, voltageSamples) == 36
+                  && offsetof(__scope_data_ui, currentSamples) == 36 + 4800,
+              "head, voltages, currents");
+static_assert(std::is_trivially_copyable_v<__scope_data_ui>, "copied in blocks");
 
 /// Flicker values and trends of the three phases.
 struct __flicker_data

@@ -4,6 +4,9 @@
 #include <QVector>
 #include <QtGlobal>
 
+#include <cstddef>
+#include <type_traits>
+
 #pragma pack(push, 1)
 /// One sample of a quantity. Its stored form is these 12 bytes, little-endian.
 struct _value_with_time
@@ -12,7 +15,9 @@ struct _value_with_time
     float value; // unit of the quantity
 };
 #pragma pack(pop)
-static_assert(sizeof(_value_with_time) == 12, "stored form of a sample");
+static_assert(sizeof(_value_with_time) == 12 && offsetof(_value_with_time, value) == 8
+                  && std::is_trivially_copyable_v<_value_with_time>,
+              "stored form of a sample");
 
 /// Kinds of power-quality events; the values are stored in files and served on Modbus.
 enum PQAEventType : qint32 {
@@ -43,6 +48,12 @@ struct __event_item
     qint64 endTime = 0; // ms since 1970; equals startTime until finished
     qint32 duration = 0; // ms, low 32 bits; 0 until finished
 };
+
+static_assert(sizeof(__event_item) == 48 && offsetof(__event_item, value) == 12
+                  && offsetof(__event_item, startTime) == 24 && offsetof(__event_item, endTime) == 32
+                  && offsetof(__event_item, duration) == 40,
+              "the twelve words of a saved event");
+static_assert(std::is_trivially_copyable_v<__event_item>, "saved word by word");
 
 /// R.m.s. curve of one input. Thousands of events keep theirs: a vector takes 12 bytes a sample, a list 40.
 using RmsCurve = QVector<_value_with_time>;

@@ -4,6 +4,7 @@
 #include <QtGlobal>
 
 #include <cstddef>
+#include <type_traits>
 
 /// One transient: 600 samples of each voltage channel around the spot.
 struct __trans_data
@@ -18,6 +19,7 @@ struct __trans_data
 static_assert(offsetof(__trans_data, time) == 8 && offsetof(__trans_data, position) == 16
                   && offsetof(__trans_data, rms) == 20 && offsetof(__trans_data, samples) == 36,
               "order of a transient");
+static_assert(std::is_trivially_copyable_v<__trans_data>, "saved byte for byte");
 
 /// The user's choice of the transient capture.
 class TransParam

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstddef>
+#include <type_traits>
 
 struct __flicker_data;
 struct __trans_data;
@@ -163,6 +164,10 @@ static_assert(sizeof(ModbusTransient) == 8 + 2 * kTransientRegisters && MODBUS_R
                   && MODBUS_REGISTER(ModbusTransient, samples) == 22,
               "register map");
 #undef MODBUS_REGISTER
+template <typename... Blocks> constexpr bool kCopiedAsBytes = (std::is_trivially_copyable_v<Blocks> && ...);
+static_assert(kCopiedAsBytes<ModbusVif, ModbusPower, ModbusSpectrum, ModbusFlicker, ModbusUnbalance, ModbusHwInfo,
+                             ModbusSwInfo, ModbusScope, ModbusTransient>,
+              "the slave copies the blocks as they lie in memory");
 
 /// What the information block takes from the settings.
 struct ModbusSettings

@@ -20,7 +20,7 @@ struct __flicker_pqa_data
     qint32 count; // length of the shortest trend, at most 600
     float pinst[kPhases][kTrendPoints]; // oldest first
 };
-static_assert(sizeof(__flicker_pqa_data) == 7240, "told size of the saved record");
+static_assert(sizeof(__flicker_pqa_data) == 7240, "size of the saved record");
 
 } // namespace
 

@@ -19,8 +19,7 @@ struct _power_pqa_data
     qint32 count; // length of the shortest P series, at most 600
     float series[kTrends][kChannels][kTrendPoints];
 };
-static_assert(sizeof(_power_pqa_data) == 76996, "told size of the saved record");
-static_assert(offsetof(__power_data, hours) == 45 * 4 && offsetof(__power_data, row) == 19 * 4, "words of the record");
+static_assert(sizeof(_power_pqa_data) == 76996, "size of the saved record");
 
 } // namespace
 

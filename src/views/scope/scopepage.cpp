@@ -25,7 +25,7 @@ struct __scope_pqa_data
     float voltageSamples[kChannels][kPoints]; // V
     float currentSamples[kChannels][kPoints]; // A
 };
-static_assert(sizeof(__scope_pqa_data) == 19236, "told size of the saved record");
+static_assert(sizeof(__scope_pqa_data) == 19236, "size of the saved record");
 
 } // namespace
 

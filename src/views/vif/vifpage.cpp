@@ -17,7 +17,7 @@ struct __vif_pqa_data
     float series[6][kChannels][kTrendPoints];
     float frequency[kTrendPoints];
 };
-static_assert(sizeof(__vif_pqa_data) == 60136, "told size of the saved record");
+static_assert(sizeof(__vif_pqa_data) == 60136, "size of the saved record");
 
 constexpr VifTrend kSavedTrends[]
     = { VifTrendURms, VifTrendUPeak, VifTrendUCrest, VifTrendIRms, VifTrendIPeak, VifTrendICrest };
