@@ -1,15 +1,13 @@
 // One half cycle through all event detectors, beside a plain pass over the same values: the eight inputs, and the
 // windows of three rapid-voltage-change rings (sum, maximum and minimum of 100 half cycles each). And an event's change
 // where the list is full, beside one where it is short.
+#include "bench/benchapplication.h"
 #include "bench/ratios.h"
 #include "settings/limits.h"
 #include "detect/powerevents.h"
 #include "pages/eventfollower.h"
 #include "pages/eventspage.h"
 
-#include <QApplication>
-
-#include <clocale>
 #include <memory>
 #include <vector>
 
@@ -178,9 +176,7 @@ BENCHMARK(dipEverySecond);
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    setlocale(LC_NUMERIC, "C");
+    BenchApplication app(argc, argv);
     return Ratios::run(
         argc, argv, Ratios::ProcessorTime,
         { { "events, quiet network / plain pass", "quietNetwork", "plainPass", 0 },

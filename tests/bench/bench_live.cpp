@@ -1,12 +1,11 @@
+#include "bench/benchapplication.h"
 #include "desk/deskinstrument.h"
 #include "testpaths.h"
 
-#include <QApplication>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QThread>
 
-#include <clocale>
 #include <cstdio>
 #include <unistd.h>
 
@@ -52,9 +51,7 @@ void printRatio(const char *what, double figure, double goal, const char *unit)
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    setlocale(LC_NUMERIC, "C");
+    BenchApplication app(argc, argv);
     const int seconds = qMax(
         1,
         qEnvironmentVariableIsSet("QUVERA_BENCH_SECONDS") ? qEnvironmentVariableIntValue("QUVERA_BENCH_SECONDS") : 10);

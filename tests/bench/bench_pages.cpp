@@ -1,5 +1,6 @@
 #include "settings/config_data.h"
-#include "ratios.h"
+#include "bench/benchapplication.h"
+#include "bench/ratios.h"
 #include "unit/measureddata.h"
 #include "pages/viewcontainer.h"
 #include "views/harmonics/harm.h"
@@ -8,11 +9,9 @@
 #include "views/unbalance/unbalan.h"
 #include "views/vif/vifpage.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QPainter>
 
-#include <clocale>
 #include <memory>
 
 // One refresh of a page with its repaint, beside the same number of plain labels that take new texts.
@@ -135,9 +134,7 @@ BENCHMARK(labels)->Unit(benchmark::kMicrosecond);
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    setlocale(LC_NUMERIC, "C");
+    BenchApplication app(argc, argv);
     renewLive();
     return Ratios::run(
         argc, argv, Ratios::ProcessorTime,

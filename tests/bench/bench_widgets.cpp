@@ -1,5 +1,6 @@
 // Repaint of each chart beside plain polylines of the same points in the same colours: what is drawn around the curves
 // (frame, grid, labels, marks) is the chart's own share. Handing data over is measured beside filling the polylines.
+#include "bench/benchapplication.h"
 #include "bench/ratios.h"
 #include "widgets/charts/dstrendchart.h"
 #include "widgets/controls/eventswidget.h"
@@ -9,11 +10,9 @@
 #include "widgets/charts/vectorchart.h"
 #include "widgets/charts/viftrendchart.h"
 
-#include <QApplication>
 #include <QImage>
 #include <QPainter>
 
-#include <clocale>
 #include <cmath>
 #include <cstring>
 #include <memory>
@@ -238,9 +237,7 @@ BENCHMARK(fillPolylines)->Unit(benchmark::kMicrosecond);
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication app(argc, argv);
-    setlocale(LC_NUMERIC, "C");
+    BenchApplication app(argc, argv);
     return Ratios::run(
         argc, argv, Ratios::ProcessorTime,
         {

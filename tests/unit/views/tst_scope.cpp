@@ -2,7 +2,6 @@
 #include "settings/phasecolor.h"
 #include "model/displayrecords.h"
 #include "pagetest.h"
-#include "views/scope/linesample.h"
 #include "views/scope/scopepage.h"
 #include "widgets/text/f_to_str.h"
 #include "widgets/charts/scopewidget.h"
@@ -37,6 +36,7 @@ double ampereGain(int channel)
 
 } // namespace
 
+/// The oscilloscope page, driven by its keys.
 class TstScope : public QObject
 {
     Q_OBJECT
@@ -44,16 +44,6 @@ class TstScope : public QObject
 private slots:
     void init();
 
-    // lineSample
-    void oneCycleSpreadsTheFirstTenthOverAllPoints();
-    void eightCyclesReachTheLastPointOfTheEighth();
-    void pointsBetweenSamplesLieOnTheLine();
-    void negativeValuesAreCutTowardsZero();
-    void readingNeverLeavesTheSource();
-    void fullScaleJumpsDoNotOverflow();
-    void uselessNumbersWriteNothing();
-
-    // the page
     void f1StepsThroughTheModesOfTheWiring_data();
     void f1StepsThroughTheModesOfTheWiring();
     void modesShowTheirCurves_data();
@@ -108,90 +98,6 @@ void TstScope::fillSine(int cycles, double amplitude)
             live().scope.currentSamples[c][i] = qint16(std::lround(-s));
         }
     }
-}
-
-void TstScope::oneCycleSpreadsTheFirstTenthOverAllPoints()
-{
-    std::vector<qint16> src(4096);
-    for (int i = 0; i < 4096; ++i)
-        src[i] = qint16(i);
-    qint16 dst[600];
-    lineSample(dst, src.data(), 600, 1, 4096, 10);
-    for (int i = 0; i < 600; ++i)
-        QCOMPARE(int(dst[i]), i * 409 / 599); // 4096 / 10 in whole samples
-}
-
-void TstScope::eightCyclesReachTheLastPointOfTheEighth()
-{
-    std::vector<qint16> src(4096);
-    for (int i = 0; i < 4096; ++i)
-        src[i] = qint16(i);
-    qint16 dst[600];
-    lineSample(dst, src.data(), 600, 8, 4096, 10);
-    QCOMPARE(int(dst[0]), 0);
-    QCOMPARE(int(dst[300]), 300 * 3272 / 599);
-    QCOMPARE(int(dst[599]), 8 * 409);
-}
-
-void TstScope::pointsBetweenSamplesLieOnTheLine()
-{
-    std::vector<qint16> src(4096, 0);
-    for (int i = 0; i < 420; ++i)
-        src[i] = qint16(10 * i);
-    qint16 dst[600];
-    lineSample(dst, src.data(), 600, 1, 4096, 10);
-    for (int i = 0; i < 600; ++i)
-        QCOMPARE(int(dst[i]), 4090 * i / 599);
-}
-
-void TstScope::negativeValuesAreCutTowardsZero()
-{
-    std::vector<qint16> src(4096, 0);
-    for (int i = 0; i < 420; ++i)
-        src[i] = qint16(-10 * i);
-    qint16 dst[600];
-    lineSample(dst, src.data(), 600, 1, 4096, 10);
-    for (int i = 0; i < 600; ++i)
-        QCOMPARE(int(dst[i]), -(4090 * i / 599));
-}
-
-void TstScope::readingNeverLeavesTheSource()
-{
-    std::vector<qint16> src(50, 7);
-    src.back() = 11;
-    for (const int step : { 1, 10, 11, 1000, 2000000000 }) {
-        qint16 dst[600];
-        lineSample(dst, src.data(), 600, step, 50, 10);
-        QCOMPARE(int(dst[0]), 7);
-        if (step > 10)
-            QCOMPARE(int(dst[599]), 11);
-    }
-}
-
-void TstScope::fullScaleJumpsDoNotOverflow()
-{
-    std::vector<qint16> src(4096);
-    for (int i = 0; i < 4096; ++i)
-        src[i] = i % 2 ? 32767 : -32768;
-    qint16 dst[600];
-    lineSample(dst, src.data(), 600, 1, 4096, 10);
-    // Point 300 lies at 300 x 409 / 599 = 204.841...: between -32768 and 32767.
-    const double p = 300 * 409 / 599.0;
-    QVERIFY(std::abs(dst[300] - (-32768 + (p - 204) * 65535)) < 8);
-}
-
-void TstScope::uselessNumbersWriteNothing()
-{
-    const qint16 src[4] = { 1, 2, 3, 4 };
-    qint16 dst[2] = { 9, 9 };
-    lineSample(dst, src, 0, 1, 4, 1);
-    lineSample(dst, src, 2, 0, 4, 1);
-    lineSample(dst, src, 2, 1, 0, 1);
-    lineSample(dst, src, 2, 1, 4, 0);
-    QCOMPARE(int(dst[0]), 9);
-    lineSample(dst, src, 1, 1, 4, 1);
-    QCOMPARE(int(dst[0]), 1);
-    QCOMPARE(int(dst[1]), 9);
 }
 
 void TstScope::f1StepsThroughTheModesOfTheWiring_data()

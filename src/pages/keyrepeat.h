@@ -1,3 +1,0 @@
-#pragma once
-
-#include "widgets/controls/keyrepeat.h"
