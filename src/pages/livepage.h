@@ -30,7 +30,7 @@ signals:
 protected:
     /// F5 is Hold and Run unless the page's table has another use for it.
     bool pressKey(int key) override;
-    void showHold();
+    virtual void showHold();
 
 private:
     bool m_running = true;

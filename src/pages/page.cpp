@@ -1,6 +1,10 @@
 #include "pages/page.h"
 
+#include "board/screenshot.h"
+#include "record/pqafile.h"
+#include "settings/config_data.h"
 #include "settings/phasecolor.h"
+#include "widgets/dialogs/savedialog.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -91,6 +95,10 @@ bool Page::pressKey(int key)
             return true;
         }
     }
+    if (key == Qt::Key_F11 && saveIdentity().windowId != 0) {
+        saveToFile();
+        return true;
+    }
     switch (key) {
     case Qt::Key_F1:
     case Qt::Key_F2:
@@ -106,5 +114,29 @@ bool Page::pressKey(int key)
         return true;
     default:
         return false; // F11 rises to the container, F12 and Power to the main window
+    }
+}
+
+void Page::saveToFile()
+{
+    enum { Picture = 1, Data = 2 };
+
+    const SaveIdentity identity = saveIdentity();
+    const QByteArray record = pqaData();
+    PqaFile file(identity.windowId, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
+    if (!record.isEmpty())
+        file.writeFileData(record.constData(), quint32(record.size()));
+    QString name = QString::fromLatin1(identity.defaultName);
+    // Filter 1 offers the picture only; the data branch stands ready.
+    switch (SaveDialog::save(1, name)) {
+    case Picture:
+        file.saveSnapshot(name);
+        break;
+    case Data:
+        if (!record.isEmpty())
+            file.saveDataFile(name);
+        break;
+    default:
+        break;
     }
 }

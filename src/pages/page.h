@@ -3,6 +3,7 @@
 #include "pages/uitype.h"
 #include "widgets/controls/frontkeys.h"
 
+#include <QByteArray>
 #include <QDialog>
 
 #include <vector>
@@ -19,7 +20,18 @@ class Page : public QDialog
 public:
     explicit Page(_quvera_ui_type type, QWidget *parent = nullptr);
 
+    /// What a saved file is called and which layout its data has; window 0: the page has nothing of its own to save.
+    struct SaveIdentity
+    {
+        int windowId = 0;
+        const char *defaultName = nullptr;
+    };
+
     _quvera_ui_type uiType() const { return m_type; }
+    /// What Save (F11) stores for this page. The page on top is asked first; the key rises from one that has none.
+    virtual SaveIdentity saveIdentity() const { return {}; }
+    /// The record that a data file of this page holds; empty: a picture is all there is.
+    virtual QByteArray pqaData() const { return {}; }
 
 public slots:
     /// Captions anew, after a change of the language or of the phase colours.
@@ -90,6 +102,7 @@ protected:
     virtual void releaseKey(int) { }
 
 private:
+    void saveToFile();
     void finishKeys(std::vector<FrontKeys::Row> rows);
 
     const _quvera_ui_type m_type;

@@ -4,12 +4,9 @@
 #include "settings/config_data.h"
 #include "model/nominalfrequency.h"
 #include "model/transparam.h"
-#include "board/screenshot.h"
-#include "record/pqafile.h"
 #include "shell/pagetable.h"
 #include "widgets/controls/labellook.h"
 #include "widgets/dialogs/runinfo.h"
-#include "widgets/dialogs/savedialog.h"
 
 #include <vector>
 
@@ -153,26 +150,10 @@ void MenuPage::changePage()
     }
 }
 
-void MenuPage::saveSnapshot()
-{
-    PqaFile file(1, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
-    QString name = QStringLiteral("Menu");
-    if (SaveDialog::save(1, name) == 1)
-        file.saveSnapshot(name);
-}
-
 void MenuPage::showStatus()
 {
     if (!RunInfo::showSystemStatus())
         emit restartTask();
-}
-
-bool MenuPage::pressKey(int key)
-{
-    if (key != Qt::Key_F11)
-        return Page::pressKey(key);
-    saveSnapshot();
-    return true;
 }
 
 void MenuPage::clearSystemStatus()

@@ -36,6 +36,7 @@ public:
 
     /// Links the tiles for the nominal frequency in force: at 400 Hz there is no flicker.
     void initMenuMatrix();
+    SaveIdentity saveIdentity() const override { return { 1, "Menu" }; }
     /// Keyboard focus to the current tile.
     void setCurrentItem();
     const MenuItem *currentItem() const { return m_places[0].current; }
@@ -51,7 +52,6 @@ signals:
     void restartTask();
 
 protected:
-    bool pressKey(int key) override;
     void focusInEvent(QFocusEvent *event) override;
 
 private:
@@ -73,7 +73,6 @@ private:
     void showMenuHl();
     void showStatus();
     void changePage();
-    void saveSnapshot();
 
     std::unique_ptr<Ui::MenuPage> m_ui;
     Place m_places[2];

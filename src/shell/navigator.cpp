@@ -5,6 +5,8 @@
 #include "model/pqaeventitem.h"
 #include "pages/functionpage.h"
 #include "settings/config_data.h"
+#include "settings/dipswellinfo.h"
+#include "settings/harmdata.h"
 #include "settings/langtranslation.h"
 #include "settings/recordinfo.h"
 #include "shell/basedialog.h"
@@ -16,6 +18,8 @@
 
 #include <QStackedWidget>
 
+#include <algorithm>
+
 namespace {
 
 bool is400Hz()
@@ -26,36 +30,50 @@ bool is400Hz()
 } // namespace
 
 Navigator::Navigator(TaskManage *tasks, MenuPage *menu, QStackedWidget *stack, QObject *parent)
-    : QObject(parent), m_tasks(tasks), m_menu(menu), m_stack(stack), m_currentPage(menu)
+    : QObject(parent), m_tasks(tasks), m_menu(menu), m_stack(stack), m_pages(PageTable::rows().size(), nullptr),
+      m_currentPage(menu)
 {
     m_stack->addWidget(m_menu);
     connect(m_menu, &MenuPage::leave, this, [this](_quvera_ui_type target) { go(UI_MENU, target); });
     connect(m_menu, &MenuPage::restartTask, this, &Navigator::restartTask);
     connect(&m_tasks->links(), &TaskLinks::ended, m_menu, &MenuPage::clearSystemStatus);
     connect(&m_tasks->links(), &TaskLinks::startWanted, this, &Navigator::startFunction);
-    makePages();
 }
 
-void Navigator::makePages()
+std::size_t Navigator::place(const PageRow &row)
 {
-    for (const PageRow &row : PageTable::rows()) {
-        FunctionPage *page = row.make ? row.make(m_tasks->links(), m_tasks->data()) : nullptr;
-        m_pages.push_back(page);
-        if (!page)
-            continue;
-        m_stack->addWidget(page);
-        m_tasks->links().take(page, row);
-        connect(page, &Page::leave, this, [this, page](_quvera_ui_type target) {
-            if (page == m_currentPage)
-                go(page->uiType(), target);
-        });
-    }
+    return std::size_t(&row - PageTable::rows().data());
 }
 
-FunctionPage *Navigator::page(_quvera_ui_type type) const
+FunctionPage *Navigator::makePage(const PageRow &row)
+{
+    FunctionPage *page = row.make(m_tasks->links(), m_tasks->data());
+    m_pages[place(row)] = page;
+    const auto behind = m_pages.begin() + std::ptrdiff_t(place(row));
+    const auto before = std::count_if(m_pages.begin(), behind, [](const FunctionPage *made) { return made; });
+    m_stack->insertWidget(1 + int(before), page);
+    m_tasks->links().take(page, row);
+    connect(page, &Page::leave, this, [this, page](_quvera_ui_type target) {
+        if (page == m_currentPage)
+            go(page->uiType(), target);
+    });
+    // It stands where it would, had it been there since the run began.
+    page->init_parameter();
+    const AbstractTask *task = m_tasks->currentTask();
+    if (task && (task->isTaskRunning() || task->isTaskPaused()) && row.hears & Hears::Refresh)
+        page->updateDisplay(nullptr);
+    if (task && task->isTaskPaused() && row.hears & Hears::Hold)
+        page->setPause();
+    return page;
+}
+
+FunctionPage *Navigator::page(_quvera_ui_type type)
 {
     const PageRow *row = PageTable::row(type);
-    return row ? m_pages[std::size_t(row - PageTable::rows().data())] : nullptr;
+    if (!row || !row->make)
+        return nullptr;
+    FunctionPage *made = m_pages[place(*row)];
+    return made ? made : makePage(*row);
 }
 
 _quvera_ui_type Navigator::currentType() const
@@ -68,17 +86,20 @@ void Navigator::retranslatePages()
 {
     m_menu->retranslateUi();
     for (const PageRow *row : PageTable::inTurn(&PageRow::languageTurn)) {
-        if (FunctionPage *made = m_pages[std::size_t(row - PageTable::rows().data())])
+        if (FunctionPage *made = m_pages[place(*row)])
             made->retranslateUi();
     }
 }
 
 void Navigator::beginPages()
 {
+    // The task asks for these before their pages exist.
+    DipSwellInfo::initInfoTimes(m_settingConfig_g.getNomFreq());
+    HarmData::initHarmMaxNumb(m_settingConfig_g.getNomFreq());
     g_events_list.clear();
     m_tasks->data().empty(float(m_settingConfig_g.getNomFreq()));
     for (const PageRow *row : PageTable::inTurn(&PageRow::beginTurn)) {
-        if (FunctionPage *made = page(row->type))
+        if (FunctionPage *made = m_pages[place(*row)])
             made->init_parameter();
     }
 }

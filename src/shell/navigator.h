@@ -12,19 +12,22 @@ class MenuPage;
 class QStackedWidget;
 class QWidget;
 class TaskManage;
+struct PageRow;
 
-/// Has all pages, and decides whenever another one is asked for whether the running measurement goes on, must end, or
-/// must be asked about. What it knows of a page stands in the page table.
+/// Has all pages, made when they are first entered, and decides whenever another one is asked for whether the running
+/// measurement goes on, must end, or must be asked about. What it knows of a page stands in the page table.
 class Navigator : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Makes the pages of the table and puts them into \a stack, behind \a menu. All arguments outlive it.
+    /// Puts \a menu into \a stack, and behind it each page of the table when it is first entered, in the table's order.
+    /// All arguments outlive it.
     Navigator(TaskManage *tasks, MenuPage *menu, QStackedWidget *stack, QObject *parent = nullptr);
 
-    /// The page that answers to a type; null for the menu and for what is not built into this software.
-    FunctionPage *page(_quvera_ui_type type) const;
+    /// The page that answers to a type, made now if it was not; null for the menu and for what is not built into this
+    /// software.
+    FunctionPage *page(_quvera_ui_type type);
     /// The last function page shown, menu included; one that stands over others does not change it.
     QWidget *currentPage() const { return m_currentPage; }
     _quvera_ui_type currentType() const;
@@ -54,7 +57,8 @@ private:
     /// What the user made of a running measurement.
     enum Answer { StayOnPage = -1, NoTask = 0, KeepTask = 1 };
 
-    void makePages();
+    static std::size_t place(const PageRow &row);
+    FunctionPage *makePage(const PageRow &row);
     FunctionPage *builtPage(_quvera_ui_type target);
     Answer changeTaskOrNot(AbstractTask::UniFunction function, _quvera_ui_type current);
     void takeFront(_quvera_ui_type current, FunctionPage *page);
@@ -73,6 +77,6 @@ private:
     TaskManage *const m_tasks;
     MenuPage *const m_menu;
     QStackedWidget *const m_stack;
-    std::vector<FunctionPage *> m_pages; // by the rows of the page table
+    std::vector<FunctionPage *> m_pages; // by the rows of the page table; null: not entered yet
     QWidget *m_currentPage = nullptr;
 };

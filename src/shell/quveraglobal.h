@@ -9,13 +9,11 @@ class QSplashScreen;
 class SystemTray;
 class TaskManage;
 class UniTask;
-class Wifi;
 class uDiskStorage;
 
 // The flat object graph: long-lived objects, made once by appInit in one fixed order and never deleted. What a lower
 // folder uses is defined there and only gathered here.
 
-extern Wifi *wifi;
 extern TaskManage *m_taskmanage;
 extern BaseDialog *m_basedialog;
 extern IRemote *m_remote_ctrl;

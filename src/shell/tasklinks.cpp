@@ -14,8 +14,8 @@ void TaskLinks::take(FunctionPage *page, const PageRow &row)
     if (row.hears & Hears::Hold) {
         connect(page, &LivePage::run, this, &TaskLinks::runWanted);
         connect(page, &LivePage::pause, this, &TaskLinks::pauseWanted);
-        connect(this, &TaskLinks::paused, page, &FunctionPage::taskPaused);
-        connect(this, &TaskLinks::continued, page, &FunctionPage::taskContinued);
+        connect(this, &TaskLinks::paused, page, &LivePage::setPause);
+        connect(this, &TaskLinks::continued, page, &LivePage::setContinue);
     }
     if (row.hears & Hears::Begin)
         connect(this, &TaskLinks::begun, page, &LivePage::init_parameter);
@@ -47,6 +47,7 @@ void TaskLinks::forget(UniTask *task)
 {
     m_task = nullptr;
     m_front = {};
+    m_times.clear();
     m_idevice->disconnect(task);
     task->disconnect(this);
     task->disconnect(m_idevice);
@@ -57,8 +58,12 @@ void TaskLinks::setFront(_quvera_ui_type type)
 {
     const auto found = std::find_if(m_listeners.begin(), m_listeners.end(),
                                     [type](const Listener &listener) { return listener.type == type; });
-    if (found != m_listeners.end())
-        m_front = *found;
+    if (found == m_listeners.end())
+        return;
+    m_front = *found;
+    const unsigned kind = m_front.hears & (Hears::StopWatch | Hears::RecordTime);
+    if (m_times.contains(kind))
+        m_front.page->stopWatchChanged(m_times.value(kind));
 }
 
 void TaskLinks::clearFront(_quvera_ui_type type)
@@ -81,6 +86,7 @@ void TaskLinks::refresh(void *data)
 
 void TaskLinks::showTime(unsigned kind, const QString &text)
 {
+    m_times[kind] = text;
     if (m_front.hears & kind)
         m_front.page->stopWatchChanged(text);
 }

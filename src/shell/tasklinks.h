@@ -3,7 +3,9 @@
 #include "pages/uitype.h"
 #include "task/abstracttask.h"
 
+#include <QMap>
 #include <QObject>
+#include <QString>
 
 #include <functional>
 #include <vector>
@@ -64,5 +66,6 @@ private:
 
     std::vector<Listener> m_listeners;
     Listener m_front {};
+    QMap<unsigned, QString> m_times; // last text of each kind, for the page that comes to the front
     UniTask *m_task = nullptr;
 };

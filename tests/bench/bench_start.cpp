@@ -2,10 +2,12 @@
 
 #include "shell/applicationfont.h"
 #include "shell/basedialog.h"
+#include "pages/viewcontainer.h"
 #include "settings/config_data.h"
 #include "settings/langtranslation.h"
 #include "settings/userconfig.h"
 #include "shell/menupage.h"
+#include "shell/navigator.h"
 #include "platform/deskroot.h"
 
 #include <QApplication>
@@ -25,7 +27,7 @@
 
 // From the start of a process to the splash and to the painted menu, in processor time (the start waits for the
 // measurement processor on purpose), beside the toolkit alone: an empty widget, and as many plain pages and labels.
-// The bench starts itself as the instrument: bench_start --splash | --menu
+// The bench starts itself as the instrument: bench_start --splash | --menu | --count
 
 void usePictures() // the macro wants to stand outside a namespace
 {
@@ -43,28 +45,51 @@ constexpr int kRounds = 7;
     _exit(0);
 }
 
-/// Leaves at the first paint of the menu and tells how many pages and labels there are.
+/// Makes what a user makes who opens every page and sub page.
+void makeAllPages()
+{
+    for (int type = 0; type < kUiTypes; ++type) {
+        auto *container = qobject_cast<ViewContainer *>(m_basedialog->navigator().page(_quvera_ui_type(type)));
+        for (int row = 0; container && row < container->pageCount(); ++row)
+            container->page(row);
+    }
+}
+
+/// Leaves at the first paint of the menu; asked for, it first prints how many pages and labels there are.
 class PaintWatch : public QObject
 {
 public:
+    explicit PaintWatch(bool counts) : m_counts(counts) { }
+
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         if (event->type() == QEvent::Paint && watched == m_basedialog->menu())
-            QTimer::singleShot(0, [] {
-                int pages = 0;
-                int labels = 0;
-                for (const QWidget *widget : QApplication::allWidgets()) {
-                    labels += qobject_cast<const QLabel *>(widget) ? 1 : 0;
-                    pages += qobject_cast<const QStackedWidget *>(widget->parentWidget()) ? 1 : 0;
-                }
-                std::printf("%d %d\n", pages, labels);
+            QTimer::singleShot(0, this, [this] {
+                if (m_counts)
+                    countPages();
                 leave();
             });
         return false;
     }
+
+private:
+    /// All pages that there are, entered before or not: what the plain program is to have as well.
+    static void countPages()
+    {
+        makeAllPages();
+        int pages = 0;
+        int labels = 0;
+        for (const QWidget *widget : QApplication::allWidgets()) {
+            labels += qobject_cast<const QLabel *>(widget) ? 1 : 0;
+            pages += qobject_cast<const QStackedWidget *>(widget->parentWidget()) ? 1 : 0;
+        }
+        std::printf("%d %d\n", pages, labels);
+    }
+
+    const bool m_counts;
 };
 
-int runInstrument(int argc, char **argv, bool toTheMenu)
+int runInstrument(int argc, char **argv, const std::string &mode)
 {
     usePictures();
     QString error;
@@ -75,12 +100,12 @@ int runInstrument(int argc, char **argv, bool toTheMenu)
     QApplication app(argc, argv);
     setlocale(LC_NUMERIC, "C");
     showSplash();
-    if (!toTheMenu)
+    if (mode == "--splash")
         leave();
     QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     loadApplicationFont();
     languageTranslator.initLangTranslation(m_userConfig_g.getLang());
-    PaintWatch watch;
+    PaintWatch watch(mode == "--count");
     app.installEventFilter(&watch);
     appInit();
     appConnection();
@@ -159,12 +184,12 @@ int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const std::string mode = argc > 1 ? argv[1] : "";
-    if (mode == "--splash" || mode == "--menu")
-        return runInstrument(argc, argv, mode == "--menu");
+    if (mode == "--splash" || mode == "--menu" || mode == "--count")
+        return runInstrument(argc, argv, mode);
 
     const std::string self = argv[0];
     const std::string plain = self + "_plain";
-    const Start menu = measure({ self, "--menu" });
+    const Start menu = measure({ self, "--count" });
     int pages = 0;
     int labels = 0;
     if (std::sscanf(menu.said.c_str(), "%d %d", &pages, &labels) != 2 || pages < 1) {

@@ -6,28 +6,20 @@
 #include "views/dips/dswellmain.h"
 
 dswell::dswell(const LiveData &data, QWidget *parent)
-    : ViewContainer(UI_DIPS_SWELLS, { 3, "DipSwell" }, data, parent), m_main(new DswellMain(data)),
-      m_events(new DipsEventPage)
+    : ViewContainer(UI_DIPS_SWELLS, { 3, "DipSwell" }, data,
+                    {
+                        { make<DswellMain>, { way(&DswellMain::goDispEvent, Events) } },
+                        { make<DipsEventPage>, { way(&DipsEventPage::goDispMain, Main) } },
+                    },
+                    parent)
 {
-    addPage(m_main);
-    addPage(m_events);
-    connect(m_main, &DswellMain::goDispEvent, this, &dswell::showDispEvent);
-    connect(m_events, &DipsEventPage::goDispMain, this, &dswell::showDispMain);
-    m_follower = std::make_unique<EventFollower>(this, g_events_list, EventKinds { EventDip, EventRvc },
-                                                 [this](const EventSelection &events) {
-                                                     m_events->refreshEventList(&events);
-                                                     m_main->showEventsCounts(events.size());
-                                                 });
-}
-
-void dswell::showDispMain()
-{
-    showPage(m_main);
-}
-
-void dswell::showDispEvent()
-{
-    showPage(m_events);
+    const auto show = [this](const EventSelection &events) {
+        if (auto *list = made<DipsEventPage>(Events))
+            list->refreshEventList(&events);
+        if (auto *trend = made<DswellMain>(Main))
+            trend->showEventsCounts(events.size());
+    };
+    m_follower = std::make_unique<EventFollower>(this, g_events_list, EventKinds { EventDip, EventRvc }, show);
 }
 
 QByteArray dswell::pqaData() const

@@ -25,25 +25,13 @@ static_assert(sizeof(__flicker_pqa_data) == 7240, "size of the saved record");
 } // namespace
 
 flicker::flicker(const LiveData &data, QWidget *parent)
-    : ViewContainer(UI_FLICKER, { 9, "Flicker" }, data, parent), m_main(new FlickerMain(data)),
-      m_trend(new FlickerPage(data))
+    : ViewContainer(UI_FLICKER, { 9, "Flicker" }, data,
+                    {
+                        { make<FlickerMain>, { way(&FlickerMain::goFlickerTrend, Trend) } },
+                        { make<FlickerPage>, { way(&FlickerPage::goFlickerMain, Main) } },
+                    },
+                    parent)
 {
-    addPage(m_main);
-    addPage(m_trend);
-    connect(m_main, &FlickerMain::goFlickerTrend, this, &flicker::showFlickerTrend);
-    connect(m_trend, &FlickerPage::goFlickerMain, this, &flicker::showFlickerMain);
-    showTitle();
-}
-
-void flicker::showFlickerMain()
-{
-    showPage(m_main);
-    showTitle();
-}
-
-void flicker::showFlickerTrend()
-{
-    showPage(m_trend);
     showTitle();
 }
 
@@ -55,7 +43,7 @@ void flicker::retranslateUi()
 
 void flicker::showTitle()
 {
-    FlickerParam::m_cur_title = currentPage() == m_trend ? tr("pinst") : tr("Flicker");
+    FlickerParam::m_cur_title = currentIndex() == Trend ? tr("pinst") : tr("Flicker");
 }
 
 QByteArray flicker::pqaData() const

@@ -4,25 +4,15 @@
 #include "views/harmonics/harmmeterpage.h"
 
 harm::harm(const LiveData &data, QWidget *parent)
-    : ViewContainer(UI_HARMONICS, { 4, "Harmonic" }, data, parent), m_main(new HarmMain(data)),
-      m_meter(new HarmMeterPage(data))
-{
-    addPage(m_main);
-    addPage(m_meter);
-    connect(m_main, &HarmMain::goHarmMeter, this, &harm::showHarmMeter);
-    connect(m_meter, &HarmMeterPage::goHarmMain, this, &harm::showHarmMain);
-    connect(m_meter, &HarmMeterPage::changeFlag, this, &harm::changeFlag);
-}
-
-void harm::showHarmMain()
-{
-    showPage(m_main);
-}
-
-void harm::showHarmMeter()
-{
-    showPage(m_meter);
-}
+    : ViewContainer(
+        UI_HARMONICS, { 4, "Harmonic" }, data,
+        {
+            { make<HarmMain>, { way(&HarmMain::goHarmMeter, Meter) } },
+            { make<HarmMeterPage>,
+              { way(&HarmMeterPage::goHarmMain, Main), pass(&HarmMeterPage::changeFlag, &harm::changeFlag) } },
+        },
+        parent)
+{ }
 
 QByteArray harm::pqaData() const
 {

@@ -9,20 +9,21 @@
 #include "views/inrush/inrushstartpage.h"
 
 InrushPage::InrushPage(const LiveData &data, QWidget *parent)
-    : ViewContainer(UI_INRUSH, { 7, "Inrush" }, data, parent), m_main(new InrushMain),
-      m_start(new InrushStartPage(data)), m_events(new InrushEventPage)
+    : ViewContainer(UI_INRUSH, { 7, "Inrush" }, data,
+                    {
+                        { make<InrushMain>, { way(&InrushMain::goInrushStart, Start, &InrushPage::start) } },
+                        { make<InrushStartPage>, { way(&InrushStartPage::goInrushEvent, Events) } },
+                        { make<InrushEventPage>, { way(&InrushEventPage::goInrushStart, Start) } },
+                    },
+                    parent)
 {
-    addPage(m_main);
-    addPage(m_start);
-    addPage(m_events);
-    connect(m_main, &InrushMain::goInrushStart, this, &InrushPage::showInrushStart);
-    connect(m_start, &InrushStartPage::goInrushEvent, this, &InrushPage::showInrushEvent);
-    connect(m_events, &InrushEventPage::goInrushStart, this, &InrushPage::backToStart);
-    m_follower = std::make_unique<EventFollower>(this, g_events_list, EventKinds { EventInrush, EventInrush },
-                                                 [this](const EventSelection &events) {
-                                                     m_events->refreshEventList(&events);
-                                                     m_start->showEventsCounts(events.size());
-                                                 });
+    const auto show = [this](const EventSelection &events) {
+        if (auto *list = made<InrushEventPage>(Events))
+            list->refreshEventList(&events);
+        if (auto *trend = made<InrushStartPage>(Start))
+            trend->showEventsCounts(events.size());
+    };
+    m_follower = std::make_unique<EventFollower>(this, g_events_list, EventKinds { EventInrush, EventInrush }, show);
 }
 
 void InrushPage::sendCMD()
@@ -33,28 +34,12 @@ void InrushPage::sendCMD()
         m_idevice->sendDSPMgmt(&command, sizeof command);
 }
 
-void InrushPage::showInrushMain()
+void InrushPage::start()
 {
-    showPage(m_main);
-}
-
-void InrushPage::showInrushStart()
-{
-    if (m_main->switchOn())
+    if (made<InrushMain>(Main)->switchOn())
         sendCMD();
     emit startInrushTask();
-    m_start->beginView();
-    showPage(m_start);
-}
-
-void InrushPage::backToStart()
-{
-    showPage(m_start);
-}
-
-void InrushPage::showInrushEvent()
-{
-    showPage(m_events);
+    static_cast<InrushStartPage *>(page(Start))->beginView();
 }
 
 QByteArray InrushPage::pqaData() const

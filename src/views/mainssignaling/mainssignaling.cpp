@@ -6,34 +6,26 @@
 #include "views/mainssignaling/mainssignalingtrend.h"
 
 MainsSignaling::MainsSignaling(const LiveData &data, QWidget *parent)
-    : ViewContainer(UI_MAINS_SIG, { 12, "MainsSig" }, data, parent), m_main(new MainsSignalingMain(data)),
-      m_trend(new MainsSignalingTrend(data)), m_events(new MainsSignalingEvent)
+    : ViewContainer(UI_MAINS_SIG, { 12, "MainsSig" }, data,
+                    {
+                        { make<MainsSignalingMain>,
+                          { way(&MainsSignalingMain::goMainsSignalingTrend, Trend),
+                            way(&MainsSignalingMain::goMainsSignalingEvent, Events) } },
+                        { make<MainsSignalingTrend>, { way(&MainsSignalingTrend::goBack, Main) } },
+                        { make<MainsSignalingEvent>, { way(&MainsSignalingEvent::goBack, Main) } },
+                    },
+                    parent)
 {
-    addPage(m_main);
-    addPage(m_trend);
-    addPage(m_events);
-    connect(m_main, &MainsSignalingMain::goMainsSignalingTrend, this, &MainsSignaling::showMainsSignalingTrend);
-    connect(m_main, &MainsSignalingMain::goMainsSignalingEvent, this, &MainsSignaling::showMainsSignalingEvent);
-    connect(m_trend, &MainsSignalingTrend::goBack, this, &MainsSignaling::showMainsSignalingMain);
-    connect(m_events, &MainsSignalingEvent::goBack, this, &MainsSignaling::showMainsSignalingMain);
-    m_follower = std::make_unique<EventFollower>(
-        this, m_list, kAllEvents, [this](const EventSelection &events) { m_events->refreshEventList(&events); });
+    m_follower = std::make_unique<EventFollower>(this, m_list, kAllEvents, [this](const EventSelection &events) {
+        if (auto *list = made<MainsSignalingEvent>(Events))
+            list->refreshEventList(&events);
+    });
 }
 
-void MainsSignaling::showMainsSignalingMain()
+void MainsSignaling::aboutToShow(int row)
 {
-    showPage(m_main);
-}
-
-void MainsSignaling::showMainsSignalingTrend()
-{
-    showPage(m_trend);
-}
-
-void MainsSignaling::showMainsSignalingEvent()
-{
-    m_follower->catchUp();
-    showPage(m_events);
+    if (row == Events)
+        m_follower->catchUp();
 }
 
 void MainsSignaling::initDisplayParam()

@@ -24,25 +24,15 @@ static_assert(sizeof(_power_pqa_data) == 76996, "size of the saved record");
 } // namespace
 
 powen::powen(const LiveData &data, QWidget *parent)
-    : ViewContainer(UI_POWER, { 6, "Power" }, data, parent), m_main(new PowerMain(data)),
-      m_trend(new PowerTrendPage(data))
-{
-    addPage(m_main);
-    addPage(m_trend);
-    connect(m_main, &PowerMain::goPowerTrend, this, &powen::showPowerTrend);
-    connect(m_main, &PowerMain::resetEnergy, this, &powen::resetEnergy);
-    connect(m_trend, &PowerTrendPage::goPowerMain, this, &powen::showPowerMain);
-}
-
-void powen::showPowerTrend()
-{
-    showPage(m_trend);
-}
-
-void powen::showPowerMain()
-{
-    showPage(m_main);
-}
+    : ViewContainer(
+        UI_POWER, { 6, "Power" }, data,
+        {
+            { make<PowerMain>,
+              { way(&PowerMain::goPowerTrend, Trend), pass(&PowerMain::resetEnergy, &powen::resetEnergy) } },
+            { make<PowerTrendPage>, { way(&PowerTrendPage::goPowerMain, Main) } },
+        },
+        parent)
+{ }
 
 QByteArray powen::pqaData() const
 {

@@ -6,35 +6,28 @@
 #include "views/powerinverter/powerinvertertrend.h"
 
 PowerInverter::PowerInverter(const LiveData &data, QWidget *parent)
-    : ViewContainer(UI_POWER_INVERTER, { 13, "PowerInverter" }, data, parent), m_setup(new PowerInverterSetup),
-      m_main(new PowerInverterMain(data)), m_trend(new PowerInverterTrend(data))
-{
-    addPage(m_setup);
-    addPage(m_main);
-    addPage(m_trend);
-    connect(m_setup, &PowerInverterSetup::startPowerInverterTask, this, &PowerInverter::startPowerInverterTask);
-    connect(m_setup, &PowerInverterSetup::goPowerInverterMain, this, &PowerInverter::showPowerInverterMain);
-    connect(m_main, &PowerInverterMain::goPowerInverterTrend, this, &PowerInverter::showPowerInverterTrend);
-    connect(m_trend, &PowerInverterTrend::goPowerInverterMain, this, &PowerInverter::showPowerInverterMain);
+    : ViewContainer(UI_POWER_INVERTER, { 13, "PowerInverter" }, data,
+                    {
+                        { make<PowerInverterSetup>,
+                          { pass(&PowerInverterSetup::startPowerInverterTask, &PowerInverter::startPowerInverterTask),
+                            way(&PowerInverterSetup::goPowerInverterMain, Main) } },
+                        { make<PowerInverterMain>, { way(&PowerInverterMain::goPowerInverterTrend, Trend) } },
+                        { make<PowerInverterTrend>, { way(&PowerInverterTrend::goPowerInverterMain, Main) } },
+                    },
+                    parent)
+{ }
 
-    // Whoever leaves takes the processor's usual set-up along, queued before what the next function sends.
-    connect(this, &Page::leave, this, [] { DeviceInit::initAnalogDevice2(); });
+void PowerInverter::left()
+{
+    // Queued before what the next function sends.
+    DeviceInit::initAnalogDevice2();
 }
 
-void PowerInverter::showPowerInverterSetup()
+void PowerInverter::aboutToShow(int row)
 {
-    showPage(m_setup);
-}
-
-void PowerInverter::showPowerInverterMain()
-{
-    m_main->showTitle(); // the setup page may have chosen another output
-    showPage(m_main);
-}
-
-void PowerInverter::showPowerInverterTrend()
-{
-    m_trend->retranslateUi(); // likewise
-    m_trend->updateDisplay(nullptr);
-    showPage(m_trend);
+    if (row == Setup)
+        return;
+    // The set-up page may have chosen another output.
+    page(row)->retranslateUi();
+    page(row)->updateDisplay(nullptr);
 }

@@ -2,30 +2,22 @@
 
 #include "pages/viewcontainer.h"
 
-class PowerInverterMain;
-class PowerInverterSetup;
-class PowerInverterTrend;
-
 /// Power inverter: choice of the output, the table of input, output and efficiency, and their ten-minute trend.
 class PowerInverter : public ViewContainer
 {
     Q_OBJECT
 
 public:
+    enum Row { Setup, Main, Trend };
+
     explicit PowerInverter(const LiveData &data, QWidget *parent = nullptr);
 
-    void enterPowerInverter() { enterFirstPage(); }
-
-public slots:
-    void showPowerInverterSetup();
-    void showPowerInverterMain();
-    void showPowerInverterTrend();
+    /// The processor's usual set-up comes back.
+    void left() override;
 
 signals:
     void startPowerInverterTask();
 
-private:
-    PowerInverterSetup *m_setup;
-    PowerInverterMain *m_main;
-    PowerInverterTrend *m_trend;
+protected:
+    void aboutToShow(int row) override;
 };

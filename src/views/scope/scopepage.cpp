@@ -45,8 +45,6 @@ ScopePage::ScopePage(const LiveData &data, QWidget *parent)
         { Qt::Key_Down, nullptr, &ScopePage::pressDown },
         { Qt::Key_F6, nullptr, &ScopePage::stayHere }, // the scope is already on top
     };
-    connect(this, &FunctionPage::taskPaused, this, &ScopePage::setPause);
-    connect(this, &FunctionPage::taskContinued, this, &ScopePage::setContinue);
     connect(m_controls, &ScopeControls::cursorChanged, this, &ScopePage::showCurVal);
     setKeys(keys);
 }

@@ -13,6 +13,8 @@ public:
 
     /// Whether the threshold changed since the last call.
     bool takeChanged();
+    /// As required: its picture carries another number than the function's.
+    SaveIdentity saveIdentity() const override { return { 7, "Trans" }; }
 
 signals:
     void goTranStart();

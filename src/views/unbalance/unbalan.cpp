@@ -4,24 +4,18 @@
 #include "views/unbalance/unbalvectorpage.h"
 
 unbalan::unbalan(const LiveData &data, QWidget *parent)
-    : ViewContainer(UI_UNBALANCE, { 8, "Unbalance" }, data, parent), m_main(new UnbalanMain(data)),
-      m_vector(new UnbalVectorPage(data))
-{
-    addPage(m_main);
-    addPage(m_vector);
-    connect(m_main, &UnbalanMain::goUnbalanVector, this, &unbalan::showUnbalanVector);
-    connect(m_vector, &UnbalVectorPage::goUnbalanMain, this, &unbalan::showUnbalanMain);
-}
+    : ViewContainer(UI_UNBALANCE, { 8, "Unbalance" }, data,
+                    {
+                        { make<UnbalanMain>, { way(&UnbalanMain::goUnbalanVector, Vector) } },
+                        { make<UnbalVectorPage>, { way(&UnbalVectorPage::goUnbalanMain, Main) } },
+                    },
+                    parent)
+{ }
 
-void unbalan::showUnbalanMain()
+void unbalan::aboutToShow(int row)
 {
-    showPage(m_main);
-}
-
-void unbalan::showUnbalanVector()
-{
-    m_vector->updateDisplay(nullptr);
-    showPage(m_vector);
+    if (row == Vector)
+        page(Vector)->updateDisplay(nullptr);
 }
 
 QByteArray unbalan::pqaData() const

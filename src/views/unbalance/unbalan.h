@@ -2,25 +2,18 @@
 
 #include "pages/viewcontainer.h"
 
-class UnbalanMain;
-class UnbalVectorPage;
-
 /// Unbalance: the table of fundamentals with the sequence components, and the phasor diagram.
 class unbalan : public ViewContainer
 {
     Q_OBJECT
 
 public:
+    enum Row { Main, Vector };
+
     explicit unbalan(const LiveData &data, QWidget *parent = nullptr);
 
-    void enterUnbalan() { enterFirstPage(); }
     QByteArray pqaData() const override;
 
-public slots:
-    void showUnbalanMain();
-    void showUnbalanVector();
-
-private:
-    UnbalanMain *m_main;
-    UnbalVectorPage *m_vector;
+protected:
+    void aboutToShow(int row) override;
 };

@@ -25,23 +25,13 @@ constexpr VifTrend kSavedTrends[]
 } // namespace
 
 VifPage::VifPage(const LiveData &data, QWidget *parent)
-    : ViewContainer(UI_VIF, { 2, "VAHz" }, data, parent), m_main(new VifMain(data)), m_trend(new VifTrendPage(data))
-{
-    addPage(m_main);
-    addPage(m_trend);
-    connect(m_main, &VifMain::goVifTrend, this, &VifPage::showVifTrend);
-    connect(m_trend, &VifTrendPage::goBack, this, &VifPage::showVifmain);
-}
-
-void VifPage::showVifTrend()
-{
-    showPage(m_trend);
-}
-
-void VifPage::showVifmain()
-{
-    showPage(m_main);
-}
+    : ViewContainer(UI_VIF, { 2, "VAHz" }, data,
+                    {
+                        { make<VifMain>, { way(&VifMain::goVifTrend, Trend) } },
+                        { make<VifTrendPage>, { way(&VifTrendPage::goBack, Main) } },
+                    },
+                    parent)
+{ }
 
 QByteArray VifPage::pqaData() const
 {

@@ -88,6 +88,8 @@ private slots:
     void everyExceptionIsStillNeeded();
     void onlyTheListedEdgesReadTheSettingsInUse();
     void everyFolderHasAShortReadme();
+    void everyGlobalIsInTheTable();
+    void noConnectionIsMadeByText();
     void processorIncludesNothingOfTheInstrument();
     void toolsIncludeNothingOfTheInstrument();
     void onlyThePlatformFolderKnowsBoardFromDesk();
@@ -198,6 +200,40 @@ void TstArchitecture::everyFolderHasAShortReadme()
         QVERIFY2(text.startsWith(QStringLiteral("# %1/").arg(folder)), qPrintable(folder));
         QVERIFY2(lines >= 3 && lines <= 15, qPrintable(QStringLiteral("%1: %2 lines").arg(folder).arg(lines)));
     }
+}
+
+// Variables that other files may reach; the table says why each is one.
+void TstArchitecture::everyGlobalIsInTheTable()
+{
+    static const QRegularExpression declaration(QStringLiteral("^extern\\s[^(;]*?(\\w+)(\\[\\w*\\])*;"),
+                                                QRegularExpression::MultilineOption);
+    QSet<QString> declared;
+    const auto paths = sources(QStringLiteral("src"));
+    for (const QString &path : paths) {
+        auto found = declaration.globalMatch(code(path));
+        while (found.hasNext())
+            declared << path.mid(4) + QLatin1Char(' ') + found.next().captured(1);
+    }
+    QVERIFY(declared.size() > 10);
+    QSet<QString> listed;
+    const auto rows = documentTable(QStringLiteral("Globals"));
+    for (const QStringList &row : rows) {
+        QVERIFY2(!row.value(2).isEmpty(), "a global has its reason");
+        const auto names = row.value(0).split(QStringLiteral(", "));
+        for (const QString &name : names)
+            listed << row.value(1) + QLatin1Char(' ') + name;
+    }
+    const auto unlisted = (QSet<QString>(declared) - listed).values();
+    const auto gone = (QSet<QString>(listed) - declared).values();
+    QVERIFY2(unlisted.isEmpty(), list(unlisted));
+    QVERIFY2(gone.isEmpty(), list(gone));
+}
+
+// A connection by the text of a signal is checked by nobody before it fails on the instrument.
+void TstArchitecture::noConnectionIsMadeByText()
+{
+    const auto found = offenders(QRegularExpression(QStringLiteral("\\b(SIGNAL|SLOT)\\s*\\(")), QString());
+    QVERIFY2(found.isEmpty(), list(found));
 }
 
 void TstArchitecture::processorIncludesNothingOfTheInstrument()

@@ -19,7 +19,10 @@ public:
     void stopWatchChanged(const QString &text) override { time = text; }
     void init_parameter() override { ++begins; }
 
+    void setPause() override { ++pauses; }
+
     int refreshes = 0;
+    int pauses = 0;
     int begins = 0;
     QString time;
 };
@@ -64,11 +67,10 @@ void TstTaskLinks::visitsDoNotAddUp()
     emit task.init_param();
     QCOMPARE(page.begins, 1);
     QSignalSpy wanted(&links, &TaskLinks::pauseWanted);
-    QSignalSpy heard(&page, &FunctionPage::taskPaused);
     emit page.pause();
     QCOMPARE(wanted.count(), 1);
     emit task.taskPaused();
-    QCOMPARE(heard.count(), 1);
+    QCOMPARE(page.pauses, 1);
     links.forget(&task);
 }
 

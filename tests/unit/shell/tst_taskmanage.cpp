@@ -163,16 +163,18 @@ void TstTaskManage::startTaskTakesNoNullTask()
 void TstTaskManage::pagesHoldAndRunTheTask()
 {
     m_taskmanage->startTask(m_taskmanage->initTask(TaskManage::Universal));
-    QSignalSpy paused(vifPage(), &FunctionPage::taskPaused);
-    QSignalSpy continued(vifPage(), &FunctionPage::taskContinued);
+    QSignalSpy paused(g_unitask, &AbstractTask::taskPaused);
+    QSignalSpy continued(g_unitask, &AbstractTask::taskContinued);
     emit vifPage()->pause(); // the task waits: nothing to hold
     QCOMPARE(paused.count(), 0);
     g_unitask->startTask();
     emit vifPage()->pause();
     QVERIFY(g_unitask->isTaskPaused());
+    QVERIFY(!vifPage()->isRunning());
     QCOMPARE(paused.count(), 1);
     emit vifPage()->run();
     QVERIFY(g_unitask->isTaskRunning());
+    QVERIFY(vifPage()->isRunning());
     QCOMPARE(continued.count(), 1);
 }
 
@@ -214,8 +216,9 @@ void TstTaskManage::aSecondLinkChangesNothing()
 void TstTaskManage::energyResetIsShownAtOnce()
 {
     m_taskmanage->startTask(m_taskmanage->initTask(TaskManage::Universal));
+    const auto *page = pageOf<powen>(UI_POWER);
     m_taskmanage->connectDisplay(UI_POWER);
-    auto *label = pageOf<powen>(UI_POWER)->findChild<QLabel *>("kwh_1");
+    auto *label = page->findChild<QLabel *>("kwh_1");
     m_taskmanage->data().live().power.activeEnergy[0] = 9000.0f;
     emit g_unitask->updateDisplay(nullptr);
     QCOMPARE(label->text(), QStringLiteral("9.000"));

@@ -2,16 +2,25 @@
 
 #include "model/livedata.h"
 #include "pages/viewcontainer.h"
+#include "shell/pagetable.h"
+#include "shell/tasklinks.h"
 #include "task/unitask.h"
+#include "views/flicker/flicker.h"
+#include "views/flicker/flickerpage.h"
 #include "views/harmonics/harm.h"
 #include "views/harmonics/harmmain.h"
 #include "views/harmonics/harmmeterpage.h"
 #include "views/power/powen.h"
 #include "views/power/powermain.h"
+#include "views/powerinverter/powerinverter.h"
+#include "views/transients/trans.h"
+#include "views/unbalance/unbalan.h"
+#include "views/unbalance/unbalvectorpage.h"
 
 #include <QSignalSpy>
+#include <QTranslator>
 
-/// What a page does after many visits through the menu: the same, once.
+/// What a page does after many visits through the menu: the same, once. And what it does when it is left, or made late.
 class TstVisits : public ShellCase
 {
     Q_OBJECT
@@ -21,6 +30,12 @@ private slots:
     void aPageVisitedOnHoldShowsTheHeldMoment();
     void referenceOfTheHarmonicsChangesOnce();
     void energyIsResetOnce();
+    void aPageIsMadeWhenItIsFirstEntered();
+    void pagesStandInTheOrderOfTheTable();
+    void aPageMadeOnHoldIsHeld();
+    void aPageMadeInAnotherLanguageSpeaksIt();
+    void inverterIsSetUpAnewOnlyWhenItIsLeft();
+    void holdOfTheInverterWaitsForItsStart();
 
 private:
     static constexpr int kVisits = 4;
@@ -50,10 +65,11 @@ void TstVisits::holdIsAskedForOnce()
     visit("vif");
     g_unitask->startTask();
     QSignalSpy paused(g_unitask, &AbstractTask::taskPaused);
-    QSignalSpy shown(vifPage(), &FunctionPage::taskPaused);
+    QSignalSpy asked(&m_taskmanage->links(), &TaskLinks::pauseWanted);
     emit vifPage()->pause();
     QCOMPARE(paused.count(), 1);
-    QCOMPARE(shown.count(), 1);
+    QCOMPARE(asked.count(), 1);
+    QVERIFY(!vifPage()->isRunning());
 }
 
 void TstVisits::aPageVisitedOnHoldShowsTheHeldMoment()
@@ -67,7 +83,7 @@ void TstVisits::aPageVisitedOnHoldShowsTheHeldMoment()
     data.live().harmonics.channel[0].offset = 45;
     backToMenu();
     visit("harmonics");
-    auto *meter = pageOf<harm>(UI_HARMONICS)->findChild<HarmMeterPage *>();
+    const auto *meter = pageOf<harm>(UI_HARMONICS)->page(harm::Meter); // made on hold
     QCOMPARE(meter->findChild<QLabel *>("row1_L1")->text(), QStringLiteral("50.000")); // 30 of 60
     g_unitask->continueTask();
     backToMenu();
@@ -91,6 +107,113 @@ void TstVisits::energyIsResetOnce()
     QSignalSpy refreshes(g_unitask, &UniTask::updateDisplay);
     emit pageOf<powen>(UI_POWER)->resetEnergy();
     QCOMPARE(refreshes.count(), 1);
+}
+
+void TstVisits::aPageIsMadeWhenItIsFirstEntered()
+{
+    const auto flickers = [] { return m_basedialog->findChildren<flicker *>().size(); };
+    QCOMPARE(flickers(), 0);
+    visit("flicker");
+    QCOMPARE(flickers(), 1);
+    auto *page = pageOf<flicker>(UI_FLICKER);
+    QVERIFY(!page->findChild<FlickerPage *>()); // its trend was not looked at yet
+    QTest::keyClick(page->currentPage(), kF4);
+    QVERIFY(page->findChild<FlickerPage *>());
+    QCOMPARE(static_cast<QWidget *>(page->currentPage()), page->findChild<QWidget *>("FlickerPage"));
+}
+
+void TstVisits::pagesStandInTheOrderOfTheTable()
+{
+    for (const auto type : { UI_SCOPE, UI_POWER, UI_VIF, UI_MAINS_SIG, UI_UNBALANCE })
+        QVERIFY(m_basedialog->navigator().page(type));
+    const auto *stack = m_basedialog->findChild<QStackedWidget *>("base_stackedWidget");
+    QList<int> found;
+    for (int i = 0; i < stack->count(); ++i)
+        found << qobject_cast<Page *>(stack->widget(i))->uiType();
+    QList<int> expected;
+    for (const PageRow &row : PageTable::rows()) {
+        if (found.contains(row.type) && !expected.contains(row.type))
+            expected << row.type;
+    }
+    QCOMPARE(found, expected);
+    QCOMPARE(found.first(), int(UI_MENU));
+}
+
+void TstVisits::aPageMadeOnHoldIsHeld()
+{
+    enterVif();
+    g_unitask->startTask();
+    emit vifPage()->pause();
+    QVERIFY(g_unitask->isTaskPaused());
+    QTest::keyClick(vifPage()->currentPage(), kF7);
+    QVERIFY(!m_basedialog->findChild<trans *>());
+    moveToTile("transients");
+    QTest::keyClick(m_basedialog->menu(), kEnter);
+    auto *page = pageOf<trans>(UI_TRANSIENTS);
+    QVERIFY(!page->isRunning());
+    QTest::keyClick(page->currentPage(), kF5); // Start: to the live voltages
+    QCOMPARE(page->currentPage()->findChild<QLabel *>("btn_f5")->text(), QStringLiteral("Run"));
+    emit page->run();
+    QCOMPARE(page->currentPage()->findChild<QLabel *>("btn_f5")->text(), QStringLiteral("Hold"));
+}
+
+void TstVisits::aPageMadeInAnotherLanguageSpeaksIt()
+{
+    /// Every text with a mark before it.
+    class Marked : public QTranslator
+    {
+    public:
+        bool isEmpty() const override { return false; }
+        QString translate(const char *, const char *text, const char *, int) const override
+        {
+            return QLatin1Char('~') + QString::fromUtf8(text);
+        }
+    } language;
+    QVERIFY(!m_basedialog->findChild<unbalan *>() || !m_basedialog->findChild<UnbalVectorPage *>());
+    QCoreApplication::installTranslator(&language);
+    auto *page = pageOf<unbalan>(UI_UNBALANCE);
+    page->showPage(unbalan::Vector);
+    QCOMPARE(page->currentPage()->findChild<QLabel *>("btn_f5")->text(), QStringLiteral("~Hold"));
+    QCoreApplication::removeTranslator(&language);
+}
+
+void TstVisits::inverterIsSetUpAnewOnlyWhenItIsLeft()
+{
+    Navigator &navigator = m_basedialog->navigator();
+    navigator.go(UI_MENU, UI_POWER_INVERTER);
+    auto *page = pageOf<PowerInverter>(UI_POWER_INVERTER);
+    QTest::keyClick(page->currentPage(), kF5); // Start
+    QCOMPARE(m_taskmanage->getUniFunction(), 5);
+    g_unitask->startTask();
+    FrameSpy spy;
+    DialogAnswer memory(kF5);
+    QTest::keyClick(page->currentPage(), kF10);
+    DialogAnswer cancel(kF5);
+    QTest::keyClick(page->currentPage(), kF7);
+    QVERIFY(cancel.asked);
+    QCOMPARE(top(), static_cast<QWidget *>(page));
+    QCOMPARE(spy.frames.size(), std::size_t(0));
+    DialogAnswer quit(kF4);
+    QTest::keyClick(page->currentPage(), kF7);
+    QVERIFY(quit.asked);
+    QCOMPARE(top(), static_cast<QWidget *>(m_basedialog->menu()));
+    QVERIFY(spy.frames.size() >= 3); // end of the stream, then the usual set-up
+}
+
+void TstVisits::holdOfTheInverterWaitsForItsStart()
+{
+    m_basedialog->navigator().go(UI_MENU, UI_POWER_INVERTER);
+    auto *page = pageOf<PowerInverter>(UI_POWER_INVERTER);
+    QTest::keyClick(page->currentPage(), kF5); // Start: the run begins in ten seconds
+    QVERIFY(!g_unitask->isTaskRunning());
+    const auto caption = [page] { return page->currentPage()->findChild<QLabel *>("btn_f5")->text(); };
+    QTest::keyClick(page->currentPage(), kF5);
+    QCOMPARE(caption(), QStringLiteral("Hold"));
+    QVERIFY(page->isRunning());
+    g_unitask->startTask();
+    QTest::keyClick(page->currentPage(), kF5);
+    QVERIFY(g_unitask->isTaskPaused());
+    QCOMPARE(caption(), QStringLiteral("Run"));
 }
 
 QTEST_MAIN(TstVisits)

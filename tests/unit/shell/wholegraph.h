@@ -1,7 +1,7 @@
 #pragma once
 
 #include "device/idevice.h"
-#include "pages/functionpage.h"
+#include "pages/viewcontainer.h"
 #include "shell/basedialog.h"
 #include "shell/navigator.h"
 #include "shell/quveraglobal.h"
@@ -29,10 +29,14 @@ inline void buildWholeGraph(QPoint splashOffset = {})
     langConnection();
 }
 
-/// A page of the graph by its type; null if it is of another class.
+/// A page of the graph by its type, entered once; null if it is of another class.
 template <typename P> P *pageOf(_quvera_ui_type type)
 {
-    return qobject_cast<P *>(m_basedialog->navigator().page(type));
+    FunctionPage *page = m_basedialog->navigator().page(type);
+    const auto *container = qobject_cast<ViewContainer *>(page);
+    if (container && container->currentIndex() < 0)
+        page->enter();
+    return qobject_cast<P *>(page);
 }
 
 inline VifPage *vifPage()

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "settings/config_data.h"
-#include "pages/functionpage.h"
+#include "pages/viewcontainer.h"
 #include "unit/measureddata.h"
 #include "widgets/controls/keyrepeat.h"
 
@@ -111,6 +111,7 @@ inline void addShownColumns()
 /// A run begins, as the start of a task does it: the records are emptied, then the page forgets what it showed.
 inline void beginRun(FunctionPage &page)
 {
+    g_events_list.clear();
     renewLive();
     page.init_parameter();
 }
@@ -119,13 +120,24 @@ inline void beginRun(FunctionPage &page)
 inline void holdRun(FunctionPage &page)
 {
     liveData().hold();
-    emit page.taskPaused();
+    page.setPause();
 }
 
 inline void continueRun(FunctionPage &page)
 {
     liveData().run();
-    emit page.taskContinued();
+    page.setContinue();
+}
+
+/// Opens a page and makes all its sub pages, as one who has looked at each and come back.
+inline void openAll(QWidget &page)
+{
+    auto *container = qobject_cast<ViewContainer *>(&page);
+    if (!container)
+        return;
+    container->enter();
+    for (int row = 0; row < container->pageCount(); ++row)
+        container->page(row);
 }
 
 /// Press and release.

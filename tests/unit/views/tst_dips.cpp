@@ -94,6 +94,7 @@ void TstDips::init()
     setUpMeasurement(1);
     DipSwellInfo::m_zoom_index = 0;
     m_page = std::make_unique<dswell>(liveData());
+    openAll(*m_page);
     beginRun(*m_page);
 }
 
@@ -419,6 +420,7 @@ void TstDips::pagesLiveBeforeTheFirstStart()
 {
     renewLive();
     dswell page(liveData());
+    openAll(page);
     page.updateDisplay(nullptr);
     page.retranslateUi();
     for (const FrontKey key : { F1, F2, F3, Left, Right, F4, Left, Right, F5 })

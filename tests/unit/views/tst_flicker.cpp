@@ -55,6 +55,7 @@ void TstFlicker::start(int joinMode)
 void TstFlicker::init()
 {
     m_page = std::make_unique<flicker>(liveData());
+    openAll(*m_page);
     start(1);
 }
 
@@ -136,7 +137,7 @@ void TstFlicker::f4OpensTheTrendAndLeadsBack()
 
 void TstFlicker::titleFollowsThePageOnTop()
 {
-    m_page->enterFlicker();
+    m_page->enter();
     QCOMPARE(FlickerParam::currentTitle(), QStringLiteral("Flicker"));
     press(mainPage(), F4);
     QCOMPARE(FlickerParam::currentTitle(), QStringLiteral("pinst"));
@@ -229,6 +230,7 @@ void TstFlicker::pagesLiveBeforeTheFirstStart()
 {
     renewLive();
     flicker page(liveData());
+    openAll(page);
     page.updateDisplay(nullptr);
     page.retranslateUi();
     QCOMPARE(page.pqaData().size(), 7240);

@@ -98,6 +98,7 @@ void TstHarmonics::fill()
 void TstHarmonics::init()
 {
     m_page = std::make_unique<harm>(liveData());
+    openAll(*m_page);
     start(1);
 }
 
@@ -139,6 +140,7 @@ void TstHarmonics::pagesLiveBeforeTheFirstStart()
 {
     renewLive();
     harm page(liveData());
+    openAll(page);
     page.updateDisplay(nullptr);
     page.retranslateUi();
     QCOMPARE(page.pqaData().size(), 19300);

@@ -89,6 +89,7 @@ void TstInrush::init()
     InrushInfo::m_duration_index = 0;
     setClamp(1000, 1000);
     m_page = std::make_unique<InrushPage>(liveData());
+    openAll(*m_page);
     beginRun(*m_page);
 }
 
@@ -305,7 +306,7 @@ void TstInrush::pagesLeadToEachOther()
     press(eventPage(), F5);
     QCOMPARE(current(), static_cast<QWidget *>(startPage()));
     QCOMPARE(spy.count(), 1); // coming back from the list is no start
-    m_page->enterFirstPage();
+    m_page->enter();
     QCOMPARE(current(), static_cast<QWidget *>(mainPage()));
 }
 
@@ -434,6 +435,7 @@ void TstInrush::pagesLiveBeforeTheFirstStart()
 {
     renewLive();
     InrushPage page(liveData());
+    openAll(page);
     page.updateDisplay(nullptr);
     page.retranslateUi();
     press(page.findChild<InrushMain *>(), F5);

@@ -69,6 +69,7 @@ void TstMainsSignaling::start(int joinMode)
 void TstMainsSignaling::init()
 {
     m_page = std::make_unique<MainsSignaling>(liveData());
+    openAll(*m_page);
     start(1);
 }
 
@@ -155,10 +156,11 @@ void TstMainsSignaling::pagesLiveBeforeTheFirstStart()
 {
     renewLive();
     MainsSignaling page(liveData());
+    openAll(page);
     page.updateDisplay(nullptr);
     page.retranslateUi();
     press(page.findChild<MainsSignalingTrend *>(), F1, 5);
-    page.showMainsSignalingEvent();
+    page.showPage(MainsSignaling::Events);
 }
 
 void TstMainsSignaling::f4OpensTheTrendAndLeadsBack()

@@ -51,6 +51,7 @@ void TstPower::init()
 {
     m_settingConfig_g.setJoinMode(1);
     m_page = std::make_unique<powen>(liveData());
+    openAll(*m_page);
     beginRun(*m_page);
 }
 
@@ -282,6 +283,7 @@ void TstPower::pagesLiveBeforeTheFirstStart()
 {
     renewLive();
     powen page(liveData());
+    openAll(page);
     page.updateDisplay(nullptr);
     press(page.findChild<PowerTrendPage *>(), F1);
     QCOMPARE(page.pqaData().size(), 76996);

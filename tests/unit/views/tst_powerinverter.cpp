@@ -44,8 +44,8 @@ private slots:
     void trendFlagsFollowTheOutput();
     void f4OpensTheTrendAndF5LeadsBack();
     void holdFreezesTheValues();
-    void leavingByAFunctionKeySetsTheProcessorUp_data();
-    void leavingByAFunctionKeySetsTheProcessorUp();
+    void onlyWhoHasLeftSetsTheProcessorUp_data();
+    void onlyWhoHasLeftSetsTheProcessorUp();
     void eachStartShowsEmptyRecords();
     void savesAPictureOnly();
     void pagesLiveBeforeTheFirstStart();
@@ -97,6 +97,7 @@ void TstPowerInverter::init()
 {
     singleOrThree = 0;
     m_page = std::make_unique<PowerInverter>(liveData());
+    openAll(*m_page);
     start(1, false);
 }
 
@@ -132,7 +133,7 @@ void TstPowerInverter::upAndDownChooseTheOutput()
 
 void TstPowerInverter::f5StartsTheTaskWithTheChosenOutput()
 {
-    m_page->enterPowerInverter();
+    m_page->enter();
     int atStart = -1;
     connect(m_page.get(), &PowerInverter::startPowerInverterTask, this, [&atStart] { atStart = singleOrThree; });
     QCOMPARE(text(setupPage(), "btn_f5"), QStringLiteral("Start"));
@@ -148,7 +149,7 @@ void TstPowerInverter::f5StartsTheTaskWithTheChosenOutput()
 void TstPowerInverter::entryShowsTheSetup()
 {
     QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(mainPage()));
-    m_page->enterPowerInverter();
+    m_page->enter();
     QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(setupPage()));
 }
 
@@ -337,7 +338,7 @@ void TstPowerInverter::holdFreezesTheValues()
     QCOMPARE(text(mainPage(), "btn_f5"), QStringLiteral("Hold"));
 }
 
-void TstPowerInverter::leavingByAFunctionKeySetsTheProcessorUp_data()
+void TstPowerInverter::onlyWhoHasLeftSetsTheProcessorUp_data()
 {
     QTest::addColumn<int>("letter");
     QTest::newRow("F6") << int(Qt::Key_E);
@@ -347,13 +348,15 @@ void TstPowerInverter::leavingByAFunctionKeySetsTheProcessorUp_data()
     QTest::newRow("F10") << int(Qt::Key_R);
 }
 
-void TstPowerInverter::leavingByAFunctionKeySetsTheProcessorUp()
+void TstPowerInverter::onlyWhoHasLeftSetsTheProcessorUp()
 {
     QFETCH(int, letter);
     FrameSpy spy;
     press(mainPage(), F4);
     QCOMPARE(spy.count(), 0);
     QTest::keyClick(trendPage(), Qt::Key(letter));
+    QCOMPARE(spy.count(), 0); // asked for, not left yet
+    m_page->left();
     // Set-up, firmware request, start of the stream.
     QCOMPARE(spy.count(), 3);
 }
@@ -374,6 +377,7 @@ void TstPowerInverter::pagesLiveBeforeTheFirstStart()
 {
     renewLive();
     PowerInverter page(liveData());
+    openAll(page);
     page.updateDisplay(nullptr);
     page.retranslateUi();
     press(page.findChild<PowerInverterTrend *>(), F1, 7);

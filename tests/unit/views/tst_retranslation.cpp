@@ -78,6 +78,7 @@ void TstRetranslation::languageChangeReachesEveryText()
 {
     QFETCH(MakePage, make);
     std::unique_ptr<FunctionPage> page(make());
+    PageTest::openAll(*page);
     page->init_parameter();
     page->updateDisplay(nullptr);
     const QMap<QString, QString> english = texts(page.get());
@@ -87,6 +88,7 @@ void TstRetranslation::languageChangeReachesEveryText()
     page->retranslateUi();
     // What a page shows that never knew another language.
     std::unique_ptr<FunctionPage> fresh(make());
+    PageTest::openAll(*fresh);
     fresh->init_parameter();
     fresh->updateDisplay(nullptr);
     const QMap<QString, QString> expected = texts(fresh.get());
@@ -104,8 +106,9 @@ void TstRetranslation::languageChangeReachesEveryText()
 void TstRetranslation::heldPageSaysRunInTheNewLanguage()
 {
     harm page(PageTest::liveData());
+    PageTest::openAll(page);
     page.init_parameter();
-    emit page.taskPaused();
+    page.setPause();
     MarkedLanguage language;
     QCoreApplication::installTranslator(&language);
     page.retranslateUi();
@@ -118,6 +121,7 @@ void TstRetranslation::newPhaseColoursReachTheLabelsWhenThePageIsShown()
     QFETCH(MakePage, make);
     PhaseColor::setPhaseColors(QStringLiteral("01231"));
     std::unique_ptr<FunctionPage> page(make());
+    PageTest::openAll(*page);
     page->init_parameter();
     page->updateDisplay(nullptr);
     page->show();
@@ -129,6 +133,7 @@ void TstRetranslation::newPhaseColoursReachTheLabelsWhenThePageIsShown()
 
     // What a page shows that never knew other colours.
     std::unique_ptr<FunctionPage> fresh(make());
+    PageTest::openAll(*fresh);
     fresh->init_parameter();
     fresh->updateDisplay(nullptr);
     PhaseColor::setPhaseColors(QStringLiteral("01231"));

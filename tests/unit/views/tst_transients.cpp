@@ -117,6 +117,7 @@ void TstTransients::init()
     if (m_settingConfig_g.getTransThreshold() != 50)
         m_settingConfig_g.setTransThreshold(50);
     m_page = std::make_unique<trans>(liveData());
+    openAll(*m_page);
     beginRun(*m_page);
 }
 
@@ -293,7 +294,7 @@ void TstTransients::holdLabelFollowsTheTask()
 
 void TstTransients::withoutTransientsTheViewIsEmpty()
 {
-    m_page->showTransView();
+    m_page->showPage(trans::View);
     QCOMPARE(text(viewPage(), "trans_number"), QStringLiteral("#0/0(trans)"));
     QCOMPARE(text(viewPage(), "trans_time"), QString());
     QCOMPARE(text(viewPage(), "trigger"), QString());
@@ -314,7 +315,7 @@ void TstTransients::prevAndNextStopAtTheEnds()
 {
     for (int i = 1; i <= 3; ++i)
         capture(transient(i));
-    m_page->showTransView();
+    m_page->showPage(trans::View);
     press(viewPage(), F2);
     QCOMPARE(text(viewPage(), "trans_number"), QStringLiteral("#3/3(trans)"));
     press(viewPage(), F1);
@@ -330,7 +331,7 @@ void TstTransients::captionTimeAndTriggerAreThoseOfTheRecord()
     capture(transient(0, 1)); // time of kTime itself
     g_trans_events.last()->number = 7;
     capture(transient(8, 3));
-    m_page->showTransView();
+    m_page->showPage(trans::View);
     QCOMPARE(text(viewPage(), "trigger_t"), QStringLiteral("TRIGGER ON:"));
     QCOMPARE(text(viewPage(), "trigger"), QStringLiteral("L3"));
     QCOMPARE(text(viewPage(), "trans_time"), QStringLiteral("2023-11-14 22:13:20 131"));
@@ -345,7 +346,7 @@ void TstTransients::cursorStandsOnTheTransient()
 {
     capture(transient(1, 1, 100));
     capture(transient(2, 1, 505));
-    m_page->showTransView();
+    m_page->showPage(trans::View);
     auto *scope = named<ScopeWidget>(viewPage(), "scope");
     QCOMPARE(scope->cursorPosition(), 506);
     press(viewPage(), F1);
@@ -357,7 +358,7 @@ void TstTransients::cursorMovesAndShowsTheSample()
     __trans_data *record = transient(1, 1, 300, 0);
     record->samples[1][302] = 2000;
     capture(record);
-    m_page->showTransView();
+    m_page->showPage(trans::View);
     QCOMPARE(text(viewPage(), "D2_Value"), F_to_Str::number_V(0));
     press(viewPage(), Right, 2);
     const double volts = 2000 * 10.0 / 32768.0 * m_calib_data_g.data().volt[m_settingConfig_g.getVoltIndex()][1];
@@ -371,7 +372,7 @@ void TstTransients::aNewTransientChangesOnlyTheCount()
 {
     capture(transient(1, 1, 100));
     capture(transient(2, 2, 200));
-    m_page->showTransView();
+    m_page->showPage(trans::View);
     press(viewPage(), F1);
     press(viewPage(), Right);
     capture(transient(3));
@@ -385,7 +386,7 @@ void TstTransients::aDroppedHeadKeepsTheTransientShown()
     for (int i = 1; i <= 1000; ++i)
         g_trans_events.append(transient(i, 1 + i % 3));
     m_page->hasTransEvents();
-    m_page->showTransView();
+    m_page->showPage(trans::View);
     press(viewPage(), F1);
     QCOMPARE(text(viewPage(), "trans_number"), QStringLiteral("#999/1000(trans)"));
     const QString time = text(viewPage(), "trans_time");
@@ -401,7 +402,7 @@ void TstTransients::aDroppedHeadKeepsTheTransientShown()
 void TstTransients::aDroppedTransientGivesWayToTheOldest()
 {
     capture(transient(1, 1));
-    m_page->showTransView();
+    m_page->showPage(trans::View);
     for (int i = 2; i <= 1000; ++i)
         g_trans_events.append(transient(i, i == 2 ? 2 : 1));
     m_page->hasTransEvents();
@@ -416,7 +417,7 @@ void TstTransients::aClearedListEmptiesTheView()
 {
     for (int i = 1; i <= 3; ++i)
         capture(transient(i));
-    m_page->showTransView();
+    m_page->showPage(trans::View);
     qDeleteAll(g_trans_events);
     g_trans_events.clear();
     press(viewPage(), Right); // before anyone told the page
@@ -430,7 +431,7 @@ void TstTransients::aReplacedListShowsNothingOfTheOld()
 {
     capture(transient(1, 1));
     capture(transient(2, 1));
-    m_page->showTransView();
+    m_page->showPage(trans::View);
     qDeleteAll(g_trans_events);
     g_trans_events.clear();
     auto *other = transient(2, 3, 401); // the numbers begin anew with the task
@@ -446,7 +447,7 @@ void TstTransients::anyListLengthOverAnyOrderOfKeys()
 {
     const FrontKey keys[] = { F1, F2, F1, F1, F2, Left, Right, F2, F2, F1 };
     quint32 random = 12345;
-    m_page->showTransView();
+    m_page->showPage(trans::View);
     for (int i = 0; i < 400; ++i) {
         random = random * 1664525u + 1013904223u;
         const int what = int(random >> 24) % 8;
@@ -476,7 +477,7 @@ void TstTransients::wildRecordsDoNoHarm()
         record->rms[0] = std::numeric_limits<float>::quiet_NaN();
         record->frequency = std::numeric_limits<float>::infinity();
         capture(record);
-        m_page->showTransView();
+        m_page->showPage(trans::View);
         QCOMPARE(text(viewPage(), "trans_time"), QString());
         QCOMPARE(text(viewPage(), "trigger"), QString());
         QCOMPARE(named<ScopeWidget>(viewPage(), "scope")->cursorPosition(), 600);
@@ -491,7 +492,7 @@ void TstTransients::wiringDecidesTheCaptions()
     setUpMeasurement(4);
     beginRun(*m_page);
     capture(transient(1, 2));
-    m_page->showTransView();
+    m_page->showPage(trans::View);
     QCOMPARE(text(viewPage(), "D2_Caption"), QStringLiteral("L23:"));
     QCOMPARE(text(viewPage(), "D4_Caption"), QString());
     QCOMPARE(text(viewPage(), "trigger"), QStringLiteral("L23"));
@@ -501,7 +502,7 @@ void TstTransients::wiringDecidesTheCaptions()
 void TstTransients::zoomTextsAreThoseOfTheScope()
 {
     capture(transient(1));
-    m_page->showTransView();
+    m_page->showPage(trans::View);
     press(viewPage(), Down, 20);
     QCOMPARE(text(viewPage(), "zoom_scale"), QStringLiteral("1/32X"));
     press(viewPage(), Up, 20);
@@ -545,6 +546,7 @@ void TstTransients::pagesLiveBeforeTheFirstStart()
 {
     renewLive();
     trans page(liveData());
+    openAll(page);
     page.updateDisplay(nullptr);
     page.hasTransEvents();
     page.retranslateUi();

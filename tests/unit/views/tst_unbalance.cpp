@@ -76,6 +76,7 @@ void TstUnbalance::start(int joinMode)
 void TstUnbalance::init()
 {
     m_page = std::make_unique<unbalan>(liveData());
+    openAll(*m_page);
     start(1);
 }
 
@@ -173,9 +174,10 @@ void TstUnbalance::pagesLiveBeforeTheFirstStart()
 {
     renewLive();
     unbalan page(liveData());
+    openAll(page);
     page.updateDisplay(nullptr);
     page.retranslateUi();
-    page.showUnbalanVector();
+    page.showPage(unbalan::Vector);
     press(page.findChild<UnbalVectorPage *>(), F1, 6);
     QCOMPARE(page.pqaData().size(), 100);
 }

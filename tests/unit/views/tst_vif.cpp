@@ -73,6 +73,7 @@ void TstVif::init()
 {
     m_settingConfig_g.setJoinMode(1);
     m_page = std::make_unique<VifPage>(liveData());
+    openAll(*m_page);
     beginRun(*m_page);
 }
 
@@ -208,6 +209,7 @@ void TstVif::pagesLiveBeforeTheFirstStart()
 {
     renewLive();
     VifPage page(liveData());
+    openAll(page);
     page.updateDisplay(nullptr);
     page.retranslateUi();
     QCOMPARE(page.pqaData().size(), 60136);
@@ -234,8 +236,8 @@ void TstVif::f4OpensTheTrendAndLeadsBack()
     QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(trendPage()));
     press(trendPage(), F4);
     QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(mainPage()));
-    m_page->showVifTrend();
-    m_page->enterVif();
+    m_page->showPage(VifPage::Trend);
+    m_page->enter();
     QCOMPARE(m_page->currentPage(), static_cast<LivePage *>(mainPage()));
 }
 
