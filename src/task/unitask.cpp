@@ -235,9 +235,6 @@ void UniTask::feedDisplayRecords(float signedFrequency)
 
 void UniTask::appendSecondTrends()
 {
-    if (!m_aggregationFresh)
-        return;
-    m_aggregationFresh = false;
     const bool inverter = m_function == UniPowerInverter;
     if ((m_function != UniBasic && !inverter) || m_energySeconds == m_trendSecond)
         return;

@@ -8,6 +8,7 @@
 #include "task/transientcutter.h"
 
 #include <cmath>
+#include <utility>
 
 // The waveform stream: recording clock, transients, waveforms of events and, once a second, the trends.
 
@@ -20,7 +21,10 @@ void UniTask::datagramWave(const QByteArray &bytes)
     recordTimer(quint64(m_wave->time));
     if (!isLive())
         return;
-    appendSecondTrends();
+    // Used up by this datagram, however many in it ask for a new aggregation.
+    const bool fresh = std::exchange(m_aggregationFresh, false);
+    if (fresh)
+        appendSecondTrends();
     captureTransient();
     fillEventWaves();
     emit waveTaken(m_wave.get());
