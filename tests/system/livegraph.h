@@ -9,7 +9,7 @@
 #include "model/livedata.h"
 #include "shell/menupage.h"
 #include "shell/navigator.h"
-#include "pages/functionpage.h"
+#include "pages/viewcontainer.h"
 #include "platform/clock.h"
 #include "shell/quveraglobal.h"
 #include "shell/taskmanage.h"
@@ -108,6 +108,16 @@ public:
                 return word.mid(name.size() + 1);
         }
         return {};
+    }
+
+    /// A sub page of a function, up to date whether it is shown or not.
+    static QWidget *subPage(_quvera_ui_type type, int row)
+    {
+        auto *container = qobject_cast<ViewContainer *>(m_basedialog->navigator().page(type));
+        if (!container)
+            return nullptr;
+        container->pqaData(); // as Save does: what the page only noted while it was hidden is looked up
+        return container->page(row);
     }
 
     /// What a label on the page in front reads.

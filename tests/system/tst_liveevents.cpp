@@ -331,9 +331,8 @@ void TstLiveEvents::eventsAreThoseOfTheSignal()
 void TstLiveEvents::comparePage(const __event_item &event, const Expected &expected, qint64 startMs) const
 {
     const bool inrush = expected.type == EventInrush;
-    const QWidget *page = inrush
-        ? static_cast<QWidget *>(m_basedialog->navigator().page(UI_INRUSH)->findChild<InrushEventPage *>())
-        : static_cast<QWidget *>(m_basedialog->navigator().page(UI_DIPS_SWELLS)->findChild<DipsEventPage *>());
+    const QWidget *page = inrush ? LiveGraph::subPage(UI_INRUSH, InrushPage::Events)
+                                 : LiveGraph::subPage(UI_DIPS_SWELLS, dswell::Events);
     QVERIFY(page);
     const auto *table = dynamic_cast<EventsWidget *>(page->findChild<QWidget *>(QStringLiteral("events")));
     QVERIFY(table);

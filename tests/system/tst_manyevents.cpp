@@ -111,7 +111,7 @@ void TstManyEvents::tableAndPageShowTheNewest()
     }
     LiveGraph::key(Qt::Key_Y); // F2, "Events"
     QTRY_VERIFY(LiveGraph::text("events_count").endsWith(QStringLiteral("/%1").arg(g_events_list.size())));
-    const auto *page = m_basedialog->navigator().page(UI_DIPS_SWELLS)->findChild<DipsEventPage *>();
+    const QWidget *page = LiveGraph::subPage(UI_DIPS_SWELLS, dswell::Events);
     QVERIFY(page);
     const auto *table = dynamic_cast<EventsWidget *>(page->findChild<QWidget *>(QStringLiteral("events")));
     QVERIFY(table);
