@@ -10,7 +10,6 @@
 
 #include <QElapsedTimer>
 #include <QThread>
-#include <QTimer>
 
 IDevice *m_idevice = nullptr;
 
@@ -74,7 +73,7 @@ void IDevice::connectResults()
 {
     const auto put = [this](Delivery delivery) {
         if (m_results->put(std::move(delivery)))
-            QMetaObject::invokeMethod(this, "takeResults", Qt::QueuedConnection);
+            QMetaObject::invokeMethod(this, "resultCame", Qt::QueuedConnection);
     };
     const auto putDatagram = [put](__datagramtype kind, const QByteArray &datagram) { put({ kind, datagram, 0 }); };
     for (const auto signal : { &DeviceDSP::datagramAggregation, &DeviceDSP::datagramRMS_1_2,
@@ -94,6 +93,16 @@ void IDevice::connectResults()
             put({ Delivery::BdsWord, {}, w });
         },
         direct);
+    m_rest.setSingleShot(true);
+    connect(&m_rest, &QTimer::timeout, this, &IDevice::takeResults);
+}
+
+/// While the rest of a long turn waits for the timer, results that come meanwhile ask for no turn of their own: turns
+/// would grow in number from round to round of the event loop, and keys wait longer and longer.
+void IDevice::resultCame()
+{
+    if (!m_rest.isActive())
+        takeResults();
 }
 
 /// One turn of the main thread: what waits, in its order, and the rest behind what else waits for this thread. A slot
@@ -111,7 +120,7 @@ void IDevice::takeResults()
         else
             (this->*kResultSlots[result.kind])(static_cast<__datagramtype>(result.kind), result.bytes);
         if (turn.elapsed() >= kLongestTurn) {
-            QTimer::singleShot(0, this, &IDevice::takeResults);
+            m_rest.start(0);
             return;
         }
     }

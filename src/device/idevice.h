@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 
 #include <memory>
 
@@ -78,10 +79,12 @@ public slots:
 private:
     void connectLink();
     void connectResults();
-    Q_INVOKABLE void takeResults();
+    Q_INVOKABLE void resultCame();
+    void takeResults();
     void setUpAgain();
 
     std::unique_ptr<DeliveryQueue> m_results; // from the device thread
+    QTimer m_rest; // runs until the rest of a long turn is taken
     DeviceDSP *m_dsp;
     QThread *m_thread;
     qint32 m_requestType = -1; // last type given to requestDSPData
