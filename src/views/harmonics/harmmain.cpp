@@ -3,7 +3,6 @@
 
 #include "settings/config_data.h"
 #include "settings/harmdata.h"
-#include "widgets/controls/keyrepeat.h"
 #include "widgets/text/f_to_str.h"
 #include "widgets/controls/labellook.h"
 
@@ -21,21 +20,20 @@ constexpr double kDegrees = 180.0 / 3.141592653589793; // per radian
 } // namespace
 
 HarmMain::HarmMain(const LiveData &data, QWidget *parent)
-    : LivePage(UI_HARMONICS, parent), m_data(data), m_ui(new Ui::HarmMain), m_repeat(new KeyRepeat(this, kTicksPerStep))
+    : LivePage(UI_HARMONICS, parent), m_data(data), m_ui(new Ui::HarmMain)
 {
     static const KeyRow<HarmMain> keys[] = {
         { Qt::Key_F1, nullptr, &HarmMain::swapQuantity },
         { Qt::Key_F2, nullptr, &HarmMain::nextChannel },
         { Qt::Key_F3, nullptr, &HarmMain::toggleInterharmonics },
         { Qt::Key_F4, QT_TRANSLATE_NOOP("HarmMain", "Meter"), &HarmMain::goHarmMeter },
-        { Qt::Key_Left, nullptr, &HarmMain::pressLeft },
-        { Qt::Key_Right, nullptr, &HarmMain::pressRight },
+        { Qt::Key_Left, nullptr, &HarmMain::changeCursorPos, -1, { kTicksPerStep } },
+        { Qt::Key_Right, nullptr, &HarmMain::changeCursorPos, 1, { kTicksPerStep } },
     };
     m_ui->setupUi(this);
     LabelLook::dress(this);
     m_captions = ChannelLabels::numberedRow(this, "D%1");
     m_values = ChannelLabels::numberedRow(this, "D%1_val");
-    connect(m_repeat, &KeyRepeat::repeated, this, &HarmMain::changeCursorPos);
     setKeys(keys);
 }
 
@@ -93,22 +91,6 @@ void HarmMain::restartView()
     }
     ChannelLabels::clear(m_values);
     changeHarmGraph();
-}
-
-void HarmMain::pressLeft()
-{
-    m_repeat->start(-1);
-}
-
-void HarmMain::pressRight()
-{
-    m_repeat->start(1);
-}
-
-void HarmMain::releaseKey(int key)
-{
-    if (key == Qt::Key_Left || key == Qt::Key_Right)
-        m_repeat->stop();
 }
 
 void HarmMain::changeHarmFlag()

@@ -12,7 +12,6 @@
 namespace Ui {
 class HarmMain;
 }
-class KeyRepeat;
 
 /// Bar graph of the spectrum of one channel or of all phases, with a cursor and its values. The orders are shown in
 /// windows; the cursor leads from one to the next.
@@ -41,14 +40,10 @@ signals:
     void goHarmMeter();
 
 protected:
-    void releaseKey(int key) override;
-
 private:
     void swapQuantity();
     void nextChannel();
     void toggleInterharmonics();
-    void pressLeft();
-    void pressRight();
 
     void initHarmIndex();
     void initHarmFlag();
@@ -75,7 +70,6 @@ private:
 
     const LiveData &m_data;
     std::unique_ptr<Ui::HarmMain> m_ui;
-    KeyRepeat *m_repeat;
     ChannelLabels::LabelRow m_captions;
     ChannelLabels::LabelRow m_values;
 
