@@ -5,6 +5,7 @@
 #include "unitaskcase.h"
 
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -32,6 +33,7 @@ private slots:
     void datagramsBeforeTheStartFillNoRecordAndAddNoEnergy();
     void aggregationBeforeTheStartMovesTheRecordingCountdown();
     void aggregationFillsTheDisplayRecords();
+    void aggregationsKeepTheScalesThatTheRunBeganWith();
     void negativeFrequencyIsShownSignedAndUsedByMagnitude();
     void energyIntegratesByTheLocalClock();
     void clockStepsCountNoEnergy();
@@ -209,6 +211,23 @@ void TstUniTask::aggregationFillsTheDisplayRecords()
     QCOMPARE(live().mainsSignal.signal1Mean[0], 0.029f * kVolt);
     QCOMPARE(live().mainsSignal.signal1[0], 0.029f * kVolt / 230.0f);
     QCOMPARE(live().mainsSignal.signal2Mean[0], 0.058f * kVolt);
+}
+
+void TstUniTask::aggregationsKeepTheScalesThatTheRunBeganWith()
+{
+    const auto restore = qScopeGuard([] { m_settingConfig_g.setRatioVFenzi(1); });
+    start();
+    m_task->datagramRMS_1_2(halfCycles(20, 2.0f, 1.0f).bytes());
+    const float before = live().mainsSignal.rms1[0];
+    m_settingConfig_g.setRatioVFenzi(3);
+    m_task->datagramAggregation(aggregation().bytes());
+    QCOMPARE(live().vif.voltage[0], 2.0f * kVolt);
+    m_task->datagramRMS_1_2(halfCycles(20, 2.0f, 1.0f).bytes()); // half cycles take those of the moment
+    QCOMPARE(live().mainsSignal.rms1[0], 3.0f * before);
+    m_task = std::make_unique<UniTask>(liveData());
+    start();
+    m_task->datagramAggregation(aggregation().bytes());
+    QCOMPARE(live().vif.voltage[0], 2.0f * 3.0f * kVolt);
 }
 
 void TstUniTask::negativeFrequencyIsShownSignedAndUsedByMagnitude()
