@@ -12,6 +12,14 @@ void LiveData::empty(float nominalFrequency)
     m_live = DisplayRecords();
     m_live.vif.frequency = nominalFrequency;
     m_live.harmonics.reference = kFundamental;
+    m_events.clear();
+    m_transients.clear();
+}
+
+void LiveData::finish()
+{
+    m_events.finish();
+    m_transients.clear();
 }
 
 void LiveData::hold()

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "model/displayrecords.h"
+#include "model/eventlist.h"
+#include "model/transientlist.h"
 
 #include <optional>
 
@@ -37,13 +39,23 @@ public:
     const DisplayRecords &shown() const { return m_held ? *m_held : m_live; }
     bool isHeld() const { return m_held.has_value(); }
 
-    /// A measurement begins: all records become empty, nothing is held. \a nominalFrequency in Hz stands for the
-    /// frequency until the first one is measured.
+    /// What happened since the measurement began. A hold does not concern it: pages list what was found meanwhile.
+    EventList &events() { return m_events; }
+    const EventList &events() const { return m_events; }
+    TransientList &transients() { return m_transients; }
+    const TransientList &transients() const { return m_transients; }
+
+    /// A measurement begins: all records and lists become empty, nothing is held. \a nominalFrequency in Hz stands for
+    /// the frequency until the first one is measured.
     void empty(float nominalFrequency);
     /// Keeps what is live now as what is shown. While already held it changes nothing.
     void hold();
     /// The live records are shown again; harmless when nothing is held.
     void run() { m_held.reset(); }
+
+    /// The measurement has ended: the status counts no events any more, and no transients are left. The events stay for
+    /// the page that shows them and for the files.
+    void finish();
 
     /// Reference of the harmonics' percentages: 1 the r.m.s. value, 2 the fundamental. It is a choice of the user and
     /// no measured value, so that it takes effect on hold as well.
@@ -52,4 +64,6 @@ public:
 private:
     DisplayRecords m_live;
     std::optional<DisplayRecords> m_held;
+    EventList m_events;
+    TransientList m_transients;
 };

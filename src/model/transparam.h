@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QList>
 #include <QtGlobal>
 
 #include <cstddef>
@@ -25,9 +24,6 @@ static_assert(std::is_trivially_copyable_v<__trans_data>, "saved byte for byte")
 class TransParam
 {
 public:
-    static constexpr int kMaxEvents = 1000; // kept in g_trans_events
+    static constexpr int kMaxEvents = 1000; // kept in a TransientList
     static int m_trans_threshold; // percent; the setting is TRANS_THRESHOLD
 };
-
-/// Transients found since the start, at most 1000; the task appends and owns, the pages read.
-extern QList<__trans_data *> g_trans_events;

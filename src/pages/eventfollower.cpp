@@ -4,7 +4,7 @@
 #include <QWidget>
 
 EventFollower::EventFollower(QWidget *page, const EventList &list, EventKinds kinds, Show show)
-    : m_page(page), m_events(list, kinds), m_show(std::move(show))
+    : m_page(page), m_events(list, kinds), m_show(std::move(show)), m_stale(!list.isEmpty())
 {
     m_page->installEventFilter(this);
     connect(&list, &EventList::changed, this, &EventFollower::takeChange);

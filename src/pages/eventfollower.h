@@ -33,5 +33,5 @@ private:
     QWidget *m_page;
     EventSelection m_events;
     Show m_show;
-    bool m_stale = false; // something happened that the page does not show
+    bool m_stale; // there is something that the page does not show
 };

@@ -93,6 +93,7 @@ protected:
     /// The page of this row comes on top: brings it up to date with what it does not hear while it is hidden.
     virtual void aboutToShow(int) { }
     const DisplayRecords &shown() const { return m_data.shown(); }
+    const LiveData &data() const { return m_data; }
 
     /// The captions are those of the sub pages.
     void showHold() override { }

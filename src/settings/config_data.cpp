@@ -9,4 +9,3 @@ SettingConfig m_settingConfig_g;
 UserConfig m_userConfig_g;
 LimitsManager m_limits_g;
 LangTranslation languageTranslator;
-EventList g_events_list;

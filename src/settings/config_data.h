@@ -5,7 +5,6 @@
 #include "settings/calibfile.h"
 #include "settings/langtranslation.h"
 #include "settings/limitsmanager.h"
-#include "model/eventlist.h"
 #include "settings/settingconfig.h"
 #include "settings/userconfig.h"
 
@@ -15,4 +14,3 @@ extern SettingConfig m_settingConfig_g;
 extern UserConfig m_userConfig_g;
 extern LimitsManager m_limits_g;
 extern LangTranslation languageTranslator;
-extern EventList g_events_list; // the events of the measurement: the task writes, the others read

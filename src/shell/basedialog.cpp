@@ -35,7 +35,7 @@ BaseDialog::BaseDialog(TaskManage *tasks, QWidget *parent)
     m_ui->setupUi(this);
     LabelLook::dress(this);
     setFixedSize(640, 480);
-    m_menu = new MenuPage;
+    m_menu = new MenuPage(tasks->data());
     m_navigator = new Navigator(tasks, m_menu, m_ui->base_stackedWidget, this);
     m_keys.setRows({ { Qt::Key_F12, nullptr, &BackLight::switchBackLight, nullptr, 0, {} },
                      { Qt::Key_PowerOff, nullptr, [this] { armPowerTimer(); }, nullptr, 0, {} } });

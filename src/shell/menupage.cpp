@@ -3,7 +3,6 @@
 
 #include "settings/config_data.h"
 #include "model/nominalfrequency.h"
-#include "model/transparam.h"
 #include "shell/pagetable.h"
 #include "widgets/controls/labellook.h"
 #include "widgets/dialogs/runinfo.h"
@@ -36,7 +35,7 @@ void MenuItem::showPicture(bool highlighted)
     setPixmap(QPixmap(QLatin1String(":/") + objectName() + QLatin1String(highlighted ? "_hl" : "")));
 }
 
-MenuPage::MenuPage(QWidget *parent) : Page(UI_MENU, parent), m_ui(new Ui::MenuPage)
+MenuPage::MenuPage(const LiveData &data, QWidget *parent) : Page(UI_MENU, parent), m_data(data), m_ui(new Ui::MenuPage)
 {
     static const KeyRow<MenuPage> keys[] = {
         { Qt::Key_Enter, nullptr, &MenuPage::changePage }, { Qt::Key_Left, nullptr, &MenuPage::moveLeft },
@@ -152,13 +151,6 @@ void MenuPage::changePage()
 
 void MenuPage::showStatus()
 {
-    if (!RunInfo::showSystemStatus())
+    if (!RunInfo::showSystemStatus(m_data))
         emit restartTask();
-}
-
-void MenuPage::clearSystemStatus()
-{
-    g_events_list.finish();
-    qDeleteAll(g_trans_events);
-    g_trans_events.clear();
 }

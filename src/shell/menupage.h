@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class LiveData;
 struct PageRow;
 
 namespace Ui {
@@ -31,7 +32,8 @@ class MenuPage : public Page
     Q_OBJECT
 
 public:
-    explicit MenuPage(QWidget *parent = nullptr);
+    /// \a data, whose events the status counts, outlives the page.
+    explicit MenuPage(const LiveData &data, QWidget *parent = nullptr);
     ~MenuPage() override;
 
     /// Links the tiles for the nominal frequency in force: at 400 Hz there is no flicker.
@@ -44,9 +46,6 @@ public:
 public slots:
     void retranslateUi() override;
     void refreshSystemStatus() { }
-    void transEventsChanged() { }
-    /// A run ended: its events are forgotten.
-    void clearSystemStatus();
 
 signals:
     void restartTask();
@@ -74,6 +73,7 @@ private:
     void showStatus();
     void changePage();
 
+    const LiveData &m_data;
     std::unique_ptr<Ui::MenuPage> m_ui;
     Place m_places[2];
 };

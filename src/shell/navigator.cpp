@@ -36,7 +36,6 @@ Navigator::Navigator(TaskManage *tasks, MenuPage *menu, QStackedWidget *stack, Q
     m_stack->addWidget(m_menu);
     connect(m_menu, &MenuPage::leave, this, [this](_quvera_ui_type target) { go(UI_MENU, target); });
     connect(m_menu, &MenuPage::restartTask, this, &Navigator::restartTask);
-    connect(&m_tasks->links(), &TaskLinks::ended, m_menu, &MenuPage::clearSystemStatus);
     connect(&m_tasks->links(), &TaskLinks::startWanted, this, &Navigator::startFunction);
 }
 
@@ -96,7 +95,6 @@ void Navigator::beginPages()
     // The task asks for these before their pages exist.
     DipSwellInfo::initInfoTimes(m_settingConfig_g.getNomFreq());
     HarmData::initHarmMaxNumb(m_settingConfig_g.getNomFreq());
-    g_events_list.clear();
     m_tasks->data().empty(float(m_settingConfig_g.getNomFreq()));
     for (const PageRow *row : PageTable::inTurn(&PageRow::beginTurn)) {
         if (FunctionPage *made = m_pages[place(*row)])

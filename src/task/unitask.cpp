@@ -57,7 +57,7 @@ UniTask::UniTask(LiveData &data, QObject *parent)
     : AbstractTask(parent), m_data(data), m_scales(m_settingConfig_g.derived().scales)
 {
     initLimitsData();
-    m_events = new PowerEvents(g_events_list, this);
+    m_events = new PowerEvents(data.events(), this);
     connect(m_events, &PowerEvents::buzzerRing, this, &UniTask::buzzerRing);
     connect(m_events, &PowerEvents::eventFinishedWithRMS, this, &UniTask::eventFinishedWithRMS);
     connect(m_events, &PowerEvents::changeEventsWave, this, &UniTask::changeEventsWave);
@@ -113,7 +113,7 @@ void UniTask::initUniFunction(AbstractTask::UniFunction function)
 {
     const ChannelSet *set = m_settingConfig_g.channels();
     m_channels = set ? set->taskPhases : 3;
-    g_events_list.clear();
+    m_data.events().clear();
     m_function = function;
     // The set-up of the recording functions comes with their files.
     switch (function) {
@@ -152,7 +152,10 @@ void UniTask::startBaseTimer()
     m_lastTime = Clock::timeOfDay();
 }
 
-void UniTask::stopBaseTimer() { }
+void UniTask::stopBaseTimer()
+{
+    m_data.finish();
+}
 
 void UniTask::save(bool)
 {

@@ -128,8 +128,8 @@ void UniTask::saveFinishedEvents()
     saveEvents(true);
     if (!m_commonFile || !m_commonFile->isOpen())
         return;
-    for (const __trans_data *record : qAsConst(g_trans_events))
-        m_commonFile->addDataBlock(Pqa2Transient, transientBlock(*record));
+    for (const __trans_data &record : m_data.transients())
+        m_commonFile->addDataBlock(Pqa2Transient, transientBlock(record));
 }
 
 void UniTask::saveUnFinishedEvents()

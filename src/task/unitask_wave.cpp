@@ -36,25 +36,21 @@ void UniTask::captureTransient()
     if (!transientCodeCounts(m_settingConfig_g.getJoinMode(), code))
         return;
 
-    auto record = std::make_unique<__trans_data>();
-    record->number = ++m_transientNumber;
-    record->frequency = std::fabs(m_aggregation->frequency);
+    __trans_data &record = m_data.live().transient; // until the next refresh puts the running waveform there
+    record.number = ++m_transientNumber;
+    record.frequency = std::fabs(m_aggregation->frequency);
     for (int c = 0; c < kChannels; ++c)
-        record->rms[c] = m_aggregation->channel[c].voltage;
-    TransientCutter::cut(*m_wave, *record);
-    // Until the next refresh puts the running waveform there.
-    m_data.live().transient = *record;
+        record.rms[c] = m_aggregation->channel[c].voltage;
+    TransientCutter::cut(*m_wave, record);
 
     Pqa2FF *file
         = m_function == UniMonitor ? m_monitorFile : (m_function == UniBasic && isRecording() ? m_commonFile : nullptr);
     if (file && file->isOpen())
-        file->addDataBlock(Pqa2Transient, transientBlock(*record));
+        file->addDataBlock(Pqa2Transient, transientBlock(record));
 
-    if (g_trans_events.size() >= TransParam::kMaxEvents)
-        delete g_trans_events.takeFirst();
-    g_trans_events.append(record.release());
+    m_data.transients().append(record);
     emit hasTransEvents();
-    emit transientTaken(g_trans_events.last());
+    emit transientTaken(&record);
 }
 
 void UniTask::changeEventsWave(long long time)

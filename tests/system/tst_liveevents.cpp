@@ -178,7 +178,7 @@ void TstLiveEvents::initTestCase()
     QTRY_VERIFY_WITH_TIMEOUT(std::fabs(m_taskmanage->data().live().vif.voltage[0] - kVolts) < 0.001 * kVolts,
                              kPatienceMs);
     QVERIFY(LiveGraph::measuredUntil() < LiveGraph::startMs() + qint64(1000 * kFirstMoment) - 1000);
-    QCOMPARE(g_events_list.size(), 0);
+    QCOMPARE(m_taskmanage->data().events().size(), 0);
     const qint64 end = LiveGraph::startMs() + qint64(1000 * momentOf(m_cases.size()));
     QVERIFY(LiveGraph::runUntil([end] { return LiveGraph::measuredUntil() > end; }, 40));
     QCOMPARE(LiveGraph::status(QStringLiteral("dropped")), QStringLiteral("0"));
@@ -199,7 +199,7 @@ void TstLiveEvents::readTable()
         m_tableFaults << QStringLiteral("no table");
         return;
     }
-    const int count = g_events_list.size();
+    const int count = m_taskmanage->data().events().size();
     const int first = qMax(0, count - 10);
     for (int row = 0; row < 10; ++row) {
         const QList<quint16> words = block.mid(10 * row, 10);
@@ -217,7 +217,7 @@ void TstLiveEvents::readTable()
                               LiveGraph::registerFloat(words, 6),
                               qint32(words[8] | quint32(words[9]) << 16) };
         m_table.insert(first + row, read);
-        const __event_item &event = g_events_list.at(first + row);
+        const __event_item &event = m_taskmanage->data().events().at(first + row);
         if (read.finished != event.finished || read.type != event.type || read.channel != event.channel
             || read.startSeconds != event.startSeconds || read.value != event.value || read.duration != event.duration)
             m_tableFaults << QStringLiteral("event %1 differs").arg(first + row);
@@ -279,15 +279,15 @@ void TstLiveEvents::eventsAreThoseOfTheSignal()
     const QVector<Expected> expected = m_expected.at(index);
     QVector<int> places;
     const qint64 from = LiveGraph::startMs() + qint64(1000 * momentOf(index)) - 200;
-    for (int i = 0; i < g_events_list.size(); ++i) {
-        const qint64 time = g_events_list.at(i).startTime;
+    for (int i = 0; i < m_taskmanage->data().events().size(); ++i) {
+        const qint64 time = m_taskmanage->data().events().at(i).startTime;
         if (time >= from && time < from + qint64(1000 * kSpacing))
             places.append(i);
     }
     QCOMPARE(places.size(), expected.size());
     QVector<Expected> left = expected;
     for (const int place : qAsConst(places)) {
-        const __event_item &event = g_events_list.at(place);
+        const __event_item &event = m_taskmanage->data().events().at(place);
         // Events of several currents begin together, in the order of the inputs.
         int match = -1;
         for (int i = 0; i < left.size() && match < 0; ++i) {
@@ -337,7 +337,7 @@ void TstLiveEvents::comparePage(const __event_item &event, const Expected &expec
     const auto *table = dynamic_cast<EventsWidget *>(page->findChild<QWidget *>(QStringLiteral("events")));
     QVERIFY(table);
     int line = 0; // events of the page's own kinds in front of this one
-    for (const __event_item &other : g_events_list) {
+    for (const __event_item &other : m_taskmanage->data().events()) {
         if (other.startTime == event.startTime && other.type == event.type && other.channel == event.channel)
             break;
         line += (other.type == EventInrush) == inrush;
@@ -369,20 +369,20 @@ void TstLiveEvents::nothingElseIsInTheList()
     int expected = 0;
     for (const QVector<Expected> &events : qAsConst(m_expected))
         expected += events.size();
-    QCOMPARE(g_events_list.size(), expected);
+    QCOMPARE(m_taskmanage->data().events().size(), expected);
     QCOMPARE(m_table.size(), expected);
 }
 
 void TstLiveEvents::modbusTableFollowedEveryChange()
 {
-    QVERIFY(m_tableReads >= 2 * g_events_list.size()); // each event at its beginning and at its end
+    QVERIFY(m_tableReads >= 2 * m_taskmanage->data().events().size()); // each event at its beginning and at its end
     QCOMPARE(m_tableFaults, QStringList());
 }
 
 void TstLiveEvents::listPageCountsItsEvents()
 {
     int dips = 0;
-    for (const __event_item &event : g_events_list)
+    for (const __event_item &event : m_taskmanage->data().events())
         dips += event.type != EventInrush;
     LiveGraph::key(Qt::Key_Y); // F2, "Events"
     QTRY_VERIFY(LiveGraph::text("events_count").endsWith(QStringLiteral("/%1").arg(dips)));

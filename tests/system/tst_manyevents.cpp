@@ -69,7 +69,7 @@ void TstManyEvents::initTestCase()
     const int before = residentKilobytes();
     QVERIFY(LiveGraph::runUntil([end] { return LiveGraph::measuredUntil() > end; }, kSpeed));
     m_grownKilobytes = residentKilobytes() - before;
-    m_listed = QList<__event_item>(g_events_list.begin(), g_events_list.end());
+    m_listed = QList<__event_item>(m_taskmanage->data().events().begin(), m_taskmanage->data().events().end());
     QCOMPARE(LiveGraph::status(QStringLiteral("dropped")), QStringLiteral("0"));
 }
 
@@ -99,10 +99,10 @@ void TstManyEvents::tableAndPageShowTheNewest()
 {
     ModbusClient master(ModbusSlave::port());
     const QList<quint16> block = master.read(5000, 100);
-    const int count = g_events_list.size();
+    const int count = m_taskmanage->data().events().size();
     QCOMPARE(block.size(), 100);
     for (int row = 0; row < 10; ++row) {
-        const __event_item &event = g_events_list.at(count - 10 + row);
+        const __event_item &event = m_taskmanage->data().events().at(count - 10 + row);
         const quint32 seconds = block[10 * row + 4] | quint32(block[10 * row + 5]) << 16;
         QCOMPARE(int(block[10 * row]), 1);
         QCOMPARE(int(block[10 * row + 2]), int(EventDip));
@@ -110,12 +110,13 @@ void TstManyEvents::tableAndPageShowTheNewest()
         QCOMPARE(LiveGraph::registerFloat(block, 10 * row + 6), event.value);
     }
     LiveGraph::key(Qt::Key_Y); // F2, "Events"
-    QTRY_VERIFY(LiveGraph::text("events_count").endsWith(QStringLiteral("/%1").arg(g_events_list.size())));
+    QTRY_VERIFY(
+        LiveGraph::text("events_count").endsWith(QStringLiteral("/%1").arg(m_taskmanage->data().events().size())));
     const QWidget *page = LiveGraph::subPage(UI_DIPS_SWELLS, dswell::Events);
     QVERIFY(page);
     const auto *table = dynamic_cast<EventsWidget *>(page->findChild<QWidget *>(QStringLiteral("events")));
     QVERIFY(table);
-    QCOMPARE(table->eventsCnt(), g_events_list.size());
+    QCOMPARE(table->eventsCnt(), m_taskmanage->data().events().size());
     QCOMPARE(table->lineTexts(0).value(1), QStringLiteral("L1 DIP"));
     QCOMPARE(table->lineTexts(kEvents - 1).value(1), QStringLiteral("L1 DIP"));
 }

@@ -1,6 +1,7 @@
 #include "views/dips/dswell.h"
 
 #include "settings/config_data.h"
+#include "model/livedata.h"
 #include "pages/rmstrend.h"
 #include "views/dips/dipseventpage.h"
 #include "views/dips/dswellmain.h"
@@ -19,7 +20,7 @@ dswell::dswell(const LiveData &data, QWidget *parent)
         if (auto *trend = made<DswellMain>(Main))
             trend->showEventsCounts(events.size());
     };
-    m_follower = std::make_unique<EventFollower>(this, g_events_list, EventKinds { EventDip, EventRvc }, show);
+    m_follower = std::make_unique<EventFollower>(this, data.events(), EventKinds { EventDip, EventRvc }, show);
 }
 
 QByteArray dswell::pqaData() const

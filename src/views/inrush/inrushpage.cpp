@@ -3,6 +3,7 @@
 #include "settings/config_data.h"
 #include "device/controlframe.h"
 #include "device/idevice.h"
+#include "model/livedata.h"
 #include "pages/rmstrend.h"
 #include "views/inrush/inrusheventpage.h"
 #include "views/inrush/inrushmain.h"
@@ -23,7 +24,7 @@ InrushPage::InrushPage(const LiveData &data, QWidget *parent)
         if (auto *trend = made<InrushStartPage>(Start))
             trend->showEventsCounts(events.size());
     };
-    m_follower = std::make_unique<EventFollower>(this, g_events_list, EventKinds { EventInrush, EventInrush }, show);
+    m_follower = std::make_unique<EventFollower>(this, data.events(), EventKinds { EventInrush, EventInrush }, show);
 }
 
 void InrushPage::sendCMD()

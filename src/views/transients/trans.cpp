@@ -55,9 +55,9 @@ void trans::aboutToShow(int row)
 QByteArray trans::pqaData() const
 {
     QByteArray bytes;
-    appendWord(bytes, g_trans_events.size());
+    appendWord(bytes, data().transients().size());
     appendWord(bytes, kRecordBytes);
-    for (const __trans_data *record : qAsConst(g_trans_events))
-        bytes.append(reinterpret_cast<const char *>(record), kRecordBytes);
+    for (const __trans_data &record : data().transients())
+        bytes.append(reinterpret_cast<const char *>(&record), kRecordBytes);
     return bytes;
 }

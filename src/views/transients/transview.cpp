@@ -1,6 +1,8 @@
 #include "views/transients/transview.h"
 #include "ui_transview.h"
 
+#include "model/livedata.h"
+
 #include "pages/scopecontrols.h"
 #include "widgets/controls/labellook.h"
 #include "widgets/text/localtime.h"
@@ -23,7 +25,8 @@ QString timeText(double msecs)
 
 } // namespace
 
-TransView::TransView(QWidget *parent) : TransScopePage(parent), m_ui(new Ui::TransView)
+TransView::TransView(const LiveData &data, QWidget *parent)
+    : TransScopePage(parent), m_list(data.transients()), m_ui(new Ui::TransView)
 {
     static const KeyRow<TransView> keys[] = {
         { Qt::Key_F1, QT_TRANSLATE_NOOP("TransView", "Prev"), &TransView::selectPrev },
@@ -59,7 +62,7 @@ void TransView::retranslateUi()
 
 void TransView::selectNewest()
 {
-    select(g_trans_events.size() - 1);
+    select(m_list.size() - 1);
 }
 
 void TransView::selectPrev()
@@ -72,40 +75,40 @@ void TransView::selectPrev()
 void TransView::selectNext()
 {
     followList();
-    if (m_index + 1 < g_trans_events.size())
+    if (m_index + 1 < m_list.size())
         select(m_index + 1);
 }
 
 bool TransView::isShown(int index) const
 {
-    if (index < 0 || index >= g_trans_events.size())
+    if (index < 0 || index >= m_list.size())
         return false;
-    const __trans_data *record = g_trans_events.at(index);
-    return record->number == m_number && record->time == m_time;
+    const __trans_data &record = m_list.at(index);
+    return record.number == m_number && record.time == m_time;
 }
 
 void TransView::followList()
 {
-    if (g_trans_events.isEmpty()) {
+    if (m_list.isEmpty()) {
         if (m_number != 0)
             select(0);
         return;
     }
     // At its limit the list loses its head: what is shown moves towards it.
-    for (int index = std::min(m_index, int(g_trans_events.size()) - 1); index >= 0; --index) {
+    for (int index = std::min(m_index, m_list.size() - 1); index >= 0; --index) {
         if (!isShown(index))
             continue;
         m_index = index;
-        showHeader(g_trans_events.at(index));
+        showHeader(&m_list.at(index));
         return;
     }
-    select(m_number == 0 ? g_trans_events.size() - 1 : 0);
+    select(m_number == 0 ? m_list.size() - 1 : 0);
 }
 
 void TransView::select(int index)
 {
-    m_index = std::clamp(index, 0, std::max(int(g_trans_events.size()) - 1, 0));
-    const __trans_data *record = g_trans_events.isEmpty() ? nullptr : g_trans_events.at(m_index);
+    m_index = std::clamp(index, 0, std::max(m_list.size() - 1, 0));
+    const __trans_data *record = m_list.isEmpty() ? nullptr : &m_list.at(m_index);
     m_number = record ? record->number : 0;
     m_time = record ? record->time : 0;
     if (record)
@@ -116,7 +119,7 @@ void TransView::select(int index)
 
 void TransView::showHeader(const __trans_data *record)
 {
-    const int count = g_trans_events.size();
+    const int count = m_list.size();
     setText(m_ui->trans_number, QStringLiteral("#%1/%2(trans)").arg(record ? m_index + 1 : 0).arg(count));
     setText(m_ui->trans_time, record ? timeText(record->time) : QString());
     setText(m_ui->trigger, record ? ChannelLabels::channels().caption(int(record->position >> 24) - 1) : QString());

@@ -2,6 +2,9 @@
 
 #include "views/transients/transscopepage.h"
 
+class LiveData;
+class TransientList;
+
 namespace Ui {
 class TransView;
 }
@@ -13,14 +16,14 @@ class TransView : public TransScopePage
     Q_OBJECT
 
 public:
-    explicit TransView(QWidget *parent = nullptr);
+    explicit TransView(const LiveData &data, QWidget *parent = nullptr);
     ~TransView() override;
 
     /// Shows the transient captured last.
     void selectNewest();
     /// The list changed: the transient shown stays, wherever it stands now, or the nearest one takes its place.
     void followList();
-    int index() const { return m_index; } // into g_trans_events; 0 for an empty list
+    int index() const { return m_index; } // into the list; 0 for an empty list
 
 public slots:
     void updateDisplay(void *) override { followList(); }
@@ -37,6 +40,7 @@ private:
     bool isShown(int index) const;
     void showHeader(const __trans_data *record);
 
+    const TransientList &m_list;
     std::unique_ptr<Ui::TransView> m_ui;
     int m_index = 0;
     // Of the transient shown; number 0: none

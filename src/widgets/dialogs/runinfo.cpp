@@ -1,23 +1,22 @@
 #include "widgets/dialogs/runinfo.h"
 
-#include "settings/config_data.h"
 #include "settings/recordinfo.h"
-#include "model/transparam.h"
+#include "model/livedata.h"
 #include "ui_runinfo.h"
 
 #include <algorithm>
 
-int RunInfo::showSystemStatus()
+int RunInfo::showSystemStatus(const LiveData &data)
 {
-    RunInfo info;
+    RunInfo info(data);
     return info.exec();
 }
 
-RunInfo::RunInfo(QWidget *parent) : SoftKeyDialog(parent), m_ui(new Ui::RunInfo)
+RunInfo::RunInfo(const LiveData &data, QWidget *parent) : SoftKeyDialog(parent), m_ui(new Ui::RunInfo)
 {
     m_ui->setupUi(this);
     m_ui->icon->setPixmap(QPixmap(QStringLiteral(":/info")));
-    fitText(m_ui->system_status, statusText(), 19);
+    fitText(m_ui->system_status, statusText(data), 19);
     finishForm();
     setKeyText(1, tr("Restart"));
     setKeyText(5, tr("Cancel"));
@@ -29,9 +28,9 @@ RunInfo::RunInfo(QWidget *parent) : SoftKeyDialog(parent), m_ui(new Ui::RunInfo)
 
 RunInfo::~RunInfo() = default;
 
-QString RunInfo::statusText()
+QString RunInfo::statusText(const LiveData &data)
 {
-    const EventList &events = g_events_list;
+    const EventList &events = data.events();
     const int all = events.isOver() ? 0 : events.size();
     const auto count = [&events, all](PQAEventType type) {
         return std::count_if(events.begin(), events.begin() + all,
@@ -40,11 +39,11 @@ QString RunInfo::statusText()
     return tr("System Status:\n\nLogger: %1\nTotal Events: %2\nDips: %3;   Swell: %4;   Interruption: %5;   "
               "Transients: %6;   Inrush: %7")
         .arg(RecordInfo::m_in_recording ? tr("Running") : tr("Stoped"))
-        .arg(all + g_trans_events.size())
+        .arg(all + data.transients().size())
         .arg(count(EventDip))
         .arg(count(EventSwell))
         .arg(count(EventInterruption))
-        .arg(g_trans_events.size())
+        .arg(data.transients().size())
         .arg(count(EventInrush));
 }
 

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+class LiveData;
 namespace Ui {
 class RunInfo;
 }
@@ -17,13 +18,13 @@ public:
     enum { RestartTask = 0, Stay = 1 };
 
     /// Shows the state; answers 0 for "Restart" and 1 for "Cancel" or anything else that closed the dialog.
-    static int showSystemStatus();
+    static int showSystemStatus(const LiveData &data);
 
-    explicit RunInfo(QWidget *parent = nullptr);
+    explicit RunInfo(const LiveData &data, QWidget *parent = nullptr);
     ~RunInfo() override;
 
     /// The text of the live event lists and the recorder's state.
-    static QString statusText();
+    static QString statusText(const LiveData &data);
 
 public slots:
     void reject() override { done(Stay); }

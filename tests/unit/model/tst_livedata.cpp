@@ -21,6 +21,9 @@ private slots:
     void referenceOfHarmonicsChangesOnHoldToo();
     void holdSharesTheListsUntilTheyAreWritten();
     void liveRecordsKeepTheirAddress();
+    void endOfAMeasurementKeepsItsEventsAndNoTransients();
+    void startEmptiesTheListsAndAHoldDoesNotConcernThem();
+    void beyondItsLimitTheTransientListDropsTheOldest();
 
 private:
     LiveData m_data;
@@ -176,6 +179,40 @@ void TstLiveData::liveRecordsKeepTheirAddress()
     m_data.run();
     m_data.empty(50);
     QCOMPARE(&m_data.live(), const_cast<DisplayRecords *>(live));
+}
+
+void TstLiveData::endOfAMeasurementKeepsItsEventsAndNoTransients()
+{
+    m_data.events().append({});
+    m_data.transients().append({});
+    m_data.finish();
+    QCOMPARE(m_data.events().size(), 1);
+    QVERIFY(m_data.events().isOver());
+    QVERIFY(m_data.transients().isEmpty());
+}
+
+void TstLiveData::startEmptiesTheListsAndAHoldDoesNotConcernThem()
+{
+    m_data.hold();
+    m_data.events().append({});
+    m_data.transients().append({});
+    QCOMPARE(m_data.events().size(), 1);
+    QCOMPARE(m_data.transients().size(), 1);
+    m_data.finish();
+    m_data.empty(50);
+    QVERIFY(m_data.events().isEmpty());
+    QVERIFY(!m_data.events().isOver());
+    QVERIFY(m_data.transients().isEmpty());
+}
+
+void TstLiveData::beyondItsLimitTheTransientListDropsTheOldest()
+{
+    __trans_data record;
+    for (record.number = 1; record.number <= 1003; ++record.number)
+        m_data.transients().append(record);
+    QCOMPARE(m_data.transients().size(), 1000);
+    QCOMPARE(m_data.transients().at(0).number, 4);
+    QCOMPARE(m_data.transients().last().number, 1003);
 }
 
 QTEST_GUILESS_MAIN(TstLiveData)

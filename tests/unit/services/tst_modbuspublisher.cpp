@@ -91,8 +91,7 @@ void TstModbusPublisher::cleanup()
 {
     m_task.reset();
     m_master.reset();
-    qDeleteAll(g_trans_events);
-    g_trans_events.clear();
+    liveData().transients().clear();
 }
 
 void TstModbusPublisher::nothingIsPublishedBeforeTheStart()

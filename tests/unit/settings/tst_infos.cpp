@@ -329,9 +329,8 @@ private slots:
         m_settingConfig_g.setTransThreshold(50);
     }
 
-    void transientsStartEmpty()
+    void aTransientHolds600SamplesOfFourChannels()
     {
-        QVERIFY(g_trans_events.isEmpty());
         QCOMPARE(TransParam::kMaxEvents, 1000);
         QCOMPARE(sizeof(__trans_data::samples), size_t(4800));
     }

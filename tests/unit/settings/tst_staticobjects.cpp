@@ -29,7 +29,7 @@ private slots:
         // 480 V line to line: voltage row 2 of 100; the scale table holds the prepared gain.
         QCOMPARE(shownBy(root),
                  QByteArray("application=0\nmode=4\nvolt=480\nfreq=60\nindex=2\nscale=100\nlang=12\ncolours=20134\n"
-                            "limits=GOST32144\nlistEmpty=1\nunit=A\nrate=120\n"));
+                            "limits=GOST32144\nunit=A\nrate=120\n"));
     }
 
     void theyStartFromAnEmptyRoot()
@@ -37,7 +37,7 @@ private slots:
         QTemporaryDir root;
         QCOMPARE(shownBy(root),
                  QByteArray("application=0\nmode=1\nvolt=230\nfreq=50\nindex=1\nscale=79.25\nlang=1\ncolours=01231\n"
-                            "limits=EN50160\nlistEmpty=1\nunit=A\nrate=100\n"));
+                            "limits=EN50160\nunit=A\nrate=100\n"));
         QVERIFY(QFileInfo::exists(root.path() + "/mnt/calibration/calibration.dat"));
         QVERIFY(QFileInfo::exists(root.path() + "/mnt/userfs/sys/limits"));
     }
@@ -83,12 +83,11 @@ int main(int argc, char **argv)
 {
     if (qEnvironmentVariableIsSet("TST_STATIC_SHOW")) {
         printf("application=%d\nmode=%d\nvolt=%d\nfreq=%g\nindex=%d\nscale=%g\nlang=%d\ncolours=%s\nlimits=%"
-               "s\nlistEmpty=%d\nunit=%s\nrate=%d\n",
+               "s\nunit=%s\nrate=%d\n",
                QCoreApplication::instance() != nullptr, m_settingConfig_g.getJoinMode(), m_settingConfig_g.getNomVolt(),
                m_settingConfig_g.getNomFreq(), m_settingConfig_g.getVoltIndex(), double(m_settingConfig_g.wvi()[4]),
                m_userConfig_g.getLang(), qPrintable(PhaseColor::digits()), qPrintable(m_limits_g.activeLimitsName()),
-               int(g_events_list.isEmpty()), qPrintable(m_settingConfig_g.derived().inrush.unit),
-               InrushInfo::m_rms_numb_per_sec);
+               qPrintable(m_settingConfig_g.derived().inrush.unit), InrushInfo::m_rms_numb_per_sec);
         return 0;
     }
     QCoreApplication application(argc, argv);

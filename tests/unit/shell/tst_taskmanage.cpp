@@ -293,11 +293,11 @@ void TstTaskManage::exitDeletesTheTask()
 {
     m_taskmanage->startTask(m_taskmanage->initTask(TaskManage::Universal));
     QSignalSpy destroyed(g_unitask, &QObject::destroyed);
-    g_events_list.append({});
+    m_taskmanage->data().events().append({});
     m_taskmanage->exitTaskWithSave(false);
     QCOMPARE(destroyed.count(), 0);
     QTRY_COMPARE(destroyed.count(), 1);
-    QVERIFY(g_events_list.isOver()); // it was stopped before its links went: the menu counts no events
+    QVERIFY(m_taskmanage->data().events().isOver()); // it was stopped before its links went: the menu counts no events
     QVERIFY(!g_unitask);
     QCOMPARE(m_taskmanage->curTaskType(), 0);
     emit vifPage()->pause();

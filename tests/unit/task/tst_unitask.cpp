@@ -138,9 +138,9 @@ void TstUniTask::loggerAndInverterRunLikeBasicMeasuring()
 
 void TstUniTask::functionOutsideTheTableOnlyClearsTheEvents()
 {
-    g_events_list.append({});
+    liveData().events().append({});
     m_task->initUniFunction(AbstractTask::UniFunction(9));
-    QVERIFY(g_events_list.isEmpty());
+    QVERIFY(liveData().events().isEmpty());
     QCOMPARE(m_task->startTime(), 0u);
 }
 

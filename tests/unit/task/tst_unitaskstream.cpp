@@ -111,21 +111,21 @@ void TstUniTaskStream::singlePhaseWiringFeedsOneChannel()
 void TstUniTaskStream::dipIsListed()
 {
     start();
-    QSignalSpy changes(&g_events_list, &EventList::changed);
+    QSignalSpy changes(&liveData().events(), &EventList::changed);
     QSignalSpy buzzer(m_task.get(), &UniTask::buzzerRing);
     m_task->datagramRMS_1_2(halfCycles(10, 2.9f, 0.001f).bytes());
     QCOMPARE(changes.count(), 0);
     m_task->datagramRMS_1_2(halfCycles(10, 1.5f, 0.001f, kNow + 100).bytes()); // 118.9 V of 230 V
-    QCOMPARE(g_events_list.size(), 1);
-    QCOMPARE(g_events_list.at(0).type, qint32(EventDip));
-    QCOMPARE(g_events_list.at(0).startTime, kNow + 100);
-    QCOMPARE(g_events_list.at(0).finished, 0);
+    QCOMPARE(liveData().events().size(), 1);
+    QCOMPARE(liveData().events().at(0).type, qint32(EventDip));
+    QCOMPARE(liveData().events().at(0).startTime, kNow + 100);
+    QCOMPARE(liveData().events().at(0).finished, 0);
     QCOMPARE(buzzer.count(), 1);
     QCOMPARE(changes.count(), 1);
     m_task->datagramRMS_1_2(halfCycles(10, 2.9f, 0.001f, kNow + 200).bytes());
-    QCOMPARE(g_events_list.at(0).finished, 1);
-    QCOMPARE(g_events_list.at(0).duration, 100);
-    QCOMPARE(g_events_list.at(0).value, 1.5f * kVolt);
+    QCOMPARE(liveData().events().at(0).finished, 1);
+    QCOMPARE(liveData().events().at(0).duration, 100);
+    QCOMPARE(liveData().events().at(0).value, 1.5f * kVolt);
     QCOMPARE(changes.count(), 2);
 }
 
@@ -137,12 +137,12 @@ void TstUniTaskStream::transientIsCutAndListed()
     m_task->datagramWave(wave((2u << 24) | 2000).bytes());
     m_task->datagramWave(wave((1u << 24) | 100).bytes());
     QCOMPARE(spy.count(), 2);
-    QCOMPARE(g_trans_events.size(), 2);
-    QCOMPARE(g_trans_events[0]->number, 1);
-    QCOMPARE(g_trans_events[1]->number, 2);
-    QCOMPARE(g_trans_events[0]->position, (2u << 24) | 301u);
-    QCOMPARE(g_trans_events[0]->frequency, 50.1f);
-    QCOMPARE(g_trans_events[0]->rms[0], 2.0f * kVolt);
+    QCOMPARE(liveData().transients().size(), 2);
+    QCOMPARE(liveData().transients().at(0).number, 1);
+    QCOMPARE(liveData().transients().at(1).number, 2);
+    QCOMPARE(liveData().transients().at(0).position, (2u << 24) | 301u);
+    QCOMPARE(liveData().transients().at(0).frequency, 50.1f);
+    QCOMPARE(liveData().transients().at(0).rms[0], 2.0f * kVolt);
     QCOMPARE(live().transient.number, 2); // the last one, until the next refresh
     QCOMPARE(live().transient.rms[0], 2.0f * kVolt);
 }
@@ -152,11 +152,11 @@ void TstUniTaskStream::transientNumberRestartsWithTheTask()
     start();
     m_task->datagramWave(wave((2u << 24) | 2000).bytes());
     m_task->datagramWave(wave((2u << 24) | 2000).bytes());
-    QCOMPARE(g_trans_events.last()->number, 2);
+    QCOMPARE(liveData().transients().last().number, 2);
     m_task = std::make_unique<UniTask>(liveData());
     start();
     m_task->datagramWave(wave((2u << 24) | 2000).bytes());
-    QCOMPARE(g_trans_events.last()->number, 1);
+    QCOMPARE(liveData().transients().last().number, 1);
 }
 
 void TstUniTaskStream::transientCodesFollowTheWiring()
@@ -170,11 +170,10 @@ void TstUniTaskStream::transientCodesFollowTheWiring()
         m_settingConfig_g.setJoinMode(row.joinMode);
         m_task = std::make_unique<UniTask>(liveData());
         start();
-        qDeleteAll(g_trans_events);
-        g_trans_events.clear();
+        liveData().transients().clear();
         for (quint32 code = 0; code < 256; ++code)
             m_task->datagramWave(wave(code << 24 | 500).bytes());
-        QCOMPARE(g_trans_events.size(), row.highest);
+        QCOMPARE(liveData().transients().size(), row.highest);
     }
 }
 
@@ -186,10 +185,10 @@ void TstUniTaskStream::transientOfCode3IsIgnoredInSplitPhase()
     QSignalSpy told(m_task.get(), &UniTask::hasTransEvents);
     m_task->datagramWave(wave((3u << 24) | 2000).bytes());
     QCOMPARE(told.count(), 0);
-    QVERIFY(g_trans_events.isEmpty());
+    QVERIFY(liveData().transients().isEmpty());
     m_task->datagramWave(wave((2u << 24) | 2000).bytes());
     QCOMPARE(told.count(), 1);
-    QCOMPARE(g_trans_events.last()->number, 1); // what is ignored is not counted
+    QCOMPARE(liveData().transients().last().number, 1); // what is ignored is not counted
 }
 
 void TstUniTaskStream::oldestTransientGoesAtThousand()
@@ -198,9 +197,9 @@ void TstUniTaskStream::oldestTransientGoesAtThousand()
     const QByteArray bytes = wave((1u << 24) | 500).bytes();
     for (int i = 0; i < 1003; ++i)
         m_task->datagramWave(bytes);
-    QCOMPARE(g_trans_events.size(), 1000);
-    QCOMPARE(g_trans_events.first()->number, 4);
-    QCOMPARE(g_trans_events.last()->number, 1003);
+    QCOMPARE(liveData().transients().size(), 1000);
+    QCOMPARE(liveData().transients().at(0).number, 4);
+    QCOMPARE(liveData().transients().last().number, 1003);
 }
 
 void TstUniTaskStream::shortPayloadsAreDropped()
@@ -214,7 +213,7 @@ void TstUniTaskStream::shortPayloadsAreDropped()
         m_task->datagramRMS_1_2(bytes.left(2179));
     }
     QCOMPARE(live().vif.voltage[0], 0.0f);
-    QVERIFY(g_trans_events.isEmpty());
+    QVERIFY(liveData().transients().isEmpty());
     QVERIFY(live().dips.voltage[0].isEmpty());
 }
 
@@ -309,8 +308,8 @@ void TstUniTaskStream::anyPayloadAtAnyTimeInAnyWiringKeepsTheListsBounded()
             m_task->updatedata();
         }
         QVERIFY(m_task->isTaskRunning());
-        QVERIFY(g_events_list.size() <= 10'001);
-        QVERIFY(g_trans_events.size() <= 1000);
+        QVERIFY(liveData().events().size() <= 10'001);
+        QVERIFY(liveData().transients().size() <= 1000);
         for (int p = 0; p < kFlickerPhases; ++p)
             QVERIFY(live().flicker.pinstTrend[p].size() <= 600);
         for (int c = 0; c < kChannels; ++c) {

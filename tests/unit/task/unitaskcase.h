@@ -84,14 +84,12 @@ inline void renewRecords()
     Clock::setForTest(kNow);
     m_settingConfig_g.setJoinMode(1);
     renewLive();
-    qDeleteAll(g_trans_events);
-    g_trans_events.clear();
-    g_events_list.clear();
+    liveData().transients().clear();
+    liveData().events().clear();
 }
 
 inline void dropRecords()
 {
-    qDeleteAll(g_trans_events);
-    g_trans_events.clear();
+    liveData().transients().clear();
     Clock::useSystem();
 }

@@ -111,7 +111,6 @@ inline void addShownColumns()
 /// A run begins, as the start of a task does it: the records are emptied, then the page forgets what it showed.
 inline void beginRun(FunctionPage &page)
 {
-    g_events_list.clear();
     renewLive();
     page.init_parameter();
 }

@@ -447,9 +447,9 @@ void TstDips::withNoEventsTheCounterShowsZeroOfZero()
 void TstDips::list(const QList<__event_item> &events)
 {
     m_page->show();
-    g_events_list.clear();
+    liveData().events().clear();
     for (const __event_item &event : events)
-        g_events_list.append({ event, {}, {} });
+        liveData().events().append({ event, {}, {} });
 }
 
 QList<int> TstDips::listedTypes() const
@@ -524,9 +524,9 @@ void TstDips::hiddenPageCatchesUpWhenItIsShown()
     press(eventPage(), Down);
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("2/2"));
     m_page->hide();
-    g_events_list.append({ eventOf(EventSwell), {}, {} });
-    g_events_list.change(1, [](PQAEventItem &event) { event.type = EventInrush; });
-    g_events_list.append({ eventOf(EventRvc), {}, {} });
+    liveData().events().append({ eventOf(EventSwell), {}, {} });
+    liveData().events().change(1, [](PQAEventItem &event) { event.type = EventInrush; });
+    liveData().events().append({ eventOf(EventRvc), {}, {} });
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("2/2")); // nothing was done for it
     QCOMPARE(text(mainPage(), "events_count"), QStringLiteral("2"));
     m_page->show();
@@ -534,24 +534,24 @@ void TstDips::hiddenPageCatchesUpWhenItIsShown()
     QCOMPARE(text(mainPage(), "events_count"), QStringLiteral("3"));
     QCOMPARE(listedTypes(), QList<int>({ 27, 28, 30 }));
     m_page->hide();
-    g_events_list.clear();
+    liveData().events().clear();
     QVERIFY(m_page->events().isEmpty());
 }
 
 void TstDips::shownPageFollowsEachChange()
 {
     list({ eventOf(EventDip) });
-    g_events_list.append({ eventOf(EventUnbalance), {}, {} });
-    g_events_list.append({ eventOf(EventSwell), {}, {} });
+    liveData().events().append({ eventOf(EventUnbalance), {}, {} });
+    liveData().events().append({ eventOf(EventSwell), {}, {} });
     QCOMPARE(listedTypes(), QList<int>({ 27, 28 }));
-    g_events_list.change(0, [](PQAEventItem &event) { event.type = EventInterruption; });
+    liveData().events().change(0, [](PQAEventItem &event) { event.type = EventInterruption; });
     QCOMPARE(named<EventsWidget>(eventPage(), "events")->lineTexts(0).value(1), QStringLiteral("L1 INT"));
-    g_events_list.change(0, [](PQAEventItem &event) { event.type = EventFrequency; });
+    liveData().events().change(0, [](PQAEventItem &event) { event.type = EventFrequency; });
     QCOMPARE(listedTypes(), QList<int>({ 28 }));
-    g_events_list.change(1, [](PQAEventItem &event) { event.type = EventRvc; });
+    liveData().events().change(1, [](PQAEventItem &event) { event.type = EventRvc; });
     QCOMPARE(listedTypes(), QList<int>({ 30, 28 }));
     QCOMPARE(text(mainPage(), "events_count"), QStringLiteral("2"));
-    g_events_list.clear();
+    liveData().events().clear();
     QCOMPARE(text(mainPage(), "events_count"), QStringLiteral("0"));
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("0/0"));
 }
@@ -560,7 +560,7 @@ void TstDips::restartEmptiesTheLists()
 {
     list({ eventOf(EventDip) });
     QCOMPARE(m_page->events().size(), 1);
-    g_events_list.clear(); // as the task does it at each start
+    liveData().events().clear(); // as the task does it at each start
     beginRun(*m_page);
     QVERIFY(m_page->events().isEmpty());
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("0/0"));

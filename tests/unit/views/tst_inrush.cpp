@@ -446,23 +446,23 @@ void TstInrush::pagesLiveBeforeTheFirstStart()
 
 void TstInrush::onlyInrushEventsAreListed()
 {
-    g_events_list.clear();
+    liveData().events().clear();
     m_page->show();
     for (int type = 0; type <= 34; ++type) {
         PQAEventItem item;
         item.type = type;
-        g_events_list.append(item);
-        g_events_list.append(item);
+        liveData().events().append(item);
+        liveData().events().append(item);
     }
     QCOMPARE(m_page->events().size(), 2);
     QCOMPARE(m_page->events().at(0).type, int(EventInrush));
     QCOMPARE(text(startPage(), "events_count"), QStringLiteral("2"));
-    g_events_list.clear(); // as the task does it at each start
+    liveData().events().clear(); // as the task does it at each start
     beginRun(*m_page);
     QVERIFY(m_page->events().isEmpty());
     QCOMPARE(text(startPage(), "events_count"), QStringLiteral("0"));
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("0/0"));
-    g_events_list.clear();
+    liveData().events().clear();
 }
 
 void TstInrush::counterFollowsTheSelection()
@@ -471,13 +471,13 @@ void TstInrush::counterFollowsTheSelection()
     PQAEventItem item;
     item.type = EventInrush;
     for (int i = 0; i < 3; ++i)
-        g_events_list.append(item);
+        liveData().events().append(item);
     m_page->show();
     press(eventPage(), Down);
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("2/3"));
     press(eventPage(), Up, 2);
     QCOMPARE(text(eventPage(), "events_count"), QStringLiteral("1/3"));
-    g_events_list.clear();
+    liveData().events().clear();
 }
 
 void TstInrush::savedRecordHoldsTrendAndEvents()
@@ -486,9 +486,9 @@ void TstInrush::savedRecordHoldsTrendAndEvents()
     PQAEventItem item;
     item.type = EventInrush;
     item.value = 123.5f;
-    g_events_list.append(item);
+    liveData().events().append(item);
     const QByteArray record = m_page->pqaData();
-    g_events_list.clear();
+    liveData().events().clear();
     QCOMPARE(record.size(), 8 + 8 * 4 * 4 + 48);
     float values[32];
     std::memcpy(values, record.constData() + 8, sizeof values);

@@ -27,16 +27,16 @@ namespace {
 constexpr double kTime = 1700000000123.0;
 
 /// A transient of number \a number on phase code \a code at place \a place of its record, every sample \a level.
-__trans_data *transient(int number, int code = 1, int place = 301, qint16 level = 100)
+__trans_data transient(int number, int code = 1, int place = 301, qint16 level = 100)
 {
-    auto *record = new __trans_data;
-    record->number = number;
-    record->frequency = 50;
-    record->time = kTime + number;
-    record->position = quint32(code) << 24 | quint32(place);
+    __trans_data record;
+    record.number = number;
+    record.frequency = 50;
+    record.time = kTime + number;
+    record.position = quint32(code) << 24 | quint32(place);
     for (int c = 0; c < 4; ++c) {
-        record->rms[c] = 230.0f + c;
-        for (qint16 &sample : record->samples[c])
+        record.rms[c] = 230.0f + c;
+        for (qint16 &sample : record.samples[c])
             sample = qint16(level * (c + 1));
     }
     return record;
@@ -95,7 +95,8 @@ private:
     TransMain *mainPage() { return m_page->findChild<TransMain *>(); }
     TranStart *startPage() { return m_page->findChild<TranStart *>(); }
     TransView *viewPage() { return m_page->findChild<TransView *>(); }
-    void capture(__trans_data *record);
+    void capture(const __trans_data &record);
+    static void dropOldest();
 
     std::unique_ptr<trans> m_page;
 };
@@ -124,16 +125,22 @@ void TstTransients::init()
 void TstTransients::cleanup()
 {
     m_page.reset();
-    qDeleteAll(g_trans_events);
-    g_trans_events.clear();
+    liveData().transients().clear();
+}
+
+/// A list without its oldest entry.
+void TstTransients::dropOldest()
+{
+    const TransientList::Items kept(liveData().transients().begin() + 1, liveData().transients().end());
+    liveData().transients().clear();
+    for (const __trans_data &record : kept)
+        liveData().transients().append(record);
 }
 
 /// As the task lists a transient.
-void TstTransients::capture(__trans_data *record)
+void TstTransients::capture(const __trans_data &record)
 {
-    if (g_trans_events.size() >= TransParam::kMaxEvents)
-        delete g_trans_events.takeFirst();
-    g_trans_events.append(record);
+    liveData().transients().append(record);
     m_page->hasTransEvents();
 }
 
@@ -238,8 +245,8 @@ void TstTransients::snapshotOfTheSetUpPageAsksForAName()
 
 void TstTransients::liveVoltagesShowWithRmsOrCursorValues()
 {
-    std::unique_ptr<__trans_data> running(transient(1, 0, 0, 500));
-    live().transient = *running;
+    const __trans_data running = transient(1, 0, 0, 500);
+    live().transient = running;
     m_page->updateDisplay(nullptr);
     const double volts = 500 * 10.0 / 32768.0 * m_calib_data_g.data().volt[m_settingConfig_g.getVoltIndex()][0];
     QCOMPARE(text(startPage(), "D1_Value"), F_to_Str::number_V(float(volts)));
@@ -328,8 +335,9 @@ void TstTransients::prevAndNextStopAtTheEnds()
 
 void TstTransients::captionTimeAndTriggerAreThoseOfTheRecord()
 {
-    capture(transient(0, 1)); // time of kTime itself
-    g_trans_events.last()->number = 7;
+    __trans_data first = transient(0, 1); // time of kTime itself
+    first.number = 7;
+    capture(first);
     capture(transient(8, 3));
     m_page->showPage(trans::View);
     QCOMPARE(text(viewPage(), "trigger_t"), QStringLiteral("TRIGGER ON:"));
@@ -355,8 +363,8 @@ void TstTransients::cursorStandsOnTheTransient()
 
 void TstTransients::cursorMovesAndShowsTheSample()
 {
-    __trans_data *record = transient(1, 1, 300, 0);
-    record->samples[1][302] = 2000;
+    __trans_data record = transient(1, 1, 300, 0);
+    record.samples[1][302] = 2000;
     capture(record);
     m_page->showPage(trans::View);
     QCOMPARE(text(viewPage(), "D2_Value"), F_to_Str::number_V(0));
@@ -384,7 +392,7 @@ void TstTransients::aNewTransientChangesOnlyTheCount()
 void TstTransients::aDroppedHeadKeepsTheTransientShown()
 {
     for (int i = 1; i <= 1000; ++i)
-        g_trans_events.append(transient(i, 1 + i % 3));
+        liveData().transients().append(transient(i, 1 + i % 3));
     m_page->hasTransEvents();
     m_page->showPage(trans::View);
     press(viewPage(), F1);
@@ -392,11 +400,11 @@ void TstTransients::aDroppedHeadKeepsTheTransientShown()
     const QString time = text(viewPage(), "trans_time");
     for (int i = 1001; i <= 1005; ++i)
         capture(transient(i));
-    QCOMPARE(g_trans_events.size(), 1000);
+    QCOMPARE(liveData().transients().size(), 1000);
     QCOMPARE(text(viewPage(), "trans_number"), QStringLiteral("#994/1000(trans)"));
     QCOMPARE(text(viewPage(), "trans_time"), time);
     press(viewPage(), F2);
-    QCOMPARE(g_trans_events.at(viewPage()->index())->number, 1000);
+    QCOMPARE(liveData().transients().at(viewPage()->index()).number, 1000);
 }
 
 void TstTransients::aDroppedTransientGivesWayToTheOldest()
@@ -404,7 +412,7 @@ void TstTransients::aDroppedTransientGivesWayToTheOldest()
     capture(transient(1, 1));
     m_page->showPage(trans::View);
     for (int i = 2; i <= 1000; ++i)
-        g_trans_events.append(transient(i, i == 2 ? 2 : 1));
+        liveData().transients().append(transient(i, i == 2 ? 2 : 1));
     m_page->hasTransEvents();
     QCOMPARE(text(viewPage(), "trans_number"), QStringLiteral("#1/1000(trans)"));
     QCOMPARE(text(viewPage(), "trigger"), QStringLiteral("L1"));
@@ -418,8 +426,7 @@ void TstTransients::aClearedListEmptiesTheView()
     for (int i = 1; i <= 3; ++i)
         capture(transient(i));
     m_page->showPage(trans::View);
-    qDeleteAll(g_trans_events);
-    g_trans_events.clear();
+    liveData().transients().clear();
     press(viewPage(), Right); // before anyone told the page
     press(viewPage(), F1);
     QCOMPARE(text(viewPage(), "trans_number"), QStringLiteral("#0/0(trans)"));
@@ -432,11 +439,10 @@ void TstTransients::aReplacedListShowsNothingOfTheOld()
     capture(transient(1, 1));
     capture(transient(2, 1));
     m_page->showPage(trans::View);
-    qDeleteAll(g_trans_events);
-    g_trans_events.clear();
-    auto *other = transient(2, 3, 401); // the numbers begin anew with the task
-    other->time = kTime + 5000;
-    g_trans_events.append(other);
+    liveData().transients().clear();
+    __trans_data other = transient(2, 3, 401); // the numbers begin anew with the task
+    other.time = kTime + 5000;
+    liveData().transients().append(other);
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(viewPage(), "trans_number"), QStringLiteral("#1/1(trans)"));
     QCOMPARE(text(viewPage(), "trigger"), QStringLiteral("L3"));
@@ -452,19 +458,19 @@ void TstTransients::anyListLengthOverAnyOrderOfKeys()
         random = random * 1664525u + 1013904223u;
         const int what = int(random >> 24) % 8;
         if (what < 3) {
-            g_trans_events.append(transient(i + 1));
+            liveData().transients().append(transient(i + 1));
         } else if (what == 3) {
-            qDeleteAll(g_trans_events);
-            g_trans_events.clear();
-        } else if (what == 4 && !g_trans_events.isEmpty()) {
-            delete g_trans_events.takeFirst();
+            liveData().transients().clear();
+        } else if (what == 4 && !liveData().transients().isEmpty()) {
+            dropOldest();
         }
         if (what % 2)
             m_page->hasTransEvents();
         press(viewPage(), keys[i % 10]);
         m_page->updateDisplay(nullptr);
-        QVERIFY(viewPage()->index() == 0 || viewPage()->index() < g_trans_events.size());
-        QVERIFY(text(viewPage(), "trans_number").endsWith(QStringLiteral("/%1(trans)").arg(g_trans_events.size())));
+        QVERIFY(viewPage()->index() == 0 || viewPage()->index() < liveData().transients().size());
+        QVERIFY(text(viewPage(), "trans_number")
+                    .endsWith(QStringLiteral("/%1(trans)").arg(liveData().transients().size())));
     }
 }
 
@@ -472,10 +478,10 @@ void TstTransients::wildRecordsDoNoHarm()
 {
     for (const double time :
          { std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(), -1e300, 1e300 }) {
-        __trans_data *record = transient(1, 255, 0xFFFFFF, 32767);
-        record->time = time;
-        record->rms[0] = std::numeric_limits<float>::quiet_NaN();
-        record->frequency = std::numeric_limits<float>::infinity();
+        __trans_data record = transient(1, 255, 0xFFFFFF, 32767);
+        record.time = time;
+        record.rms[0] = std::numeric_limits<float>::quiet_NaN();
+        record.frequency = std::numeric_limits<float>::infinity();
         capture(record);
         m_page->showPage(trans::View);
         QCOMPARE(text(viewPage(), "trans_time"), QString());

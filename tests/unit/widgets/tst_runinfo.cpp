@@ -1,9 +1,11 @@
 #include "dialogdriver.h"
+#include "unit/measureddata.h"
 
 #include "settings/config_data.h"
 #include "settings/recordinfo.h"
-#include "model/transparam.h"
 #include "widgets/dialogs/runinfo.h"
+
+using namespace MeasuredData;
 
 class TstRunInfo : public QObject
 {
@@ -24,8 +26,8 @@ private slots:
 
 void TstRunInfo::cleanup()
 {
-    g_events_list.clear();
-    g_trans_events.clear();
+    liveData().events().clear();
+    liveData().transients().clear();
     RecordInfo::m_in_recording = 0;
 }
 
@@ -34,7 +36,7 @@ static void addEvents(int type, int count)
     PQAEventItem item;
     item.type = type;
     for (int i = 0; i < count; ++i)
-        g_events_list.append(item);
+        liveData().events().append(item);
 }
 
 void TstRunInfo::countsTheEventsByKind()
@@ -44,7 +46,7 @@ void TstRunInfo::countsTheEventsByKind()
     addEvents(EventInterruption, 1);
     addEvents(EventInrush, 4);
     addEvents(EventRvc, 5);
-    QCOMPARE(RunInfo::statusText(),
+    QCOMPARE(RunInfo::statusText(liveData()),
              QStringLiteral("System Status:\n\nLogger: Stoped\nTotal Events: 15\nDips: 3;   Swell: 2;   "
                             "Interruption: 1;   Transients: 0;   Inrush: 4"));
 }
@@ -52,43 +54,44 @@ void TstRunInfo::countsTheEventsByKind()
 void TstRunInfo::eventsOfAMeasurementThatIsOverAreNotCounted()
 {
     addEvents(EventDip, 3);
-    g_events_list.finish();
-    QVERIFY(RunInfo::statusText().contains(QStringLiteral("Total Events: 0\nDips: 0;")));
-    QCOMPARE(g_events_list.size(), 3);
-    g_events_list.clear();
+    liveData().events().finish();
+    QVERIFY(RunInfo::statusText(liveData()).contains(QStringLiteral("Total Events: 0\nDips: 0;")));
+    QCOMPARE(liveData().events().size(), 3);
+    liveData().events().clear();
     addEvents(EventDip, 1);
-    QVERIFY(RunInfo::statusText().contains(QStringLiteral("Total Events: 1\nDips: 1;")));
+    QVERIFY(RunInfo::statusText(liveData()).contains(QStringLiteral("Total Events: 1\nDips: 1;")));
 }
 
 void TstRunInfo::totalIsBothListsTogether()
 {
     addEvents(EventDip, 3);
-    g_trans_events = { nullptr, nullptr };
-    QVERIFY(RunInfo::statusText().contains(QStringLiteral("Total Events: 5\n")));
-    QVERIFY(RunInfo::statusText().contains(QStringLiteral("Transients: 2;")));
+    liveData().transients().append({});
+    liveData().transients().append({});
+    QVERIFY(RunInfo::statusText(liveData()).contains(QStringLiteral("Total Events: 5\n")));
+    QVERIFY(RunInfo::statusText(liveData()).contains(QStringLiteral("Transients: 2;")));
 }
 
 void TstRunInfo::tellsWhetherTheRecorderRuns()
 {
     RecordInfo::m_in_recording = 1;
-    QVERIFY(RunInfo::statusText().contains(QStringLiteral("Logger: Running\n")));
-    RunInfo info;
-    QCOMPARE(labelText(&info, "system_status"), RunInfo::statusText());
+    QVERIFY(RunInfo::statusText(liveData()).contains(QStringLiteral("Logger: Running\n")));
+    RunInfo info(liveData());
+    QCOMPARE(labelText(&info, "system_status"), RunInfo::statusText(liveData()));
     QCOMPARE(keyTexts(&info), QStringList({ "Restart", "", "", "", "Cancel" }));
 }
 
 void TstRunInfo::restartAnswersZeroAndCancelOne()
 {
     DialogDriver first({ DialogDriver::press("W") });
-    QCOMPARE(RunInfo::showSystemStatus(), 0);
+    QCOMPARE(RunInfo::showSystemStatus(liveData()), 0);
     DialogDriver second({ DialogDriver::press("L") });
-    QCOMPARE(RunInfo::showSystemStatus(), 1);
+    QCOMPARE(RunInfo::showSystemStatus(liveData()), 1);
 }
 
 void TstRunInfo::restartWhileRecordingDoesNothing()
 {
     RecordInfo::m_in_recording = 1;
-    RunInfo info;
+    RunInfo info(liveData());
     info.show();
     QTest::keyClick(&info, 'W');
     QVERIFY(info.isVisible());
@@ -101,9 +104,9 @@ void TstRunInfo::restartIsGreyWhileRecording()
 {
     const auto style
         = [](const RunInfo &info) { return info.findChild<QLabel *>(QStringLiteral("btn_f1"))->styleSheet(); };
-    QVERIFY(style(RunInfo()).isEmpty());
+    QVERIFY(style(RunInfo(liveData())).isEmpty());
     RecordInfo::m_in_recording = 1;
-    QCOMPARE(style(RunInfo()),
+    QCOMPARE(style(RunInfo(liveData())),
              QStringLiteral(
                  "QLabel {background-color: transparent;background-image: url(:/button);color: rgb(128, 128, 128);}"));
 }
@@ -111,7 +114,7 @@ void TstRunInfo::restartIsGreyWhileRecording()
 void TstRunInfo::closedByOtherMeansItDoesNotRestart()
 {
     DialogDriver driver({ [](QDialog *dialog) { dialog->close(); } });
-    QCOMPARE(RunInfo::showSystemStatus(), 1);
+    QCOMPARE(RunInfo::showSystemStatus(liveData()), 1);
 }
 
 QTEST_MAIN(TstRunInfo)
