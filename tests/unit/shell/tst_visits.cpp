@@ -2,6 +2,8 @@
 
 #include "model/livedata.h"
 #include "pages/viewcontainer.h"
+#include "settings/dipswellinfo.h"
+#include "settings/harmdata.h"
 #include "shell/pagetable.h"
 #include "shell/tasklinks.h"
 #include "task/unitask.h"
@@ -17,6 +19,7 @@
 #include "views/unbalance/unbalan.h"
 #include "views/unbalance/unbalvectorpage.h"
 
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTranslator>
 
@@ -34,6 +37,7 @@ private slots:
     void pagesStandInTheOrderOfTheTable();
     void aPageMadeOnHoldIsHeld();
     void aPageMadeInAnotherLanguageSpeaksIt();
+    void whatTheTaskKeepsFollowsTheFrequencyBeforeItsPagesAreMade();
     void inverterIsSetUpAnewOnlyWhenItIsLeft();
     void holdOfTheInverterWaitsForItsStart();
 
@@ -175,6 +179,23 @@ void TstVisits::aPageMadeInAnotherLanguageSpeaksIt()
     page->showPage(unbalan::Vector);
     QCOMPARE(page->currentPage()->findChild<QLabel *>("btn_f5")->text(), QStringLiteral("~Hold"));
     QCoreApplication::removeTranslator(&language);
+}
+
+void TstVisits::whatTheTaskKeepsFollowsTheFrequencyBeforeItsPagesAreMade()
+{
+    const auto restore = qScopeGuard([] {
+        m_settingConfig_g.setNomFreq(1);
+        initUiParameter();
+    });
+    m_settingConfig_g.setNomFreq(2); // 60 Hz
+    initUiParameter();
+    QCOMPARE(DipSwellInfo::m_rms_numb_per_sec, 120);
+    QCOMPARE(HarmData::m_harm_max_numb, 100);
+    m_settingConfig_g.setNomFreq(3); // 400 Hz
+    initUiParameter();
+    QCOMPARE(DipSwellInfo::m_rms_numb_per_sec, 100);
+    QCOMPARE(HarmData::m_harm_max_numb, 12);
+    QVERIFY(!HarmData::m_bewith_inharm);
 }
 
 void TstVisits::inverterIsSetUpAnewOnlyWhenItIsLeft()
