@@ -61,6 +61,17 @@ EditorPage::Row EditorPage::settingRow(const QString &name, const char *caption,
     return row;
 }
 
+KeyRepeat::Pace EditorPage::paceOf(const char *key)
+{
+    const auto *setting = SettingConfig::row(key);
+    KeyRepeat::Pace pace { setting ? setting->edit.ticksPerStep : 0, {} };
+    for (const int step : { 1, 5, 10, 20, 50, 100 }) {
+        if (step == 1 || (setting && step <= setting->edit.largestStep))
+            pace.steps.push_back(step);
+    }
+    return pace;
+}
+
 void EditorPage::setRows(std::vector<Row> rows)
 {
     setObjectName(QString::fromLatin1(metaObject()->className()));

@@ -79,6 +79,9 @@ protected:
     static Row settingRow(const QString &name, const char *caption, const char *key, std::function<QString()> text,
                           std::function<void()> changed = {});
 
+    /// How the setting of \a key grows while a key is held; by single steps for one that does not, and for no setting.
+    static KeyRepeat::Pace paceOf(const char *key);
+
     /// Takes the working copy from what is stored; called when a run begins and by cancel(). A page that stores at once
     /// has none.
     virtual void load() { }

@@ -2,7 +2,6 @@
 #include "ui_rmstrendform.h"
 
 #include "settings/config_data.h"
-#include "widgets/controls/keyrepeat.h"
 #include "widgets/charts/cursortrendchart.h"
 #include "widgets/text/f_to_str.h"
 #include "widgets/controls/labellook.h"
@@ -13,7 +12,6 @@
 #include <cstdlib>
 
 namespace {
-constexpr int kTicksPerStep = 3;
 constexpr QRect kChartPlace(16, 32, 609, 317);
 constexpr ValueStrip kValues = { 16, 154, 50, 100 };
 constexpr int kPage = 600; // values by which the window moves when the cursor leaves it
@@ -29,11 +27,6 @@ RmsTrendPage::~RmsTrendPage() = default;
 
 void RmsTrendPage::setUp(CursorTrendChart *chart)
 {
-    static const KeyRow<RmsTrendPage> keys[] = {
-        { Qt::Key_F1, nullptr, &RmsTrendPage::changeType },   { Qt::Key_F2, nullptr, &RmsTrendPage::openEvents },
-        { Qt::Key_F3, nullptr, &RmsTrendPage::toggleCursor }, { Qt::Key_F4, nullptr, &RmsTrendPage::toggleZoom },
-        { Qt::Key_Left, nullptr, &RmsTrendPage::pressLeft },  { Qt::Key_Right, nullptr, &RmsTrendPage::pressRight },
-    };
     setObjectName(QString::fromLatin1(metaObject()->className()));
     m_chart = chart;
     m_chart->setParent(this);
@@ -41,9 +34,31 @@ void RmsTrendPage::setUp(CursorTrendChart *chart)
     m_chart->setGeometry(kChartPlace);
     m_labels = kValues.add(this);
     LabelLook::dress(this);
-    m_repeat = new KeyRepeat(this, kTicksPerStep);
-    connect(m_repeat, &KeyRepeat::repeated, this, &RmsTrendPage::changeCursorPos);
-    setKeys(keys);
+    chooseArrows();
+}
+
+/// The arrows act on what is on: they lead the cursor as long as they are held, or zoom by one step.
+void RmsTrendPage::chooseArrows()
+{
+    static const KeyRow<RmsTrendPage> cursor[] = {
+        { Qt::Key_Left, nullptr, &RmsTrendPage::changeCursorPos, -1, {} },
+        { Qt::Key_Right, nullptr, &RmsTrendPage::changeCursorPos, 1, {} },
+    };
+    static const KeyRow<RmsTrendPage> zoom[] = {
+        { Qt::Key_Left, nullptr, &RmsTrendPage::changeScaleL },
+        { Qt::Key_Right, nullptr, &RmsTrendPage::changeScaleR },
+    };
+    m_zoomOn ? setKeys(zoom) : setKeys(cursor);
+}
+
+std::vector<FrontKeys::Row> RmsTrendPage::commonKeys()
+{
+    return {
+        { Qt::Key_F1, nullptr, [this] { changeType(); }, {}, 0, {} },
+        { Qt::Key_F2, nullptr, [this] { openEvents(); }, {}, 0, {} },
+        { Qt::Key_F3, nullptr, [this] { toggleCursor(); }, {}, 0, {} },
+        { Qt::Key_F4, nullptr, [this] { toggleZoom(); }, {}, 0, {} },
+    };
 }
 
 void RmsTrendPage::init_parameter()
@@ -55,9 +70,9 @@ void RmsTrendPage::init_parameter()
 
 void RmsTrendPage::resetView()
 {
-    m_repeat->stop();
     m_zoomOn = true;
     m_cursorOn = false;
+    chooseArrows();
     m_position = 1;
     const QVector<TrendZoom> steps = zoomSteps();
     m_seconds = steps.at(std::clamp(zoomIndex(), 0, int(steps.size()) - 1)).seconds;
@@ -158,9 +173,9 @@ void RmsTrendPage::showScaleList()
 
 void RmsTrendPage::toggleCursor()
 {
-    m_repeat->stop();
     m_cursorOn = !m_cursorOn;
     m_zoomOn = !m_cursorOn;
+    chooseArrows();
     showCursor();
     showZoom();
     showCurVal();
@@ -169,28 +184,6 @@ void RmsTrendPage::toggleCursor()
 void RmsTrendPage::toggleZoom()
 {
     toggleCursor(); // each switches the other off
-}
-
-void RmsTrendPage::pressLeft()
-{
-    if (m_zoomOn)
-        changeScale(-1);
-    else
-        m_repeat->start(-1);
-}
-
-void RmsTrendPage::pressRight()
-{
-    if (m_zoomOn)
-        changeScale(1);
-    else
-        m_repeat->start(1);
-}
-
-void RmsTrendPage::releaseKey(int key)
-{
-    if (key == Qt::Key_Left || key == Qt::Key_Right)
-        m_repeat->stop();
 }
 
 void RmsTrendPage::changeScale(int direction)

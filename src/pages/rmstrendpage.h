@@ -15,7 +15,6 @@ class RmsTrendForm;
 }
 
 class CursorTrendChart;
-class KeyRepeat;
 struct __trend_chart_data;
 
 /// Scrolling trend of the half-cycle r.m.s. values of all channels, voltages or currents, with a cursor and zoom steps:
@@ -66,14 +65,15 @@ protected:
     /// The view as at the start of a run: newest values, first zoom step, zoom on, cursor off.
     void resetView();
     void showTrend();
-    void releaseKey(int key) override;
+    std::vector<FrontKeys::Row> commonKeys() override;
 
 private:
     void changeType();
     void toggleCursor();
     void toggleZoom();
-    void pressLeft();
-    void pressRight();
+    void chooseArrows();
+    void changeScaleL() { changeScale(-1); }
+    void changeScaleR() { changeScale(1); }
     void changeScale(int direction);
     void changeCursorPos(int step);
     void moveCursorL();
@@ -89,7 +89,6 @@ private:
     const LiveData &m_data;
     std::unique_ptr<Ui::RmsTrendForm> m_ui;
     CursorTrendChart *m_chart = nullptr;
-    KeyRepeat *m_repeat = nullptr;
     ValueStrip::Labels m_labels;
 
     int m_quantity = 0; // 0 only before the first run

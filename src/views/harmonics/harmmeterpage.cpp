@@ -37,7 +37,7 @@ int tableLines()
 } // namespace
 
 HarmMeterPage::HarmMeterPage(const LiveData &data, QWidget *parent)
-    : ListPage(UI_HARMONICS, Pages, { 3, { 1, 5, 10, 20 } }, parent), m_data(data), m_ui(new Ui::HarmMeterPage)
+    : ListPage(UI_HARMONICS, Pages, KeyRepeat::Pace(), parent), m_data(data), m_ui(new Ui::HarmMeterPage)
 {
     static const KeyRow<HarmMeterPage> keys[] = {
         { Qt::Key_F3, nullptr, &HarmMeterPage::changeReference },

@@ -46,7 +46,7 @@ void changeDuration(int step)
 } // namespace
 
 InrushMain::InrushMain(QWidget *parent)
-    : EditorPage(UI_INRUSH, { QT_TRANSLATE_NOOP("InrushMain", "Inrush") }, { 3, { 1, 5, 10, 20 } }, parent)
+    : EditorPage(UI_INRUSH, { QT_TRANSLATE_NOOP("InrushMain", "Inrush") }, paceOf("INRUSH_THRESHOLD"), parent)
 {
     static const KeyRow<InrushMain> keys[] = {
         { Qt::Key_F4, QT_TRANSLATE_NOOP("InrushMain", "Defaults"), &InrushMain::initInrushMain },

@@ -6,13 +6,11 @@
 
 namespace {
 constexpr char kKey[] = "TRANS_THRESHOLD";
-constexpr int kTicksPerStep = 5; // a long range: later, but larger steps
 constexpr int kTop = 100; // pixels
 }
 
 TransMain::TransMain(QWidget *parent)
-    : EditorPage(UI_TRANSIENTS, { QT_TRANSLATE_NOOP("TransMain", "Transients"), kTop },
-                 { kTicksPerStep, { 1, 5, 10, 20, 50, 100 } }, parent)
+    : EditorPage(UI_TRANSIENTS, { QT_TRANSLATE_NOOP("TransMain", "Transients"), kTop }, paceOf(kKey), parent)
 {
     static const KeyRow<TransMain> keys[] = {
         { Qt::Key_F1, nullptr, &TransMain::selectNext },

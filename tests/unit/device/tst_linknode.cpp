@@ -32,6 +32,7 @@ private slots:
     void readErrorThatPassesLeavesAllStateAndSpinsNothing();
     void oneFailedReadInABurstCostsNothing();
     void readsThatFailForAMomentPauseOnlyForAMoment();
+    void readsThatFailBehindEachPackageNeverPauseForLong();
     void streamThatNeverRunsDryLeavesFramesTheirTurn();
     void nodeThatIsLostForGoodIsOpenedAnew();
     void writesToAClosedFarEndFailUnnoticed();
@@ -311,6 +312,23 @@ void TstLinkNode::readsThatFailForAMomentPauseOnlyForAMoment()
     QVERIFY2(timer.elapsed() < 600, qPrintable(QString::number(timer.elapsed())));
     QVERIFY(reopened.isEmpty());
     QVERIFY(!link.peer.isConnectionWaiting());
+}
+
+void TstLinkNode::readsThatFailBehindEachPackageNeverPauseForLong()
+{
+    OpenLink link;
+    QVERIFY(link.open());
+    QSocketNotifier *notifier = link.dsp.findChild<QSocketNotifier *>();
+    QElapsedTimer lastPause;
+    for (quint32 id = 1; id <= 9; ++id) { // as many as would double the first pause up to a second
+        g_failing = { int(notifier->socket()), 1, 5, EIO };
+        link.take(makePackage({ 0xC0A5FF00, id, DatagramUpdate, 0, 0, 0 }));
+        QCOMPARE(link.datagrams.size(), int(id));
+        QVERIFY(!notifier->isEnabled());
+        lastPause.start();
+        QTRY_VERIFY(notifier->isEnabled());
+    }
+    QVERIFY2(lastPause.elapsed() < 600, qPrintable(QString::number(lastPause.elapsed())));
 }
 
 void TstLinkNode::streamThatNeverRunsDryLeavesFramesTheirTurn()

@@ -74,6 +74,7 @@ private slots:
     void heldKeyGrows();
     void enterActsOnTheSelectedRow();
     void aRowWithoutStepIsLeftAlone();
+    void paceIsThatOfTheSetting();
     void okStoresTheWorkingCopy();
     void cancelDropsTheWorkingCopy();
     void f5IsNeverHold();
@@ -183,6 +184,22 @@ void TstEditorPage::aRowWithoutStepIsLeftAlone()
     press(m_page.get(), Right, 2);
     QCOMPARE(text(m_page.get(), "fixed"), QStringLiteral("always"));
     QCOMPARE(m_page->writes, 0);
+}
+
+void TstEditorPage::paceIsThatOfTheSetting()
+{
+    struct Editor : EditorPage
+    {
+        using EditorPage::paceOf;
+    };
+    const KeyRepeat::Pace transient = Editor::paceOf("TRANS_THRESHOLD");
+    QCOMPARE(transient.ticksPerStep, 5);
+    QCOMPARE(transient.steps, KeyRepeat::Steps({ 1, 5, 10, 20, 50, 100 }));
+    const KeyRepeat::Pace inrush = Editor::paceOf("INRUSH_THRESHOLD");
+    QCOMPARE(inrush.ticksPerStep, 3);
+    QCOMPARE(inrush.steps, KeyRepeat::Steps({ 1, 5, 10, 20 }));
+    for (const char *key : { "JOINMODE", "NO_SUCH_KEY" })
+        QCOMPARE(Editor::paceOf(key).steps, KeyRepeat::Steps({ 1 }));
 }
 
 void TstEditorPage::okStoresTheWorkingCopy()

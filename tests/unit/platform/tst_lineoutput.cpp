@@ -27,6 +27,7 @@ private slots:
     void readerThatWentEndsNothing();
     void closedDescriptorDrops();
     void exchangedFileIsFound();
+    void restOfATextStaysWithItsOutput();
     void longTextIsCut();
     void threadsDoNotMixTheirTexts();
     void toolkitMessagesTakeTheSameWay();
@@ -64,6 +65,16 @@ struct Ends
         return all;
     }
 };
+
+/// A terminal, which takes a part of a text when it has no room for all of it.
+bool openTerminal(Ends &ends)
+{
+    ends.fds[0] = ::posix_openpt(O_RDWR | O_NOCTTY);
+    if (ends.fds[0] < 0 || ::grantpt(ends.fds[0]) != 0 || ::unlockpt(ends.fds[0]) != 0)
+        return false;
+    ends.fds[1] = ::open(::ptsname(ends.fds[0]), O_RDWR | O_NOCTTY);
+    return ends.fds[1] >= 0;
+}
 
 void write(LineOutput &output, const QByteArray &text)
 {
@@ -159,10 +170,7 @@ void TstLineOutput::stalledSocketDropsAndCounts()
 void TstLineOutput::terminalThatStandsStillDropsAndKeepsTextsWhole()
 {
     Ends ends;
-    ends.fds[0] = ::posix_openpt(O_RDWR | O_NOCTTY);
-    QVERIFY(ends.fds[0] >= 0 && ::grantpt(ends.fds[0]) == 0 && ::unlockpt(ends.fds[0]) == 0);
-    ends.fds[1] = ::open(::ptsname(ends.fds[0]), O_RDWR | O_NOCTTY);
-    QVERIFY(ends.fds[1] >= 0);
+    QVERIFY(openTerminal(ends));
     LineOutput output(ends.fds[1]);
     constexpr int kLines = 5000;
     for (int i = 0; i < kLines; ++i)
@@ -235,6 +243,23 @@ void TstLineOutput::exchangedFileIsFound()
     QCOMPARE(second.read(), QByteArray("to the second\n"));
     QVERIFY(file.seek(0));
     QCOMPARE(file.readAll(), QByteArray("to the file\nto its end\n"));
+}
+
+void TstLineOutput::restOfATextStaysWithItsOutput()
+{
+    Ends ends;
+    QVERIFY(openTerminal(ends));
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    LineOutput output(ends.fds[1]);
+    int number = 0;
+    while (output.dropped() == 0 && number < 5000)
+        write(output, line(number++));
+    QVERIFY(output.dropped() > 0);
+    ::dup2(file.handle(), ends.fds[1]);
+    write(output, "to the file\n");
+    QVERIFY(file.seek(0));
+    QCOMPARE(file.readAll(), QByteArray("1 lines were dropped: the output stood still\nto the file\n"));
 }
 
 void TstLineOutput::longTextIsCut()

@@ -252,6 +252,21 @@ private slots:
         QCOMPARE(derive(config.values(), nullptr, nullptr, other).scales.current[0], 0.0f);
     }
 
+    void inrushStepFollowsTheRangeOfTheClamp()
+    {
+        const struct
+        {
+            int range; // A
+            double step; // A
+        } rows[] = { { 5, 0.001 }, { 6, 0.01 },  { 20, 0.01 }, { 21, 0.1 },
+                     { 99, 0.1 },  { 100, 1.0 }, { 999, 1.0 }, { 1000, 10.0 } };
+        const SettingConfig config;
+        for (const auto &row : rows) {
+            const Clamp clamp("own", row.range, 1000, true, true, "");
+            QCOMPARE(derive(config.values(), &clamp, nullptr, __calib_data()).inrush.stepAtClamp, row.step);
+        }
+    }
+
     void aClampWithoutOutputMeasuresNothing()
     {
         Setup setup(100, 0, 100, 0);

@@ -134,10 +134,13 @@ void TstTaskLinks::aForgottenTaskIsNotHeard()
     UniTask old(MeasuredData::liveData());
     links.follow(&old);
     links.setFront(UI_VIF);
+    emit old.stopWatchChanged("00:00:07");
     links.forget(&old);
+    page.time.clear();
     UniTask task(MeasuredData::liveData());
     links.follow(&task);
     links.setFront(UI_VIF);
+    QCOMPARE(page.time, QString()); // the time of another run
     emit old.updateDisplay(nullptr);
     emit old.init_param();
     QCOMPARE(page.refreshes + page.begins, 0);

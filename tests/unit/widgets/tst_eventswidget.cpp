@@ -17,6 +17,7 @@ private slots:
     void filterShowsItsKinds();
     void filterOfSevenAndAboveShowsAll();
     void filterFiveShowsUnbalanceAndFrequency();
+    void anotherFilterBeginsAtTheTop();
     void everyKindHasItsName();
     void anEmptyListDrawsTheHeaderOnly();
     void theFourteenthEventShowsOnlyAfterScrolling();
@@ -124,6 +125,22 @@ void TstEventsWidget::filterFiveShowsUnbalanceAndFrequency()
     QCOMPARE(table.eventsCnt(), 2);
     QCOMPARE(table.lineTexts(0).at(1), QStringLiteral("L1  Hz"));
     QCOMPARE(table.lineTexts(1).at(1), QStringLiteral("L1 UNBAL"));
+}
+
+void TstEventsWidget::anotherFilterBeginsAtTheTop()
+{
+    EventsWidget table;
+    const Lines list(dips(40));
+    table.refreshEventList(list.all());
+    for (const int filter : { 4, 0 }) { // both show all forty
+        for (int i = 0; i < 20; ++i)
+            table.selectNextItem();
+        QVERIFY(table.firstShown() > 0);
+        table.changeEventType(filter);
+        QCOMPARE(table.eventsCnt(), 40);
+        QCOMPARE(table.firstShown(), 0);
+        QCOMPARE(table.row(), 0);
+    }
 }
 
 void TstEventsWidget::everyKindHasItsName()

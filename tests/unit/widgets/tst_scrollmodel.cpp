@@ -89,6 +89,10 @@ void TstScrollModel::pagesBeginAtMultiplesOfTheRows()
     list.movePages(20);
     QCOMPARE(list.first(), 10);
     QCOMPARE(list.end(), 12); // two lines are left
+    list.moveLines(-7);
+    list.moveLines(4); // the last row of a window
+    list.movePages(20);
+    QCOMPARE(list.selected(), 11);
     list.movePages(-1);
     QCOMPARE(list.first(), 5);
     list.setCount(10);
@@ -107,6 +111,12 @@ void TstScrollModel::aShorterListKeepsWhatItCan()
     list.setCount(4);
     QCOMPARE(list.first(), 0);
     QVERIFY(list.selected() >= 0 && list.selected() < 4);
+    list.setCount(20);
+    list.reset();
+    list.moveLines(12);
+    list.setCount(8); // as many as stood above the window
+    QCOMPARE(list.first(), 0);
+    QVERIFY(list.selected() < list.end());
 }
 
 void TstScrollModel::aListThatGrowsKeepsItsPlace()
