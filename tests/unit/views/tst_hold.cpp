@@ -133,7 +133,7 @@ QVector<QImage> TstHold::pictures(const MakePage &make, int subPage, const Keys 
     if (later)
         measure(kLaterLevel);
     auto *container = qobject_cast<ViewContainer *>(page.get());
-    LivePage *top = container ? container->pages().at(subPage) : page.get();
+    LivePage *top = container ? container->page(subPage) : page.get();
     QVector<QImage> shown;
     for (const FrontKey key : keys) {
         LivePage *before = container ? container->currentPage() : nullptr;
@@ -192,8 +192,8 @@ static QVector<QImage> allPictures(FunctionPage *page)
     if (!container)
         return { page->grab().toImage() };
     QVector<QImage> shown;
-    for (LivePage *sub : container->pages())
-        shown << sub->grab().toImage();
+    for (int index = 0; index < container->pageCount(); ++index)
+        shown << container->page(index)->grab().toImage();
     return shown;
 }
 
@@ -265,7 +265,7 @@ void TstHold::percentagesOfTheHeldSpectrumTakeTheOtherReference()
     channel.harmonic[0].magnitude = 160;
     channel.offset = 40;
     page.updateDisplay(nullptr);
-    LivePage *meter = page.pages().at(1);
+    LivePage *meter = page.page(1);
     QCOMPARE(text(meter, "row1_L1"), QStringLiteral("25.000")); // 40 of 160
     holdRun(page);
     channel.offset = 80;
