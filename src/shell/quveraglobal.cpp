@@ -49,10 +49,10 @@ void appInit()
     m_taskmanage = new TaskManage(*data);
     m_idevice = new IDevice;
     ModbusPublisher::publishSettings();
-    // Before any page exists: the processor sets itself up while the pages are built.
+    // Before the window exists: the processor sets itself up while it is built.
     DeviceInit::initAnalogDevice2();
 
-    m_basedialog = new BaseDialog(m_taskmanage); // with all pages
+    m_basedialog = new BaseDialog(m_taskmanage); // with the menu; other pages are made when they are entered
     m_basedialog->show();
     m_basedialog->activateWindow(); // not the splash; on a desk a window manager may be missing
     // On a larger screen than the board's it would stand beside the window, or in front of it, for good.
