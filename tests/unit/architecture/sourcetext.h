@@ -45,7 +45,7 @@ inline QStringList allSources()
 /// A text with its comments taken out, line by line; "//" inside a literal stays.
 inline QString withoutComments(QString text)
 {
-    static const QRegularExpression comment(QStringLiteral(R"re(("(?:[^"\\\n]|\\.)*")|//[^\n]*|/\*.*?\*/)re"),
+    static const QRegularExpression comment(QStringLiteral("(\"(?:[^\"\\\\\n]|\\\\.)*\")|//[^\n]*|/\\*.*?\\*/"),
                                             QRegularExpression::DotMatchesEverythingOption);
     return text.replace(comment, QStringLiteral("\\1"));
 }
