@@ -118,12 +118,18 @@ void IDevice::takeResults()
         else if (result.kind == Delivery::BdsWord)
             usingBDSSlot(result.word);
         else
-            (this->*kResultSlots[result.kind])(static_cast<__datagramtype>(result.kind), result.bytes);
+            takeDatagram(result);
         if (turn.elapsed() >= kLongestTurn) {
             m_rest.start(0);
             return;
         }
     }
+}
+
+void IDevice::takeDatagram(const Delivery &result)
+{
+    const auto slot = kResultSlots[result.kind];
+    (this->*slot)(static_cast<__datagramtype>(result.kind), result.bytes);
 }
 
 /// A processor that went and came back has lost its set-up: it gets the whole start sequence.

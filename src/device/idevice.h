@@ -10,6 +10,7 @@
 #include <memory>
 
 class DeliveryQueue;
+struct Delivery;
 class DeviceDSP;
 class DeviceGPIO;
 class QThread;
@@ -81,6 +82,7 @@ private:
     void connectResults();
     Q_INVOKABLE void resultCame();
     void takeResults();
+    void takeDatagram(const Delivery &result);
     void setUpAgain();
 
     std::unique_ptr<DeliveryQueue> m_results; // from the device thread

@@ -3,7 +3,7 @@
 #include <QMetaType>
 
 /// Identifies a page. Navigation signals carry the pair current page, target page.
-enum _quvera_ui_type {
+enum _quvera_ui_type : int {
     UI_MENU = 0,
     UI_SCOPE = 1,
     UI_VIF = 2,
