@@ -2,6 +2,21 @@
 
 #include <algorithm>
 
+QList<EventWave> EventWaveQueue::take(const __datagram_wave &record)
+{
+    QList<EventWave> complete;
+    if (m_waiting.isEmpty())
+        return complete;
+    const auto datagram = std::make_shared<const __datagram_wave>(record);
+    QList<EventWave> waiting;
+    for (EventWave &wave : m_waiting) {
+        wave.samples.append(datagram);
+        (wave.samples.size() < EventWaveCutter::kDatagrams ? waiting : complete).append(wave);
+    }
+    m_waiting = waiting;
+    return complete;
+}
+
 namespace EventWaveCutter {
 
 namespace {

@@ -15,6 +15,19 @@ struct EventWave
     QList<std::shared_ptr<const __datagram_wave>> samples; // at most two
 };
 
+/// The waveforms that events asked for, oldest first, on their way to a file.
+class EventWaveQueue
+{
+public:
+    /// \a time in ms since 1970.
+    void want(qint64 time) { m_waiting.append({ time, {} }); }
+    /// Takes in a wave datagram; what is complete with it leaves the queue.
+    QList<EventWave> take(const __datagram_wave &record);
+
+private:
+    QList<EventWave> m_waiting;
+};
+
 /// Cuts the 100 ms around an event out of two wave datagrams. Pure functions of records.
 namespace EventWaveCutter {
 

@@ -5,30 +5,23 @@
 #include "settings/dipswellinfo.h"
 #include "settings/harmdata.h"
 #include "settings/inrushinfo.h"
-#include "settings/monitorinfo.h"
-#include "settings/waveinfo.h"
 #include "device/datatypes.h"
 #include "model/livedata.h"
 #include "device/trace.h"
-#include "platform/clock.h"
 #include "detect/flickerprocessor.h"
 #include "detect/powerevents.h"
 #include "task/displayfeed.h"
+#include "task/functions/functionplan.h"
 #include "task/inverterfeed.h"
+#include "task/transientcutter.h"
 #include "task/triggersearch.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <limits>
+#include <utility>
 
 namespace {
-
-/// A longer gap between two aggregation datagrams, or a negative one, is a step of the clock or a lost link, not time
-/// in which energy was measured: nothing is counted for it.
-constexpr qint64 kLongestGap = 60'000'000; // us
-
-/// As required: seconds of a monitor's run for each of its hours.
-constexpr qint64 kMonitorHour = 3601;
 
 template <typename T> std::unique_ptr<T> makeRecord()
 {
@@ -37,48 +30,171 @@ template <typename T> std::unique_ptr<T> makeRecord()
     return record;
 }
 
-/// Output phases of the inverter, as the wiring and the user's choice have them.
-int inverterOutputs()
+/// The inverter's output, as the wiring and the user's choice have it.
+InverterFunction::Output inverterOutput()
 {
     const ChannelSet *set = m_settingConfig_g.channels();
-    return InverterFeed::outputMask(set ? set->trendFlags() : 0, singleOrThree != 0);
+    const bool single = singleOrThree != 0;
+    return { single, InverterFeed::outputMask(set ? set->trendFlags() : 0, single) };
 }
 
-/// Length of a monitor's run; -1, the longest, for hours that no run can have.
-int monitorSeconds(int hours)
+/// Longest trends of half-cycle values; another duration may be chosen while a task runs.
+HalfCycleTrends::Limits trendLimits()
 {
-    const qint64 seconds = kMonitorHour * hours;
-    return seconds > 0 && seconds <= std::numeric_limits<int>::max() ? int(seconds) : -1;
+    return { DipSwellInfo::m_rms_numb_per_sec * 60,
+             InrushInfo::m_rms_numb_per_sec * InrushInfo::m_dura_time[InrushInfo::m_duration_index].seconds };
 }
 
 } // namespace
 
 UniTask::UniTask(LiveData &data, QObject *parent)
-    : AbstractTask(parent), m_data(data), m_scales(m_settingConfig_g.derived().scales)
+    : AbstractTask(parent), m_data(data), m_scales(m_settingConfig_g.derived().scales),
+      m_aggregation(makeRecord<__datagram_aggregation>()), m_rms(makeRecord<__datagram_rms>()),
+      m_wave(makeRecord<__datagram_wave>()), m_flicker(makeRecord<__datagram_flicker>()),
+      m_events(new PowerEvents(data.events(), this)), m_flickerProcessor(std::make_unique<FlickerProcessor>()),
+      m_trends(data.live()), m_inverter(data.live(), inverterOutput), m_monitor(data), m_recorder(data)
 {
-    initLimitsData();
-    m_events = new PowerEvents(data.events(), this);
-    connect(m_events, &PowerEvents::buzzerRing, this, &UniTask::buzzerRing);
-    connect(m_events, &PowerEvents::eventFinishedWithRMS, this, &UniTask::eventFinishedWithRMS);
-    connect(m_events, &PowerEvents::changeEventsWave, this, &UniTask::changeEventsWave);
-    connect(m_events, &PowerEvents::mbEventsChanged, this, &UniTask::eventTableChanged);
-
-    m_aggregation = makeRecord<__datagram_aggregation>();
-    m_rms = makeRecord<__datagram_rms>();
-    m_wave = makeRecord<__datagram_wave>();
-    m_flicker = makeRecord<__datagram_flicker>();
-    m_flickerProcessor = std::make_unique<FlickerProcessor>();
-
+    connectDetector();
     setTaskType(0, 1000);
-    // First of all that listen: the pages find the records as their new state has them.
-    connect(this, &AbstractTask::init_param, this, &UniTask::beginRecords);
-    connect(this, &AbstractTask::taskPaused, this, &UniTask::holdRecords);
-    connect(this, &AbstractTask::taskContinued, this, &UniTask::continueRecords);
-    connect(this, &AbstractTask::taskStarted, this, &UniTask::startBaseTimer);
-    connect(this, QOverload<>::of(&AbstractTask::taskStoped), this, &UniTask::stopBaseTimer);
+    connectStates();
 }
 
 UniTask::~UniTask() = default;
+
+void UniTask::connectDetector()
+{
+    connect(m_events, &PowerEvents::buzzerRing, this, &UniTask::buzzerRing);
+    connect(m_events, &PowerEvents::eventFinishedWithRMS, this, [this](const PQAEventItem &event) {
+        tell([&event](TaskFunction &function) { function.eventComplete(event); });
+    });
+    connect(m_events, &PowerEvents::changeEventsWave, this, &UniTask::changeEventsWave);
+    connect(m_events, &PowerEvents::mbEventsChanged, this, &UniTask::eventTableChanged);
+}
+
+void UniTask::connectStates()
+{
+    // First of all that listen: pages find the records as their new state has them, and files are complete before
+    // anyone hears of the end.
+    connect(this, &AbstractTask::init_param, this, &UniTask::beginRecords);
+    connect(this, &AbstractTask::taskPaused, this, &UniTask::holdRecords);
+    connect(this, &AbstractTask::taskContinued, this, [this] { m_data.run(); });
+    connect(this, &AbstractTask::taskStarted, this, &UniTask::startBaseTimer);
+    connect(this, QOverload<>::of(&AbstractTask::taskStoped), this, &UniTask::stopBaseTimer);
+    connect(this, &AbstractTask::recordingStarted, this, [this] {
+        if (m_function == UniBasic)
+            begin(&m_recorder);
+    });
+    connect(this, &AbstractTask::recordingStoped, this, [this] { end(&m_recorder, Keep::Data); });
+}
+
+// Functions
+
+void UniTask::initUniFunction(AbstractTask::UniFunction function)
+{
+    const ChannelSet *set = m_settingConfig_g.channels();
+    m_channels = set ? set->taskPhases : 3;
+    endFunctions(Keep::Data);
+    m_data.events().clear();
+    m_function = function;
+    const std::optional<FunctionPlan> plan = functionPlan(function);
+    m_servesFlicker = plan && plan->servesFlicker;
+    if (function == UniPowerInverter) {
+        QV_TRACE("task/unitask") << "Uni_PowerInverter";
+        // Its record is derived from the live ones: there is nothing to hold for it.
+        QV_TRACE("task/unitask") << "initPowerInverterData";
+    }
+    if (plan)
+        setTaskLifeCycle(plan->start, plan->life);
+    if (isLive())
+        beginFunctions();
+}
+
+TaskFunction *UniTask::functionOf(AbstractTask::UniFunction function)
+{
+    switch (function) {
+    case UniBasic:
+        return &m_trends;
+    case UniMonitor:
+        return &m_monitor;
+    case UniPowerInverter:
+        return &m_inverter;
+    case UniWave:
+    case UniLogger:
+        break;
+    }
+    return nullptr;
+}
+
+void UniTask::beginFunctions()
+{
+    if (TaskFunction *function = functionOf(m_function))
+        begin(function);
+    if (m_function == UniBasic && isRecording())
+        begin(&m_recorder);
+}
+
+void UniTask::endFunctions(Keep keep)
+{
+    while (!m_running.empty())
+        end(m_running.back(), keep);
+}
+
+void UniTask::begin(TaskFunction *function)
+{
+    if (std::find(m_running.begin(), m_running.end(), function) != m_running.end())
+        return;
+    m_running.push_back(function);
+    function->start();
+}
+
+void UniTask::end(TaskFunction *function, Keep keep)
+{
+    const auto found = std::find(m_running.begin(), m_running.end(), function);
+    if (found == m_running.end())
+        return;
+    m_running.erase(found);
+    function->stop(keep);
+}
+
+template <typename Hear> void UniTask::tell(const Hear &hear)
+{
+    const std::vector<TaskFunction *> now = m_running;
+    for (TaskFunction *function : now) {
+        if (std::find(m_running.begin(), m_running.end(), function) != m_running.end())
+            hear(*function);
+    }
+}
+
+void UniTask::storeEvents(EventChoice choice)
+{
+    m_recorder.storeEvents(choice);
+    m_monitor.storeEvents(choice);
+}
+
+void UniTask::startBaseTimer()
+{
+    m_energy.resume();
+    beginFunctions();
+}
+
+void UniTask::stopBaseTimer()
+{
+    endFunctions(Keep::Data);
+    m_data.finish();
+}
+
+void UniTask::save(bool keep)
+{
+    // Basic measuring keeps nothing itself, and goes on where only its recording ends.
+    if (m_function != UniBasic)
+        endFunctions(keep ? Keep::Data : Keep::Nothing);
+}
+
+void UniTask::saveRecord(bool) { }
+
+void UniTask::initRecording() { }
+
+// Live records
 
 const DisplayRecords &UniTask::live() const
 {
@@ -98,131 +214,6 @@ void UniTask::holdRecords()
     m_data.hold();
 }
 
-void UniTask::continueRecords()
-{
-    m_data.run();
-}
-
-void UniTask::initLimitsData()
-{
-    m_dipTrendLimit = DipSwellInfo::m_rms_numb_per_sec * 60;
-    m_inrushTrendLimit = InrushInfo::m_rms_numb_per_sec * InrushInfo::m_dura_time[InrushInfo::m_duration_index].seconds;
-}
-
-void UniTask::initUniFunction(AbstractTask::UniFunction function)
-{
-    const ChannelSet *set = m_settingConfig_g.channels();
-    m_channels = set ? set->taskPhases : 3;
-    m_data.events().clear();
-    m_function = function;
-    // The set-up of the recording functions comes with their files.
-    switch (function) {
-    case UniWave:
-        setTaskLifeCycle(WaveInfo::m_begain_time, -1);
-        break;
-    case UniMonitor:
-        setTaskLifeCycle(MonitorInfo::m_begain_time, monitorSeconds(MonitorInfo::m_duration));
-        break;
-    case UniPowerInverter:
-        QV_TRACE("task/unitask") << "Uni_PowerInverter";
-        initPowerInverterData();
-        setTaskLifeCycle(0, -1);
-        break;
-    case UniBasic:
-    case UniLogger: // it ends by the user's key
-        setTaskLifeCycle(0, -1);
-        break;
-    }
-}
-
-void UniTask::initPowerInverterData()
-{
-    // Its record is derived from the live ones with each aggregation: there is nothing to hold for it.
-    QV_TRACE("task/unitask") << "initPowerInverterData";
-}
-
-void UniTask::setFiles(Pqa2FF *common, Pqa2FF *monitor)
-{
-    m_commonFile = common;
-    m_monitorFile = monitor;
-}
-
-void UniTask::startBaseTimer()
-{
-    m_lastTime = Clock::timeOfDay();
-}
-
-void UniTask::stopBaseTimer()
-{
-    m_data.finish();
-}
-
-void UniTask::save(bool)
-{
-    if (m_function == UniMonitor)
-        saveAllEvents();
-}
-
-void UniTask::saveRecord(bool) { }
-
-void UniTask::initRecording() { }
-
-void UniTask::datagramAggregation(const QByteArray &bytes)
-{
-    const Call call(this);
-    if (!DataTypes::fits(DatagramAggregation, bytes))
-        return;
-    DataTypes::datagramAggregation(m_aggregation.get(), bytes.constData(), { m_scales, m_settingConfig_g.derived() });
-
-    if (!isLive()) {
-        startRecordTimer(quint64(m_aggregation->time));
-        m_lastTime = Clock::timeOfDay();
-        m_energyMicroseconds = 0;
-        m_aggregationFresh = false;
-        return;
-    }
-
-    const float signedFrequency = m_aggregation->frequency;
-    m_aggregation->frequency = std::fabs(signedFrequency);
-    integrateEnergy();
-    feedDisplayRecords(signedFrequency);
-    m_aggregationFresh = true;
-    emit aggregationTaken(m_aggregation.get());
-}
-
-void UniTask::integrateEnergy()
-{
-    const timeval now = Clock::timeOfDay();
-    const qint64 elapsed
-        = (qint64(now.tv_sec) - m_lastTime.tv_sec) * 1'000'000 + (qint64(now.tv_usec) - m_lastTime.tv_usec);
-    m_lastTime = now;
-    if (elapsed < 0 || elapsed > kLongestGap)
-        return;
-
-    __power_data &power = m_data.live().power;
-    m_energyMicroseconds += elapsed;
-    while (m_energyMicroseconds > 999'999) {
-        m_energyMicroseconds -= 1'000'000;
-        ++m_energySeconds;
-        if (++power.seconds <= 59)
-            continue;
-        power.seconds = 0;
-        if (++power.minutes <= 59)
-            continue;
-        power.minutes = 0;
-        ++power.hours;
-    }
-
-    const float hours = float(double(elapsed) / 3.6e9);
-    for (int c = 0; c < kChannels; ++c) {
-        const PowerRow &row = m_aggregation->power[c];
-        EnergyRow &energy = m_aggregation->energy[c];
-        energy.active += double(hours * row.active);
-        energy.apparent += double(hours * row.apparent);
-        energy.reactive += double(hours * row.reactive);
-    }
-}
-
 void UniTask::feedDisplayRecords(float signedFrequency)
 {
     DisplayRecords &live = m_data.live();
@@ -232,24 +223,6 @@ void UniTask::feedDisplayRecords(float signedFrequency)
     DisplayFeed::feedHarmonics(*m_aggregation, HarmData::m_harm_max_numb, live.harmonics);
     DisplayFeed::feedUnbalance(*m_aggregation, live.unbalance);
     DisplayFeed::feedMainsSignal(*m_aggregation, signedFrequency, live.mainsSignal);
-    if (m_function == UniPowerInverter)
-        InverterFeed::feed(live.vif, live.power, singleOrThree != 0, inverterOutputs(), live.inverter);
-}
-
-void UniTask::appendSecondTrends()
-{
-    const bool inverter = m_function == UniPowerInverter;
-    if ((m_function != UniBasic && !inverter) || m_energySeconds == m_trendSecond)
-        return;
-    m_trendSecond = m_energySeconds;
-    DisplayRecords &live = m_data.live();
-    if (inverter) {
-        InverterFeed::appendTrends(inverterOutputs(), live.inverter);
-        return;
-    }
-    DisplayFeed::trendVif(live.vif);
-    DisplayFeed::trendPower(live.power);
-    DisplayFeed::trendMainsSignal(live.mainsSignal);
 }
 
 void UniTask::updatedata()
@@ -294,4 +267,125 @@ void UniTask::resetEnergy()
     for (int c = 0; c < kChannels; ++c)
         power.activeEnergy[c] = power.apparentEnergy[c] = power.reactiveEnergy[c] = 0;
     emit updateDisplay(nullptr);
+}
+
+// Datagrams
+
+void UniTask::datagramAggregation(const QByteArray &bytes)
+{
+    const Call call(this);
+    if (!DataTypes::fits(DatagramAggregation, bytes))
+        return;
+    DataTypes::datagramAggregation(m_aggregation.get(), bytes.constData(), { m_scales, m_settingConfig_g.derived() });
+
+    if (!isLive()) {
+        startRecordTimer(quint64(m_aggregation->time));
+        m_energy.restart();
+        m_aggregationFresh = false;
+        return;
+    }
+
+    const float signedFrequency = m_aggregation->frequency;
+    m_aggregation->frequency = std::fabs(signedFrequency);
+    m_energy.count(*m_aggregation, m_data.live().power);
+    feedDisplayRecords(signedFrequency);
+    m_aggregationFresh = true;
+    emit aggregationTaken(m_aggregation.get());
+}
+
+void UniTask::tellAggregation()
+{
+    tell([this](TaskFunction &function) { function.aggregation(*m_aggregation); });
+    if (m_toldSecond == m_energy.seconds())
+        return;
+    m_toldSecond = m_energy.seconds();
+    tell([](TaskFunction &function) { function.second(); });
+}
+
+void UniTask::datagramRMS_1_2(const QByteArray &bytes)
+{
+    const Call call(this);
+    if (!DataTypes::fits(DatagramRMS_1_2, bytes))
+        return;
+    DataTypes::datagramRMS_1_2(m_rms.get(), bytes.constData(), m_settingConfig_g.derived().scales);
+    if (!isLive())
+        return;
+    m_halfCycleTrends.push(*m_rms, m_channels, m_data.live().mainsSignal);
+    checkHalfCycles();
+    m_halfCycleTrends.drain(m_channels, trendLimits(), m_data.live());
+    tell([this](TaskFunction &function) { function.halfCycles(*m_rms); });
+}
+
+void UniTask::checkHalfCycles()
+{
+    int entries = kRmsEntries;
+    for (int c = 0; c < m_channels; ++c)
+        entries = std::min({ entries, int(m_rms->voltage[c].count), int(m_rms->current[c].count) });
+
+    QList<_value_with_time> values;
+    values.reserve(2 * kChannels);
+    // An event may end the measurement: what came behind it is not looked at.
+    for (int i = 0; i < entries && isLive(); ++i) {
+        values.clear();
+        for (const RmsSeries &series : m_rms->voltage)
+            values.append(series.entry[i]);
+        for (const RmsSeries &series : m_rms->current)
+            values.append(series.entry[i]);
+        m_events->checkPowerEvents(values);
+    }
+}
+
+void UniTask::datagramWave(const QByteArray &bytes)
+{
+    const Call call(this);
+    if (!DataTypes::fits(DatagramWave, bytes))
+        return;
+    DataTypes::datagramWave(m_wave.get(), bytes.constData());
+    recordTimer(quint64(m_wave->time));
+    if (!isLive())
+        return;
+    // Used up by this datagram, however many ask for a new aggregation.
+    if (std::exchange(m_aggregationFresh, false))
+        tellAggregation();
+    captureTransient();
+    const QList<EventWave> complete = m_eventWaves.take(*m_wave);
+    if (const ChannelSet *wiring = m_settingConfig_g.channels()) {
+        for (const EventWave &wave : complete)
+            tell([&wave, wiring](TaskFunction &function) { function.eventWave(wave, *wiring); });
+    }
+    tell([this](TaskFunction &function) { function.wave(*m_wave); });
+    emit waveTaken(m_wave.get());
+}
+
+void UniTask::captureTransient()
+{
+    const int code = TransientCutter::channelCode(m_wave->transient);
+    if (!transientCodeCounts(m_settingConfig_g.getJoinMode(), code))
+        return;
+
+    __trans_data &record = m_data.live().transient; // until the next refresh puts the running waveform there
+    record.number = ++m_transientNumber;
+    record.frequency = std::fabs(m_aggregation->frequency);
+    for (int c = 0; c < kChannels; ++c)
+        record.rms[c] = m_aggregation->channel[c].voltage;
+    TransientCutter::cut(*m_wave, record);
+    m_data.transients().append(record);
+    tell([&record](TaskFunction &function) { function.transient(record); });
+    emit hasTransEvents();
+    emit transientTaken(&record);
+}
+
+void UniTask::datagramFlicker(const QByteArray &bytes)
+{
+    const Call call(this);
+    if (!DataTypes::fits(DatagramFlicker, bytes))
+        return;
+    DataTypes::datagramFlicker(m_flicker.get(), bytes.constData());
+    if (!isLive())
+        return;
+    // Each function puts the head of its own file before the blocks.
+    const FlickerOutput out = m_flickerProcessor->process(*m_flicker, QByteArray(), m_data.live().flicker);
+    tell([this, &out](TaskFunction &function) { function.flicker(*m_flicker, out); });
+    if (m_servesFlicker)
+        emit flickerTaken();
 }

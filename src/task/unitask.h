@@ -3,35 +3,37 @@
 #include "model/datagramrecords.h"
 #include "settings/derived.h"
 #include "task/abstracttask.h"
+#include "task/energymeter.h"
 #include "task/eventwave.h"
-#include "task/rmsring.h"
+#include "task/functions/inverterfunction.h"
+#include "task/functions/monitorfunction.h"
+#include "task/functions/recorderfunction.h"
+#include "task/functions/secondtrends.h"
+#include "task/halfcycletrends.h"
 
 #include <QByteArray>
-#include <QList>
 
 #include <memory>
-#include <sys/time.h>
+#include <vector>
 
 class FlickerProcessor;
 class LiveData;
-struct DisplayRecords;
-class Pqa2FF;
 class PowerEvents;
-struct PQAEventItem;
-struct __trans_data;
 
-/// The one concrete task: it receives every datagram, decodes it, fills the live records and feeds the active function.
-/// Datagrams are queued calls on the main thread, so its slots, timers and key handling never overlap.
+/// The one concrete task: it receives every datagram, decodes it, keeps the live records fresh and hands on what
+/// arrived to the functions that run (task/functions/). Datagrams are queued calls on the main thread, so its slots,
+/// timers and key handling never overlap.
 class UniTask : public AbstractTask
 {
     Q_OBJECT
 
 public:
-    /// \a data, whose live records the task writes, outlives it.
+    /// \a data, whose live records and lists the task writes, outlives it.
     explicit UniTask(LiveData &data, QObject *parent = nullptr);
     ~UniTask() override;
 
     QString getTaskName() override { return QStringLiteral("Power Quality"); }
+    /// Ends what runs beside basic measuring.
     void save(bool keep) override;
     /// Ends the recording's files; without a recorder there are none.
     void saveRecord(bool keep);
@@ -41,7 +43,7 @@ public:
     void initUniFunction(AbstractTask::UniFunction function);
     AbstractTask::UniFunction getUniFunction() const { return m_function; }
     int channels() const { return m_channels; }
-    int energySeconds() const { return m_energySeconds; }
+    int energySeconds() const { return m_energy.seconds(); }
 
     const __datagram_aggregation &aggregation() const { return *m_aggregation; }
     const __datagram_rms &halfCycles() const { return *m_rms; }
@@ -49,15 +51,16 @@ public:
     /// The records that it writes, whatever the pages show.
     const DisplayRecords &live() const;
 
-    /// Heads of all events to the files that are open.
-    void saveAllEvents();
-    /// Events that ended, with their curves, and the transients captured so far.
-    void saveFinishedEvents();
-    /// Events still running.
-    void saveUnFinishedEvents();
-
-    /// Files that the recording functions open; null or closed: nothing is stored.
-    void setFiles(Pqa2FF *common, Pqa2FF *monitor);
+    /// Runs while basic measuring runs and the recording window is open.
+    RecorderFunction &recorder() { return m_recorder; }
+    MonitorFunction &monitor() { return m_monitor; }
+    /// Lets \a function run from now to the end of the run, beside those that run already; it outlives the task. One
+    /// that runs goes on undisturbed.
+    void begin(TaskFunction *function);
+    /// Ends a function; harmless for one that does not run.
+    void end(TaskFunction *function, Keep keep);
+    /// The events so far go to the files that are open.
+    void storeEvents(EventChoice choice);
 
 public slots:
     void updatedata() override;
@@ -70,9 +73,8 @@ public slots:
     void resetEnergy();
     void startBaseTimer();
     void stopBaseTimer();
-    void eventFinishedWithRMS(const PQAEventItem &event);
-    /// The waveform around \a time (ms since 1970) is wanted for the recorder.
-    void changeEventsWave(long long time);
+    /// The waveform around \a time (ms since 1970) is wanted.
+    void changeEventsWave(long long time) { m_eventWaves.want(time); }
 
 signals:
     void updateDisplay(void *);
@@ -86,27 +88,28 @@ signals:
     void eventTableChanged(const QByteArray &table);
 
 private:
-    void initLimitsData();
     bool isLive() const { return isTaskRunning() || isTaskPaused(); }
+    void connectDetector();
+    void connectStates();
 
-    // unitask.cpp
-    void integrateEnergy();
-    void feedDisplayRecords(float signedFrequency);
-    void appendSecondTrends();
-    void initPowerInverterData();
+    // Functions
+    /// The one that \a function runs beside the live records; null: none.
+    TaskFunction *functionOf(AbstractTask::UniFunction function);
+    void beginFunctions();
+    void endFunctions(Keep keep);
+    /// Calls \a hear of each function that runs. One may end itself, the others or the task meanwhile.
+    template <typename Hear> void tell(const Hear &hear);
+
+    // Live records
     void beginRecords();
     void holdRecords();
-    void continueRecords();
+    void feedDisplayRecords(float signedFrequency);
     void copyScope();
-    // unitask_events.cpp
-    void pushHalfCycles();
+
+    // Datagrams
     void checkHalfCycles();
-    void drainRings();
-    void saveEvents(bool finished);
-    // unitask_wave.cpp
+    void tellAggregation();
     void captureTransient();
-    void fillEventWaves();
-    static QByteArray transientBlock(const __trans_data &record);
 
     LiveData &m_data;
     const ScaleTable m_scales; // of aggregations: as the settings stood when the task was made
@@ -116,20 +119,20 @@ private:
     std::unique_ptr<__datagram_flicker> m_flicker;
     PowerEvents *m_events = nullptr; // child of this task
     std::unique_ptr<FlickerProcessor> m_flickerProcessor;
-    Pqa2FF *m_commonFile = nullptr;
-    Pqa2FF *m_monitorFile = nullptr;
+    HalfCycleTrends m_halfCycleTrends;
+    EnergyMeter m_energy;
+    EventWaveQueue m_eventWaves;
 
-    QList<EventWave> m_eventWaves; // oldest first
-    RmsRing m_rings[2 * kChannels]; // voltages, then currents
-    int m_dipTrendLimit = 0; // values
-    int m_inrushTrendLimit = 0; // values
+    SecondTrends m_trends;
+    InverterFunction m_inverter;
+    MonitorFunction m_monitor;
+    RecorderFunction m_recorder;
+    std::vector<TaskFunction *> m_running;
 
     qint32 m_channels = 3; // measured phases
     AbstractTask::UniFunction m_function = UniBasic;
-    timeval m_lastTime = {}; // local time of the last aggregation datagram
-    qint32 m_energySeconds = 0; // whole seconds of energy counting
-    qint64 m_energyMicroseconds = 0; // rest below a second
-    qint32 m_trendSecond = 0; // m_energySeconds at the last trend point
-    bool m_aggregationFresh = false;
+    bool m_servesFlicker = true; // the function's plan
+    bool m_aggregationFresh = false; // one came that no waveform followed yet
+    qint32 m_toldSecond = 0; // of the energy counting
     qint32 m_transientNumber = 0;
 };

@@ -1,28 +1,14 @@
 #include "unit/wildfloats.h"
 #include "model/pqaeventitem.h"
 #include "settings/recordinfo.h"
-#include "platform/target.h"
-#include "record/pqa2ff.h"
-#include "unit/record/readblocks.h"
+#include "storedblocks.h"
 #include "unitaskcase.h"
 
-#include <QFile>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <cmath>
 #include <limits>
-
-namespace {
-
-/// The blocks of a file behind those that every file opens with.
-QList<ReadBlock> storedBlocks(const Pqa2FF &file)
-{
-    QFile stored(Target::path(file.fullFilePath()));
-    return stored.open(QIODevice::ReadOnly) ? readBlocks(stored.readAll()).mid(3) : QList<ReadBlock>();
-}
-
-} // namespace
 
 /// Half cycles, transients, flicker, what is stored of them, and payloads of any bytes.
 class TstUniTaskStream : public QObject
@@ -57,6 +43,12 @@ private:
     {
         m_task->initUniFunction(AbstractTask::UniBasic);
         m_task->startTask();
+    }
+    /// Files that the recording functions write; null: none.
+    void setFiles(Pqa2FF *common, Pqa2FF *monitor)
+    {
+        m_task->recorder().commonFile().set(common);
+        m_task->monitor().file().set(monitor);
     }
     std::unique_ptr<UniTask> m_task;
 };
@@ -330,11 +322,11 @@ void TstUniTaskStream::recordersStoreTransientAndEvents()
     Pqa2FF monitor("/tmp/monitor.pqa2");
     if (!common.open() || !monitor.open())
         QFAIL("no room for the files");
-    m_task->setFiles(&common, &monitor);
-    m_task->saveUnFinishedEvents(); // the dip runs and has no curves yet: no record but an empty block
-    m_task->saveFinishedEvents();
-    m_task->saveAllEvents();
-    m_task->setFiles(nullptr, nullptr);
+    setFiles(&common, &monitor);
+    m_task->storeEvents(EventChoice::Unfinished); // the dip runs and has no curves yet: no record but an empty block
+    m_task->storeEvents(EventChoice::Finished);
+    m_task->storeEvents(EventChoice::All);
+    setFiles(nullptr, nullptr);
 
     const QList<ReadBlock> recorded = storedBlocks(common);
     QCOMPARE(recorded.size(), 3);
@@ -358,7 +350,7 @@ void TstUniTaskStream::recorderStoresTheWaveformOfAnEvent()
     if (!common.open())
         QFAIL("no room for the file");
     start();
-    m_task->setFiles(&common, nullptr);
+    setFiles(&common, nullptr);
     m_task->startRecordTask();
     const qint64 before = common.size();
     m_task->datagramRMS_1_2(halfCycles(10, 1.5f, 0.001f).bytes()); // a dip
@@ -377,7 +369,7 @@ void TstUniTaskStream::recorderStoresTheWaveformOfAnEvent()
     m_task->startRecordTask();
     m_task->datagramWave(wave(0, kNow + 700).bytes());
     QCOMPARE(common.size() - before, 12 + 8 + 8 * 4096);
-    m_task->setFiles(nullptr, nullptr);
+    setFiles(nullptr, nullptr);
     QCOMPARE(storedBlocks(common).first().type, 0xA100002Au);
 }
 
@@ -401,7 +393,7 @@ void TstUniTaskStream::flickerValuesGoToTheFileOfTheFunction()
     Pqa2FF monitor("/tmp/monitor.pqa2");
     if (!common.open() || !monitor.open())
         QFAIL("no room for the files");
-    m_task->setFiles(&common, &monitor);
+    setFiles(&common, &monitor);
     m_task->initUniFunction(AbstractTask::UniFunction(function));
     m_task->startTask();
     RecordInfo::m_recordItems = RecordInfo::Flicker;
@@ -416,7 +408,7 @@ void TstUniTaskStream::flickerValuesGoToTheFileOfTheFunction()
             p.set(word, float(kInterval - i % kInterval));
         m_task->datagramFlicker(p.set(1502, 500u).bytes());
     }
-    m_task->setFiles(nullptr, nullptr);
+    setFiles(nullptr, nullptr);
     RecordInfo::m_recordItems = RecordInfo::Frequency10s;
 
     const bool monitoring = function == AbstractTask::UniMonitor;
