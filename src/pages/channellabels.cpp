@@ -32,15 +32,6 @@ const ChannelSet &channels()
     return set ? *set : none;
 }
 
-LabelRow namedRow(const QWidget *form, const char *prefix)
-{
-    LabelRow row;
-    for (int c = 0; c < kChannels; ++c)
-        row[c] = form->findChild<QLabel *>(
-            QStringLiteral("%1_%2").arg(QLatin1String(prefix), QLatin1String(kSuffixes[c])));
-    return row;
-}
-
 LabelRow numberedRow(const QWidget *form, const char *pattern)
 {
     LabelRow row;

@@ -20,9 +20,7 @@ using Format = QString (*)(float);
 /// The channels of the wiring in force.
 const ChannelSet &channels();
 
-/// Labels <prefix>_L1, <prefix>_L2, <prefix>_L3, <prefix>_N of a form; a missing one stays null.
-LabelRow namedRow(const QWidget *form, const char *prefix);
-/// Labels by number: "%1" of \a pattern is 1 to 4.
+/// Labels of a form by number: "%1" of \a pattern is 1 to 4; a missing one stays null.
 LabelRow numberedRow(const QWidget *form, const char *pattern);
 
 /// Column headers: "L1" and so on, or "L12" and so on in a delta wiring, in the colours of the phases.

@@ -19,8 +19,3 @@ float RmsRing::rms_data_extract()
         rmsfifoIncBottom();
     return value;
 }
-
-void RmsRing::clear()
-{
-    m_top = m_bottom = 0;
-}

@@ -1,7 +1,7 @@
 #pragma once
 
 /// Ring of half-cycle r.m.s. values of one input, between the datagram and the trends.
-/// As required, a full ring reads as empty: the count is write minus read, plus the size if negative.
+/// Kept: a full ring reads as empty: the count is write minus read, plus the size if negative.
 class RmsRing
 {
 public:
@@ -11,7 +11,6 @@ public:
     int rmsfifoCount() const;
     /// Takes the oldest value out. With an empty ring it returns what stands at the read position and stays empty.
     float rms_data_extract();
-    void clear();
 
 private:
     static int next(int index) { return index + 1 == kSize ? 0 : index + 1; }
