@@ -17,7 +17,7 @@ class UsbDisks
 public:
     explicit UsbDisks(const QString &root);
 
-    /// \a capacity in bytes, 0: no limit told. Empty on success, otherwise why not.
+    /// \a capacity in bytes, 0: no limit given. Empty on success, otherwise why not.
     QString insert(const QString &name, qint64 capacity);
     QString pull(const QString &name);
 

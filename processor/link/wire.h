@@ -35,7 +35,7 @@ enum class Kind : quint8 {
 
 constexpr int kStampWords = 2; // words that the receiver itself puts in front of the payload
 
-/// What both ends know of a kind without its being told on the wire.
+/// What both ends know of a kind although the wire does not carry it.
 struct KindInfo
 {
     Kind kind;

@@ -76,7 +76,7 @@ struct SignallingSpec
     double periodSeconds = 0.0; ///< from burst to burst; 0: a single burst
 };
 
-/// Something that happens at a moment. Which members count is told at each kind; the others are left alone.
+/// Something that happens at a moment. Which members count stands at each kind; the others are left alone.
 enum class EventKind {
     Dip, ///< amplitude falls by `percent` of the steady one (40: 60 % are left)
     Swell, ///< amplitude rises by `percent`

@@ -40,7 +40,7 @@ EventSettings eventSettings(const monitor_limit &limits, const EventNominals &no
     settings.frequencyUpper = hertz + ofHertz(limits.frequency.partialUpper);
     settings.frequencyLower = hertz - ofHertz(limits.frequency.partialLower);
     settings.voltageUpper = volt + ofVolt(limits.voltage.partialUpper);
-    // As required: the lower percentage is added although the limit stores it as a positive number. With the built-in
+    // Kept: the lower percentage is added although the limit stores it as a positive number. With the built-in
     // sets both thresholds are equal, and any voltage but that one is outside.
     settings.voltageLower = volt + ofVolt(limits.voltage.partialLower);
     settings.unbalanceLimit = limits.neg.partial;

@@ -99,7 +99,7 @@ FlickerOutput FlickerProcessor::process(const __datagram_flicker &record, const 
     for (int i = 0; i < kFlickerPhases; ++i) {
         if (m_phase[i].interval.size() >= kIntervalValues)
             endInterval(i, kNoCap, out, data);
-        // As required: a phase without a new value repeats the last one computed, so that a block has one per phase.
+        // Kept: a phase without a new value repeats the last one computed, so that a block has one per phase.
         shortValues[i] = m_lastPst;
         longValues[i] = m_lastPlt;
     }

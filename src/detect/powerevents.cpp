@@ -87,7 +87,7 @@ void PowerEvents::checkPowerEvents(const QList<_value_with_time> &values)
     for (int i = 0; i < kEventPhases && i < values.size(); ++i)
         m_rvc[i].rvc_fifo_push(values.at(i));
 
-    // As required: a join mode that is none counts no phases, and with them every phase as interrupted.
+    // Kept: a join mode that is none counts no phases, and with them every phase as interrupted.
     constexpr ChannelSet kNoWiring = {};
     const ChannelSet *known = channelSet(joinMode());
     const ChannelSet &wiring = known ? *known : kNoWiring;
@@ -105,7 +105,7 @@ void PowerEvents::checkPowerEvents(const QList<_value_with_time> &values)
 
 void PowerEvents::appendHistory(const Samples &values)
 {
-    // As required: one sample goes at a call, and only the first input is measured.
+    // Kept: one sample goes at a call, and only the first input is measured.
     const std::deque<_value_with_time> &first = m_history[0];
     if ((first.size() >= 2 && quint64(first.back().time) - quint64(first.front().time) > kHistorySpan)
         || first.size() >= kHistoryLimit) {

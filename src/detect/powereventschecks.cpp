@@ -76,7 +76,7 @@ int PowerEvents::startDipOrInterruption(int n, const Samples &values)
     if (m_counter > kEventLimit)
         return 0;
     bool below = false;
-    bool allInterrupted = true; // As required: a wiring without phases counts as interrupted.
+    bool allInterrupted = true; // Kept: a wiring without phases counts as interrupted.
     Extreme minimum { values.at(0).value, 0 };
     for (int i = 0; i < n; ++i) {
         const float value = values.at(i).value;

@@ -119,7 +119,7 @@ void RvcFifo::watch()
     const float sample = m_value[size_t(m_last)];
     const qint64 time = m_time[size_t(m_last)];
     if (sample > m_reference * (1.0f - m_band) && sample < m_reference * (1.0f + m_band)) {
-        // As required: reference minus sample, unsigned. Every later sample passes, so the reference follows the
+        // Kept: reference minus sample, unsigned. Every later sample passes, so the reference follows the
         // window at each half cycle.
         if (quint64(m_referenceTime) - quint64(time) > m_windowTime) {
             m_reference = window.mean;

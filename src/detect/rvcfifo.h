@@ -37,7 +37,7 @@ public:
     /// Appends a sample; the header gives way when the ring is full.
     void rvc_fifo_push(const _value_with_time &sample);
 
-    /// Looks at the newest sample. True when a step is to be recorded, told in *change.
+    /// Looks at the newest sample. True when a step is to be recorded, which then stands in *change.
     /// With mayRecord false a settled change is left standing, and nothing moves.
     bool rvc_events_loop(const RvcLimits &limits, bool mayRecord, RvcChange *change);
 

@@ -18,7 +18,7 @@ struct DatagramKind
 constexpr DatagramKind kDatagramKinds[] = {
     { DatagramAggregation, "datagramAggregation", Link::kAggregationWords, 0, true },
     { DatagramRMS_1_2, "datagramRMS_1_2", Link::kRmsWords, 0, true },
-    { DatagramTransient, "datagramTransient", Link::kTransientWords, 0, false }, // As required: assembled, not emitted
+    { DatagramTransient, "datagramTransient", Link::kTransientWords, 0, false }, // Kept: assembled, not emitted
     { DatagramWave, "datagramWave", Link::kWaveWords, 0, true },
     { DatagramFlicker, "datagramFlicker", Link::kFlickerWords, 0, true },
     { DatagramFirmwareInfo, "datagramFirmwareInfo", Link::kFirmwareInfoWords, 4 * Link::kTimeWords, true },

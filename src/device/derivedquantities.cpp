@@ -21,7 +21,7 @@ double DataTypes::plt(const QList<float> *values, unsigned int n)
     double sum = 0.0;
     for (unsigned int i = 0; i < std::min(n, static_cast<unsigned int>(values->size())); ++i)
         sum += std::pow(double(values->at(static_cast<int>(i))), 3.0);
-    // As required: 0 / 0 gives a NaN for no values.
+    // Kept: 0 / 0 gives a NaN for no values.
     const double mean = n == 0 ? std::numeric_limits<double>::quiet_NaN() : sum / n;
     return std::pow(mean, 0.3333333333333333);
 }

@@ -316,7 +316,7 @@ bool DeviceDSP::beginsDatagram(quint32 flag)
     }
     g_store.id = id;
     g_store.type = static_cast<quint8>(g_head.type);
-    // As required: an unknown kind keeps the length of the datagram before; it is dropped when it is whole.
+    // Kept: an unknown kind keeps the length of the datagram before; it is dropped when it is whole.
     if (g_store.type < kDatagramKindCount)
         g_store.wordCount = kDatagramKinds[g_store.type].words;
     if (g_store.type == DatagramRMS_1_2)
@@ -333,7 +333,7 @@ bool DeviceDSP::storePayload(quint32 flag)
 {
     if (flag & kFirstPackage) {
         const bool single = flag & kLastPackage;
-        // As required: a single package counts all words of its kind as payload, the two time words with them. What
+        // Kept: a single package counts all words of its kind as payload, the two time words with them. What
         // lies behind the package's end keeps the store's old contents.
         const int words = single ? int(g_store.wordCount) : int(Link::kFirstPayloadWords);
         storeWords(Link::kFirstHeadBytes, words);
@@ -378,7 +378,7 @@ void DeviceDSP::checkClock()
     }
     const quint32 seconds = g_head.seconds;
     if (seconds <= kClockIsSet) {
-        // As required: the count runs on below 1, so a clock set later is looked at with BDS time or after a write.
+        // Kept: the count runs on below 1, so a clock set later is looked at with BDS time or after a write.
         countDown();
         return;
     }
@@ -414,7 +414,7 @@ void DeviceDSP::RecvStop()
 void DeviceDSP::writeNode(const void *data, int len)
 {
     const ssize_t written = ::write(m_fd, data, static_cast<size_t>(len));
-    Q_UNUSED(written) // As required: the link has no acknowledgement, and a failed write goes unnoticed
+    Q_UNUSED(written) // Kept: the link has no acknowledgement, and a failed write goes unnoticed
 }
 
 void DeviceDSP::DSPWrite(const void *data, int len)

@@ -23,7 +23,7 @@ public:
 signals:
     void datagramAggregation(__datagramtype type, const QByteArray &datagram);
     void datagramRMS_1_2(__datagramtype type, const QByteArray &datagram);
-    void datagramTransient(__datagramtype type, const QByteArray &datagram); // As required: never emitted
+    void datagramTransient(__datagramtype type, const QByteArray &datagram); // Kept: never emitted
     void datagramWave(__datagramtype type, const QByteArray &datagram);
     void datagramFlicker(__datagramtype type, const QByteArray &datagram);
     void datagramFirmwareInfo(__datagramtype type, const QByteArray &datagram); // without the time stamp
@@ -32,7 +32,7 @@ signals:
     void dspTimeStamp(quint32 seconds);
     /// The processor's time comes from its BDS receiver; the value is its word of the head, never 0.
     void usingBDS(quint32 word);
-    void dspUpdateStatus(int status, quint32 value); // As required: declared and relayed, never emitted
+    void dspUpdateStatus(int status, quint32 value); // Kept: declared and relayed, never emitted
     /// The node had gone and is open again: the processor must be set up anew.
     void reopened();
 
@@ -85,7 +85,7 @@ private:
     quint32 m_updateWord = 0; // second word of the last update frame
     quint8 m_clockUpdated = 0;
     quint8 m_waitFirst = 1; // the next package must begin a datagram
-    quint8 m_setupAcked = 0; // As required: nothing sets it
+    quint8 m_setupAcked = 0; // Kept: nothing sets it
     quint8 m_setupPending = 0;
     qint32 m_setupRetries = 0;
     char m_setupFrame[104] = {};

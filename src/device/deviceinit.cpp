@@ -106,7 +106,7 @@ void DeviceInit::setADSPHWClock(const QByteArray &bytes)
     QByteArray &frame = places.next();
     ControlFrame::appendWord(frame, ControlFrame::kStart);
     ControlFrame::appendWord(frame, ControlFrame::SetClock);
-    frame.append(bytes); // As required: not escaped
+    frame.append(bytes); // Kept: not escaped
     ControlFrame::appendWord(frame, ControlFrame::kEnd);
     send(frame);
 }

@@ -35,7 +35,7 @@ void DisplayScale::chooseVolt(DisplayUnits &units, float fullScale)
 
 void DisplayScale::chooseAmpere(DisplayUnits &units, float fullScale)
 {
-    // As required: the reverse of the other quantities.
+    // Kept: the reverse of the other quantities.
     static const Prefix mega = { "M", 1e-6 };
     static const Prefix kilo = { "k", 0.001 };
     static const Prefix none = { "", 1.0 };

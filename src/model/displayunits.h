@@ -23,7 +23,7 @@ struct DisplayUnits
 namespace DisplayScale {
 /// Takes the voltage unit for `fullScale` volts.
 void chooseVolt(DisplayUnits &units, float fullScale);
-/// Takes the current unit. As required: the larger prefix belongs to the smaller number, since `fullScale` is the
+/// Takes the current unit. Kept: the larger prefix belongs to the smaller number, since `fullScale` is the
 /// clamp's ratio (uV/A) over the current ratio.
 void chooseAmpere(DisplayUnits &units, float fullScale);
 /// Takes the six power and energy units for `fullScale` (product of the two numbers above).

@@ -16,7 +16,7 @@ struct EventKinds
 };
 constexpr EventKinds kAllEvents = { std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max() };
 
-/// The events of some kinds out of a list, in their order: it keeps their places and no copy. It must be told of
+/// The events of some kinds out of a list, in their order: it keeps their places and no copy. It must hear of
 /// changes; until then it shows the events that it knew, as they are now, and none when the list was emptied. Main
 /// thread only.
 class EventSelection

@@ -107,14 +107,14 @@ void LineOutput::write(const char *text, size_t size)
     size_t restSize = m_rest.size();
     bool goes = restSize == 0 || writePart(&rest, &restSize);
     m_rest.erase(0, m_rest.size() - restSize);
-    if (goes && m_dropped != m_droppedTold) {
-        char told[80];
-        const int length = snprintf(told, sizeof told, "%llu lines were dropped: the output stood still\n",
-                                    m_dropped - m_droppedTold);
+    if (goes && m_dropped != m_droppedReported) {
+        char notice[80];
+        const int length = snprintf(notice, sizeof notice, "%llu lines were dropped: the output stood still\n",
+                                    m_dropped - m_droppedReported);
         const unsigned long long dropped = m_dropped;
-        goes = writeWhole(told, size_t(length));
+        goes = writeWhole(notice, size_t(length));
         if (goes)
-            m_droppedTold = dropped;
+            m_droppedReported = dropped;
     }
     if (!goes || !m_rest.empty() || !writeWhole(text, size))
         ++m_dropped;

@@ -46,5 +46,5 @@ private:
     int m_twin = -1; // the same pipe or terminal, opened anew so that writes to it never wait
     std::string m_rest; // of a text that was taken in part
     unsigned long long m_dropped = 0;
-    unsigned long long m_droppedTold = 0; // of these the count was printed
+    unsigned long long m_droppedReported = 0; // of these the count was printed
 };

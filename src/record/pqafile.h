@@ -32,7 +32,7 @@ static_assert(offsetof(__pqa_file_header, imageSize) == 24 && offsetof(__pqa_fil
 static_assert(sizeof(__pqa_file_header) == 40, "the picture starts at byte 40");
 
 /// Stores a page as a picture of the screen, or as a data file of that picture with the page's record. Both are built
-/// in "/tmp"; the one asked for is copied to the storage. No failure is told: a full disk ends in a short file. GUI
+/// in "/tmp"; the one asked for is copied to the storage. No failure is reported: a full disk ends in a short file. GUI
 /// thread.
 class PqaFile
 {

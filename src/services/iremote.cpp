@@ -53,7 +53,7 @@ sockaddr_in unpackAddress(quint64 packed)
     return address;
 }
 
-// As required: an instrument without its remote control ends at once. Other threads run, so nothing is torn down.
+// Kept: an instrument without its remote control ends at once. Other threads run, so nothing is torn down.
 [[noreturn]] void endProcess(const char *text)
 {
     LineOutput::print("%s", text);
@@ -124,7 +124,7 @@ quint16 IRemote::port()
 
 void *IRemote::threadUdpRecv(void *self)
 {
-    // As required: signals 12 and 14 belong to the main thread.
+    // Kept: signals 12 and 14 belong to the main thread.
     sigset_t blocked;
     sigemptyset(&blocked);
     sigaddset(&blocked, 12);
@@ -152,7 +152,7 @@ void IRemote::serve()
     m_socket = descriptor;
     m_port = ntohs(address.sin_port);
 
-    char buffer[kRequestBytes] = {}; // As required: it keeps its bytes from request to request
+    char buffer[kRequestBytes] = {}; // Kept: it keeps its bytes from request to request
     Rest rest;
     for (;;) {
         pollfd waits[2] = { { descriptor, POLLIN, 0 }, { m_wake[0], POLLIN, 0 } };
@@ -242,7 +242,7 @@ void IRemote::respondImage(const QByteArray &png)
     }
 }
 
-// As required: the peer is looked up for each datagram, so that a new request redirects the rest of a picture.
+// Kept: the peer is looked up for each datagram, so that a new request redirects the rest of a picture.
 bool IRemote::sendToPeer(const char *bytes, size_t size) const
 {
     const sockaddr_in peer = unpackAddress(m_clientAddr);

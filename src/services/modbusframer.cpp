@@ -8,12 +8,12 @@ bool ModbusFramer::next(const quint8 **frame, int *length)
     if (!m_broken && have >= kLengthEnd) {
         const quint8 *head = m_bytes + m_start;
         const int protocol = head[2] << 8 | head[3];
-        const int told = head[4] << 8 | head[5];
-        if (protocol != 0 || told < 2 || told > kMostTold) {
+        const int announced = head[4] << 8 | head[5];
+        if (protocol != 0 || announced < 2 || announced > kMostAnnounced) {
             m_broken = true;
-        } else if (have >= kLengthEnd + told) {
+        } else if (have >= kLengthEnd + announced) {
             *frame = head;
-            *length = kLengthEnd + told;
+            *length = kLengthEnd + announced;
             m_start += *length;
             return true;
         }

@@ -10,8 +10,8 @@ class ModbusFramer
 {
 public:
     static constexpr int kHead = 7; // transaction, protocol, length, unit
-    static constexpr int kLengthEnd = 6; // the told length counts from here
-    static constexpr int kMostTold = 254; // unit and a longest request
+    static constexpr int kLengthEnd = 6; // the announced length counts from here
+    static constexpr int kMostAnnounced = 254; // unit and a longest request
     static constexpr int kCapacity = 4096; // bytes
 
     /// Where the next bytes go, and how many fit. Room is left whenever all whole frames were taken.
@@ -22,7 +22,8 @@ public:
 
     /// A whole frame: points to it and tells its length; it stays valid until space() is filled again. None: false.
     bool next(const quint8 **frame, int *length);
-    /// A head that cannot be one of Modbus: protocol not 0, or a told length out of 2 to 254. The connection must end.
+    /// A head that cannot be one of Modbus: protocol not 0, or an announced length out of 2 to 254. The connection must
+    /// end.
     bool isBroken() const { return m_broken; }
     /// Forgets everything, for a new connection.
     void clear();

@@ -65,7 +65,7 @@ void ModbusSlave::clearAllModbusData()
     for (__modbus_data_header *block : modbusBlocks()) {
         const bool big = ModbusRegisters::startsBigBlock(int(block->start));
         const quint32 bytes = block->length * quint32(sizeof(quint16));
-        // As required: of a small block only the first 100 bytes go.
+        // Kept: of a small block only the first 100 bytes go.
         std::memset(block + 1, 0, big ? bytes : qMin(bytes, kClearedBytes));
         if (big)
             setModbusBigData(block);

@@ -49,7 +49,7 @@ QString Config::valueIn(const QByteArray &file, const QString &key)
         int end = file.indexOf('\n', start);
         if (end < 0 || end > size)
             end = size;
-        // As required: the key may stand anywhere in the line, and the last line that holds it wins.
+        // Kept: the key may stand anywhere in the line, and the last line that holds it wins.
         const QByteArray line = QByteArray::fromRawData(file.constData() + start, end - start);
         if (line.contains(wanted)) {
             const int equals = line.indexOf('=');
@@ -64,17 +64,17 @@ QString Config::valueIn(const QByteArray &file, const QString &key)
 QString Config::textWith(const QString &text, const QString &key, const QString &value)
 {
     const QString entry = key + QLatin1Char('=') + oneLine(value);
-    // As required: the first text of a new file begins with an empty line, and has no line feed at its end.
+    // Kept: the first text of a new file begins with an empty line, and has no line feed at its end.
     if (!text.contains(key))
         return text + QLatin1Char('\n') + entry;
     QString rewritten;
     rewritten.reserve(text.size() + entry.size() + 1);
     const auto lines = text.splitRef(QLatin1Char('\n'));
     for (const QStringRef &line : lines) {
-        // As required: lines without "=" are dropped, even one that holds the key.
+        // Kept: lines without "=" are dropped, even one that holds the key.
         if (!line.contains(QLatin1Char('=')))
             continue;
-        // As required: any line that holds the key somewhere becomes the new entry.
+        // Kept: any line that holds the key somewhere becomes the new entry.
         if (line.contains(key))
             rewritten += entry;
         else

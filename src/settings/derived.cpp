@@ -92,7 +92,7 @@ void deriveScales(Derived &d, const __calib_data &calibration)
     const float voltGainN = d.voltGain[3];
     const float currentGainN = calibration.current[d.currentNIndex][3];
     d.scales.voltage[3] = d.ratioVN.quotient() * voltGainN;
-    // As required: the neutral current takes the ratio of the phases here.
+    // Kept: the neutral current takes the ratio of the phases here.
     d.scales.current[3] = perMillivolt(currentGainN * ratioI, clampRatioN);
     d.scales.power[3]
         = perMillivolt(voltGainN * currentGainN * d.ratioVN.quotient() * d.ratioIN.quotient(), clampRatioN);

@@ -208,7 +208,7 @@ void writeGroups(QXmlStreamWriter &xml, const monitor_limit &limit)
         child = attribute.child;
         QString text;
         if (same(attribute.name, "max"))
-            text = QStringLiteral("20"); // as required: whatever the record holds
+            text = QStringLiteral("20"); // Kept: whatever the record holds
         else
             text = attribute.integer ? QString::number(words.word[attribute.word])
                                      : realText(words.real(attribute.word));
@@ -317,7 +317,7 @@ bool MonitorLimits2::saveFile(const QString &path)
     XmlText text(QStringLiteral("version = \"1.0\" encoding=\"utf-8\""));
     QXmlStreamWriter &xml = text.writer();
     xml.writeStartElement(QStringLiteral("limits"));
-    xml.writeAttribute(QStringLiteral("verison"), QStringLiteral("1.0")); // as required: spelled so
+    xml.writeAttribute(QStringLiteral("verison"), QStringLiteral("1.0")); // Kept: spelled so
     xml.writeAttribute(QStringLiteral("name"), XmlText::plain(m_name));
     writeGroups(xml, m_limit);
     xml.writeEndElement();

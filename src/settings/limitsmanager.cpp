@@ -32,7 +32,7 @@ QString storedFileOf(const MonitorLimits2 &set)
 
 QString LimitsManager::folder()
 {
-    return QStringLiteral("/mnt/userfs/sys//limits/"); // as required: with the double slash
+    return QStringLiteral("/mnt/userfs/sys//limits/"); // Kept: with the double slash
 }
 
 QString LimitsManager::confPath()
@@ -98,7 +98,7 @@ void LimitsManager::changeLimitsConf(const QString &name) const
     XmlText text(QStringLiteral("version = \"1.0\" encoding=\"utf-8\""));
     QXmlStreamWriter &xml = text.writer();
     xml.writeStartElement(QStringLiteral("LimitsConfig"));
-    xml.writeAttribute(QStringLiteral("verison"), QStringLiteral("1.0")); // as required: spelled so
+    xml.writeAttribute(QStringLiteral("verison"), QStringLiteral("1.0")); // Kept: spelled so
     xml.writeTextElement(QStringLiteral("Active"), XmlText::plain(name));
     xml.writeEndElement();
     SafeFile::replace(confPath(), text.take());

@@ -18,7 +18,7 @@ constexpr quint32 kSequenceBits = 0x618; // bits 3, 4, 9, 10: one for all of the
 constexpr quint32 kHarmonicBits = 0xfc00000; // bits 22 to 27: one per order
 constexpr quint32 kFlickerBit = 0x10000000; // bit 28: three
 
-constexpr int kOrders400 = 13; // As required: one more than the other functions have
+constexpr int kOrders400 = 13; // Kept: one more than the other functions have
 
 int bitCount(quint32 bits)
 {

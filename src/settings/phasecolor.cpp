@@ -133,7 +133,7 @@ QColor PhaseColor::colorIN()
 QColor PhaseColor::colorLine(LINE_COLOR line)
 {
     if (line == LineBlue)
-        return QColor(0x0a, 0x0a, 0xfa); // told apart from black on a dark screen
+        return QColor(0x0a, 0x0a, 0xfa); // unlike black on a dark screen
     if (line < LineYellow || line > LineDarkRed)
         return QColor(kPalette[LineRed].plain);
     return QColor(kPalette[line].plain);

@@ -113,7 +113,7 @@ void SettingConfig::saveClampConfig()
 
 void SettingConfig::initInrushLevels()
 {
-    // As required: the levels go to the settings whenever the clamp is taken over, at every start too.
+    // Kept: the levels go to the settings whenever the clamp is taken over, at every start too.
     constexpr int kThreshold = 200; // percent
     constexpr int kHysteresis = 2; // percent
     if (m_values.inrushNomAmps != m_derived.inrush.nomAmps)

@@ -41,7 +41,7 @@ public:
     int getLang() const { return m_lang; } // __language
     QString getLanguage() const { return getLanguage(m_lang); }
     static QString getLanguage(int language); // name as shown; empty outside 1..14
-    /// Stores a language. As required: the number that getLang answers does not change here, the caller steps it.
+    /// Stores a language. Kept: the number that getLang answers does not change here, the caller steps it.
     void setLanguage(int language);
     void changeLangNext();
     void changeLangPrev();

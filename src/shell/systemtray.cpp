@@ -87,7 +87,7 @@ void SystemTray::changeBatteryIcon(int status)
 
 void SystemTray::usingBDS(quint32 word)
 {
-    // As required: it is kept. The processor never tells that it lost its satellites, so once shown the icon stays.
+    // Kept: it is kept. The processor never tells that it lost its satellites, so once shown the icon stays.
     setIcon(kBds, word != 0);
 }
 

@@ -10,7 +10,7 @@ constexpr int kDataInterval = 500; // ms between display refreshes
 constexpr int kBaseInterval = 200; // ms between looks at the clock
 constexpr int kMinRequestInterval = 200;
 
-/// Longest window. The figure reads like a day in milliseconds, but the window is kept in seconds: as required.
+/// Longest window, s. Kept: the figure reads like a day in milliseconds.
 constexpr int kMaxLife = 86400000;
 constexpr int kStartDelay = 10; // s, when no start or a past one was asked for
 

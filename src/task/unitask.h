@@ -80,7 +80,7 @@ signals:
     void updateDisplay(void *);
     void buzzerRing(unsigned int);
     void hasTransEvents();
-    // What the plant's master may read: told as it arrives, the records are valid during the call.
+    // What the plant's master may read: emitted as it arrives, the records are valid during the call.
     void aggregationTaken(const __datagram_aggregation *record);
     void waveTaken(const __datagram_wave *record);
     void transientTaken(const __trans_data *record);

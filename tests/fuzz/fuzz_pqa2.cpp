@@ -1,5 +1,5 @@
 // Recorded files of any content: read to the end with every damage skipped. Blocks come in the order of the file and
-// lie inside it, payloads have the told length, and the state goes with the fault.
+// lie inside it, payloads have the length that their head names, and the state goes with the fault.
 #include "fuzz/fuzztarget.h"
 #include "record/pqa2reader.h"
 

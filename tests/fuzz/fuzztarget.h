@@ -28,7 +28,7 @@ inline QByteArray bytes(const uint8_t *data, size_t size)
     return QByteArray(reinterpret_cast<const char *>(data), int(size));
 }
 
-/// A refused file is told in the debug log, which at thousands of inputs a second is all that one would see.
+/// A refused file leaves a line in the debug log, which at thousands of inputs a second is all that one would see.
 inline void silenceDebugLog()
 {
     QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));

@@ -298,17 +298,17 @@ void TstLiveEvents::eventsAreThoseOfTheSignal()
         const Expected want = left.takeAt(match);
         const qint64 startMs = LiveGraph::startMs() + qint64(std::llround(1000 * want.start));
         const double tolerance = valueTolerance(want);
-        const QString told = QStringLiteral("start %1 ms, duration %2 ms, value %3; wanted %4, %5, %6")
-                                 .arg(event.startTime - LiveGraph::startMs())
-                                 .arg(event.duration)
-                                 .arg(double(event.value))
-                                 .arg(1000 * want.start)
-                                 .arg(1000 * want.duration)
-                                 .arg(want.value);
+        const QString found = QStringLiteral("start %1 ms, duration %2 ms, value %3; wanted %4, %5, %6")
+                                  .arg(event.startTime - LiveGraph::startMs())
+                                  .arg(event.duration)
+                                  .arg(double(event.value))
+                                  .arg(1000 * want.start)
+                                  .arg(1000 * want.duration)
+                                  .arg(want.value);
         QCOMPARE(event.finished, 1);
-        QVERIFY2(qAbs(event.startTime - startMs) <= halfCycleMs(), qPrintable(told));
-        QVERIFY2(std::fabs(event.duration - 1000 * want.duration) <= double(halfCycleMs()), qPrintable(told));
-        QVERIFY2(std::fabs(double(event.value) - want.value) <= tolerance, qPrintable(told));
+        QVERIFY2(qAbs(event.startTime - startMs) <= halfCycleMs(), qPrintable(found));
+        QVERIFY2(std::fabs(event.duration - 1000 * want.duration) <= double(halfCycleMs()), qPrintable(found));
+        QVERIFY2(std::fabs(double(event.value) - want.value) <= tolerance, qPrintable(found));
         QCOMPARE(event.endTime - event.startTime, qint64(event.duration));
         QCOMPARE(event.startSeconds, quint32(event.startTime / 1000));
 

@@ -19,7 +19,7 @@ private slots:
     void voltsAmpsHertzShowTheSupplyWithinATenthOfAPercent();
     void valuesAreThoseOfTheSignalOnPageAndModbus_data();
     void valuesAreThoseOfTheSignalOnPageAndModbus();
-    void softKeysOfThePageReadAsTold();
+    void softKeysOfThePageReadAsTheyShould();
     void powersAreThoseOfTheSignalOnPageAndModbus_data();
     void powersAreThoseOfTheSignalOnPageAndModbus();
 
@@ -116,7 +116,7 @@ void TstLiveValues::valuesAreThoseOfTheSignalOnPageAndModbus()
     QCOMPARE(LiveGraph::status(QStringLiteral("clipped")), QStringLiteral("no"));
 }
 
-void TstLiveValues::softKeysOfThePageReadAsTold()
+void TstLiveValues::softKeysOfThePageReadAsTheyShould()
 {
     QCOMPARE(LiveGraph::text("btn_f4"), QStringLiteral("Trend"));
     QCOMPARE(LiveGraph::text("btn_f5"), QStringLiteral("Hold"));

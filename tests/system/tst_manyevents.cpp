@@ -84,14 +84,14 @@ void TstManyEvents::everyDipIsInTheListAndRight()
     for (int i = 0; i < kEvents; ++i) {
         const __event_item &event = m_listed.at(i);
         const qint64 begin = LiveGraph::startMs() + kFirstMs + qint64(i) * kEveryMs;
-        const QString told = QStringLiteral("event %1: %2 ms late, %3 ms, %4 V")
-                                 .arg(i)
-                                 .arg(event.startTime - begin)
-                                 .arg(event.duration)
-                                 .arg(double(event.value));
-        QVERIFY2(event.type == EventDip && event.channel == 0 && event.finished == 1, qPrintable(told));
-        QVERIFY2(qAbs(event.startTime - begin) <= 10 && qAbs(event.duration - kDipMs) <= 10, qPrintable(told));
-        QVERIFY2(std::fabs(double(event.value) - 115) <= 0.23, qPrintable(told));
+        const QString found = QStringLiteral("event %1: %2 ms late, %3 ms, %4 V")
+                                  .arg(i)
+                                  .arg(event.startTime - begin)
+                                  .arg(event.duration)
+                                  .arg(double(event.value));
+        QVERIFY2(event.type == EventDip && event.channel == 0 && event.finished == 1, qPrintable(found));
+        QVERIFY2(qAbs(event.startTime - begin) <= 10 && qAbs(event.duration - kDipMs) <= 10, qPrintable(found));
+        QVERIFY2(std::fabs(double(event.value) - 115) <= 0.23, qPrintable(found));
     }
 }
 

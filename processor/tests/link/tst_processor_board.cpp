@@ -44,7 +44,7 @@ private slots:
     void networkShowsItsCarrier();
     void diskComesAndGoesAsAFolder();
     void pulledDiskKeepsItsContent();
-    void diskOverItsSizeIsTold();
+    void diskOverItsSizeIsNamed();
     void wrongNamesAreRefused_data();
     void wrongNamesAreRefused();
     void sizesAreBytesOrPowersOf1024();
@@ -203,7 +203,7 @@ void TstProcessorBoard::pulledDiskKeepsItsContent()
     QCOMPARE(read(m_root->filePath("run/media/STICK/Firmware.upd")), QByteArray("new"));
 }
 
-void TstProcessorBoard::diskOverItsSizeIsTold()
+void TstProcessorBoard::diskOverItsSizeIsNamed()
 {
     UsbDisks disks(m_root->path());
     QCOMPARE(disks.insert("SMALL", 1024), QString());

@@ -59,18 +59,18 @@ void TstProcessorDocs::everyOptionIsInItsTable()
     QString error;
     QString help;
     QVERIFY(!Options::read({ "quvera-processor", "--help" }, &error, &help));
-    QStringList told;
+    QStringList documented;
     for (const QString &cell : table("Option"))
-        told << cell.section(' ', 0, 0);
+        documented << cell.section(' ', 0, 0);
     QStringList known;
     QRegularExpressionMatchIterator found
         = QRegularExpression("^  (?:-h, )?(--[a-z-]+)", QRegularExpression::MultilineOption).globalMatch(help);
     while (found.hasNext())
         known << found.next().captured(1);
-    told.sort();
+    documented.sort();
     known.sort();
     QVERIFY(known.size() > 10);
-    QCOMPARE(told, known);
+    QCOMPARE(documented, known);
 }
 
 void TstProcessorDocs::everyCommandIsInItsTable()

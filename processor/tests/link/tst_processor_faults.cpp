@@ -50,7 +50,7 @@ private slots:
     void faultsWaitForTheirDatagram();
     void clearTakesBackWhatIsPending();
     void sameSeedSameStreamAnotherSeedAnother();
-    void ratesStrikeAboutAsOftenAsTold();
+    void ratesStrikeAboutAsOftenAsAsked();
     void chanceTearsPackagesAnywhere();
     void millionFaultsDoNoHarm();
     void millionRandomFramesDoNoHarm();
@@ -174,7 +174,7 @@ void TstProcessorFaults::sameSeedSameStreamAnotherSeedAnother()
     QVERIFY(stream(5) != stream(6));
 }
 
-void TstProcessorFaults::ratesStrikeAboutAsOftenAsTold()
+void TstProcessorFaults::ratesStrikeAboutAsOftenAsAsked()
 {
     // 9000 packages at 1 percent: 90 expected, standard deviation 9.4; five of them each way.
     LinkFaults faults(3);

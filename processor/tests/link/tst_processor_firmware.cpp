@@ -75,7 +75,7 @@ void TstProcessorFirmware::goodImageIsTakenCheckedAndFlashed()
     QCOMPARE(announced[0].code, 0xC401u);
     QCOMPARE(announced[0].result, 0u);
     const Exchange::Answers answers = exchange.data(image(bytes));
-    QCOMPARE(answers.size(), std::size_t(2)); // checked, and flashed without being told to
+    QCOMPARE(answers.size(), std::size_t(2)); // checked, and flashed without a command
     QCOMPARE(answers[0].code, 0xC402u);
     QCOMPARE(answers[0].result, 0u);
     QCOMPARE(answers[1].code, 0xC403u);

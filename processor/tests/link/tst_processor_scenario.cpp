@@ -15,7 +15,7 @@ class TstProcessorScenario : public QObject
 private slots:
     void keysOfTheScenarioArriveWhereTheyBelong();
     void keysOfTheSignalArriveWhereTheyBelong();
-    void anglesOfTheCurrentsFollowTheLoadUnlessTheyAreTold();
+    void anglesOfTheCurrentsFollowTheLoadUnlessTheyAreGiven();
     void emptyObjectIsAQuietSupply();
     void wrongFilesAreNamedWithKeyAndExpectation_data();
     void wrongFilesAreNamedWithKeyAndExpectation();
@@ -112,20 +112,20 @@ void TstProcessorScenario::keysOfTheSignalArriveWhereTheyBelong()
     QCOMPARE(signal.signalling.at(0).periodSeconds, 9.0);
 }
 
-void TstProcessorScenario::anglesOfTheCurrentsFollowTheLoadUnlessTheyAreTold()
+void TstProcessorScenario::anglesOfTheCurrentsFollowTheLoadUnlessTheyAreGiven()
 {
     // A power factor of 0.5 is an angle of 60 degrees, behind the voltage or before it.
     QString error;
     const auto inductive = parse(R"({"signal": {"angles": [10, -110, 130], "i": 5, "pf": 0.5}})", &error);
     const auto capacitive
         = parse(R"({"signal": {"angles": [10, -110, 130], "i": 5, "pf": 0.5, "capacitive": true}})", &error);
-    const auto told = parse(R"({"signal": {"i": 5, "pf": 0.5, "currentAngles": [11, 12, 13, 14]}})", &error);
-    QVERIFY2(inductive && capacitive && told, qPrintable(error));
+    const auto given = parse(R"({"signal": {"i": 5, "pf": 0.5, "currentAngles": [11, 12, 13, 14]}})", &error);
+    QVERIFY2(inductive && capacitive && given, qPrintable(error));
     QCOMPARE(inductive->signal.inputs[processor::I1].phaseDeg, -50.0);
     QCOMPARE(inductive->signal.inputs[processor::I3].phaseDeg, 70.0);
     QCOMPARE(capacitive->signal.inputs[processor::I1].phaseDeg, 70.0);
     for (int line = 0; line < 4; ++line)
-        QCOMPARE(told->signal.inputs[std::size_t(processor::I1 + line)].phaseDeg, 11.0 + line);
+        QCOMPARE(given->signal.inputs[std::size_t(processor::I1 + line)].phaseDeg, 11.0 + line);
 }
 
 void TstProcessorScenario::emptyObjectIsAQuietSupply()
@@ -246,9 +246,9 @@ void TstProcessorScenario::wrongFilesAreNamedWithKeyAndExpectation()
 {
     QFETCH(QByteArray, json);
     QFETCH(QString, error);
-    QString told;
-    QVERIFY(!parse(json, &told));
-    QCOMPARE(told, error);
+    QString reported;
+    QVERIFY(!parse(json, &reported));
+    QCOMPARE(reported, error);
 }
 
 void TstProcessorScenario::missingFileNamesTheOnesThereAre()

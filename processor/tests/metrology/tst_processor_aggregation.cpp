@@ -145,7 +145,7 @@ TEST(interharmonicsFallIntoTheirSubgroup)
     CHECK_NEAR(p.spectrum[1][3].interharmonic, 0.0, 5e-5);
 }
 
-TEST(orders400HertzStandInTheirToldRows)
+TEST(orders400HertzStandInTheirRows)
 {
     SignalSpec spec = SignalSpec::threePhase(115.0, 403.0, 20.0, 0.7);
     for (std::size_t input = 0; input < InputCount; ++input) {

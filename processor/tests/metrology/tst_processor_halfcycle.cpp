@@ -85,7 +85,7 @@ TEST(steadySineGivesItsRmsInEveryValue)
     }
 }
 
-TEST(payloadsHoldTheToldNumberOfValues)
+TEST(payloadsHoldTheRightNumberOfValues)
 {
     const struct
     {
@@ -231,7 +231,7 @@ TEST(interruptionLeavesTheResidualVoltage)
     CHECK_NEAR(inside, 197.0, 3.0); // values go on at their pace
 }
 
-TEST(inrushDecaysAsTold)
+TEST(inrushDecaysAsAsked)
 {
     // 6 times the steady current, time constant 0.1 s: mean square over a cycle of (1 + 5 exp(-t / T))^2.
     SignalSpec spec = SignalSpec::threePhase(230.0, 50.0, 20.0);

@@ -7,7 +7,7 @@
 
 namespace {
 
-/// As required: seconds of a monitor's run for each of its hours.
+/// Kept: seconds of a monitor's run for each of its hours.
 constexpr qint64 kMonitorHour = 3601;
 
 /// Length of a monitor's run; -1, the longest, for hours that no run can have.

@@ -28,7 +28,7 @@ public:
 
     /// Its part of the run begins: files are opened here.
     virtual void start() { }
-    /// A new aggregation, told with the waveform that follows it: each once, and of two before one waveform the last.
+    /// A new aggregation, given with the waveform that follows it: each once, and of two before one waveform the last.
     /// Its frequency is a magnitude, its energies are counted up to now.
     virtual void aggregation(const __datagram_aggregation &) { }
     /// Another second of the run is full; behind aggregation().

@@ -56,7 +56,7 @@ float magnitude(const HarmChannel &block, Item item)
 float percent(const harm_data &data, int quantity, int channel, Item item)
 {
     const HarmChannel &from = block(data, quantity, channel);
-    // As required: held to 0 .. 1, so that a negative offset counts as 0.
+    // Kept: held to 0 .. 1, so that a negative offset counts as 0.
     return F_to_Str::div_s_percent(F_to_Str::clean(magnitude(from, item)), F_to_Str::clean(reference(data, from)))
         * 100.0f;
 }

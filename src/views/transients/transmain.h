@@ -13,7 +13,7 @@ public:
 
     /// Whether the threshold changed since the last call.
     bool takeChanged();
-    /// As required: its picture carries another number than the function's.
+    /// Kept: its picture carries another number than the function's.
     SaveIdentity saveIdentity() const override { return { 7, "Trans" }; }
 
 signals:

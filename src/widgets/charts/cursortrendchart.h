@@ -16,7 +16,7 @@ public:
     int cursorPosition() const { return m_cursor; }
 
     /// Height of a mark for the band offset `value`, counted upwards from the middle of the chart.
-    // As required: the same for all bands, so that the marks do not lie on the curves.
+    // Kept: the same for all bands, so that the marks do not lie on the curves.
     static int getCursorPosY(int value) { return 151 - value; }
 
 protected:

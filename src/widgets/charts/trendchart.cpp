@@ -13,7 +13,7 @@ const TrendChart::Curve TrendChart::kCurves[7] = {
     { TrendL3,           2, PhaseColor::colorC, "3", 0 },
     { TrendN,            3, PhaseColor::colorN, "N", 1 },
     { TrendSingle,       0, ChartParts::white,  "1", 0 },
-    { TrendSingleFourth, 3, ChartParts::white,  "1", 0 }, // As required: band four, yet the phases' limits
+    { TrendSingleFourth, 3, ChartParts::white,  "1", 0 }, // Kept: band four, yet the phases' limits
     { TrendTotal,        3, PhaseColor::colorN, "T", 1 },
 };
 // clang-format on

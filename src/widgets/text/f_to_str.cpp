@@ -100,7 +100,7 @@ QString F_to_Str::number(float value, int n)
     const double magnitude = std::fabs(cleaned);
     const double whole = std::pow(10.0, n - 1);
     if (magnitude >= whole) {
-        // As required: from five figures on the power of ten stands for everything above it.
+        // Kept: from five figures on the power of ten stands for everything above it.
         return QString::number(n < 5 ? std::trunc(cleaned) : std::copysign(whole, cleaned), 'f', 0);
     }
     if (n < 2)

@@ -5,13 +5,13 @@
 
 QString NumberFormat::volt(float value, const Derived &by)
 {
-    // As required: channel U1 stands for all.
+    // Kept: channel U1 stands for all.
     return F_to_Str::scaled(value, by.units.factorVolt, F_to_Str::precision_num(by.voltGain[0]));
 }
 
 QString NumberFormat::ampere(float value, const Derived &by)
 {
-    // As required: the decimals follow clamp and ratio; the resolution of the current range has no say.
+    // Kept: the decimals follow clamp and ratio; the resolution of the current range has no say.
     return F_to_Str::scaled(value, by.units.factorAmpere, by.currentDigits + 1);
 }
 

@@ -99,6 +99,7 @@ private slots:
     void printingNeverWaitsForItsReader();
     void executablesKeepTheNumbersOfC();
     void documentIndexNamesEveryDocument();
+    void keptBehaviourIsListed();
     void noTestIsSwitchedOff();
     void packagesOfTheBuildAreInTheList();
 };
@@ -378,6 +379,27 @@ void TstArchitecture::documentIndexNamesEveryDocument()
         const QString name = links.next().captured(1);
         QVERIFY2(QFile::exists(kTop + QStringLiteral("/docs/") + name), qPrintable(name));
     }
+}
+
+void TstArchitecture::keptBehaviourIsListed()
+{
+    QHash<QString, int> listed;
+    const auto rows = DocumentPage(QStringLiteral("kept.md")).table(QStringLiteral("# Odd behaviour that stays"));
+    for (const QStringList &row : rows) {
+        ++listed[QStringLiteral("src/") + row.value(0)];
+        QVERIFY2(!row.value(1).isEmpty() && !row.value(2).isEmpty(), qPrintable(row.value(0)));
+    }
+    QHash<QString, int> marked;
+    const auto paths = sources(QStringLiteral("src"));
+    for (const QString &path : paths) {
+        const int marks = read(kTop + QLatin1Char('/') + path).count(QStringLiteral("Kept:"));
+        if (marks > 0)
+            marked.insert(path, marks);
+    }
+    QVERIFY(marked.size() > 10);
+    for (auto it = marked.cbegin(); it != marked.cend(); ++it)
+        QVERIFY2(listed.value(it.key()) == it.value(), qPrintable(it.key()));
+    QCOMPARE(listed.size(), marked.size());
 }
 
 void TstArchitecture::noTestIsSwitchedOff()

@@ -133,14 +133,14 @@ static QStringList filesInTree()
     return addedByThePictures(QDir::Files);
 }
 
-/// The embedded pictures: that all are there under their names, load, have their size and can be told apart.
+/// The embedded pictures: that all are there under their names, load, have their size and can be distinguished.
 class TstAssets : public QObject
 {
     Q_OBJECT
 
 private slots:
     void initTestCase();
-    void treeHasExactlyTheToldFiles();
+    void treeHasExactlyTheListedFiles();
     void onlyResIsASubdirectory();
     void tableListsTheFilesOfTheTree();
     void pictureLoadsByAliasInItsSize_data();
@@ -164,12 +164,12 @@ void TstAssets::initTestCase()
     Q_INIT_RESOURCE(skin);
 }
 
-void TstAssets::treeHasExactlyTheToldFiles()
+void TstAssets::treeHasExactlyTheListedFiles()
 {
-    QStringList told = allAliases();
-    QCOMPARE(told.size(), 119); // 2 + 20 + 28 + 4 + 15 + 12 + 21 + 14 + 3
-    told.sort();
-    QCOMPARE(filesInTree(), told);
+    QStringList listed = allAliases();
+    QCOMPARE(listed.size(), 119); // 2 + 20 + 28 + 4 + 15 + 12 + 21 + 14 + 3
+    listed.sort();
+    QCOMPARE(filesInTree(), listed);
 }
 
 void TstAssets::onlyResIsASubdirectory()

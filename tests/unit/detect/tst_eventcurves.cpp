@@ -144,7 +144,7 @@ void TstEventCurves::clockSetBackTakesTheCurvesAtOnce()
     in.feed(100, 200);
     in.feed(2, 230); // from 1001000
     in.time -= 86'400'000;
-    // As required: times are subtracted without a sign, and what lies in the future counts as long ago.
+    // Kept: times are subtracted without a sign, and what lies in the future counts as long ago.
     in.feed(1, 230);
     QCOMPARE(events.getAllEvents().at(0).startRms[0].size(), 103);
     in.feed(1, 200); // ends a day and 30 ms before it began

@@ -117,7 +117,7 @@ void TstEventList::harmonicsOfEachPhaseAndOrderRunApart()
 
 void TstEventList::finishTakesTheFirstUnfinishedEventOfTheType()
 {
-    // As required: the entry is found by its type alone, and its channel is overwritten.
+    // Kept: the entry is found by its type alone, and its channel is overwritten.
     PowerEvents events(exactSettings(), 1);
     events.checkEventVolt(0, { 10, 150 });
     events.checkEventVolt(1, { 20, 160 });
@@ -168,23 +168,24 @@ void TstEventList::atTenThousandAndOneNothingStartsButRunningEventsEnd()
 void TstEventList::newEventTellsListWaveTableAndBuzzerInThisOrder()
 {
     PowerEvents events(exactSettings(), 1);
-    QStringList told;
-    connect(&events.getAllEvents(), &EventList::changed, this,
-            [&](int place) { told << QStringLiteral("place %1 of %2").arg(place).arg(events.getAllEvents().size()); });
+    QStringList reported;
+    connect(&events.getAllEvents(), &EventList::changed, this, [&](int place) {
+        reported << QStringLiteral("place %1 of %2").arg(place).arg(events.getAllEvents().size());
+    });
     connect(&events, &PowerEvents::changeEventsWave, this,
-            [&](long long time) { told << QStringLiteral("wave %1").arg(time); });
+            [&](long long time) { reported << QStringLiteral("wave %1").arg(time); });
     connect(&events, &PowerEvents::mbEventsChanged, this,
-            [&](const QByteArray &table) { told << QStringLiteral("table %1").arg(table.size()); });
+            [&](const QByteArray &table) { reported << QStringLiteral("table %1").arg(table.size()); });
     connect(&events, &PowerEvents::buzzerRing, this,
-            [&](unsigned int ring) { told << QStringLiteral("buzzer %1").arg(ring); });
+            [&](unsigned int ring) { reported << QStringLiteral("buzzer %1").arg(ring); });
     connect(&events, &PowerEvents::eventFinished, this,
-            [&](const PQAEventItem &event) { told << QStringLiteral("finished %1").arg(event.type); });
+            [&](const PQAEventItem &event) { reported << QStringLiteral("finished %1").arg(event.type); });
     EventStream in(events);
     in.feed(230, 200, 200);
-    QCOMPARE(told, (QStringList { "place 0 of 1", "wave 1000000", "table 208", "buzzer 0" }));
-    told.clear();
+    QCOMPARE(reported, (QStringList { "place 0 of 1", "wave 1000000", "table 208", "buzzer 0" }));
+    reported.clear();
     in.feed(200, 200, 200);
-    QCOMPARE(told, (QStringList { "finished 28", "place 0 of 1", "table 208" }));
+    QCOMPARE(reported, (QStringList { "finished 28", "place 0 of 1", "table 208" }));
 }
 
 void TstEventList::clearEmptiesTheListsAndKeepsCounterAndStates()

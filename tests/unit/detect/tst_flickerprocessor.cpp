@@ -141,7 +141,7 @@ void TstFlickerProcessor::bufferIsDescending()
 
 void TstFlickerProcessor::valueEqualToTheLargestGoesBehindItsEquals()
 {
-    // Minus zero equals zero and can be told from it.
+    // Minus zero equals zero and can be distinguished from it.
     m_processor->insertFlickerPinst(0, 0.0f);
     m_processor->insertFlickerPinst(0, -1.0f);
     m_processor->insertFlickerPinst(0, -0.0f);

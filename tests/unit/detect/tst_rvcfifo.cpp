@@ -113,7 +113,7 @@ void TstRvcFifo::unsteadyWindowKeepsSeeking()
 
 void TstRvcFifo::referenceFollowsTheWindow()
 {
-    // As required: the difference of the times is taken the wrong way round and unsigned, so that every later half
+    // Kept: the difference of the times is taken the wrong way round and unsigned, so that every later half
     // cycle renews the reference.
     Ring ring;
     ring.feed(5, 100);

@@ -9,8 +9,8 @@
 #include <cstdint>
 #include <cstring>
 
-/// What the link does with packages, told a second time and independently: an oracle for random streams. It keeps the
-/// datagram as bytes and decides by the state table.
+/// What the link does with packages, worked out a second time and independently: an oracle for random streams. It keeps
+/// the datagram as bytes and decides by the state table.
 class LinkModel
 {
 public:

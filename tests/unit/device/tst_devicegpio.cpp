@@ -36,7 +36,7 @@ private slots:
     void powerOffLatchesTheSupply();
 
 private:
-    /// Makes a line's file write into the pipe; what it writes is told apart by the order only.
+    /// Makes a line's file write into the pipe; what it writes is distinguished by the order only.
     void watch(const QString &boardPath);
     QByteArray written();
 

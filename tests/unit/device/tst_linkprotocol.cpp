@@ -19,7 +19,7 @@ private slots:
     void tableOfFramesNamesTheCommands();
     void everyPrintedLineStandsInTheSource_data();
     void everyPrintedLineStandsInTheSource();
-    void packageExampleIsEmittedAsTold();
+    void packageExampleIsEmittedAsDocumented();
     void frameExampleIsWhatIsSent();
 
 private:
@@ -81,7 +81,7 @@ void TstLinkProtocol::everyPrintedLineStandsInTheSource()
         QVERIFY2(code.contains(QLatin1Char('"') + line + QStringLiteral("\\n\"")), qPrintable(line));
 }
 
-void TstLinkProtocol::packageExampleIsEmittedAsTold()
+void TstLinkProtocol::packageExampleIsEmittedAsDocumented()
 {
     const QVector<QByteArray> blocks = m_page.hexBlocks(QStringLiteral("## Worked example"));
     QCOMPARE(blocks.size(), 3);

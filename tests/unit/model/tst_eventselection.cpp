@@ -14,7 +14,7 @@ private slots:
     void selectionHoldsItsKindsInTheirOrder();
     void changedEventComesGoesAndStaysInOrder();
     void selectionOfAnEmptiedListIsEmptyUntilItLooksAgain();
-    void selectionKnowsOnlyWhatItWasToldOf();
+    void selectionKnowsOnlyWhatItHeardOf();
     void amongNarrowsTheKinds();
     void stepByStepOrAllAtOnceIsTheSame();
 
@@ -117,7 +117,7 @@ void TstEventSelection::selectionOfAnEmptiedListIsEmptyUntilItLooksAgain()
     QCOMPARE(types(dips), QList<int>({ 28 }));
 }
 
-void TstEventSelection::selectionKnowsOnlyWhatItWasToldOf()
+void TstEventSelection::selectionKnowsOnlyWhatItHeardOf()
 {
     EventList list;
     EventSelection dips(list, kDips);

@@ -6,7 +6,7 @@
 
 #include <climits>
 
-/// A file in memory that notes what is asked of it and fails where it is told to.
+/// A file in memory that notes what is asked of it and fails where a test wants it.
 class FakePqa2Device : public Pqa2Device
 {
 public:

@@ -146,14 +146,14 @@ void TstPqa2FF::workedExampleOfThePageIsWhatIsWritten()
     const QString example = page().section(QStringLiteral("## Worked example"), 1).section(QStringLiteral("```"), 1, 1);
     static const QRegularExpression line(QStringLiteral("^[0-9A-F]{4}  ((?:[0-9A-F]{2} ?)+)"),
                                          QRegularExpression::MultilineOption);
-    QByteArray told;
+    QByteArray documented;
     for (auto match = line.globalMatch(example); match.hasNext();)
-        told += QByteArray::fromHex(match.next().captured(1).toLatin1());
+        documented += QByteArray::fromHex(match.next().captured(1).toLatin1());
     Fake fake;
     QVERIFY(fake.open());
     fake.file->addSystemLog("Lost some data!");
     fake.file->addBlankBlock();
-    QCOMPARE(fake.state.content.toHex(' '), told.toHex(' '));
+    QCOMPARE(fake.state.content.toHex(' '), documented.toHex(' '));
 }
 
 void TstPqa2FF::pageTellsTheLayoutOfTheHeads()
@@ -256,8 +256,8 @@ void TstPqa2FF::firmwareFollowsItsWord_data()
 {
     QTest::addColumn<QString>("version");
     QTest::addColumn<QString>("firmware");
-    QTest::newRow("nothing told") << QString() << QStringLiteral("None");
-    QTest::newRow("told") << QStringLiteral("CPU:ADSP-21479;Silicon:0.2;Firmware:1.0.3") << QStringLiteral("1.0.3");
+    QTest::newRow("nothing reported") << QString() << QStringLiteral("None");
+    QTest::newRow("reported") << QStringLiteral("CPU:ADSP-21479;Silicon:0.2;Firmware:1.0.3") << QStringLiteral("1.0.3");
     QTest::newRow("with more behind") << QStringLiteral("Firmware:1.0.3;x") << QStringLiteral("1.0.3");
     QTest::newRow("empty") << QStringLiteral("Firmware:;") << QStringLiteral("None");
     QTest::newRow("without the word") << QStringLiteral("1.0.3") << QStringLiteral("None");

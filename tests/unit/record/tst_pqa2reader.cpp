@@ -98,7 +98,7 @@ class TstPqa2Reader : public QObject
 
 private slots:
     void wholeFile();
-    void everyCutIsToldWithItsPlace();
+    void everyCutIsReportedWithItsPlace();
     void oneDamagedHeadCostsItsBlockOnly_data();
     void oneDamagedHeadCostsItsBlockOnly();
     void damageInAPayloadIsNoDamageOfTheChain();
@@ -129,7 +129,7 @@ void TstPqa2Reader::wholeFile()
     QVERIFY(found.reason.isEmpty());
 }
 
-void TstPqa2Reader::everyCutIsToldWithItsPlace()
+void TstPqa2Reader::everyCutIsReportedWithItsPlace()
 {
     constexpr int kBlocks = 5;
     const QByteArray file = logFile(kBlocks);
@@ -406,7 +406,7 @@ void TstPqa2Reader::readerStopsAtDamage()
 void TstPqa2Reader::pageAndProgramNameTheSameKinds()
 {
     // The first column of the page's table: numbers, "a, b" and "a to b".
-    QSet<quint32> told;
+    QSet<quint32> documented;
     const auto rows = DocumentPage(QStringLiteral("formats/pqa2.md")).table(QStringLiteral("## Kinds of blocks"));
     for (const QStringList &row : rows) {
         for (const QString &part : row.value(0).split(QStringLiteral(", "))) {
@@ -415,13 +415,13 @@ void TstPqa2Reader::pageAndProgramNameTheSameKinds()
             const quint32 from = ends.first().toUInt(&first, 16), to = ends.last().toUInt(&last, 16);
             QVERIFY2(first && last && to >= from && to - from < 100, qPrintable(part));
             for (quint32 type = from; type <= to; ++type)
-                told << type;
+                documented << type;
         }
     }
-    QVERIFY(told.size() > 60);
+    QVERIFY(documented.size() > 60);
     QVERIFY(pqa2KindName(0) != nullptr);
     for (quint32 type = 0xA1000000; type < 0xA1020000; ++type)
-        QVERIFY2((pqa2KindName(type) != nullptr) == told.contains(type), qPrintable(QString::number(type, 16)));
+        QVERIFY2((pqa2KindName(type) != nullptr) == documented.contains(type), qPrintable(QString::number(type, 16)));
     for (const quint32 type : { 1u, 0xA0FFFFFFu, 0xA1020000u, 0xFFFFFFFFu })
         QVERIFY(!pqa2KindName(type));
 }

@@ -163,11 +163,11 @@ void TstPqaFile::formatPageTellsTheHeaderAndItsExample()
     QByteArray expected(reinterpret_cast<const char *>(&example), sizeof example);
     const QRegularExpression line(QStringLiteral("^[0-9a-f]{4}  ((?:[0-9a-f]{2} ?)+)$"),
                                   QRegularExpression::MultilineOption);
-    QByteArray told;
+    QByteArray documented;
     auto matches = line.globalMatch(text);
     while (matches.hasNext())
-        told += QByteArray::fromHex(matches.next().captured(1).toLatin1());
-    QCOMPARE(told.toHex(' '), expected.toHex(' '));
+        documented += QByteArray::fromHex(matches.next().captured(1).toLatin1());
+    QCOMPARE(documented.toHex(' '), expected.toHex(' '));
 }
 
 void TstPqaFile::snapshotIsAPlainPngOfTheScreen()

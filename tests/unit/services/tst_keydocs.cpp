@@ -66,7 +66,7 @@ void TstKeyDocs::keysOfAPcOnADesk()
     QVERIFY(DeskKeys::install(qApp, keyMap::panelLetter));
     KeyNote<QWidget> page;
     KeyNote<QDialog> dialog;
-    int told = 0;
+    int listed = 0;
     const auto rows = DocumentPage(QStringLiteral("desk-set-up.md")).table(QStringLiteral("## Keys"));
     for (const QStringList &row : rows) {
         if (row[0] == QLatin1String("power key")) // a PC's is its desk's
@@ -76,7 +76,7 @@ void TstKeyDocs::keysOfAPcOnADesk()
             dialog.open();
         const QStringList names = row[0].startsWith(QLatin1String("Escape")) ? QStringList { "Esc" } : keyNames(row[0]);
         const QStringList letters = row[1].split(QLatin1Char(' '));
-        for (int i = 0; i < names.size(); ++i, ++told) {
+        for (int i = 0; i < names.size(); ++i, ++listed) {
             const auto key = Qt::Key(QKeySequence::fromString(names[i])[0]);
             QTest::keyClick(inDialog ? static_cast<QWidget *>(&dialog) : &page, key);
             const int arrived = inDialog ? dialog.last : page.last;
@@ -84,7 +84,7 @@ void TstKeyDocs::keysOfAPcOnADesk()
         }
         dialog.close();
     }
-    QCOMPARE(told, 12 + 4 + 2 + 2);
+    QCOMPARE(listed, 12 + 4 + 2 + 2);
 }
 
 int main(int argc, char **argv)

@@ -189,9 +189,9 @@ void TstModbusBadClients::everyFunctionAndLengthGetsOneAnswer()
     for (int function = 0; function < 256; ++function) {
         QByteArray stream;
         int requests = 0;
-        for (int told = 2; told <= 254; ++told) {
+        for (int announced = 2; announced <= 254; ++announced) {
             // Data that looks like the lock register where an address is read.
-            QByteArray pdu(told - 1, char(0x01));
+            QByteArray pdu(announced - 1, char(0x01));
             pdu[0] = char(function);
             if (pdu.size() >= 3) {
                 pdu[1] = char(0xFD);

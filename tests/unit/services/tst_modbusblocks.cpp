@@ -520,18 +520,19 @@ void TstModbusBlocks::pageTellsTheSameMap()
         = text.section(QStringLiteral("## Input registers"), 1).section(QStringLiteral("\n### "), 0, 0);
     static const QRegularExpression line(QStringLiteral("^\\| (\\d+) \\| ([^|]+) \\| [^|]*\\| ([^|]+) \\|"),
                                          QRegularExpression::MultilineOption);
-    QList<MapRow> told;
+    QList<MapRow> documented;
     for (auto match = line.globalMatch(section); match.hasNext();) {
         const auto row = match.next();
-        told.append({ row.captured(1).toInt(), row.captured(2).trimmed(), row.captured(3).trimmed() });
+        documented.append({ row.captured(1).toInt(), row.captured(2).trimmed(), row.captured(3).trimmed() });
     }
     const QList<MapRow> code = mapOfTheCode();
-    for (int i = 0; i < qMin(told.size(), code.size()); ++i) {
-        const QString tells = QStringLiteral("%1 %2 %3").arg(told[i].address).arg(told[i].type, told[i].field);
+    for (int i = 0; i < qMin(documented.size(), code.size()); ++i) {
+        const QString tells
+            = QStringLiteral("%1 %2 %3").arg(documented[i].address).arg(documented[i].type, documented[i].field);
         const QString is = QStringLiteral("%1 %2 %3").arg(code[i].address).arg(code[i].type, code[i].field);
         QCOMPARE(tells, is);
     }
-    QCOMPARE(told.size(), code.size());
+    QCOMPARE(documented.size(), code.size());
 }
 
 QTEST_GUILESS_MAIN(TstModbusBlocks)

@@ -14,14 +14,14 @@ namespace {
 
 const QString kPath = QStringLiteral("/mnt/userfs/sys//limits/set.xml");
 
-/// The numbers of a built-in set, told again by hand: word of the record and value.
-struct Told
+/// The numbers of a built-in set, written down again by hand: word of the record and value.
+struct Documented
 {
     int word;
     const char *what;
     float en50160, gost32144;
 };
-const Told kTold[] = {
+const Documented kDocumented[] = {
     { 0, "Voltage nep", 95, 100 },
     { 1, "Voltage partial upper", 10, 10 },
     { 2, "Voltage whole upper", 10, 100.1f },
@@ -65,15 +65,16 @@ const Told kTold[] = {
     { 196, "frequency2 partial", 9, 9 },
     { 197, "frequency2 whole", 100.1f, 100.1f },
 };
-struct ToldInteger
+struct DocumentedInteger
 {
     int word;
     const char *what;
     int value; // of both sets
 };
-const ToldInteger kToldIntegers[] = { { 5, "Harmonic count", 25 },      { 166, "Dips maxAllowed", 20 },
-                                      { 169, "Swells maxAllowed", 20 }, { 172, "Interruptions maxAllowed", 2 },
-                                      { 177, "RVC maxAllowed", 70 },    { 189, "reserved", 0 } };
+const DocumentedInteger kDocumentedIntegers[]
+    = { { 5, "Harmonic count", 25 },      { 166, "Dips maxAllowed", 20 },
+        { 169, "Swells maxAllowed", 20 }, { 172, "Interruptions maxAllowed", 2 },
+        { 177, "RVC maxAllowed", 70 },    { 189, "reserved", 0 } };
 
 // Rows 1 to 25: EN50160 partial, GOST32144 partial, GOST32144 whole; EN50160 whole is 8 in row 1 and 100.1 below.
 const float kRows[25][3] = {
@@ -135,13 +136,13 @@ private slots:
         MonitorLimits2 gost;
         gost.initGOST32144();
         QCOMPARE(gost.name(), QString("GOST32144"));
-        for (const Told &told : kTold) {
-            QVERIFY2(realWord(en.limit(), told.word) == told.en50160, told.what);
-            QVERIFY2(realWord(gost.limit(), told.word) == told.gost32144, told.what);
+        for (const Documented &row : kDocumented) {
+            QVERIFY2(realWord(en.limit(), row.word) == row.en50160, row.what);
+            QVERIFY2(realWord(gost.limit(), row.word) == row.gost32144, row.what);
         }
-        for (const ToldInteger &told : kToldIntegers) {
-            QVERIFY2(integerWord(en.limit(), told.word) == told.value, told.what);
-            QVERIFY2(integerWord(gost.limit(), told.word) == told.value, told.what);
+        for (const DocumentedInteger &row : kDocumentedIntegers) {
+            QVERIFY2(integerWord(en.limit(), row.word) == row.value, row.what);
+            QVERIFY2(integerWord(gost.limit(), row.word) == row.value, row.what);
         }
         for (int i = 0; i < 25; ++i) {
             QCOMPARE(realWord(en.limit(), 6 + i), 95.0f);
@@ -187,10 +188,10 @@ private slots:
         MonitorLimits2 back;
         QVERIFY(back.loadFile(kPath));
         QCOMPARE(back.name(), set.name());
-        for (const Told &told : kTold) // eight digits are written
-            QVERIFY2(qFuzzyCompare(realWord(back.limit(), told.word), realWord(set.limit(), told.word)), told.what);
-        for (const ToldInteger &told : kToldIntegers)
-            QVERIFY2(integerWord(back.limit(), told.word) == integerWord(set.limit(), told.word), told.what);
+        for (const Documented &row : kDocumented) // eight digits are written
+            QVERIFY2(qFuzzyCompare(realWord(back.limit(), row.word), realWord(set.limit(), row.word)), row.what);
+        for (const DocumentedInteger &row : kDocumentedIntegers)
+            QVERIFY2(integerWord(back.limit(), row.word) == integerWord(set.limit(), row.word), row.what);
         for (int word = 6; word < 156; ++word)
             QVERIFY(qAbs(realWord(back.limit(), word) - realWord(set.limit(), word)) < 1e-5f);
     }

@@ -10,15 +10,15 @@
 
 namespace {
 
-/// What the instrument's manual says of a key, told again here by hand.
-struct Told
+/// What the instrument's manual says of a key, written down again here by hand.
+struct Documented
 {
     const char *key;
     const char *missing; // after a start without the key
     const char *word; // after a start with a word that is no number
     int lowest, highest;
 };
-const Told kTold[] = {
+const Documented kDocumented[] = {
     { "NOM_VOLT_SELECT", "5", "1", 1, 9 },
     { "NOM_VOLT_LINE_SELECT", "5", "1", 1, 9 },
     { "NOM_VOLT_CUSTOM", "500", "0", 0, 0 },
@@ -140,16 +140,16 @@ private slots:
         QStringList keys;
         for (const auto &row : SettingConfig::rows())
             keys << row.key;
-        QStringList told;
-        for (const Told &row : kTold)
-            told << row.key;
-        QCOMPARE(keys, told);
+        QStringList documented;
+        for (const Documented &row : kDocumented)
+            documented << row.key;
+        QCOMPARE(keys, documented);
     }
 
     void noKeyStandsInsideAnother()
     {
-        for (const Told &a : kTold) {
-            for (const Told &b : kTold)
+        for (const Documented &a : kDocumented) {
+            for (const Documented &b : kDocumented)
                 QVERIFY2(&a == &b || !QByteArray(b.key).contains(a.key), b.key);
         }
     }
@@ -157,29 +157,29 @@ private slots:
     void everyKey_data()
     {
         QTest::addColumn<int>("row");
-        for (int i = 0; i < int(std::size(kTold)); ++i)
-            QTest::newRow(kTold[i].key) << i;
+        for (int i = 0; i < int(std::size(kDocumented)); ++i)
+            QTest::newRow(kDocumented[i].key) << i;
     }
     void everyKey()
     {
         QFETCH(int, row);
-        const Told &told = kTold[row];
-        const QString key = told.key;
-        const QByteArray line = QByteArray(told.key) + "=";
+        const Documented &documented = kDocumented[row];
+        const QString key = documented.key;
+        const QByteArray line = QByteArray(documented.key) + "=";
 
-        QCOMPARE(started(key, ""), QByteArray(told.missing).toDouble());
-        QCOMPARE(started(key, line + "\n"), QByteArray(told.missing).toDouble()); // empty value
-        QCOMPARE(started(key, line + "xyz\n"), QByteArray(told.word).toDouble());
-        QCOMPARE(started(key, line + "1e999\n"), QByteArray(told.word).toDouble());
-        QCOMPARE(started(key, line + "nan\n"), QByteArray(told.word).toDouble());
-        if (told.lowest != told.highest) {
-            QCOMPARE(started(key, line + QByteArray::number(told.lowest - 1)), double(told.lowest));
-            QCOMPARE(started(key, line + QByteArray::number(told.lowest)), double(told.lowest));
-            QCOMPARE(started(key, line + QByteArray::number(told.highest)), double(told.highest));
-            QCOMPARE(started(key, line + QByteArray::number(told.highest + 1)), double(told.highest));
-            QCOMPARE(started(key, line + "-2147483648"), double(told.lowest));
-            QCOMPARE(started(key, line + "2147483647"), double(told.highest));
-            QCOMPARE(started(key, line + "2147483648"), double(told.lowest)); // does not fit: 0
+        QCOMPARE(started(key, ""), QByteArray(documented.missing).toDouble());
+        QCOMPARE(started(key, line + "\n"), QByteArray(documented.missing).toDouble()); // empty value
+        QCOMPARE(started(key, line + "xyz\n"), QByteArray(documented.word).toDouble());
+        QCOMPARE(started(key, line + "1e999\n"), QByteArray(documented.word).toDouble());
+        QCOMPARE(started(key, line + "nan\n"), QByteArray(documented.word).toDouble());
+        if (documented.lowest != documented.highest) {
+            QCOMPARE(started(key, line + QByteArray::number(documented.lowest - 1)), double(documented.lowest));
+            QCOMPARE(started(key, line + QByteArray::number(documented.lowest)), double(documented.lowest));
+            QCOMPARE(started(key, line + QByteArray::number(documented.highest)), double(documented.highest));
+            QCOMPARE(started(key, line + QByteArray::number(documented.highest + 1)), double(documented.highest));
+            QCOMPARE(started(key, line + "-2147483648"), double(documented.lowest));
+            QCOMPARE(started(key, line + "2147483647"), double(documented.highest));
+            QCOMPARE(started(key, line + "2147483648"), double(documented.lowest)); // does not fit: 0
         }
     }
 
@@ -194,18 +194,18 @@ private slots:
     void everyKeyIsStoredAtOnceAndReadBackAtTheNextStart()
     {
         QFETCH(int, row);
-        const Told &told = kTold[row];
-        const Access access = accesses().value(told.key);
+        const Documented &documented = kDocumented[row];
+        const Access access = accesses().value(documented.key);
         QVector<double> values = { 1, 3 };
-        if (told.lowest == told.highest)
+        if (documented.lowest == documented.highest)
             values << 0 << 100000;
         for (double value : values) {
             SettingConfig config;
             access.set(config, value);
             QCOMPARE(access.get(config), value);
-            QCOMPARE(Config::readConfigFile(SettingConfig::filePath(), told.key).toDouble(), value);
+            QCOMPARE(Config::readConfigFile(SettingConfig::filePath(), documented.key).toDouble(), value);
             QVERIFY(RootFiles::commands().endsWith("sync\n"));
-            if (!followsTheClamp(told.key))
+            if (!followsTheClamp(documented.key))
                 QCOMPARE(access.get(SettingConfig()), value);
         }
     }
@@ -216,9 +216,9 @@ private slots:
         for (const Access &access : accesses())
             access.set(config, 2);
         config.setJoinMode(7);
-        for (const Told &told : kTold) {
-            const double expected = QByteArray(told.key) == "JOINMODE" ? 7 : 2;
-            QCOMPARE(Config::readConfigFile(SettingConfig::filePath(), told.key).toDouble(), expected);
+        for (const Documented &documented : kDocumented) {
+            const double expected = QByteArray(documented.key) == "JOINMODE" ? 7 : 2;
+            QCOMPARE(Config::readConfigFile(SettingConfig::filePath(), documented.key).toDouble(), expected);
         }
     }
 

@@ -25,7 +25,7 @@ private slots:
     void wirelessComesFromTheQuery();
     void usbDiskIsShown();
     void iconsTakeTurnsInTheirOrder();
-    void withNoIconTheCableIsTold();
+    void withNoIconTheCableIsNamed();
     void anIconIsListedOnce();
     void batteryIsOnTheRight();
 };
@@ -185,7 +185,7 @@ void TstSystemTray::iconsTakeTurnsInTheirOrder()
     QCOMPARE(nextIcons(tray).value(0), order.first());
 }
 
-void TstSystemTray::withNoIconTheCableIsTold()
+void TstSystemTray::withNoIconTheCableIsNamed()
 {
     SystemTray tray;
     const bool wired = NetWork::checkNetwireStatus(QStringLiteral("eth0"));

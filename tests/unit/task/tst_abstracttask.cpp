@@ -35,7 +35,7 @@ private slots:
     void lifeCycleBoundsTheDuration();
     void lifeCycleIsRefusedWhileWaitingOrRunning();
     void lifeCycleMayChangeWhilePausedOrStopped();
-    void preStartAsksForDataInTheToldOrder();
+    void preStartAsksForDataInItsFixedOrder();
     void pauseOnlyWhileRunningAndContinueOnlyWhilePaused();
     void stopTwiceEmitsOnce();
     void stoppedTaskDoesNotStartAgain();
@@ -134,7 +134,7 @@ void TstAbstractTask::lifeCycleMayChangeWhilePausedOrStopped()
     QCOMPARE(task.startTime(), quint32(kNow + 60));
 }
 
-void TstAbstractTask::preStartAsksForDataInTheToldOrder()
+void TstAbstractTask::preStartAsksForDataInItsFixedOrder()
 {
     PlainTask task;
     task.setTaskType(7, 1000);

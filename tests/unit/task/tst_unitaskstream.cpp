@@ -174,12 +174,12 @@ void TstUniTaskStream::transientOfCode3IsIgnoredInSplitPhase()
     m_settingConfig_g.setJoinMode(5);
     m_task = std::make_unique<UniTask>(liveData());
     start();
-    QSignalSpy told(m_task.get(), &UniTask::hasTransEvents);
+    QSignalSpy emitted(m_task.get(), &UniTask::hasTransEvents);
     m_task->datagramWave(wave((3u << 24) | 2000).bytes());
-    QCOMPARE(told.count(), 0);
+    QCOMPARE(emitted.count(), 0);
     QVERIFY(liveData().transients().isEmpty());
     m_task->datagramWave(wave((2u << 24) | 2000).bytes());
-    QCOMPARE(told.count(), 1);
+    QCOMPARE(emitted.count(), 1);
     QCOMPARE(liveData().transients().last().number, 1); // what is ignored is not counted
 }
 

@@ -427,7 +427,7 @@ void TstTransients::aClearedListEmptiesTheView()
         capture(transient(i));
     m_page->showPage(trans::View);
     liveData().transients().clear();
-    press(viewPage(), Right); // before anyone told the page
+    press(viewPage(), Right); // before the page heard of it
     press(viewPage(), F1);
     QCOMPARE(text(viewPage(), "trans_number"), QStringLiteral("#0/0(trans)"));
     capture(transient(1));

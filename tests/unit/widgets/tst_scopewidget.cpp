@@ -30,7 +30,7 @@ private slots:
     void cursorIndexIsClampedToTheWidth_data();
     void cursorIndexIsClampedToTheWidth();
     void cursorRowsAreTruncated();
-    void gridStandsAtTheToldRows();
+    void gridStandsAtTheirRows();
     void bottomAxisHasTicksEvery100Samples();
     void curvesHaveTheirColoursAndOrder();
     void scaleLabelsHalveWhenTheZoomDoubles();
@@ -204,7 +204,7 @@ void TstScopeWidget::cursorRowsAreTruncated()
     QCOMPARE(scope.getCursorPosUY(-15120), 301); // 151 + 151.2 - 0.5 = 301.7
 }
 
-void TstScopeWidget::gridStandsAtTheToldRows()
+void TstScopeWidget::gridStandsAtTheirRows()
 {
     ScopeWidget scope;
     size(scope);

@@ -75,7 +75,7 @@ void TstSoftKeyButtons::anUnknownFlagSelectsNothing()
     }
 }
 
-/// The button over white, so that black and grey can be told apart.
+/// The button over white, so that black and grey can be distinguished.
 static QImage overWhite(QWidget &button)
 {
     QImage image(button.size(), QImage::Format_RGB32);

@@ -24,7 +24,7 @@ class TstTrendChart : public QObject
 
 private slots:
     void init() { PhaseColor::setPhaseColors(QStringLiteral("01231")); }
-    void frameAndGridStandAtTheToldPixels();
+    void frameAndGridStandAtTheirPixels();
     void axisLabelsAndTicksShareTheWidth();
     void anEmptyListOfLabelsKeepsTheOldOnes();
     void curvesOfAllFourBandsStandInTheirBands();
@@ -57,7 +57,7 @@ template <typename Chart> static void prepare(Chart &chart, int flags)
     chart.setFlags(flags);
 }
 
-void TstTrendChart::frameAndGridStandAtTheToldPixels()
+void TstTrendChart::frameAndGridStandAtTheirPixels()
 {
     TrendChart chart;
     prepare(chart, 0);
