@@ -6,8 +6,8 @@ void EventSelection::refresh()
 {
     m_places.clear();
     m_generation = m_list->generation();
-    for (int place = 0; place < m_list->size(); ++place) {
-        if (m_kinds.take(m_list->at(place)))
+    for (int place = 0; place < m_list->shownSize(); ++place) {
+        if (m_kinds.take(m_list->shownAt(place)))
             m_places.append(place);
     }
 }
@@ -18,7 +18,7 @@ bool EventSelection::update(int place)
         refresh();
         return true;
     }
-    const bool ours = m_kinds.take(m_list->at(place));
+    const bool ours = m_kinds.take(m_list->shownAt(place));
     const auto found = std::lower_bound(m_places.begin(), m_places.end(), place);
     const bool known = found != m_places.end() && *found == place;
     if (ours && !known)
@@ -33,7 +33,7 @@ EventSelection EventSelection::among(EventKinds kinds) const
     EventSelection part(*m_list, { std::max(m_kinds.first, kinds.first), std::min(m_kinds.last, kinds.last) });
     part.m_generation = m_generation;
     for (const int place : isCurrent() ? m_places : QVector<int>()) {
-        if (part.m_kinds.take(m_list->at(place)))
+        if (part.m_kinds.take(m_list->shownAt(place)))
             part.m_places.append(place);
     }
     return part;

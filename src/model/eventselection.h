@@ -16,9 +16,9 @@ struct EventKinds
 };
 constexpr EventKinds kAllEvents = { std::numeric_limits<qint32>::min(), std::numeric_limits<qint32>::max() };
 
-/// The events of some kinds out of a list, in their order: it keeps their places and no copy. It must hear of
-/// changes; until then it shows the events that it knew, as they are now, and none when the list was emptied. Main
-/// thread only.
+/// The events of some kinds out of what a list shows, in their order: it keeps their places and no copy. It must hear
+/// of changes; until then it shows the events that it knew, as the list shows them, and none when the list was emptied.
+/// On hold there is nothing to hear until the list is released. Main thread only.
 class EventSelection
 {
 public:
@@ -28,7 +28,7 @@ public:
     int size() const { return isCurrent() ? m_places.size() : 0; }
     bool isEmpty() const { return size() == 0; }
     /// \a index from 0 to size() - 1.
-    const PQAEventItem &at(int index) const { return m_list->at(m_places.at(index)); }
+    const PQAEventItem &at(int index) const { return m_list->shownAt(m_places.at(index)); }
 
     /// Looks through the whole list.
     void refresh();

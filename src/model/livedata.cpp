@@ -8,7 +8,7 @@ constexpr int kFundamental = 2;
 
 void LiveData::empty(float nominalFrequency)
 {
-    m_held.reset();
+    run();
     m_live = DisplayRecords();
     m_live.vif.frequency = nominalFrequency;
     m_live.harmonics.reference = kFundamental;
@@ -24,8 +24,18 @@ void LiveData::finish()
 
 void LiveData::hold()
 {
-    if (!m_held)
-        m_held.emplace(m_live);
+    if (m_held)
+        return;
+    m_held.emplace(m_live);
+    m_events.hold();
+    m_transients.hold();
+}
+
+void LiveData::run()
+{
+    m_held.reset();
+    m_events.run();
+    m_transients.run();
 }
 
 void LiveData::setHarmonicReference(int reference)

@@ -39,7 +39,7 @@ public:
     const DisplayRecords &shown() const { return m_held ? *m_held : m_live; }
     bool isHeld() const { return m_held.has_value(); }
 
-    /// What happened since the measurement began. A hold does not concern it: pages list what was found meanwhile.
+    /// What happened since the measurement began. The lists go on while held; pages read what they show.
     EventList &events() { return m_events; }
     const EventList &events() const { return m_events; }
     TransientList &transients() { return m_transients; }
@@ -48,13 +48,13 @@ public:
     /// A measurement begins: all records and lists become empty, nothing is held. \a nominalFrequency in Hz stands for
     /// the frequency until the first one is measured.
     void empty(float nominalFrequency);
-    /// Keeps what is live now as what is shown. While already held it changes nothing.
+    /// Keeps what is live and listed now as what is shown. While already held it changes nothing.
     void hold();
     /// The live records are shown again; harmless when nothing is held.
-    void run() { m_held.reset(); }
+    void run();
 
     /// The measurement has ended: the status counts no events any more, and no transients are left. The events stay for
-    /// the page that shows them and for the files.
+    /// the page that shows them and for the files, and what is held for the page that is held.
     void finish();
 
     /// Reference of the harmonics' percentages: 1 the r.m.s. value, 2 the fundamental. It is a choice of the user and

@@ -4,11 +4,12 @@
 #include <QWidget>
 
 EventFollower::EventFollower(QWidget *page, const EventList &list, EventKinds kinds, Show show)
-    : m_page(page), m_events(list, kinds), m_show(std::move(show)), m_stale(!list.isEmpty())
+    : m_page(page), m_events(list, kinds), m_show(std::move(show)), m_list(list), m_stale(!list.isEmpty())
 {
     m_page->installEventFilter(this);
     connect(&list, &EventList::changed, this, &EventFollower::takeChange);
-    connect(&list, &EventList::cleared, this, &EventFollower::takeClear);
+    connect(&list, &EventList::cleared, this, &EventFollower::takeAll);
+    connect(&list, &EventList::released, this, &EventFollower::takeAll);
 }
 
 void EventFollower::catchUp()
@@ -27,13 +28,15 @@ const EventSelection &EventFollower::events()
 
 void EventFollower::takeChange(int place)
 {
+    if (m_list.isHeld())
+        return; // its release is heard
     if (m_stale || !m_page->isVisible())
         m_stale = true;
     else if (m_events.update(place))
         m_show(m_events);
 }
 
-void EventFollower::takeClear()
+void EventFollower::takeAll()
 {
     m_stale = true;
     if (m_page->isVisible())

@@ -9,7 +9,8 @@
 class QWidget;
 
 /// Keeps what a page shows of the event list up to date. A change costs the same however many events there are, and a
-/// page that is not visible only notes that there was one: it catches up when it is shown. Main thread.
+/// page that is not visible only notes that there was one: it catches up when it is shown. While the list is held the
+/// page stays as it is, and it catches up when the list is released. Main thread.
 class EventFollower : public QObject
 {
 public:
@@ -28,10 +29,11 @@ protected:
 
 private:
     void takeChange(int place);
-    void takeClear();
+    void takeAll();
 
     QWidget *m_page;
     EventSelection m_events;
     Show m_show;
+    const EventList &m_list;
     bool m_stale; // there is something that the page does not show
 };

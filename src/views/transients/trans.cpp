@@ -55,9 +55,10 @@ void trans::aboutToShow(int row)
 QByteArray trans::pqaData() const
 {
     QByteArray bytes;
-    appendWord(bytes, data().transients().size());
+    const TransientList &list = data().transients();
+    appendWord(bytes, list.shownSize());
     appendWord(bytes, kRecordBytes);
-    for (const __trans_data &record : data().transients())
-        bytes.append(reinterpret_cast<const char *>(&record), kRecordBytes);
+    for (int index = 0; index < list.shownSize(); ++index)
+        bytes.append(reinterpret_cast<const char *>(&list.shownAt(index)), kRecordBytes);
     return bytes;
 }

@@ -48,5 +48,5 @@ void TranStart::updateDisplay(void *)
 void TranStart::showCount()
 {
     setText(m_ui->trigger, QStringLiteral("%1 %").arg(m_settingConfig_g.getTransThreshold()));
-    setText(m_ui->trans_count, QStringLiteral("#%1").arg(m_data.transients().size()));
+    setText(m_ui->trans_count, QStringLiteral("#%1").arg(m_data.transients().shownSize()));
 }

@@ -62,7 +62,7 @@ void TransView::retranslateUi()
 
 void TransView::selectNewest()
 {
-    select(m_list.size() - 1);
+    select(m_list.shownSize() - 1);
 }
 
 void TransView::selectPrev()
@@ -75,40 +75,40 @@ void TransView::selectPrev()
 void TransView::selectNext()
 {
     followList();
-    if (m_index + 1 < m_list.size())
+    if (m_index + 1 < m_list.shownSize())
         select(m_index + 1);
 }
 
 bool TransView::isShown(int index) const
 {
-    if (index < 0 || index >= m_list.size())
+    if (index < 0 || index >= m_list.shownSize())
         return false;
-    const __trans_data &record = m_list.at(index);
+    const __trans_data &record = m_list.shownAt(index);
     return record.number == m_number && record.time == m_time;
 }
 
 void TransView::followList()
 {
-    if (m_list.isEmpty()) {
+    if (m_list.shownSize() == 0) {
         if (m_number != 0)
             select(0);
         return;
     }
     // At its limit the list loses its head: what is shown moves towards it.
-    for (int index = std::min(m_index, m_list.size() - 1); index >= 0; --index) {
+    for (int index = std::min(m_index, m_list.shownSize() - 1); index >= 0; --index) {
         if (!isShown(index))
             continue;
         m_index = index;
-        showHeader(&m_list.at(index));
+        showHeader(&m_list.shownAt(index));
         return;
     }
-    select(m_number == 0 ? m_list.size() - 1 : 0);
+    select(m_number == 0 ? m_list.shownSize() - 1 : 0);
 }
 
 void TransView::select(int index)
 {
-    m_index = std::clamp(index, 0, std::max(m_list.size() - 1, 0));
-    const __trans_data *record = m_list.isEmpty() ? nullptr : &m_list.at(m_index);
+    m_index = std::clamp(index, 0, std::max(m_list.shownSize() - 1, 0));
+    const __trans_data *record = m_list.shownSize() == 0 ? nullptr : &m_list.shownAt(m_index);
     m_number = record ? record->number : 0;
     m_time = record ? record->time : 0;
     if (record)
@@ -119,7 +119,7 @@ void TransView::select(int index)
 
 void TransView::showHeader(const __trans_data *record)
 {
-    const int count = m_list.size();
+    const int count = m_list.shownSize();
     setText(m_ui->trans_number, QStringLiteral("#%1/%2(trans)").arg(record ? m_index + 1 : 0).arg(count));
     setText(m_ui->trans_time, record ? timeText(record->time) : QString());
     setText(m_ui->trigger, record ? ChannelLabels::channels().caption(int(record->position >> 24) - 1) : QString());

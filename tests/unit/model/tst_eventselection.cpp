@@ -17,6 +17,10 @@ private slots:
     void selectionKnowsOnlyWhatItHeardOf();
     void amongNarrowsTheKinds();
     void stepByStepOrAllAtOnceIsTheSame();
+    void heldEventsStayAsTheyWere();
+    void selectionOfAHeldListIsOfThatMoment();
+    void releaseIsToldOnce();
+    void emptyingAHeldListReleasesIt();
 
 private:
     static PQAEventItem event(qint32 type)
@@ -166,6 +170,76 @@ void TstEventSelection::stepByStepOrAllAtOnceIsTheSame()
         steps.refresh();
     QCOMPARE(types(steps), types(whole));
     QVERIFY(whole.size() > 10);
+}
+
+void TstEventSelection::heldEventsStayAsTheyWere()
+{
+    EventList list;
+    list.append(event(EventDip));
+    list.append(event(EventSwell));
+    list.hold();
+    const auto finish = [](PQAEventItem &item) { ++item.finished; };
+    list.change(1, finish);
+    list.change(1, finish);
+    list.append(event(EventRvc));
+    list.change(2, finish);
+    list.hold(); // while held it changes nothing
+    QCOMPARE(list.shownSize(), 2);
+    QCOMPARE(list.shownAt(1).finished, 0);
+    QCOMPARE(list.at(1).finished, 2);
+    list.run();
+    QCOMPARE(list.shownSize(), 3);
+    QCOMPARE(list.shownAt(1).finished, 2);
+    QCOMPARE(list.shownAt(2).finished, 1);
+}
+
+void TstEventSelection::selectionOfAHeldListIsOfThatMoment()
+{
+    EventList list;
+    for (int type : { 27, 33, 28 })
+        list.append(event(type));
+    EventSelection dips(list, kDips);
+    dips.refresh();
+    list.hold();
+    list.change(0, [](PQAEventItem &item) { item.type = EventFrequency; });
+    list.change(1, [](PQAEventItem &item) { item.type = EventRvc; });
+    list.append(event(EventInterruption));
+    QCOMPARE(types(dips), QList<int>({ 27, 28 }));
+    QCOMPARE(types(dips.among({ EventDip, EventDip })), QList<int>({ 27 }));
+    EventSelection late(list, kDips);
+    late.refresh();
+    QCOMPARE(types(late), QList<int>({ 27, 28 }));
+    list.run();
+    dips.refresh();
+    QCOMPARE(types(dips), QList<int>({ 30, 28, 29 }));
+}
+
+void TstEventSelection::releaseIsToldOnce()
+{
+    EventList list;
+    QSignalSpy released(&list, &EventList::released);
+    list.run();
+    QCOMPARE(released.count(), 0);
+    list.hold();
+    QVERIFY(list.isHeld());
+    list.run();
+    list.run();
+    QCOMPARE(released.count(), 1);
+    QVERIFY(!list.isHeld());
+}
+
+void TstEventSelection::emptyingAHeldListReleasesIt()
+{
+    EventList list;
+    list.append(event(EventDip));
+    list.hold();
+    list.change(0, [](PQAEventItem &item) { item.type = EventSwell; });
+    list.clear();
+    QVERIFY(!list.isHeld());
+    QCOMPARE(list.shownSize(), 0);
+    list.append(event(EventRvc));
+    QCOMPARE(list.shownSize(), 1);
+    QCOMPARE(list.shownAt(0).type, int(EventRvc));
 }
 
 QTEST_GUILESS_MAIN(TstEventSelection)

@@ -22,10 +22,21 @@ private slots:
     void holdSharesTheListsUntilTheyAreWritten();
     void liveRecordsKeepTheirAddress();
     void endOfAMeasurementKeepsItsEventsAndNoTransients();
-    void startEmptiesTheListsAndAHoldDoesNotConcernThem();
+    void startEmptiesTheLists();
+    void listsGoOnBehindAHold();
+    void endOfAHeldMeasurementLeavesWhatIsShown();
+    void heldTransientsOutlastTheirDrop();
+    void aHoldCopiesNoList();
     void beyondItsLimitTheTransientListDropsTheOldest();
 
 private:
+    static __trans_data transient(qint32 number)
+    {
+        __trans_data record;
+        record.number = number;
+        return record;
+    }
+
     LiveData m_data;
 };
 
@@ -191,18 +202,79 @@ void TstLiveData::endOfAMeasurementKeepsItsEventsAndNoTransients()
     QVERIFY(m_data.transients().isEmpty());
 }
 
-void TstLiveData::startEmptiesTheListsAndAHoldDoesNotConcernThem()
+void TstLiveData::startEmptiesTheLists()
 {
-    m_data.hold();
     m_data.events().append({});
-    m_data.transients().append({});
-    QCOMPARE(m_data.events().size(), 1);
-    QCOMPARE(m_data.transients().size(), 1);
+    m_data.transients().append(transient(1));
+    m_data.hold();
     m_data.finish();
     m_data.empty(50);
     QVERIFY(m_data.events().isEmpty());
     QVERIFY(!m_data.events().isOver());
     QVERIFY(m_data.transients().isEmpty());
+    QCOMPARE(m_data.events().shownSize(), 0);
+    QCOMPARE(m_data.transients().shownSize(), 0);
+}
+
+void TstLiveData::listsGoOnBehindAHold()
+{
+    m_data.events().append({});
+    m_data.transients().append(transient(1));
+    m_data.hold();
+    m_data.events().append({});
+    m_data.transients().append(transient(2));
+    m_data.hold(); // changes nothing
+    QCOMPARE(m_data.events().size(), 2);
+    QCOMPARE(m_data.transients().size(), 2);
+    QCOMPARE(m_data.events().shownSize(), 1);
+    QCOMPARE(m_data.transients().shownSize(), 1);
+    QCOMPARE(m_data.transients().shownAt(0).number, 1);
+    m_data.run();
+    QCOMPARE(m_data.events().shownSize(), 2);
+    QCOMPARE(m_data.transients().shownSize(), 2);
+    QCOMPARE(m_data.transients().shownAt(1).number, 2);
+}
+
+void TstLiveData::endOfAHeldMeasurementLeavesWhatIsShown()
+{
+    for (int number = 1; number <= 3; ++number)
+        m_data.transients().append(transient(number));
+    m_data.hold();
+    m_data.transients().append(transient(4));
+    m_data.finish();
+    QVERIFY(m_data.transients().isEmpty());
+    QCOMPARE(m_data.transients().shownSize(), 3);
+    QCOMPARE(m_data.transients().shownAt(0).number, 1);
+    QCOMPARE(m_data.transients().shownAt(2).number, 3);
+}
+
+void TstLiveData::heldTransientsOutlastTheirDrop()
+{
+    TransientList &list = m_data.transients();
+    for (int number = 1; number <= 998; ++number)
+        list.append(transient(number));
+    m_data.hold();
+    for (int number = 999; number <= 3500; ++number) {
+        list.append(transient(number));
+        if (number % 100 != 0 && number > 1005)
+            continue;
+        QCOMPARE(list.shownSize(), 998);
+        for (const int index : { 0, 1, 500, 997 })
+            QCOMPARE(list.shownAt(index).number, index + 1);
+    }
+    QCOMPARE(list.size(), 1000);
+    m_data.run();
+    QCOMPARE(list.shownSize(), 1000);
+    QCOMPARE(list.shownAt(0).number, 2501);
+}
+
+void TstLiveData::aHoldCopiesNoList()
+{
+    m_data.events().append({});
+    m_data.transients().append(transient(1));
+    m_data.hold();
+    QCOMPARE(&m_data.events().shownAt(0), &m_data.events().at(0));
+    QCOMPARE(&m_data.transients().shownAt(0), &m_data.transients().at(0));
 }
 
 void TstLiveData::beyondItsLimitTheTransientListDropsTheOldest()

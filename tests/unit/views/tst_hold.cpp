@@ -3,6 +3,7 @@
 #include "allpages.h"
 #include "pages/viewcontainer.h"
 #include "settings/dipswellinfo.h"
+#include "widgets/controls/eventswidget.h"
 
 #include <QImage>
 #include <QVector>
@@ -101,6 +102,10 @@ private slots:
     void runShowsTheLiveMomentAgain_data() { addAllPages(); }
     void runShowsTheLiveMomentAgain();
     void percentagesOfTheHeldSpectrumTakeTheOtherReference();
+    void eventsStayThoseOfTheHold_data();
+    void eventsStayThoseOfTheHold();
+    void eventsShownForTheFirstTimeOnHoldAreThoseOfTheHold();
+    void transientsStayThoseOfTheHold();
 
 private:
     /// Pictures after each key: a page with values of the held level, then held or not, then other values behind it.
@@ -277,6 +282,129 @@ void TstHold::percentagesOfTheHeldSpectrumTakeTheOtherReference()
     continueRun(page);
     page.updateDisplay(nullptr);
     QCOMPARE(text(meter, "row1_L1"), QStringLiteral("40.000")); // 80 of 200: the choice stays
+}
+
+static PQAEventItem eventOf(qint32 type, float value)
+{
+    PQAEventItem event;
+    event.type = type;
+    event.value = value;
+    return event;
+}
+
+void TstHold::eventsStayThoseOfTheHold_data()
+{
+    QTest::addColumn<MakePage>("make");
+    QTest::addColumn<int>("trend");
+    QTest::addColumn<int>("list");
+    QTest::addColumn<int>("type");
+    QTest::newRow("dips") << MakePage(makePage<dswell>) << int(dswell::Main) << int(dswell::Events) << int(EventDip);
+    QTest::newRow("inrush") << MakePage(makePage<InrushPage>) << int(InrushPage::Start) << int(InrushPage::Events)
+                            << int(EventInrush);
+}
+
+void TstHold::eventsStayThoseOfTheHold()
+{
+    QFETCH(MakePage, make);
+    QFETCH(int, trend);
+    QFETCH(int, list);
+    QFETCH(int, type);
+    std::unique_ptr<FunctionPage> page(make());
+    auto *container = static_cast<ViewContainer *>(page.get());
+    openAll(*page);
+    beginRun(*page);
+    page->show();
+    LivePage *count = container->page(trend);
+    LivePage *lines = container->page(list);
+    auto *table = named<EventsWidget>(lines, "events");
+    EventList &events = liveData().events();
+    events.append(eventOf(type, 1));
+    events.append(eventOf(type, 2));
+    const QByteArray saved = page->pqaData();
+    holdRun(*page);
+
+    events.append(eventOf(type, 3));
+    events.change(0, [](PQAEventItem &event) { event.value = 4; });
+    press(lines, Down, 5);
+    page->updateDisplay(nullptr);
+    page->hide();
+    page->show();
+    QCOMPARE(text(count, "events_count"), QStringLiteral("2"));
+    QCOMPARE(text(lines, "events_count"), QStringLiteral("2/2"));
+    QCOMPARE(table->lineTexts(0).value(2), QStringLiteral("1.0"));
+    QVERIFY(table->lineTexts(2).isEmpty());
+    QCOMPARE(page->pqaData(), saved);
+
+    continueRun(*page);
+    QCOMPARE(text(count, "events_count"), QStringLiteral("3"));
+    QCOMPARE(text(lines, "events_count"), QStringLiteral("2/3"));
+    QCOMPARE(table->lineTexts(0).value(2), QStringLiteral("4.0"));
+    QCOMPARE(table->lineTexts(2).value(2), QStringLiteral("3.0"));
+    QVERIFY(page->pqaData() != saved);
+}
+
+void TstHold::eventsShownForTheFirstTimeOnHoldAreThoseOfTheHold()
+{
+    renewLive();
+    liveData().events().append(eventOf(EventSwell, 1));
+    liveData().hold();
+    liveData().events().append(eventOf(EventSwell, 2));
+    dswell page(liveData());
+    page.enter();
+    page.show();
+    QCOMPARE(text(page.page(dswell::Main), "events_count"), QStringLiteral("1"));
+    QCOMPARE(text(page.page(dswell::Events), "events_count"), QStringLiteral("1/1"));
+    page.hide();
+    liveData().run();
+    QCOMPARE(text(page.page(dswell::Main), "events_count"), QStringLiteral("1")); // it is hidden
+    page.show();
+    QCOMPARE(text(page.page(dswell::Main), "events_count"), QStringLiteral("2"));
+}
+
+void TstHold::transientsStayThoseOfTheHold()
+{
+    trans page(liveData());
+    openAll(page);
+    beginRun(page);
+    const auto capture = [&page](int number) {
+        __trans_data record;
+        record.number = number;
+        record.time = 1e12 + number;
+        record.position = 1u << 24 | 300u;
+        for (int i = 0; i < 600; ++i)
+            record.samples[0][i] = qint16(1000 * number);
+        liveData().transients().append(record);
+        page.hasTransEvents();
+    };
+    for (int number = 1; number <= 3; ++number)
+        capture(number);
+    page.showPage(trans::View);
+    LivePage *start = page.page(trans::Start);
+    LivePage *view = page.page(trans::View);
+    const QByteArray saved = page.pqaData();
+    holdRun(page);
+    const QImage third = view->grab().toImage();
+
+    for (int number = 4; number <= 1003; ++number) // none of the held ones is in the list any more
+        capture(number);
+    page.updateDisplay(nullptr);
+    press(view, F2, 2);
+    QCOMPARE(text(view, "trans_number"), QStringLiteral("#3/3(trans)"));
+    QVERIFY(view->grab().toImage() == third);
+    press(view, F1);
+    QCOMPARE(text(view, "trans_number"), QStringLiteral("#2/3(trans)"));
+    press(view, F5);
+    QCOMPARE(text(start, "trans_count"), QStringLiteral("#3"));
+    press(start, F1);
+    QCOMPARE(text(view, "trans_number"), QStringLiteral("#3/3(trans)"));
+    QCOMPARE(page.pqaData(), saved);
+
+    continueRun(page);
+    page.updateDisplay(nullptr);
+    QCOMPARE(text(start, "trans_count"), QStringLiteral("#1000"));
+    QCOMPARE(text(view, "trans_number"), QStringLiteral("#1/1000(trans)"));
+    press(view, F2);
+    QVERIFY(page.pqaData() != saved);
 }
 
 PAGE_TEST_MAIN(TstHold)
