@@ -1,6 +1,8 @@
 #include "shell/pagetable.h"
 
+#include "services/modbuspublisher.h"
 #include "settings/recordinfo.h"
+#include "setup/setuppage.h"
 #include "shell/tasklinks.h"
 #include "task/unitask.h"
 #include "views/dips/dswell.h"
@@ -60,6 +62,13 @@ FunctionPage *makeInverter(TaskLinks &links, const LiveData &data)
     return page;
 }
 
+FunctionPage *makeSetup(TaskLinks &links, const LiveData &data)
+{
+    auto *page = new SetupPage(data);
+    QObject::connect(page, &SetupPage::settingsLeft, &links, &ModbusPublisher::publishSettings);
+    return page;
+}
+
 bool notRecording()
 {
     return !RecordInfo::m_in_recording;
@@ -105,7 +114,8 @@ const PageRow kRows[] = {
       Plan::Commanded, AbstractTask::UniMonitor, Hears::kFront, 11, 0, nullptr, kNot400Hz },
     { UI_SCOPE, QT_TRANSLATE_NOOP("BaseDialog", "Scope"), kNoTile,
       Plan::Live, kBasic, Hears::kLive, 12, 7, make<ScopePage> },
-    { UI_SETUP, QT_TRANSLATE_NOOP("BaseDialog", "Setup"), kNoTile, Plan::Settings, kBasic, Hears::kFront, 14, 0, nullptr },
+    { UI_SETUP, QT_TRANSLATE_NOOP("BaseDialog", "Setup"), kNoTile, Plan::Settings, kBasic, Hears::kFront, 14, 0,
+      makeSetup },
     { UI_MEMORY, QT_TRANSLATE_NOOP("BaseDialog", "Memory"), kNoTile, Plan::Overlay, kBasic, 0, 15, 0, nullptr },
     { UI_WAVE, QT_TRANSLATE_NOOP("BaseDialog", "Wave"),
       { 10, "wave", QT_TRANSLATE_NOOP("MenuPage", "Wave\n") },

@@ -68,7 +68,7 @@ const QVector<Page> &galleryPages()
         byKey("scope", "F6",
               { "voltage", "F1: next", "F1: next-2", "F1: next-3", "F1: next-4", "F3: cursor", "F3 Up: zoom" }),
         byKey("monitor", "F8", { "message" }, "F5", kNotAt400Hz, kOneWiring),
-        byKey("setup", "F9", { "message" }, "F5", true, kOneWiring),
+        byKey("setup", "F9", { "first", "F5: second" }),
         byKey("memory", "F10", { "message" }, "F5", true, kOneWiring),
     };
     return pages;
