@@ -16,7 +16,7 @@ static_assert(std::size(kPictures) == std::size(kChannelSets), "one picture per 
 QString JoinPicture::icon(int joinMode)
 {
     const ChannelSet *set = channelSet(joinMode);
-    return set ? QStringLiteral(":/%1").arg(QLatin1String(kPictures[set - kChannelSets])) : QString();
+    return set ? QStringLiteral(":/%1").arg(QLatin1String(kPictures[set->joinMode - 1])) : QString();
 }
 
 QString JoinPicture::detail(int joinMode)
