@@ -65,7 +65,7 @@ void Page::keyPressEvent(QKeyEvent *event)
 
 void Page::keyReleaseEvent(QKeyEvent *event)
 {
-    releaseKey(m_keys.release(*event));
+    m_keys.release(*event);
     event->ignore();
 }
 

@@ -42,41 +42,12 @@ signals:
     void leave(_quvera_ui_type target);
 
 protected:
-    /// One key of a page: what its label says and what it does. Without a caption the label stays as it is
-    /// (a soft-key button paints its own).
-    template <typename Owner> struct KeyRow
-    {
-        using Action = void (Owner::*)();
-        using Step = void (Owner::*)(int);
-
-        KeyRow(int key, const char *caption, Action action) : key(key), caption(caption), action(action) { }
-        /// A key that steps while it is held: \a direction 1 or -1 is the sign of its steps.
-        KeyRow(int key, const char *caption, Step step, int direction, const KeyRepeat::Pace &pace)
-            : key(key), caption(caption), step(step), direction(direction), pace(pace)
-        { }
-
-        int key; // Qt::Key_F1 to F5, arrows, Enter
-        const char *caption;
-        Action action = nullptr;
-        Step step = nullptr;
-        int direction = 0;
-        KeyRepeat::Pace pace;
-    };
+    template <typename Owner> using KeyRow = FrontKeys::KeyRow<Owner>;
 
     /// To be called once the form exists; a page with modes has a table for each and sets the one in force.
     template <typename Owner, std::size_t N> void setKeys(const KeyRow<Owner> (&rows)[N])
     {
-        std::vector<FrontKeys::Row> keys;
-        auto *page = static_cast<Owner *>(this);
-        for (const KeyRow<Owner> &row : rows) {
-            FrontKeys::Row key { row.key, row.caption, nullptr, nullptr, row.direction, row.pace };
-            if (row.step)
-                key.step = [page, step = row.step](int steps) { (page->*step)(steps); };
-            else
-                key.action = [page, action = row.action] { (page->*action)(); };
-            keys.push_back(std::move(key));
-        }
-        finishKeys(std::move(keys));
+        finishKeys(FrontKeys::rowsOf(static_cast<Owner *>(this), rows));
     }
     /// For a page without keys of its own.
     void setNoKeys() { finishKeys({}); }
@@ -98,8 +69,6 @@ protected:
 
     /// Handles a key that is already mapped; false: let it rise.
     virtual bool pressKey(int key);
-    /// A key was let go; for pages that handle keys beside their table.
-    virtual void releaseKey(int) { }
 
 private:
     void saveToFile();

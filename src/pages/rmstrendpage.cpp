@@ -53,12 +53,13 @@ void RmsTrendPage::chooseArrows()
 
 std::vector<FrontKeys::Row> RmsTrendPage::commonKeys()
 {
-    return {
-        { Qt::Key_F1, nullptr, [this] { changeType(); }, {}, 0, {} },
-        { Qt::Key_F2, nullptr, [this] { openEvents(); }, {}, 0, {} },
-        { Qt::Key_F3, nullptr, [this] { toggleCursor(); }, {}, 0, {} },
-        { Qt::Key_F4, nullptr, [this] { toggleZoom(); }, {}, 0, {} },
+    static const KeyRow<RmsTrendPage> keys[] = {
+        { Qt::Key_F1, nullptr, &RmsTrendPage::changeType },
+        { Qt::Key_F2, nullptr, &RmsTrendPage::openEvents },
+        { Qt::Key_F3, nullptr, &RmsTrendPage::toggleCursor },
+        { Qt::Key_F4, nullptr, &RmsTrendPage::toggleZoom },
     };
+    return FrontKeys::rowsOf(this, keys);
 }
 
 void RmsTrendPage::init_parameter()

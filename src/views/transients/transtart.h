@@ -3,10 +3,6 @@
 #include "model/livedata.h"
 #include "views/transients/transscopepage.h"
 
-namespace Ui {
-class TranStart;
-}
-
 /// Live voltages while transients are being waited for, with the threshold in force and the number captured.
 class TranStart : public TransScopePage
 {
@@ -14,7 +10,6 @@ class TranStart : public TransScopePage
 
 public:
     explicit TranStart(const LiveData &data, QWidget *parent = nullptr);
-    ~TranStart() override;
 
     void showCount();
 
@@ -26,7 +21,9 @@ public slots:
 signals:
     void goTransView();
 
+protected:
+    void setPageKeys() override;
+
 private:
     const LiveData &m_data;
-    std::unique_ptr<Ui::TranStart> m_ui;
 };

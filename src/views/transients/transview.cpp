@@ -1,10 +1,7 @@
 #include "views/transients/transview.h"
-#include "ui_transview.h"
 
 #include "model/livedata.h"
 
-#include "pages/scopecontrols.h"
-#include "widgets/controls/labellook.h"
 #include "widgets/text/localtime.h"
 
 #include <algorithm>
@@ -25,39 +22,32 @@ QString timeText(double msecs)
 
 } // namespace
 
-TransView::TransView(const LiveData &data, QWidget *parent)
-    : TransScopePage(parent), m_list(data.transients()), m_ui(new Ui::TransView)
+TransView::TransView(const LiveData &data, QWidget *parent) : TransScopePage(parent), m_list(data.transients())
+{
+    static const HeadLabel head[] = {
+        { "trans_number", 20, 180 },
+        { "trans_time", 200, 300 },
+        { "trigger_t", 20, 134, 2 },
+        { "trigger", 150, 60, 2 },
+    };
+    setUp(head);
+    showHeader(nullptr);
+}
+
+void TransView::setPageKeys()
 {
     static const KeyRow<TransView> keys[] = {
         { Qt::Key_F1, QT_TRANSLATE_NOOP("TransView", "Prev"), &TransView::selectPrev },
         { Qt::Key_F2, QT_TRANSLATE_NOOP("TransView", "Next"), &TransView::selectNext },
-        { Qt::Key_F3, nullptr, &TransView::toggleCursor },
-        { Qt::Key_F4, nullptr, &TransView::toggleZoom },
         { Qt::Key_F5, QT_TRANSLATE_NOOP("TransView", "Back"), &TransView::goTranStart },
-        { Qt::Key_Left, nullptr, &TransView::pressLeft },
-        { Qt::Key_Right, nullptr, &TransView::pressRight },
-        { Qt::Key_Up, nullptr, &TransView::pressUp },
-        { Qt::Key_Down, nullptr, &TransView::pressDown },
     };
-    m_ui->setupUi(this);
-    LabelLook::dress(this);
-    setUp(m_ui->scope, m_ui->btn_f3, m_ui->btn_f4, m_ui->zoom_scale);
     setKeys(keys);
-    showHeader(nullptr);
 }
-
-TransView::~TransView() = default;
 
 void TransView::init_parameter()
 {
     TransScopePage::init_parameter();
     selectNewest();
-}
-
-void TransView::retranslateUi()
-{
-    TransScopePage::retranslateUi();
-    setText(m_ui->trigger_t, tr("TRIGGER ON:"));
 }
 
 void TransView::selectNewest()
@@ -112,7 +102,7 @@ void TransView::select(int index)
     m_number = record ? record->number : 0;
     m_time = record ? record->time : 0;
     if (record)
-        controls().setCursorIndex(int(record->position & kPlaceMask));
+        setCursorIndex(int(record->position & kPlaceMask));
     showHeader(record);
     showRecord(record);
 }
@@ -120,7 +110,8 @@ void TransView::select(int index)
 void TransView::showHeader(const __trans_data *record)
 {
     const int count = m_list.shownSize();
-    setText(m_ui->trans_number, QStringLiteral("#%1/%2(trans)").arg(record ? m_index + 1 : 0).arg(count));
-    setText(m_ui->trans_time, record ? timeText(record->time) : QString());
-    setText(m_ui->trigger, record ? ChannelLabels::channels().caption(int(record->position >> 24) - 1) : QString());
+    setText(headLabel("trans_number"), QStringLiteral("#%1/%2(trans)").arg(record ? m_index + 1 : 0).arg(count));
+    setText(headLabel("trans_time"), record ? timeText(record->time) : QString());
+    setText(headLabel("trigger"),
+            record ? ChannelLabels::channels().caption(int(record->position >> 24) - 1) : QString());
 }

@@ -5,10 +5,6 @@
 class LiveData;
 class TransientList;
 
-namespace Ui {
-class TransView;
-}
-
 /// One captured transient of the list, which grows, drops its oldest entry at its limit and may be cleared at any time.
 /// The page keeps no pointer into it: it knows its transient by number and time.
 class TransView : public TransScopePage
@@ -17,7 +13,6 @@ class TransView : public TransScopePage
 
 public:
     explicit TransView(const LiveData &data, QWidget *parent = nullptr);
-    ~TransView() override;
 
     /// Shows the transient captured last.
     void selectNewest();
@@ -28,10 +23,12 @@ public:
 public slots:
     void updateDisplay(void *) override { followList(); }
     void init_parameter() override;
-    void retranslateUi() override;
 
 signals:
     void goTranStart();
+
+protected:
+    void setPageKeys() override;
 
 private:
     void selectPrev();
@@ -41,7 +38,6 @@ private:
     void showHeader(const __trans_data *record);
 
     const TransientList &m_list;
-    std::unique_ptr<Ui::TransView> m_ui;
     int m_index = 0;
     // Of the transient shown; number 0: none
     qint32 m_number = 0;

@@ -2,7 +2,9 @@
 
 #include "widgets/controls/keyrepeat.h"
 
+#include <cstddef>
 #include <functional>
+#include <utility>
 #include <vector>
 
 class QKeyEvent;
@@ -24,6 +26,43 @@ public:
         int direction = 0; // 1 or -1
         KeyRepeat::Pace pace;
     };
+
+    /// One key in the table of a page or dialog: what its label says and what it does. Without a caption the label
+    /// stays as it is (a soft-key button paints its own).
+    template <typename Owner> struct KeyRow
+    {
+        using Action = void (Owner::*)();
+        using Step = void (Owner::*)(int);
+
+        KeyRow(int key, const char *caption, Action action) : key(key), caption(caption), action(action) { }
+        /// A key that steps while it is held: \a direction 1 or -1 is the sign of its steps.
+        KeyRow(int key, const char *caption, Step step, int direction, const KeyRepeat::Pace &pace)
+            : key(key), caption(caption), step(step), direction(direction), pace(pace)
+        { }
+
+        int key; // Qt::Key_F1 to F12, arrows, Enter
+        const char *caption;
+        Action action = nullptr;
+        Step step = nullptr;
+        int direction = 0;
+        KeyRepeat::Pace pace;
+    };
+
+    /// The rows of a table, as \a owner does them.
+    template <typename Owner, std::size_t N>
+    static std::vector<Row> rowsOf(Owner *owner, const KeyRow<Owner> (&table)[N])
+    {
+        std::vector<Row> rows;
+        for (const KeyRow<Owner> &entry : table) {
+            Row row { entry.key, entry.caption, nullptr, nullptr, entry.direction, entry.pace };
+            if (entry.step)
+                row.step = [owner, step = entry.step](int steps) { (owner->*step)(steps); };
+            else
+                row.action = [owner, action = entry.action] { (owner->*action)(); };
+            rows.push_back(std::move(row));
+        }
+        return rows;
+    }
 
     /// \a owner owns what repeats, and stops it when it is hidden.
     explicit FrontKeys(QWidget *owner) : m_owner(owner) { }

@@ -19,10 +19,14 @@ bool FileCopingProgressBar::copyFile(const QString &source, const QString &targe
 FileCopingProgressBar::FileCopingProgressBar(const QString &source, const QString &target, QWidget *parent)
     : SoftKeyDialog(parent), m_ui(new Ui::FileCopingProgressBar), m_copy(source, target)
 {
+    static const FrontKeys::KeyRow<FileCopingProgressBar> keys[] = {
+        { Qt::Key_F5, QT_TRANSLATE_NOOP("FileCopingProgressBar", "Cancel"), &FileCopingProgressBar::reject },
+    };
     m_ui->setupUi(this);
     m_ui->progress->setStyleSheet(QString::fromLatin1(kStyle));
     fitText(m_ui->file_name, QFileInfo(source).fileName(), 18);
     finishForm();
+    setKeys(keys);
     err = QStringLiteral("NoErr");
     connect(&m_turn, &QTimer::timeout, this, &FileCopingProgressBar::copyPiece);
     m_turn.start(0);
@@ -49,10 +53,4 @@ void FileCopingProgressBar::reject()
 {
     m_copy.cancel(tr("Canceled"));
     finish();
-}
-
-void FileCopingProgressBar::pressKey(int key)
-{
-    if (key == Qt::Key_F5)
-        reject();
 }

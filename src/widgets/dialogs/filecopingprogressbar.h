@@ -28,9 +28,6 @@ public:
     FileCopingProgressBar(const QString &source, const QString &target, QWidget *parent = nullptr);
     ~FileCopingProgressBar() override;
 
-protected:
-    void pressKey(int key) override;
-
 private:
     void copyPiece();
     void finish();

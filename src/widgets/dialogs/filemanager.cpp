@@ -30,10 +30,20 @@ QString FileManager::getExistFileName()
 
 FileManager::FileManager(QWidget *parent) : SoftKeyDialog(parent), m_ui(new Ui::FileManager)
 {
+    static const FrontKeys::KeyRow<FileManager> keys[] = {
+        { Qt::Key_F1, nullptr, &FileManager::open }, // its text follows the selection
+        { Qt::Key_F2, QT_TRANSLATE_NOOP("FileManager", "Fold Dir"), &FileManager::cdParentDir },
+        { Qt::Key_F4, QT_TRANSLATE_NOOP("FileManager", "Select"), &FileManager::chooseFile },
+        { Qt::Key_F5, QT_TRANSLATE_NOOP("FileManager", "Cancel"), &FileManager::reject },
+        { Qt::Key_Up, nullptr, &FileManager::selectPrevious },
+        { Qt::Key_Down, nullptr, &FileManager::selectNext },
+        { Qt::Key_Enter, nullptr, &FileManager::cdSubDir },
+    };
     m_ui->setupUi(this);
     m_ui->list->setStyleSheet(QString::fromLatin1(kListStyle));
     m_ui->list->setFocusPolicy(Qt::NoFocus);
     finishForm();
+    setKeys(keys);
     connect(m_ui->list, &QListWidget::currentRowChanged, this, &FileManager::showKeys);
     connect(&m_disks, &uDiskStorage::uDiskStorageChanged, this, &FileManager::disksChanged);
     refresh();
@@ -123,6 +133,24 @@ void FileManager::moveSelection(int step)
         m_ui->list->setCurrentRow(row);
 }
 
+void FileManager::selectPrevious()
+{
+    moveSelection(-1);
+}
+
+void FileManager::selectNext()
+{
+    moveSelection(1);
+}
+
+void FileManager::open()
+{
+    if (isFolder(m_ui->list->currentItem()))
+        cdSubDir();
+    else
+        chooseFile();
+}
+
 void FileManager::cdSubDir()
 {
     const QListWidgetItem *item = m_ui->list->currentItem();
@@ -154,35 +182,4 @@ void FileManager::chooseFile()
         return;
     m_chosen = item->data(kPathRole).toString();
     accept();
-}
-
-void FileManager::pressKey(int key)
-{
-    switch (key) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        moveSelection(key == Qt::Key_Up ? -1 : 1);
-        break;
-    case Qt::Key_Enter:
-    case Qt::Key_Return:
-        cdSubDir();
-        break;
-    case Qt::Key_F1:
-        if (isFolder(m_ui->list->currentItem()))
-            cdSubDir();
-        else
-            chooseFile();
-        break;
-    case Qt::Key_F2:
-        cdParentDir();
-        break;
-    case Qt::Key_F4:
-        chooseFile();
-        break;
-    case Qt::Key_F5:
-        reject();
-        break;
-    default:
-        break;
-    }
 }

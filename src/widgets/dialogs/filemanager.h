@@ -26,15 +26,15 @@ public:
     QString chosenFile() const { return m_chosen; }
     QString folder() const { return m_folder; } // empty: the list of disks
 
-protected:
-    void pressKey(int key) override;
-
 private:
     void refresh();
     void listDisks();
     void listFolder();
     void addItem(const char *icon, const QString &text, const QString &path, bool isFolder);
     void moveSelection(int step);
+    void selectPrevious();
+    void selectNext();
+    void open(); // the folder, or takes the file
     void cdSubDir();
     void cdParentDir();
     void chooseFile();

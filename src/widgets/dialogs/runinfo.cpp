@@ -14,12 +14,15 @@ int RunInfo::showSystemStatus(const LiveData &data)
 
 RunInfo::RunInfo(const LiveData &data, QWidget *parent) : SoftKeyDialog(parent), m_ui(new Ui::RunInfo)
 {
+    static const FrontKeys::KeyRow<RunInfo> keys[] = {
+        { Qt::Key_F1, QT_TRANSLATE_NOOP("RunInfo", "Restart"), &RunInfo::restart },
+        { Qt::Key_F5, QT_TRANSLATE_NOOP("RunInfo", "Cancel"), &RunInfo::reject },
+    };
     m_ui->setupUi(this);
     m_ui->icon->setPixmap(QPixmap(QStringLiteral(":/info")));
     fitText(m_ui->system_status, statusText(data), 19);
     finishForm();
-    setKeyText(1, tr("Restart"));
-    setKeyText(5, tr("Cancel"));
+    setKeys(keys);
     if (RecordInfo::m_in_recording) {
         m_ui->btn_f1->setStyleSheet(QStringLiteral(
             "QLabel {background-color: transparent;background-image: url(:/button);color: rgb(128, 128, 128);}"));
@@ -47,10 +50,8 @@ QString RunInfo::statusText(const LiveData &data)
         .arg(count(EventInrush));
 }
 
-void RunInfo::pressKey(int key)
+void RunInfo::restart()
 {
-    if (key == Qt::Key_F1 && !RecordInfo::m_in_recording)
+    if (!RecordInfo::m_in_recording)
         done(RestartTask);
-    else if (key == Qt::Key_F5)
-        done(Stay);
 }

@@ -29,9 +29,8 @@ public:
 public slots:
     void reject() override { done(Stay); }
 
-protected:
-    void pressKey(int key) override;
-
 private:
+    void restart();
+
     std::unique_ptr<Ui::RunInfo> m_ui;
 };

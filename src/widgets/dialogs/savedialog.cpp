@@ -25,6 +25,12 @@ int SaveDialog::save(int filter, QString &name)
 SaveDialog::SaveDialog(int filter, const QString &name, QWidget *parent)
     : SoftKeyDialog(parent), m_ui(new Ui::SaveDialog), m_prefix(name), m_dataOffered(filter & FilterData)
 {
+    static const FrontKeys::KeyRow<SaveDialog> keys[] = {
+        { Qt::Key_F4, QT_TRANSLATE_NOOP("SaveDialog", "Ok"), &SaveDialog::takeName },
+        { Qt::Key_F5, QT_TRANSLATE_NOOP("SaveDialog", "Cancel"), &SaveDialog::reject },
+        { Qt::Key_Down, nullptr, &SaveDialog::changeFileType },
+        { Qt::Key_Enter, nullptr, &SaveDialog::editName },
+    };
     m_ui->setupUi(this);
     m_ui->file_name->setStyleSheet(QStringLiteral("QLabel { background-color: rgb(5, 8, 15); border: 1px solid "
                                                   "rgb(69, 200, 255); border-radius: 3px; padding-left: 6px; }"));
@@ -35,6 +41,7 @@ SaveDialog::SaveDialog(int filter, const QString &name, QWidget *parent)
         control->setFocusPolicy(Qt::NoFocus); // all keys come to the dialog
     fitText(m_ui->hint, m_ui->hint->text(), 14);
     finishForm();
+    setKeys(keys);
     getDefaultFileName();
 }
 
@@ -83,6 +90,13 @@ void SaveDialog::editName()
         setName(edited + suffix(fileType()));
 }
 
+void SaveDialog::takeName()
+{
+    // No name is left when all 999 defaults are taken: one has to be typed first.
+    if (!m_name.isEmpty() && CoverorNot(m_name))
+        accept();
+}
+
 /// Whether the file may be written: it does not exist, or the user gives it up.
 bool SaveDialog::CoverorNot(const QString &name)
 {
@@ -93,27 +107,4 @@ bool SaveDialog::CoverorNot(const QString &name)
         return false;
     FileInfo().removeInfo(name);
     return true;
-}
-
-void SaveDialog::pressKey(int key)
-{
-    switch (key) {
-    case Qt::Key_Enter:
-    case Qt::Key_Return:
-        editName();
-        break;
-    case Qt::Key_Down:
-        changeFileType();
-        break;
-    case Qt::Key_F4:
-        // No name is left when all 999 defaults are taken: one has to be typed first.
-        if (!m_name.isEmpty() && CoverorNot(m_name))
-            accept();
-        break;
-    case Qt::Key_F5:
-        reject();
-        break;
-    default:
-        break;
-    }
 }

@@ -30,15 +30,13 @@ public:
     QString name() const { return m_name; } // with extension
     QString fileName() const; // full path, the board's
 
-protected:
-    void pressKey(int key) override;
-
 private:
     static QString suffix(int type);
     void setName(const QString &name);
     void getDefaultFileName();
     void changeFileType();
     void editName();
+    void takeName();
     bool CoverorNot(const QString &name);
 
     std::unique_ptr<Ui::SaveDialog> m_ui;

@@ -46,6 +46,15 @@ void SoftKeyDialog::finishForm()
     }
 }
 
+void SoftKeyDialog::takeKeys(std::vector<FrontKeys::Row> rows)
+{
+    for (const FrontKeys::Row &row : rows) {
+        if (row.caption)
+            setKeyText(row.key - Qt::Key_F1 + 1, QCoreApplication::translate(metaObject()->className(), row.caption));
+    }
+    m_keys.setRows(std::move(rows));
+}
+
 QLabel *SoftKeyDialog::softKey(int number) const
 {
     return findChild<QLabel *>(QStringLiteral("btn_f%1").arg(number));

@@ -27,7 +27,11 @@ protected:
     /// A key of the front panel, by its Qt key: what the table says. What is not handled does nothing: no key reaches
     /// the page behind.
     virtual void pressKey(int key) { m_keys.act(key); }
-    FrontKeys &keys() { return m_keys; }
+    /// What each key does and says, by the dialog's table; to be called once, behind finishForm().
+    template <typename Owner, std::size_t N> void setKeys(const FrontKeys::KeyRow<Owner> (&rows)[N])
+    {
+        takeKeys(FrontKeys::rowsOf(static_cast<Owner *>(this), rows));
+    }
 
     /// Takes the form's size for good and sets the text of each soft key, dropping the picture of those without one.
     void finishForm();
@@ -39,6 +43,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void takeKeys(std::vector<FrontKeys::Row> rows);
     /// The window that a dialog opens over: the one with the keyboard, else that of the pages.
     static QWidget *openerWindow();
 

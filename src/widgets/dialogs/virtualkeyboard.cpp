@@ -18,6 +18,18 @@ VirtualKeyBoard::VirtualKeyBoard(const QString &title, const QString &text, cons
                                  QWidget *parent)
     : SoftKeyDialog(parent), m_ui(new Ui::VirtualKeyBoard), m_maxLength(std::max(maxLength, 1))
 {
+    static const FrontKeys::KeyRow<VirtualKeyBoard> keys[] = {
+        { Qt::Key_F1, nullptr, &VirtualKeyBoard::exchangeChar }, // its text is the case that it leads to
+        { Qt::Key_F2, QT_TRANSLATE_NOOP("VirtualKeyBoard", "Clear"), &VirtualKeyBoard::clearInput },
+        { Qt::Key_F3, QT_TRANSLATE_NOOP("VirtualKeyBoard", "Space"), &VirtualKeyBoard::appendSpace },
+        { Qt::Key_F4, QT_TRANSLATE_NOOP("VirtualKeyBoard", "Ok"), &VirtualKeyBoard::accept },
+        { Qt::Key_F5, QT_TRANSLATE_NOOP("VirtualKeyBoard", "Cancel"), &VirtualKeyBoard::reject },
+        { Qt::Key_Left, nullptr, &VirtualKeyBoard::moveLeft },
+        { Qt::Key_Right, nullptr, &VirtualKeyBoard::moveRight },
+        { Qt::Key_Up, nullptr, &VirtualKeyBoard::moveUp },
+        { Qt::Key_Down, nullptr, &VirtualKeyBoard::moveDown },
+        { Qt::Key_Enter, nullptr, &VirtualKeyBoard::handleKeyPress },
+    };
     if (!expression.isEmpty())
         m_expression.setPattern(QRegularExpression::anchoredPattern(expression));
     m_ui->setupUi(this);
@@ -26,6 +38,7 @@ VirtualKeyBoard::VirtualKeyBoard(const QString &title, const QString &text, cons
     m_ui->hint->setStyleSheet(QStringLiteral("QLabel { color: rgb(255, 160, 64); }"));
     fitText(m_ui->title, title, 20);
     finishForm();
+    setKeys(keys);
     setKeyText(1, QStringLiteral("ABC"));
     m_ui->keys->setCurrentChar(QLatin1Char('q'));
     setInput(text);
@@ -78,37 +91,32 @@ void VirtualKeyBoard::accept()
         fitText(m_ui->hint, tr("Invalid input!"), 18);
 }
 
-void VirtualKeyBoard::pressKey(int key)
+void VirtualKeyBoard::clearInput()
 {
-    switch (key) {
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-        m_ui->keys->moveHorizontally(key == Qt::Key_Left ? -1 : 1);
-        break;
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-        m_ui->keys->moveVertically(key == Qt::Key_Up ? -1 : 1);
-        break;
-    case Qt::Key_Enter:
-    case Qt::Key_Return:
-        handleKeyPress();
-        break;
-    case Qt::Key_F1:
-        exchangeChar();
-        break;
-    case Qt::Key_F2:
-        setInput(QString());
-        break;
-    case Qt::Key_F3:
-        append(QLatin1Char(' '));
-        break;
-    case Qt::Key_F4:
-        accept();
-        break;
-    case Qt::Key_F5:
-        reject();
-        break;
-    default:
-        break;
-    }
+    setInput(QString());
+}
+
+void VirtualKeyBoard::appendSpace()
+{
+    append(QLatin1Char(' '));
+}
+
+void VirtualKeyBoard::moveLeft()
+{
+    m_ui->keys->moveHorizontally(-1);
+}
+
+void VirtualKeyBoard::moveRight()
+{
+    m_ui->keys->moveHorizontally(1);
+}
+
+void VirtualKeyBoard::moveUp()
+{
+    m_ui->keys->moveVertically(-1);
+}
+
+void VirtualKeyBoard::moveDown()
+{
+    m_ui->keys->moveVertically(1);
 }

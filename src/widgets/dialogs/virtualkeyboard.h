@@ -27,12 +27,15 @@ public:
 
     QString text() const { return m_text; }
 
-protected:
-    void pressKey(int key) override;
-
 private:
     void handleKeyPress();
     void exchangeChar();
+    void clearInput();
+    void appendSpace();
+    void moveLeft();
+    void moveRight();
+    void moveUp();
+    void moveDown();
     void append(QChar sign);
     void setInput(const QString &text);
     void accept() override;
