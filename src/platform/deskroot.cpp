@@ -19,12 +19,14 @@ const char *const kFolders[] = {
     "/bin",
     "/dev",
     "/etc/init.d",
+    "/etc/quvera",
     "/mnt/calibration",
     "/mnt/storage",
     "/mnt/userfs/config",
     "/mnt/userfs/language",
     "/mnt/userfs/skin",
     "/mnt/userfs/sys/limits",
+    "/opt/quvera",
     "/run/media",
     "/sys/bus/iio/devices/iio:device0",
     "/sys/class/backlight/backlight",
@@ -51,6 +53,10 @@ const PlainFile kFiles[] = {
 /// Lines that the instrument drives (47 supply latch, 48 to 59 ranges) or reads (105 charging, 117 charged).
 const int kGpioLines[] = { 47, 48, 49, 50, 51, 52, 53, 54, 55, 56, 57, 58, 59, 105, 117 };
 
+/// What unpacks updates. It only writes below the root, so where the program stands beside this one the stand-in hands
+/// over to it.
+const char *const kUnpacker = "/bin/update-unpack";
+
 /// Commands that on a desk only leave a line in var/log/commands.
 const char *const kStandIns[] = {
     "/bin/date",
@@ -60,7 +66,7 @@ const char *const kStandIns[] = {
     "/bin/networking.sh",
     "/bin/udhcpc",
     "/bin/wlan0_del_route.sh",
-    "/bin/update-unpack",
+    kUnpacker,
     "/etc/init.d/networking",
 };
 
@@ -93,13 +99,32 @@ bool makeFile(const QString &path, const QByteArray &content, bool executable)
     return result == 0 || errno == EEXIST;
 }
 
+/// What a root or a program's path may hold: scripts and shell commands name it, quoted or not.
+bool isPlain(const QString &path)
+{
+    static const QRegularExpression plain(QStringLiteral("\\A[A-Za-z0-9_./+@%,-]+\\z"));
+    return plain.match(path).hasMatch();
+}
+
+/// Lines that hand over to the program of a stand-in's name beside this one, if there is one.
+QByteArray handOver(const QString &name)
+{
+    const QString self = QFile::symLinkTarget(QStringLiteral("/proc/self/exe"));
+    const QString program
+        = self.left(self.lastIndexOf(QLatin1Char('/'))) + name.mid(name.lastIndexOf(QLatin1Char('/')));
+    if (!isPlain(program) || !QFileInfo(program).isExecutable())
+        return {};
+    return "[ -x '" + program.toLatin1() + "' ] || exit 0\nexec '" + program.toLatin1() + "' \"$@\"\n";
+}
+
 QByteArray standInScript(const QString &boardPath)
 {
     const QByteArray folder = boardPath.left(boardPath.lastIndexOf('/')).toLatin1();
     return "#!/bin/sh\n"
            "# Stands for the board's command: notes what the instrument asked for and does nothing.\n"
            "printf '%s\\n' \"${0##*/}${*:+ $*}\" >> \"${0%"
-        + folder + "/*}/var/log/commands\"\n";
+        + folder + "/*}/var/log/commands\"\n"
+        + (boardPath == QLatin1String(kUnpacker) ? handOver(boardPath) : QByteArray());
 }
 
 QString failure(const QString &path)
@@ -120,9 +145,7 @@ bool DeskRoot::prepare(QString *error)
 
 QString DeskRoot::build(const QString &root)
 {
-    // The root is put into shell commands in front of every path, quoted or not.
-    static const QRegularExpression plain(QStringLiteral("\\A[A-Za-z0-9_./+@%,-]+\\z"));
-    if (!plain.match(root).hasMatch())
+    if (!isPlain(root))
         return QStringLiteral("The desk root cannot be used: %1 holds characters that a shell would split or expand")
             .arg(root.simplified());
 

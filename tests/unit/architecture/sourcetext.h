@@ -39,7 +39,7 @@ inline QStringList sources(const QString &folder)
 inline QStringList allSources()
 {
     return sources(QStringLiteral("src")) + sources(QStringLiteral("processor")) + sources(QStringLiteral("tools"))
-        + sources(QStringLiteral("tests")) + sources(QStringLiteral("assets"));
+        + sources(QStringLiteral("tests")) + sources(QStringLiteral("assets")) + sources(QStringLiteral("packaging"));
 }
 
 /// A text with its comments taken out, line by line; "//" inside a literal stays.

@@ -1,0 +1,61 @@
+// update-unpack PACKAGE: checks an update package and installs it. Called by the instrument's update page.
+#include "board.h"
+#include "install.h"
+#include "minimum.h"
+
+#include <clocale>
+#include <cstdio>
+#include <cstdlib>
+#include <sys/stat.h>
+
+using namespace update;
+
+namespace {
+
+/// The kind that the user chose; without the variable, as by hand, any.
+std::optional<Kind> wantedKind()
+{
+    const char *wanted = std::getenv("QUVERA_UPDATE_KIND");
+    for (const Kind kind : { Kind::Software, Kind::Firmware }) {
+        if (wanted && std::string(wanted) == kindName(kind))
+            return kind;
+    }
+    return {};
+}
+
+Outcome unpack(const std::string &path)
+{
+    constexpr std::size_t kMostKeyBytes = 4096;
+    const std::string root = rootFolder();
+    std::string publicKey;
+    if (!readSmall(root + kKeyFile, kMostKeyBytes, &publicKey))
+        return { NotInstalled, "the instrument has no key that packages are checked with" };
+    Package package;
+    Outcome outcome = package.open(path, publicKey, wantedKind());
+    if (!outcome.good())
+        return outcome;
+    const Head &head = package.head();
+    const Minimum minimum(root);
+    if (head.version < minimum.of(head.kind))
+        return { Refused, "the package is refused: it is older than allowed" };
+    outcome = head.kind == Kind::Software ? installSoftware(package, root) : leaveFirmware(package, root);
+    if (outcome.good() && !minimum.raise(head.kind, head.minimum))
+        return { NotInstalled, "the new version is there, but the oldest one allowed cannot be stored" };
+    return outcome;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    std::setlocale(LC_NUMERIC, "C");
+    ::umask(022);
+    if (argc != 2) {
+        std::fputs("Usage: update-unpack PACKAGE\n", stderr);
+        return WrongCall;
+    }
+    const Outcome outcome = unpack(argv[1]);
+    if (!outcome.good())
+        std::fprintf(stderr, "update-unpack: %s\n", outcome.text.c_str());
+    return outcome.status;
+}
