@@ -10,7 +10,15 @@
 
 namespace {
 
-constexpr LabelGrid kGrid = { 330, 0, 234, 24, 44, 76, 240, 24, 1 };
+constexpr int kCaptionLeft = 76, kValueRight = 564; // pixels
+
+/// Places of a row.
+LabelGrid gridOf(int captionWidth)
+{
+    const int left = kCaptionLeft + captionWidth + 14;
+    return { left, 0, kValueRight - left, 24, 44, kCaptionLeft, captionWidth, 24, 1 };
+}
+
 const char *const kCaptionColors[] = { "#606060", "#c0c0c0" }; // grey row, selectable row
 const char *const kValueColors[] = { "#606060", "#ffffff" };
 
@@ -76,9 +84,10 @@ void EditorPage::setRows(std::vector<Row> rows)
 {
     setObjectName(QString::fromLatin1(metaObject()->className()));
     m_rows = std::move(rows);
+    const LabelGrid grid = gridOf(m_look.captionWidth);
     for (std::size_t i = 0; i < m_rows.size(); ++i)
-        m_labels.push_back(kGrid.addRow(this, m_rows[i].name + QLatin1String("_t"), { m_rows[i].name },
-                                        m_look.top + int(i) * m_look.pitch));
+        m_labels.push_back(grid.addRow(this, m_rows[i].name + QLatin1String("_t"), { m_rows[i].name },
+                                       m_look.top + int(i) * m_look.pitch));
     LabelLook::dress(this);
     m_field = -1;
     select(1);

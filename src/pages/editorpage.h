@@ -64,6 +64,7 @@ protected:
         const char *title; // to be translated
         int top = 70;
         int pitch = 60;
+        int captionWidth = 240; // the values get the rest
     };
     /// \a pace: how the steps of a held key grow.
     EditorPage(_quvera_ui_type type, const Look &look, const KeyRepeat::Pace &pace, QWidget *parent);

@@ -6,7 +6,7 @@ using V = SettingValues;
 
 // How each kind of setting is edited: lowest, highest, step, unit, growth of the step while a key is held.
 constexpr EditRule kTableRow = { 1, 9, 1 };
-constexpr EditRule kVolts = { 1, 1000000, 1, "V", 3, 20 };
+constexpr EditRule kVolts = { 1, 999999, 1, "V", 3, 20 };
 constexpr EditRule kFrequency = { 1, 3, 1 };
 constexpr EditRule kRow10 = { 1, 10, 1 };
 constexpr EditRule kClampRatio = { 1, 1000000, 1, "uV/A" };
@@ -22,7 +22,7 @@ constexpr EditRule kSwitch = { 0, 1, 1 };
 constexpr EditRule kMethod = { 1, 2, 1 };
 constexpr EditRule kTermE = { 0, 0.2, 0.01 };
 constexpr EditRule kTermQ = { 1, 2, 0.05 };
-constexpr EditRule kSignalHertz = { 50, 3000, 1, "Hz" };
+constexpr EditRule kSignalHertz = { 50, 3000, 1, "Hz", 3, 20 };
 constexpr EditRule kSignalLevel = { 1, 5, 1, "%" };
 
 constexpr unsigned kSupplyFollows = FollowDerived | FollowRanges | FollowProcessor | FollowModbus | FollowTask;

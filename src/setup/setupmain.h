@@ -2,7 +2,8 @@
 
 #include "setup/setupsummary.h"
 
-/// The first page of Setup: the set-up in use, and the ways to wiring, nominal voltage, frequency and clamps.
+/// The first page of Setup: the set-up in use, and the ways to wiring, nominal voltage, frequency and clamps. Two
+/// sequences of Left and Right open what is for the service only.
 class SetupMain : public SetupSummary
 {
     Q_OBJECT
@@ -10,12 +11,22 @@ class SetupMain : public SetupSummary
 public:
     explicit SetupMain(QWidget *parent = nullptr);
 
+public slots:
+    void init_parameter() override;
+
 signals:
     void goSetupConfig();
+    void goSetupConfigEnter(); // the wiring in use at large
     void goSetupVnom();
     void goSetupClamp();
     void goSetupNext();
 
+protected:
+    bool pressKey(int key) override;
+
 private:
     void changeFrequency();
+    void checkPW();
+
+    QString m_pressed; // the last Left and Right in a row, as "L" and "R"
 };

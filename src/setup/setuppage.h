@@ -10,7 +10,7 @@ class SetupPage : public PageStack
 
 public:
     /// The pages, in the order of the table.
-    enum Row { Main, Main2 };
+    enum Row { Main, Main2, Config, ConfigEnter, Vnom, Functions, KFactor, Flicker, Transients, Inrush, MainsSig };
 
     explicit SetupPage(const LiveData &data, QWidget *parent = nullptr);
 
@@ -19,5 +19,8 @@ signals:
     void settingsLeft();
 
 private:
+    static std::vector<SubPage> table();
     void exitSetup();
+    void showSetupConfigEnter(int joinMode);
+    void showJoinInUse();
 };

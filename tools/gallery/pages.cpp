@@ -68,7 +68,18 @@ const QVector<Page> &galleryPages()
         byKey("scope", "F6",
               { "voltage", "F1: next", "F1: next-2", "F1: next-3", "F1: next-4", "F3: cursor", "F3 Up: zoom" }),
         byKey("monitor", "F8", { "message" }, "F5", kNotAt400Hz, kOneWiring),
-        byKey("setup", "F9", { "first", "F5: second" }),
+        byKey("setup", "F9",
+              { "first", "F1: wirings", "Right: wirings-next", "F3: wirings-last", "Enter: wiring-detail",
+                "F5 F5 F2: nominal-voltage", "Right Right Right Right Right Right Right Right Up Up: custom",
+                "F5 F5: second", "F2: functions", "Down Down: functions-third", "Enter: transients",
+                "F5 Up Enter: flicker", "F5 Up Up Enter: k-factor", "Right Down Down: k-factor-us",
+                "F3 F5 Down Down Down Enter: inrush", "Down Right: inrush-edited",
+                "F5 Down Down Down Down Enter: mains-signaling", "Down Down Left: mains-signaling-edited" },
+              "F5 F5", true, true),
+        byKey(
+            "setup-service", "F9",
+            { "first", "Right Right Left Left Right Left Right Left: instrument-info", "Down: instrument-info-model" },
+            "F5", true, kOneWiring),
         byKey("memory", "F10", { "message" }, "F5", true, kOneWiring),
     };
     return pages;

@@ -22,8 +22,8 @@ constexpr unsigned kSupply = 0x2f, kFrequency = 0x3d, kRatio = 0x29, kNeutral = 
 const Expected kExpected[] = {
     { "NOM_VOLT_SELECT", 1, 9, 1, "", 0, 1, kSupply },
     { "NOM_VOLT_LINE_SELECT", 1, 9, 1, "", 0, 1, kSupply },
-    { "NOM_VOLT_CUSTOM", 1, 1e6, 1, "V", 3, 20, kSupply },
-    { "NOM_VOLT_LINE_CUSTOM", 1, 1e6, 1, "V", 3, 20, kSupply },
+    { "NOM_VOLT_CUSTOM", 1, 999999, 1, "V", 3, 20, kSupply },
+    { "NOM_VOLT_LINE_CUSTOM", 1, 999999, 1, "V", 3, 20, kSupply },
     { "NOM_FREQ", 1, 3, 1, "", 0, 1, kFrequency },
     { "JOINMODE", 1, 10, 1, "", 0, 1, kSupply },
     { "CLAMP_TYPE", 1, 10, 1, "", 0, 1, 0 },
@@ -51,9 +51,9 @@ const Expected kExpected[] = {
     { "KFACTOR_METHOD", 1, 2, 1, "", 0, 1, 0 },
     { "KFACTOR_E", 0, 0.2, 0.01, "", 0, 1, 0 },
     { "KFACTOR_Q", 1, 2, 0.05, "", 0, 1, 0 },
-    { "MAINSSIG_FREQ1", 50, 3000, 1, "Hz", 0, 1, 0 },
+    { "MAINSSIG_FREQ1", 50, 3000, 1, "Hz", 3, 20, 0 },
     { "MAINSSIG_THRESHOLD1", 1, 5, 1, "%", 0, 1, 0 },
-    { "MAINSSIG_FREQ2", 50, 3000, 1, "Hz", 0, 1, 0 },
+    { "MAINSSIG_FREQ2", 50, 3000, 1, "Hz", 3, 20, 0 },
     { "MAINSSIG_THRESHOLD2", 1, 5, 1, "%", 0, 1, 0 },
 };
 

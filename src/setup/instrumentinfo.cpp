@@ -1,0 +1,103 @@
+#include "setup/instrumentinfo.h"
+
+#include "settings/config_data.h"
+#include "widgets/controls/labellook.h"
+#include "widgets/dialogs/virtualkeyboard.h"
+
+#include <QLabel>
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kWidth = 640, kHeight = 180; // pixels
+constexpr int kTop = 20, kPitch = 56, kLineHeight = 44;
+constexpr int kLongestNumber = 32; // letters
+
+QLabel *addLabel(QWidget *dialog, const char *name, const QRect &place, Qt::Alignment alignment)
+{
+    auto *label = new QLabel(dialog);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setGeometry(place);
+    label->setAlignment(alignment | Qt::AlignVCenter);
+    return label;
+}
+
+} // namespace
+
+void InstrumentInfo::editInstrumentInfo()
+{
+    InstrumentInfo dialog;
+    dialog.exec();
+}
+
+InstrumentInfo::InstrumentInfo(QWidget *parent)
+    : SoftKeyDialog(parent), m_bar(new QWidget(this)), m_serialNumber(m_userConfig_g.getInstrumentSN()),
+      m_model(std::max(int(UserConfig::modelNames().indexOf(m_userConfig_g.getInstrumentModelName())), 0)),
+      m_modelBefore(m_model)
+{
+    resize(kWidth, kHeight);
+    LabelLook::setBackground(m_bar, QStringLiteral("#004882"));
+    const char *const names[Lines][2] = { { "sn_t", "sn" }, { "model_t", "model" } };
+    const QString captions[Lines] = { tr("S/N"), tr("Model") };
+    for (int line = 0; line < Lines; ++line) {
+        const int top = kTop + line * kPitch;
+        addLabel(this, names[line][0], QRect(40, top, 160, kLineHeight), Qt::AlignLeft)->setText(captions[line]);
+        m_values[line] = addLabel(this, names[line][1], QRect(210, top, 390, kLineHeight), Qt::AlignRight);
+    }
+    addLabel(this, "btn_f4", QRect(383, 144, 124, 34), Qt::AlignHCenter);
+    addLabel(this, "btn_f5", QRect(510, 144, 124, 34), Qt::AlignHCenter);
+    finishForm();
+    setKeyText(4, tr("Ok"));
+    setKeyText(5, tr("Cancel"));
+    keys().setRows({
+        { Qt::Key_Up, nullptr, [this] { select(SerialNumber); }, {}, 0, {} },
+        { Qt::Key_Down, nullptr, [this] { select(Model); }, {}, 0, {} },
+        { Qt::Key_Left, nullptr, [this] { stepModel(-1); }, {}, 0, {} },
+        { Qt::Key_Right, nullptr, [this] { stepModel(1); }, {}, 0, {} },
+        { Qt::Key_Enter, nullptr, [this] { editSerialNumber(); }, {}, 0, {} },
+        { Qt::Key_F4, nullptr, [this] { store(); }, {}, 0, {} },
+        { Qt::Key_F5, nullptr, [this] { reject(); }, {}, 0, {} },
+    });
+    select(SerialNumber);
+    showValues();
+}
+
+void InstrumentInfo::select(Line line)
+{
+    m_line = line;
+    m_bar->setGeometry(24, kTop + line * kPitch, 592, kLineHeight);
+}
+
+void InstrumentInfo::editSerialNumber()
+{
+    if (m_line != SerialNumber)
+        return;
+    m_serialNumber
+        = VirtualKeyBoard::getKeyBoardInput(tr("S/N"), m_serialNumber, QStringLiteral("^.+$"), kLongestNumber);
+    showValues();
+}
+
+void InstrumentInfo::stepModel(int step)
+{
+    if (m_line != Model)
+        return;
+    m_model = std::clamp(m_model + step, 0, int(UserConfig::modelNames().size()) - 1);
+    showValues();
+}
+
+void InstrumentInfo::showValues()
+{
+    fitText(m_values[SerialNumber], m_serialNumber, 22);
+    fitText(m_values[Model], UserConfig::modelNames().value(m_model), 22);
+}
+
+void InstrumentInfo::store()
+{
+    if (m_serialNumber != m_userConfig_g.getInstrumentSN())
+        m_userConfig_g.setInstrumentSN(m_serialNumber);
+    // Storing a model by its name writes the other label (UserConfig): not to be done where none was chosen.
+    if (m_model != m_modelBefore)
+        m_userConfig_g.setInstrumentModelByName(UserConfig::modelNames().value(m_model));
+    accept();
+}
