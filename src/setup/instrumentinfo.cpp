@@ -36,6 +36,15 @@ InstrumentInfo::InstrumentInfo(QWidget *parent)
       m_model(std::max(int(UserConfig::modelNames().indexOf(m_userConfig_g.getInstrumentModelName())), 0)),
       m_modelBefore(m_model)
 {
+    static const FrontKeys::KeyRow<InstrumentInfo> keys[] = {
+        { Qt::Key_F4, QT_TRANSLATE_NOOP("InstrumentInfo", "Ok"), &InstrumentInfo::store },
+        { Qt::Key_F5, QT_TRANSLATE_NOOP("InstrumentInfo", "Cancel"), &InstrumentInfo::reject },
+        { Qt::Key_Up, nullptr, &InstrumentInfo::selectPrev },
+        { Qt::Key_Down, nullptr, &InstrumentInfo::selectNext },
+        { Qt::Key_Left, nullptr, &InstrumentInfo::modelPrev },
+        { Qt::Key_Right, nullptr, &InstrumentInfo::modelNext },
+        { Qt::Key_Enter, nullptr, &InstrumentInfo::editSerialNumber },
+    };
     resize(kWidth, kHeight);
     LabelLook::setBackground(m_bar, QStringLiteral("#004882"));
     const char *const names[Lines][2] = { { "sn_t", "sn" }, { "model_t", "model" } };
@@ -48,17 +57,7 @@ InstrumentInfo::InstrumentInfo(QWidget *parent)
     addLabel(this, "btn_f4", QRect(383, 144, 124, 34), Qt::AlignHCenter);
     addLabel(this, "btn_f5", QRect(510, 144, 124, 34), Qt::AlignHCenter);
     finishForm();
-    setKeyText(4, tr("Ok"));
-    setKeyText(5, tr("Cancel"));
-    keys().setRows({
-        { Qt::Key_Up, nullptr, [this] { select(SerialNumber); }, {}, 0, {} },
-        { Qt::Key_Down, nullptr, [this] { select(Model); }, {}, 0, {} },
-        { Qt::Key_Left, nullptr, [this] { stepModel(-1); }, {}, 0, {} },
-        { Qt::Key_Right, nullptr, [this] { stepModel(1); }, {}, 0, {} },
-        { Qt::Key_Enter, nullptr, [this] { editSerialNumber(); }, {}, 0, {} },
-        { Qt::Key_F4, nullptr, [this] { store(); }, {}, 0, {} },
-        { Qt::Key_F5, nullptr, [this] { reject(); }, {}, 0, {} },
-    });
+    setKeys(keys);
     select(SerialNumber);
     showValues();
 }

@@ -20,8 +20,12 @@ private:
     enum Line { SerialNumber, Model, Lines };
 
     void select(Line line);
+    void selectPrev() { select(SerialNumber); }
+    void selectNext() { select(Model); }
     void editSerialNumber();
     void stepModel(int step);
+    void modelPrev() { stepModel(-1); }
+    void modelNext() { stepModel(1); }
     void showValues();
     void store();
 
