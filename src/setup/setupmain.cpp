@@ -2,6 +2,7 @@
 
 #include "device/trace.h"
 #include "settings/config_data.h"
+#include "setup/calibrationdialog.h"
 #include "setup/instrumentinfo.h"
 
 namespace {
@@ -68,6 +69,7 @@ void SetupMain::checkPW()
         m_pressed.clear();
         QV_TRACE("setup/setupmain") << "Enter the calibration function.";
         QV_TRACE("setup/setupmain") << "calibration!!!";
+        CalibrationDialog::calibration();
     } else if (pressed == sequence({ 'R', 'R', 'L', 'L', 'R', 'L', 'R', 'L' })) {
         m_pressed.clear();
         InstrumentInfo::editInstrumentInfo();
