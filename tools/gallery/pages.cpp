@@ -76,10 +76,11 @@ const QVector<Page> &galleryPages()
                 "F3 F5 Down Down Down Enter: inrush", "Down Right: inrush-edited",
                 "F5 Down Down Down Down Enter: mains-signaling", "Down Down Left: mains-signaling-edited" },
               "F5 F5", true, true),
-        byKey(
-            "setup-service", "F9",
-            { "first", "Right Right Left Left Right Left Right Left: instrument-info", "Down: instrument-info-model" },
-            "F5", true, kOneWiring),
+        byKey("setup-service", "F9",
+              { "first", "Right Right Left Left Right Left Right Left: instrument-info", "Down: instrument-info-model",
+                "F5 Left Left Right Right Left Right Left Right: calibration", "F1 F2: calibration-l1",
+                "F3: calibration-runs", "F5: calibration-question", "F4: left" },
+              "", true, kOneWiring),
         byKey("memory", "F10", { "message" }, "F5", true, kOneWiring),
     };
     return pages;

@@ -3,6 +3,7 @@
 
 #include "board/backlight.h"
 #include "setup/calibrationdialog.h"
+#include "setup/setupmain.h"
 
 #include <QApplication>
 
@@ -35,6 +36,7 @@ private slots:
     void aRunThatEndsUnderTheQuestionIsStillLeft();
     void aDialogClosedByOtherMeansDuringARunStoresNothing();
     void aProcessorThatFallsSilentIsLeftByCancel();
+    void theSetupPageOpensItBySequenceAlone();
 
 private:
     static void press(QDialog &dialog, std::initializer_list<char> letters)
@@ -328,6 +330,27 @@ void TstCalibrationDialog::aKeyThatWokeTheScreenDoesNothingElse()
     QCOMPARE(selected(dialog), QStringList { QStringLiteral("calib_0") });
     press(dialog, { Letter::Down });
     QCOMPARE(selected(dialog), QStringList { QStringLiteral("calib_v0") });
+}
+
+void TstCalibrationDialog::theSetupPageOpensItBySequenceAlone()
+{
+    SetupMain page;
+    page.init_parameter();
+    bool opened = false;
+    DialogDriver driver({ [&opened](QDialog *dialog) {
+        opened = qobject_cast<CalibrationDialog *>(dialog) != nullptr;
+        QTest::keyClick(dialog, Letter::F5);
+    } });
+    const auto arrows = [&page](const char *text) {
+        for (; *text; ++text)
+            QTest::keyClick(&page, *text == 'L' ? Letter::Left : Letter::Right);
+    };
+    arrows("RLLRRLRR"); // nearly
+    QTest::qWait(50);
+    QVERIFY(!driver.isDone());
+    arrows("LLRRLRLR");
+    QVERIFY(driver.isDone());
+    QVERIFY(opened);
 }
 
 QTEST_MAIN(TstCalibrationDialog)
