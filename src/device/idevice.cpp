@@ -145,6 +145,14 @@ void IDevice::sendDSPMgmt(const void *data, unsigned int len)
     emit writeDSP(data, static_cast<int>(len));
 }
 
+void IDevice::sendDSPMgmt(const QByteArray &frame)
+{
+    sendDSPMgmt(frame.constData(), static_cast<unsigned int>(frame.size()));
+    // Stands behind the write in the device thread's queue, and holds the bytes until then.
+    QMetaObject::invokeMethod(
+        m_dsp, [frame] { Q_UNUSED(frame) }, Qt::QueuedConnection);
+}
+
 QString IDevice::dspVersion() const
 {
     return *m_version;

@@ -28,6 +28,8 @@ public:
     /// Queues a write of `len` bytes. Only the pointer crosses to the device thread: the bytes must stay valid and
     /// unchanged until that thread has written them, so they live in static storage.
     void sendDSPMgmt(const void *data, unsigned int len);
+    /// Queues a write of a frame that is too large for static storage: its bytes live until they are written.
+    void sendDSPMgmt(const QByteArray &frame);
     /// What the processor reported of its firmware; before that "CPU:ADSP-21479;Silicon:0.2;Firmware:None;".
     QString dspVersion() const;
     /// Sends 8 clock bytes in the older form of the clock command.
