@@ -1,9 +1,9 @@
 #include "board/backlight.h"
 
 #include "device/trace.h"
+#include "platform/ordinaryfile.h"
 #include "platform/target.h"
 
-#include <QFile>
 #include <QTimer>
 #include <algorithm>
 
@@ -22,12 +22,9 @@ constexpr int kLongestDelay = 24 * 3600; // s; keeps the milliseconds inside an 
 
 void BackLight::writeLevel(int level)
 {
-    QFile file(Target::path(QStringLiteral("/sys/class/backlight/backlight/brightness")));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+    const QString path = Target::path(QStringLiteral("/sys/class/backlight/backlight/brightness"));
+    if (!OrdinaryFile::write(path, bl_levels[level]))
         QV_TRACE("device/backlight") << "Failed to open backlight ctrl";
-        return;
-    }
-    file.write(bl_levels[level], 1);
 }
 
 void BackLight::setBackLight(int level)

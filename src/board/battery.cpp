@@ -1,6 +1,7 @@
 #include "board/battery.h"
 
 #include "device/gpiofiles.h"
+#include "platform/ordinaryfile.h"
 
 #include <QFile>
 
@@ -20,8 +21,7 @@ QString gaugePath()
 /// Raw value of the converter; 0 for a text that is no number.
 int readGauge()
 {
-    QFile file(gaugePath());
-    return file.open(QIODevice::ReadOnly) ? file.read(16).trimmed().toInt() : 0;
+    return OrdinaryFile::start(gaugePath(), 16).trimmed().toInt();
 }
 
 /// Battery volts: 12 bits of 1.8 V, behind the divider.

@@ -1,6 +1,7 @@
 #include "board/joinsettings.h"
 
 #include "board/ssidtext.h"
+#include "board/wpachannel.h"
 
 #include <algorithm>
 
@@ -26,11 +27,6 @@ constexpr KeyKind kNoKey = { "", nullptr, "NONE" }; // "[WPS]" alone, or none of
 bool isPrintable(char c)
 {
     return c >= 0x20 && c < 0x7f;
-}
-
-bool isControl(char c)
-{
-    return static_cast<uchar>(c) < 0x20 || c == 0x7f;
 }
 
 bool isNameLetter(char c)
@@ -83,7 +79,7 @@ QByteArray JoinSettings::command(int id, const NetworkSetting &setting)
         const bool fits = !value.isEmpty() && value.size() <= SsidText::kLongestSsid;
         return fits ? start + ssidValue(value) : QByteArray();
     }
-    if (value.isEmpty() || std::any_of(value.begin(), value.end(), isControl))
+    if (value.isEmpty() || std::any_of(value.begin(), value.end(), WpaChannel::isControl))
         return {};
     return start + (setting.quoted ? '"' + value + '"' : value);
 }

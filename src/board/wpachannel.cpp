@@ -23,11 +23,6 @@ constexpr int kMessagesAtOnce = 32;
 /// appends; where the desk's root is too deep for that, the library's own folder serves.
 constexpr int kLongestClientFolder = int(sizeof(sockaddr_un::sun_path)) - 40;
 
-bool isControl(char c)
-{
-    return static_cast<uchar>(c) < 0x20 || c == 0x7f;
-}
-
 /// Opens through a descriptor of the folder, since a socket's address holds 107 characters and a root may be deeper.
 wpa_ctrl *openDaemon(const QString &folder, const QString &interface)
 {

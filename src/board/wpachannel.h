@@ -28,6 +28,9 @@ public:
     static constexpr int kMostWaiting = 64; // requests; one more fails at once
     static constexpr int kAnswerTimeMs = 10000; // the time that the client library grants an answer
 
+    /// A character that no command carries.
+    static bool isControl(char c) { return static_cast<uchar>(c) < 0x20 || c == 0x7f; }
+
     explicit WpaChannel(QObject *parent = nullptr);
     ~WpaChannel() override;
 

@@ -2,6 +2,7 @@
 
 #include "device/gpiofiles.h"
 #include "device/trace.h"
+#include "platform/ordinaryfile.h"
 
 #include <QFile>
 #include <fcntl.h>
@@ -76,7 +77,7 @@ void DeviceGPIO::initGPIO(QString number)
 int DeviceGPIO::openGPIODev(QString number)
 {
     const QString path = Target::path(QStringLiteral("/sys/class/gpio/gpio") + number + QStringLiteral("/value"));
-    const int fd = QFile::exists(path) ? ::open(QFile::encodeName(path).constData(), O_RDWR | O_CLOEXEC) : -1;
+    const int fd = OrdinaryFile::open(path, O_RDWR);
     if (fd < 0)
         QV_TRACE("device/devicegpio") << "gpio open err!";
     return fd;

@@ -245,7 +245,6 @@ void IDevice::usingBDSSlot(quint32 word)
 
 void IDevice::requestDSPData(int type, int interval)
 {
-    m_requestType = type;
     emit requestTypeData(type, interval);
 }
 

@@ -91,7 +91,6 @@ private:
     QTimer m_rest; // runs until the rest of a long turn is taken
     DeviceDSP *m_dsp;
     QThread *m_thread;
-    qint32 m_requestType = -1; // last type given to requestDSPData
     DeviceGPIO *m_gpio = nullptr;
     QString *m_version;
 };

@@ -20,10 +20,9 @@ static_assert(offsetof(__trans_data, time) == 8 && offsetof(__trans_data, positi
               "order of a transient");
 static_assert(std::is_trivially_copyable_v<__trans_data>, "saved byte for byte");
 
-/// The user's choice of the transient capture.
+/// What the capture of transients keeps to. Its threshold is a setting.
 class TransParam
 {
 public:
     static constexpr int kMaxEvents = 1000; // kept in a TransientList
-    static int m_trans_threshold; // percent; the setting is TRANS_THRESHOLD
 };

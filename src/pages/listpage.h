@@ -32,7 +32,6 @@ protected:
 
     /// While on, Enter switches the check mark of the selected line; off takes all marks away.
     void setChecking(bool on);
-    bool isChecking() const { return m_checking; }
     void checkAll() { setAllChecked(true); }
     void uncheckAll() { setAllChecked(false); }
 

@@ -1,5 +1,6 @@
 #include "platform/diskroom.h"
 
+#include "platform/ordinaryfile.h"
 #include "platform/target.h"
 
 #include <QDirIterator>
@@ -23,8 +24,8 @@ QString usbDisk(const QString &realPath)
 /// The size that a disk's folder tells, bytes; 0 when it tells none.
 qint64 capacityOf(const QString &disk)
 {
-    QFile file(disk + QLatin1String("/.capacity"));
-    return file.open(QIODevice::ReadOnly) ? file.readLine(32).trimmed().toLongLong() : 0;
+    const QByteArray text = OrdinaryFile::start(disk + QLatin1String("/.capacity"), 32);
+    return text.left(text.indexOf('\n')).trimmed().toLongLong();
 }
 
 qint64 bytesIn(const QString &folder)

@@ -1,13 +1,16 @@
 #include "record/pqa2device.h"
 
-#include "storage/massstorage.h"
+#include "platform/ordinaryfile.h"
 #include "platform/target.h"
+#include "storage/massstorage.h"
 
 #include <unistd.h>
 
 bool Pqa2Device::open(const QString &path)
 {
     m_file.setFileName(Target::path(path));
+    if (OrdinaryFile::isSomethingElse(m_file.fileName()))
+        return false;
     // Unbuffered, so that blocks are in the file and links in order when a call returns, and a failure is known there.
     return m_file.open(QIODevice::ReadWrite | QIODevice::Truncate | QIODevice::Unbuffered);
 }

@@ -174,7 +174,7 @@ Derived derive(const SettingValues &values, const Clamp *clamp, const Clamp *cla
     Derived d;
     d.joinMode = values.joinMode;
     d.channels = channelSet(values.joinMode);
-    d.star = values.joinMode % 2 != 0;
+    d.star = d.channels && d.channels->star();
     d.neutral = d.star;
     d.nominalFrequency = hertzOf(values.nomFreqSelect);
     d.clamp = inUse(clamp);

@@ -2,7 +2,6 @@
 
 #include <QDir>
 
-#include "model/transparam.h"
 #include "platform/target.h"
 #include "settings/config_data.h"
 #include "settings/inrushinfo.h"
@@ -148,7 +147,6 @@ void SettingConfig::follow(unsigned what)
         followSettings();
     if (what & FollowTables)
         InrushInfo::changeInfoCuzFreq(m_derived.nominalFrequency);
-    TransParam::m_trans_threshold = m_values.transThreshold;
     m_legacyClamps.last().ratio = m_values.clampRatio;
     m_legacyClamps.last().range = m_values.rangeI;
 }

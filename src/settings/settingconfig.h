@@ -181,7 +181,6 @@ public:
     int getInrushIndex() const { return m_values.inrushIndex; }
     void setInrushIndex(int index);
     double getInrushNomAmps() const { return m_values.inrushNomAmps; } // A at the clamp
-    double readInrushNomAmps() const { return m_values.inrushNomAmps; }
     void setInrushNomAmps(double amps);
     int getInrushThreshold() const { return m_values.inrushThreshold; } // percent
     void setInrushThreshold(int percent);

@@ -45,7 +45,6 @@ public:
 
 public slots:
     void retranslateUi() override;
-    void refreshSystemStatus() { }
 
 signals:
     void restartTask();

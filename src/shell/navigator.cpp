@@ -256,22 +256,23 @@ void Navigator::showCommanded(_quvera_ui_type current, _quvera_ui_type target)
     FunctionPage *page = builtPage(target);
     if (!page)
         return;
+    bool enters = true;
     switch (changeTaskOrNot(row.function, current)) {
     case NoTask:
         leaveCurrent();
         beginPages();
-        page->enter();
         break;
     case KeepTask:
         leaveCurrent();
         takeFront(current, page);
-        if (row.entersAgain && row.entersAgain())
-            page->enter();
+        enters = row.entersAgain && row.entersAgain();
         break;
     case StayOnPage:
         return;
     }
     bringToFront(page, PageTable::title(target));
+    if (enters)
+        page->enter();
 }
 
 /// Setup and User always end the measurement.

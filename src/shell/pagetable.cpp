@@ -109,7 +109,7 @@ const PageRow kRows[] = {
       { 7, "inrush", QT_TRANSLATE_NOOP("MenuPage", "Inrush\n") },
       Plan::Live, kBasic, Hears::kLive, 9, 9, make<InrushPage> },
     // The logger of text files: its pages exist, no key of this release shows them.
-    { UI_LOGGER, QT_TRANSLATE_NOOP("BaseDialog", "Logger"), kNoTile, Plan::Unreached, kBasic, 0, 0, 0, nullptr },
+    { UI_LOGGER, QT_TRANSLATE_NOOP("BaseDialog", "Logger"), kNoTile, Plan::Unreached, kBasic, 0, 0, 11, nullptr },
     { UI_MONITOR, QT_TRANSLATE_NOOP("BaseDialog", "Monitor"), kNoTile,
       Plan::Commanded, AbstractTask::UniMonitor, Hears::kFront, 11, 0, nullptr, kNot400Hz },
     { UI_SCOPE, QT_TRANSLATE_NOOP("BaseDialog", "Scope"), kNoTile,
@@ -122,9 +122,9 @@ const PageRow kRows[] = {
       Plan::Commanded, AbstractTask::UniWave, Hears::kFront, 13, 10, nullptr },
     { UI_MAINS_SIG, QT_TRANSLATE_NOOP("BaseDialog", "Mains Signaling"),
       { 9, "mainssignaling", QT_TRANSLATE_NOOP("MenuPage", "Mains\nSignaling") },
-      Plan::Live, kBasic, Hears::kLive, 16, 11, make<MainsSignaling> },
+      Plan::Live, kBasic, Hears::kLive, 16, 12, make<MainsSignaling> },
     { UI_POWER_INVERTER, QT_TRANSLATE_NOOP("BaseDialog", "Power Inverter"), kNoTile,
-      Plan::Commanded, AbstractTask::UniPowerInverter, Hears::kLive, 17, 12, makeInverter },
+      Plan::Commanded, AbstractTask::UniPowerInverter, Hears::kLive, 17, 13, makeInverter },
     // The recorder. Recording runs inside the basic function.
     { UI_LOGGER, QT_TRANSLATE_NOOP("BaseDialog", "Logger"),
       { 11, "logger", QT_TRANSLATE_NOOP("MenuPage", "Logger\n") },

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include "platform/ordinaryfile.h"
 #include "platform/target.h"
 #include "storage/exclusivefile.h"
 
@@ -83,16 +84,12 @@ FileCopy::State FileCopy::copyPiece()
 
 bool FileCopy::open()
 {
-    m_in = ::open(m_source.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+    m_in = OrdinaryFile::open(QFile::decodeName(m_source), O_RDONLY);
     struct stat info
     {
     };
     if (m_in < 0 || ::fstat(m_in, &info) != 0)
         return false;
-    if (!S_ISREG(info.st_mode)) { // a pipe or a device has no end
-        errno = EINVAL;
-        return false;
-    }
     m_size = info.st_size;
     m_out = openExclusively(m_part);
     m_made = m_out >= 0;

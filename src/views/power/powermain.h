@@ -18,8 +18,6 @@ public:
     explicit PowerMain(const LiveData &data, QWidget *parent = nullptr);
     ~PowerMain() override;
 
-    bool isEnergyShown() const { return m_energyShown; }
-
 public slots:
     void init_parameter() override;
     void retranslateUi() override;

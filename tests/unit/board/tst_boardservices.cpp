@@ -2,11 +2,13 @@
 #include "board/battery.h"
 #include "board/network.h"
 #include "platform/target.h"
+#include "unit/filestandin.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QScopeGuard>
 #include <QTest>
 
 /// Battery, back light and network queries.
@@ -34,6 +36,8 @@ private slots:
     void loopbackAnswers();
     void cableOfADeskStandsInAFile();
     void unknownInterfacesAnswerNothing();
+    void whatIsNoFileHoldsNobodyUp_data();
+    void whatIsNoFileHoldsNobodyUp();
     void gatewayIsTheThirdWordOfTheDefaultRoute_data();
     void gatewayIsTheThirdWordOfTheDefaultRoute();
 };
@@ -287,6 +291,38 @@ void TstBoardServices::unknownInterfacesAnswerNothing()
         QCOMPARE(NetWork::getIfNetmask(name), QString());
         QCOMPARE(NetWork::getIfHwaddr(name), QString());
     }
+}
+
+void TstBoardServices::whatIsNoFileHoldsNobodyUp_data()
+{
+    addFileStandIns();
+}
+
+void TstBoardServices::whatIsNoFileHoldsNobodyUp()
+{
+    QFETCH(FileStandIn, kind);
+    const QString carrier = QStringLiteral("/sys/class/net/lo/carrier");
+    const QString charger = QStringLiteral("/sys/class/gpio/gpio105/value");
+    const QString export_ = QStringLiteral("/sys/class/gpio/export");
+    setVolts(8.0);
+    const auto restore = qScopeGuard([&] {
+        for (const QString &path : { kGauge, kLight, carrier, charger, export_ })
+            removeStandIn(path);
+        write(export_, "");
+        setCharger(false, false);
+    });
+    for (const QString &path : { kLight, carrier, charger, export_ })
+        QVERIFY(putStandIn(path, kind));
+    ::alarm(20); // whoever waits for the other end of a pipe would wait for ever
+    Battery::batteryInit();
+    QCOMPARE(Battery::batteryStatus(), 4);
+    QVERIFY(putStandIn(kGauge, kind));
+    Battery::batteryInit();
+    QVERIFY(Battery::batteryStatus() != 4);
+    QTest::ignoreMessage(QtDebugMsg, QRegularExpression(QStringLiteral("Failed to open backlight ctrl$")));
+    BackLight::setBackLight(1);
+    QVERIFY(NetWork::checkNetwireStatus(QStringLiteral("lo"))); // the kernel's answer
+    ::alarm(0);
 }
 
 void TstBoardServices::gatewayIsTheThirdWordOfTheDefaultRoute_data()

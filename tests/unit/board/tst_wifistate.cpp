@@ -2,6 +2,7 @@
 #include "board/wifi.h"
 #include "scripteddaemon.h"
 #include "standins.h"
+#include "unit/storage/rootfiles.h"
 
 #include <QFile>
 #include <QSignalSpy>
@@ -49,12 +50,7 @@ QByteArray bss(const QByteArray &ssid)
 
 QByteArrayList shellCommands()
 {
-    QFile file(Target::path(QStringLiteral("/var/log/commands")));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QByteArrayList lines = file.readAll().split('\n');
-    lines.removeLast(); // behind the last line feed
-    return lines;
+    return RootFiles::lines(QStringLiteral("/var/log/commands"));
 }
 
 } // namespace

@@ -4,7 +4,9 @@
 #include "device/idevice.h"
 #include "board/softpower.h"
 #include "platform/target.h"
+#include "device/gpiofiles.h"
 #include "stdoutcapture.h"
+#include "unit/filestandin.h"
 
 #include <QDir>
 #include <QFile>
@@ -33,6 +35,8 @@ private slots:
     void indexOutsideTheTableSelectsTheValue1();
     void analogSwitchesSetPhaseThenNeutral();
     void openingALine();
+    void lineThatIsNoFileHoldsNobodyUp_data() { addFileStandIns(); }
+    void lineThatIsNoFileHoldsNobodyUp();
     void powerOffLatchesTheSupply();
 
 private:
@@ -248,6 +252,23 @@ void TstDeviceGpio::openingALine()
     QTest::ignoreMessage(QtDebugMsg,
                          QRegularExpression(QStringLiteral("^F: device/devicegpio L: [0-9]+ > gpio open err!$")));
     QVERIFY(gpioLines.openGPIODev(QStringLiteral("999")) < 0);
+}
+
+void TstDeviceGpio::lineThatIsNoFileHoldsNobodyUp()
+{
+    QFETCH(FileStandIn, kind);
+    const QStringList paths { QStringLiteral("/sys/class/gpio/export"), gpio(56, "direction"), gpio(56, "value") };
+    for (const QString &path : paths)
+        QVERIFY(putStandIn(path, kind));
+    ::alarm(20); // a writer that waits for a reader of the pipe would wait for ever
+    DeviceGPIO gpioLines;
+    gpioLines.changeCurrentGPIO(3);
+    QTest::ignoreMessage(QtDebugMsg, QRegularExpression(QStringLiteral("gpio open err!$")));
+    QVERIFY(gpioLines.openGPIODev(QStringLiteral("56")) < 0);
+    QCOMPARE(GpioFiles::isHigh(56), false);
+    ::alarm(0);
+    for (const QString &path : paths)
+        removeStandIn(path);
 }
 
 void TstDeviceGpio::powerOffLatchesTheSupply()

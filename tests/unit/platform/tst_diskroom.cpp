@@ -1,9 +1,11 @@
 #include "platform/diskroom.h"
 #include "platform/target.h"
+#include "unit/filestandin.h"
 
 #include <QtTest>
 
 #include <sys/vfs.h>
+#include <unistd.h>
 
 /// The room that a desk's USB disk has left.
 class TstDiskRoom : public QObject
@@ -55,6 +57,18 @@ private slots:
         struct statfs info;
         QVERIFY(DiskRoom::ask(kDisk, &info));
         QVERIFY(info.f_blocks > 0);
+    }
+
+    void aSizeThatIsNoFileCountsAsNone_data() { addFileStandIns(); }
+    void aSizeThatIsNoFileCountsAsNone()
+    {
+        QFETCH(FileStandIn, kind);
+        QVERIFY(putStandIn(kDisk + QStringLiteral("/.capacity"), kind));
+        ::alarm(20); // a reader that waits for the writer of the pipe would wait for ever
+        struct statfs info;
+        QVERIFY(DiskRoom::ask(kDisk, &info));
+        QVERIFY(info.f_blocks > 0);
+        ::alarm(0);
     }
 
 private:

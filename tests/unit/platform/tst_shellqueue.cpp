@@ -1,5 +1,6 @@
 #include "platform/shellqueue.h"
 #include "platform/target.h"
+#include "unit/storage/rootfiles.h"
 
 #include <QFile>
 #include <QTest>
@@ -24,12 +25,7 @@ namespace {
 /// What the commands of a test wrote into one file, line by line.
 QByteArrayList ran()
 {
-    QFile file(Target::path(QStringLiteral("/var/log/ran")));
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QByteArrayList lines = file.readAll().split('\n');
-    lines.removeLast(); // behind the last line feed
-    return lines;
+    return RootFiles::lines(QStringLiteral("/var/log/ran"));
 }
 
 } // namespace

@@ -317,15 +317,14 @@ private slots:
         QCOMPARE(Config::readConfigFile(SettingConfig::filePath(), "INRUSH_THRESHOLD"), QString("200"));
     }
 
-    void theTransientThresholdFollowsTheSetting()
+    void theTransientThresholdIsStoredAndLoaded()
     {
-        QCOMPARE(TransParam::m_trans_threshold, 50);
+        QCOMPARE(m_settingConfig_g.getTransThreshold(), 50);
         m_settingConfig_g.setTransThreshold(120);
-        QCOMPARE(TransParam::m_trans_threshold, 120);
         QCOMPARE(Config::readConfigFile(SettingConfig::filePath(), "TRANS_THRESHOLD"), QString("120"));
         Config::writeConfigFile(SettingConfig::filePath(), "TRANS_THRESHOLD", "75");
         m_settingConfig_g.loadSettingConfig();
-        QCOMPARE(TransParam::m_trans_threshold, 75);
+        QCOMPARE(m_settingConfig_g.getTransThreshold(), 75);
         m_settingConfig_g.setTransThreshold(50);
     }
 

@@ -88,9 +88,12 @@ void TstPageTable::languageOrder()
 
 void TstPageTable::beginOrder()
 {
-    const Types expected { UI_VIF,   UI_DIPS_SWELLS, UI_HARMONICS, UI_POWER, UI_FLICKER,   UI_UNBALANCE,
-                           UI_SCOPE, UI_TRANSIENTS,  UI_INRUSH,    UI_WAVE,  UI_MAINS_SIG, UI_POWER_INVERTER };
-    QCOMPARE(types(PageTable::inTurn(&PageRow::beginTurn)), expected);
+    const Types expected { UI_VIF,       UI_DIPS_SWELLS, UI_HARMONICS,     UI_POWER,  UI_FLICKER,
+                           UI_UNBALANCE, UI_SCOPE,       UI_TRANSIENTS,    UI_INRUSH, UI_WAVE,
+                           UI_LOGGER,    UI_MAINS_SIG,   UI_POWER_INVERTER };
+    const std::vector<const PageRow *> turns = PageTable::inTurn(&PageRow::beginTurn);
+    QCOMPARE(types(turns), expected);
+    QVERIFY(turns[10]->plan == Plan::Unreached); // the logger of text files; the recorder takes no part
 }
 
 void TstPageTable::tilesFillTheMenu()

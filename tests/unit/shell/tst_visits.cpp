@@ -40,6 +40,7 @@ private slots:
     void whatTheTaskKeepsFollowsTheFrequencyBeforeItsPagesAreMade();
     void inverterIsSetUpAnewOnlyWhenItIsLeft();
     void holdOfTheInverterWaitsForItsStart();
+    void aCommandedPageIsEnteredOnceItIsInFront();
 
 private:
     static constexpr int kVisits = 4;
@@ -235,6 +236,25 @@ void TstVisits::holdOfTheInverterWaitsForItsStart()
     QTest::keyClick(page->currentPage(), kF5);
     QVERIFY(g_unitask->isTaskPaused());
     QCOMPARE(caption(), QStringLiteral("Run"));
+}
+
+void TstVisits::aCommandedPageIsEnteredOnceItIsInFront()
+{
+    Navigator &navigator = m_basedialog->navigator();
+    navigator.go(UI_MENU, UI_POWER_INVERTER);
+    auto *page = pageOf<PowerInverter>(UI_POWER_INVERTER);
+    page->showPage(PowerInverter::Main);
+    navigator.go(UI_POWER_INVERTER, UI_MENU);
+    QCOMPARE(top(), static_cast<QWidget *>(m_basedialog->menu()));
+    QWidget *inFront = nullptr;
+    auto *stack = page->findChild<QStackedWidget *>(QStringLiteral("stackedWidget"));
+    QVERIFY(stack);
+    connect(stack, &QStackedWidget::currentChanged, this, [&] { inFront = top(); });
+    navigator.go(UI_MENU, UI_POWER_INVERTER);
+    QCOMPARE(page->currentPage(), page->page(PowerInverter::Setup));
+    QCOMPARE(inFront, static_cast<QWidget *>(page));
+    QVERIFY(page->currentPage()->isAncestorOf(page->window()->focusWidget()));
+    disconnect(stack, nullptr, this, nullptr);
 }
 
 QTEST_MAIN(TstVisits)

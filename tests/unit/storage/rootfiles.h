@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QByteArrayList>
 #include <QDir>
 #include <QFile>
 #include <QString>
@@ -23,6 +24,17 @@ inline void write(const QString &boardPath, const QByteArray &content)
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(content) != content.size())
         qFatal("cannot write %s", qPrintable(path));
+}
+
+/// The lines of a text file; none where it is missing.
+inline QByteArrayList lines(const QString &boardPath)
+{
+    QFile file(Target::path(boardPath));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QByteArrayList found = file.readAll().split('\n');
+    found.removeLast(); // behind the last line feed
+    return found;
 }
 
 inline bool exists(const QString &boardPath)

@@ -169,7 +169,6 @@ void TstTransients::thresholdIsStoredAtOnce()
 {
     press(mainPage(), Right);
     QCOMPARE(m_settingConfig_g.getTransThreshold(), 51);
-    QCOMPARE(TransParam::m_trans_threshold, 51);
     SettingConfig again;
     QCOMPARE(again.getTransThreshold(), 51);
 }
@@ -179,7 +178,6 @@ void TstTransients::defaultsRestoreFifty()
     press(mainPage(), Right, 4);
     press(mainPage(), F4);
     QCOMPARE(m_settingConfig_g.getTransThreshold(), 50);
-    QCOMPARE(TransParam::m_trans_threshold, 50);
     QCOMPARE(text(mainPage(), "threshold"), QStringLiteral("50 %"));
 }
 

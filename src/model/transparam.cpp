@@ -1,3 +1,0 @@
-#include "model/transparam.h"
-
-int TransParam::m_trans_threshold = 50;

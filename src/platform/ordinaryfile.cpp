@@ -1,0 +1,68 @@
+#include "platform/ordinaryfile.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace OrdinaryFile {
+
+int open(const QString &path, int flags)
+{
+    const int fd = ::open(QFile::encodeName(path).constData(), flags | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (fd < 0)
+        return -1;
+    struct stat info
+    {
+    };
+    if (::fstat(fd, &info) == 0 && S_ISREG(info.st_mode))
+        return fd;
+    ::close(fd);
+    errno = EINVAL;
+    return -1;
+}
+
+QByteArray start(const QString &path, int most)
+{
+    const int fd = open(path, O_RDONLY);
+    if (fd < 0)
+        return {};
+    QByteArray bytes(most, Qt::Uninitialized);
+    const ssize_t length = ::read(fd, bytes.data(), std::size_t(most));
+    ::close(fd);
+    bytes.truncate(int(std::max<ssize_t>(length, 0)));
+    return bytes;
+}
+
+bool write(const QString &path, const QByteArray &bytes)
+{
+    const int fd = open(path, O_WRONLY);
+    if (fd < 0)
+        return false;
+    const bool whole = ::write(fd, bytes.constData(), std::size_t(bytes.size())) == bytes.size();
+    ::close(fd);
+    return whole;
+}
+
+bool waitsForReader(const QString &path)
+{
+    if (!isSomethingElse(path))
+        return false;
+    const int fd = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (fd >= 0)
+        ::close(fd);
+    return fd < 0 && errno == ENXIO;
+}
+
+bool isSomethingElse(const QString &path)
+{
+    struct stat info
+    {
+    };
+    return ::stat(QFile::encodeName(path).constData(), &info) == 0 && !S_ISREG(info.st_mode);
+}
+
+} // namespace OrdinaryFile
