@@ -16,7 +16,8 @@ constexpr int kCaptionLeft = 76, kValueRight = 564; // pixels
 LabelGrid gridOf(int captionWidth)
 {
     const int left = kCaptionLeft + captionWidth + 14;
-    return { left, 0, kValueRight - left, 24, 44, kCaptionLeft, captionWidth, 24, 1 };
+    constexpr int kNote = -124; // from a value to its note: both stand to the right of their room
+    return { left, kNote, kValueRight - left, 24, 44, kCaptionLeft, captionWidth, 24, 2 };
 }
 
 const char *const kCaptionColors[] = { "#606060", "#c0c0c0" }; // grey row, selectable row
@@ -85,14 +86,29 @@ void EditorPage::setRows(std::vector<Row> rows)
     setObjectName(QString::fromLatin1(metaObject()->className()));
     m_rows = std::move(rows);
     const LabelGrid grid = gridOf(m_look.captionWidth);
-    for (std::size_t i = 0; i < m_rows.size(); ++i)
-        m_labels.push_back(grid.addRow(this, m_rows[i].name + QLatin1String("_t"), { m_rows[i].name },
-                                       m_look.top + int(i) * m_look.pitch));
+    for (std::size_t i = 0; i < m_rows.size(); ++i) {
+        QStringList names { m_rows[i].name };
+        if (m_rows[i].note)
+            names << m_rows[i].name + QLatin1String("_note");
+        m_labels.push_back(
+            grid.addRow(this, m_rows[i].name + QLatin1String("_t"), names, m_look.top + int(i) * m_look.pitch));
+    }
     LabelLook::dress(this);
+    selectFirst();
+}
+
+void EditorPage::selectFirst()
+{
     m_field = -1;
     select(1);
     m_field = std::max(m_field, 0);
     showSelection();
+}
+
+QString EditorPage::fitted(const char *row, const QString &text) const
+{
+    const auto *label = findChild<QLabel *>(QLatin1String(row));
+    return label ? label->fontMetrics().elidedText(text, Qt::ElideRight, label->width()) : text;
 }
 
 void EditorPage::init_parameter()
@@ -133,7 +149,8 @@ void EditorPage::cancel()
 
 bool EditorPage::isEnabled(int row) const
 {
-    return !m_rows[std::size_t(row)].enabled || m_rows[std::size_t(row)].enabled();
+    const Row &asked = m_rows[std::size_t(row)];
+    return !asked.shownOnly && (!asked.enabled || asked.enabled());
 }
 
 void EditorPage::select(int direction)
@@ -160,6 +177,7 @@ void EditorPage::showRows()
 {
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
         setText(m_labels[i].values[0], m_rows[i].text ? m_rows[i].text() : QString());
+        setText(m_labels[i].values[1], m_rows[i].note ? m_rows[i].note() : QString());
         showEnabled(int(i));
     }
 }

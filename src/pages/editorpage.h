@@ -29,6 +29,8 @@ public:
         std::function<void()> enter; // null: Enter does nothing
         std::function<bool()> enabled; // null: always; a row that is not is grey and cannot be selected
         const char *context = nullptr; // of the caption's translation; null: the page's class
+        std::function<QString()> note = {}; // label <name>_note to the left of the value; null: no such label
+        bool shownOnly = false; // in full colour like any other row, but it cannot be selected
     };
 
     /// A number as rows step it. Reading gives any number; a step moves from there by \a step times the key's step,
@@ -93,6 +95,9 @@ protected:
 
     void selectPrev() { select(-1); }
     void selectNext() { select(1); }
+    void selectFirst();
+    /// As much of a text of any length as the value of a row has room for.
+    QString fitted(const char *row, const QString &text) const;
     /// Texts and enabled rows anew; what a key changed is shown by itself.
     void showRows();
 
@@ -110,6 +115,6 @@ private:
     const KeyRepeat::Pace m_pace;
     std::unique_ptr<Ui::EditorForm> m_ui;
     std::vector<Row> m_rows;
-    std::vector<LabelGrid::Row> m_labels; // in the order of the rows
+    std::vector<LabelGrid::Row> m_labels; // in the order of the rows; the second value is the note, if there is one
     int m_field = 0;
 };

@@ -144,6 +144,20 @@ bool ClampIF::save(const QString &path) const
     return true;
 }
 
+void ClampIF::copyFrom(const ClampIF &other)
+{
+    if (&other == this)
+        return;
+    clear();
+    for (const Clamp *clamp = other.m_record->first; clamp; clamp = clamp->nextNode) {
+        addClamp(new Clamp(*clamp)); // its place in the other list is written over
+        if (clamp == other.m_record->current)
+            m_record->current = m_record->last;
+    }
+    m_record->inUsed = other.m_record->inUsed;
+    m_record->unread = other.m_record->unread;
+}
+
 void ClampIF::addClamp(Clamp *clamp)
 {
     if (!clamp)
@@ -182,8 +196,13 @@ Clamp *ClampIF::findClamp(const QString &name) const
 void ClampIF::setCurClamp(const QString &name)
 {
     Clamp *clamp = findClamp(name);
-    m_record->current = clamp ? clamp : m_record->first;
-    m_record->inUsed = m_record->current ? m_record->current->name() : QString();
+    setCurClamp(clamp ? clamp : m_record->first);
+}
+
+void ClampIF::setCurClamp(Clamp *clamp)
+{
+    m_record->current = clamp;
+    m_record->inUsed = clamp ? clamp->name() : QString();
 }
 
 Clamp *ClampIF::getCurClamp() const

@@ -26,6 +26,10 @@ public:
     /// load could not read the file: the clamps in it would be lost.
     bool save(const QString &path) const;
 
+    /// Becomes a copy of another catalogue: what an editor works on until its changes are taken over. What the last
+    /// load could not read stays unwritten by both.
+    void copyFrom(const ClampIF &other);
+
     /// Appends a clamp and owns it.
     void addClamp(Clamp *clamp);
     /// Takes a clamp out of the list and deletes it; one that is not in the list is left alone.
@@ -34,6 +38,8 @@ public:
     Clamp *findClamp(const QString &name) const;
     /// Makes the clamp of that name current; an unknown name makes the first one current.
     void setCurClamp(const QString &name);
+    /// Makes this clamp of the list current: of two of one name the one that is meant.
+    void setCurClamp(Clamp *clamp);
     /// The clamp in use; the first one when none was. Null only for an empty list.
     Clamp *getCurClamp() const;
 

@@ -28,6 +28,11 @@ struct ClampInUse
     int range = 0; // A, full scale
     int ratio = 0; // uV/A
     bool flexible = false;
+
+    bool operator!=(const ClampInUse &other) const
+    {
+        return name != other.name || range != other.range || ratio != other.ratio || flexible != other.flexible;
+    }
 };
 
 /// A transformer's ratio; a denominator of 0 counts as 1.

@@ -49,7 +49,8 @@ bool LimitsManager::isPlainName(const QString &name)
         if (c == QLatin1Char('/') || c.unicode() < 0x20 || c.unicode() == 0xfffe || c.unicode() == 0xffff)
             return false;
     }
-    return name.isValidUtf16();
+    // Where the system's names cannot carry a letter, two sets could meet in one file.
+    return name.isValidUtf16() && QFile::decodeName(QFile::encodeName(name)) == name;
 }
 
 LimitsManager::LimitsManager()
@@ -135,32 +136,71 @@ bool LimitsManager::getLimits(monitor_limit *target, const QString &name) const
     return set != nullptr;
 }
 
-void LimitsManager::add(MonitorLimits2 *set)
+bool LimitsManager::store(MonitorLimits2 *set)
+{
+    // A name that would leave the folder gets no file; the set then lasts until the program ends.
+    if (!isPlainName(set->name()))
+        return false;
+    const QString path = pathOf(set->name());
+    // A set of another name that came from this very file moves to one of its own name first.
+    for (const auto &other : m_sets) {
+        if (other->file() == path && other->name() != set->name() && isPlainName(other->name())
+            && !QFile::exists(Target::path(pathOf(other->name()))))
+            other->saveFile(pathOf(other->name()));
+    }
+    if (!set->saveFile(path))
+        return false;
+    const MonitorLimits2 *present = find(set->name());
+    if (present && !present->file().isEmpty() && present->file() != path)
+        QFile::remove(Target::path(present->file())); // it would come before the new one at the next start
+    return true;
+}
+
+void LimitsManager::take(const MonitorLimits2 &set)
+{
+    if (MonitorLimits2 *present = find(set.name()))
+        *present = set;
+    else
+        m_sets.push_back(std::make_unique<MonitorLimits2>(set));
+    if (m_active.name() == set.name())
+        m_active = set;
+}
+
+bool LimitsManager::add(MonitorLimits2 *set)
 {
     if (!set)
-        return;
-    // A name that would leave the folder gets no file; the set then lasts until the program ends.
-    if (isPlainName(set->name()))
-        set->saveFile(pathOf(set->name()));
-    if (MonitorLimits2 *present = find(set->name()))
-        *present = *set;
-    else
-        m_sets.push_back(std::make_unique<MonitorLimits2>(*set));
-    if (m_active.name() == set->name())
-        m_active = *set;
+        return false;
+    const bool stored = store(set);
+    take(*set);
+    return stored;
 }
 
-void LimitsManager::add(const QString &name, const monitor_limit &limit)
+bool LimitsManager::add(const QString &name, const monitor_limit &limit)
 {
     MonitorLimits2 set(name, limit);
-    add(&set);
+    return add(&set);
 }
 
-void LimitsManager::add(const QString &name, const monitor_limit_int &limit)
+bool LimitsManager::add(const QString &name, const monitor_limit_int &limit)
 {
     monitor_limit converted {};
     limit_int2float(limit, &converted);
-    add(name, converted);
+    return add(name, converted);
+}
+
+bool LimitsManager::rename(const QString &from, const QString &to)
+{
+    const MonitorLimits2 *present = find(from);
+    if (!present || from == to)
+        return false;
+    MonitorLimits2 renamed(to, present->limit());
+    if (!store(&renamed))
+        return false;
+    take(renamed);
+    if (m_active.name() == from)
+        changeActiveLimits(to); // before the old file goes: at every moment the stored name has a set
+    remove(from);
+    return true;
 }
 
 void LimitsManager::remove(const QString &name)

@@ -29,10 +29,14 @@ public:
     void getLimits(monitor_limit_int *target, const QString &name) const;
     bool getLimits(monitor_limit *target, const QString &name) const;
 
-    /// Saves the set as a file and takes it into the catalogue, in place of the first one of its name.
-    void add(MonitorLimits2 *set);
-    void add(const QString &name, const monitor_limit &limit);
-    void add(const QString &name, const monitor_limit_int &limit);
+    /// Saves the set as a file and takes it into the catalogue, in place of the first one of its name, whose own file
+    /// goes when it is called otherwise. False: it is in the catalogue, but no file of it was written.
+    bool add(MonitorLimits2 *set);
+    bool add(const QString &name, const monitor_limit &limit);
+    bool add(const QString &name, const monitor_limit_int &limit);
+    /// Gives the first set of a name another one, in place of a set that has it. False: nothing has changed, since the
+    /// file could not be written.
+    bool rename(const QString &from, const QString &to);
     /// Takes the set out of the catalogue and deletes its file. If it was active, EN50160 becomes active.
     void remove(const QString &name);
     void changeActiveLimits(const QString &name);
@@ -50,6 +54,8 @@ public:
 
 private:
     MonitorLimits2 *find(const QString &name) const;
+    bool store(MonitorLimits2 *set);
+    void take(const MonitorLimits2 &set);
 
     std::vector<std::unique_ptr<MonitorLimits2>> m_sets; // the catalogue
     MonitorLimits2 m_en50160; // to fall back on

@@ -106,8 +106,10 @@ void SettingConfig::saveClampConfig()
 {
     m_clamps.save(QLatin1String(kClamps));
     m_clampsN.save(QLatin1String(kClampsN));
+    const ClampInUse before = m_derived.clamp;
     followSettings();
-    initInrushLevels();
+    if (m_derived.clamp != before)
+        initInrushLevels();
 }
 
 void SettingConfig::initInrushLevels()

@@ -130,7 +130,8 @@ public:
     const Clamp *curClamp() const { return m_clamps.getCurClamp(); }
     const Clamp *curClampN() const { return m_clampsN.getCurClamp(); }
     void initClamps();
-    /// Stores both catalogues; what follows from the clamps is worked out anew, the inrush levels too.
+    /// Stores both catalogues; what follows from the clamps is worked out anew, and with another clamp on the phases
+    /// the inrush levels too.
     void saveClampConfig();
     int getClampType() const { return m_values.clampType; }
     void setClampType(int row);

@@ -2,6 +2,7 @@
 
 #include "device/deviceinit.h"
 #include "settings/config_data.h"
+#include "setup/setupclamps.h"
 #include "setup/setupconfigenterpage.h"
 #include "setup/setupconfigpage.h"
 #include "setup/setupflicker.h"
@@ -27,7 +28,8 @@ std::vector<SetupPage::SubPage> SetupPage::table()
     return {
         { make<SetupMain>,
           { way(&SetupMain::goSetupConfig, Config), pass(&SetupMain::goSetupConfigEnter, &SetupPage::showJoinInUse),
-            way(&SetupMain::goSetupVnom, Vnom), way(&SetupMain::goSetupNext, Main2) } },
+            way(&SetupMain::goSetupVnom, Vnom), way(&SetupMain::goSetupClamp, Clamps),
+            way(&SetupMain::goSetupNext, Main2) } },
         { make<SetupMainPage2>,
           { way(&SetupMainPage2::goSetupFunctions, Functions), way(&SetupMainPage2::goSetupPrev, Main) } },
         { make<SetupConfigPage>,
@@ -45,6 +47,7 @@ std::vector<SetupPage::SubPage> SetupPage::table()
         { make<SetupTransient>, { back(&SetupTransient::stored), back(&SetupTransient::cancelled) } },
         { make<SetupInrush>, { back(&SetupInrush::stored), back(&SetupInrush::cancelled) } },
         { make<SetupMainsSig>, { back(&SetupMainsSig::stored), back(&SetupMainsSig::cancelled) } },
+        { make<SetupClamps>, { back(&SetupClamps::done) } },
     };
 }
 

@@ -10,7 +10,20 @@ class SetupPage : public PageStack
 
 public:
     /// The pages, in the order of the table.
-    enum Row { Main, Main2, Config, ConfigEnter, Vnom, Functions, KFactor, Flicker, Transients, Inrush, MainsSig };
+    enum Row {
+        Main,
+        Main2,
+        Config,
+        ConfigEnter,
+        Vnom,
+        Functions,
+        KFactor,
+        Flicker,
+        Transients,
+        Inrush,
+        MainsSig,
+        Clamps
+    };
 
     explicit SetupPage(const LiveData &data, QWidget *parent = nullptr);
 

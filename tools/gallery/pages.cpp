@@ -81,6 +81,12 @@ const QVector<Page> &galleryPages()
                 "F5 Left Left Right Right Left Right Left Right: calibration", "F1 F2: calibration-l1",
                 "F3: calibration-runs", "F5: calibration-question", "F4: left" },
               "", true, kOneWiring),
+        byKey("setup-clamps", "F9",
+              { "F4: choice", "Down Right Right Right Right Right Right: flexible",
+                "Down Right Right Right Right Right: custom", "Enter: ratio-keys", "F5 F2: uneditable", "F5 F1: editor",
+                "Enter: name-keys", "Enter Right Enter F4 Down Down Enter F2 Up Enter F4: edited", "F4: added",
+                "F1 F4: empty", "F5 F5 F3: delete" },
+              "F5 F5", true, kOneWiring),
         byKey("memory", "F10", { "message" }, "F5", true, kOneWiring),
     };
     return pages;

@@ -74,6 +74,9 @@ private slots:
     void heldKeyGrows();
     void enterActsOnTheSelectedRow();
     void aRowWithoutStepIsLeftAlone();
+    void aRowThatIsOnlyShownIsPassedAndNotGrey();
+    void aNoteStandsBesideTheValue();
+    void aLongTextIsCutToItsRow();
     void paceIsThatOfTheSetting();
     void okStoresTheWorkingCopy();
     void cancelDropsTheWorkingCopy();
@@ -184,6 +187,64 @@ void TstEditorPage::aRowWithoutStepIsLeftAlone()
     press(m_page.get(), Right, 2);
     QCOMPARE(text(m_page.get(), "fixed"), QStringLiteral("always"));
     QCOMPARE(m_page->writes, 0);
+}
+
+namespace {
+
+/// A field, a line of information with a note, a field.
+class NotedEditor : public EditorPage
+{
+public:
+    NotedEditor() : EditorPage(UI_SETUP, { "Noted" }, { 3, { 1 } }, nullptr)
+    {
+        Row info { "info", "Info", [this] { return fitted("info", value); }, {}, [this] { value.clear(); }, {} };
+        info.note = [this] { return note; };
+        info.shownOnly = true;
+        setRows({ { "a", "A", {}, {}, {}, {} }, info, { "b", "B", {}, {}, {}, {} } });
+        setNoKeys();
+    }
+
+    QString value = QStringLiteral("1.5");
+    QString note = QStringLiteral("about");
+};
+
+} // namespace
+
+void TstEditorPage::aRowThatIsOnlyShownIsPassedAndNotGrey()
+{
+    NotedEditor page;
+    press(&page, Down);
+    QCOMPARE(page.field(), 2);
+    const auto color = [&page](const char *name) {
+        return page.findChild<QLabel *>(QString::fromLatin1(name))->palette().color(QPalette::WindowText);
+    };
+    QCOMPARE(color("info"), color("a"));
+    QCOMPARE(color("info_t"), color("a_t"));
+}
+
+void TstEditorPage::aNoteStandsBesideTheValue()
+{
+    NotedEditor page;
+    QCOMPARE(text(&page, "info"), QStringLiteral("1.5"));
+    QCOMPARE(text(&page, "info_note"), QStringLiteral("about"));
+    QVERIFY(!page.findChild<QLabel *>("a_note"));
+    const QRect value = page.findChild<QLabel *>("info")->geometry();
+    const QRect note = page.findChild<QLabel *>("info_note")->geometry();
+    QCOMPARE(note.top(), value.top());
+    QVERIFY(note.right() < value.right() - 100); // both stand to the right of their room
+    page.note = QStringLiteral("else");
+    page.init_parameter();
+    QCOMPARE(text(&page, "info_note"), QStringLiteral("else"));
+}
+
+void TstEditorPage::aLongTextIsCutToItsRow()
+{
+    NotedEditor page;
+    page.value = QString(300, 'W');
+    page.init_parameter();
+    const auto *label = page.findChild<QLabel *>("info");
+    QVERIFY(label->text().startsWith("WW"));
+    QVERIFY(label->fontMetrics().horizontalAdvance(label->text()) <= label->width());
 }
 
 void TstEditorPage::paceIsThatOfTheSetting()

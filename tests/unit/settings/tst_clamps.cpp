@@ -194,6 +194,36 @@ private slots:
         QCOMPARE(ClampIF(kPath).getCurClamp()->name(), QString("TARN-41A"));
     }
 
+    void aCopyOfTheCatalogueLivesOnItsOwn()
+    {
+        ClampIF clamps(kPath);
+        clamps.addClamp(userClamp("A"));
+        clamps.addClamp(userClamp("B"));
+        clamps.setCurClamp("A");
+        ClampIF copy;
+        copy.copyFrom(clamps);
+        QCOMPARE(copy.names(), clamps.names());
+        QCOMPARE(copy.inUsed(), QString("A"));
+        QVERIFY(copy.getCurClamp() == copy.findClamp("A"));
+        QVERIFY(copy.getCurClamp() != clamps.getCurClamp());
+        QVERIFY(copy.findClamp("A")->nextNode == copy.last() && copy.last()->prevNode == copy.findClamp("A"));
+        copy.removeClamp(copy.findClamp("A"));
+        copy.last()->setRange(4711);
+        QCOMPARE(clamps.count(), 11);
+        QCOMPARE(clamps.last()->range(), 20);
+        copy.copyFrom(copy);
+        QCOMPARE(copy.count(), 10);
+    }
+
+    void aCopyOfACatalogueThatCouldNotBeReadIsNotWrittenEither()
+    {
+        QVERIFY(makeWornFile(kPath));
+        ClampIF copy;
+        copy.copyFrom(ClampIF(kPath));
+        QVERIFY(!copy.save(kPath));
+        QVERIFY(isWornFile(kPath));
+    }
+
     void removingTheOnlyUserClampInUseFallsBackToTheTail()
     {
         ClampIF clamps(kPath);

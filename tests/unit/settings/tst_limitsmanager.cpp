@@ -302,6 +302,80 @@ private slots:
         QVERIFY(LimitsManager().allLimitsList().contains("Other"));
     }
 
+    void anEditedSetLeavesNoFileOfAnotherNameBehind()
+    {
+        // At the next start the older file would come first.
+        RootFiles::write(kFolder + "a.xml", set("Mine", "77"));
+        LimitsManager manager;
+        QVERIFY(manager.add("Mine", withDips(60)));
+        QVERIFY(!RootFiles::exists(kFolder + "a.xml"));
+        monitor_limit limit {};
+        QVERIFY(LimitsManager().getLimits(&limit, "Mine"));
+        QCOMPARE(limit.dips.threshold, 60.0f);
+    }
+
+    void aSetWhoseFileHasTheNewSetsNameMovesToItsOwn()
+    {
+        RootFiles::write(kFolder + "Mine.xml", set("Other", "77"));
+        LimitsManager manager;
+        QVERIFY(manager.add("Mine", withDips(60)));
+        LimitsManager next;
+        monitor_limit limit {};
+        QVERIFY(next.getLimits(&limit, "Other"));
+        QCOMPARE(limit.dips.threshold, 77.0f);
+        QVERIFY(next.getLimits(&limit, "Mine"));
+        QCOMPARE(limit.dips.threshold, 60.0f);
+    }
+
+    void aRenamedSetStaysTheActiveOne()
+    {
+        LimitsManager manager;
+        manager.add("Mine", withDips(80));
+        manager.changeActiveLimits("Mine");
+        QVERIFY(manager.rename("Mine", "Yours"));
+        QCOMPARE(manager.activeLimitsName(), QString("Yours"));
+        QCOMPARE(RootFiles::read(kConf), conf("Yours"));
+        QCOMPARE(manager.allLimitsList(), QStringList({ "EN50160", "GOST32144", "Yours" }));
+        QVERIFY(!RootFiles::exists(kFolder + "Mine.xml"));
+        LimitsManager next;
+        QCOMPARE(next.activeLimitsName(), QString("Yours"));
+        QCOMPARE(next.getLimitsInUsed()->dips.threshold, 80.0f);
+    }
+
+    void aRenameThatCannotBeWrittenChangesNothing()
+    {
+        LimitsManager manager;
+        manager.add("Mine", withDips(80));
+        manager.add("Yours", withDips(70));
+        manager.changeActiveLimits("Mine");
+        {
+            FileLimit full(10);
+            QVERIFY(!manager.rename("Mine", "Yours"));
+        }
+        QVERIFY(!manager.rename("Mine", "a/b"));
+        QVERIFY(!manager.rename("Mine", "Mine"));
+        QVERIFY(!manager.rename("nothing", "Else"));
+        QCOMPARE(manager.activeLimitsName(), QString("Mine"));
+        const LimitsManager next;
+        for (const LimitsManager *looked : { &qAsConst(manager), &next }) {
+            QCOMPARE(looked->allLimitsList().mid(2), QStringList({ "Mine", "Yours" }));
+            monitor_limit limit {};
+            QVERIFY(looked->getLimits(&limit, "Yours"));
+            QCOMPARE(limit.dips.threshold, 70.0f);
+        }
+    }
+
+    void renamingOntoAnotherSetReplacesIt()
+    {
+        LimitsManager manager;
+        manager.add("Mine", withDips(80));
+        manager.add("Yours", withDips(70));
+        manager.changeActiveLimits("Yours");
+        QVERIFY(manager.rename("Mine", "Yours"));
+        QCOMPARE(manager.allLimitsList().mid(2), QStringList { "Yours" });
+        QCOMPARE(manager.getLimitsInUsed()->dips.threshold, 80.0f);
+    }
+
     void ofAFolderFullOfFilesOnlySoManyAreRead()
     {
         for (int n = 0; n < 201; ++n) {
