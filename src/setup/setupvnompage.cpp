@@ -94,6 +94,7 @@ void SetupVnomPage::showTable(Table &table, bool isActive)
     table.head->setPalette(text);
     for (int row = 1; row <= kFields; ++row) {
         QLabel *field = table.fields[std::size_t(row - 1)];
+        field->setEnabled(isActive);
         const QString bar = !isActive ? QStringLiteral("#202830") : QStringLiteral("#004882");
         LabelLook::setBackground(field, row == selected ? bar : QStringLiteral("black"));
         QPalette palette = field->palette();

@@ -3,44 +3,82 @@
 
 #include <QSignalSpy>
 
+using namespace PageTest;
+using SetupCase::Keys;
+
 /// The container of the set-up pages: which page opens which, and what happens when Setup is left.
 class TstSetupPage : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void initTestCase();
+    void initTestCase() { SetupCase::makeDevice(); }
+    void init() { SetupCase::restoreSettings(); }
     void setupOpensWithItsFirstPageWhicheverWasLeftLast();
-    void pageDownAndPageUpLeadToAndFro();
+    void keysLeadFromPageToPage_data();
+    void keysLeadFromPageToPage();
     void leavingSetsTheProcessorUpAnewBeforeTheNextPageComes_data();
     void leavingSetsTheProcessorUpAnewBeforeTheNextPageComes();
+    void theSetUpThatIsSentIsTheOneThatWasChosen();
+    void summaryShowsWhatIsInForce();
     void freqKeyGoesRoundTheThreeFrequencies();
+    void saveStoresAPictureOfSetup();
 };
-
-void TstSetupPage::initTestCase()
-{
-    SetupCase::makeDevice();
-}
 
 void TstSetupPage::setupOpensWithItsFirstPageWhicheverWasLeftLast()
 {
-    SetupPage setup(PageTest::liveData());
+    SetupPage setup(liveData());
     setup.enter();
-    SetupCase::press(setup, { PageTest::F5 });
-    QCOMPARE(SetupCase::onTop(setup), QStringLiteral("SetupMainPage2"));
+    SetupCase::press(setup, SetupCase::toFunction(SetupCase::Inrush));
+    QCOMPARE(SetupCase::onTop(setup), QStringLiteral("SetupInrush"));
     setup.enter();
     QCOMPARE(SetupCase::onTop(setup), QStringLiteral("SetupMain"));
 }
 
-void TstSetupPage::pageDownAndPageUpLeadToAndFro()
+void TstSetupPage::keysLeadFromPageToPage_data()
 {
-    SetupPage setup(PageTest::liveData());
+    QTest::addColumn<Keys>("keys");
+    QTest::addColumn<QString>("page");
+    const auto add = [](const char *name, const Keys &keys, const char *page) {
+        QTest::newRow(name) << keys << QString::fromLatin1(page);
+    };
+    add("page down", { F5 }, "SetupMainPage2");
+    add("page up", { F5, F5 }, "SetupMain");
+    add("wirings", { F1 }, "SetupConfigPage");
+    add("wirings and back", { F1, F5 }, "SetupMain");
+    add("one wiring", { F1, Enter }, "SetupConfigEnterPage");
+    add("one wiring not taken", { F1, Enter, F5 }, "SetupConfigPage");
+    add("one wiring not taken and back", { F1, Enter, F5, F5 }, "SetupMain");
+    add("one wiring taken", { F1, Enter, F4 }, "SetupMain");
+    add("the wiring in use", { Enter }, "SetupConfigEnterPage");
+    add("the wiring in use and back", { Enter, F5 }, "SetupMain");
+    add("nominal voltage", { F2 }, "SetupVnomPage");
+    add("nominal voltage taken", { F2, F4 }, "SetupMain");
+    add("nominal voltage not taken", { F2, F5 }, "SetupMain");
+    add("functions", { F5, F2 }, "SetupFunctions");
+    add("functions and back", { F5, F2, F5 }, "SetupMainPage2");
+    const char *const functions[]
+        = { "SetupKFactor", "SetupFlicker", "SetupTransient", "SetupInrush", "SetupMainsSig" };
+    for (int line = 0; line < 5; ++line) {
+        const Keys keys = SetupCase::toFunction(line);
+        add(functions[line], keys, functions[line]);
+        for (const FrontKey end : { F4, F5 }) {
+            Keys there = keys;
+            there.push_back(end);
+            if (line != SetupCase::KFactor || end == F5) // that one has Back alone
+                QTest::addRow("%s left by F%d", functions[line], end == F4 ? 4 : 5)
+                    << there << QStringLiteral("SetupFunctions");
+        }
+    }
+}
+
+void TstSetupPage::keysLeadFromPageToPage()
+{
+    QFETCH(Keys, keys);
+    SetupPage setup(liveData());
     setup.enter();
-    QCOMPARE(PageTest::text(setup.currentPage(), "btn_f5"), QStringLiteral("Page Down"));
-    SetupCase::press(setup, { PageTest::F5 });
-    QCOMPARE(PageTest::text(setup.currentPage(), "btn_f5"), QStringLiteral("Page Up"));
-    SetupCase::press(setup, { PageTest::F5 });
-    QCOMPARE(SetupCase::onTop(setup), QStringLiteral("SetupMain"));
+    SetupCase::press(setup, keys);
+    QTEST(SetupCase::onTop(setup), "page");
 }
 
 void TstSetupPage::leavingSetsTheProcessorUpAnewBeforeTheNextPageComes_data()
@@ -57,7 +95,7 @@ void TstSetupPage::leavingSetsTheProcessorUpAnewBeforeTheNextPageComes()
 {
     QFETCH(int, letter);
     QFETCH(int, target);
-    SetupPage setup(PageTest::liveData());
+    SetupPage setup(liveData());
     setup.enter();
     QSignalSpy settings(&setup, &SetupPage::settingsLeft);
     FrameSpy frames;
@@ -67,6 +105,7 @@ void TstSetupPage::leavingSetsTheProcessorUpAnewBeforeTheNextPageComes()
         framesBefore = frames.count();
         asked = type;
     });
+    SetupCase::press(setup, { F1 }); // from any of its pages
     QTest::keyClick(setup.currentPage(), Qt::Key(letter));
     QCOMPARE(asked, target);
     QCOMPARE(settings.count(), 1);
@@ -77,16 +116,78 @@ void TstSetupPage::leavingSetsTheProcessorUpAnewBeforeTheNextPageComes()
     QCOMPARE(frames.word(2, 2), 1u);
 }
 
+void TstSetupPage::theSetUpThatIsSentIsTheOneThatWasChosen()
+{
+    // Delta: wiring code 1, star: 0, in the lowest bits of the configuration word behind the command.
+    SetupPage setup(liveData());
+    setup.enter();
+    quint32 codes[2];
+    for (quint32 &code : codes) {
+        FrameSpy frames;
+        QTest::keyClick(setup.currentPage(), Qt::Key_A);
+        code = frames.word(0, 2) & 0xF;
+        setup.enter();
+        SetupCase::press(setup, { F1, Right, Enter, F4 }); // 3P WYE to 3P IT
+    }
+    QCOMPARE(codes[0], 0u);
+    QCOMPARE(codes[1], 1u);
+}
+
+void TstSetupPage::summaryShowsWhatIsInForce()
+{
+    m_settingConfig_g.setRatioIFenzi(200);
+    m_settingConfig_g.setRatioIFenmu(5);
+    m_settingConfig_g.setRatioVNFenzi(10);
+    SetupPage setup(liveData());
+    setup.enter();
+    QMap<QString, QString> expected {
+        { "config_t", "Config:" }, { "config", "3P WYE" },    { "vnom_t", "Vnom:" },      { "vnom", "230 V" },
+        { "freq_t", "Freq:" },     { "freq", "50 Hz" },       { "limits_t", "Limits:" },  { "limits", "EN50160" },
+        { "clamp_t", "Clamp" },    { "clamp", "TARN-41A" },   { "clamp_n", "TARN-41A" },  { "i_ratio_t", "I Ratio" },
+        { "i_ratio", "200:5" },    { "i_ratio_n", "1:1" },    { "v_ratio_t", "V Ratio" }, { "v_ratio", "1:1" },
+        { "v_ratio_n", "10:1" },   { "i_range_t", "Irange" }, { "i_range", "5 A" },       { "i_range_n", "5 A" },
+        { "btn_f1", "Config" },    { "btn_f2", "Vnom" },      { "btn_f3", "Freq" },       { "btn_f4", "Clamp" },
+        { "btn_f5", "Page Down" },
+    };
+    for (int page = 0; page < 2; ++page) {
+        for (auto it = expected.cbegin(); it != expected.cend(); ++it)
+            QCOMPARE(PageTest::text(setup.currentPage(), it.key()), it.value());
+        const auto *icon = setup.currentPage()->findChild<QLabel *>("join_icon");
+        QVERIFY(icon && icon->pixmap(Qt::ReturnByValue).size() == QSize(160, 110));
+        SetupCase::press(setup, { F5 });
+        expected["btn_f1"] = QStringLiteral("Limits");
+        expected["btn_f2"] = QStringLiteral("Functions");
+        expected["btn_f3"] = expected["btn_f4"] = QString();
+        expected["btn_f5"] = QStringLiteral("Page Up");
+    }
+}
+
 void TstSetupPage::freqKeyGoesRoundTheThreeFrequencies()
 {
-    PageTest::setUpMeasurement(1, 1);
-    SetupPage setup(PageTest::liveData());
+    SetupPage setup(liveData());
     setup.enter();
-    for (const char *text : { "60 Hz", "400 Hz", "50 Hz" }) {
-        SetupCase::press(setup, { PageTest::F3 });
-        QCOMPARE(PageTest::text(setup.currentPage(), "freq"), QString::fromLatin1(text));
+    const struct
+    {
+        const char *text;
+        double hertz;
+        QByteArray line;
+    } steps[] = { { "60 Hz", 60.0, "NOM_FREQ=2" }, { "400 Hz", 400.0, "NOM_FREQ=3" }, { "50 Hz", 50.0, "NOM_FREQ=1" } };
+    for (const auto &step : steps) {
+        SetupCase::press(setup, { F3 });
+        QCOMPARE(SetupCase::text(setup, "freq"), QString::fromLatin1(step.text));
+        QCOMPARE(m_settingConfig_g.getNomFreq(), step.hertz);
+        QVERIFY(SetupCase::settingFile().contains(step.line));
     }
-    QCOMPARE(m_settingConfig_g.getNomFreq(), 50.0);
+}
+
+void TstSetupPage::saveStoresAPictureOfSetup()
+{
+    SetupPage setup(liveData());
+    setup.enter();
+    QCOMPARE(setup.saveIdentity().windowId, 30);
+    QCOMPARE(setup.currentPage()->saveIdentity().windowId, 0); // the container is asked
+    SetupCase::press(setup, SetupCase::toFunction(SetupCase::Inrush));
+    QCOMPARE(setup.currentPage()->saveIdentity().windowId, 7);
 }
 
 PAGE_TEST_MAIN(TstSetupPage)
