@@ -82,12 +82,17 @@ void NetConfig::setMAC(const QString &address)
     store(&NetValues::mac, address);
 }
 
+QString NetConfig::addressExpression()
+{
+    return QStringLiteral("(?!0\\.0\\.0\\.0$)(([0-9]{1,2}|1[0-9]{2}|2[0-4][0-9]|25[0-5])\\.){3}"
+                          "([0-9]{1,2}|1[0-9]{2}|2[0-4][0-9]|25[0-5])");
+}
+
 bool NetConfig::ipIsValid(const QString &text)
 {
-    static const QRegularExpression dottedQuad(
-        QStringLiteral("(([0-9]{1,2}|1[0-9]{2}|2[0-4][0-9]|25[0-5])\\.){3}([0-9]{1,2}|1[0-9]{2}|2[0-4][0-9]|25[0-5])"));
+    static const QRegularExpression dottedQuad(addressExpression());
+    const QRegularExpressionValidator validator(dottedQuad);
     QString candidate = text;
     int position = 0;
-    const QRegularExpressionValidator validator(dottedQuad);
-    return validator.validate(candidate, position) == QValidator::Acceptable && text != QLatin1String("0.0.0.0");
+    return validator.validate(candidate, position) == QValidator::Acceptable;
 }

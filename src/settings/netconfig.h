@@ -37,6 +37,8 @@ public:
 
     /// Four dotted decimal fields of 0 to 255, and not "0.0.0.0".
     static bool ipIsValid(const QString &text);
+    /// The regular expression of such an address, for a full match.
+    static QString addressExpression();
 
 private:
     void store(QString NetValues::*member, const QString &value);

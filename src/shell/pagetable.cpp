@@ -3,8 +3,11 @@
 #include "services/modbuspublisher.h"
 #include "settings/recordinfo.h"
 #include "setup/setuppage.h"
+#include "shell/basedialog.h"
+#include "shell/quveraglobal.h"
 #include "shell/tasklinks.h"
 #include "task/unitask.h"
+#include "user/userpage.h"
 #include "views/dips/dswell.h"
 #include "views/flicker/flicker.h"
 #include "views/harmonics/harm.h"
@@ -69,6 +72,13 @@ FunctionPage *makeSetup(TaskLinks &links, const LiveData &data)
     return page;
 }
 
+FunctionPage *makeUser(TaskLinks &, const LiveData &data)
+{
+    auto *page = new UserPage(data);
+    QObject::connect(page, &UserPage::refreshDTime, m_basedialog, &BaseDialog::refleshtime);
+    return page;
+}
+
 bool notRecording()
 {
     return !RecordInfo::m_in_recording;
@@ -104,7 +114,7 @@ const PageRow kRows[] = {
       { 8, "transients", QT_TRANSLATE_NOOP("MenuPage", "Transients\n") },
       Plan::Live, kBasic, Hears::kLive, 7, 8, makeTransients },
     { UI_USER, QT_TRANSLATE_NOOP("BaseDialog", "User"),
-      { 12, "user", QT_TRANSLATE_NOOP("MenuPage", "User\n") }, Plan::Settings, kBasic, 0, 1, 0, nullptr },
+      { 12, "user", QT_TRANSLATE_NOOP("MenuPage", "User\n") }, Plan::Settings, kBasic, 0, 1, 0, makeUser },
     { UI_INRUSH, QT_TRANSLATE_NOOP("BaseDialog", "Inrush"),
       { 7, "inrush", QT_TRANSLATE_NOOP("MenuPage", "Inrush\n") },
       Plan::Live, kBasic, Hears::kLive, 9, 9, make<InrushPage> },
