@@ -31,6 +31,15 @@ bool PhaseColorDialog::choose()
 
 PhaseColorDialog::PhaseColorDialog(QWidget *parent) : SoftKeyDialog(parent), m_ui(new Ui::PhaseColorDialog)
 {
+    static const FrontKeys::KeyRow<PhaseColorDialog> keys[] = {
+        { Qt::Key_Up, nullptr, &PhaseColorDialog::prevItem },
+        { Qt::Key_Down, nullptr, &PhaseColorDialog::nextItem },
+        { Qt::Key_Left, nullptr, &PhaseColorDialog::change2prev },
+        { Qt::Key_Right, nullptr, &PhaseColorDialog::change2next },
+        { Qt::Key_F1, QT_TRANSLATE_NOOP("PhaseColorDialog", "Default"), &PhaseColorDialog::setDefault },
+        { Qt::Key_F4, QT_TRANSLATE_NOOP("PhaseColorDialog", "Ok"), &PhaseColorDialog::accept },
+        { Qt::Key_F5, QT_TRANSLATE_NOOP("PhaseColorDialog", "Cancel"), &PhaseColorDialog::reject },
+    };
     m_ui->setupUi(this);
     for (int row = 0; row < kRows; ++row) {
         auto *palette = new PhaseColorPalette(this);
@@ -43,16 +52,7 @@ PhaseColorDialog::PhaseColorDialog(QWidget *parent) : SoftKeyDialog(parent), m_u
     fitText(m_ui->row_4, tr("Earth"), 20);
     m_ui->row_bar->setStyleSheet(QStringLiteral("QLabel { background-color: #004882; }"));
     finishForm();
-    setKeyText(1, tr("Default"));
-    setKeyText(4, tr("Ok"));
-    setKeyText(5, tr("Cancel"));
-    keys().setRows({ { Qt::Key_Up, nullptr, [this] { selectRow(-1); }, {}, 0, {} },
-                     { Qt::Key_Down, nullptr, [this] { selectRow(1); }, {}, 0, {} },
-                     { Qt::Key_Left, nullptr, [this] { stepColor(-1); }, {}, 0, {} },
-                     { Qt::Key_Right, nullptr, [this] { stepColor(1); }, {}, 0, {} },
-                     { Qt::Key_F1, nullptr, [this] { setDefault(); }, {}, 0, {} },
-                     { Qt::Key_F4, nullptr, [this] { accept(); }, {}, 0, {} },
-                     { Qt::Key_F5, nullptr, [this] { reject(); }, {}, 0, {} } });
+    setKeys(keys);
     take(PhaseColor::digits());
 }
 

@@ -28,6 +28,10 @@ public:
     QString digits() const;
 
 private:
+    void nextItem() { selectRow(1); }
+    void prevItem() { selectRow(-1); }
+    void change2next() { stepColor(1); }
+    void change2prev() { stepColor(-1); }
     void selectRow(int direction);
     void stepColor(int direction);
     void setDefault();

@@ -20,6 +20,13 @@ wlanSettingDialog::wlanSettingDialog(const WifiInfo &info, QWidget *parent)
     : SoftKeyDialog(parent), m_ui(new Ui::wlanSettingDialog), m_info(info), m_hidden(isHidden(info)),
       m_secured(isSecured(info)), m_field(m_hidden ? Ssid : Password)
 {
+    static const FrontKeys::KeyRow<wlanSettingDialog> keys[] = {
+        { Qt::Key_Up, nullptr, &wlanSettingDialog::selectSsid },
+        { Qt::Key_Down, nullptr, &wlanSettingDialog::selectPassword },
+        { Qt::Key_Enter, nullptr, &wlanSettingDialog::wlanSetting },
+        { Qt::Key_F4, QT_TRANSLATE_NOOP("wlanSettingDialog", "Ok"), &wlanSettingDialog::accept },
+        { Qt::Key_F5, QT_TRANSLATE_NOOP("wlanSettingDialog", "Cancel"), &wlanSettingDialog::reject },
+    };
     m_ui->setupUi(this);
     fitText(m_ui->title, tr("Connect To"), 22);
     fitText(m_ui->ssid_t, tr("SSID:"), 20);
@@ -27,13 +34,7 @@ wlanSettingDialog::wlanSettingDialog(const WifiInfo &info, QWidget *parent)
     m_ui->row_bar->setStyleSheet(QStringLiteral("QLabel { background-color: #004882; }"));
     m_ui->hint->setStyleSheet(QStringLiteral("QLabel { color: rgb(255, 160, 64); }"));
     finishForm();
-    setKeyText(4, tr("Ok"));
-    setKeyText(5, tr("Cancel"));
-    keys().setRows({ { Qt::Key_Up, nullptr, [this] { select(Ssid); }, {}, 0, {} },
-                     { Qt::Key_Down, nullptr, [this] { select(Password); }, {}, 0, {} },
-                     { Qt::Key_Enter, nullptr, [this] { wlanSetting(); }, {}, 0, {} },
-                     { Qt::Key_F4, nullptr, [this] { accept(); }, {}, 0, {} },
-                     { Qt::Key_F5, nullptr, [this] { reject(); }, {}, 0, {} } });
+    setKeys(keys);
     lookForStored();
     showFields();
 }

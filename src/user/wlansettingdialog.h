@@ -42,6 +42,8 @@ private:
     void wlanSetting();
     void editSsid();
     void editPassword();
+    void selectSsid() { select(Ssid); }
+    void selectPassword() { select(Password); }
     void select(Field field);
     void showFields();
     void lookForStored();

@@ -333,10 +333,10 @@ void TstShell::restartInTheRecorderQuestionStaysAndBeginsANewRecording()
 void TstShell::functionNotBuiltAnswersWithAMessage()
 {
     DialogAnswer answer(kF5);
-    moveToTile("user");
+    moveToTile("logger");
     QTest::keyClick(m_basedialog->menu(), kEnter);
     QVERIFY(answer.asked);
-    QVERIFY(answer.text.contains("User is not available"));
+    QVERIFY(answer.text.contains("Logger is not available"));
     QCOMPARE(title(), QStringLiteral("Menu"));
 }
 
