@@ -87,7 +87,7 @@ void SystemTray::changeBatteryIcon(int status)
 
 void SystemTray::usingBDS(quint32 word)
 {
-    // Kept: it is kept. The processor never tells that it lost its satellites, so once shown the icon stays.
+    // Kept: the processor never reports that it lost its satellites, so that the icon stays once it was shown.
     setIcon(kBds, word != 0);
 }
 

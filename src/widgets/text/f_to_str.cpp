@@ -139,8 +139,8 @@ const char *F_to_Str::utf8(const QString &text)
     constexpr int kMostInput = 512;
     constexpr int kZeroed = 30;
     static char buffer[kRoom + 1];
-    // Kept: only the first 30 bytes are zeroed, as wireless names are no longer; behind a longer text the bytes of the
-    // one before may follow.
+    // Kept: only the first 30 bytes are zeroed, so that the bytes of a former text may stand behind a longer one. Names
+    // of wireless networks, which may be longer, no longer come through here.
     std::memset(buffer, 0, kZeroed);
 
     const auto at = [&text](int i) { return i < text.size() ? text.at(i).unicode() : u'\0'; };
