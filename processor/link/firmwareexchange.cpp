@@ -11,8 +11,9 @@ bool FirmwareExchange::answer(Answers *answers, Step step, quint32 result, int d
     static constexpr quint32 kCodes[kSteps] = { kCodeAnnounce, kCodeData, kCodeFlash };
     const Replaced &replaced = m_replaced[step];
     const quint32 given = replaced.result.value_or(result);
+    const Answer one { replaced.code.value_or(kCodes[step]), given, delayMs + replaced.lateMs };
     if (!replaced.silent)
-        answers->push_back({ replaced.code.value_or(kCodes[step]), given, delayMs });
+        answers->insert(answers->end(), std::size_t(1 + replaced.repeats), one);
     return given == Good;
 }
 
@@ -44,7 +45,7 @@ FirmwareExchange::Answers FirmwareExchange::data(const std::vector<quint32> &wor
     m_announced = 0;
     m_imageHeld = answer(&answers, Data, result, kChecksumMs) && result == Good;
     if (m_imageHeld)
-        flashImage(&answers, kChecksumMs + kFlashMs);
+        flashImage(&answers, kChecksumMs + m_replaced[Data].lateMs + kFlashMs);
     return answers;
 }
 

@@ -14,7 +14,7 @@ namespace wire {
 ///
 /// The instrument announces the length, sends the image and then waits for the end of the flashing, so the processor
 /// flashes on its own once the checksum is good; the separate flash command is obeyed as well. Each answer can be
-/// replaced by an error, another code or silence, to see what the instrument makes of it.
+/// replaced by an error, another code or silence, come late or again, to see what the instrument makes of it.
 class FirmwareExchange
 {
 public:
@@ -53,6 +53,10 @@ public:
     void replaceResult(Step step, quint32 result) { m_replaced[step].result = result; }
     void replaceCode(Step step, quint32 code) { m_replaced[step].code = code; }
     void silence(Step step) { m_replaced[step].silent = true; }
+    /// The answer comes so much later than it would.
+    void delay(Step step, int ms) { m_replaced[step].lateMs = ms; }
+    /// The answer comes so many times more, at once.
+    void repeat(Step step, int times) { m_replaced[step].repeats = times; }
     void answerWell() { m_replaced = {}; }
 
     /// "CPU:ADSP-21479;Silicon:0.2;Firmware:1.0.0;"; each update that was flashed raises the last number.
@@ -64,6 +68,8 @@ private:
     {
         std::optional<quint32> result;
         std::optional<quint32> code;
+        int lateMs = 0;
+        int repeats = 0;
         bool silent = false;
     };
 

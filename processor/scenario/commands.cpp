@@ -98,6 +98,28 @@ QString readEventWords(const EventForm &form, const QStringList &words, EventWor
     return {};
 }
 
+/// Changes one thing about the firmware update's answers. False: the words make no sense.
+bool setAnswer(wire::FirmwareExchange *firmware, wire::FirmwareExchange::Step step, const QString &how,
+               const QString &text)
+{
+    constexpr quint32 kMostRepeats = 100;
+    constexpr double kLatest = 3600.0; // s
+    bool number = false;
+    const quint32 value = text.toUInt(&number, 0);
+    const auto seconds = quantity(text, Unit::Seconds);
+    if (how == QLatin1String("result") && number)
+        firmware->replaceResult(step, value);
+    else if (how == QLatin1String("code") && number)
+        firmware->replaceCode(step, value);
+    else if (how == QLatin1String("repeat") && number && value <= kMostRepeats)
+        firmware->repeat(step, int(value));
+    else if (how == QLatin1String("late") && seconds && *seconds >= 0.0 && *seconds <= kLatest)
+        firmware->delay(step, int(*seconds * 1000.0));
+    else
+        return false;
+    return true;
+}
+
 } // namespace
 
 /// A command: how it is written, what it does, and who does it.
@@ -118,7 +140,7 @@ const std::vector<Commands::Row> &Commands::table()
           "let something happen to the signal; 'help event' lists the kinds", &Commands::event },
         { "fault",
           "drop|repeat|torn|reorder|garbage COUNT | rate KIND 0..1 | late TIME | off | "
-          "update announce|data|flash result N|code N|silent | update off",
+          "update announce|data|flash result N|code N|silent|late TIME|repeat COUNT | update off",
           "spoil the next packages, hold them back, or choose the firmware update's answers", &Commands::fault },
         { "clock", "+TIME|-TIME|YYYY-MM-DDThh:mm:ss|host|unset", "move or set the processor's clock (UTC)",
           &Commands::clock },
@@ -246,17 +268,12 @@ QString Commands::faultUpdate(const Words &words)
         return ok();
     }
     const int step = which(words.value(0), { "announce", "data", "flash" });
-    const QString how = words.value(1);
-    bool number = false;
-    const quint32 value = words.value(2).toUInt(&number, 0);
-    if (step >= 0 && how == QLatin1String("silent") && words.size() == 2)
+    const bool silent = words.value(1) == QLatin1String("silent") && words.size() == 2;
+    if (step >= 0 && silent)
         firmware.silence(FirmwareExchange::Step(step));
-    else if (step >= 0 && how == QLatin1String("result") && number && words.size() == 3)
-        firmware.replaceResult(FirmwareExchange::Step(step), value);
-    else if (step >= 0 && how == QLatin1String("code") && number && words.size() == 3)
-        firmware.replaceCode(FirmwareExchange::Step(step), value);
-    else
-        return error(QStringLiteral("expected fault update announce|data|flash result N|code N|silent, or off"));
+    else if (step < 0 || words.size() != 3 || !setAnswer(&firmware, FirmwareExchange::Step(step), words[1], words[2]))
+        return error(QStringLiteral("expected fault update announce|data|flash "
+                                    "result N|code N|silent|late TIME|repeat COUNT, or off"));
     return ok();
 }
 

@@ -219,7 +219,8 @@ void TstProcessorCommands::wrongCommandsSayWhatWasExpected_data()
     QTest::newRow("rate") << "fault rate drop 2"
                           << "error: expected fault rate drop|repeat|torn|reorder|garbage 0..1";
     QTest::newRow("update") << "fault update erase silent"
-                            << "error: expected fault update announce|data|flash result N|code N|silent, or off";
+                            << "error: expected fault update announce|data|flash "
+                               "result N|code N|silent|late TIME|repeat COUNT, or off";
     QTest::newRow("clock") << "clock tomorrow"
                            << "error: expected clock +TIME|-TIME|YYYY-MM-DDThh:mm:ss|host|unset";
     QTest::newRow("bds") << "bds maybe"
@@ -283,6 +284,13 @@ void TstProcessorCommands::updateAnswersAreChosen()
     QCOMPARE(m_link->firmware().announce(8)[0].code, 0xC409u);
     QCOMPARE(tell("fault update announce silent"), QString("ok"));
     QVERIFY(m_link->firmware().announce(8).empty());
+    QCOMPARE(tell("fault update off"), QString("ok"));
+    QCOMPARE(tell("fault update announce late 5s"), QString("ok"));
+    QCOMPARE(tell("fault update announce repeat 2"), QString("ok"));
+    QCOMPARE(m_link->firmware().announce(8).size(), std::size_t(3));
+    QCOMPARE(m_link->firmware().announce(8)[2].delayMs, 5000);
+    for (const char *wrong : { "late soon", "late -1s", "late 2h", "late", "repeat 101", "repeat -1", "silent 1" })
+        QVERIFY2(tell(QStringLiteral("fault update data ") + wrong).startsWith("error: expected fault update"), wrong);
 }
 
 void TstProcessorCommands::clockMovesAndIsSet()

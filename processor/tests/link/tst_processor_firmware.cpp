@@ -52,6 +52,8 @@ private slots:
     void refusedAnnouncementTakesNoImage();
     void everyAnswerCanBeReplaced_data();
     void everyAnswerCanBeReplaced();
+    void lateAnswerDelaysWhatFollows();
+    void answerComesAgain();
     void badDataAnswerEndsTheExchange();
     void faultOfTheFlashLeavesTheVersion();
     void versionRisesWithEachUpdate();
@@ -184,6 +186,27 @@ void TstProcessorFirmware::everyAnswerCanBeReplaced()
     exchange.answerWell();
     exchange.silence(Exchange::Step(step));
     QVERIFY(!answerOf(exchange) || answerOf(exchange)->code != 0xC401u + quint32(step));
+}
+
+void TstProcessorFirmware::lateAnswerDelaysWhatFollows()
+{
+    Exchange exchange;
+    exchange.delay(Exchange::Data, 5000);
+    QCOMPARE(exchange.announce(8)[0].delayMs, 0);
+    const Exchange::Answers answers = exchange.data(image("12345678"));
+    QCOMPARE(answers[0].delayMs, Exchange::kChecksumMs + 5000);
+    QCOMPARE(answers[1].delayMs, answers[0].delayMs + Exchange::kFlashMs);
+}
+
+void TstProcessorFirmware::answerComesAgain()
+{
+    Exchange exchange;
+    exchange.repeat(Exchange::Announce, 2);
+    const Exchange::Answers answers = exchange.announce(8);
+    QCOMPARE(answers.size(), std::size_t(3));
+    for (const Exchange::Answer &answer : answers)
+        QCOMPARE(answer.code, 0xC401u);
+    QCOMPARE(exchange.data(image("12345678"))[0].result, 0u);
 }
 
 void TstProcessorFirmware::badDataAnswerEndsTheExchange()
