@@ -2,6 +2,7 @@
 
 #include "user/userdatepage.h"
 #include "user/userlanpage.h"
+#include "user/userupdate.h"
 #include "user/userwifipage.h"
 #include "user/userzipage.h"
 
@@ -13,6 +14,7 @@ UserPage::UserPage(const LiveData &data, QWidget *parent)
                           way(&UserZiPage::goUserDate, Date),
                           way(&UserZiPage::goUserLan, Lan),
                           way(&UserZiPage::goUserWLan, WLan),
+                          way(&UserZiPage::goUpdate, Update),
                       } },
                     { make<UserDatePage>,
                       {
@@ -21,6 +23,7 @@ UserPage::UserPage(const LiveData &data, QWidget *parent)
                       } },
                     { make<UserLanPage>, { back(&UserLanPage::goUserMain) } },
                     { make<UserWifiPage>, { back(&UserWifiPage::goUserMain) } },
+                    { make<UserUpdate>, { back(&UserUpdate::goUserMain) } },
                 },
                 parent)
 { }

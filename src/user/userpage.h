@@ -9,7 +9,7 @@ class UserPage : public PageStack
 
 public:
     /// The pages, in the order of the table.
-    enum Row { Main, Date, Lan, WLan };
+    enum Row { Main, Date, Lan, WLan, Update };
 
     explicit UserPage(const LiveData &data, QWidget *parent = nullptr);
 

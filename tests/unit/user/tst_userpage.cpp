@@ -36,6 +36,7 @@ void TstUserPage::subPagesLeadBackToTheList_data()
     QTest::newRow("date") << int(F1) << "UserDatePage";
     QTest::newRow("wired network") << int(F2) << "UserLanPage";
     QTest::newRow("wireless network") << int(F3) << "UserWifiPage";
+    QTest::newRow("update") << int(F4) << "UserUpdate";
 }
 
 void TstUserPage::subPagesLeadBackToTheList()
