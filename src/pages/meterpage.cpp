@@ -31,8 +31,8 @@ void MeterPage::retranslateUi()
 {
     LivePage::retranslateUi();
     // Where the form has this label, it also brings the text to be translated.
-    setText(findChild<QLabel *>(QStringLiteral("freq_t")),
-            QCoreApplication::translate(metaObject()->className(), "Freq ="));
+    if (auto *frequency = findChild<QLabel *>(QStringLiteral("freq_t")))
+        setText(frequency, QCoreApplication::translate(metaObject()->className(), "Freq ="));
     showTitle();
 }
 

@@ -14,6 +14,8 @@
 
 namespace {
 
+const char kLanguages[] = "/mnt/userfs/language";
+
 /// Folders of the board's image that the program, its scripts and the processor's stand-in expect.
 const char *const kFolders[] = {
     "/bin",
@@ -23,7 +25,7 @@ const char *const kFolders[] = {
     "/mnt/calibration",
     "/mnt/storage",
     "/mnt/userfs/config",
-    "/mnt/userfs/language",
+    kLanguages,
     "/mnt/userfs/skin",
     "/mnt/userfs/sys/limits",
     "/opt/quvera",
@@ -80,6 +82,15 @@ const FontLink kFonts[] = {
     { "/usr/lib/fonts/arial.ttf", "/usr/share/fonts/truetype/liberation/LiberationSans-Regular.ttf" },
     { "/usr/lib/fonts/WenQuanYiZenHei.ttf", "/usr/share/fonts/truetype/wqy/wqy-zenhei.ttc" },
 };
+
+/// Links to a file of the host. A link that leads nowhere, to a build that was deleted, is made anew.
+void linkTo(const QString &file, const QString &link)
+{
+    if (QFileInfo::exists(link) || !QFileInfo::exists(file))
+        return;
+    QFile::remove(link);
+    QFile::link(file, link);
+}
 
 /// Writes aside and links, so that a second process that prepares the same root never meets a half-written file.
 bool makeFile(const QString &path, const QByteArray &content, bool executable)
@@ -143,7 +154,13 @@ bool DeskRoot::prepare(QString *error)
     return fault.isEmpty();
 }
 
-QString DeskRoot::build(const QString &root)
+/// The build puts the languages beside the program. There is no application object yet that would know its folder.
+QString DeskRoot::builtLanguages()
+{
+    return QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath() + QStringLiteral("/language");
+}
+
+QString DeskRoot::build(const QString &root, const QString &languages)
 {
     if (!isPlain(root))
         return QStringLiteral("The desk root cannot be used: %1 holds characters that a shell would split or expand")
@@ -176,9 +193,10 @@ QString DeskRoot::build(const QString &root)
     }
     for (const FontLink &font : kFonts) {
         // A machine without these packages still runs, with the toolkit's default face.
-        const QString link = root + QLatin1String(font.link);
-        if (!QFileInfo::exists(link) && QFileInfo::exists(QLatin1String(font.font)))
-            QFile::link(QLatin1String(font.font), link);
+        linkTo(QLatin1String(font.font), root + QLatin1String(font.link));
     }
+    const QDir built(languages);
+    for (const QString &name : built.entryList({ QStringLiteral("lang_*.qm") }, QDir::Files))
+        linkTo(built.absoluteFilePath(name), root + QLatin1String(kLanguages) + QLatin1Char('/') + name);
     return {};
 }

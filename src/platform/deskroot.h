@@ -13,5 +13,9 @@ public:
     static bool prepare(QString *error = nullptr);
 
     /// Prepares `root` (absolute, no slash at its end). Answers an empty text, or one line that says what is wrong.
-    static QString build(const QString &root);
+    /// The language files are those of the folder `languages`.
+    static QString build(const QString &root, const QString &languages = builtLanguages());
+
+private:
+    static QString builtLanguages();
 };

@@ -6,6 +6,7 @@
 #include <QFontDatabase>
 #include <QTranslator>
 
+#include "settings/translationfile.h"
 #include "settings/userconfig.h"
 #include "platform/target.h"
 
@@ -54,6 +55,7 @@ bool LangTranslation::initLangTranslation(int language)
         QCoreApplication::removeTranslator(m_translator);
         delete m_translator;
         m_translator = nullptr;
+        m_content.clear();
     }
     if (language == UserConfig::EN)
         return true;
@@ -61,7 +63,8 @@ bool LangTranslation::initLangTranslation(int language)
     if (path.isEmpty() || !QFileInfo(Target::path(path)).isFile())
         return true;
     m_translator = new QTranslator(this);
-    if (m_translator->load(Target::path(path)))
+    m_content = TranslationFile::read(path);
+    if (m_translator->load(reinterpret_cast<const uchar *>(m_content.constData()), m_content.size()))
         QCoreApplication::installTranslator(m_translator);
     if (qobject_cast<QApplication *>(QCoreApplication::instance())) {
         const QString family = familyFor(language);

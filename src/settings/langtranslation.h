@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QObject>
 #include <QString>
 
@@ -27,4 +28,5 @@ signals:
 
 private:
     QTranslator *m_translator = nullptr;
+    QByteArray m_content; // that the translator reads: a file could change under it
 };

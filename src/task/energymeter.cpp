@@ -4,7 +4,8 @@
 
 namespace {
 
-constexpr qint64 kLongestGap = 60'000'000; // us
+constexpr qint64 kSecond = 1'000'000; // us
+constexpr qint64 kLongestGap = 60 * kSecond;
 
 /// Moves a clock of hours, minutes and seconds on by a second.
 void tick(__power_data &clock)
@@ -34,13 +35,13 @@ void EnergyMeter::restart()
 void EnergyMeter::count(__datagram_aggregation &record, __power_data &shown)
 {
     const timeval now = Clock::timeOfDay();
-    const qint64 elapsed = (qint64(now.tv_sec) - m_last.tv_sec) * 1'000'000 + (qint64(now.tv_usec) - m_last.tv_usec);
+    const qint64 elapsed = (qint64(now.tv_sec) - m_last.tv_sec) * kSecond + (qint64(now.tv_usec) - m_last.tv_usec);
     m_last = now;
     if (elapsed < 0 || elapsed > kLongestGap)
         return;
 
     m_microseconds += elapsed;
-    for (; m_microseconds > 999'999; m_microseconds -= 1'000'000) {
+    for (; m_microseconds >= kSecond; m_microseconds -= kSecond) {
         ++m_seconds;
         tick(shown);
     }

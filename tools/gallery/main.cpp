@@ -63,6 +63,8 @@ void addOptions(QCommandLineParser &parser)
     for (const auto &option : kOptions)
         parser.addOption({ QString::fromLatin1(option.name), QString::fromLatin1(option.text),
                            QString::fromLatin1(option.value), QString::fromLatin1(option.usual) });
+    parser.addOption({ QStringLiteral("language"), QStringLiteral("This language alone, with its contact sheet."),
+                       QStringLiteral("word") });
     parser.addOption({ QStringLiteral("sheet"), QStringLiteral("Also write a contact sheet, sheet.png.") });
 }
 
@@ -86,13 +88,14 @@ QString readOptions(const QCommandLineParser &parser, const QStringList &pageNam
 {
     options->folder = parser.value(QStringLiteral("out"));
     options->scenario = parser.value(QStringLiteral("scenario"));
-    options->sheet = parser.isSet(QStringLiteral("sheet"));
+    options->sheet = parser.isSet(QStringLiteral("sheet")) || parser.isSet(QStringLiteral("language"));
     options->pages = words(parser.value(QStringLiteral("pages")));
     const QString page = unknownWord(options->pages, pageNames);
     if (!page.isNull())
         return QStringLiteral("no page is called \"%1\" (pages: %2)").arg(page, pageNames.join(QLatin1Char(' ')));
 
-    const QString languages = parser.value(QStringLiteral("languages"));
+    const QString one = parser.value(QStringLiteral("language"));
+    const QString languages = one.isEmpty() ? parser.value(QStringLiteral("languages")) : one;
     options->languages = languages == QLatin1String("all") ? languageWords() : words(languages);
     const QString language = unknownWord(options->languages, languageWords());
     if (!language.isNull())

@@ -33,8 +33,8 @@ const Row kRows[] = {
       own<&__unbalance_data::voltageFundamental>, F_to_Str::number_V },
     { "If", 208, QT_TRANSLATE_NOOP("UnbalanMain", "Ifund(%1)"), &DisplayUnits::ampere,
       own<&__unbalance_data::currentFundamental>, F_to_Str::number_A },
-    { "IU", 252, QT_TRANSLATE_NOOP("UnbalanMain", "\u0424I-U(\u00b0):"), nullptr,
-      own<&__unbalance_data::angleDifference>, F_to_Str::number_Ang },
+    { "IU", 252, QT_TRANSLATE_NOOP("UnbalanMain", "ФI-U(°):"), nullptr, own<&__unbalance_data::angleDifference>,
+      F_to_Str::number_Ang },
 };
 
 struct Ratio

@@ -29,9 +29,9 @@ const char *const kCaptions[2][3] = {
 };
 
 const char *const kAngleCaptions[3] = {
-    QT_TRANSLATE_NOOP("UnbalVectorPage", "\u04241(\u00b0):"),
-    QT_TRANSLATE_NOOP("UnbalVectorPage", "\u04242(\u00b0):"),
-    QT_TRANSLATE_NOOP("UnbalVectorPage", "\u04243(\u00b0):"),
+    QT_TRANSLATE_NOOP("UnbalVectorPage", "Ф1(°):"),
+    QT_TRANSLATE_NOOP("UnbalVectorPage", "Ф2(°):"),
+    QT_TRANSLATE_NOOP("UnbalVectorPage", "Ф3(°):"),
 };
 
 } // namespace

@@ -82,6 +82,22 @@ private slots:
         }
     }
 
+    void theLanguagesOfTheBuildAreLinked()
+    {
+        QTemporaryDir built, root;
+        const QString board = root.path() + "/mnt/userfs/language/";
+        write(built.path() + "/lang_ru.qm", "of the build");
+        write(built.path() + "/lang_ge.qm", "of the build");
+        write(built.path() + "/other.txt", "");
+        QVERIFY(QDir().mkpath(board));
+        write(board + "lang_ge.qm", "of an update");
+        QVERIFY(QFile::link(built.path() + "/of a deleted build", board + "lang_ru.qm"));
+        QCOMPARE(DeskRoot::build(root.path(), built.path()), QString());
+        QCOMPARE(QDir(board).entryList(QDir::Files), QStringList({ "lang_ge.qm", "lang_ru.qm" }));
+        QCOMPARE(read(board + "lang_ru.qm"), QByteArray("of the build"));
+        QCOMPARE(read(board + "lang_ge.qm"), QByteArray("of an update"));
+    }
+
     void whatSomeonePreparedStaysAsItIs()
     {
         QTemporaryDir dir;

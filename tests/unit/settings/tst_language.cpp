@@ -3,7 +3,18 @@
 #include <QApplication>
 
 #include "settings/config_data.h"
+#include "settings/translationfile.h"
 #include "unit/storage/rootfiles.h"
+
+namespace {
+
+QByteArray languageFile()
+{
+    QFile file(QStringLiteral(TEST_LANGUAGE_FILE));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
 
 /// The switch of the language.
 class TstLanguage : public QObject
@@ -79,6 +90,55 @@ private slots:
         RootFiles::write("/mnt/userfs/language/lang_ru.qm", content);
         QVERIFY(languageTranslator.initLangTranslation(UserConfig::RU));
         QCOMPARE(tr("Power off?"), QString("Power off?"));
+    }
+
+    void aCutFileLeavesTheSourceTexts()
+    {
+        const QByteArray whole = languageFile();
+        for (int size = 0; size < whole.size(); ++size) {
+            RootFiles::write("/mnt/userfs/language/lang_ru.qm", whole.left(size));
+            QVERIFY(languageTranslator.initLangTranslation(UserConfig::RU));
+            const QString shown = tr("Power off?");
+            // The last section holds the rules of plurals, which no text here needs.
+            QVERIFY2(shown == "Power off?" || (size > whole.size() - 40 && shown == QString::fromUtf8("Выключить?")),
+                     qPrintable(QString::number(size)));
+        }
+    }
+
+    void noDamagedByteLeadsBeyondTheFile()
+    {
+        const QByteArray whole = languageFile();
+        int refused = 0;
+        for (int at = 0; at < whole.size(); ++at) {
+            for (const char value : { '\0', '\x7f', '\xff' }) {
+                QByteArray damaged = whole;
+                damaged[at] = value;
+                RootFiles::write("/mnt/userfs/language/lang_ru.qm", damaged);
+                QVERIFY(languageTranslator.initLangTranslation(UserConfig::RU));
+                QVERIFY(tr("Power off?").size() < whole.size());
+                refused += TranslationFile::isSound(damaged) ? 0 : 1;
+            }
+        }
+        QVERIFY(refused > whole.size() / 4);
+    }
+
+    void aTextLongerThanItsFileIsRefused()
+    {
+        QByteArray content = languageFile();
+        QVERIFY(TranslationFile::isSound(content));
+        // A translation of 20 bytes says that it has 64 KiB more.
+        const QByteArray length("\x03\0\0\0\x14", 5);
+        QVERIFY(content.contains(length));
+        content.replace(length, QByteArray("\x03\0\x01\0\x14", 5));
+        QVERIFY(!TranslationFile::isSound(content));
+    }
+
+    void aFileThatChangesWhileItIsInUseDoesNotHurt()
+    {
+        RootFiles::write("/mnt/userfs/language/lang_ru.qm", languageFile());
+        languageTranslator.initLangTranslation(UserConfig::RU);
+        RootFiles::write("/mnt/userfs/language/lang_ru.qm", "");
+        QCOMPARE(tr("Power off?"), QString::fromUtf8("Выключить?"));
     }
 
     void aFolderInPlaceOfTheFileDoesNotHurt()

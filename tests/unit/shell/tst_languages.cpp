@@ -1,0 +1,226 @@
+#include "platform/target.h"
+#include "settings/userconfig.h"
+#include "shell/menupage.h"
+#include "shell/pagetable.h"
+#include "shell/tasklinks.h"
+#include "unit/views/pagetest.h"
+#include "widgets/dialogs/filecopingprogressbar.h"
+#include "widgets/dialogs/filemanager.h"
+#include "widgets/dialogs/message.h"
+#include "widgets/dialogs/runinfo.h"
+#include "widgets/dialogs/savedialog.h"
+#include "widgets/dialogs/virtualkeyboard.h"
+#include "paintedtexts.h"
+#include "shellcase.h"
+#include "testpaths.h"
+
+#include <QTranslator>
+#include <QXmlStreamReader>
+
+#include <memory>
+#include <set>
+
+namespace {
+
+using Asked = std::set<std::pair<QString, QString>>; // class and source text
+
+/// Translates nothing and takes down what it is asked for; the language itself is asked next.
+class AskedTexts : public QTranslator
+{
+public:
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        asked.emplace(QString::fromUtf8(context), QString::fromUtf8(source));
+        return {};
+    }
+    bool isEmpty() const override { return false; }
+    mutable Asked asked;
+};
+
+/// The texts that a language file of the repository knows.
+Asked knownTexts(const QString &word)
+{
+    QFile file(QStringLiteral(QUVERA_SOURCE_DIR "/translations/lang_%1.ts").arg(word));
+    Asked known;
+    if (!file.open(QIODevice::ReadOnly))
+        return known;
+    QString context;
+    QXmlStreamReader xml(&file);
+    while (!xml.atEnd()) {
+        xml.readNext();
+        if (xml.isStartElement() && xml.name() == QLatin1String("name"))
+            context = xml.readElementText();
+        else if (xml.isStartElement() && xml.name() == QLatin1String("source"))
+            known.emplace(context, xml.readElementText());
+    }
+    return known;
+}
+
+QByteArray plain(const QRectF &rect)
+{
+    return QByteArray::number(rect.left()) + ' ' + QByteArray::number(rect.top()) + ' '
+        + QByteArray::number(rect.right()) + ' ' + QByteArray::number(rect.bottom());
+}
+
+/// What does not fit of the texts that \a widget shows, a line each.
+QStringList misfits(QWidget &widget, const QString &where)
+{
+    constexpr double kEdge = 1.5; // pixels of a sign that may be lost, or touch another
+    QStringList found;
+    const QVector<PaintedText> texts = paintedTexts(widget);
+    for (int i = 0; i < texts.size(); ++i) {
+        const PaintedText &text = texts.at(i);
+        if (!text.room.adjusted(-kEdge, -kEdge, kEdge, kEdge).contains(text.ink))
+            found << QStringLiteral("%1: \"%2\" is cut (%3 in %4)")
+                         .arg(where, text.text, plain(text.ink), plain(text.room));
+        for (int k = 0; k < i; ++k) {
+            const QRectF common = text.ink & texts.at(k).ink;
+            if (common.width() > kEdge && common.height() > kEdge)
+                found << QStringLiteral("%1: \"%2\" lies on \"%3\"").arg(where, text.text, texts.at(k).text);
+        }
+    }
+    return found;
+}
+
+} // namespace
+
+/// Every page in every language: all texts are known to the language files, and none is cut or lies on another.
+class TstLanguages : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void everyTextFits_data();
+    void everyTextFits();
+    void everyTextThatIsAskedForIsInTheFiles();
+
+private:
+    void look(QWidget *widget, const QString &where);
+    void lookAtDialogs();
+    void lookAtPage(FunctionPage *page, const QString &name);
+    void closeDialog();
+
+    AskedTexts m_texts;
+    QTimer m_closer;
+    TaskLinks m_links;
+    QStringList m_misfits;
+    QSet<QString> m_seen; // what is already among them, wherever
+    QString m_where; // the page on which keys are pressed
+    std::vector<std::pair<QString, std::unique_ptr<FunctionPage>>> m_pages;
+};
+
+void TstLanguages::initTestCase()
+{
+    for (const auto &language : UserConfig::languages()) {
+        const QString name = QStringLiteral("lang_%1.qm").arg(QLatin1String(language.fileWord));
+        const QString built = QStringLiteral(QUVERA_BIN_DIR "/language/") + name;
+        if (*language.fileWord)
+            QVERIFY2(QFile::copy(built, Target::path("/mnt/userfs/language/" + name)), qPrintable(built));
+    }
+    buildWholeGraph();
+    connect(&m_closer, &QTimer::timeout, this, &TstLanguages::closeDialog);
+    m_closer.start(0);
+    for (const PageRow &row : PageTable::rows()) {
+        if (row.make)
+            m_pages.emplace_back(QString::fromLatin1(row.title), row.make(m_links, PageTest::liveData()));
+    }
+}
+
+void TstLanguages::look(QWidget *widget, const QString &where)
+{
+    for (const QString &misfit : misfits(*widget, where)) {
+        const QString text = misfit.section(QLatin1String(": "), 1);
+        if (!m_seen.contains(text))
+            m_misfits << misfit;
+        m_seen.insert(text);
+    }
+}
+
+void TstLanguages::closeDialog()
+{
+    QWidget *dialog = QApplication::activeModalWidget();
+    if (!dialog)
+        return;
+    look(dialog, m_where + QLatin1Char('/') + QString::fromLatin1(dialog->metaObject()->className()));
+    dialog->close();
+}
+
+void TstLanguages::lookAtPage(FunctionPage *page, const QString &name)
+{
+    page->retranslateUi();
+    page->resize(640, 448);
+    auto *container = qobject_cast<ViewContainer *>(page);
+    page->enter();
+    page->init_parameter();
+    for (int i = 0; i < (container ? container->pageCount() : 1); ++i) {
+        for (const PageTest::FrontKey key :
+             { PageTest::Up, PageTest::F1, PageTest::F2, PageTest::F3, PageTest::F4, PageTest::F5, PageTest::Enter,
+               PageTest::Left, PageTest::Right, PageTest::Down }) {
+            if (container)
+                container->showPage(i);
+            m_where = QStringLiteral("%1 %2 %3").arg(name).arg(i).arg(QChar(key));
+            QWidget *shown = container ? container->currentPage() : page;
+            PageTest::press(shown, key);
+            page->updateDisplay(nullptr);
+            look(page, m_where);
+        }
+    }
+}
+
+void TstLanguages::lookAtDialogs()
+{
+    m_where = QStringLiteral("dialogs");
+    for (int type = 0; type < 8; ++type)
+        Message::showMessage(type, QStringLiteral("?"));
+    RunInfo::showSystemStatus(PageTest::liveData());
+    QString name = QStringLiteral("Screen");
+    SaveDialog::save(3, name);
+    VirtualKeyBoard::getKeyBoardInput(QString(), QString());
+    FileManager::getExistFileName();
+    FileCopingProgressBar(QString(), QString()).exec();
+}
+
+void TstLanguages::everyTextFits_data()
+{
+    QTest::addColumn<int>("language");
+    const auto &languages = UserConfig::languages();
+    for (int i = 0; i < languages.size(); ++i)
+        QTest::newRow(languages.at(i).key) << i + 1;
+}
+
+void TstLanguages::everyTextFits()
+{
+    QFETCH(int, language);
+    m_misfits.clear();
+    m_seen.clear();
+    languageTranslator.reloadLangTranslation(language);
+    QCoreApplication::removeTranslator(&m_texts);
+    QCoreApplication::installTranslator(&m_texts);
+    m_basedialog->navigator().go(UI_VIF, UI_MENU);
+    look(m_basedialog, QStringLiteral("window"));
+    lookAtDialogs();
+    for (const auto &page : m_pages)
+        lookAtPage(page.second.get(), page.first);
+    for (const QString &misfit : m_misfits)
+        qWarning("%s", qPrintable(misfit));
+    QVERIFY(m_misfits.isEmpty());
+}
+
+void TstLanguages::everyTextThatIsAskedForIsInTheFiles()
+{
+    const Asked known = knownTexts(QStringLiteral("ge"));
+    QVERIFY(known.size() > 200);
+    QVERIFY(m_texts.asked.size() > 200);
+    QStringList unknown;
+    for (const auto &text : m_texts.asked) {
+        const bool isToolkits = text.first.startsWith(QLatin1Char('Q'));
+        const bool isSign = text.second.size() <= 2; // names of channels and the like, the same in every language
+        if (!isToolkits && !isSign && known.count(text) == 0)
+            unknown << text.first + QStringLiteral(": ") + text.second;
+    }
+    QVERIFY2(unknown.isEmpty(), qPrintable(unknown.join(QLatin1Char('\n'))));
+}
+
+PAGE_TEST_MAIN(TstLanguages)
+#include "tst_languages.moc"

@@ -1,0 +1,1212 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR">
+<context>
+    <name>BaseDialog</name>
+    <message>
+        <source>Power off?</source>
+        <translation>Éteindre l&apos;appareil ?</translation>
+    </message>
+    <message>
+        <source>Logger is running!
+</source>
+        <translation>Enregistrement en cours !
+</translation>
+    </message>
+    <message>
+        <source>Save: save the data.
+</source>
+        <translation>Sauver : enregistrer les données.
+</translation>
+    </message>
+    <message>
+        <source>Exit: delete the data and exit.
+</source>
+        <translation>Quitter : effacer les données et quitter.
+</translation>
+    </message>
+    <message>
+        <source>Restart: delete the data and restart logger.</source>
+        <translation>Relancer : effacer les données et relancer l&apos;enregistreur.</translation>
+    </message>
+    <message>
+        <source>The task &quot;</source>
+        <translation>La tâche &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; is running.
+do you want to quit?</source>
+        <translation>&quot; est en cours.
+Voulez-vous l&apos;arrêter ?</translation>
+    </message>
+    <message>
+        <source>%1 is not available
+in this software version.</source>
+        <translation>%1 n&apos;est pas disponible
+dans cette version du logiciel.</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Volts/Amps/Hertz</source>
+        <translation>Volts/Ampères/Hertz</translation>
+    </message>
+    <message>
+        <source>Dips&amp;Swells</source>
+        <translation>Creux &amp; surtensions</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmoniques</translation>
+    </message>
+    <message>
+        <source>Power&amp;Energy</source>
+        <translation>Puissance &amp; énergie</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Déséquilibre</translation>
+    </message>
+    <message>
+        <source>Transients</source>
+        <translation>Transitoires</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utilisateur</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>Courant d&apos;appel</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>Enregistreur</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>Surveillance</translation>
+    </message>
+    <message>
+        <source>Scope</source>
+        <translation>Oscilloscope</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>Configuration</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Mémoire</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Forme d&apos;onde</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Signaux réseau</translation>
+    </message>
+    <message>
+        <source>Power Inverter</source>
+        <translation>Onduleur</translation>
+    </message>
+</context>
+<context>
+    <name>ComplianceBars</name>
+    <message>
+        <source>Limit</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>Allowed%</source>
+        <translation>Admis%</translation>
+    </message>
+</context>
+<context>
+    <name>EventsPage</name>
+    <message>
+        <source>EVENTS :</source>
+        <translation>ÉVÉNEM. :</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>EventsWidget</name>
+    <message>
+        <source>TIME</source>
+        <translation>DATE</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>TYPE</translation>
+    </message>
+    <message>
+        <source>LEVEL</source>
+        <translation>NIVEAU</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>DURÉE</translation>
+    </message>
+</context>
+<context>
+    <name>FileCopingProgressBar</name>
+    <message>
+        <source>Copying files</source>
+        <translation>Copie des fichiers</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>Annulé</translation>
+    </message>
+</context>
+<context>
+    <name>FileManager</name>
+    <message>
+        <source>Open file</source>
+        <translation>Ouvrir un fichier</translation>
+    </message>
+    <message>
+        <source>Open Dir</source>
+        <translation>Ouvrir dossier</translation>
+    </message>
+    <message>
+        <source>Fold Dir</source>
+        <translation>Dossier parent</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Sélection</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>FlickerMain</name>
+    <message>
+        <source>Trend</source>
+        <translation>Tendance</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Figer</translation>
+    </message>
+    <message>
+        <source>Pst</source>
+        <translation>Pst</translation>
+    </message>
+    <message>
+        <source>Plt</source>
+        <translation>Plt</translation>
+    </message>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+</context>
+<context>
+    <name>FlickerPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+</context>
+<context>
+    <name>HarmMain</name>
+    <message>
+        <source>Meter</source>
+        <translation>Mesures</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Figer</translation>
+    </message>
+</context>
+<context>
+    <name>HarmMeterPage</name>
+    <message>
+        <source>Harmonic</source>
+        <translation>Harmoniques</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Figer</translation>
+    </message>
+    <message>
+        <source>Uthd</source>
+        <translation>Uthd</translation>
+    </message>
+    <message>
+        <source>Ithd</source>
+        <translation>Ithd</translation>
+    </message>
+    <message>
+        <source>Udc</source>
+        <translation>Udc</translation>
+    </message>
+    <message>
+        <source>Idc</source>
+        <translation>Idc</translation>
+    </message>
+    <message>
+        <source>Uharm %1</source>
+        <translation>Uharm %1</translation>
+    </message>
+    <message>
+        <source>Iharm %1</source>
+        <translation>Iharm %1</translation>
+    </message>
+    <message>
+        <source>Uinharm %1</source>
+        <translation>Uinharm %1</translation>
+    </message>
+    <message>
+        <source>Iinharm %1</source>
+        <translation>Iinharm %1</translation>
+    </message>
+</context>
+<context>
+    <name>InrushMain</name>
+    <message>
+        <source>Inrush</source>
+        <translation>Courant d&apos;appel</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>Courant nominal</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Seuil</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Hystérésis</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>DURÉE</translation>
+    </message>
+    <message>
+        <source>Switch</source>
+        <translation>Changer</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Non</translation>
+    </message>
+</context>
+<context>
+    <name>LivePage</name>
+    <message>
+        <source>Hold</source>
+        <translation>Figer</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Marche</translation>
+    </message>
+</context>
+<context>
+    <name>MainsSignalingMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Fréq =</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Événements</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Tendance</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Figer</translation>
+    </message>
+    <message>
+        <source>Sig 1(%)</source>
+        <translation>Sig 1(%)</translation>
+    </message>
+    <message>
+        <source>Sig 1(%1)</source>
+        <translation>Sig 1(%1)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%)</source>
+        <translation>Sig 2(%)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%1)</source>
+        <translation>Sig 2(%1)</translation>
+    </message>
+    <message>
+        <source>Urms½(%1)</source>
+        <translation>Urms½(%1)</translation>
+    </message>
+    <message>
+        <source>Irms½(%1)</source>
+        <translation>Irms½(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>MainsSignalingTrend</name>
+    <message>
+        <source>Sig 1(%)</source>
+        <translation>Sig 1(%)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%)</source>
+        <translation>Sig 2(%)</translation>
+    </message>
+    <message>
+        <source>Urms½(%1)</source>
+        <translation>Urms½(%1)</translation>
+    </message>
+    <message>
+        <source>Irms½(%1)</source>
+        <translation>Irms½(%1)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>MenuPage</name>
+    <message>
+        <source>Press F1-F5 to show more infomation</source>
+        <translation>Appuyez sur F1-F5 pour plus d&apos;informations</translation>
+    </message>
+    <message>
+        <source>Volts/Amps/Hertz
+</source>
+        <translation>Volts/Ampères/Hertz
+</translation>
+    </message>
+    <message>
+        <source>Dips&amp;Swells
+</source>
+        <translation>Creux &amp; surtensions
+</translation>
+    </message>
+    <message>
+        <source>Harmonics
+</source>
+        <translation>Harmoniques
+</translation>
+    </message>
+    <message>
+        <source>Power&amp;Energy
+</source>
+        <translation>Puissance &amp; énergie
+</translation>
+    </message>
+    <message>
+        <source>Flicker
+</source>
+        <translation>Flicker
+</translation>
+    </message>
+    <message>
+        <source>Unbalance
+</source>
+        <translation>Déséquilibre
+</translation>
+    </message>
+    <message>
+        <source>Transients
+</source>
+        <translation>Transitoires
+</translation>
+    </message>
+    <message>
+        <source>User
+</source>
+        <translation>Utilisateur
+</translation>
+    </message>
+    <message>
+        <source>Inrush
+</source>
+        <translation>Courant d&apos;appel
+</translation>
+    </message>
+    <message>
+        <source>Wave
+</source>
+        <translation>Forme d&apos;onde
+</translation>
+    </message>
+    <message>
+        <source>Mains
+Signaling</source>
+        <translation>Signaux
+réseau</translation>
+    </message>
+    <message>
+        <source>Logger
+</source>
+        <translation>Enregistreur
+</translation>
+    </message>
+</context>
+<context>
+    <name>Message</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>Save &amp; Restart</source>
+        <translation>Sauver/relancer</translation>
+    </message>
+    <message>
+        <source>Discard &amp; Restart</source>
+        <translation>Effacer/relancer</translation>
+    </message>
+    <message>
+        <source>Save &amp; Exit</source>
+        <translation>Sauver/quitter</translation>
+    </message>
+    <message>
+        <source>Discard &amp; Exit</source>
+        <translation>Effacer/quitter</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Relancer</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Sauver</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Fréq =</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Tendance</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Figer</translation>
+    </message>
+    <message>
+        <source>U in</source>
+        <translation>U entrée</translation>
+    </message>
+    <message>
+        <source>I in</source>
+        <translation>I entrée</translation>
+    </message>
+    <message>
+        <source>P in</source>
+        <translation>P entrée</translation>
+    </message>
+    <message>
+        <source>U out</source>
+        <translation>U sortie</translation>
+    </message>
+    <message>
+        <source>I out</source>
+        <translation>I sortie</translation>
+    </message>
+    <message>
+        <source>P out</source>
+        <translation>P sortie</translation>
+    </message>
+    <message>
+        <source>Efficiency</source>
+        <translation>Rendement</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterSetup</name>
+    <message>
+        <source>Power Inverter</source>
+        <translation>Onduleur</translation>
+    </message>
+    <message>
+        <source>1-Phase</source>
+        <translation>Monophasé</translation>
+    </message>
+    <message>
+        <source>3-Phase</source>
+        <translation>Triphasé</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterTrend</name>
+    <message>
+        <source>U in</source>
+        <translation>U entrée</translation>
+    </message>
+    <message>
+        <source>U out</source>
+        <translation>U sortie</translation>
+    </message>
+    <message>
+        <source>I in</source>
+        <translation>I entrée</translation>
+    </message>
+    <message>
+        <source>I out</source>
+        <translation>I sortie</translation>
+    </message>
+    <message>
+        <source>Efficiency %</source>
+        <translation>Rendement %</translation>
+    </message>
+    <message>
+        <source>P out</source>
+        <translation>P sortie</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>PowerMain</name>
+    <message>
+        <source>Trend</source>
+        <translation>Tendance</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Figer</translation>
+    </message>
+    <message>
+        <source>P(%1)</source>
+        <translation>P(%1)</translation>
+    </message>
+    <message>
+        <source>S(%1)</source>
+        <translation>S(%1)</translation>
+    </message>
+    <message>
+        <source>Q1(%1)</source>
+        <translation>Q1(%1)</translation>
+    </message>
+    <message>
+        <source>PF</source>
+        <translation>PF</translation>
+    </message>
+    <message>
+        <source>cosΦ</source>
+        <translation>cosΦ</translation>
+    </message>
+    <message>
+        <source>tanΦ</source>
+        <translation>tanΦ</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>R. à zéro</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>E(%1)</source>
+        <translation>E(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>PowerTrendPage</name>
+    <message>
+        <source>P(%1)</source>
+        <translation>P(%1)</translation>
+    </message>
+    <message>
+        <source>S(%1)</source>
+        <translation>S(%1)</translation>
+    </message>
+    <message>
+        <source>Q1(%1)</source>
+        <translation>Q1(%1)</translation>
+    </message>
+    <message>
+        <source>PF</source>
+        <translation>PF</translation>
+    </message>
+    <message>
+        <source>cosΦ</source>
+        <translation>cosΦ</translation>
+    </message>
+    <message>
+        <source>tanΦ</source>
+        <translation>tanΦ</translation>
+    </message>
+    <message>
+        <source>U rms(%1)</source>
+        <translation>U rms(%1)</translation>
+    </message>
+    <message>
+        <source>I rms(%1)</source>
+        <translation>I rms(%1)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>RmsTrendPage</name>
+    <message>
+        <source>Events</source>
+        <translation>Événements</translation>
+    </message>
+    <message>
+        <source>EVENTS :</source>
+        <translation>ÉVÉNEM. :</translation>
+    </message>
+    <message>
+        <source>I(%1)</source>
+        <translation>I(%1)</translation>
+    </message>
+    <message>
+        <source>U(%1)</source>
+        <translation>U(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>RunInfo</name>
+    <message>
+        <source>Restart</source>
+        <translation>Relancer</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>System Status:
+
+Logger: %1
+Total Events: %2
+Dips: %3;   Swell: %4;   Interruption: %5;   Transients: %6;   Inrush: %7</source>
+        <translation>État du système :
+
+Enregistreur : %1
+Total des événements : %2
+Creux : %3 ;   Surtensions : %4 ;   Coupures : %5 ;   Transitoires : %6 ;   Appels de courant : %7</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>en marche</translation>
+    </message>
+    <message>
+        <source>Stoped</source>
+        <translation>arrêté</translation>
+    </message>
+</context>
+<context>
+    <name>SaveDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>Sauver</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Nom du fichier :</translation>
+    </message>
+    <message>
+        <source>Screen </source>
+        <translation>Écran </translation>
+    </message>
+    <message>
+        <source>Data </source>
+        <translation>Données </translation>
+    </message>
+    <message>
+        <source>Enter: edit the name</source>
+        <translation>Enter : modifier le nom</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>The file &quot;</source>
+        <translation>Le fichier &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; is exist.
+Do you want to overwrite it?</source>
+        <translation>&quot; existe déjà.
+Voulez-vous l&apos;écraser ?</translation>
+    </message>
+</context>
+<context>
+    <name>ScopePage</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Fréq =</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Figer</translation>
+    </message>
+</context>
+<context>
+    <name>SoftKeyButton</name>
+    <message>
+        <source>Cursor</source>
+        <translation>Curseur</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>ALL</source>
+        <translation>TOUT</translation>
+    </message>
+    <message>
+        <source>I-HARM.</source>
+        <translation>INTERHARM.</translation>
+    </message>
+    <message>
+        <source>Energy</source>
+        <translation>Énergie</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Phase</translation>
+    </message>
+    <message>
+        <source>Wire</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tous</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Sélection</translation>
+    </message>
+</context>
+<context>
+    <name>StartTime</name>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Immediate</source>
+        <translation>Immédiat</translation>
+    </message>
+    <message>
+        <source>Timed</source>
+        <translation>Programmé</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Année</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Mois</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Jour</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Heures</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minutes</translation>
+    </message>
+</context>
+<context>
+    <name>TranStart</name>
+    <message>
+        <source>TRIGGER ON:</source>
+        <translation>DÉCLENCH.:</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Événements</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Figer</translation>
+    </message>
+</context>
+<context>
+    <name>TransMain</name>
+    <message>
+        <source>Transients</source>
+        <translation>Transitoires</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Seuil</translation>
+    </message>
+</context>
+<context>
+    <name>TransView</name>
+    <message>
+        <source>TRIGGER ON:</source>
+        <translation>DÉCLENCH.:</translation>
+    </message>
+    <message>
+        <source>Prev</source>
+        <translation>Précédent</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>UnbalVectorPage</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Fréq =</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Figer</translation>
+    </message>
+    <message>
+        <source>U1fund(%1):</source>
+        <translation>U1fund(%1):</translation>
+    </message>
+    <message>
+        <source>U2fund(%1):</source>
+        <translation>U2fund(%1):</translation>
+    </message>
+    <message>
+        <source>U3fund(%1):</source>
+        <translation>U3fund(%1):</translation>
+    </message>
+    <message>
+        <source>I1fund(%1):</source>
+        <translation>I1fund(%1):</translation>
+    </message>
+    <message>
+        <source>I2fund(%1):</source>
+        <translation>I2fund(%1):</translation>
+    </message>
+    <message>
+        <source>I3fund(%1):</source>
+        <translation>I3fund(%1):</translation>
+    </message>
+    <message>
+        <source>Ф1(°):</source>
+        <translation>Ф1(°):</translation>
+    </message>
+    <message>
+        <source>Ф2(°):</source>
+        <translation>Ф2(°):</translation>
+    </message>
+    <message>
+        <source>Ф3(°):</source>
+        <translation>Ф3(°):</translation>
+    </message>
+    <message>
+        <source>Neg.</source>
+        <translation>Inv.</translation>
+    </message>
+    <message>
+        <source>Zero</source>
+        <translation>Homop.</translation>
+    </message>
+</context>
+<context>
+    <name>UnbalanMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Fréq =</translation>
+    </message>
+    <message>
+        <source>Vector</source>
+        <translation>Vecteurs</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Figer</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Ufund(%1)</source>
+        <translation>Ufund(%1)</translation>
+    </message>
+    <message>
+        <source>Ifund(%1)</source>
+        <translation>Ifund(%1)</translation>
+    </message>
+    <message>
+        <source>ФI-U(°):</source>
+        <translation>ФI-U(°):</translation>
+    </message>
+    <message>
+        <source>Uneg</source>
+        <translation>Uneg</translation>
+    </message>
+    <message>
+        <source>Uzero</source>
+        <translation>Uzero</translation>
+    </message>
+    <message>
+        <source>Ineg</source>
+        <translation>Ineg</translation>
+    </message>
+    <message>
+        <source>Izero</source>
+        <translation>Izero</translation>
+    </message>
+</context>
+<context>
+    <name>VifMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Fréq =</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Tendance</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Figer</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Upk(%1)</source>
+        <translation>Upk(%1)</translation>
+    </message>
+    <message>
+        <source>CF</source>
+        <translation>CF</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Ipk(%1)</source>
+        <translation>Ipk(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>VifTrendPage</name>
+    <message>
+        <source>U rms(%1)</source>
+        <translation>U rms(%1)</translation>
+    </message>
+    <message>
+        <source>U pk(%1)</source>
+        <translation>U pk(%1)</translation>
+    </message>
+    <message>
+        <source>U dc(V)</source>
+        <translation>U dc(V)</translation>
+    </message>
+    <message>
+        <source>U cf</source>
+        <translation>U cf</translation>
+    </message>
+    <message>
+        <source>I rms(%1)</source>
+        <translation>I rms(%1)</translation>
+    </message>
+    <message>
+        <source>I pk(%1)</source>
+        <translation>I pk(%1)</translation>
+    </message>
+    <message>
+        <source>I dc(A)</source>
+        <translation>I dc(A)</translation>
+    </message>
+    <message>
+        <source>I cf</source>
+        <translation>I cf</translation>
+    </message>
+    <message>
+        <source>Freq(Hz)</source>
+        <translation>Fréq(Hz)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>VirtualKeyBoard</name>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espace</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Invalid input!</source>
+        <translation>Saisie incorrecte !</translation>
+    </message>
+</context>
+<context>
+    <name>flicker</name>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+</context>
+</TS>

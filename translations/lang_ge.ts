@@ -1,0 +1,1212 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE">
+<context>
+    <name>BaseDialog</name>
+    <message>
+        <source>Power off?</source>
+        <translation>Gerät ausschalten?</translation>
+    </message>
+    <message>
+        <source>Logger is running!
+</source>
+        <translation>Der Logger läuft!
+</translation>
+    </message>
+    <message>
+        <source>Save: save the data.
+</source>
+        <translation>Speichern: Daten speichern.
+</translation>
+    </message>
+    <message>
+        <source>Exit: delete the data and exit.
+</source>
+        <translation>Ende: Daten löschen und beenden.
+</translation>
+    </message>
+    <message>
+        <source>Restart: delete the data and restart logger.</source>
+        <translation>Neustart: Daten löschen und Logger neu starten.</translation>
+    </message>
+    <message>
+        <source>The task &quot;</source>
+        <translation>Die Aufgabe &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; is running.
+do you want to quit?</source>
+        <translation>&quot; läuft.
+Soll sie beendet werden?</translation>
+    </message>
+    <message>
+        <source>%1 is not available
+in this software version.</source>
+        <translation>%1 ist in dieser
+Softwareversion nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Volts/Amps/Hertz</source>
+        <translation>Volt/Ampere/Hertz</translation>
+    </message>
+    <message>
+        <source>Dips&amp;Swells</source>
+        <translation>Einbr. &amp; Überhöh.</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmonische</translation>
+    </message>
+    <message>
+        <source>Power&amp;Energy</source>
+        <translation>Leistung &amp; Energie</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Unsymmetrie</translation>
+    </message>
+    <message>
+        <source>Transients</source>
+        <translation>Transienten</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>Einschaltstrom</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>Logger</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+    <message>
+        <source>Scope</source>
+        <translation>Oszilloskop</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Speicher</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Wellenform</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Rundsteuersignale</translation>
+    </message>
+    <message>
+        <source>Power Inverter</source>
+        <translation>Wechselrichter</translation>
+    </message>
+</context>
+<context>
+    <name>ComplianceBars</name>
+    <message>
+        <source>Limit</source>
+        <translation>Grenzwert</translation>
+    </message>
+    <message>
+        <source>Allowed%</source>
+        <translation>Zulässig%</translation>
+    </message>
+</context>
+<context>
+    <name>EventsPage</name>
+    <message>
+        <source>EVENTS :</source>
+        <translation>EREIGN. :</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>EventsWidget</name>
+    <message>
+        <source>TIME</source>
+        <translation>ZEIT</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>TYP</translation>
+    </message>
+    <message>
+        <source>LEVEL</source>
+        <translation>PEGEL</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>DAUER</translation>
+    </message>
+</context>
+<context>
+    <name>FileCopingProgressBar</name>
+    <message>
+        <source>Copying files</source>
+        <translation>Dateien werden kopiert</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>Abgebrochen</translation>
+    </message>
+</context>
+<context>
+    <name>FileManager</name>
+    <message>
+        <source>Open file</source>
+        <translation>Datei öffnen</translation>
+    </message>
+    <message>
+        <source>Open Dir</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Fold Dir</source>
+        <translation>Ordner auf</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Auswählen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>FlickerMain</name>
+    <message>
+        <source>Trend</source>
+        <translation>Trend</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Halten</translation>
+    </message>
+    <message>
+        <source>Pst</source>
+        <translation>Pst</translation>
+    </message>
+    <message>
+        <source>Plt</source>
+        <translation>Plt</translation>
+    </message>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+</context>
+<context>
+    <name>FlickerPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+</context>
+<context>
+    <name>HarmMain</name>
+    <message>
+        <source>Meter</source>
+        <translation>Messwerte</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Halten</translation>
+    </message>
+</context>
+<context>
+    <name>HarmMeterPage</name>
+    <message>
+        <source>Harmonic</source>
+        <translation>Harmonische</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Halten</translation>
+    </message>
+    <message>
+        <source>Uthd</source>
+        <translation>Uthd</translation>
+    </message>
+    <message>
+        <source>Ithd</source>
+        <translation>Ithd</translation>
+    </message>
+    <message>
+        <source>Udc</source>
+        <translation>Udc</translation>
+    </message>
+    <message>
+        <source>Idc</source>
+        <translation>Idc</translation>
+    </message>
+    <message>
+        <source>Uharm %1</source>
+        <translation>Uharm %1</translation>
+    </message>
+    <message>
+        <source>Iharm %1</source>
+        <translation>Iharm %1</translation>
+    </message>
+    <message>
+        <source>Uinharm %1</source>
+        <translation>Uinharm %1</translation>
+    </message>
+    <message>
+        <source>Iinharm %1</source>
+        <translation>Iinharm %1</translation>
+    </message>
+</context>
+<context>
+    <name>InrushMain</name>
+    <message>
+        <source>Inrush</source>
+        <translation>Einschaltstrom</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>Nennstrom</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Schwelle</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Hysterese</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>DAUER</translation>
+    </message>
+    <message>
+        <source>Switch</source>
+        <translation>Umschalten</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+</context>
+<context>
+    <name>LivePage</name>
+    <message>
+        <source>Hold</source>
+        <translation>Halten</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Start</translation>
+    </message>
+</context>
+<context>
+    <name>MainsSignalingMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Freq =</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Ereignisse</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Trend</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Halten</translation>
+    </message>
+    <message>
+        <source>Sig 1(%)</source>
+        <translation>Sig 1(%)</translation>
+    </message>
+    <message>
+        <source>Sig 1(%1)</source>
+        <translation>Sig 1(%1)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%)</source>
+        <translation>Sig 2(%)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%1)</source>
+        <translation>Sig 2(%1)</translation>
+    </message>
+    <message>
+        <source>Urms½(%1)</source>
+        <translation>Urms½(%1)</translation>
+    </message>
+    <message>
+        <source>Irms½(%1)</source>
+        <translation>Irms½(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>MainsSignalingTrend</name>
+    <message>
+        <source>Sig 1(%)</source>
+        <translation>Sig 1(%)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%)</source>
+        <translation>Sig 2(%)</translation>
+    </message>
+    <message>
+        <source>Urms½(%1)</source>
+        <translation>Urms½(%1)</translation>
+    </message>
+    <message>
+        <source>Irms½(%1)</source>
+        <translation>Irms½(%1)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>MenuPage</name>
+    <message>
+        <source>Press F1-F5 to show more infomation</source>
+        <translation>F1-F5 drücken, um mehr zu erfahren</translation>
+    </message>
+    <message>
+        <source>Volts/Amps/Hertz
+</source>
+        <translation>Volt/Ampere/Hertz
+</translation>
+    </message>
+    <message>
+        <source>Dips&amp;Swells
+</source>
+        <translation>Einbr. &amp; Überhöh.
+</translation>
+    </message>
+    <message>
+        <source>Harmonics
+</source>
+        <translation>Harmonische
+</translation>
+    </message>
+    <message>
+        <source>Power&amp;Energy
+</source>
+        <translation>Leistung &amp; Energie
+</translation>
+    </message>
+    <message>
+        <source>Flicker
+</source>
+        <translation>Flicker
+</translation>
+    </message>
+    <message>
+        <source>Unbalance
+</source>
+        <translation>Unsymmetrie
+</translation>
+    </message>
+    <message>
+        <source>Transients
+</source>
+        <translation>Transienten
+</translation>
+    </message>
+    <message>
+        <source>User
+</source>
+        <translation>Benutzer
+</translation>
+    </message>
+    <message>
+        <source>Inrush
+</source>
+        <translation>Einschaltstrom
+</translation>
+    </message>
+    <message>
+        <source>Wave
+</source>
+        <translation>Wellenform
+</translation>
+    </message>
+    <message>
+        <source>Mains
+Signaling</source>
+        <translation>Rundsteuer-
+signale</translation>
+    </message>
+    <message>
+        <source>Logger
+</source>
+        <translation>Logger
+</translation>
+    </message>
+</context>
+<context>
+    <name>Message</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Save &amp; Restart</source>
+        <translation>Speich. &amp; Neust.</translation>
+    </message>
+    <message>
+        <source>Discard &amp; Restart</source>
+        <translation>Verw. &amp; Neustart</translation>
+    </message>
+    <message>
+        <source>Save &amp; Exit</source>
+        <translation>Speich. &amp; Ende</translation>
+    </message>
+    <message>
+        <source>Discard &amp; Exit</source>
+        <translation>Verw. &amp; Ende</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Neustart</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Freq =</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Trend</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Halten</translation>
+    </message>
+    <message>
+        <source>U in</source>
+        <translation>U ein</translation>
+    </message>
+    <message>
+        <source>I in</source>
+        <translation>I ein</translation>
+    </message>
+    <message>
+        <source>P in</source>
+        <translation>P ein</translation>
+    </message>
+    <message>
+        <source>U out</source>
+        <translation>U aus</translation>
+    </message>
+    <message>
+        <source>I out</source>
+        <translation>I aus</translation>
+    </message>
+    <message>
+        <source>P out</source>
+        <translation>P aus</translation>
+    </message>
+    <message>
+        <source>Efficiency</source>
+        <translation>Wirkungsgrad</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterSetup</name>
+    <message>
+        <source>Power Inverter</source>
+        <translation>Wechselrichter</translation>
+    </message>
+    <message>
+        <source>1-Phase</source>
+        <translation>1-phasig</translation>
+    </message>
+    <message>
+        <source>3-Phase</source>
+        <translation>3-phasig</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterTrend</name>
+    <message>
+        <source>U in</source>
+        <translation>U ein</translation>
+    </message>
+    <message>
+        <source>U out</source>
+        <translation>U aus</translation>
+    </message>
+    <message>
+        <source>I in</source>
+        <translation>I ein</translation>
+    </message>
+    <message>
+        <source>I out</source>
+        <translation>I aus</translation>
+    </message>
+    <message>
+        <source>Efficiency %</source>
+        <translation>Wirkungsgrad %</translation>
+    </message>
+    <message>
+        <source>P out</source>
+        <translation>P aus</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>PowerMain</name>
+    <message>
+        <source>Trend</source>
+        <translation>Trend</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Halten</translation>
+    </message>
+    <message>
+        <source>P(%1)</source>
+        <translation>P(%1)</translation>
+    </message>
+    <message>
+        <source>S(%1)</source>
+        <translation>S(%1)</translation>
+    </message>
+    <message>
+        <source>Q1(%1)</source>
+        <translation>Q1(%1)</translation>
+    </message>
+    <message>
+        <source>PF</source>
+        <translation>PF</translation>
+    </message>
+    <message>
+        <source>cosΦ</source>
+        <translation>cosΦ</translation>
+    </message>
+    <message>
+        <source>tanΦ</source>
+        <translation>tanΦ</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Rücksetzen</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Gesamt</translation>
+    </message>
+    <message>
+        <source>E(%1)</source>
+        <translation>E(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>PowerTrendPage</name>
+    <message>
+        <source>P(%1)</source>
+        <translation>P(%1)</translation>
+    </message>
+    <message>
+        <source>S(%1)</source>
+        <translation>S(%1)</translation>
+    </message>
+    <message>
+        <source>Q1(%1)</source>
+        <translation>Q1(%1)</translation>
+    </message>
+    <message>
+        <source>PF</source>
+        <translation>PF</translation>
+    </message>
+    <message>
+        <source>cosΦ</source>
+        <translation>cosΦ</translation>
+    </message>
+    <message>
+        <source>tanΦ</source>
+        <translation>tanΦ</translation>
+    </message>
+    <message>
+        <source>U rms(%1)</source>
+        <translation>U rms(%1)</translation>
+    </message>
+    <message>
+        <source>I rms(%1)</source>
+        <translation>I rms(%1)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>RmsTrendPage</name>
+    <message>
+        <source>Events</source>
+        <translation>Ereignisse</translation>
+    </message>
+    <message>
+        <source>EVENTS :</source>
+        <translation>EREIGN. :</translation>
+    </message>
+    <message>
+        <source>I(%1)</source>
+        <translation>I(%1)</translation>
+    </message>
+    <message>
+        <source>U(%1)</source>
+        <translation>U(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>RunInfo</name>
+    <message>
+        <source>Restart</source>
+        <translation>Neustart</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>System Status:
+
+Logger: %1
+Total Events: %2
+Dips: %3;   Swell: %4;   Interruption: %5;   Transients: %6;   Inrush: %7</source>
+        <translation>Systemstatus:
+
+Logger: %1
+Ereignisse gesamt: %2
+Einbrüche: %3;   Überhöhungen: %4;   Unterbrechungen: %5;   Transienten: %6;   Einschaltströme: %7</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>läuft</translation>
+    </message>
+    <message>
+        <source>Stoped</source>
+        <translation>gestoppt</translation>
+    </message>
+</context>
+<context>
+    <name>SaveDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Dateiname:</translation>
+    </message>
+    <message>
+        <source>Screen </source>
+        <translation>Bildschirm </translation>
+    </message>
+    <message>
+        <source>Data </source>
+        <translation>Daten </translation>
+    </message>
+    <message>
+        <source>Enter: edit the name</source>
+        <translation>Enter: Name bearbeiten</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>The file &quot;</source>
+        <translation>Die Datei &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; is exist.
+Do you want to overwrite it?</source>
+        <translation>&quot; ist vorhanden.
+Soll sie überschrieben werden?</translation>
+    </message>
+</context>
+<context>
+    <name>ScopePage</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Freq =</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Halten</translation>
+    </message>
+</context>
+<context>
+    <name>SoftKeyButton</name>
+    <message>
+        <source>Cursor</source>
+        <translation>Cursor</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>ALL</source>
+        <translation>ALLE</translation>
+    </message>
+    <message>
+        <source>I-HARM.</source>
+        <translation>ZWISCHENH.</translation>
+    </message>
+    <message>
+        <source>Energy</source>
+        <translation>Energie</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Phase</translation>
+    </message>
+    <message>
+        <source>Wire</source>
+        <translation>Leiter</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Auswahl</translation>
+    </message>
+</context>
+<context>
+    <name>StartTime</name>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Immediate</source>
+        <translation>Sofort</translation>
+    </message>
+    <message>
+        <source>Timed</source>
+        <translation>Zeitgesteuert</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Jahr</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Monat</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Stunde</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minute</translation>
+    </message>
+</context>
+<context>
+    <name>TranStart</name>
+    <message>
+        <source>TRIGGER ON:</source>
+        <translation>AUSLÖSER:</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Ereignisse</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Halten</translation>
+    </message>
+</context>
+<context>
+    <name>TransMain</name>
+    <message>
+        <source>Transients</source>
+        <translation>Transienten</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Schwelle</translation>
+    </message>
+</context>
+<context>
+    <name>TransView</name>
+    <message>
+        <source>TRIGGER ON:</source>
+        <translation>AUSLÖSER:</translation>
+    </message>
+    <message>
+        <source>Prev</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>UnbalVectorPage</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Freq =</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Halten</translation>
+    </message>
+    <message>
+        <source>U1fund(%1):</source>
+        <translation>U1fund(%1):</translation>
+    </message>
+    <message>
+        <source>U2fund(%1):</source>
+        <translation>U2fund(%1):</translation>
+    </message>
+    <message>
+        <source>U3fund(%1):</source>
+        <translation>U3fund(%1):</translation>
+    </message>
+    <message>
+        <source>I1fund(%1):</source>
+        <translation>I1fund(%1):</translation>
+    </message>
+    <message>
+        <source>I2fund(%1):</source>
+        <translation>I2fund(%1):</translation>
+    </message>
+    <message>
+        <source>I3fund(%1):</source>
+        <translation>I3fund(%1):</translation>
+    </message>
+    <message>
+        <source>Ф1(°):</source>
+        <translation>Ф1(°):</translation>
+    </message>
+    <message>
+        <source>Ф2(°):</source>
+        <translation>Ф2(°):</translation>
+    </message>
+    <message>
+        <source>Ф3(°):</source>
+        <translation>Ф3(°):</translation>
+    </message>
+    <message>
+        <source>Neg.</source>
+        <translation>Gegen</translation>
+    </message>
+    <message>
+        <source>Zero</source>
+        <translation>Null</translation>
+    </message>
+</context>
+<context>
+    <name>UnbalanMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Freq =</translation>
+    </message>
+    <message>
+        <source>Vector</source>
+        <translation>Zeiger</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Halten</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Ufund(%1)</source>
+        <translation>Ufund(%1)</translation>
+    </message>
+    <message>
+        <source>Ifund(%1)</source>
+        <translation>Ifund(%1)</translation>
+    </message>
+    <message>
+        <source>ФI-U(°):</source>
+        <translation>ФI-U(°):</translation>
+    </message>
+    <message>
+        <source>Uneg</source>
+        <translation>Uneg</translation>
+    </message>
+    <message>
+        <source>Uzero</source>
+        <translation>Uzero</translation>
+    </message>
+    <message>
+        <source>Ineg</source>
+        <translation>Ineg</translation>
+    </message>
+    <message>
+        <source>Izero</source>
+        <translation>Izero</translation>
+    </message>
+</context>
+<context>
+    <name>VifMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Freq =</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Trend</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Halten</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Upk(%1)</source>
+        <translation>Upk(%1)</translation>
+    </message>
+    <message>
+        <source>CF</source>
+        <translation>CF</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Ipk(%1)</source>
+        <translation>Ipk(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>VifTrendPage</name>
+    <message>
+        <source>U rms(%1)</source>
+        <translation>U rms(%1)</translation>
+    </message>
+    <message>
+        <source>U pk(%1)</source>
+        <translation>U pk(%1)</translation>
+    </message>
+    <message>
+        <source>U dc(V)</source>
+        <translation>U dc(V)</translation>
+    </message>
+    <message>
+        <source>U cf</source>
+        <translation>U cf</translation>
+    </message>
+    <message>
+        <source>I rms(%1)</source>
+        <translation>I rms(%1)</translation>
+    </message>
+    <message>
+        <source>I pk(%1)</source>
+        <translation>I pk(%1)</translation>
+    </message>
+    <message>
+        <source>I dc(A)</source>
+        <translation>I dc(A)</translation>
+    </message>
+    <message>
+        <source>I cf</source>
+        <translation>I cf</translation>
+    </message>
+    <message>
+        <source>Freq(Hz)</source>
+        <translation>Freq(Hz)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>VirtualKeyBoard</name>
+    <message>
+        <source>Clear</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leer</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Invalid input!</source>
+        <translation>Ungültige Eingabe!</translation>
+    </message>
+</context>
+<context>
+    <name>flicker</name>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+</context>
+</TS>

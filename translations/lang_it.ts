@@ -1,0 +1,1212 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it_IT">
+<context>
+    <name>BaseDialog</name>
+    <message>
+        <source>Power off?</source>
+        <translation>Spegnere lo strumento?</translation>
+    </message>
+    <message>
+        <source>Logger is running!
+</source>
+        <translation>Il registratore è in funzione!
+</translation>
+    </message>
+    <message>
+        <source>Save: save the data.
+</source>
+        <translation>Salva: salva i dati.
+</translation>
+    </message>
+    <message>
+        <source>Exit: delete the data and exit.
+</source>
+        <translation>Esci: cancella i dati ed esce.
+</translation>
+    </message>
+    <message>
+        <source>Restart: delete the data and restart logger.</source>
+        <translation>Riavvia: cancella i dati e riavvia il registratore.</translation>
+    </message>
+    <message>
+        <source>The task &quot;</source>
+        <translation>L&apos;attività &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; is running.
+do you want to quit?</source>
+        <translation>&quot; è in esecuzione.
+Si desidera uscire?</translation>
+    </message>
+    <message>
+        <source>%1 is not available
+in this software version.</source>
+        <translation>%1 non è disponibile
+in questa versione del software.</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menu</translation>
+    </message>
+    <message>
+        <source>Volts/Amps/Hertz</source>
+        <translation>Volt/Ampere/Hertz</translation>
+    </message>
+    <message>
+        <source>Dips&amp;Swells</source>
+        <translation>Buchi e sovratens.</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Armoniche</translation>
+    </message>
+    <message>
+        <source>Power&amp;Energy</source>
+        <translation>Potenza ed energia</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Squilibrio</translation>
+    </message>
+    <message>
+        <source>Transients</source>
+        <translation>Transitori</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utente</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>Corrente di spunto</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>Registratore</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+    <message>
+        <source>Scope</source>
+        <translation>Oscilloscopio</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Memoria</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Forma d&apos;onda</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Segnali in rete</translation>
+    </message>
+    <message>
+        <source>Power Inverter</source>
+        <translation>Inverter</translation>
+    </message>
+</context>
+<context>
+    <name>ComplianceBars</name>
+    <message>
+        <source>Limit</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>Allowed%</source>
+        <translation>Ammesso%</translation>
+    </message>
+</context>
+<context>
+    <name>EventsPage</name>
+    <message>
+        <source>EVENTS :</source>
+        <translation>EVENTI :</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+</context>
+<context>
+    <name>EventsWidget</name>
+    <message>
+        <source>TIME</source>
+        <translation>DATA</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>TIPO</translation>
+    </message>
+    <message>
+        <source>LEVEL</source>
+        <translation>LIVELLO</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>DURATA</translation>
+    </message>
+</context>
+<context>
+    <name>FileCopingProgressBar</name>
+    <message>
+        <source>Copying files</source>
+        <translation>Copia dei file</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>Annullato</translation>
+    </message>
+</context>
+<context>
+    <name>FileManager</name>
+    <message>
+        <source>Open file</source>
+        <translation>Apri file</translation>
+    </message>
+    <message>
+        <source>Open Dir</source>
+        <translation>Apri cartella</translation>
+    </message>
+    <message>
+        <source>Fold Dir</source>
+        <translation>Su di un livello</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Seleziona</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>FlickerMain</name>
+    <message>
+        <source>Trend</source>
+        <translation>Andamento</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Blocca</translation>
+    </message>
+    <message>
+        <source>Pst</source>
+        <translation>Pst</translation>
+    </message>
+    <message>
+        <source>Plt</source>
+        <translation>Plt</translation>
+    </message>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+</context>
+<context>
+    <name>FlickerPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+</context>
+<context>
+    <name>HarmMain</name>
+    <message>
+        <source>Meter</source>
+        <translation>Misure</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Blocca</translation>
+    </message>
+</context>
+<context>
+    <name>HarmMeterPage</name>
+    <message>
+        <source>Harmonic</source>
+        <translation>Armoniche</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Blocca</translation>
+    </message>
+    <message>
+        <source>Uthd</source>
+        <translation>Uthd</translation>
+    </message>
+    <message>
+        <source>Ithd</source>
+        <translation>Ithd</translation>
+    </message>
+    <message>
+        <source>Udc</source>
+        <translation>Udc</translation>
+    </message>
+    <message>
+        <source>Idc</source>
+        <translation>Idc</translation>
+    </message>
+    <message>
+        <source>Uharm %1</source>
+        <translation>Uharm %1</translation>
+    </message>
+    <message>
+        <source>Iharm %1</source>
+        <translation>Iharm %1</translation>
+    </message>
+    <message>
+        <source>Uinharm %1</source>
+        <translation>Uinharm %1</translation>
+    </message>
+    <message>
+        <source>Iinharm %1</source>
+        <translation>Iinharm %1</translation>
+    </message>
+</context>
+<context>
+    <name>InrushMain</name>
+    <message>
+        <source>Inrush</source>
+        <translation>Corrente di spunto</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Predefiniti</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>Corrente nominale</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Soglia</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Isteresi</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>DURATA</translation>
+    </message>
+    <message>
+        <source>Switch</source>
+        <translation>Cambia</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+</context>
+<context>
+    <name>LivePage</name>
+    <message>
+        <source>Hold</source>
+        <translation>Blocca</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Avvia</translation>
+    </message>
+</context>
+<context>
+    <name>MainsSignalingMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Freq =</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Eventi</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Andamento</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Blocca</translation>
+    </message>
+    <message>
+        <source>Sig 1(%)</source>
+        <translation>Seg 1(%)</translation>
+    </message>
+    <message>
+        <source>Sig 1(%1)</source>
+        <translation>Seg 1(%1)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%)</source>
+        <translation>Seg 2(%)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%1)</source>
+        <translation>Seg 2(%1)</translation>
+    </message>
+    <message>
+        <source>Urms½(%1)</source>
+        <translation>Urms½(%1)</translation>
+    </message>
+    <message>
+        <source>Irms½(%1)</source>
+        <translation>Irms½(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>MainsSignalingTrend</name>
+    <message>
+        <source>Sig 1(%)</source>
+        <translation>Seg 1(%)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%)</source>
+        <translation>Seg 2(%)</translation>
+    </message>
+    <message>
+        <source>Urms½(%1)</source>
+        <translation>Urms½(%1)</translation>
+    </message>
+    <message>
+        <source>Irms½(%1)</source>
+        <translation>Irms½(%1)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+</context>
+<context>
+    <name>MenuPage</name>
+    <message>
+        <source>Press F1-F5 to show more infomation</source>
+        <translation>Premere F1-F5 per altre informazioni</translation>
+    </message>
+    <message>
+        <source>Volts/Amps/Hertz
+</source>
+        <translation>Volt/Ampere/Hertz
+</translation>
+    </message>
+    <message>
+        <source>Dips&amp;Swells
+</source>
+        <translation>Buchi e sovratens.
+</translation>
+    </message>
+    <message>
+        <source>Harmonics
+</source>
+        <translation>Armoniche
+</translation>
+    </message>
+    <message>
+        <source>Power&amp;Energy
+</source>
+        <translation>Potenza ed energia
+</translation>
+    </message>
+    <message>
+        <source>Flicker
+</source>
+        <translation>Flicker
+</translation>
+    </message>
+    <message>
+        <source>Unbalance
+</source>
+        <translation>Squilibrio
+</translation>
+    </message>
+    <message>
+        <source>Transients
+</source>
+        <translation>Transitori
+</translation>
+    </message>
+    <message>
+        <source>User
+</source>
+        <translation>Utente
+</translation>
+    </message>
+    <message>
+        <source>Inrush
+</source>
+        <translation>Corrente di spunto
+</translation>
+    </message>
+    <message>
+        <source>Wave
+</source>
+        <translation>Forma d&apos;onda
+</translation>
+    </message>
+    <message>
+        <source>Mains
+Signaling</source>
+        <translation>Segnali
+in rete</translation>
+    </message>
+    <message>
+        <source>Logger
+</source>
+        <translation>Registratore
+</translation>
+    </message>
+</context>
+<context>
+    <name>Message</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Esci</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sì</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Save &amp; Restart</source>
+        <translation>Salva/riavvia</translation>
+    </message>
+    <message>
+        <source>Discard &amp; Restart</source>
+        <translation>Scarta/riavvia</translation>
+    </message>
+    <message>
+        <source>Save &amp; Exit</source>
+        <translation>Salva ed esci</translation>
+    </message>
+    <message>
+        <source>Discard &amp; Exit</source>
+        <translation>Scarta ed esci</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Esci</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Riavvia</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Freq =</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Andamento</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Blocca</translation>
+    </message>
+    <message>
+        <source>U in</source>
+        <translation>U ing</translation>
+    </message>
+    <message>
+        <source>I in</source>
+        <translation>I ing</translation>
+    </message>
+    <message>
+        <source>P in</source>
+        <translation>P ing</translation>
+    </message>
+    <message>
+        <source>U out</source>
+        <translation>U usc</translation>
+    </message>
+    <message>
+        <source>I out</source>
+        <translation>I usc</translation>
+    </message>
+    <message>
+        <source>P out</source>
+        <translation>P usc</translation>
+    </message>
+    <message>
+        <source>Efficiency</source>
+        <translation>Rendimento</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterSetup</name>
+    <message>
+        <source>Power Inverter</source>
+        <translation>Inverter</translation>
+    </message>
+    <message>
+        <source>1-Phase</source>
+        <translation>Monofase</translation>
+    </message>
+    <message>
+        <source>3-Phase</source>
+        <translation>Trifase</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterTrend</name>
+    <message>
+        <source>U in</source>
+        <translation>U ing</translation>
+    </message>
+    <message>
+        <source>U out</source>
+        <translation>U usc</translation>
+    </message>
+    <message>
+        <source>I in</source>
+        <translation>I ing</translation>
+    </message>
+    <message>
+        <source>I out</source>
+        <translation>I usc</translation>
+    </message>
+    <message>
+        <source>Efficiency %</source>
+        <translation>Rendimento %</translation>
+    </message>
+    <message>
+        <source>P out</source>
+        <translation>P usc</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+</context>
+<context>
+    <name>PowerMain</name>
+    <message>
+        <source>Trend</source>
+        <translation>Andamento</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Blocca</translation>
+    </message>
+    <message>
+        <source>P(%1)</source>
+        <translation>P(%1)</translation>
+    </message>
+    <message>
+        <source>S(%1)</source>
+        <translation>S(%1)</translation>
+    </message>
+    <message>
+        <source>Q1(%1)</source>
+        <translation>Q1(%1)</translation>
+    </message>
+    <message>
+        <source>PF</source>
+        <translation>PF</translation>
+    </message>
+    <message>
+        <source>cosΦ</source>
+        <translation>cosΦ</translation>
+    </message>
+    <message>
+        <source>tanΦ</source>
+        <translation>tanΦ</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Azzera</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Totale</translation>
+    </message>
+    <message>
+        <source>E(%1)</source>
+        <translation>E(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>PowerTrendPage</name>
+    <message>
+        <source>P(%1)</source>
+        <translation>P(%1)</translation>
+    </message>
+    <message>
+        <source>S(%1)</source>
+        <translation>S(%1)</translation>
+    </message>
+    <message>
+        <source>Q1(%1)</source>
+        <translation>Q1(%1)</translation>
+    </message>
+    <message>
+        <source>PF</source>
+        <translation>PF</translation>
+    </message>
+    <message>
+        <source>cosΦ</source>
+        <translation>cosΦ</translation>
+    </message>
+    <message>
+        <source>tanΦ</source>
+        <translation>tanΦ</translation>
+    </message>
+    <message>
+        <source>U rms(%1)</source>
+        <translation>U rms(%1)</translation>
+    </message>
+    <message>
+        <source>I rms(%1)</source>
+        <translation>I rms(%1)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+</context>
+<context>
+    <name>RmsTrendPage</name>
+    <message>
+        <source>Events</source>
+        <translation>Eventi</translation>
+    </message>
+    <message>
+        <source>EVENTS :</source>
+        <translation>EVENTI :</translation>
+    </message>
+    <message>
+        <source>I(%1)</source>
+        <translation>I(%1)</translation>
+    </message>
+    <message>
+        <source>U(%1)</source>
+        <translation>U(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>RunInfo</name>
+    <message>
+        <source>Restart</source>
+        <translation>Riavvia</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>System Status:
+
+Logger: %1
+Total Events: %2
+Dips: %3;   Swell: %4;   Interruption: %5;   Transients: %6;   Inrush: %7</source>
+        <translation>Stato del sistema:
+
+Registratore: %1
+Totale eventi: %2
+Buchi: %3;   Sovratensioni: %4;   Interruzioni: %5;   Transitori: %6;   Spunti: %7</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>in funzione</translation>
+    </message>
+    <message>
+        <source>Stoped</source>
+        <translation>fermo</translation>
+    </message>
+</context>
+<context>
+    <name>SaveDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Nome del file:</translation>
+    </message>
+    <message>
+        <source>Screen </source>
+        <translation>Schermata </translation>
+    </message>
+    <message>
+        <source>Data </source>
+        <translation>Dati </translation>
+    </message>
+    <message>
+        <source>Enter: edit the name</source>
+        <translation>Enter: modifica il nome</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>The file &quot;</source>
+        <translation>Il file &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; is exist.
+Do you want to overwrite it?</source>
+        <translation>&quot; esiste già.
+Sovrascriverlo?</translation>
+    </message>
+</context>
+<context>
+    <name>ScopePage</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Freq =</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Predefinito</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Blocca</translation>
+    </message>
+</context>
+<context>
+    <name>SoftKeyButton</name>
+    <message>
+        <source>Cursor</source>
+        <translation>Cursore</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>ALL</source>
+        <translation>TUTTI</translation>
+    </message>
+    <message>
+        <source>I-HARM.</source>
+        <translation>INTERARM.</translation>
+    </message>
+    <message>
+        <source>Energy</source>
+        <translation>Energia</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Fase</translation>
+    </message>
+    <message>
+        <source>Wire</source>
+        <translation>Linea</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tutti</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Selezion.</translation>
+    </message>
+</context>
+<context>
+    <name>StartTime</name>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>Immediate</source>
+        <translation>Immediato</translation>
+    </message>
+    <message>
+        <source>Timed</source>
+        <translation>Programmato</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Anno</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Mese</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Giorno</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Ora</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minuti</translation>
+    </message>
+</context>
+<context>
+    <name>TranStart</name>
+    <message>
+        <source>TRIGGER ON:</source>
+        <translation>TRIGGER:</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Eventi</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Predefinito</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Blocca</translation>
+    </message>
+</context>
+<context>
+    <name>TransMain</name>
+    <message>
+        <source>Transients</source>
+        <translation>Transitori</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Predefiniti</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Soglia</translation>
+    </message>
+</context>
+<context>
+    <name>TransView</name>
+    <message>
+        <source>TRIGGER ON:</source>
+        <translation>TRIGGER:</translation>
+    </message>
+    <message>
+        <source>Prev</source>
+        <translation>Precedente</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Successivo</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+</context>
+<context>
+    <name>UnbalVectorPage</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Freq =</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Blocca</translation>
+    </message>
+    <message>
+        <source>U1fund(%1):</source>
+        <translation>U1fund(%1):</translation>
+    </message>
+    <message>
+        <source>U2fund(%1):</source>
+        <translation>U2fund(%1):</translation>
+    </message>
+    <message>
+        <source>U3fund(%1):</source>
+        <translation>U3fund(%1):</translation>
+    </message>
+    <message>
+        <source>I1fund(%1):</source>
+        <translation>I1fund(%1):</translation>
+    </message>
+    <message>
+        <source>I2fund(%1):</source>
+        <translation>I2fund(%1):</translation>
+    </message>
+    <message>
+        <source>I3fund(%1):</source>
+        <translation>I3fund(%1):</translation>
+    </message>
+    <message>
+        <source>Ф1(°):</source>
+        <translation>Ф1(°):</translation>
+    </message>
+    <message>
+        <source>Ф2(°):</source>
+        <translation>Ф2(°):</translation>
+    </message>
+    <message>
+        <source>Ф3(°):</source>
+        <translation>Ф3(°):</translation>
+    </message>
+    <message>
+        <source>Neg.</source>
+        <translation>Inv.</translation>
+    </message>
+    <message>
+        <source>Zero</source>
+        <translation>Omop.</translation>
+    </message>
+</context>
+<context>
+    <name>UnbalanMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Freq =</translation>
+    </message>
+    <message>
+        <source>Vector</source>
+        <translation>Vettori</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Blocca</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Ufund(%1)</source>
+        <translation>Ufund(%1)</translation>
+    </message>
+    <message>
+        <source>Ifund(%1)</source>
+        <translation>Ifund(%1)</translation>
+    </message>
+    <message>
+        <source>ФI-U(°):</source>
+        <translation>ФI-U(°):</translation>
+    </message>
+    <message>
+        <source>Uneg</source>
+        <translation>Uneg</translation>
+    </message>
+    <message>
+        <source>Uzero</source>
+        <translation>Uzero</translation>
+    </message>
+    <message>
+        <source>Ineg</source>
+        <translation>Ineg</translation>
+    </message>
+    <message>
+        <source>Izero</source>
+        <translation>Izero</translation>
+    </message>
+</context>
+<context>
+    <name>VifMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Freq =</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Andamento</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Blocca</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Upk(%1)</source>
+        <translation>Upk(%1)</translation>
+    </message>
+    <message>
+        <source>CF</source>
+        <translation>CF</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Ipk(%1)</source>
+        <translation>Ipk(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>VifTrendPage</name>
+    <message>
+        <source>U rms(%1)</source>
+        <translation>U rms(%1)</translation>
+    </message>
+    <message>
+        <source>U pk(%1)</source>
+        <translation>U pk(%1)</translation>
+    </message>
+    <message>
+        <source>U dc(V)</source>
+        <translation>U dc(V)</translation>
+    </message>
+    <message>
+        <source>U cf</source>
+        <translation>U cf</translation>
+    </message>
+    <message>
+        <source>I rms(%1)</source>
+        <translation>I rms(%1)</translation>
+    </message>
+    <message>
+        <source>I pk(%1)</source>
+        <translation>I pk(%1)</translation>
+    </message>
+    <message>
+        <source>I dc(A)</source>
+        <translation>I dc(A)</translation>
+    </message>
+    <message>
+        <source>I cf</source>
+        <translation>I cf</translation>
+    </message>
+    <message>
+        <source>Freq(Hz)</source>
+        <translation>Freq(Hz)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+</context>
+<context>
+    <name>VirtualKeyBoard</name>
+    <message>
+        <source>Clear</source>
+        <translation>Cancella</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Spazio</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Invalid input!</source>
+        <translation>Immissione non valida!</translation>
+    </message>
+</context>
+<context>
+    <name>flicker</name>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+</context>
+</TS>

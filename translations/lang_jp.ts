@@ -1,0 +1,1212 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP">
+<context>
+    <name>BaseDialog</name>
+    <message>
+        <source>Power off?</source>
+        <translation>電源を切りますか？</translation>
+    </message>
+    <message>
+        <source>Logger is running!
+</source>
+        <translation>ロガー動作中です！
+</translation>
+    </message>
+    <message>
+        <source>Save: save the data.
+</source>
+        <translation>保存: データを保存します。
+</translation>
+    </message>
+    <message>
+        <source>Exit: delete the data and exit.
+</source>
+        <translation>終了: データを削除して終了します。
+</translation>
+    </message>
+    <message>
+        <source>Restart: delete the data and restart logger.</source>
+        <translation>再開: データを削除してロガーを再開します。</translation>
+    </message>
+    <message>
+        <source>The task &quot;</source>
+        <translation>タスク &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; is running.
+do you want to quit?</source>
+        <translation>&quot; は実行中です。
+終了しますか？</translation>
+    </message>
+    <message>
+        <source>%1 is not available
+in this software version.</source>
+        <translation>%1 はこのソフトウェア
+バージョンでは使用できません。</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>メニュー</translation>
+    </message>
+    <message>
+        <source>Volts/Amps/Hertz</source>
+        <translation>電圧/電流/周波数</translation>
+    </message>
+    <message>
+        <source>Dips&amp;Swells</source>
+        <translation>ディップ/スウェル</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>高調波</translation>
+    </message>
+    <message>
+        <source>Power&amp;Energy</source>
+        <translation>電力・電力量</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>フリッカ</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>不平衡</translation>
+    </message>
+    <message>
+        <source>Transients</source>
+        <translation>トランジェント</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>ユーザー</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>突入電流</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>ロガー</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>モニタ</translation>
+    </message>
+    <message>
+        <source>Scope</source>
+        <translation>オシロスコープ</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>メモリ</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>波形</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>電源重畳信号</translation>
+    </message>
+    <message>
+        <source>Power Inverter</source>
+        <translation>インバータ</translation>
+    </message>
+</context>
+<context>
+    <name>ComplianceBars</name>
+    <message>
+        <source>Limit</source>
+        <translation>限度値</translation>
+    </message>
+    <message>
+        <source>Allowed%</source>
+        <translation>許容%</translation>
+    </message>
+</context>
+<context>
+    <name>EventsPage</name>
+    <message>
+        <source>EVENTS :</source>
+        <translation>イベント：</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>EventsWidget</name>
+    <message>
+        <source>TIME</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>LEVEL</source>
+        <translation>レベル</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>継続時間</translation>
+    </message>
+</context>
+<context>
+    <name>FileCopingProgressBar</name>
+    <message>
+        <source>Copying files</source>
+        <translation>ファイルをコピー中</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>中止しました</translation>
+    </message>
+</context>
+<context>
+    <name>FileManager</name>
+    <message>
+        <source>Open file</source>
+        <translation>ファイルを開く</translation>
+    </message>
+    <message>
+        <source>Open Dir</source>
+        <translation>フォルダを開く</translation>
+    </message>
+    <message>
+        <source>Fold Dir</source>
+        <translation>上へ</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>FlickerMain</name>
+    <message>
+        <source>Trend</source>
+        <translation>トレンド</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>ホールド</translation>
+    </message>
+    <message>
+        <source>Pst</source>
+        <translation>Pst</translation>
+    </message>
+    <message>
+        <source>Plt</source>
+        <translation>Plt</translation>
+    </message>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+</context>
+<context>
+    <name>FlickerPage</name>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+</context>
+<context>
+    <name>HarmMain</name>
+    <message>
+        <source>Meter</source>
+        <translation>数値</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>ホールド</translation>
+    </message>
+</context>
+<context>
+    <name>HarmMeterPage</name>
+    <message>
+        <source>Harmonic</source>
+        <translation>高調波</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>ホールド</translation>
+    </message>
+    <message>
+        <source>Uthd</source>
+        <translation>Uthd</translation>
+    </message>
+    <message>
+        <source>Ithd</source>
+        <translation>Ithd</translation>
+    </message>
+    <message>
+        <source>Udc</source>
+        <translation>Udc</translation>
+    </message>
+    <message>
+        <source>Idc</source>
+        <translation>Idc</translation>
+    </message>
+    <message>
+        <source>Uharm %1</source>
+        <translation>Uharm %1</translation>
+    </message>
+    <message>
+        <source>Iharm %1</source>
+        <translation>Iharm %1</translation>
+    </message>
+    <message>
+        <source>Uinharm %1</source>
+        <translation>Uinharm %1</translation>
+    </message>
+    <message>
+        <source>Iinharm %1</source>
+        <translation>Iinharm %1</translation>
+    </message>
+</context>
+<context>
+    <name>InrushMain</name>
+    <message>
+        <source>Inrush</source>
+        <translation>突入電流</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>初期値</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>定格電流</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>しきい値</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>ヒステリシス</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>継続時間</translation>
+    </message>
+    <message>
+        <source>Switch</source>
+        <translation>切替</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+</context>
+<context>
+    <name>LivePage</name>
+    <message>
+        <source>Hold</source>
+        <translation>ホールド</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>実行</translation>
+    </message>
+</context>
+<context>
+    <name>MainsSignalingMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>周波数=</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>イベント</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>トレンド</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>ホールド</translation>
+    </message>
+    <message>
+        <source>Sig 1(%)</source>
+        <translation>信号1(%)</translation>
+    </message>
+    <message>
+        <source>Sig 1(%1)</source>
+        <translation>信号1(%1)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%)</source>
+        <translation>信号2(%)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%1)</source>
+        <translation>信号2(%1)</translation>
+    </message>
+    <message>
+        <source>Urms½(%1)</source>
+        <translation>Urms½(%1)</translation>
+    </message>
+    <message>
+        <source>Irms½(%1)</source>
+        <translation>Irms½(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>MainsSignalingTrend</name>
+    <message>
+        <source>Sig 1(%)</source>
+        <translation>信号1(%)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%)</source>
+        <translation>信号2(%)</translation>
+    </message>
+    <message>
+        <source>Urms½(%1)</source>
+        <translation>Urms½(%1)</translation>
+    </message>
+    <message>
+        <source>Irms½(%1)</source>
+        <translation>Irms½(%1)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>MenuPage</name>
+    <message>
+        <source>Press F1-F5 to show more infomation</source>
+        <translation>F1-F5を押すと詳細を表示します</translation>
+    </message>
+    <message>
+        <source>Volts/Amps/Hertz
+</source>
+        <translation>電圧/電流/周波数
+</translation>
+    </message>
+    <message>
+        <source>Dips&amp;Swells
+</source>
+        <translation>ディップ/スウェル
+</translation>
+    </message>
+    <message>
+        <source>Harmonics
+</source>
+        <translation>高調波
+</translation>
+    </message>
+    <message>
+        <source>Power&amp;Energy
+</source>
+        <translation>電力・電力量
+</translation>
+    </message>
+    <message>
+        <source>Flicker
+</source>
+        <translation>フリッカ
+</translation>
+    </message>
+    <message>
+        <source>Unbalance
+</source>
+        <translation>不平衡
+</translation>
+    </message>
+    <message>
+        <source>Transients
+</source>
+        <translation>トランジェント
+</translation>
+    </message>
+    <message>
+        <source>User
+</source>
+        <translation>ユーザー
+</translation>
+    </message>
+    <message>
+        <source>Inrush
+</source>
+        <translation>突入電流
+</translation>
+    </message>
+    <message>
+        <source>Wave
+</source>
+        <translation>波形
+</translation>
+    </message>
+    <message>
+        <source>Mains
+Signaling</source>
+        <translation>電源
+重畳信号</translation>
+    </message>
+    <message>
+        <source>Logger
+</source>
+        <translation>ロガー
+</translation>
+    </message>
+</context>
+<context>
+    <name>Message</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>Save &amp; Restart</source>
+        <translation>保存して再開</translation>
+    </message>
+    <message>
+        <source>Discard &amp; Restart</source>
+        <translation>破棄して再開</translation>
+    </message>
+    <message>
+        <source>Save &amp; Exit</source>
+        <translation>保存して終了</translation>
+    </message>
+    <message>
+        <source>Discard &amp; Exit</source>
+        <translation>破棄して終了</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>再開</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>周波数=</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>トレンド</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>ホールド</translation>
+    </message>
+    <message>
+        <source>U in</source>
+        <translation>U 入力</translation>
+    </message>
+    <message>
+        <source>I in</source>
+        <translation>I 入力</translation>
+    </message>
+    <message>
+        <source>P in</source>
+        <translation>P 入力</translation>
+    </message>
+    <message>
+        <source>U out</source>
+        <translation>U 出力</translation>
+    </message>
+    <message>
+        <source>I out</source>
+        <translation>I 出力</translation>
+    </message>
+    <message>
+        <source>P out</source>
+        <translation>P 出力</translation>
+    </message>
+    <message>
+        <source>Efficiency</source>
+        <translation>効率</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterSetup</name>
+    <message>
+        <source>Power Inverter</source>
+        <translation>インバータ</translation>
+    </message>
+    <message>
+        <source>1-Phase</source>
+        <translation>単相</translation>
+    </message>
+    <message>
+        <source>3-Phase</source>
+        <translation>三相</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterTrend</name>
+    <message>
+        <source>U in</source>
+        <translation>U 入力</translation>
+    </message>
+    <message>
+        <source>U out</source>
+        <translation>U 出力</translation>
+    </message>
+    <message>
+        <source>I in</source>
+        <translation>I 入力</translation>
+    </message>
+    <message>
+        <source>I out</source>
+        <translation>I 出力</translation>
+    </message>
+    <message>
+        <source>Efficiency %</source>
+        <translation>効率 %</translation>
+    </message>
+    <message>
+        <source>P out</source>
+        <translation>P 出力</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>PowerMain</name>
+    <message>
+        <source>Trend</source>
+        <translation>トレンド</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>ホールド</translation>
+    </message>
+    <message>
+        <source>P(%1)</source>
+        <translation>P(%1)</translation>
+    </message>
+    <message>
+        <source>S(%1)</source>
+        <translation>S(%1)</translation>
+    </message>
+    <message>
+        <source>Q1(%1)</source>
+        <translation>Q1(%1)</translation>
+    </message>
+    <message>
+        <source>PF</source>
+        <translation>PF</translation>
+    </message>
+    <message>
+        <source>cosΦ</source>
+        <translation>cosΦ</translation>
+    </message>
+    <message>
+        <source>tanΦ</source>
+        <translation>tanΦ</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>合計</translation>
+    </message>
+    <message>
+        <source>E(%1)</source>
+        <translation>E(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>PowerTrendPage</name>
+    <message>
+        <source>P(%1)</source>
+        <translation>P(%1)</translation>
+    </message>
+    <message>
+        <source>S(%1)</source>
+        <translation>S(%1)</translation>
+    </message>
+    <message>
+        <source>Q1(%1)</source>
+        <translation>Q1(%1)</translation>
+    </message>
+    <message>
+        <source>PF</source>
+        <translation>PF</translation>
+    </message>
+    <message>
+        <source>cosΦ</source>
+        <translation>cosΦ</translation>
+    </message>
+    <message>
+        <source>tanΦ</source>
+        <translation>tanΦ</translation>
+    </message>
+    <message>
+        <source>U rms(%1)</source>
+        <translation>U rms(%1)</translation>
+    </message>
+    <message>
+        <source>I rms(%1)</source>
+        <translation>I rms(%1)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>RmsTrendPage</name>
+    <message>
+        <source>Events</source>
+        <translation>イベント</translation>
+    </message>
+    <message>
+        <source>EVENTS :</source>
+        <translation>イベント：</translation>
+    </message>
+    <message>
+        <source>I(%1)</source>
+        <translation>I(%1)</translation>
+    </message>
+    <message>
+        <source>U(%1)</source>
+        <translation>U(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>RunInfo</name>
+    <message>
+        <source>Restart</source>
+        <translation>再開</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>System Status:
+
+Logger: %1
+Total Events: %2
+Dips: %3;   Swell: %4;   Interruption: %5;   Transients: %6;   Inrush: %7</source>
+        <translation>システム状態:
+
+ロガー: %1
+イベント総数: %2
+ディップ: %3;   スウェル: %4;   瞬停: %5;   トランジェント: %6;   突入電流: %7</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>動作中</translation>
+    </message>
+    <message>
+        <source>Stoped</source>
+        <translation>停止</translation>
+    </message>
+</context>
+<context>
+    <name>SaveDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>ファイル名:</translation>
+    </message>
+    <message>
+        <source>Screen </source>
+        <translation>画面 </translation>
+    </message>
+    <message>
+        <source>Data </source>
+        <translation>データ </translation>
+    </message>
+    <message>
+        <source>Enter: edit the name</source>
+        <translation>Enter: 名前を編集</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>The file &quot;</source>
+        <translation>ファイル &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; is exist.
+Do you want to overwrite it?</source>
+        <translation>&quot; は既に存在します。
+上書きしますか？</translation>
+    </message>
+</context>
+<context>
+    <name>ScopePage</name>
+    <message>
+        <source>Freq =</source>
+        <translation>周波数=</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>初期値</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>ホールド</translation>
+    </message>
+</context>
+<context>
+    <name>SoftKeyButton</name>
+    <message>
+        <source>Cursor</source>
+        <translation>カーソル</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>ズーム</translation>
+    </message>
+    <message>
+        <source>ALL</source>
+        <translation>全て</translation>
+    </message>
+    <message>
+        <source>I-HARM.</source>
+        <translation>次数間高調波</translation>
+    </message>
+    <message>
+        <source>Energy</source>
+        <translation>電力量</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>相</translation>
+    </message>
+    <message>
+        <source>Wire</source>
+        <translation>線間</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全て</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>選択</translation>
+    </message>
+</context>
+<context>
+    <name>StartTime</name>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Immediate</source>
+        <translation>即時</translation>
+    </message>
+    <message>
+        <source>Timed</source>
+        <translation>予約</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>年</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>月</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>日</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>時</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>分</translation>
+    </message>
+</context>
+<context>
+    <name>TranStart</name>
+    <message>
+        <source>TRIGGER ON:</source>
+        <translation>トリガ:</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>イベント</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>初期値</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>ホールド</translation>
+    </message>
+</context>
+<context>
+    <name>TransMain</name>
+    <message>
+        <source>Transients</source>
+        <translation>トランジェント</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>初期値</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>しきい値</translation>
+    </message>
+</context>
+<context>
+    <name>TransView</name>
+    <message>
+        <source>TRIGGER ON:</source>
+        <translation>トリガ:</translation>
+    </message>
+    <message>
+        <source>Prev</source>
+        <translation>前へ</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>UnbalVectorPage</name>
+    <message>
+        <source>Freq =</source>
+        <translation>周波数=</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>ホールド</translation>
+    </message>
+    <message>
+        <source>U1fund(%1):</source>
+        <translation>U1fund(%1):</translation>
+    </message>
+    <message>
+        <source>U2fund(%1):</source>
+        <translation>U2fund(%1):</translation>
+    </message>
+    <message>
+        <source>U3fund(%1):</source>
+        <translation>U3fund(%1):</translation>
+    </message>
+    <message>
+        <source>I1fund(%1):</source>
+        <translation>I1fund(%1):</translation>
+    </message>
+    <message>
+        <source>I2fund(%1):</source>
+        <translation>I2fund(%1):</translation>
+    </message>
+    <message>
+        <source>I3fund(%1):</source>
+        <translation>I3fund(%1):</translation>
+    </message>
+    <message>
+        <source>Ф1(°):</source>
+        <translation>Ф1(°):</translation>
+    </message>
+    <message>
+        <source>Ф2(°):</source>
+        <translation>Ф2(°):</translation>
+    </message>
+    <message>
+        <source>Ф3(°):</source>
+        <translation>Ф3(°):</translation>
+    </message>
+    <message>
+        <source>Neg.</source>
+        <translation>逆相</translation>
+    </message>
+    <message>
+        <source>Zero</source>
+        <translation>零相</translation>
+    </message>
+</context>
+<context>
+    <name>UnbalanMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>周波数=</translation>
+    </message>
+    <message>
+        <source>Vector</source>
+        <translation>ベクトル</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>ホールド</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Ufund(%1)</source>
+        <translation>Ufund(%1)</translation>
+    </message>
+    <message>
+        <source>Ifund(%1)</source>
+        <translation>Ifund(%1)</translation>
+    </message>
+    <message>
+        <source>ФI-U(°):</source>
+        <translation>ФI-U(°):</translation>
+    </message>
+    <message>
+        <source>Uneg</source>
+        <translation>Uneg</translation>
+    </message>
+    <message>
+        <source>Uzero</source>
+        <translation>Uzero</translation>
+    </message>
+    <message>
+        <source>Ineg</source>
+        <translation>Ineg</translation>
+    </message>
+    <message>
+        <source>Izero</source>
+        <translation>Izero</translation>
+    </message>
+</context>
+<context>
+    <name>VifMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>周波数=</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>トレンド</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>ホールド</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Upk(%1)</source>
+        <translation>Upk(%1)</translation>
+    </message>
+    <message>
+        <source>CF</source>
+        <translation>CF</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Ipk(%1)</source>
+        <translation>Ipk(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>VifTrendPage</name>
+    <message>
+        <source>U rms(%1)</source>
+        <translation>U rms(%1)</translation>
+    </message>
+    <message>
+        <source>U pk(%1)</source>
+        <translation>U pk(%1)</translation>
+    </message>
+    <message>
+        <source>U dc(V)</source>
+        <translation>U dc(V)</translation>
+    </message>
+    <message>
+        <source>U cf</source>
+        <translation>U cf</translation>
+    </message>
+    <message>
+        <source>I rms(%1)</source>
+        <translation>I rms(%1)</translation>
+    </message>
+    <message>
+        <source>I pk(%1)</source>
+        <translation>I pk(%1)</translation>
+    </message>
+    <message>
+        <source>I dc(A)</source>
+        <translation>I dc(A)</translation>
+    </message>
+    <message>
+        <source>I cf</source>
+        <translation>I cf</translation>
+    </message>
+    <message>
+        <source>Freq(Hz)</source>
+        <translation>周波数(Hz)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>VirtualKeyBoard</name>
+    <message>
+        <source>Clear</source>
+        <translation>クリア</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>空白</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Invalid input!</source>
+        <translation>入力が無効です！</translation>
+    </message>
+</context>
+<context>
+    <name>flicker</name>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>フリッカ</translation>
+    </message>
+</context>
+</TS>

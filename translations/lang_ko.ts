@@ -1,0 +1,1212 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko_KR">
+<context>
+    <name>BaseDialog</name>
+    <message>
+        <source>Power off?</source>
+        <translation>전원을 끄시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Logger is running!
+</source>
+        <translation>로거가 실행 중입니다!
+</translation>
+    </message>
+    <message>
+        <source>Save: save the data.
+</source>
+        <translation>저장: 데이터를 저장합니다.
+</translation>
+    </message>
+    <message>
+        <source>Exit: delete the data and exit.
+</source>
+        <translation>종료: 데이터를 삭제하고 종료합니다.
+</translation>
+    </message>
+    <message>
+        <source>Restart: delete the data and restart logger.</source>
+        <translation>재시작: 데이터를 삭제하고 로거를 다시 시작합니다.</translation>
+    </message>
+    <message>
+        <source>The task &quot;</source>
+        <translation>작업 &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; is running.
+do you want to quit?</source>
+        <translation>&quot; 이(가) 실행 중입니다.
+종료하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>%1 is not available
+in this software version.</source>
+        <translation>%1 기능은 이 소프트웨어
+버전에서 사용할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>메뉴</translation>
+    </message>
+    <message>
+        <source>Volts/Amps/Hertz</source>
+        <translation>전압/전류/주파수</translation>
+    </message>
+    <message>
+        <source>Dips&amp;Swells</source>
+        <translation>새그/스웰</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>고조파</translation>
+    </message>
+    <message>
+        <source>Power&amp;Energy</source>
+        <translation>전력/전력량</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>플리커</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>불평형</translation>
+    </message>
+    <message>
+        <source>Transients</source>
+        <translation>과도현상</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>사용자</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>돌입전류</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>로거</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>모니터</translation>
+    </message>
+    <message>
+        <source>Scope</source>
+        <translation>오실로스코프</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>메모리</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>파형</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>전원 신호</translation>
+    </message>
+    <message>
+        <source>Power Inverter</source>
+        <translation>인버터</translation>
+    </message>
+</context>
+<context>
+    <name>ComplianceBars</name>
+    <message>
+        <source>Limit</source>
+        <translation>한계값</translation>
+    </message>
+    <message>
+        <source>Allowed%</source>
+        <translation>허용%</translation>
+    </message>
+</context>
+<context>
+    <name>EventsPage</name>
+    <message>
+        <source>EVENTS :</source>
+        <translation>이벤트 :</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+</context>
+<context>
+    <name>EventsWidget</name>
+    <message>
+        <source>TIME</source>
+        <translation>시각</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>종류</translation>
+    </message>
+    <message>
+        <source>LEVEL</source>
+        <translation>레벨</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>지속시간</translation>
+    </message>
+</context>
+<context>
+    <name>FileCopingProgressBar</name>
+    <message>
+        <source>Copying files</source>
+        <translation>파일 복사 중</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>취소됨</translation>
+    </message>
+</context>
+<context>
+    <name>FileManager</name>
+    <message>
+        <source>Open file</source>
+        <translation>파일 열기</translation>
+    </message>
+    <message>
+        <source>Open Dir</source>
+        <translation>폴더 열기</translation>
+    </message>
+    <message>
+        <source>Fold Dir</source>
+        <translation>상위 폴더</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>선택</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>FlickerMain</name>
+    <message>
+        <source>Trend</source>
+        <translation>추이</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>홀드</translation>
+    </message>
+    <message>
+        <source>Pst</source>
+        <translation>Pst</translation>
+    </message>
+    <message>
+        <source>Plt</source>
+        <translation>Plt</translation>
+    </message>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+</context>
+<context>
+    <name>FlickerPage</name>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+</context>
+<context>
+    <name>HarmMain</name>
+    <message>
+        <source>Meter</source>
+        <translation>측정값</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>홀드</translation>
+    </message>
+</context>
+<context>
+    <name>HarmMeterPage</name>
+    <message>
+        <source>Harmonic</source>
+        <translation>고조파</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>홀드</translation>
+    </message>
+    <message>
+        <source>Uthd</source>
+        <translation>Uthd</translation>
+    </message>
+    <message>
+        <source>Ithd</source>
+        <translation>Ithd</translation>
+    </message>
+    <message>
+        <source>Udc</source>
+        <translation>Udc</translation>
+    </message>
+    <message>
+        <source>Idc</source>
+        <translation>Idc</translation>
+    </message>
+    <message>
+        <source>Uharm %1</source>
+        <translation>Uharm %1</translation>
+    </message>
+    <message>
+        <source>Iharm %1</source>
+        <translation>Iharm %1</translation>
+    </message>
+    <message>
+        <source>Uinharm %1</source>
+        <translation>Uinharm %1</translation>
+    </message>
+    <message>
+        <source>Iinharm %1</source>
+        <translation>Iinharm %1</translation>
+    </message>
+</context>
+<context>
+    <name>InrushMain</name>
+    <message>
+        <source>Inrush</source>
+        <translation>돌입전류</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>기본값</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>정격전류</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>임계값</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>히스테리시스</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>지속시간</translation>
+    </message>
+    <message>
+        <source>Switch</source>
+        <translation>전환</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>켬</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>끔</translation>
+    </message>
+</context>
+<context>
+    <name>LivePage</name>
+    <message>
+        <source>Hold</source>
+        <translation>홀드</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>실행</translation>
+    </message>
+</context>
+<context>
+    <name>MainsSignalingMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>주파수=</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>이벤트</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>추이</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>홀드</translation>
+    </message>
+    <message>
+        <source>Sig 1(%)</source>
+        <translation>신호1(%)</translation>
+    </message>
+    <message>
+        <source>Sig 1(%1)</source>
+        <translation>신호1(%1)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%)</source>
+        <translation>신호2(%)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%1)</source>
+        <translation>신호2(%1)</translation>
+    </message>
+    <message>
+        <source>Urms½(%1)</source>
+        <translation>Urms½(%1)</translation>
+    </message>
+    <message>
+        <source>Irms½(%1)</source>
+        <translation>Irms½(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>MainsSignalingTrend</name>
+    <message>
+        <source>Sig 1(%)</source>
+        <translation>신호1(%)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%)</source>
+        <translation>신호2(%)</translation>
+    </message>
+    <message>
+        <source>Urms½(%1)</source>
+        <translation>Urms½(%1)</translation>
+    </message>
+    <message>
+        <source>Irms½(%1)</source>
+        <translation>Irms½(%1)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>종류</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+</context>
+<context>
+    <name>MenuPage</name>
+    <message>
+        <source>Press F1-F5 to show more infomation</source>
+        <translation>F1-F5를 누르면 자세한 정보가 표시됩니다</translation>
+    </message>
+    <message>
+        <source>Volts/Amps/Hertz
+</source>
+        <translation>전압/전류/주파수
+</translation>
+    </message>
+    <message>
+        <source>Dips&amp;Swells
+</source>
+        <translation>새그/스웰
+</translation>
+    </message>
+    <message>
+        <source>Harmonics
+</source>
+        <translation>고조파
+</translation>
+    </message>
+    <message>
+        <source>Power&amp;Energy
+</source>
+        <translation>전력/전력량
+</translation>
+    </message>
+    <message>
+        <source>Flicker
+</source>
+        <translation>플리커
+</translation>
+    </message>
+    <message>
+        <source>Unbalance
+</source>
+        <translation>불평형
+</translation>
+    </message>
+    <message>
+        <source>Transients
+</source>
+        <translation>과도현상
+</translation>
+    </message>
+    <message>
+        <source>User
+</source>
+        <translation>사용자
+</translation>
+    </message>
+    <message>
+        <source>Inrush
+</source>
+        <translation>돌입전류
+</translation>
+    </message>
+    <message>
+        <source>Wave
+</source>
+        <translation>파형
+</translation>
+    </message>
+    <message>
+        <source>Mains
+Signaling</source>
+        <translation>전원
+신호</translation>
+    </message>
+    <message>
+        <source>Logger
+</source>
+        <translation>로거
+</translation>
+    </message>
+</context>
+<context>
+    <name>Message</name>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>끝내기</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>예</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>아니요</translation>
+    </message>
+    <message>
+        <source>Save &amp; Restart</source>
+        <translation>저장 후 재시작</translation>
+    </message>
+    <message>
+        <source>Discard &amp; Restart</source>
+        <translation>버리고 재시작</translation>
+    </message>
+    <message>
+        <source>Save &amp; Exit</source>
+        <translation>저장 후 종료</translation>
+    </message>
+    <message>
+        <source>Discard &amp; Exit</source>
+        <translation>버리고 종료</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>종료</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>재시작</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>주파수=</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>추이</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>홀드</translation>
+    </message>
+    <message>
+        <source>U in</source>
+        <translation>U 입력</translation>
+    </message>
+    <message>
+        <source>I in</source>
+        <translation>I 입력</translation>
+    </message>
+    <message>
+        <source>P in</source>
+        <translation>P 입력</translation>
+    </message>
+    <message>
+        <source>U out</source>
+        <translation>U 출력</translation>
+    </message>
+    <message>
+        <source>I out</source>
+        <translation>I 출력</translation>
+    </message>
+    <message>
+        <source>P out</source>
+        <translation>P 출력</translation>
+    </message>
+    <message>
+        <source>Efficiency</source>
+        <translation>효율</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterSetup</name>
+    <message>
+        <source>Power Inverter</source>
+        <translation>인버터</translation>
+    </message>
+    <message>
+        <source>1-Phase</source>
+        <translation>단상</translation>
+    </message>
+    <message>
+        <source>3-Phase</source>
+        <translation>3상</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterTrend</name>
+    <message>
+        <source>U in</source>
+        <translation>U 입력</translation>
+    </message>
+    <message>
+        <source>U out</source>
+        <translation>U 출력</translation>
+    </message>
+    <message>
+        <source>I in</source>
+        <translation>I 입력</translation>
+    </message>
+    <message>
+        <source>I out</source>
+        <translation>I 출력</translation>
+    </message>
+    <message>
+        <source>Efficiency %</source>
+        <translation>효율 %</translation>
+    </message>
+    <message>
+        <source>P out</source>
+        <translation>P 출력</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>종류</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+</context>
+<context>
+    <name>PowerMain</name>
+    <message>
+        <source>Trend</source>
+        <translation>추이</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>홀드</translation>
+    </message>
+    <message>
+        <source>P(%1)</source>
+        <translation>P(%1)</translation>
+    </message>
+    <message>
+        <source>S(%1)</source>
+        <translation>S(%1)</translation>
+    </message>
+    <message>
+        <source>Q1(%1)</source>
+        <translation>Q1(%1)</translation>
+    </message>
+    <message>
+        <source>PF</source>
+        <translation>PF</translation>
+    </message>
+    <message>
+        <source>cosΦ</source>
+        <translation>cosΦ</translation>
+    </message>
+    <message>
+        <source>tanΦ</source>
+        <translation>tanΦ</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>리셋</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>합계</translation>
+    </message>
+    <message>
+        <source>E(%1)</source>
+        <translation>E(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>PowerTrendPage</name>
+    <message>
+        <source>P(%1)</source>
+        <translation>P(%1)</translation>
+    </message>
+    <message>
+        <source>S(%1)</source>
+        <translation>S(%1)</translation>
+    </message>
+    <message>
+        <source>Q1(%1)</source>
+        <translation>Q1(%1)</translation>
+    </message>
+    <message>
+        <source>PF</source>
+        <translation>PF</translation>
+    </message>
+    <message>
+        <source>cosΦ</source>
+        <translation>cosΦ</translation>
+    </message>
+    <message>
+        <source>tanΦ</source>
+        <translation>tanΦ</translation>
+    </message>
+    <message>
+        <source>U rms(%1)</source>
+        <translation>U rms(%1)</translation>
+    </message>
+    <message>
+        <source>I rms(%1)</source>
+        <translation>I rms(%1)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>종류</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+</context>
+<context>
+    <name>RmsTrendPage</name>
+    <message>
+        <source>Events</source>
+        <translation>이벤트</translation>
+    </message>
+    <message>
+        <source>EVENTS :</source>
+        <translation>이벤트 :</translation>
+    </message>
+    <message>
+        <source>I(%1)</source>
+        <translation>I(%1)</translation>
+    </message>
+    <message>
+        <source>U(%1)</source>
+        <translation>U(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>RunInfo</name>
+    <message>
+        <source>Restart</source>
+        <translation>재시작</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>System Status:
+
+Logger: %1
+Total Events: %2
+Dips: %3;   Swell: %4;   Interruption: %5;   Transients: %6;   Inrush: %7</source>
+        <translation>시스템 상태:
+
+로거: %1
+총 이벤트: %2
+새그: %3;   스웰: %4;   정전: %5;   과도현상: %6;   돌입전류: %7</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>실행 중</translation>
+    </message>
+    <message>
+        <source>Stoped</source>
+        <translation>정지됨</translation>
+    </message>
+</context>
+<context>
+    <name>SaveDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>파일 이름:</translation>
+    </message>
+    <message>
+        <source>Screen </source>
+        <translation>화면 </translation>
+    </message>
+    <message>
+        <source>Data </source>
+        <translation>데이터 </translation>
+    </message>
+    <message>
+        <source>Enter: edit the name</source>
+        <translation>Enter: 이름 편집</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>The file &quot;</source>
+        <translation>파일 &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; is exist.
+Do you want to overwrite it?</source>
+        <translation>&quot; 이(가) 이미 있습니다.
+덮어쓰시겠습니까?</translation>
+    </message>
+</context>
+<context>
+    <name>ScopePage</name>
+    <message>
+        <source>Freq =</source>
+        <translation>주파수=</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>기본값</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>홀드</translation>
+    </message>
+</context>
+<context>
+    <name>SoftKeyButton</name>
+    <message>
+        <source>Cursor</source>
+        <translation>커서</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>켬</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>끔</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>확대</translation>
+    </message>
+    <message>
+        <source>ALL</source>
+        <translation>전체</translation>
+    </message>
+    <message>
+        <source>I-HARM.</source>
+        <translation>차수간 고조파</translation>
+    </message>
+    <message>
+        <source>Energy</source>
+        <translation>전력량</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>상</translation>
+    </message>
+    <message>
+        <source>Wire</source>
+        <translation>선간</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>전체</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>선택됨</translation>
+    </message>
+</context>
+<context>
+    <name>StartTime</name>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>Immediate</source>
+        <translation>즉시</translation>
+    </message>
+    <message>
+        <source>Timed</source>
+        <translation>예약</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>년</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>월</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>일</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>시</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>분</translation>
+    </message>
+</context>
+<context>
+    <name>TranStart</name>
+    <message>
+        <source>TRIGGER ON:</source>
+        <translation>트리거:</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>이벤트</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>기본값</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>홀드</translation>
+    </message>
+</context>
+<context>
+    <name>TransMain</name>
+    <message>
+        <source>Transients</source>
+        <translation>과도현상</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>기본값</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>임계값</translation>
+    </message>
+</context>
+<context>
+    <name>TransView</name>
+    <message>
+        <source>TRIGGER ON:</source>
+        <translation>트리거:</translation>
+    </message>
+    <message>
+        <source>Prev</source>
+        <translation>이전</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>다음</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+</context>
+<context>
+    <name>UnbalVectorPage</name>
+    <message>
+        <source>Freq =</source>
+        <translation>주파수=</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>홀드</translation>
+    </message>
+    <message>
+        <source>U1fund(%1):</source>
+        <translation>U1fund(%1):</translation>
+    </message>
+    <message>
+        <source>U2fund(%1):</source>
+        <translation>U2fund(%1):</translation>
+    </message>
+    <message>
+        <source>U3fund(%1):</source>
+        <translation>U3fund(%1):</translation>
+    </message>
+    <message>
+        <source>I1fund(%1):</source>
+        <translation>I1fund(%1):</translation>
+    </message>
+    <message>
+        <source>I2fund(%1):</source>
+        <translation>I2fund(%1):</translation>
+    </message>
+    <message>
+        <source>I3fund(%1):</source>
+        <translation>I3fund(%1):</translation>
+    </message>
+    <message>
+        <source>Ф1(°):</source>
+        <translation>Ф1(°):</translation>
+    </message>
+    <message>
+        <source>Ф2(°):</source>
+        <translation>Ф2(°):</translation>
+    </message>
+    <message>
+        <source>Ф3(°):</source>
+        <translation>Ф3(°):</translation>
+    </message>
+    <message>
+        <source>Neg.</source>
+        <translation>역상</translation>
+    </message>
+    <message>
+        <source>Zero</source>
+        <translation>영상</translation>
+    </message>
+</context>
+<context>
+    <name>UnbalanMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>주파수=</translation>
+    </message>
+    <message>
+        <source>Vector</source>
+        <translation>벡터</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>홀드</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Ufund(%1)</source>
+        <translation>Ufund(%1)</translation>
+    </message>
+    <message>
+        <source>Ifund(%1)</source>
+        <translation>Ifund(%1)</translation>
+    </message>
+    <message>
+        <source>ФI-U(°):</source>
+        <translation>ФI-U(°):</translation>
+    </message>
+    <message>
+        <source>Uneg</source>
+        <translation>Uneg</translation>
+    </message>
+    <message>
+        <source>Uzero</source>
+        <translation>Uzero</translation>
+    </message>
+    <message>
+        <source>Ineg</source>
+        <translation>Ineg</translation>
+    </message>
+    <message>
+        <source>Izero</source>
+        <translation>Izero</translation>
+    </message>
+</context>
+<context>
+    <name>VifMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>주파수=</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>추이</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>홀드</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Upk(%1)</source>
+        <translation>Upk(%1)</translation>
+    </message>
+    <message>
+        <source>CF</source>
+        <translation>CF</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Ipk(%1)</source>
+        <translation>Ipk(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>VifTrendPage</name>
+    <message>
+        <source>U rms(%1)</source>
+        <translation>U rms(%1)</translation>
+    </message>
+    <message>
+        <source>U pk(%1)</source>
+        <translation>U pk(%1)</translation>
+    </message>
+    <message>
+        <source>U dc(V)</source>
+        <translation>U dc(V)</translation>
+    </message>
+    <message>
+        <source>U cf</source>
+        <translation>U cf</translation>
+    </message>
+    <message>
+        <source>I rms(%1)</source>
+        <translation>I rms(%1)</translation>
+    </message>
+    <message>
+        <source>I pk(%1)</source>
+        <translation>I pk(%1)</translation>
+    </message>
+    <message>
+        <source>I dc(A)</source>
+        <translation>I dc(A)</translation>
+    </message>
+    <message>
+        <source>I cf</source>
+        <translation>I cf</translation>
+    </message>
+    <message>
+        <source>Freq(Hz)</source>
+        <translation>주파수(Hz)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>종류</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+</context>
+<context>
+    <name>VirtualKeyBoard</name>
+    <message>
+        <source>Clear</source>
+        <translation>지우기</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>공백</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Invalid input!</source>
+        <translation>잘못된 입력입니다!</translation>
+    </message>
+</context>
+<context>
+    <name>flicker</name>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>플리커</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,1212 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="tr_TR">
+<context>
+    <name>BaseDialog</name>
+    <message>
+        <source>Power off?</source>
+        <translation>Cihaz kapatılsın mı?</translation>
+    </message>
+    <message>
+        <source>Logger is running!
+</source>
+        <translation>Kaydedici çalışıyor!
+</translation>
+    </message>
+    <message>
+        <source>Save: save the data.
+</source>
+        <translation>Kaydet: verileri kaydeder.
+</translation>
+    </message>
+    <message>
+        <source>Exit: delete the data and exit.
+</source>
+        <translation>Çıkış: verileri siler ve çıkar.
+</translation>
+    </message>
+    <message>
+        <source>Restart: delete the data and restart logger.</source>
+        <translation>Yeniden: verileri siler ve kaydediciyi yeniden başlatır.</translation>
+    </message>
+    <message>
+        <source>The task &quot;</source>
+        <translation>Görev &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; is running.
+do you want to quit?</source>
+        <translation>&quot; çalışıyor.
+Çıkmak istiyor musunuz?</translation>
+    </message>
+    <message>
+        <source>%1 is not available
+in this software version.</source>
+        <translation>%1 bu yazılım
+sürümünde kullanılamaz.</translation>
+    </message>
+    <message>
+        <source>Menu</source>
+        <translation>Menü</translation>
+    </message>
+    <message>
+        <source>Volts/Amps/Hertz</source>
+        <translation>Volt/Amper/Hertz</translation>
+    </message>
+    <message>
+        <source>Dips&amp;Swells</source>
+        <translation>Çukur ve tepe</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmonikler</translation>
+    </message>
+    <message>
+        <source>Power&amp;Energy</source>
+        <translation>Güç ve enerji</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Kırpışma</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Dengesizlik</translation>
+    </message>
+    <message>
+        <source>Transients</source>
+        <translation>Transiyentler</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Kullanıcı</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>Kalkış akımı</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>Kaydedici</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>Monitör</translation>
+    </message>
+    <message>
+        <source>Scope</source>
+        <translation>Osiloskop</translation>
+    </message>
+    <message>
+        <source>Setup</source>
+        <translation>Ayarlar</translation>
+    </message>
+    <message>
+        <source>Memory</source>
+        <translation>Bellek</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Dalga şekli</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Şebeke sinyalleri</translation>
+    </message>
+    <message>
+        <source>Power Inverter</source>
+        <translation>Evirici</translation>
+    </message>
+</context>
+<context>
+    <name>ComplianceBars</name>
+    <message>
+        <source>Limit</source>
+        <translation>Sınır</translation>
+    </message>
+    <message>
+        <source>Allowed%</source>
+        <translation>İzin%</translation>
+    </message>
+</context>
+<context>
+    <name>EventsPage</name>
+    <message>
+        <source>EVENTS :</source>
+        <translation>OLAYLAR :</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+</context>
+<context>
+    <name>EventsWidget</name>
+    <message>
+        <source>TIME</source>
+        <translation>ZAMAN</translation>
+    </message>
+    <message>
+        <source>TYPE</source>
+        <translation>TİP</translation>
+    </message>
+    <message>
+        <source>LEVEL</source>
+        <translation>SEVİYE</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>SÜRE</translation>
+    </message>
+</context>
+<context>
+    <name>FileCopingProgressBar</name>
+    <message>
+        <source>Copying files</source>
+        <translation>Dosyalar kopyalanıyor</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Canceled</source>
+        <translation>İptal edildi</translation>
+    </message>
+</context>
+<context>
+    <name>FileManager</name>
+    <message>
+        <source>Open file</source>
+        <translation>Dosya aç</translation>
+    </message>
+    <message>
+        <source>Open Dir</source>
+        <translation>Klasör aç</translation>
+    </message>
+    <message>
+        <source>Fold Dir</source>
+        <translation>Üst klasör</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation>Seç</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+</context>
+<context>
+    <name>FlickerMain</name>
+    <message>
+        <source>Trend</source>
+        <translation>Eğilim</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Dondur</translation>
+    </message>
+    <message>
+        <source>Pst</source>
+        <translation>Pst</translation>
+    </message>
+    <message>
+        <source>Plt</source>
+        <translation>Plt</translation>
+    </message>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+</context>
+<context>
+    <name>FlickerPage</name>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+</context>
+<context>
+    <name>HarmMain</name>
+    <message>
+        <source>Meter</source>
+        <translation>Değerler</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Dondur</translation>
+    </message>
+</context>
+<context>
+    <name>HarmMeterPage</name>
+    <message>
+        <source>Harmonic</source>
+        <translation>Harmonikler</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Dondur</translation>
+    </message>
+    <message>
+        <source>Uthd</source>
+        <translation>Uthd</translation>
+    </message>
+    <message>
+        <source>Ithd</source>
+        <translation>Ithd</translation>
+    </message>
+    <message>
+        <source>Udc</source>
+        <translation>Udc</translation>
+    </message>
+    <message>
+        <source>Idc</source>
+        <translation>Idc</translation>
+    </message>
+    <message>
+        <source>Uharm %1</source>
+        <translation>Uharm %1</translation>
+    </message>
+    <message>
+        <source>Iharm %1</source>
+        <translation>Iharm %1</translation>
+    </message>
+    <message>
+        <source>Uinharm %1</source>
+        <translation>Uinharm %1</translation>
+    </message>
+    <message>
+        <source>Iinharm %1</source>
+        <translation>Iinharm %1</translation>
+    </message>
+</context>
+<context>
+    <name>InrushMain</name>
+    <message>
+        <source>Inrush</source>
+        <translation>Kalkış akımı</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Varsayılan</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Başlat</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>Anma akımı</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Eşik</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Histerezis</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>SÜRE</translation>
+    </message>
+    <message>
+        <source>Switch</source>
+        <translation>Değiştir</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Açık</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Kapalı</translation>
+    </message>
+</context>
+<context>
+    <name>LivePage</name>
+    <message>
+        <source>Hold</source>
+        <translation>Dondur</translation>
+    </message>
+    <message>
+        <source>Run</source>
+        <translation>Çalıştır</translation>
+    </message>
+</context>
+<context>
+    <name>MainsSignalingMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Frek =</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Olaylar</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Eğilim</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Dondur</translation>
+    </message>
+    <message>
+        <source>Sig 1(%)</source>
+        <translation>Sin 1(%)</translation>
+    </message>
+    <message>
+        <source>Sig 1(%1)</source>
+        <translation>Sin 1(%1)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%)</source>
+        <translation>Sin 2(%)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%1)</source>
+        <translation>Sin 2(%1)</translation>
+    </message>
+    <message>
+        <source>Urms½(%1)</source>
+        <translation>Urms½(%1)</translation>
+    </message>
+    <message>
+        <source>Irms½(%1)</source>
+        <translation>Irms½(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>MainsSignalingTrend</name>
+    <message>
+        <source>Sig 1(%)</source>
+        <translation>Sin 1(%)</translation>
+    </message>
+    <message>
+        <source>Sig 2(%)</source>
+        <translation>Sin 2(%)</translation>
+    </message>
+    <message>
+        <source>Urms½(%1)</source>
+        <translation>Urms½(%1)</translation>
+    </message>
+    <message>
+        <source>Irms½(%1)</source>
+        <translation>Irms½(%1)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tip</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+</context>
+<context>
+    <name>MenuPage</name>
+    <message>
+        <source>Press F1-F5 to show more infomation</source>
+        <translation>Daha fazla bilgi için F1-F5&apos;e basın</translation>
+    </message>
+    <message>
+        <source>Volts/Amps/Hertz
+</source>
+        <translation>Volt/Amper/Hertz
+</translation>
+    </message>
+    <message>
+        <source>Dips&amp;Swells
+</source>
+        <translation>Çukur ve tepe
+</translation>
+    </message>
+    <message>
+        <source>Harmonics
+</source>
+        <translation>Harmonikler
+</translation>
+    </message>
+    <message>
+        <source>Power&amp;Energy
+</source>
+        <translation>Güç ve enerji
+</translation>
+    </message>
+    <message>
+        <source>Flicker
+</source>
+        <translation>Kırpışma
+</translation>
+    </message>
+    <message>
+        <source>Unbalance
+</source>
+        <translation>Dengesizlik
+</translation>
+    </message>
+    <message>
+        <source>Transients
+</source>
+        <translation>Transiyentler
+</translation>
+    </message>
+    <message>
+        <source>User
+</source>
+        <translation>Kullanıcı
+</translation>
+    </message>
+    <message>
+        <source>Inrush
+</source>
+        <translation>Kalkış akımı
+</translation>
+    </message>
+    <message>
+        <source>Wave
+</source>
+        <translation>Dalga şekli
+</translation>
+    </message>
+    <message>
+        <source>Mains
+Signaling</source>
+        <translation>Şebeke
+sinyalleri</translation>
+    </message>
+    <message>
+        <source>Logger
+</source>
+        <translation>Kaydedici
+</translation>
+    </message>
+</context>
+<context>
+    <name>Message</name>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Çık</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Evet</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Hayır</translation>
+    </message>
+    <message>
+        <source>Save &amp; Restart</source>
+        <translation>Kaydet/yeniden</translation>
+    </message>
+    <message>
+        <source>Discard &amp; Restart</source>
+        <translation>Sil/yeniden</translation>
+    </message>
+    <message>
+        <source>Save &amp; Exit</source>
+        <translation>Kaydet ve çık</translation>
+    </message>
+    <message>
+        <source>Discard &amp; Exit</source>
+        <translation>Sil ve çık</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Çıkış</translation>
+    </message>
+    <message>
+        <source>Restart</source>
+        <translation>Yeniden</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Kaydet</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Frek =</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Eğilim</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Dondur</translation>
+    </message>
+    <message>
+        <source>U in</source>
+        <translation>U giriş</translation>
+    </message>
+    <message>
+        <source>I in</source>
+        <translation>I giriş</translation>
+    </message>
+    <message>
+        <source>P in</source>
+        <translation>P giriş</translation>
+    </message>
+    <message>
+        <source>U out</source>
+        <translation>U çıkış</translation>
+    </message>
+    <message>
+        <source>I out</source>
+        <translation>I çıkış</translation>
+    </message>
+    <message>
+        <source>P out</source>
+        <translation>P çıkış</translation>
+    </message>
+    <message>
+        <source>Efficiency</source>
+        <translation>Verim</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterSetup</name>
+    <message>
+        <source>Power Inverter</source>
+        <translation>Evirici</translation>
+    </message>
+    <message>
+        <source>1-Phase</source>
+        <translation>1 fazlı</translation>
+    </message>
+    <message>
+        <source>3-Phase</source>
+        <translation>3 fazlı</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Başlat</translation>
+    </message>
+</context>
+<context>
+    <name>PowerInverterTrend</name>
+    <message>
+        <source>U in</source>
+        <translation>U giriş</translation>
+    </message>
+    <message>
+        <source>U out</source>
+        <translation>U çıkış</translation>
+    </message>
+    <message>
+        <source>I in</source>
+        <translation>I giriş</translation>
+    </message>
+    <message>
+        <source>I out</source>
+        <translation>I çıkış</translation>
+    </message>
+    <message>
+        <source>Efficiency %</source>
+        <translation>Verim %</translation>
+    </message>
+    <message>
+        <source>P out</source>
+        <translation>P çıkış</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tip</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+</context>
+<context>
+    <name>PowerMain</name>
+    <message>
+        <source>Trend</source>
+        <translation>Eğilim</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Dondur</translation>
+    </message>
+    <message>
+        <source>P(%1)</source>
+        <translation>P(%1)</translation>
+    </message>
+    <message>
+        <source>S(%1)</source>
+        <translation>S(%1)</translation>
+    </message>
+    <message>
+        <source>Q1(%1)</source>
+        <translation>Q1(%1)</translation>
+    </message>
+    <message>
+        <source>PF</source>
+        <translation>PF</translation>
+    </message>
+    <message>
+        <source>cosΦ</source>
+        <translation>cosΦ</translation>
+    </message>
+    <message>
+        <source>tanΦ</source>
+        <translation>tanΦ</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Sıfırla</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Toplam</translation>
+    </message>
+    <message>
+        <source>E(%1)</source>
+        <translation>E(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>PowerTrendPage</name>
+    <message>
+        <source>P(%1)</source>
+        <translation>P(%1)</translation>
+    </message>
+    <message>
+        <source>S(%1)</source>
+        <translation>S(%1)</translation>
+    </message>
+    <message>
+        <source>Q1(%1)</source>
+        <translation>Q1(%1)</translation>
+    </message>
+    <message>
+        <source>PF</source>
+        <translation>PF</translation>
+    </message>
+    <message>
+        <source>cosΦ</source>
+        <translation>cosΦ</translation>
+    </message>
+    <message>
+        <source>tanΦ</source>
+        <translation>tanΦ</translation>
+    </message>
+    <message>
+        <source>U rms(%1)</source>
+        <translation>U rms(%1)</translation>
+    </message>
+    <message>
+        <source>I rms(%1)</source>
+        <translation>I rms(%1)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tip</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+</context>
+<context>
+    <name>RmsTrendPage</name>
+    <message>
+        <source>Events</source>
+        <translation>Olaylar</translation>
+    </message>
+    <message>
+        <source>EVENTS :</source>
+        <translation>OLAYLAR :</translation>
+    </message>
+    <message>
+        <source>I(%1)</source>
+        <translation>I(%1)</translation>
+    </message>
+    <message>
+        <source>U(%1)</source>
+        <translation>U(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>RunInfo</name>
+    <message>
+        <source>Restart</source>
+        <translation>Yeniden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>System Status:
+
+Logger: %1
+Total Events: %2
+Dips: %3;   Swell: %4;   Interruption: %5;   Transients: %6;   Inrush: %7</source>
+        <translation>Sistem durumu:
+
+Kaydedici: %1
+Toplam olay: %2
+Çukur: %3;   Tepe: %4;   Kesinti: %5;   Transiyent: %6;   Kalkış akımı: %7</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>çalışıyor</translation>
+    </message>
+    <message>
+        <source>Stoped</source>
+        <translation>durdu</translation>
+    </message>
+</context>
+<context>
+    <name>SaveDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Dosya adı:</translation>
+    </message>
+    <message>
+        <source>Screen </source>
+        <translation>Ekran </translation>
+    </message>
+    <message>
+        <source>Data </source>
+        <translation>Veri </translation>
+    </message>
+    <message>
+        <source>Enter: edit the name</source>
+        <translation>Enter: adı düzenle</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>The file &quot;</source>
+        <translation>Dosya &quot;</translation>
+    </message>
+    <message>
+        <source>&quot; is exist.
+Do you want to overwrite it?</source>
+        <translation>&quot; zaten var.
+Üzerine yazılsın mı?</translation>
+    </message>
+</context>
+<context>
+    <name>ScopePage</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Frek =</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Varsayılan</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Dondur</translation>
+    </message>
+</context>
+<context>
+    <name>SoftKeyButton</name>
+    <message>
+        <source>Cursor</source>
+        <translation>İmleç</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Açık</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Kapalı</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Yakınlaş</translation>
+    </message>
+    <message>
+        <source>ALL</source>
+        <translation>TÜM</translation>
+    </message>
+    <message>
+        <source>I-HARM.</source>
+        <translation>ARA HARM.</translation>
+    </message>
+    <message>
+        <source>Energy</source>
+        <translation>Enerji</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Faz</translation>
+    </message>
+    <message>
+        <source>Wire</source>
+        <translation>Hat</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tümü</translation>
+    </message>
+    <message>
+        <source>Selected</source>
+        <translation>Seçili</translation>
+    </message>
+</context>
+<context>
+    <name>StartTime</name>
+    <message>
+        <source>Start</source>
+        <translation>Başlat</translation>
+    </message>
+    <message>
+        <source>Immediate</source>
+        <translation>Hemen</translation>
+    </message>
+    <message>
+        <source>Timed</source>
+        <translation>Zamanlı</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Yıl</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Ay</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Gün</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Saat</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Dakika</translation>
+    </message>
+</context>
+<context>
+    <name>TranStart</name>
+    <message>
+        <source>TRIGGER ON:</source>
+        <translation>TETİK:</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Olaylar</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Varsayılan</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Dondur</translation>
+    </message>
+</context>
+<context>
+    <name>TransMain</name>
+    <message>
+        <source>Transients</source>
+        <translation>Transiyentler</translation>
+    </message>
+    <message>
+        <source>Defaults</source>
+        <translation>Varsayılan</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Başlat</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Eşik</translation>
+    </message>
+</context>
+<context>
+    <name>TransView</name>
+    <message>
+        <source>TRIGGER ON:</source>
+        <translation>TETİK:</translation>
+    </message>
+    <message>
+        <source>Prev</source>
+        <translation>Önceki</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Sonraki</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+</context>
+<context>
+    <name>UnbalVectorPage</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Frek =</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Dondur</translation>
+    </message>
+    <message>
+        <source>U1fund(%1):</source>
+        <translation>U1fund(%1):</translation>
+    </message>
+    <message>
+        <source>U2fund(%1):</source>
+        <translation>U2fund(%1):</translation>
+    </message>
+    <message>
+        <source>U3fund(%1):</source>
+        <translation>U3fund(%1):</translation>
+    </message>
+    <message>
+        <source>I1fund(%1):</source>
+        <translation>I1fund(%1):</translation>
+    </message>
+    <message>
+        <source>I2fund(%1):</source>
+        <translation>I2fund(%1):</translation>
+    </message>
+    <message>
+        <source>I3fund(%1):</source>
+        <translation>I3fund(%1):</translation>
+    </message>
+    <message>
+        <source>Ф1(°):</source>
+        <translation>Ф1(°):</translation>
+    </message>
+    <message>
+        <source>Ф2(°):</source>
+        <translation>Ф2(°):</translation>
+    </message>
+    <message>
+        <source>Ф3(°):</source>
+        <translation>Ф3(°):</translation>
+    </message>
+    <message>
+        <source>Neg.</source>
+        <translation>Negatif</translation>
+    </message>
+    <message>
+        <source>Zero</source>
+        <translation>Sıfır</translation>
+    </message>
+</context>
+<context>
+    <name>UnbalanMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Frek =</translation>
+    </message>
+    <message>
+        <source>Vector</source>
+        <translation>Vektör</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Dondur</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Ufund(%1)</source>
+        <translation>Ufund(%1)</translation>
+    </message>
+    <message>
+        <source>Ifund(%1)</source>
+        <translation>Ifund(%1)</translation>
+    </message>
+    <message>
+        <source>ФI-U(°):</source>
+        <translation>ФI-U(°):</translation>
+    </message>
+    <message>
+        <source>Uneg</source>
+        <translation>Uneg</translation>
+    </message>
+    <message>
+        <source>Uzero</source>
+        <translation>Uzero</translation>
+    </message>
+    <message>
+        <source>Ineg</source>
+        <translation>Ineg</translation>
+    </message>
+    <message>
+        <source>Izero</source>
+        <translation>Izero</translation>
+    </message>
+</context>
+<context>
+    <name>VifMain</name>
+    <message>
+        <source>Freq =</source>
+        <translation>Frek =</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Eğilim</translation>
+    </message>
+    <message>
+        <source>Hold</source>
+        <translation>Dondur</translation>
+    </message>
+    <message>
+        <source>Urms(%1)</source>
+        <translation>Urms(%1)</translation>
+    </message>
+    <message>
+        <source>Upk(%1)</source>
+        <translation>Upk(%1)</translation>
+    </message>
+    <message>
+        <source>CF</source>
+        <translation>CF</translation>
+    </message>
+    <message>
+        <source>Irms(%1)</source>
+        <translation>Irms(%1)</translation>
+    </message>
+    <message>
+        <source>Ipk(%1)</source>
+        <translation>Ipk(%1)</translation>
+    </message>
+</context>
+<context>
+    <name>VifTrendPage</name>
+    <message>
+        <source>U rms(%1)</source>
+        <translation>U rms(%1)</translation>
+    </message>
+    <message>
+        <source>U pk(%1)</source>
+        <translation>U pk(%1)</translation>
+    </message>
+    <message>
+        <source>U dc(V)</source>
+        <translation>U dc(V)</translation>
+    </message>
+    <message>
+        <source>U cf</source>
+        <translation>U cf</translation>
+    </message>
+    <message>
+        <source>I rms(%1)</source>
+        <translation>I rms(%1)</translation>
+    </message>
+    <message>
+        <source>I pk(%1)</source>
+        <translation>I pk(%1)</translation>
+    </message>
+    <message>
+        <source>I dc(A)</source>
+        <translation>I dc(A)</translation>
+    </message>
+    <message>
+        <source>I cf</source>
+        <translation>I cf</translation>
+    </message>
+    <message>
+        <source>Freq(Hz)</source>
+        <translation>Frek(Hz)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tip</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+</context>
+<context>
+    <name>VirtualKeyBoard</name>
+    <message>
+        <source>Clear</source>
+        <translation>Temizle</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Boşluk</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Invalid input!</source>
+        <translation>Geçersiz giriş!</translation>
+    </message>
+</context>
+<context>
+    <name>flicker</name>
+    <message>
+        <source>pinst</source>
+        <translation>pinst</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Kırpışma</translation>
+    </message>
+</context>
+</TS>
