@@ -119,6 +119,13 @@ dans cette version du logiciel.</translation>
     </message>
 </context>
 <context>
+    <name>Calibration</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Étalonnage</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -133,7 +140,7 @@ dans cette version du logiciel.</translation>
     <name>EventsPage</name>
     <message>
         <source>EVENTS :</source>
-        <translation>ÉVÉNEM. :</translation>
+        <translation>Événem. :</translation>
     </message>
     <message>
         <source>Back</source>
@@ -313,11 +320,11 @@ dans cette version du logiciel.</translation>
     </message>
     <message>
         <source>DURATION</source>
-        <translation>DURÉE</translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>Switch</source>
-        <translation>Changer</translation>
+        <translation>Commutation</translation>
     </message>
     <message>
         <source>On</source>
@@ -326,6 +333,25 @@ dans cette version du logiciel.</translation>
     <message>
         <source>Off</source>
         <translation>Non</translation>
+    </message>
+</context>
+<context>
+    <name>InstrumentInfo</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>S/N</source>
+        <translation>S/N</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modèle</translation>
     </message>
 </context>
 <context>
@@ -742,7 +768,7 @@ réseau</translation>
     </message>
     <message>
         <source>EVENTS :</source>
-        <translation>ÉVÉNEM. :</translation>
+        <translation>Événem. :</translation>
     </message>
     <message>
         <source>I(%1)</source>
@@ -835,9 +861,296 @@ Voulez-vous l&apos;écraser ?</translation>
         <source>Default</source>
         <translation>Par défaut</translation>
     </message>
+</context>
+<context>
+    <name>SetupConfigEnterPage</name>
     <message>
-        <source>Hold</source>
-        <translation>Figer</translation>
+        <source>JOIN CONFIG</source>
+        <translation>BRANCHEMENT</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>SetupConfigPage</name>
+    <message>
+        <source>JOIN CONFIG</source>
+        <translation>BRANCHEMENT</translation>
+    </message>
+    <message>
+        <source>Page 1</source>
+        <translation>Page 1</translation>
+    </message>
+    <message>
+        <source>Page 2</source>
+        <translation>Page 2</translation>
+    </message>
+    <message>
+        <source>Page 3</source>
+        <translation>Page 3</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>SetupEditor</name>
+    <message>
+        <source>Default</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFlicker</name>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Plt Weighting Curve</source>
+        <translation>Courbe de pondération Plt</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFunctions</name>
+    <message>
+        <source>Functions</source>
+        <translation>Fonctions</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source> Harmonics</source>
+        <translation> Harmoniques</translation>
+    </message>
+    <message>
+        <source> Flicker</source>
+        <translation> Flicker</translation>
+    </message>
+    <message>
+        <source> Transients</source>
+        <translation> Transitoires</translation>
+    </message>
+    <message>
+        <source> Inrush</source>
+        <translation> Courant d&apos;appel</translation>
+    </message>
+    <message>
+        <source> Mains Signaling</source>
+        <translation> Signaux réseau</translation>
+    </message>
+</context>
+<context>
+    <name>SetupInrush</name>
+    <message>
+        <source>Inrush</source>
+        <translation>Courant d&apos;appel</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>DURÉE</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>Courant nominal</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Seuil</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Hystérésis</translation>
+    </message>
+</context>
+<context>
+    <name>SetupKFactor</name>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmoniques</translation>
+    </message>
+    <message>
+        <source>K-factor method:</source>
+        <translation>Méthode facteur K :</translation>
+    </message>
+    <message>
+        <source>K-factor par. e:</source>
+        <translation>Facteur K, par. e :</translation>
+    </message>
+    <message>
+        <source>K-factor par. q:</source>
+        <translation>Facteur K, par. q :</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMain</name>
+    <message>
+        <source>Config</source>
+        <translation>Branchement</translation>
+    </message>
+    <message>
+        <source>Vnom</source>
+        <translation>Unom</translation>
+    </message>
+    <message>
+        <source>Freq</source>
+        <translation>Fréq</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Pince</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Page suiv.</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainPage2</name>
+    <message>
+        <source>Limits</source>
+        <translation>Limites</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>Fonctions</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Page préc.</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainsSig</name>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Signaux réseau</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 1 (Hz)</source>
+        <translation>Fréquence du signal 1 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 1 (%)</source>
+        <translation>Seuil de détection 1 (%)</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 2 (Hz)</source>
+        <translation>Fréquence du signal 2 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 2 (%)</source>
+        <translation>Seuil de détection 2 (%)</translation>
+    </message>
+</context>
+<context>
+    <name>SetupSummary</name>
+    <message>
+        <source>Measurement</source>
+        <translation>Mesure</translation>
+    </message>
+    <message>
+        <source>Config:</source>
+        <translation>Branchement :</translation>
+    </message>
+    <message>
+        <source>Vnom:</source>
+        <translation>Unom :</translation>
+    </message>
+    <message>
+        <source>Freq:</source>
+        <translation>Fréq :</translation>
+    </message>
+    <message>
+        <source>Limits:</source>
+        <translation>Limites :</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>Phases</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Neutre</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Pince</translation>
+    </message>
+    <message>
+        <source>I Ratio</source>
+        <translation>Rapport I</translation>
+    </message>
+    <message>
+        <source>V Ratio</source>
+        <translation>Rapport U</translation>
+    </message>
+    <message>
+        <source>Irange</source>
+        <translation>Calibre I</translation>
+    </message>
+</context>
+<context>
+    <name>SetupTransient</name>
+    <message>
+        <source>Transients</source>
+        <translation>Transitoires</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Seuil</translation>
+    </message>
+</context>
+<context>
+    <name>SetupVnomPage</name>
+    <message>
+        <source>Nominal Voltage</source>
+        <translation>Tension nominale</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Phase voltage</source>
+        <translation>Tension simple</translation>
+    </message>
+    <message>
+        <source>Line voltage</source>
+        <translation>Tension composée</translation>
+    </message>
+    <message>
+        <source>Custom: Up and Down change the value</source>
+        <translation>Perso. : Haut et Bas changent la valeur</translation>
+    </message>
+    <message>
+        <source>Custom: %1</source>
+        <translation>Perso. : %1</translation>
     </message>
 </context>
 <context>
@@ -929,20 +1242,12 @@ Voulez-vous l&apos;écraser ?</translation>
 <context>
     <name>TranStart</name>
     <message>
-        <source>TRIGGER ON:</source>
-        <translation>DÉCLENCH.:</translation>
-    </message>
-    <message>
         <source>Events</source>
         <translation>Événements</translation>
     </message>
     <message>
         <source>Default</source>
         <translation>Par défaut</translation>
-    </message>
-    <message>
-        <source>Hold</source>
-        <translation>Figer</translation>
     </message>
 </context>
 <context>
@@ -965,11 +1270,14 @@ Voulez-vous l&apos;écraser ?</translation>
     </message>
 </context>
 <context>
-    <name>TransView</name>
+    <name>TransScopePage</name>
     <message>
         <source>TRIGGER ON:</source>
         <translation>DÉCLENCH.:</translation>
     </message>
+</context>
+<context>
+    <name>TransView</name>
     <message>
         <source>Prev</source>
         <translation>Précédent</translation>

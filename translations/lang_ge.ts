@@ -119,6 +119,13 @@ Softwareversion nicht verfügbar.</translation>
     </message>
 </context>
 <context>
+    <name>Calibration</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Kalibrierung</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -133,7 +140,7 @@ Softwareversion nicht verfügbar.</translation>
     <name>EventsPage</name>
     <message>
         <source>EVENTS :</source>
-        <translation>EREIGN. :</translation>
+        <translation>Ereign. :</translation>
     </message>
     <message>
         <source>Back</source>
@@ -313,11 +320,11 @@ Softwareversion nicht verfügbar.</translation>
     </message>
     <message>
         <source>DURATION</source>
-        <translation>DAUER</translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Switch</source>
-        <translation>Umschalten</translation>
+        <translation>Schalten</translation>
     </message>
     <message>
         <source>On</source>
@@ -326,6 +333,25 @@ Softwareversion nicht verfügbar.</translation>
     <message>
         <source>Off</source>
         <translation>Aus</translation>
+    </message>
+</context>
+<context>
+    <name>InstrumentInfo</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>S/N</source>
+        <translation>S/N</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modell</translation>
     </message>
 </context>
 <context>
@@ -742,7 +768,7 @@ signale</translation>
     </message>
     <message>
         <source>EVENTS :</source>
-        <translation>EREIGN. :</translation>
+        <translation>Ereign. :</translation>
     </message>
     <message>
         <source>I(%1)</source>
@@ -835,9 +861,296 @@ Soll sie überschrieben werden?</translation>
         <source>Default</source>
         <translation>Standard</translation>
     </message>
+</context>
+<context>
+    <name>SetupConfigEnterPage</name>
     <message>
-        <source>Hold</source>
-        <translation>Halten</translation>
+        <source>JOIN CONFIG</source>
+        <translation>ANSCHLUSSART</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>SetupConfigPage</name>
+    <message>
+        <source>JOIN CONFIG</source>
+        <translation>ANSCHLUSSART</translation>
+    </message>
+    <message>
+        <source>Page 1</source>
+        <translation>Seite 1</translation>
+    </message>
+    <message>
+        <source>Page 2</source>
+        <translation>Seite 2</translation>
+    </message>
+    <message>
+        <source>Page 3</source>
+        <translation>Seite 3</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>SetupEditor</name>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFlicker</name>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Plt Weighting Curve</source>
+        <translation>Plt-Bewertungskurve</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFunctions</name>
+    <message>
+        <source>Functions</source>
+        <translation>Funktionen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source> Harmonics</source>
+        <translation> Harmonische</translation>
+    </message>
+    <message>
+        <source> Flicker</source>
+        <translation> Flicker</translation>
+    </message>
+    <message>
+        <source> Transients</source>
+        <translation> Transienten</translation>
+    </message>
+    <message>
+        <source> Inrush</source>
+        <translation> Einschaltstrom</translation>
+    </message>
+    <message>
+        <source> Mains Signaling</source>
+        <translation> Rundsteuersignale</translation>
+    </message>
+</context>
+<context>
+    <name>SetupInrush</name>
+    <message>
+        <source>Inrush</source>
+        <translation>Einschaltstrom</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>DAUER</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>Nennstrom</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Schwelle</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Hysterese</translation>
+    </message>
+</context>
+<context>
+    <name>SetupKFactor</name>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmonische</translation>
+    </message>
+    <message>
+        <source>K-factor method:</source>
+        <translation>K-Faktor, Verfahren:</translation>
+    </message>
+    <message>
+        <source>K-factor par. e:</source>
+        <translation>K-Faktor, Par. e:</translation>
+    </message>
+    <message>
+        <source>K-factor par. q:</source>
+        <translation>K-Faktor, Par. q:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMain</name>
+    <message>
+        <source>Config</source>
+        <translation>Anschluss</translation>
+    </message>
+    <message>
+        <source>Vnom</source>
+        <translation>Unenn</translation>
+    </message>
+    <message>
+        <source>Freq</source>
+        <translation>Freq</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Zange</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Nächste Seite</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainPage2</name>
+    <message>
+        <source>Limits</source>
+        <translation>Grenzwerte</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>Funktionen</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Vorige Seite</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainsSig</name>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Rundsteuersignale</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 1 (Hz)</source>
+        <translation>Rundsteuerfrequenz 1 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 1 (%)</source>
+        <translation>Erkennungsschwelle 1 (%)</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 2 (Hz)</source>
+        <translation>Rundsteuerfrequenz 2 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 2 (%)</source>
+        <translation>Erkennungsschwelle 2 (%)</translation>
+    </message>
+</context>
+<context>
+    <name>SetupSummary</name>
+    <message>
+        <source>Measurement</source>
+        <translation>Messung</translation>
+    </message>
+    <message>
+        <source>Config:</source>
+        <translation>Anschluss:</translation>
+    </message>
+    <message>
+        <source>Vnom:</source>
+        <translation>Unenn:</translation>
+    </message>
+    <message>
+        <source>Freq:</source>
+        <translation>Freq:</translation>
+    </message>
+    <message>
+        <source>Limits:</source>
+        <translation>Grenzwerte:</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>Phasen</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Neutralleiter</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Zange</translation>
+    </message>
+    <message>
+        <source>I Ratio</source>
+        <translation>I-Verhältnis</translation>
+    </message>
+    <message>
+        <source>V Ratio</source>
+        <translation>U-Verhältnis</translation>
+    </message>
+    <message>
+        <source>Irange</source>
+        <translation>I-Bereich</translation>
+    </message>
+</context>
+<context>
+    <name>SetupTransient</name>
+    <message>
+        <source>Transients</source>
+        <translation>Transienten</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Schwelle</translation>
+    </message>
+</context>
+<context>
+    <name>SetupVnomPage</name>
+    <message>
+        <source>Nominal Voltage</source>
+        <translation>Nennspannung</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Phase voltage</source>
+        <translation>Sternspannung</translation>
+    </message>
+    <message>
+        <source>Line voltage</source>
+        <translation>Leiterspannung</translation>
+    </message>
+    <message>
+        <source>Custom: Up and Down change the value</source>
+        <translation>Frei: Auf und Ab ändern den Wert</translation>
+    </message>
+    <message>
+        <source>Custom: %1</source>
+        <translation>Frei: %1</translation>
     </message>
 </context>
 <context>
@@ -929,20 +1242,12 @@ Soll sie überschrieben werden?</translation>
 <context>
     <name>TranStart</name>
     <message>
-        <source>TRIGGER ON:</source>
-        <translation>AUSLÖSER:</translation>
-    </message>
-    <message>
         <source>Events</source>
         <translation>Ereignisse</translation>
     </message>
     <message>
         <source>Default</source>
         <translation>Standard</translation>
-    </message>
-    <message>
-        <source>Hold</source>
-        <translation>Halten</translation>
     </message>
 </context>
 <context>
@@ -965,11 +1270,14 @@ Soll sie überschrieben werden?</translation>
     </message>
 </context>
 <context>
-    <name>TransView</name>
+    <name>TransScopePage</name>
     <message>
         <source>TRIGGER ON:</source>
         <translation>AUSLÖSER:</translation>
     </message>
+</context>
+<context>
+    <name>TransView</name>
     <message>
         <source>Prev</source>
         <translation>Vorher</translation>

@@ -119,6 +119,13 @@ in questa versione del software.</translation>
     </message>
 </context>
 <context>
+    <name>Calibration</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Calibrazione</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -133,7 +140,7 @@ in questa versione del software.</translation>
     <name>EventsPage</name>
     <message>
         <source>EVENTS :</source>
-        <translation>EVENTI :</translation>
+        <translation>Eventi :</translation>
     </message>
     <message>
         <source>Back</source>
@@ -313,11 +320,11 @@ in questa versione del software.</translation>
     </message>
     <message>
         <source>DURATION</source>
-        <translation>DURATA</translation>
+        <translation>Durata</translation>
     </message>
     <message>
         <source>Switch</source>
-        <translation>Cambia</translation>
+        <translation>Commutazione</translation>
     </message>
     <message>
         <source>On</source>
@@ -326,6 +333,25 @@ in questa versione del software.</translation>
     <message>
         <source>Off</source>
         <translation>Off</translation>
+    </message>
+</context>
+<context>
+    <name>InstrumentInfo</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>S/N</source>
+        <translation>S/N</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modello</translation>
     </message>
 </context>
 <context>
@@ -742,7 +768,7 @@ in rete</translation>
     </message>
     <message>
         <source>EVENTS :</source>
-        <translation>EVENTI :</translation>
+        <translation>Eventi :</translation>
     </message>
     <message>
         <source>I(%1)</source>
@@ -835,9 +861,296 @@ Sovrascriverlo?</translation>
         <source>Default</source>
         <translation>Predefinito</translation>
     </message>
+</context>
+<context>
+    <name>SetupConfigEnterPage</name>
     <message>
-        <source>Hold</source>
-        <translation>Blocca</translation>
+        <source>JOIN CONFIG</source>
+        <translation>COLLEGAMENTO</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>SetupConfigPage</name>
+    <message>
+        <source>JOIN CONFIG</source>
+        <translation>COLLEGAMENTO</translation>
+    </message>
+    <message>
+        <source>Page 1</source>
+        <translation>Pagina 1</translation>
+    </message>
+    <message>
+        <source>Page 2</source>
+        <translation>Pagina 2</translation>
+    </message>
+    <message>
+        <source>Page 3</source>
+        <translation>Pagina 3</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+</context>
+<context>
+    <name>SetupEditor</name>
+    <message>
+        <source>Default</source>
+        <translation>Predefinito</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFlicker</name>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Plt Weighting Curve</source>
+        <translation>Curva di ponderazione Plt</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFunctions</name>
+    <message>
+        <source>Functions</source>
+        <translation>Funzioni</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source> Harmonics</source>
+        <translation> Armoniche</translation>
+    </message>
+    <message>
+        <source> Flicker</source>
+        <translation> Flicker</translation>
+    </message>
+    <message>
+        <source> Transients</source>
+        <translation> Transitori</translation>
+    </message>
+    <message>
+        <source> Inrush</source>
+        <translation> Corrente di spunto</translation>
+    </message>
+    <message>
+        <source> Mains Signaling</source>
+        <translation> Segnali in rete</translation>
+    </message>
+</context>
+<context>
+    <name>SetupInrush</name>
+    <message>
+        <source>Inrush</source>
+        <translation>Corrente di spunto</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>DURATA</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>Corrente nominale</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Soglia</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Isteresi</translation>
+    </message>
+</context>
+<context>
+    <name>SetupKFactor</name>
+    <message>
+        <source>Harmonics</source>
+        <translation>Armoniche</translation>
+    </message>
+    <message>
+        <source>K-factor method:</source>
+        <translation>Metodo fattore K:</translation>
+    </message>
+    <message>
+        <source>K-factor par. e:</source>
+        <translation>Fattore K, par. e:</translation>
+    </message>
+    <message>
+        <source>K-factor par. q:</source>
+        <translation>Fattore K, par. q:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMain</name>
+    <message>
+        <source>Config</source>
+        <translation>Collegamento</translation>
+    </message>
+    <message>
+        <source>Vnom</source>
+        <translation>Unom</translation>
+    </message>
+    <message>
+        <source>Freq</source>
+        <translation>Freq</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Pinza</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Pagina succ.</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainPage2</name>
+    <message>
+        <source>Limits</source>
+        <translation>Limiti</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>Funzioni</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Pagina prec.</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainsSig</name>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Segnali in rete</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 1 (Hz)</source>
+        <translation>Frequenza segnale 1 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 1 (%)</source>
+        <translation>Soglia di rilevamento 1 (%)</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 2 (Hz)</source>
+        <translation>Frequenza segnale 2 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 2 (%)</source>
+        <translation>Soglia di rilevamento 2 (%)</translation>
+    </message>
+</context>
+<context>
+    <name>SetupSummary</name>
+    <message>
+        <source>Measurement</source>
+        <translation>Misura</translation>
+    </message>
+    <message>
+        <source>Config:</source>
+        <translation>Collegamento:</translation>
+    </message>
+    <message>
+        <source>Vnom:</source>
+        <translation>Unom:</translation>
+    </message>
+    <message>
+        <source>Freq:</source>
+        <translation>Freq:</translation>
+    </message>
+    <message>
+        <source>Limits:</source>
+        <translation>Limiti:</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>Fasi</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Neutro</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Pinza</translation>
+    </message>
+    <message>
+        <source>I Ratio</source>
+        <translation>Rapporto I</translation>
+    </message>
+    <message>
+        <source>V Ratio</source>
+        <translation>Rapporto U</translation>
+    </message>
+    <message>
+        <source>Irange</source>
+        <translation>Portata I</translation>
+    </message>
+</context>
+<context>
+    <name>SetupTransient</name>
+    <message>
+        <source>Transients</source>
+        <translation>Transitori</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Soglia</translation>
+    </message>
+</context>
+<context>
+    <name>SetupVnomPage</name>
+    <message>
+        <source>Nominal Voltage</source>
+        <translation>Tensione nominale</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Phase voltage</source>
+        <translation>Tensione di fase</translation>
+    </message>
+    <message>
+        <source>Line voltage</source>
+        <translation>Tensione concatenata</translation>
+    </message>
+    <message>
+        <source>Custom: Up and Down change the value</source>
+        <translation>Libero: Su e Giù cambiano il valore</translation>
+    </message>
+    <message>
+        <source>Custom: %1</source>
+        <translation>Libero: %1</translation>
     </message>
 </context>
 <context>
@@ -929,20 +1242,12 @@ Sovrascriverlo?</translation>
 <context>
     <name>TranStart</name>
     <message>
-        <source>TRIGGER ON:</source>
-        <translation>TRIGGER:</translation>
-    </message>
-    <message>
         <source>Events</source>
         <translation>Eventi</translation>
     </message>
     <message>
         <source>Default</source>
         <translation>Predefinito</translation>
-    </message>
-    <message>
-        <source>Hold</source>
-        <translation>Blocca</translation>
     </message>
 </context>
 <context>
@@ -965,11 +1270,14 @@ Sovrascriverlo?</translation>
     </message>
 </context>
 <context>
-    <name>TransView</name>
+    <name>TransScopePage</name>
     <message>
         <source>TRIGGER ON:</source>
         <translation>TRIGGER:</translation>
     </message>
+</context>
+<context>
+    <name>TransView</name>
     <message>
         <source>Prev</source>
         <translation>Precedente</translation>

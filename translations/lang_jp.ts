@@ -119,6 +119,13 @@ in this software version.</source>
     </message>
 </context>
 <context>
+    <name>Calibration</name>
+    <message>
+        <source>Calibration</source>
+        <translation>校正</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -317,7 +324,7 @@ in this software version.</source>
     </message>
     <message>
         <source>Switch</source>
-        <translation>切替</translation>
+        <translation>スイッチ</translation>
     </message>
     <message>
         <source>On</source>
@@ -326,6 +333,25 @@ in this software version.</source>
     <message>
         <source>Off</source>
         <translation>オフ</translation>
+    </message>
+</context>
+<context>
+    <name>InstrumentInfo</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>S/N</source>
+        <translation>S/N</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型式</translation>
     </message>
 </context>
 <context>
@@ -835,9 +861,296 @@ Do you want to overwrite it?</source>
         <source>Default</source>
         <translation>初期値</translation>
     </message>
+</context>
+<context>
+    <name>SetupConfigEnterPage</name>
     <message>
-        <source>Hold</source>
-        <translation>ホールド</translation>
+        <source>JOIN CONFIG</source>
+        <translation>結線設定</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>SetupConfigPage</name>
+    <message>
+        <source>JOIN CONFIG</source>
+        <translation>結線設定</translation>
+    </message>
+    <message>
+        <source>Page 1</source>
+        <translation>1 ページ</translation>
+    </message>
+    <message>
+        <source>Page 2</source>
+        <translation>2 ページ</translation>
+    </message>
+    <message>
+        <source>Page 3</source>
+        <translation>3 ページ</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>SetupEditor</name>
+    <message>
+        <source>Default</source>
+        <translation>初期値</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFlicker</name>
+    <message>
+        <source>Flicker</source>
+        <translation>フリッカ</translation>
+    </message>
+    <message>
+        <source>Plt Weighting Curve</source>
+        <translation>Plt 重み付け曲線</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFunctions</name>
+    <message>
+        <source>Functions</source>
+        <translation>機能</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source> Harmonics</source>
+        <translation> 高調波</translation>
+    </message>
+    <message>
+        <source> Flicker</source>
+        <translation> フリッカ</translation>
+    </message>
+    <message>
+        <source> Transients</source>
+        <translation> トランジェント</translation>
+    </message>
+    <message>
+        <source> Inrush</source>
+        <translation> 突入電流</translation>
+    </message>
+    <message>
+        <source> Mains Signaling</source>
+        <translation> 電源重畳信号</translation>
+    </message>
+</context>
+<context>
+    <name>SetupInrush</name>
+    <message>
+        <source>Inrush</source>
+        <translation>突入電流</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>継続時間</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>定格電流</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>しきい値</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>ヒステリシス</translation>
+    </message>
+</context>
+<context>
+    <name>SetupKFactor</name>
+    <message>
+        <source>Harmonics</source>
+        <translation>高調波</translation>
+    </message>
+    <message>
+        <source>K-factor method:</source>
+        <translation>K ファクタ方式:</translation>
+    </message>
+    <message>
+        <source>K-factor par. e:</source>
+        <translation>K ファクタ e:</translation>
+    </message>
+    <message>
+        <source>K-factor par. q:</source>
+        <translation>K ファクタ q:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMain</name>
+    <message>
+        <source>Config</source>
+        <translation>結線</translation>
+    </message>
+    <message>
+        <source>Vnom</source>
+        <translation>公称電圧</translation>
+    </message>
+    <message>
+        <source>Freq</source>
+        <translation>周波数</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>クランプ</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>次ページ</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainPage2</name>
+    <message>
+        <source>Limits</source>
+        <translation>限度値</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>機能</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>前ページ</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainsSig</name>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>電源重畳信号</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 1 (Hz)</source>
+        <translation>信号周波数 1 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 1 (%)</source>
+        <translation>検出しきい値 1 (%)</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 2 (Hz)</source>
+        <translation>信号周波数 2 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 2 (%)</source>
+        <translation>検出しきい値 2 (%)</translation>
+    </message>
+</context>
+<context>
+    <name>SetupSummary</name>
+    <message>
+        <source>Measurement</source>
+        <translation>測定</translation>
+    </message>
+    <message>
+        <source>Config:</source>
+        <translation>結線:</translation>
+    </message>
+    <message>
+        <source>Vnom:</source>
+        <translation>公称電圧:</translation>
+    </message>
+    <message>
+        <source>Freq:</source>
+        <translation>周波数:</translation>
+    </message>
+    <message>
+        <source>Limits:</source>
+        <translation>限度値:</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>相</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>中性線</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>クランプ</translation>
+    </message>
+    <message>
+        <source>I Ratio</source>
+        <translation>CT 比</translation>
+    </message>
+    <message>
+        <source>V Ratio</source>
+        <translation>VT 比</translation>
+    </message>
+    <message>
+        <source>Irange</source>
+        <translation>電流レンジ</translation>
+    </message>
+</context>
+<context>
+    <name>SetupTransient</name>
+    <message>
+        <source>Transients</source>
+        <translation>トランジェント</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>しきい値</translation>
+    </message>
+</context>
+<context>
+    <name>SetupVnomPage</name>
+    <message>
+        <source>Nominal Voltage</source>
+        <translation>公称電圧</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Phase voltage</source>
+        <translation>相電圧</translation>
+    </message>
+    <message>
+        <source>Line voltage</source>
+        <translation>線間電圧</translation>
+    </message>
+    <message>
+        <source>Custom: Up and Down change the value</source>
+        <translation>任意: 上下キーで値を変更</translation>
+    </message>
+    <message>
+        <source>Custom: %1</source>
+        <translation>任意: %1</translation>
     </message>
 </context>
 <context>
@@ -929,20 +1242,12 @@ Do you want to overwrite it?</source>
 <context>
     <name>TranStart</name>
     <message>
-        <source>TRIGGER ON:</source>
-        <translation>トリガ:</translation>
-    </message>
-    <message>
         <source>Events</source>
         <translation>イベント</translation>
     </message>
     <message>
         <source>Default</source>
         <translation>初期値</translation>
-    </message>
-    <message>
-        <source>Hold</source>
-        <translation>ホールド</translation>
     </message>
 </context>
 <context>
@@ -965,11 +1270,14 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
-    <name>TransView</name>
+    <name>TransScopePage</name>
     <message>
         <source>TRIGGER ON:</source>
         <translation>トリガ:</translation>
     </message>
+</context>
+<context>
+    <name>TransView</name>
     <message>
         <source>Prev</source>
         <translation>前へ</translation>

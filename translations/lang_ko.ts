@@ -119,6 +119,13 @@ in this software version.</source>
     </message>
 </context>
 <context>
+    <name>Calibration</name>
+    <message>
+        <source>Calibration</source>
+        <translation>교정</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -317,7 +324,7 @@ in this software version.</source>
     </message>
     <message>
         <source>Switch</source>
-        <translation>전환</translation>
+        <translation>스위치</translation>
     </message>
     <message>
         <source>On</source>
@@ -326,6 +333,25 @@ in this software version.</source>
     <message>
         <source>Off</source>
         <translation>끔</translation>
+    </message>
+</context>
+<context>
+    <name>InstrumentInfo</name>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>S/N</source>
+        <translation>S/N</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>모델</translation>
     </message>
 </context>
 <context>
@@ -835,9 +861,296 @@ Do you want to overwrite it?</source>
         <source>Default</source>
         <translation>기본값</translation>
     </message>
+</context>
+<context>
+    <name>SetupConfigEnterPage</name>
     <message>
-        <source>Hold</source>
-        <translation>홀드</translation>
+        <source>JOIN CONFIG</source>
+        <translation>결선 설정</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>SetupConfigPage</name>
+    <message>
+        <source>JOIN CONFIG</source>
+        <translation>결선 설정</translation>
+    </message>
+    <message>
+        <source>Page 1</source>
+        <translation>1페이지</translation>
+    </message>
+    <message>
+        <source>Page 2</source>
+        <translation>2페이지</translation>
+    </message>
+    <message>
+        <source>Page 3</source>
+        <translation>3페이지</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+</context>
+<context>
+    <name>SetupEditor</name>
+    <message>
+        <source>Default</source>
+        <translation>기본값</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFlicker</name>
+    <message>
+        <source>Flicker</source>
+        <translation>플리커</translation>
+    </message>
+    <message>
+        <source>Plt Weighting Curve</source>
+        <translation>Plt 가중 곡선</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFunctions</name>
+    <message>
+        <source>Functions</source>
+        <translation>기능</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source> Harmonics</source>
+        <translation> 고조파</translation>
+    </message>
+    <message>
+        <source> Flicker</source>
+        <translation> 플리커</translation>
+    </message>
+    <message>
+        <source> Transients</source>
+        <translation> 과도현상</translation>
+    </message>
+    <message>
+        <source> Inrush</source>
+        <translation> 돌입전류</translation>
+    </message>
+    <message>
+        <source> Mains Signaling</source>
+        <translation> 전원 신호</translation>
+    </message>
+</context>
+<context>
+    <name>SetupInrush</name>
+    <message>
+        <source>Inrush</source>
+        <translation>돌입전류</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>지속시간</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>정격전류</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>임계값</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>히스테리시스</translation>
+    </message>
+</context>
+<context>
+    <name>SetupKFactor</name>
+    <message>
+        <source>Harmonics</source>
+        <translation>고조파</translation>
+    </message>
+    <message>
+        <source>K-factor method:</source>
+        <translation>K-팩터 방식:</translation>
+    </message>
+    <message>
+        <source>K-factor par. e:</source>
+        <translation>K-팩터 변수 e:</translation>
+    </message>
+    <message>
+        <source>K-factor par. q:</source>
+        <translation>K-팩터 변수 q:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMain</name>
+    <message>
+        <source>Config</source>
+        <translation>결선</translation>
+    </message>
+    <message>
+        <source>Vnom</source>
+        <translation>공칭 전압</translation>
+    </message>
+    <message>
+        <source>Freq</source>
+        <translation>주파수</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>클램프</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>다음 페이지</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainPage2</name>
+    <message>
+        <source>Limits</source>
+        <translation>한계값</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>기능</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>이전 페이지</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainsSig</name>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>전원 신호</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 1 (Hz)</source>
+        <translation>신호 주파수 1 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 1 (%)</source>
+        <translation>검출 임계값 1 (%)</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 2 (Hz)</source>
+        <translation>신호 주파수 2 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 2 (%)</source>
+        <translation>검출 임계값 2 (%)</translation>
+    </message>
+</context>
+<context>
+    <name>SetupSummary</name>
+    <message>
+        <source>Measurement</source>
+        <translation>측정</translation>
+    </message>
+    <message>
+        <source>Config:</source>
+        <translation>결선:</translation>
+    </message>
+    <message>
+        <source>Vnom:</source>
+        <translation>공칭 전압:</translation>
+    </message>
+    <message>
+        <source>Freq:</source>
+        <translation>주파수:</translation>
+    </message>
+    <message>
+        <source>Limits:</source>
+        <translation>한계값:</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>상</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>중성선</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>클램프</translation>
+    </message>
+    <message>
+        <source>I Ratio</source>
+        <translation>CT 비</translation>
+    </message>
+    <message>
+        <source>V Ratio</source>
+        <translation>VT 비</translation>
+    </message>
+    <message>
+        <source>Irange</source>
+        <translation>전류 범위</translation>
+    </message>
+</context>
+<context>
+    <name>SetupTransient</name>
+    <message>
+        <source>Transients</source>
+        <translation>과도현상</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>임계값</translation>
+    </message>
+</context>
+<context>
+    <name>SetupVnomPage</name>
+    <message>
+        <source>Nominal Voltage</source>
+        <translation>공칭 전압</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Phase voltage</source>
+        <translation>상전압</translation>
+    </message>
+    <message>
+        <source>Line voltage</source>
+        <translation>선간전압</translation>
+    </message>
+    <message>
+        <source>Custom: Up and Down change the value</source>
+        <translation>사용자: 위/아래 키로 값 변경</translation>
+    </message>
+    <message>
+        <source>Custom: %1</source>
+        <translation>사용자: %1</translation>
     </message>
 </context>
 <context>
@@ -929,20 +1242,12 @@ Do you want to overwrite it?</source>
 <context>
     <name>TranStart</name>
     <message>
-        <source>TRIGGER ON:</source>
-        <translation>트리거:</translation>
-    </message>
-    <message>
         <source>Events</source>
         <translation>이벤트</translation>
     </message>
     <message>
         <source>Default</source>
         <translation>기본값</translation>
-    </message>
-    <message>
-        <source>Hold</source>
-        <translation>홀드</translation>
     </message>
 </context>
 <context>
@@ -965,11 +1270,14 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
-    <name>TransView</name>
+    <name>TransScopePage</name>
     <message>
         <source>TRIGGER ON:</source>
         <translation>트리거:</translation>
     </message>
+</context>
+<context>
+    <name>TransView</name>
     <message>
         <source>Prev</source>
         <translation>이전</translation>

@@ -119,6 +119,13 @@ w tej wersji oprogramowania.</translation>
     </message>
 </context>
 <context>
+    <name>Calibration</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Kalibracja</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -133,7 +140,7 @@ w tej wersji oprogramowania.</translation>
     <name>EventsPage</name>
     <message>
         <source>EVENTS :</source>
-        <translation>ZDARZENIA :</translation>
+        <translation>Zdarzenia:</translation>
     </message>
     <message>
         <source>Back</source>
@@ -313,11 +320,11 @@ w tej wersji oprogramowania.</translation>
     </message>
     <message>
         <source>DURATION</source>
-        <translation>CZAS TRW.</translation>
+        <translation>Czas trwania</translation>
     </message>
     <message>
         <source>Switch</source>
-        <translation>Przełącz</translation>
+        <translation>Załączenie</translation>
     </message>
     <message>
         <source>On</source>
@@ -326,6 +333,25 @@ w tej wersji oprogramowania.</translation>
     <message>
         <source>Off</source>
         <translation>Wył.</translation>
+    </message>
+</context>
+<context>
+    <name>InstrumentInfo</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>S/N</source>
+        <translation>S/N</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Model</translation>
     </message>
 </context>
 <context>
@@ -742,7 +768,7 @@ w sieci</translation>
     </message>
     <message>
         <source>EVENTS :</source>
-        <translation>ZDARZENIA :</translation>
+        <translation>Zdarzenia:</translation>
     </message>
     <message>
         <source>I(%1)</source>
@@ -835,9 +861,296 @@ Czy go zastąpić?</translation>
         <source>Default</source>
         <translation>Domyślne</translation>
     </message>
+</context>
+<context>
+    <name>SetupConfigEnterPage</name>
     <message>
-        <source>Hold</source>
-        <translation>Zatrzymaj</translation>
+        <source>JOIN CONFIG</source>
+        <translation>UKŁAD POŁĄCZEŃ</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>SetupConfigPage</name>
+    <message>
+        <source>JOIN CONFIG</source>
+        <translation>UKŁAD POŁĄCZEŃ</translation>
+    </message>
+    <message>
+        <source>Page 1</source>
+        <translation>Strona 1</translation>
+    </message>
+    <message>
+        <source>Page 2</source>
+        <translation>Strona 2</translation>
+    </message>
+    <message>
+        <source>Page 3</source>
+        <translation>Strona 3</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Wstecz</translation>
+    </message>
+</context>
+<context>
+    <name>SetupEditor</name>
+    <message>
+        <source>Default</source>
+        <translation>Domyślne</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Wstecz</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFlicker</name>
+    <message>
+        <source>Flicker</source>
+        <translation>Migotanie</translation>
+    </message>
+    <message>
+        <source>Plt Weighting Curve</source>
+        <translation>Krzywa wagowa Plt</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFunctions</name>
+    <message>
+        <source>Functions</source>
+        <translation>Funkcje</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Wstecz</translation>
+    </message>
+    <message>
+        <source> Harmonics</source>
+        <translation> Harmoniczne</translation>
+    </message>
+    <message>
+        <source> Flicker</source>
+        <translation> Migotanie</translation>
+    </message>
+    <message>
+        <source> Transients</source>
+        <translation> Transjenty</translation>
+    </message>
+    <message>
+        <source> Inrush</source>
+        <translation> Prąd rozruchu</translation>
+    </message>
+    <message>
+        <source> Mains Signaling</source>
+        <translation> Sygnały w sieci</translation>
+    </message>
+</context>
+<context>
+    <name>SetupInrush</name>
+    <message>
+        <source>Inrush</source>
+        <translation>Prąd rozruchu</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>CZAS TRW.</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>Prąd znam.</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Próg</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Histereza</translation>
+    </message>
+</context>
+<context>
+    <name>SetupKFactor</name>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmoniczne</translation>
+    </message>
+    <message>
+        <source>K-factor method:</source>
+        <translation>Metoda wsp. K:</translation>
+    </message>
+    <message>
+        <source>K-factor par. e:</source>
+        <translation>Wsp. K, par. e:</translation>
+    </message>
+    <message>
+        <source>K-factor par. q:</source>
+        <translation>Wsp. K, par. q:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMain</name>
+    <message>
+        <source>Config</source>
+        <translation>Układ</translation>
+    </message>
+    <message>
+        <source>Vnom</source>
+        <translation>Uznam</translation>
+    </message>
+    <message>
+        <source>Freq</source>
+        <translation>Częst.</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Cęgi</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Nast. strona</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainPage2</name>
+    <message>
+        <source>Limits</source>
+        <translation>Limity</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>Funkcje</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Poprz. strona</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainsSig</name>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Sygnały w sieci</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 1 (Hz)</source>
+        <translation>Częst. sygnału 1 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 1 (%)</source>
+        <translation>Próg detekcji 1 (%)</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 2 (Hz)</source>
+        <translation>Częst. sygnału 2 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 2 (%)</source>
+        <translation>Próg detekcji 2 (%)</translation>
+    </message>
+</context>
+<context>
+    <name>SetupSummary</name>
+    <message>
+        <source>Measurement</source>
+        <translation>Pomiar</translation>
+    </message>
+    <message>
+        <source>Config:</source>
+        <translation>Układ:</translation>
+    </message>
+    <message>
+        <source>Vnom:</source>
+        <translation>Uznam:</translation>
+    </message>
+    <message>
+        <source>Freq:</source>
+        <translation>Częst.:</translation>
+    </message>
+    <message>
+        <source>Limits:</source>
+        <translation>Limity:</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>Fazy</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Neutralny</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Cęgi</translation>
+    </message>
+    <message>
+        <source>I Ratio</source>
+        <translation>Przekł. I</translation>
+    </message>
+    <message>
+        <source>V Ratio</source>
+        <translation>Przekł. U</translation>
+    </message>
+    <message>
+        <source>Irange</source>
+        <translation>Zakres I</translation>
+    </message>
+</context>
+<context>
+    <name>SetupTransient</name>
+    <message>
+        <source>Transients</source>
+        <translation>Transjenty</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Próg</translation>
+    </message>
+</context>
+<context>
+    <name>SetupVnomPage</name>
+    <message>
+        <source>Nominal Voltage</source>
+        <translation>Napięcie znamionowe</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Phase voltage</source>
+        <translation>Napięcie fazowe</translation>
+    </message>
+    <message>
+        <source>Line voltage</source>
+        <translation>Napięcie międzyfazowe</translation>
+    </message>
+    <message>
+        <source>Custom: Up and Down change the value</source>
+        <translation>Własne: klawisze góra i dół zmieniają wartość</translation>
+    </message>
+    <message>
+        <source>Custom: %1</source>
+        <translation>Własne: %1</translation>
     </message>
 </context>
 <context>
@@ -929,20 +1242,12 @@ Czy go zastąpić?</translation>
 <context>
     <name>TranStart</name>
     <message>
-        <source>TRIGGER ON:</source>
-        <translation>WYZWOL.:</translation>
-    </message>
-    <message>
         <source>Events</source>
         <translation>Zdarzenia</translation>
     </message>
     <message>
         <source>Default</source>
         <translation>Domyślne</translation>
-    </message>
-    <message>
-        <source>Hold</source>
-        <translation>Zatrzymaj</translation>
     </message>
 </context>
 <context>
@@ -965,11 +1270,14 @@ Czy go zastąpić?</translation>
     </message>
 </context>
 <context>
-    <name>TransView</name>
+    <name>TransScopePage</name>
     <message>
         <source>TRIGGER ON:</source>
         <translation>WYZWOL.:</translation>
     </message>
+</context>
+<context>
+    <name>TransView</name>
     <message>
         <source>Prev</source>
         <translation>Poprz.</translation>

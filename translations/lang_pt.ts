@@ -119,6 +119,13 @@ nesta versão do software.</translation>
     </message>
 </context>
 <context>
+    <name>Calibration</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Calibração</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -133,7 +140,7 @@ nesta versão do software.</translation>
     <name>EventsPage</name>
     <message>
         <source>EVENTS :</source>
-        <translation>EVENTOS :</translation>
+        <translation>Eventos :</translation>
     </message>
     <message>
         <source>Back</source>
@@ -313,11 +320,11 @@ nesta versão do software.</translation>
     </message>
     <message>
         <source>DURATION</source>
-        <translation>DURAÇÃO</translation>
+        <translation>Duração</translation>
     </message>
     <message>
         <source>Switch</source>
-        <translation>Mudar</translation>
+        <translation>Comutação</translation>
     </message>
     <message>
         <source>On</source>
@@ -326,6 +333,25 @@ nesta versão do software.</translation>
     <message>
         <source>Off</source>
         <translation>Desl.</translation>
+    </message>
+</context>
+<context>
+    <name>InstrumentInfo</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>S/N</source>
+        <translation>S/N</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modelo</translation>
     </message>
 </context>
 <context>
@@ -742,7 +768,7 @@ na rede</translation>
     </message>
     <message>
         <source>EVENTS :</source>
-        <translation>EVENTOS :</translation>
+        <translation>Eventos :</translation>
     </message>
     <message>
         <source>I(%1)</source>
@@ -835,9 +861,296 @@ Deseja substituí-lo?</translation>
         <source>Default</source>
         <translation>Predefin.</translation>
     </message>
+</context>
+<context>
+    <name>SetupConfigEnterPage</name>
     <message>
-        <source>Hold</source>
-        <translation>Reter</translation>
+        <source>JOIN CONFIG</source>
+        <translation>LIGAÇÃO</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>SetupConfigPage</name>
+    <message>
+        <source>JOIN CONFIG</source>
+        <translation>LIGAÇÃO</translation>
+    </message>
+    <message>
+        <source>Page 1</source>
+        <translation>Página 1</translation>
+    </message>
+    <message>
+        <source>Page 2</source>
+        <translation>Página 2</translation>
+    </message>
+    <message>
+        <source>Page 3</source>
+        <translation>Página 3</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+</context>
+<context>
+    <name>SetupEditor</name>
+    <message>
+        <source>Default</source>
+        <translation>Predefin.</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFlicker</name>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Plt Weighting Curve</source>
+        <translation>Curva de ponderação Plt</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFunctions</name>
+    <message>
+        <source>Functions</source>
+        <translation>Funções</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source> Harmonics</source>
+        <translation> Harmónicas</translation>
+    </message>
+    <message>
+        <source> Flicker</source>
+        <translation> Flicker</translation>
+    </message>
+    <message>
+        <source> Transients</source>
+        <translation> Transitórios</translation>
+    </message>
+    <message>
+        <source> Inrush</source>
+        <translation> Corr. de arranque</translation>
+    </message>
+    <message>
+        <source> Mains Signaling</source>
+        <translation> Sinais na rede</translation>
+    </message>
+</context>
+<context>
+    <name>SetupInrush</name>
+    <message>
+        <source>Inrush</source>
+        <translation>Corr. de arranque</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>DURAÇÃO</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>Corrente nominal</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Limiar</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Histerese</translation>
+    </message>
+</context>
+<context>
+    <name>SetupKFactor</name>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmónicas</translation>
+    </message>
+    <message>
+        <source>K-factor method:</source>
+        <translation>Método do fator K:</translation>
+    </message>
+    <message>
+        <source>K-factor par. e:</source>
+        <translation>Fator K, par. e:</translation>
+    </message>
+    <message>
+        <source>K-factor par. q:</source>
+        <translation>Fator K, par. q:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMain</name>
+    <message>
+        <source>Config</source>
+        <translation>Ligação</translation>
+    </message>
+    <message>
+        <source>Vnom</source>
+        <translation>Unom</translation>
+    </message>
+    <message>
+        <source>Freq</source>
+        <translation>Freq</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Pinça</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Pág. seguinte</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainPage2</name>
+    <message>
+        <source>Limits</source>
+        <translation>Limites</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>Funções</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Pág. anterior</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainsSig</name>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Sinais na rede</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 1 (Hz)</source>
+        <translation>Frequência do sinal 1 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 1 (%)</source>
+        <translation>Limiar de deteção 1 (%)</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 2 (Hz)</source>
+        <translation>Frequência do sinal 2 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 2 (%)</source>
+        <translation>Limiar de deteção 2 (%)</translation>
+    </message>
+</context>
+<context>
+    <name>SetupSummary</name>
+    <message>
+        <source>Measurement</source>
+        <translation>Medição</translation>
+    </message>
+    <message>
+        <source>Config:</source>
+        <translation>Ligação:</translation>
+    </message>
+    <message>
+        <source>Vnom:</source>
+        <translation>Unom:</translation>
+    </message>
+    <message>
+        <source>Freq:</source>
+        <translation>Freq:</translation>
+    </message>
+    <message>
+        <source>Limits:</source>
+        <translation>Limites:</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>Fases</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Neutro</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Pinça</translation>
+    </message>
+    <message>
+        <source>I Ratio</source>
+        <translation>Relação I</translation>
+    </message>
+    <message>
+        <source>V Ratio</source>
+        <translation>Relação U</translation>
+    </message>
+    <message>
+        <source>Irange</source>
+        <translation>Escala I</translation>
+    </message>
+</context>
+<context>
+    <name>SetupTransient</name>
+    <message>
+        <source>Transients</source>
+        <translation>Transitórios</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Limiar</translation>
+    </message>
+</context>
+<context>
+    <name>SetupVnomPage</name>
+    <message>
+        <source>Nominal Voltage</source>
+        <translation>Tensão nominal</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Phase voltage</source>
+        <translation>Tensão simples</translation>
+    </message>
+    <message>
+        <source>Line voltage</source>
+        <translation>Tensão composta</translation>
+    </message>
+    <message>
+        <source>Custom: Up and Down change the value</source>
+        <translation>Livre: Cima e Baixo alteram o valor</translation>
+    </message>
+    <message>
+        <source>Custom: %1</source>
+        <translation>Livre: %1</translation>
     </message>
 </context>
 <context>
@@ -929,20 +1242,12 @@ Deseja substituí-lo?</translation>
 <context>
     <name>TranStart</name>
     <message>
-        <source>TRIGGER ON:</source>
-        <translation>DISPARO:</translation>
-    </message>
-    <message>
         <source>Events</source>
         <translation>Eventos</translation>
     </message>
     <message>
         <source>Default</source>
         <translation>Predefin.</translation>
-    </message>
-    <message>
-        <source>Hold</source>
-        <translation>Reter</translation>
     </message>
 </context>
 <context>
@@ -965,11 +1270,14 @@ Deseja substituí-lo?</translation>
     </message>
 </context>
 <context>
-    <name>TransView</name>
+    <name>TransScopePage</name>
     <message>
         <source>TRIGGER ON:</source>
         <translation>DISPARO:</translation>
     </message>
+</context>
+<context>
+    <name>TransView</name>
     <message>
         <source>Prev</source>
         <translation>Anterior</translation>

@@ -119,6 +119,13 @@ in this software version.</source>
     </message>
 </context>
 <context>
+    <name>Calibration</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Калибровка</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -133,7 +140,7 @@ in this software version.</source>
     <name>EventsPage</name>
     <message>
         <source>EVENTS :</source>
-        <translation>СОБЫТИЯ :</translation>
+        <translation>События :</translation>
     </message>
     <message>
         <source>Back</source>
@@ -313,11 +320,11 @@ in this software version.</source>
     </message>
     <message>
         <source>DURATION</source>
-        <translation>ДЛИТЕЛЬН.</translation>
+        <translation>Длительность</translation>
     </message>
     <message>
         <source>Switch</source>
-        <translation>Переключить</translation>
+        <translation>Включение</translation>
     </message>
     <message>
         <source>On</source>
@@ -326,6 +333,25 @@ in this software version.</source>
     <message>
         <source>Off</source>
         <translation>Выкл</translation>
+    </message>
+</context>
+<context>
+    <name>InstrumentInfo</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>S/N</source>
+        <translation>S/N</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Модель</translation>
     </message>
 </context>
 <context>
@@ -742,7 +768,7 @@ Signaling</source>
     </message>
     <message>
         <source>EVENTS :</source>
-        <translation>СОБЫТИЯ :</translation>
+        <translation>События :</translation>
     </message>
     <message>
         <source>I(%1)</source>
@@ -835,9 +861,296 @@ Do you want to overwrite it?</source>
         <source>Default</source>
         <translation>По умолч.</translation>
     </message>
+</context>
+<context>
+    <name>SetupConfigEnterPage</name>
     <message>
-        <source>Hold</source>
-        <translation>Удержание</translation>
+        <source>JOIN CONFIG</source>
+        <translation>СХЕМА ПОДКЛЮЧЕНИЯ</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>SetupConfigPage</name>
+    <message>
+        <source>JOIN CONFIG</source>
+        <translation>СХЕМА ПОДКЛЮЧЕНИЯ</translation>
+    </message>
+    <message>
+        <source>Page 1</source>
+        <translation>Стр. 1</translation>
+    </message>
+    <message>
+        <source>Page 2</source>
+        <translation>Стр. 2</translation>
+    </message>
+    <message>
+        <source>Page 3</source>
+        <translation>Стр. 3</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+</context>
+<context>
+    <name>SetupEditor</name>
+    <message>
+        <source>Default</source>
+        <translation>По умолч.</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFlicker</name>
+    <message>
+        <source>Flicker</source>
+        <translation>Фликер</translation>
+    </message>
+    <message>
+        <source>Plt Weighting Curve</source>
+        <translation>Кривая взвешивания Plt</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFunctions</name>
+    <message>
+        <source>Functions</source>
+        <translation>Функции</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source> Harmonics</source>
+        <translation> Гармоники</translation>
+    </message>
+    <message>
+        <source> Flicker</source>
+        <translation> Фликер</translation>
+    </message>
+    <message>
+        <source> Transients</source>
+        <translation> Импульсы</translation>
+    </message>
+    <message>
+        <source> Inrush</source>
+        <translation> Пусковой ток</translation>
+    </message>
+    <message>
+        <source> Mains Signaling</source>
+        <translation> Сигналы в сети</translation>
+    </message>
+</context>
+<context>
+    <name>SetupInrush</name>
+    <message>
+        <source>Inrush</source>
+        <translation>Пусковой ток</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>ДЛИТЕЛЬН.</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>Номин. ток</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Порог</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Гистерезис</translation>
+    </message>
+</context>
+<context>
+    <name>SetupKFactor</name>
+    <message>
+        <source>Harmonics</source>
+        <translation>Гармоники</translation>
+    </message>
+    <message>
+        <source>K-factor method:</source>
+        <translation>Метод K-фактора:</translation>
+    </message>
+    <message>
+        <source>K-factor par. e:</source>
+        <translation>Парам. e K-фактора:</translation>
+    </message>
+    <message>
+        <source>K-factor par. q:</source>
+        <translation>Парам. q K-фактора:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMain</name>
+    <message>
+        <source>Config</source>
+        <translation>Схема</translation>
+    </message>
+    <message>
+        <source>Vnom</source>
+        <translation>Uном</translation>
+    </message>
+    <message>
+        <source>Freq</source>
+        <translation>Частота</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Клещи</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>След. стр.</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainPage2</name>
+    <message>
+        <source>Limits</source>
+        <translation>Пределы</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>Функции</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Пред. стр.</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainsSig</name>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Сигналы в сети</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 1 (Hz)</source>
+        <translation>Частота сигнала 1 (Гц)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 1 (%)</source>
+        <translation>Порог обнаружения 1 (%)</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 2 (Hz)</source>
+        <translation>Частота сигнала 2 (Гц)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 2 (%)</source>
+        <translation>Порог обнаружения 2 (%)</translation>
+    </message>
+</context>
+<context>
+    <name>SetupSummary</name>
+    <message>
+        <source>Measurement</source>
+        <translation>Измерение</translation>
+    </message>
+    <message>
+        <source>Config:</source>
+        <translation>Схема:</translation>
+    </message>
+    <message>
+        <source>Vnom:</source>
+        <translation>Uном:</translation>
+    </message>
+    <message>
+        <source>Freq:</source>
+        <translation>Частота:</translation>
+    </message>
+    <message>
+        <source>Limits:</source>
+        <translation>Пределы:</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>Фазы</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Нейтраль</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Клещи</translation>
+    </message>
+    <message>
+        <source>I Ratio</source>
+        <translation>Коэф. ТТ</translation>
+    </message>
+    <message>
+        <source>V Ratio</source>
+        <translation>Коэф. ТН</translation>
+    </message>
+    <message>
+        <source>Irange</source>
+        <translation>Диапазон I</translation>
+    </message>
+</context>
+<context>
+    <name>SetupTransient</name>
+    <message>
+        <source>Transients</source>
+        <translation>Импульсы</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Порог</translation>
+    </message>
+</context>
+<context>
+    <name>SetupVnomPage</name>
+    <message>
+        <source>Nominal Voltage</source>
+        <translation>Номинальное напряжение</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Phase voltage</source>
+        <translation>Фазное напряжение</translation>
+    </message>
+    <message>
+        <source>Line voltage</source>
+        <translation>Линейное напряжение</translation>
+    </message>
+    <message>
+        <source>Custom: Up and Down change the value</source>
+        <translation>Своё: значение меняется клавишами вверх и вниз</translation>
+    </message>
+    <message>
+        <source>Custom: %1</source>
+        <translation>Своё: %1</translation>
     </message>
 </context>
 <context>
@@ -929,20 +1242,12 @@ Do you want to overwrite it?</source>
 <context>
     <name>TranStart</name>
     <message>
-        <source>TRIGGER ON:</source>
-        <translation>ЗАПУСК:</translation>
-    </message>
-    <message>
         <source>Events</source>
         <translation>События</translation>
     </message>
     <message>
         <source>Default</source>
         <translation>По умолч.</translation>
-    </message>
-    <message>
-        <source>Hold</source>
-        <translation>Удержание</translation>
     </message>
 </context>
 <context>
@@ -965,11 +1270,14 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
-    <name>TransView</name>
+    <name>TransScopePage</name>
     <message>
         <source>TRIGGER ON:</source>
         <translation>ЗАПУСК:</translation>
     </message>
+</context>
+<context>
+    <name>TransView</name>
     <message>
         <source>Prev</source>
         <translation>Пред.</translation>

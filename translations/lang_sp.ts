@@ -119,6 +119,13 @@ en esta versión del software.</translation>
     </message>
 </context>
 <context>
+    <name>Calibration</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Calibración</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -133,7 +140,7 @@ en esta versión del software.</translation>
     <name>EventsPage</name>
     <message>
         <source>EVENTS :</source>
-        <translation>EVENTOS :</translation>
+        <translation>Eventos :</translation>
     </message>
     <message>
         <source>Back</source>
@@ -313,11 +320,11 @@ en esta versión del software.</translation>
     </message>
     <message>
         <source>DURATION</source>
-        <translation>DURACIÓN</translation>
+        <translation>Duración</translation>
     </message>
     <message>
         <source>Switch</source>
-        <translation>Cambiar</translation>
+        <translation>Conmutación</translation>
     </message>
     <message>
         <source>On</source>
@@ -326,6 +333,25 @@ en esta versión del software.</translation>
     <message>
         <source>Off</source>
         <translation>No</translation>
+    </message>
+</context>
+<context>
+    <name>InstrumentInfo</name>
+    <message>
+        <source>Ok</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>S/N</source>
+        <translation>S/N</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modelo</translation>
     </message>
 </context>
 <context>
@@ -742,7 +768,7 @@ en la red</translation>
     </message>
     <message>
         <source>EVENTS :</source>
-        <translation>EVENTOS :</translation>
+        <translation>Eventos :</translation>
     </message>
     <message>
         <source>I(%1)</source>
@@ -835,9 +861,296 @@ Do you want to overwrite it?</source>
         <source>Default</source>
         <translation>Por defecto</translation>
     </message>
+</context>
+<context>
+    <name>SetupConfigEnterPage</name>
     <message>
-        <source>Hold</source>
-        <translation>Retener</translation>
+        <source>JOIN CONFIG</source>
+        <translation>CONEXIÓN</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>SetupConfigPage</name>
+    <message>
+        <source>JOIN CONFIG</source>
+        <translation>CONEXIÓN</translation>
+    </message>
+    <message>
+        <source>Page 1</source>
+        <translation>Página 1</translation>
+    </message>
+    <message>
+        <source>Page 2</source>
+        <translation>Página 2</translation>
+    </message>
+    <message>
+        <source>Page 3</source>
+        <translation>Página 3</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+</context>
+<context>
+    <name>SetupEditor</name>
+    <message>
+        <source>Default</source>
+        <translation>Por defecto</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFlicker</name>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Plt Weighting Curve</source>
+        <translation>Curva de ponderación Plt</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFunctions</name>
+    <message>
+        <source>Functions</source>
+        <translation>Funciones</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source> Harmonics</source>
+        <translation> Armónicos</translation>
+    </message>
+    <message>
+        <source> Flicker</source>
+        <translation> Flicker</translation>
+    </message>
+    <message>
+        <source> Transients</source>
+        <translation> Transitorios</translation>
+    </message>
+    <message>
+        <source> Inrush</source>
+        <translation> Corr. de arranque</translation>
+    </message>
+    <message>
+        <source> Mains Signaling</source>
+        <translation> Señales en la red</translation>
+    </message>
+</context>
+<context>
+    <name>SetupInrush</name>
+    <message>
+        <source>Inrush</source>
+        <translation>Corr. de arranque</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>DURACIÓN</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>Corriente nominal</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Umbral</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Histéresis</translation>
+    </message>
+</context>
+<context>
+    <name>SetupKFactor</name>
+    <message>
+        <source>Harmonics</source>
+        <translation>Armónicos</translation>
+    </message>
+    <message>
+        <source>K-factor method:</source>
+        <translation>Método factor K:</translation>
+    </message>
+    <message>
+        <source>K-factor par. e:</source>
+        <translation>Factor K, par. e:</translation>
+    </message>
+    <message>
+        <source>K-factor par. q:</source>
+        <translation>Factor K, par. q:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMain</name>
+    <message>
+        <source>Config</source>
+        <translation>Conexión</translation>
+    </message>
+    <message>
+        <source>Vnom</source>
+        <translation>Unom</translation>
+    </message>
+    <message>
+        <source>Freq</source>
+        <translation>Frec</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Pinza</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Página sig.</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainPage2</name>
+    <message>
+        <source>Limits</source>
+        <translation>Límites</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>Funciones</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Página ant.</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainsSig</name>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Señales en la red</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 1 (Hz)</source>
+        <translation>Frecuencia de señal 1 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 1 (%)</source>
+        <translation>Umbral de detección 1 (%)</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 2 (Hz)</source>
+        <translation>Frecuencia de señal 2 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 2 (%)</source>
+        <translation>Umbral de detección 2 (%)</translation>
+    </message>
+</context>
+<context>
+    <name>SetupSummary</name>
+    <message>
+        <source>Measurement</source>
+        <translation>Medición</translation>
+    </message>
+    <message>
+        <source>Config:</source>
+        <translation>Conexión:</translation>
+    </message>
+    <message>
+        <source>Vnom:</source>
+        <translation>Unom:</translation>
+    </message>
+    <message>
+        <source>Freq:</source>
+        <translation>Frec:</translation>
+    </message>
+    <message>
+        <source>Limits:</source>
+        <translation>Límites:</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>Fases</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Neutro</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Pinza</translation>
+    </message>
+    <message>
+        <source>I Ratio</source>
+        <translation>Relación I</translation>
+    </message>
+    <message>
+        <source>V Ratio</source>
+        <translation>Relación U</translation>
+    </message>
+    <message>
+        <source>Irange</source>
+        <translation>Rango I</translation>
+    </message>
+</context>
+<context>
+    <name>SetupTransient</name>
+    <message>
+        <source>Transients</source>
+        <translation>Transitorios</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Umbral</translation>
+    </message>
+</context>
+<context>
+    <name>SetupVnomPage</name>
+    <message>
+        <source>Nominal Voltage</source>
+        <translation>Tensión nominal</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Phase voltage</source>
+        <translation>Tensión de fase</translation>
+    </message>
+    <message>
+        <source>Line voltage</source>
+        <translation>Tensión de línea</translation>
+    </message>
+    <message>
+        <source>Custom: Up and Down change the value</source>
+        <translation>Propio: Arriba y Abajo cambian el valor</translation>
+    </message>
+    <message>
+        <source>Custom: %1</source>
+        <translation>Propio: %1</translation>
     </message>
 </context>
 <context>
@@ -929,20 +1242,12 @@ Do you want to overwrite it?</source>
 <context>
     <name>TranStart</name>
     <message>
-        <source>TRIGGER ON:</source>
-        <translation>DISPARO:</translation>
-    </message>
-    <message>
         <source>Events</source>
         <translation>Eventos</translation>
     </message>
     <message>
         <source>Default</source>
         <translation>Por defecto</translation>
-    </message>
-    <message>
-        <source>Hold</source>
-        <translation>Retener</translation>
     </message>
 </context>
 <context>
@@ -965,11 +1270,14 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
-    <name>TransView</name>
+    <name>TransScopePage</name>
     <message>
         <source>TRIGGER ON:</source>
         <translation>DISPARO:</translation>
     </message>
+</context>
+<context>
+    <name>TransView</name>
     <message>
         <source>Prev</source>
         <translation>Anterior</translation>

@@ -119,6 +119,13 @@ sürümünde kullanılamaz.</translation>
     </message>
 </context>
 <context>
+    <name>Calibration</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Kalibrasyon</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -133,7 +140,7 @@ sürümünde kullanılamaz.</translation>
     <name>EventsPage</name>
     <message>
         <source>EVENTS :</source>
-        <translation>OLAYLAR :</translation>
+        <translation>Olaylar :</translation>
     </message>
     <message>
         <source>Back</source>
@@ -313,11 +320,11 @@ sürümünde kullanılamaz.</translation>
     </message>
     <message>
         <source>DURATION</source>
-        <translation>SÜRE</translation>
+        <translation>Süre</translation>
     </message>
     <message>
         <source>Switch</source>
-        <translation>Değiştir</translation>
+        <translation>Anahtar</translation>
     </message>
     <message>
         <source>On</source>
@@ -326,6 +333,25 @@ sürümünde kullanılamaz.</translation>
     <message>
         <source>Off</source>
         <translation>Kapalı</translation>
+    </message>
+</context>
+<context>
+    <name>InstrumentInfo</name>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>S/N</source>
+        <translation>S/N</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Model</translation>
     </message>
 </context>
 <context>
@@ -742,7 +768,7 @@ sinyalleri</translation>
     </message>
     <message>
         <source>EVENTS :</source>
-        <translation>OLAYLAR :</translation>
+        <translation>Olaylar :</translation>
     </message>
     <message>
         <source>I(%1)</source>
@@ -835,9 +861,296 @@ Do you want to overwrite it?</source>
         <source>Default</source>
         <translation>Varsayılan</translation>
     </message>
+</context>
+<context>
+    <name>SetupConfigEnterPage</name>
     <message>
-        <source>Hold</source>
-        <translation>Dondur</translation>
+        <source>JOIN CONFIG</source>
+        <translation>BAĞLANTI ŞEKLİ</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+</context>
+<context>
+    <name>SetupConfigPage</name>
+    <message>
+        <source>JOIN CONFIG</source>
+        <translation>BAĞLANTI ŞEKLİ</translation>
+    </message>
+    <message>
+        <source>Page 1</source>
+        <translation>Sayfa 1</translation>
+    </message>
+    <message>
+        <source>Page 2</source>
+        <translation>Sayfa 2</translation>
+    </message>
+    <message>
+        <source>Page 3</source>
+        <translation>Sayfa 3</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+</context>
+<context>
+    <name>SetupEditor</name>
+    <message>
+        <source>Default</source>
+        <translation>Varsayılan</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFlicker</name>
+    <message>
+        <source>Flicker</source>
+        <translation>Kırpışma</translation>
+    </message>
+    <message>
+        <source>Plt Weighting Curve</source>
+        <translation>Plt ağırlık eğrisi</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFunctions</name>
+    <message>
+        <source>Functions</source>
+        <translation>İşlevler</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source> Harmonics</source>
+        <translation> Harmonikler</translation>
+    </message>
+    <message>
+        <source> Flicker</source>
+        <translation> Kırpışma</translation>
+    </message>
+    <message>
+        <source> Transients</source>
+        <translation> Transiyentler</translation>
+    </message>
+    <message>
+        <source> Inrush</source>
+        <translation> Kalkış akımı</translation>
+    </message>
+    <message>
+        <source> Mains Signaling</source>
+        <translation> Şebeke sinyalleri</translation>
+    </message>
+</context>
+<context>
+    <name>SetupInrush</name>
+    <message>
+        <source>Inrush</source>
+        <translation>Kalkış akımı</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>SÜRE</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>Anma akımı</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Eşik</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Histerezis</translation>
+    </message>
+</context>
+<context>
+    <name>SetupKFactor</name>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmonikler</translation>
+    </message>
+    <message>
+        <source>K-factor method:</source>
+        <translation>K faktörü yöntemi:</translation>
+    </message>
+    <message>
+        <source>K-factor par. e:</source>
+        <translation>K faktörü par. e:</translation>
+    </message>
+    <message>
+        <source>K-factor par. q:</source>
+        <translation>K faktörü par. q:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMain</name>
+    <message>
+        <source>Config</source>
+        <translation>Bağlantı</translation>
+    </message>
+    <message>
+        <source>Vnom</source>
+        <translation>Unom</translation>
+    </message>
+    <message>
+        <source>Freq</source>
+        <translation>Frekans</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Pens</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>Sonraki sayfa</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainPage2</name>
+    <message>
+        <source>Limits</source>
+        <translation>Sınırlar</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>İşlevler</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>Önceki sayfa</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainsSig</name>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Şebeke sinyalleri</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 1 (Hz)</source>
+        <translation>Sinyal frekansı 1 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 1 (%)</source>
+        <translation>Algılama eşiği 1 (%)</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 2 (Hz)</source>
+        <translation>Sinyal frekansı 2 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 2 (%)</source>
+        <translation>Algılama eşiği 2 (%)</translation>
+    </message>
+</context>
+<context>
+    <name>SetupSummary</name>
+    <message>
+        <source>Measurement</source>
+        <translation>Ölçüm</translation>
+    </message>
+    <message>
+        <source>Config:</source>
+        <translation>Bağlantı:</translation>
+    </message>
+    <message>
+        <source>Vnom:</source>
+        <translation>Unom:</translation>
+    </message>
+    <message>
+        <source>Freq:</source>
+        <translation>Frekans:</translation>
+    </message>
+    <message>
+        <source>Limits:</source>
+        <translation>Sınırlar:</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>Fazlar</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Nötr</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Pens</translation>
+    </message>
+    <message>
+        <source>I Ratio</source>
+        <translation>I oranı</translation>
+    </message>
+    <message>
+        <source>V Ratio</source>
+        <translation>U oranı</translation>
+    </message>
+    <message>
+        <source>Irange</source>
+        <translation>I aralığı</translation>
+    </message>
+</context>
+<context>
+    <name>SetupTransient</name>
+    <message>
+        <source>Transients</source>
+        <translation>Transiyentler</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Eşik</translation>
+    </message>
+</context>
+<context>
+    <name>SetupVnomPage</name>
+    <message>
+        <source>Nominal Voltage</source>
+        <translation>Anma gerilimi</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Phase voltage</source>
+        <translation>Faz gerilimi</translation>
+    </message>
+    <message>
+        <source>Line voltage</source>
+        <translation>Hat gerilimi</translation>
+    </message>
+    <message>
+        <source>Custom: Up and Down change the value</source>
+        <translation>Özel: Yukarı ve Aşağı değeri değiştirir</translation>
+    </message>
+    <message>
+        <source>Custom: %1</source>
+        <translation>Özel: %1</translation>
     </message>
 </context>
 <context>
@@ -929,20 +1242,12 @@ Do you want to overwrite it?</source>
 <context>
     <name>TranStart</name>
     <message>
-        <source>TRIGGER ON:</source>
-        <translation>TETİK:</translation>
-    </message>
-    <message>
         <source>Events</source>
         <translation>Olaylar</translation>
     </message>
     <message>
         <source>Default</source>
         <translation>Varsayılan</translation>
-    </message>
-    <message>
-        <source>Hold</source>
-        <translation>Dondur</translation>
     </message>
 </context>
 <context>
@@ -965,11 +1270,14 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
-    <name>TransView</name>
+    <name>TransScopePage</name>
     <message>
         <source>TRIGGER ON:</source>
         <translation>TETİK:</translation>
     </message>
+</context>
+<context>
+    <name>TransView</name>
     <message>
         <source>Prev</source>
         <translation>Önceki</translation>

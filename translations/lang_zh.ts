@@ -119,6 +119,13 @@ in this software version.</source>
     </message>
 </context>
 <context>
+    <name>Calibration</name>
+    <message>
+        <source>Calibration</source>
+        <translation>校准</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -317,7 +324,7 @@ in this software version.</source>
     </message>
     <message>
         <source>Switch</source>
-        <translation>切换</translation>
+        <translation>开关</translation>
     </message>
     <message>
         <source>On</source>
@@ -326,6 +333,25 @@ in this software version.</source>
     <message>
         <source>Off</source>
         <translation>关</translation>
+    </message>
+</context>
+<context>
+    <name>InstrumentInfo</name>
+    <message>
+        <source>Ok</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>S/N</source>
+        <translation>S/N</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型号</translation>
     </message>
 </context>
 <context>
@@ -835,9 +861,296 @@ Do you want to overwrite it?</source>
         <source>Default</source>
         <translation>默认</translation>
     </message>
+</context>
+<context>
+    <name>SetupConfigEnterPage</name>
     <message>
-        <source>Hold</source>
-        <translation>保持</translation>
+        <source>JOIN CONFIG</source>
+        <translation>接线方式</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>SetupConfigPage</name>
+    <message>
+        <source>JOIN CONFIG</source>
+        <translation>接线方式</translation>
+    </message>
+    <message>
+        <source>Page 1</source>
+        <translation>第 1 页</translation>
+    </message>
+    <message>
+        <source>Page 2</source>
+        <translation>第 2 页</translation>
+    </message>
+    <message>
+        <source>Page 3</source>
+        <translation>第 3 页</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+</context>
+<context>
+    <name>SetupEditor</name>
+    <message>
+        <source>Default</source>
+        <translation>默认</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFlicker</name>
+    <message>
+        <source>Flicker</source>
+        <translation>闪变</translation>
+    </message>
+    <message>
+        <source>Plt Weighting Curve</source>
+        <translation>Plt 加权曲线</translation>
+    </message>
+</context>
+<context>
+    <name>SetupFunctions</name>
+    <message>
+        <source>Functions</source>
+        <translation>功能</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source> Harmonics</source>
+        <translation> 谐波</translation>
+    </message>
+    <message>
+        <source> Flicker</source>
+        <translation> 闪变</translation>
+    </message>
+    <message>
+        <source> Transients</source>
+        <translation> 瞬态</translation>
+    </message>
+    <message>
+        <source> Inrush</source>
+        <translation> 浪涌电流</translation>
+    </message>
+    <message>
+        <source> Mains Signaling</source>
+        <translation> 电网信号</translation>
+    </message>
+</context>
+<context>
+    <name>SetupInrush</name>
+    <message>
+        <source>Inrush</source>
+        <translation>浪涌电流</translation>
+    </message>
+    <message>
+        <source>DURATION</source>
+        <translation>持续时间</translation>
+    </message>
+    <message>
+        <source>Nominal Amps</source>
+        <translation>额定电流</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>阈值</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>迟滞</translation>
+    </message>
+</context>
+<context>
+    <name>SetupKFactor</name>
+    <message>
+        <source>Harmonics</source>
+        <translation>谐波</translation>
+    </message>
+    <message>
+        <source>K-factor method:</source>
+        <translation>K 因子方法：</translation>
+    </message>
+    <message>
+        <source>K-factor par. e:</source>
+        <translation>K 因子参数 e：</translation>
+    </message>
+    <message>
+        <source>K-factor par. q:</source>
+        <translation>K 因子参数 q：</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMain</name>
+    <message>
+        <source>Config</source>
+        <translation>接线</translation>
+    </message>
+    <message>
+        <source>Vnom</source>
+        <translation>标称电压</translation>
+    </message>
+    <message>
+        <source>Freq</source>
+        <translation>频率</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>电流钳</translation>
+    </message>
+    <message>
+        <source>Page Down</source>
+        <translation>下一页</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainPage2</name>
+    <message>
+        <source>Limits</source>
+        <translation>限值</translation>
+    </message>
+    <message>
+        <source>Functions</source>
+        <translation>功能</translation>
+    </message>
+    <message>
+        <source>Page Up</source>
+        <translation>上一页</translation>
+    </message>
+</context>
+<context>
+    <name>SetupMainsSig</name>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>电网信号</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 1 (Hz)</source>
+        <translation>信号频率 1 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 1 (%)</source>
+        <translation>检测阈值 1 (%)</translation>
+    </message>
+    <message>
+        <source>Signaling Frequency 2 (Hz)</source>
+        <translation>信号频率 2 (Hz)</translation>
+    </message>
+    <message>
+        <source>Detection Threshold 2 (%)</source>
+        <translation>检测阈值 2 (%)</translation>
+    </message>
+</context>
+<context>
+    <name>SetupSummary</name>
+    <message>
+        <source>Measurement</source>
+        <translation>测量</translation>
+    </message>
+    <message>
+        <source>Config:</source>
+        <translation>接线：</translation>
+    </message>
+    <message>
+        <source>Vnom:</source>
+        <translation>标称电压：</translation>
+    </message>
+    <message>
+        <source>Freq:</source>
+        <translation>频率：</translation>
+    </message>
+    <message>
+        <source>Limits:</source>
+        <translation>限值：</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>相线</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>中性线</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>电流钳</translation>
+    </message>
+    <message>
+        <source>I Ratio</source>
+        <translation>电流变比</translation>
+    </message>
+    <message>
+        <source>V Ratio</source>
+        <translation>电压变比</translation>
+    </message>
+    <message>
+        <source>Irange</source>
+        <translation>电流量程</translation>
+    </message>
+</context>
+<context>
+    <name>SetupTransient</name>
+    <message>
+        <source>Transients</source>
+        <translation>瞬态</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>阈值</translation>
+    </message>
+</context>
+<context>
+    <name>SetupVnomPage</name>
+    <message>
+        <source>Nominal Voltage</source>
+        <translation>标称电压</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Phase voltage</source>
+        <translation>相电压</translation>
+    </message>
+    <message>
+        <source>Line voltage</source>
+        <translation>线电压</translation>
+    </message>
+    <message>
+        <source>Custom: Up and Down change the value</source>
+        <translation>自定义：用上下键改变数值</translation>
+    </message>
+    <message>
+        <source>Custom: %1</source>
+        <translation>自定义：%1</translation>
     </message>
 </context>
 <context>
@@ -929,20 +1242,12 @@ Do you want to overwrite it?</source>
 <context>
     <name>TranStart</name>
     <message>
-        <source>TRIGGER ON:</source>
-        <translation>触发：</translation>
-    </message>
-    <message>
         <source>Events</source>
         <translation>事件</translation>
     </message>
     <message>
         <source>Default</source>
         <translation>默认</translation>
-    </message>
-    <message>
-        <source>Hold</source>
-        <translation>保持</translation>
     </message>
 </context>
 <context>
@@ -965,11 +1270,14 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
-    <name>TransView</name>
+    <name>TransScopePage</name>
     <message>
         <source>TRIGGER ON:</source>
         <translation>触发：</translation>
     </message>
+</context>
+<context>
+    <name>TransView</name>
     <message>
         <source>Prev</source>
         <translation>上一个</translation>

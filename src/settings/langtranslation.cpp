@@ -23,13 +23,20 @@ QString familyOf(const char *path)
     return id < 0 ? QString() : QFontDatabase::applicationFontFamilies(id).value(0);
 }
 
+QString eastAsianFamily()
+{
+    static const QString family = familyOf(kEastAsianFont);
+    return family;
+}
+
 QString familyFor(int language)
 {
-    if (language == UserConfig::ZH || language == UserConfig::JP) {
-        static const QString eastAsian = familyOf(kEastAsianFont);
-        return eastAsian;
-    }
+    if (language == UserConfig::ZH || language == UserConfig::JP)
+        return eastAsianFamily();
     static const QString common = familyOf(kCommonFont);
+    // The common face has no Korean signs; a board without a font configuration would find none in its place.
+    if (language == UserConfig::KO && QFont::substitutes(common).isEmpty())
+        QFont::insertSubstitution(common, eastAsianFamily());
     return common;
 }
 

@@ -20,7 +20,7 @@ QString sequence(std::initializer_list<char> letters)
 
 } // namespace
 
-SetupMain::SetupMain(QWidget *parent) : SetupSummary(parent)
+SetupMain::SetupMain(QWidget *parent) : SetupSummary(QT_TRANSLATE_NOOP("SetupMain", "Measurement"), parent)
 {
     static const KeyRow<SetupMain> keys[] = {
         { Qt::Key_F1, QT_TRANSLATE_NOOP("SetupMain", "Config"), &SetupMain::goSetupConfig },

@@ -1,6 +1,7 @@
 #include "setup/setupmainpage2.h"
 
-SetupMainPage2::SetupMainPage2(QWidget *parent) : SetupSummary(parent)
+SetupMainPage2::SetupMainPage2(QWidget *parent)
+    : SetupSummary(QT_TRANSLATE_NOOP("SetupMainPage2", "Measurement"), parent)
 {
     static const KeyRow<SetupMainPage2> keys[] = {
         { Qt::Key_F1, QT_TRANSLATE_NOOP("SetupMainPage2", "Limits"), &SetupMainPage2::goSetupLimits },

@@ -26,8 +26,7 @@ QString rangeText(const ClampInUse &clamp)
 
 } // namespace
 
-SetupSummary::SetupSummary(QWidget *parent)
-    : SetupPane(QT_TRANSLATE_NOOP("SetupSummary", "Measurement"), parent), m_icon(new QLabel(this))
+SetupSummary::SetupSummary(const char *title, QWidget *parent) : SetupPane(title, parent), m_icon(new QLabel(this))
 {
     const char *const rows[] = { "config", "vnom", "freq", "limits" };
     for (int i = 0; i < Rows; ++i) {

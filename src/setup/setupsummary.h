@@ -15,7 +15,8 @@ public slots:
     void retranslateUi() override;
 
 protected:
-    explicit SetupSummary(QWidget *parent);
+    /// \a title is to be translated.
+    SetupSummary(const char *title, QWidget *parent);
 
     void showSettings() override;
 

@@ -37,6 +37,7 @@ void SoftKeyDialog::finishForm()
     setFixedSize(size());
     m_background = ChartParts::scaledPicture(QStringLiteral(":/message_bg"), size());
     for (QLabel *label : findChildren<QLabel *>()) {
+        label->ensurePolished(); // or it would not know yet how large its letters are
         if (!label->text().isEmpty())
             fitText(label, label->text(), label->font().pixelSize()); // a translation may be longer than its place
     }
