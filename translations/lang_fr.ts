@@ -126,6 +126,194 @@ dans cette version du logiciel.</translation>
     </message>
 </context>
 <context>
+    <name>CalibrationDialog</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Étalonnage</translation>
+    </message>
+    <message>
+        <source>Zero:</source>
+        <translation>Zéro :</translation>
+    </message>
+    <message>
+        <source>0V 0A</source>
+        <translation>0V 0A</translation>
+    </message>
+    <message>
+        <source>Volt:</source>
+        <translation>Tension :</translation>
+    </message>
+    <message>
+        <source>120V</source>
+        <translation>120V</translation>
+    </message>
+    <message>
+        <source>220V</source>
+        <translation>220V</translation>
+    </message>
+    <message>
+        <source>400V</source>
+        <translation>400V</translation>
+    </message>
+    <message>
+        <source>600V</source>
+        <translation>600V</translation>
+    </message>
+    <message>
+        <source>Current:</source>
+        <translation>Courant :</translation>
+    </message>
+    <message>
+        <source>1mV/A</source>
+        <translation>1mV/A</translation>
+    </message>
+    <message>
+        <source>10mV/A</source>
+        <translation>10mV/A</translation>
+    </message>
+    <message>
+        <source>65mV/kA</source>
+        <translation>65mV/kA</translation>
+    </message>
+    <message>
+        <source>Zero calibrating ...</source>
+        <translation>Étalonnage du zéro ...</translation>
+    </message>
+    <message>
+        <source>Volt 120V calibrating ...</source>
+        <translation>Étalonnage tension 120V ...</translation>
+    </message>
+    <message>
+        <source>Volt 220V calibrating ...</source>
+        <translation>Étalonnage tension 220V ...</translation>
+    </message>
+    <message>
+        <source>Volt 400V calibrating ...</source>
+        <translation>Étalonnage tension 400V ...</translation>
+    </message>
+    <message>
+        <source>Volt 600V calibrating ...</source>
+        <translation>Étalonnage tension 600V ...</translation>
+    </message>
+    <message>
+        <source>Current 1mV/1A calibrating ...</source>
+        <translation>Étalonnage courant 1mV/1A ...</translation>
+    </message>
+    <message>
+        <source>Current 10mV/1A calibrating ...</source>
+        <translation>Étalonnage courant 10mV/1A ...</translation>
+    </message>
+    <message>
+        <source>Current 65mV/kA calibrating ...</source>
+        <translation>Étalonnage courant 65mV/kA ...</translation>
+    </message>
+    <message>
+        <source>L1  L2  L3  N</source>
+        <translation>L1  L2  L3  N</translation>
+    </message>
+    <message>
+        <source>L1</source>
+        <translation>L1</translation>
+    </message>
+    <message>
+        <source>L2</source>
+        <translation>L2</translation>
+    </message>
+    <message>
+        <source>L3</source>
+        <translation>L3</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Sauver</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Ok!</source>
+        <translation>OK !</translation>
+    </message>
+    <message>
+        <source>The calibration task is running, 
+Do you want to exit?</source>
+        <translation>L&apos;étalonnage est en cours, 
+voulez-vous quitter ?</translation>
+    </message>
+</context>
+<context>
+    <name>ClampEditor</name>
+    <message>
+        <source>Clamp Editor</source>
+        <translation>Éditeur de pince</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Name :</source>
+        <translation>Nom :</translation>
+    </message>
+    <message>
+        <source>Ratio :</source>
+        <translation>Rapport :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>Calibre I :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>Flexible :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>Clamp name</source>
+        <translation>Nom de la pince</translation>
+    </message>
+    <message>
+        <source>Ratio (mV/A)</source>
+        <translation>Rapport (mV/A)</translation>
+    </message>
+    <message>
+        <source>I range (A)</source>
+        <translation>Calibre I (A)</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>Nom vide !</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>Nom incorrect !</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -863,6 +1051,100 @@ Voulez-vous l&apos;écraser ?</translation>
     </message>
 </context>
 <context>
+    <name>SetupClamp2</name>
+    <message>
+        <source>Clamp</source>
+        <translation>Pince</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>I Ratio :</source>
+        <translation>Rapport I :</translation>
+    </message>
+    <message>
+        <source>V Ratio :</source>
+        <translation>Rapport U :</translation>
+    </message>
+    <message>
+        <source>Channel :</source>
+        <translation>Voie :</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>Phases</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Neutre</translation>
+    </message>
+    <message>
+        <source>Clamp :</source>
+        <translation>Pince :</translation>
+    </message>
+    <message>
+        <source>Sensitivity :</source>
+        <translation>Sensibilité :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>Calibre I :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>Flexible :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+    <message>
+        <source>numerator</source>
+        <translation>numérateur</translation>
+    </message>
+    <message>
+        <source>denominator</source>
+        <translation>dénominateur</translation>
+    </message>
+    <message>
+        <source>Uneditable Clamp!</source>
+        <translation>Pince non modifiable !</translation>
+    </message>
+    <message>
+        <source>Delete the Clamp?</source>
+        <translation>Supprimer la pince ?</translation>
+    </message>
+</context>
+<context>
+    <name>SetupClamps</name>
+    <message>
+        <source>Clamp Exist!</source>
+        <translation>Cette pince existe déjà !</translation>
+    </message>
+</context>
+<context>
     <name>SetupConfigEnterPage</name>
     <message>
         <source>JOIN CONFIG</source>
@@ -927,7 +1209,7 @@ Voulez-vous l&apos;écraser ?</translation>
     </message>
     <message>
         <source>Plt Weighting Curve</source>
-        <translation>Courbe de pondération Plt</translation>
+        <translation>Pondération Plt</translation>
     </message>
 </context>
 <context>
@@ -1007,7 +1289,7 @@ Voulez-vous l&apos;écraser ?</translation>
     <name>SetupMain</name>
     <message>
         <source>Config</source>
-        <translation>Branchement</translation>
+        <translation>Câblage</translation>
     </message>
     <message>
         <source>Vnom</source>
@@ -1025,6 +1307,10 @@ Voulez-vous l&apos;écraser ?</translation>
         <source>Page Down</source>
         <translation>Page suiv.</translation>
     </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Mesure</translation>
+    </message>
 </context>
 <context>
     <name>SetupMainPage2</name>
@@ -1039,6 +1325,10 @@ Voulez-vous l&apos;écraser ?</translation>
     <message>
         <source>Page Up</source>
         <translation>Page préc.</translation>
+    </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Mesure</translation>
     </message>
 </context>
 <context>
@@ -1067,12 +1357,8 @@ Voulez-vous l&apos;écraser ?</translation>
 <context>
     <name>SetupSummary</name>
     <message>
-        <source>Measurement</source>
-        <translation>Mesure</translation>
-    </message>
-    <message>
         <source>Config:</source>
-        <translation>Branchement :</translation>
+        <translation>Câblage :</translation>
     </message>
     <message>
         <source>Vnom:</source>

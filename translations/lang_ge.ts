@@ -126,6 +126,194 @@ Softwareversion nicht verfügbar.</translation>
     </message>
 </context>
 <context>
+    <name>CalibrationDialog</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Kalibrierung</translation>
+    </message>
+    <message>
+        <source>Zero:</source>
+        <translation>Nullpunkt:</translation>
+    </message>
+    <message>
+        <source>0V 0A</source>
+        <translation>0V 0A</translation>
+    </message>
+    <message>
+        <source>Volt:</source>
+        <translation>Spannung:</translation>
+    </message>
+    <message>
+        <source>120V</source>
+        <translation>120V</translation>
+    </message>
+    <message>
+        <source>220V</source>
+        <translation>220V</translation>
+    </message>
+    <message>
+        <source>400V</source>
+        <translation>400V</translation>
+    </message>
+    <message>
+        <source>600V</source>
+        <translation>600V</translation>
+    </message>
+    <message>
+        <source>Current:</source>
+        <translation>Strom:</translation>
+    </message>
+    <message>
+        <source>1mV/A</source>
+        <translation>1mV/A</translation>
+    </message>
+    <message>
+        <source>10mV/A</source>
+        <translation>10mV/A</translation>
+    </message>
+    <message>
+        <source>65mV/kA</source>
+        <translation>65mV/kA</translation>
+    </message>
+    <message>
+        <source>Zero calibrating ...</source>
+        <translation>Nullpunkt wird kalibriert ...</translation>
+    </message>
+    <message>
+        <source>Volt 120V calibrating ...</source>
+        <translation>Spannung 120V wird kalibriert ...</translation>
+    </message>
+    <message>
+        <source>Volt 220V calibrating ...</source>
+        <translation>Spannung 220V wird kalibriert ...</translation>
+    </message>
+    <message>
+        <source>Volt 400V calibrating ...</source>
+        <translation>Spannung 400V wird kalibriert ...</translation>
+    </message>
+    <message>
+        <source>Volt 600V calibrating ...</source>
+        <translation>Spannung 600V wird kalibriert ...</translation>
+    </message>
+    <message>
+        <source>Current 1mV/1A calibrating ...</source>
+        <translation>Strom 1mV/1A wird kalibriert ...</translation>
+    </message>
+    <message>
+        <source>Current 10mV/1A calibrating ...</source>
+        <translation>Strom 10mV/1A wird kalibriert ...</translation>
+    </message>
+    <message>
+        <source>Current 65mV/kA calibrating ...</source>
+        <translation>Strom 65mV/kA wird kalibriert ...</translation>
+    </message>
+    <message>
+        <source>L1  L2  L3  N</source>
+        <translation>L1  L2  L3  N</translation>
+    </message>
+    <message>
+        <source>L1</source>
+        <translation>L1</translation>
+    </message>
+    <message>
+        <source>L2</source>
+        <translation>L2</translation>
+    </message>
+    <message>
+        <source>L3</source>
+        <translation>L3</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Ok!</source>
+        <translation>OK!</translation>
+    </message>
+    <message>
+        <source>The calibration task is running, 
+Do you want to exit?</source>
+        <translation>Die Kalibrierung läuft, 
+soll sie beendet werden?</translation>
+    </message>
+</context>
+<context>
+    <name>ClampEditor</name>
+    <message>
+        <source>Clamp Editor</source>
+        <translation>Zange bearbeiten</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Name :</source>
+        <translation>Name :</translation>
+    </message>
+    <message>
+        <source>Ratio :</source>
+        <translation>Verhältnis :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>I-Bereich :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>Flexibel :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>Clamp name</source>
+        <translation>Name der Zange</translation>
+    </message>
+    <message>
+        <source>Ratio (mV/A)</source>
+        <translation>Verhältnis (mV/A)</translation>
+    </message>
+    <message>
+        <source>I range (A)</source>
+        <translation>I-Bereich (A)</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>Der Name ist leer!</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>Ungültiger Name!</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -863,6 +1051,100 @@ Soll sie überschrieben werden?</translation>
     </message>
 </context>
 <context>
+    <name>SetupClamp2</name>
+    <message>
+        <source>Clamp</source>
+        <translation>Zange</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Ändern</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>I Ratio :</source>
+        <translation>I-Verhältnis :</translation>
+    </message>
+    <message>
+        <source>V Ratio :</source>
+        <translation>U-Verhältnis :</translation>
+    </message>
+    <message>
+        <source>Channel :</source>
+        <translation>Kanal :</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>Phasen</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Neutralleiter</translation>
+    </message>
+    <message>
+        <source>Clamp :</source>
+        <translation>Zange :</translation>
+    </message>
+    <message>
+        <source>Sensitivity :</source>
+        <translation>Empfindlichk. :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>I-Bereich :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>Flexibel :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+    <message>
+        <source>numerator</source>
+        <translation>Zähler</translation>
+    </message>
+    <message>
+        <source>denominator</source>
+        <translation>Nenner</translation>
+    </message>
+    <message>
+        <source>Uneditable Clamp!</source>
+        <translation>Diese Zange ist nicht änderbar!</translation>
+    </message>
+    <message>
+        <source>Delete the Clamp?</source>
+        <translation>Zange löschen?</translation>
+    </message>
+</context>
+<context>
+    <name>SetupClamps</name>
+    <message>
+        <source>Clamp Exist!</source>
+        <translation>Zange ist schon vorhanden!</translation>
+    </message>
+</context>
+<context>
     <name>SetupConfigEnterPage</name>
     <message>
         <source>JOIN CONFIG</source>
@@ -1025,6 +1307,10 @@ Soll sie überschrieben werden?</translation>
         <source>Page Down</source>
         <translation>Nächste Seite</translation>
     </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Messung</translation>
+    </message>
 </context>
 <context>
     <name>SetupMainPage2</name>
@@ -1039,6 +1325,10 @@ Soll sie überschrieben werden?</translation>
     <message>
         <source>Page Up</source>
         <translation>Vorige Seite</translation>
+    </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Messung</translation>
     </message>
 </context>
 <context>
@@ -1066,10 +1356,6 @@ Soll sie überschrieben werden?</translation>
 </context>
 <context>
     <name>SetupSummary</name>
-    <message>
-        <source>Measurement</source>
-        <translation>Messung</translation>
-    </message>
     <message>
         <source>Config:</source>
         <translation>Anschluss:</translation>

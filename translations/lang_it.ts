@@ -126,6 +126,194 @@ in questa versione del software.</translation>
     </message>
 </context>
 <context>
+    <name>CalibrationDialog</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Calibrazione</translation>
+    </message>
+    <message>
+        <source>Zero:</source>
+        <translation>Zero:</translation>
+    </message>
+    <message>
+        <source>0V 0A</source>
+        <translation>0V 0A</translation>
+    </message>
+    <message>
+        <source>Volt:</source>
+        <translation>Tensione:</translation>
+    </message>
+    <message>
+        <source>120V</source>
+        <translation>120V</translation>
+    </message>
+    <message>
+        <source>220V</source>
+        <translation>220V</translation>
+    </message>
+    <message>
+        <source>400V</source>
+        <translation>400V</translation>
+    </message>
+    <message>
+        <source>600V</source>
+        <translation>600V</translation>
+    </message>
+    <message>
+        <source>Current:</source>
+        <translation>Corrente:</translation>
+    </message>
+    <message>
+        <source>1mV/A</source>
+        <translation>1mV/A</translation>
+    </message>
+    <message>
+        <source>10mV/A</source>
+        <translation>10mV/A</translation>
+    </message>
+    <message>
+        <source>65mV/kA</source>
+        <translation>65mV/kA</translation>
+    </message>
+    <message>
+        <source>Zero calibrating ...</source>
+        <translation>Calibrazione dello zero ...</translation>
+    </message>
+    <message>
+        <source>Volt 120V calibrating ...</source>
+        <translation>Calibrazione tensione 120V ...</translation>
+    </message>
+    <message>
+        <source>Volt 220V calibrating ...</source>
+        <translation>Calibrazione tensione 220V ...</translation>
+    </message>
+    <message>
+        <source>Volt 400V calibrating ...</source>
+        <translation>Calibrazione tensione 400V ...</translation>
+    </message>
+    <message>
+        <source>Volt 600V calibrating ...</source>
+        <translation>Calibrazione tensione 600V ...</translation>
+    </message>
+    <message>
+        <source>Current 1mV/1A calibrating ...</source>
+        <translation>Calibrazione corrente 1mV/1A ...</translation>
+    </message>
+    <message>
+        <source>Current 10mV/1A calibrating ...</source>
+        <translation>Calibrazione corrente 10mV/1A ...</translation>
+    </message>
+    <message>
+        <source>Current 65mV/kA calibrating ...</source>
+        <translation>Calibrazione corrente 65mV/kA ...</translation>
+    </message>
+    <message>
+        <source>L1  L2  L3  N</source>
+        <translation>L1  L2  L3  N</translation>
+    </message>
+    <message>
+        <source>L1</source>
+        <translation>L1</translation>
+    </message>
+    <message>
+        <source>L2</source>
+        <translation>L2</translation>
+    </message>
+    <message>
+        <source>L3</source>
+        <translation>L3</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Avanti</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Ok!</source>
+        <translation>OK!</translation>
+    </message>
+    <message>
+        <source>The calibration task is running, 
+Do you want to exit?</source>
+        <translation>La calibrazione è in corso, 
+si desidera uscire?</translation>
+    </message>
+</context>
+<context>
+    <name>ClampEditor</name>
+    <message>
+        <source>Clamp Editor</source>
+        <translation>Modifica pinza</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Name :</source>
+        <translation>Nome :</translation>
+    </message>
+    <message>
+        <source>Ratio :</source>
+        <translation>Rapporto :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>Portata I :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>Flessibile :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sì</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Clamp name</source>
+        <translation>Nome della pinza</translation>
+    </message>
+    <message>
+        <source>Ratio (mV/A)</source>
+        <translation>Rapporto (mV/A)</translation>
+    </message>
+    <message>
+        <source>I range (A)</source>
+        <translation>Portata I (A)</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>Nome vuoto!</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>Nome non valido!</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -863,6 +1051,100 @@ Sovrascriverlo?</translation>
     </message>
 </context>
 <context>
+    <name>SetupClamp2</name>
+    <message>
+        <source>Clamp</source>
+        <translation>Pinza</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Aggiungi</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Modifica</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>I Ratio :</source>
+        <translation>Rapporto I :</translation>
+    </message>
+    <message>
+        <source>V Ratio :</source>
+        <translation>Rapporto U :</translation>
+    </message>
+    <message>
+        <source>Channel :</source>
+        <translation>Canale :</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>Fasi</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Neutro</translation>
+    </message>
+    <message>
+        <source>Clamp :</source>
+        <translation>Pinza :</translation>
+    </message>
+    <message>
+        <source>Sensitivity :</source>
+        <translation>Sensibilità :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>Portata I :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>Flessibile :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sì</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>numerator</source>
+        <translation>numeratore</translation>
+    </message>
+    <message>
+        <source>denominator</source>
+        <translation>denominatore</translation>
+    </message>
+    <message>
+        <source>Uneditable Clamp!</source>
+        <translation>Pinza non modificabile!</translation>
+    </message>
+    <message>
+        <source>Delete the Clamp?</source>
+        <translation>Eliminare la pinza?</translation>
+    </message>
+</context>
+<context>
+    <name>SetupClamps</name>
+    <message>
+        <source>Clamp Exist!</source>
+        <translation>La pinza esiste già!</translation>
+    </message>
+</context>
+<context>
     <name>SetupConfigEnterPage</name>
     <message>
         <source>JOIN CONFIG</source>
@@ -927,7 +1209,7 @@ Sovrascriverlo?</translation>
     </message>
     <message>
         <source>Plt Weighting Curve</source>
-        <translation>Curva di ponderazione Plt</translation>
+        <translation>Ponderazione Plt</translation>
     </message>
 </context>
 <context>
@@ -1007,7 +1289,7 @@ Sovrascriverlo?</translation>
     <name>SetupMain</name>
     <message>
         <source>Config</source>
-        <translation>Collegamento</translation>
+        <translation>Cablaggio</translation>
     </message>
     <message>
         <source>Vnom</source>
@@ -1025,6 +1307,10 @@ Sovrascriverlo?</translation>
         <source>Page Down</source>
         <translation>Pagina succ.</translation>
     </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Misura</translation>
+    </message>
 </context>
 <context>
     <name>SetupMainPage2</name>
@@ -1039,6 +1325,10 @@ Sovrascriverlo?</translation>
     <message>
         <source>Page Up</source>
         <translation>Pagina prec.</translation>
+    </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Misura</translation>
     </message>
 </context>
 <context>
@@ -1067,12 +1357,8 @@ Sovrascriverlo?</translation>
 <context>
     <name>SetupSummary</name>
     <message>
-        <source>Measurement</source>
-        <translation>Misura</translation>
-    </message>
-    <message>
         <source>Config:</source>
-        <translation>Collegamento:</translation>
+        <translation>Cablaggio:</translation>
     </message>
     <message>
         <source>Vnom:</source>

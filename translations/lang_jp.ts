@@ -126,6 +126,194 @@ in this software version.</source>
     </message>
 </context>
 <context>
+    <name>CalibrationDialog</name>
+    <message>
+        <source>Calibration</source>
+        <translation>校正</translation>
+    </message>
+    <message>
+        <source>Zero:</source>
+        <translation>ゼロ:</translation>
+    </message>
+    <message>
+        <source>0V 0A</source>
+        <translation>0V 0A</translation>
+    </message>
+    <message>
+        <source>Volt:</source>
+        <translation>電圧:</translation>
+    </message>
+    <message>
+        <source>120V</source>
+        <translation>120V</translation>
+    </message>
+    <message>
+        <source>220V</source>
+        <translation>220V</translation>
+    </message>
+    <message>
+        <source>400V</source>
+        <translation>400V</translation>
+    </message>
+    <message>
+        <source>600V</source>
+        <translation>600V</translation>
+    </message>
+    <message>
+        <source>Current:</source>
+        <translation>電流:</translation>
+    </message>
+    <message>
+        <source>1mV/A</source>
+        <translation>1mV/A</translation>
+    </message>
+    <message>
+        <source>10mV/A</source>
+        <translation>10mV/A</translation>
+    </message>
+    <message>
+        <source>65mV/kA</source>
+        <translation>65mV/kA</translation>
+    </message>
+    <message>
+        <source>Zero calibrating ...</source>
+        <translation>ゼロ校正中 ...</translation>
+    </message>
+    <message>
+        <source>Volt 120V calibrating ...</source>
+        <translation>電圧 120V 校正中 ...</translation>
+    </message>
+    <message>
+        <source>Volt 220V calibrating ...</source>
+        <translation>電圧 220V 校正中 ...</translation>
+    </message>
+    <message>
+        <source>Volt 400V calibrating ...</source>
+        <translation>電圧 400V 校正中 ...</translation>
+    </message>
+    <message>
+        <source>Volt 600V calibrating ...</source>
+        <translation>電圧 600V 校正中 ...</translation>
+    </message>
+    <message>
+        <source>Current 1mV/1A calibrating ...</source>
+        <translation>電流 1mV/1A 校正中 ...</translation>
+    </message>
+    <message>
+        <source>Current 10mV/1A calibrating ...</source>
+        <translation>電流 10mV/1A 校正中 ...</translation>
+    </message>
+    <message>
+        <source>Current 65mV/kA calibrating ...</source>
+        <translation>電流 65mV/kA 校正中 ...</translation>
+    </message>
+    <message>
+        <source>L1  L2  L3  N</source>
+        <translation>L1  L2  L3  N</translation>
+    </message>
+    <message>
+        <source>L1</source>
+        <translation>L1</translation>
+    </message>
+    <message>
+        <source>L2</source>
+        <translation>L2</translation>
+    </message>
+    <message>
+        <source>L3</source>
+        <translation>L3</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>切替</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Ok!</source>
+        <translation>完了！</translation>
+    </message>
+    <message>
+        <source>The calibration task is running, 
+Do you want to exit?</source>
+        <translation>校正を実行中です。 
+終了しますか？</translation>
+    </message>
+</context>
+<context>
+    <name>ClampEditor</name>
+    <message>
+        <source>Clamp Editor</source>
+        <translation>クランプ編集</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Name :</source>
+        <translation>名前 :</translation>
+    </message>
+    <message>
+        <source>Ratio :</source>
+        <translation>変換比 :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>電流レンジ :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>フレキシブル :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>Clamp name</source>
+        <translation>クランプ名</translation>
+    </message>
+    <message>
+        <source>Ratio (mV/A)</source>
+        <translation>変換比 (mV/A)</translation>
+    </message>
+    <message>
+        <source>I range (A)</source>
+        <translation>電流レンジ (A)</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>名前が空です！</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>名前が無効です！</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -863,6 +1051,100 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>SetupClamp2</name>
+    <message>
+        <source>Clamp</source>
+        <translation>クランプ</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>I Ratio :</source>
+        <translation>CT 比 :</translation>
+    </message>
+    <message>
+        <source>V Ratio :</source>
+        <translation>VT 比 :</translation>
+    </message>
+    <message>
+        <source>Channel :</source>
+        <translation>チャンネル :</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>相</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>中性線</translation>
+    </message>
+    <message>
+        <source>Clamp :</source>
+        <translation>クランプ :</translation>
+    </message>
+    <message>
+        <source>Sensitivity :</source>
+        <translation>感度 :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>電流レンジ :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>フレキシブル :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>いいえ</translation>
+    </message>
+    <message>
+        <source>numerator</source>
+        <translation>分子</translation>
+    </message>
+    <message>
+        <source>denominator</source>
+        <translation>分母</translation>
+    </message>
+    <message>
+        <source>Uneditable Clamp!</source>
+        <translation>編集できないクランプです！</translation>
+    </message>
+    <message>
+        <source>Delete the Clamp?</source>
+        <translation>クランプを削除しますか？</translation>
+    </message>
+</context>
+<context>
+    <name>SetupClamps</name>
+    <message>
+        <source>Clamp Exist!</source>
+        <translation>同名のクランプがあります！</translation>
+    </message>
+</context>
+<context>
     <name>SetupConfigEnterPage</name>
     <message>
         <source>JOIN CONFIG</source>
@@ -1025,6 +1307,10 @@ Do you want to overwrite it?</source>
         <source>Page Down</source>
         <translation>次ページ</translation>
     </message>
+    <message>
+        <source>Measurement</source>
+        <translation>測定</translation>
+    </message>
 </context>
 <context>
     <name>SetupMainPage2</name>
@@ -1039,6 +1325,10 @@ Do you want to overwrite it?</source>
     <message>
         <source>Page Up</source>
         <translation>前ページ</translation>
+    </message>
+    <message>
+        <source>Measurement</source>
+        <translation>測定</translation>
     </message>
 </context>
 <context>
@@ -1066,10 +1356,6 @@ Do you want to overwrite it?</source>
 </context>
 <context>
     <name>SetupSummary</name>
-    <message>
-        <source>Measurement</source>
-        <translation>測定</translation>
-    </message>
     <message>
         <source>Config:</source>
         <translation>結線:</translation>

@@ -126,6 +126,194 @@ in this software version.</source>
     </message>
 </context>
 <context>
+    <name>CalibrationDialog</name>
+    <message>
+        <source>Calibration</source>
+        <translation>교정</translation>
+    </message>
+    <message>
+        <source>Zero:</source>
+        <translation>영점:</translation>
+    </message>
+    <message>
+        <source>0V 0A</source>
+        <translation>0V 0A</translation>
+    </message>
+    <message>
+        <source>Volt:</source>
+        <translation>전압:</translation>
+    </message>
+    <message>
+        <source>120V</source>
+        <translation>120V</translation>
+    </message>
+    <message>
+        <source>220V</source>
+        <translation>220V</translation>
+    </message>
+    <message>
+        <source>400V</source>
+        <translation>400V</translation>
+    </message>
+    <message>
+        <source>600V</source>
+        <translation>600V</translation>
+    </message>
+    <message>
+        <source>Current:</source>
+        <translation>전류:</translation>
+    </message>
+    <message>
+        <source>1mV/A</source>
+        <translation>1mV/A</translation>
+    </message>
+    <message>
+        <source>10mV/A</source>
+        <translation>10mV/A</translation>
+    </message>
+    <message>
+        <source>65mV/kA</source>
+        <translation>65mV/kA</translation>
+    </message>
+    <message>
+        <source>Zero calibrating ...</source>
+        <translation>영점 교정 중 ...</translation>
+    </message>
+    <message>
+        <source>Volt 120V calibrating ...</source>
+        <translation>전압 120V 교정 중 ...</translation>
+    </message>
+    <message>
+        <source>Volt 220V calibrating ...</source>
+        <translation>전압 220V 교정 중 ...</translation>
+    </message>
+    <message>
+        <source>Volt 400V calibrating ...</source>
+        <translation>전압 400V 교정 중 ...</translation>
+    </message>
+    <message>
+        <source>Volt 600V calibrating ...</source>
+        <translation>전압 600V 교정 중 ...</translation>
+    </message>
+    <message>
+        <source>Current 1mV/1A calibrating ...</source>
+        <translation>전류 1mV/1A 교정 중 ...</translation>
+    </message>
+    <message>
+        <source>Current 10mV/1A calibrating ...</source>
+        <translation>전류 10mV/1A 교정 중 ...</translation>
+    </message>
+    <message>
+        <source>Current 65mV/kA calibrating ...</source>
+        <translation>전류 65mV/kA 교정 중 ...</translation>
+    </message>
+    <message>
+        <source>L1  L2  L3  N</source>
+        <translation>L1  L2  L3  N</translation>
+    </message>
+    <message>
+        <source>L1</source>
+        <translation>L1</translation>
+    </message>
+    <message>
+        <source>L2</source>
+        <translation>L2</translation>
+    </message>
+    <message>
+        <source>L3</source>
+        <translation>L3</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>다음</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>저장</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Ok!</source>
+        <translation>완료!</translation>
+    </message>
+    <message>
+        <source>The calibration task is running, 
+Do you want to exit?</source>
+        <translation>교정이 실행 중입니다. 
+종료하시겠습니까?</translation>
+    </message>
+</context>
+<context>
+    <name>ClampEditor</name>
+    <message>
+        <source>Clamp Editor</source>
+        <translation>클램프 편집</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Name :</source>
+        <translation>이름 :</translation>
+    </message>
+    <message>
+        <source>Ratio :</source>
+        <translation>비율 :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>전류 범위 :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>플렉시블 :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>예</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>아니요</translation>
+    </message>
+    <message>
+        <source>Clamp name</source>
+        <translation>클램프 이름</translation>
+    </message>
+    <message>
+        <source>Ratio (mV/A)</source>
+        <translation>비율 (mV/A)</translation>
+    </message>
+    <message>
+        <source>I range (A)</source>
+        <translation>전류 범위 (A)</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>이름이 비어 있습니다!</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>잘못된 이름입니다!</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -863,6 +1051,100 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>SetupClamp2</name>
+    <message>
+        <source>Clamp</source>
+        <translation>클램프</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>추가</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>편집</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>I Ratio :</source>
+        <translation>CT 비 :</translation>
+    </message>
+    <message>
+        <source>V Ratio :</source>
+        <translation>VT 비 :</translation>
+    </message>
+    <message>
+        <source>Channel :</source>
+        <translation>채널 :</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>상</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>중성선</translation>
+    </message>
+    <message>
+        <source>Clamp :</source>
+        <translation>클램프 :</translation>
+    </message>
+    <message>
+        <source>Sensitivity :</source>
+        <translation>감도 :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>전류 범위 :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>플렉시블 :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>예</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>아니요</translation>
+    </message>
+    <message>
+        <source>numerator</source>
+        <translation>분자</translation>
+    </message>
+    <message>
+        <source>denominator</source>
+        <translation>분모</translation>
+    </message>
+    <message>
+        <source>Uneditable Clamp!</source>
+        <translation>편집할 수 없는 클램프입니다!</translation>
+    </message>
+    <message>
+        <source>Delete the Clamp?</source>
+        <translation>클램프를 삭제하시겠습니까?</translation>
+    </message>
+</context>
+<context>
+    <name>SetupClamps</name>
+    <message>
+        <source>Clamp Exist!</source>
+        <translation>이미 있는 클램프입니다!</translation>
+    </message>
+</context>
+<context>
     <name>SetupConfigEnterPage</name>
     <message>
         <source>JOIN CONFIG</source>
@@ -1025,6 +1307,10 @@ Do you want to overwrite it?</source>
         <source>Page Down</source>
         <translation>다음 페이지</translation>
     </message>
+    <message>
+        <source>Measurement</source>
+        <translation>측정</translation>
+    </message>
 </context>
 <context>
     <name>SetupMainPage2</name>
@@ -1039,6 +1325,10 @@ Do you want to overwrite it?</source>
     <message>
         <source>Page Up</source>
         <translation>이전 페이지</translation>
+    </message>
+    <message>
+        <source>Measurement</source>
+        <translation>측정</translation>
     </message>
 </context>
 <context>
@@ -1066,10 +1356,6 @@ Do you want to overwrite it?</source>
 </context>
 <context>
     <name>SetupSummary</name>
-    <message>
-        <source>Measurement</source>
-        <translation>측정</translation>
-    </message>
     <message>
         <source>Config:</source>
         <translation>결선:</translation>

@@ -126,6 +126,194 @@ w tej wersji oprogramowania.</translation>
     </message>
 </context>
 <context>
+    <name>CalibrationDialog</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Kalibracja</translation>
+    </message>
+    <message>
+        <source>Zero:</source>
+        <translation>Zero:</translation>
+    </message>
+    <message>
+        <source>0V 0A</source>
+        <translation>0V 0A</translation>
+    </message>
+    <message>
+        <source>Volt:</source>
+        <translation>Napięcie:</translation>
+    </message>
+    <message>
+        <source>120V</source>
+        <translation>120V</translation>
+    </message>
+    <message>
+        <source>220V</source>
+        <translation>220V</translation>
+    </message>
+    <message>
+        <source>400V</source>
+        <translation>400V</translation>
+    </message>
+    <message>
+        <source>600V</source>
+        <translation>600V</translation>
+    </message>
+    <message>
+        <source>Current:</source>
+        <translation>Prąd:</translation>
+    </message>
+    <message>
+        <source>1mV/A</source>
+        <translation>1mV/A</translation>
+    </message>
+    <message>
+        <source>10mV/A</source>
+        <translation>10mV/A</translation>
+    </message>
+    <message>
+        <source>65mV/kA</source>
+        <translation>65mV/kA</translation>
+    </message>
+    <message>
+        <source>Zero calibrating ...</source>
+        <translation>Kalibracja zera ...</translation>
+    </message>
+    <message>
+        <source>Volt 120V calibrating ...</source>
+        <translation>Kalibracja napięcia 120V ...</translation>
+    </message>
+    <message>
+        <source>Volt 220V calibrating ...</source>
+        <translation>Kalibracja napięcia 220V ...</translation>
+    </message>
+    <message>
+        <source>Volt 400V calibrating ...</source>
+        <translation>Kalibracja napięcia 400V ...</translation>
+    </message>
+    <message>
+        <source>Volt 600V calibrating ...</source>
+        <translation>Kalibracja napięcia 600V ...</translation>
+    </message>
+    <message>
+        <source>Current 1mV/1A calibrating ...</source>
+        <translation>Kalibracja prądu 1mV/1A ...</translation>
+    </message>
+    <message>
+        <source>Current 10mV/1A calibrating ...</source>
+        <translation>Kalibracja prądu 10mV/1A ...</translation>
+    </message>
+    <message>
+        <source>Current 65mV/kA calibrating ...</source>
+        <translation>Kalibracja prądu 65mV/kA ...</translation>
+    </message>
+    <message>
+        <source>L1  L2  L3  N</source>
+        <translation>L1  L2  L3  N</translation>
+    </message>
+    <message>
+        <source>L1</source>
+        <translation>L1</translation>
+    </message>
+    <message>
+        <source>L2</source>
+        <translation>L2</translation>
+    </message>
+    <message>
+        <source>L3</source>
+        <translation>L3</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Dalej</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Ok!</source>
+        <translation>OK!</translation>
+    </message>
+    <message>
+        <source>The calibration task is running, 
+Do you want to exit?</source>
+        <translation>Trwa kalibracja, 
+czy zakończyć?</translation>
+    </message>
+</context>
+<context>
+    <name>ClampEditor</name>
+    <message>
+        <source>Clamp Editor</source>
+        <translation>Edycja cęgów</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Name :</source>
+        <translation>Nazwa :</translation>
+    </message>
+    <message>
+        <source>Ratio :</source>
+        <translation>Przekładnia :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>Zakres I :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>Elastyczne :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Tak</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>Clamp name</source>
+        <translation>Nazwa cęgów</translation>
+    </message>
+    <message>
+        <source>Ratio (mV/A)</source>
+        <translation>Przekładnia (mV/A)</translation>
+    </message>
+    <message>
+        <source>I range (A)</source>
+        <translation>Zakres I (A)</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>Pusta nazwa!</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>Niepoprawna nazwa!</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -863,6 +1051,100 @@ Czy go zastąpić?</translation>
     </message>
 </context>
 <context>
+    <name>SetupClamp2</name>
+    <message>
+        <source>Clamp</source>
+        <translation>Cęgi</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Dodaj</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Edytuj</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>I Ratio :</source>
+        <translation>Przekł. I :</translation>
+    </message>
+    <message>
+        <source>V Ratio :</source>
+        <translation>Przekł. U :</translation>
+    </message>
+    <message>
+        <source>Channel :</source>
+        <translation>Kanał :</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>Fazy</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Neutralny</translation>
+    </message>
+    <message>
+        <source>Clamp :</source>
+        <translation>Cęgi :</translation>
+    </message>
+    <message>
+        <source>Sensitivity :</source>
+        <translation>Czułość :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>Zakres I :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>Elastyczne :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Tak</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nie</translation>
+    </message>
+    <message>
+        <source>numerator</source>
+        <translation>licznik</translation>
+    </message>
+    <message>
+        <source>denominator</source>
+        <translation>mianownik</translation>
+    </message>
+    <message>
+        <source>Uneditable Clamp!</source>
+        <translation>Tych cęgów nie można zmienić!</translation>
+    </message>
+    <message>
+        <source>Delete the Clamp?</source>
+        <translation>Usunąć cęgi?</translation>
+    </message>
+</context>
+<context>
+    <name>SetupClamps</name>
+    <message>
+        <source>Clamp Exist!</source>
+        <translation>Takie cęgi już istnieją!</translation>
+    </message>
+</context>
+<context>
     <name>SetupConfigEnterPage</name>
     <message>
         <source>JOIN CONFIG</source>
@@ -1025,6 +1307,10 @@ Czy go zastąpić?</translation>
         <source>Page Down</source>
         <translation>Nast. strona</translation>
     </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Pomiar</translation>
+    </message>
 </context>
 <context>
     <name>SetupMainPage2</name>
@@ -1039,6 +1325,10 @@ Czy go zastąpić?</translation>
     <message>
         <source>Page Up</source>
         <translation>Poprz. strona</translation>
+    </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Pomiar</translation>
     </message>
 </context>
 <context>
@@ -1066,10 +1356,6 @@ Czy go zastąpić?</translation>
 </context>
 <context>
     <name>SetupSummary</name>
-    <message>
-        <source>Measurement</source>
-        <translation>Pomiar</translation>
-    </message>
     <message>
         <source>Config:</source>
         <translation>Układ:</translation>

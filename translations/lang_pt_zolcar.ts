@@ -126,6 +126,194 @@ nesta versão do software.</translation>
     </message>
 </context>
 <context>
+    <name>CalibrationDialog</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Calibração</translation>
+    </message>
+    <message>
+        <source>Zero:</source>
+        <translation>Zero:</translation>
+    </message>
+    <message>
+        <source>0V 0A</source>
+        <translation>0V 0A</translation>
+    </message>
+    <message>
+        <source>Volt:</source>
+        <translation>Tensão:</translation>
+    </message>
+    <message>
+        <source>120V</source>
+        <translation>120V</translation>
+    </message>
+    <message>
+        <source>220V</source>
+        <translation>220V</translation>
+    </message>
+    <message>
+        <source>400V</source>
+        <translation>400V</translation>
+    </message>
+    <message>
+        <source>600V</source>
+        <translation>600V</translation>
+    </message>
+    <message>
+        <source>Current:</source>
+        <translation>Corrente:</translation>
+    </message>
+    <message>
+        <source>1mV/A</source>
+        <translation>1mV/A</translation>
+    </message>
+    <message>
+        <source>10mV/A</source>
+        <translation>10mV/A</translation>
+    </message>
+    <message>
+        <source>65mV/kA</source>
+        <translation>65mV/kA</translation>
+    </message>
+    <message>
+        <source>Zero calibrating ...</source>
+        <translation>Calibrando o zero ...</translation>
+    </message>
+    <message>
+        <source>Volt 120V calibrating ...</source>
+        <translation>Calibrando tensão 120V ...</translation>
+    </message>
+    <message>
+        <source>Volt 220V calibrating ...</source>
+        <translation>Calibrando tensão 220V ...</translation>
+    </message>
+    <message>
+        <source>Volt 400V calibrating ...</source>
+        <translation>Calibrando tensão 400V ...</translation>
+    </message>
+    <message>
+        <source>Volt 600V calibrating ...</source>
+        <translation>Calibrando tensão 600V ...</translation>
+    </message>
+    <message>
+        <source>Current 1mV/1A calibrating ...</source>
+        <translation>Calibrando corrente 1mV/1A ...</translation>
+    </message>
+    <message>
+        <source>Current 10mV/1A calibrating ...</source>
+        <translation>Calibrando corrente 10mV/1A ...</translation>
+    </message>
+    <message>
+        <source>Current 65mV/kA calibrating ...</source>
+        <translation>Calibrando corrente 65mV/kA ...</translation>
+    </message>
+    <message>
+        <source>L1  L2  L3  N</source>
+        <translation>L1  L2  L3  N</translation>
+    </message>
+    <message>
+        <source>L1</source>
+        <translation>L1</translation>
+    </message>
+    <message>
+        <source>L2</source>
+        <translation>L2</translation>
+    </message>
+    <message>
+        <source>L3</source>
+        <translation>L3</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Próximo</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Ok!</source>
+        <translation>OK!</translation>
+    </message>
+    <message>
+        <source>The calibration task is running, 
+Do you want to exit?</source>
+        <translation>A calibração está em curso, 
+deseja sair?</translation>
+    </message>
+</context>
+<context>
+    <name>ClampEditor</name>
+    <message>
+        <source>Clamp Editor</source>
+        <translation>Editor de alicate</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Name :</source>
+        <translation>Nome :</translation>
+    </message>
+    <message>
+        <source>Ratio :</source>
+        <translation>Relação :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>Escala I :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>Flexível :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sim</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Não</translation>
+    </message>
+    <message>
+        <source>Clamp name</source>
+        <translation>Nome do alicate</translation>
+    </message>
+    <message>
+        <source>Ratio (mV/A)</source>
+        <translation>Relação (mV/A)</translation>
+    </message>
+    <message>
+        <source>I range (A)</source>
+        <translation>Escala I (A)</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>Nome vazio!</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>Nome inválido!</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -863,6 +1051,100 @@ Deseja substituí-lo?</translation>
     </message>
 </context>
 <context>
+    <name>SetupClamp2</name>
+    <message>
+        <source>Clamp</source>
+        <translation>Alicate</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Adicionar</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>I Ratio :</source>
+        <translation>Relação I :</translation>
+    </message>
+    <message>
+        <source>V Ratio :</source>
+        <translation>Relação U :</translation>
+    </message>
+    <message>
+        <source>Channel :</source>
+        <translation>Canal :</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>Fases</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Neutro</translation>
+    </message>
+    <message>
+        <source>Clamp :</source>
+        <translation>Alicate :</translation>
+    </message>
+    <message>
+        <source>Sensitivity :</source>
+        <translation>Sensibilidade :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>Escala I :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>Flexível :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sim</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Não</translation>
+    </message>
+    <message>
+        <source>numerator</source>
+        <translation>numerador</translation>
+    </message>
+    <message>
+        <source>denominator</source>
+        <translation>denominador</translation>
+    </message>
+    <message>
+        <source>Uneditable Clamp!</source>
+        <translation>Alicate não editável!</translation>
+    </message>
+    <message>
+        <source>Delete the Clamp?</source>
+        <translation>Excluir o alicate?</translation>
+    </message>
+</context>
+<context>
+    <name>SetupClamps</name>
+    <message>
+        <source>Clamp Exist!</source>
+        <translation>O alicate já existe!</translation>
+    </message>
+</context>
+<context>
     <name>SetupConfigEnterPage</name>
     <message>
         <source>JOIN CONFIG</source>
@@ -1025,6 +1307,10 @@ Deseja substituí-lo?</translation>
         <source>Page Down</source>
         <translation>Próx. página</translation>
     </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Medição</translation>
+    </message>
 </context>
 <context>
     <name>SetupMainPage2</name>
@@ -1039,6 +1325,10 @@ Deseja substituí-lo?</translation>
     <message>
         <source>Page Up</source>
         <translation>Pág. anterior</translation>
+    </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Medição</translation>
     </message>
 </context>
 <context>
@@ -1066,10 +1356,6 @@ Deseja substituí-lo?</translation>
 </context>
 <context>
     <name>SetupSummary</name>
-    <message>
-        <source>Measurement</source>
-        <translation>Medição</translation>
-    </message>
     <message>
         <source>Config:</source>
         <translation>Ligação:</translation>

@@ -126,6 +126,194 @@ in this software version.</source>
     </message>
 </context>
 <context>
+    <name>CalibrationDialog</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Калибровка</translation>
+    </message>
+    <message>
+        <source>Zero:</source>
+        <translation>Нуль:</translation>
+    </message>
+    <message>
+        <source>0V 0A</source>
+        <translation>0V 0A</translation>
+    </message>
+    <message>
+        <source>Volt:</source>
+        <translation>Напряжение:</translation>
+    </message>
+    <message>
+        <source>120V</source>
+        <translation>120V</translation>
+    </message>
+    <message>
+        <source>220V</source>
+        <translation>220V</translation>
+    </message>
+    <message>
+        <source>400V</source>
+        <translation>400V</translation>
+    </message>
+    <message>
+        <source>600V</source>
+        <translation>600V</translation>
+    </message>
+    <message>
+        <source>Current:</source>
+        <translation>Ток:</translation>
+    </message>
+    <message>
+        <source>1mV/A</source>
+        <translation>1mV/A</translation>
+    </message>
+    <message>
+        <source>10mV/A</source>
+        <translation>10mV/A</translation>
+    </message>
+    <message>
+        <source>65mV/kA</source>
+        <translation>65mV/kA</translation>
+    </message>
+    <message>
+        <source>Zero calibrating ...</source>
+        <translation>Калибровка нуля ...</translation>
+    </message>
+    <message>
+        <source>Volt 120V calibrating ...</source>
+        <translation>Калибровка напряжения 120V ...</translation>
+    </message>
+    <message>
+        <source>Volt 220V calibrating ...</source>
+        <translation>Калибровка напряжения 220V ...</translation>
+    </message>
+    <message>
+        <source>Volt 400V calibrating ...</source>
+        <translation>Калибровка напряжения 400V ...</translation>
+    </message>
+    <message>
+        <source>Volt 600V calibrating ...</source>
+        <translation>Калибровка напряжения 600V ...</translation>
+    </message>
+    <message>
+        <source>Current 1mV/1A calibrating ...</source>
+        <translation>Калибровка тока 1mV/1A ...</translation>
+    </message>
+    <message>
+        <source>Current 10mV/1A calibrating ...</source>
+        <translation>Калибровка тока 10mV/1A ...</translation>
+    </message>
+    <message>
+        <source>Current 65mV/kA calibrating ...</source>
+        <translation>Калибровка тока 65mV/kA ...</translation>
+    </message>
+    <message>
+        <source>L1  L2  L3  N</source>
+        <translation>L1  L2  L3  N</translation>
+    </message>
+    <message>
+        <source>L1</source>
+        <translation>L1</translation>
+    </message>
+    <message>
+        <source>L2</source>
+        <translation>L2</translation>
+    </message>
+    <message>
+        <source>L3</source>
+        <translation>L3</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Далее</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Старт</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Ok!</source>
+        <translation>Готово!</translation>
+    </message>
+    <message>
+        <source>The calibration task is running, 
+Do you want to exit?</source>
+        <translation>Идёт калибровка, 
+выйти?</translation>
+    </message>
+</context>
+<context>
+    <name>ClampEditor</name>
+    <message>
+        <source>Clamp Editor</source>
+        <translation>Параметры клещей</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Name :</source>
+        <translation>Имя :</translation>
+    </message>
+    <message>
+        <source>Ratio :</source>
+        <translation>Коэф. :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>Диапазон I :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>Гибкие :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Да</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <source>Clamp name</source>
+        <translation>Имя клещей</translation>
+    </message>
+    <message>
+        <source>Ratio (mV/A)</source>
+        <translation>Коэффициент (mV/A)</translation>
+    </message>
+    <message>
+        <source>I range (A)</source>
+        <translation>Диапазон I (A)</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>Имя не задано!</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>Недопустимое имя!</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -863,6 +1051,100 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>SetupClamp2</name>
+    <message>
+        <source>Clamp</source>
+        <translation>Клещи</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Изменить</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>I Ratio :</source>
+        <translation>Коэф. ТТ :</translation>
+    </message>
+    <message>
+        <source>V Ratio :</source>
+        <translation>Коэф. ТН :</translation>
+    </message>
+    <message>
+        <source>Channel :</source>
+        <translation>Канал :</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>Фазы</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Нейтраль</translation>
+    </message>
+    <message>
+        <source>Clamp :</source>
+        <translation>Клещи :</translation>
+    </message>
+    <message>
+        <source>Sensitivity :</source>
+        <translation>Чувствит. :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>Диапазон I :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>Гибкие :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Да</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Нет</translation>
+    </message>
+    <message>
+        <source>numerator</source>
+        <translation>числитель</translation>
+    </message>
+    <message>
+        <source>denominator</source>
+        <translation>знаменатель</translation>
+    </message>
+    <message>
+        <source>Uneditable Clamp!</source>
+        <translation>Эти клещи изменить нельзя!</translation>
+    </message>
+    <message>
+        <source>Delete the Clamp?</source>
+        <translation>Удалить клещи?</translation>
+    </message>
+</context>
+<context>
+    <name>SetupClamps</name>
+    <message>
+        <source>Clamp Exist!</source>
+        <translation>Такие клещи уже есть!</translation>
+    </message>
+</context>
+<context>
     <name>SetupConfigEnterPage</name>
     <message>
         <source>JOIN CONFIG</source>
@@ -1025,6 +1307,10 @@ Do you want to overwrite it?</source>
         <source>Page Down</source>
         <translation>След. стр.</translation>
     </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Измерение</translation>
+    </message>
 </context>
 <context>
     <name>SetupMainPage2</name>
@@ -1039,6 +1325,10 @@ Do you want to overwrite it?</source>
     <message>
         <source>Page Up</source>
         <translation>Пред. стр.</translation>
+    </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Измерение</translation>
     </message>
 </context>
 <context>
@@ -1066,10 +1356,6 @@ Do you want to overwrite it?</source>
 </context>
 <context>
     <name>SetupSummary</name>
-    <message>
-        <source>Measurement</source>
-        <translation>Измерение</translation>
-    </message>
     <message>
         <source>Config:</source>
         <translation>Схема:</translation>

@@ -126,6 +126,194 @@ en esta versión del software.</translation>
     </message>
 </context>
 <context>
+    <name>CalibrationDialog</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Calibración</translation>
+    </message>
+    <message>
+        <source>Zero:</source>
+        <translation>Cero:</translation>
+    </message>
+    <message>
+        <source>0V 0A</source>
+        <translation>0V 0A</translation>
+    </message>
+    <message>
+        <source>Volt:</source>
+        <translation>Tensión:</translation>
+    </message>
+    <message>
+        <source>120V</source>
+        <translation>120V</translation>
+    </message>
+    <message>
+        <source>220V</source>
+        <translation>220V</translation>
+    </message>
+    <message>
+        <source>400V</source>
+        <translation>400V</translation>
+    </message>
+    <message>
+        <source>600V</source>
+        <translation>600V</translation>
+    </message>
+    <message>
+        <source>Current:</source>
+        <translation>Corriente:</translation>
+    </message>
+    <message>
+        <source>1mV/A</source>
+        <translation>1mV/A</translation>
+    </message>
+    <message>
+        <source>10mV/A</source>
+        <translation>10mV/A</translation>
+    </message>
+    <message>
+        <source>65mV/kA</source>
+        <translation>65mV/kA</translation>
+    </message>
+    <message>
+        <source>Zero calibrating ...</source>
+        <translation>Calibrando el cero ...</translation>
+    </message>
+    <message>
+        <source>Volt 120V calibrating ...</source>
+        <translation>Calibrando tensión 120V ...</translation>
+    </message>
+    <message>
+        <source>Volt 220V calibrating ...</source>
+        <translation>Calibrando tensión 220V ...</translation>
+    </message>
+    <message>
+        <source>Volt 400V calibrating ...</source>
+        <translation>Calibrando tensión 400V ...</translation>
+    </message>
+    <message>
+        <source>Volt 600V calibrating ...</source>
+        <translation>Calibrando tensión 600V ...</translation>
+    </message>
+    <message>
+        <source>Current 1mV/1A calibrating ...</source>
+        <translation>Calibrando corriente 1mV/1A ...</translation>
+    </message>
+    <message>
+        <source>Current 10mV/1A calibrating ...</source>
+        <translation>Calibrando corriente 10mV/1A ...</translation>
+    </message>
+    <message>
+        <source>Current 65mV/kA calibrating ...</source>
+        <translation>Calibrando corriente 65mV/kA ...</translation>
+    </message>
+    <message>
+        <source>L1  L2  L3  N</source>
+        <translation>L1  L2  L3  N</translation>
+    </message>
+    <message>
+        <source>L1</source>
+        <translation>L1</translation>
+    </message>
+    <message>
+        <source>L2</source>
+        <translation>L2</translation>
+    </message>
+    <message>
+        <source>L3</source>
+        <translation>L3</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Ok!</source>
+        <translation>¡Listo!</translation>
+    </message>
+    <message>
+        <source>The calibration task is running, 
+Do you want to exit?</source>
+        <translation>La calibración está en curso, 
+¿desea salir?</translation>
+    </message>
+</context>
+<context>
+    <name>ClampEditor</name>
+    <message>
+        <source>Clamp Editor</source>
+        <translation>Editor de pinza</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Name :</source>
+        <translation>Nombre :</translation>
+    </message>
+    <message>
+        <source>Ratio :</source>
+        <translation>Relación :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>Rango I :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>Flexible :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Clamp name</source>
+        <translation>Nombre de la pinza</translation>
+    </message>
+    <message>
+        <source>Ratio (mV/A)</source>
+        <translation>Relación (mV/A)</translation>
+    </message>
+    <message>
+        <source>I range (A)</source>
+        <translation>Rango I (A)</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>¡Nombre vacío!</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>¡Nombre no válido!</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -863,6 +1051,100 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>SetupClamp2</name>
+    <message>
+        <source>Clamp</source>
+        <translation>Pinza</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>I Ratio :</source>
+        <translation>Relación I :</translation>
+    </message>
+    <message>
+        <source>V Ratio :</source>
+        <translation>Relación U :</translation>
+    </message>
+    <message>
+        <source>Channel :</source>
+        <translation>Canal :</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>Fases</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Neutro</translation>
+    </message>
+    <message>
+        <source>Clamp :</source>
+        <translation>Pinza :</translation>
+    </message>
+    <message>
+        <source>Sensitivity :</source>
+        <translation>Sensibilidad :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>Rango I :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>Flexible :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Sí</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>numerator</source>
+        <translation>numerador</translation>
+    </message>
+    <message>
+        <source>denominator</source>
+        <translation>denominador</translation>
+    </message>
+    <message>
+        <source>Uneditable Clamp!</source>
+        <translation>¡Pinza no editable!</translation>
+    </message>
+    <message>
+        <source>Delete the Clamp?</source>
+        <translation>¿Borrar la pinza?</translation>
+    </message>
+</context>
+<context>
+    <name>SetupClamps</name>
+    <message>
+        <source>Clamp Exist!</source>
+        <translation>¡La pinza ya existe!</translation>
+    </message>
+</context>
+<context>
     <name>SetupConfigEnterPage</name>
     <message>
         <source>JOIN CONFIG</source>
@@ -1025,6 +1307,10 @@ Do you want to overwrite it?</source>
         <source>Page Down</source>
         <translation>Página sig.</translation>
     </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Medición</translation>
+    </message>
 </context>
 <context>
     <name>SetupMainPage2</name>
@@ -1039,6 +1325,10 @@ Do you want to overwrite it?</source>
     <message>
         <source>Page Up</source>
         <translation>Página ant.</translation>
+    </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Medición</translation>
     </message>
 </context>
 <context>
@@ -1066,10 +1356,6 @@ Do you want to overwrite it?</source>
 </context>
 <context>
     <name>SetupSummary</name>
-    <message>
-        <source>Measurement</source>
-        <translation>Medición</translation>
-    </message>
     <message>
         <source>Config:</source>
         <translation>Conexión:</translation>

@@ -126,6 +126,194 @@ sürümünde kullanılamaz.</translation>
     </message>
 </context>
 <context>
+    <name>CalibrationDialog</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Kalibrasyon</translation>
+    </message>
+    <message>
+        <source>Zero:</source>
+        <translation>Sıfır:</translation>
+    </message>
+    <message>
+        <source>0V 0A</source>
+        <translation>0V 0A</translation>
+    </message>
+    <message>
+        <source>Volt:</source>
+        <translation>Gerilim:</translation>
+    </message>
+    <message>
+        <source>120V</source>
+        <translation>120V</translation>
+    </message>
+    <message>
+        <source>220V</source>
+        <translation>220V</translation>
+    </message>
+    <message>
+        <source>400V</source>
+        <translation>400V</translation>
+    </message>
+    <message>
+        <source>600V</source>
+        <translation>600V</translation>
+    </message>
+    <message>
+        <source>Current:</source>
+        <translation>Akım:</translation>
+    </message>
+    <message>
+        <source>1mV/A</source>
+        <translation>1mV/A</translation>
+    </message>
+    <message>
+        <source>10mV/A</source>
+        <translation>10mV/A</translation>
+    </message>
+    <message>
+        <source>65mV/kA</source>
+        <translation>65mV/kA</translation>
+    </message>
+    <message>
+        <source>Zero calibrating ...</source>
+        <translation>Sıfır kalibre ediliyor ...</translation>
+    </message>
+    <message>
+        <source>Volt 120V calibrating ...</source>
+        <translation>Gerilim 120V kalibre ediliyor ...</translation>
+    </message>
+    <message>
+        <source>Volt 220V calibrating ...</source>
+        <translation>Gerilim 220V kalibre ediliyor ...</translation>
+    </message>
+    <message>
+        <source>Volt 400V calibrating ...</source>
+        <translation>Gerilim 400V kalibre ediliyor ...</translation>
+    </message>
+    <message>
+        <source>Volt 600V calibrating ...</source>
+        <translation>Gerilim 600V kalibre ediliyor ...</translation>
+    </message>
+    <message>
+        <source>Current 1mV/1A calibrating ...</source>
+        <translation>Akım 1mV/1A kalibre ediliyor ...</translation>
+    </message>
+    <message>
+        <source>Current 10mV/1A calibrating ...</source>
+        <translation>Akım 10mV/1A kalibre ediliyor ...</translation>
+    </message>
+    <message>
+        <source>Current 65mV/kA calibrating ...</source>
+        <translation>Akım 65mV/kA kalibre ediliyor ...</translation>
+    </message>
+    <message>
+        <source>L1  L2  L3  N</source>
+        <translation>L1  L2  L3  N</translation>
+    </message>
+    <message>
+        <source>L1</source>
+        <translation>L1</translation>
+    </message>
+    <message>
+        <source>L2</source>
+        <translation>L2</translation>
+    </message>
+    <message>
+        <source>L3</source>
+        <translation>L3</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>İleri</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Başlat</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Ok!</source>
+        <translation>Tamam!</translation>
+    </message>
+    <message>
+        <source>The calibration task is running, 
+Do you want to exit?</source>
+        <translation>Kalibrasyon sürüyor, 
+çıkmak istiyor musunuz?</translation>
+    </message>
+</context>
+<context>
+    <name>ClampEditor</name>
+    <message>
+        <source>Clamp Editor</source>
+        <translation>Pens düzenleme</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Name :</source>
+        <translation>Ad :</translation>
+    </message>
+    <message>
+        <source>Ratio :</source>
+        <translation>Oran :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>I aralığı :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>Esnek :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Evet</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Hayır</translation>
+    </message>
+    <message>
+        <source>Clamp name</source>
+        <translation>Pens adı</translation>
+    </message>
+    <message>
+        <source>Ratio (mV/A)</source>
+        <translation>Oran (mV/A)</translation>
+    </message>
+    <message>
+        <source>I range (A)</source>
+        <translation>I aralığı (A)</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>Ad boş!</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>Geçersiz ad!</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -863,6 +1051,100 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>SetupClamp2</name>
+    <message>
+        <source>Clamp</source>
+        <translation>Pens</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ekle</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>Düzenle</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>I Ratio :</source>
+        <translation>I oranı :</translation>
+    </message>
+    <message>
+        <source>V Ratio :</source>
+        <translation>U oranı :</translation>
+    </message>
+    <message>
+        <source>Channel :</source>
+        <translation>Kanal :</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>Fazlar</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>Nötr</translation>
+    </message>
+    <message>
+        <source>Clamp :</source>
+        <translation>Pens :</translation>
+    </message>
+    <message>
+        <source>Sensitivity :</source>
+        <translation>Duyarlılık :</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>I aralığı :</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>Esnek :</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Evet</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Hayır</translation>
+    </message>
+    <message>
+        <source>numerator</source>
+        <translation>pay</translation>
+    </message>
+    <message>
+        <source>denominator</source>
+        <translation>payda</translation>
+    </message>
+    <message>
+        <source>Uneditable Clamp!</source>
+        <translation>Bu pens düzenlenemez!</translation>
+    </message>
+    <message>
+        <source>Delete the Clamp?</source>
+        <translation>Pens silinsin mi?</translation>
+    </message>
+</context>
+<context>
+    <name>SetupClamps</name>
+    <message>
+        <source>Clamp Exist!</source>
+        <translation>Pens zaten var!</translation>
+    </message>
+</context>
+<context>
     <name>SetupConfigEnterPage</name>
     <message>
         <source>JOIN CONFIG</source>
@@ -1025,6 +1307,10 @@ Do you want to overwrite it?</source>
         <source>Page Down</source>
         <translation>Sonraki sayfa</translation>
     </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Ölçüm</translation>
+    </message>
 </context>
 <context>
     <name>SetupMainPage2</name>
@@ -1039,6 +1325,10 @@ Do you want to overwrite it?</source>
     <message>
         <source>Page Up</source>
         <translation>Önceki sayfa</translation>
+    </message>
+    <message>
+        <source>Measurement</source>
+        <translation>Ölçüm</translation>
     </message>
 </context>
 <context>
@@ -1066,10 +1356,6 @@ Do you want to overwrite it?</source>
 </context>
 <context>
     <name>SetupSummary</name>
-    <message>
-        <source>Measurement</source>
-        <translation>Ölçüm</translation>
-    </message>
     <message>
         <source>Config:</source>
         <translation>Bağlantı:</translation>

@@ -126,6 +126,194 @@ in this software version.</source>
     </message>
 </context>
 <context>
+    <name>CalibrationDialog</name>
+    <message>
+        <source>Calibration</source>
+        <translation>校准</translation>
+    </message>
+    <message>
+        <source>Zero:</source>
+        <translation>零点：</translation>
+    </message>
+    <message>
+        <source>0V 0A</source>
+        <translation>0V 0A</translation>
+    </message>
+    <message>
+        <source>Volt:</source>
+        <translation>电压：</translation>
+    </message>
+    <message>
+        <source>120V</source>
+        <translation>120V</translation>
+    </message>
+    <message>
+        <source>220V</source>
+        <translation>220V</translation>
+    </message>
+    <message>
+        <source>400V</source>
+        <translation>400V</translation>
+    </message>
+    <message>
+        <source>600V</source>
+        <translation>600V</translation>
+    </message>
+    <message>
+        <source>Current:</source>
+        <translation>电流：</translation>
+    </message>
+    <message>
+        <source>1mV/A</source>
+        <translation>1mV/A</translation>
+    </message>
+    <message>
+        <source>10mV/A</source>
+        <translation>10mV/A</translation>
+    </message>
+    <message>
+        <source>65mV/kA</source>
+        <translation>65mV/kA</translation>
+    </message>
+    <message>
+        <source>Zero calibrating ...</source>
+        <translation>正在校准零点 ...</translation>
+    </message>
+    <message>
+        <source>Volt 120V calibrating ...</source>
+        <translation>正在校准电压 120V ...</translation>
+    </message>
+    <message>
+        <source>Volt 220V calibrating ...</source>
+        <translation>正在校准电压 220V ...</translation>
+    </message>
+    <message>
+        <source>Volt 400V calibrating ...</source>
+        <translation>正在校准电压 400V ...</translation>
+    </message>
+    <message>
+        <source>Volt 600V calibrating ...</source>
+        <translation>正在校准电压 600V ...</translation>
+    </message>
+    <message>
+        <source>Current 1mV/1A calibrating ...</source>
+        <translation>正在校准电流 1mV/1A ...</translation>
+    </message>
+    <message>
+        <source>Current 10mV/1A calibrating ...</source>
+        <translation>正在校准电流 10mV/1A ...</translation>
+    </message>
+    <message>
+        <source>Current 65mV/kA calibrating ...</source>
+        <translation>正在校准电流 65mV/kA ...</translation>
+    </message>
+    <message>
+        <source>L1  L2  L3  N</source>
+        <translation>L1  L2  L3  N</translation>
+    </message>
+    <message>
+        <source>L1</source>
+        <translation>L1</translation>
+    </message>
+    <message>
+        <source>L2</source>
+        <translation>L2</translation>
+    </message>
+    <message>
+        <source>L3</source>
+        <translation>L3</translation>
+    </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>切换</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>启动</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Ok!</source>
+        <translation>完成！</translation>
+    </message>
+    <message>
+        <source>The calibration task is running, 
+Do you want to exit?</source>
+        <translation>校准任务正在运行， 
+是否退出？</translation>
+    </message>
+</context>
+<context>
+    <name>ClampEditor</name>
+    <message>
+        <source>Clamp Editor</source>
+        <translation>电流钳编辑</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Name :</source>
+        <translation>名称：</translation>
+    </message>
+    <message>
+        <source>Ratio :</source>
+        <translation>变比：</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>电流量程：</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>柔性：</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>Clamp name</source>
+        <translation>电流钳名称</translation>
+    </message>
+    <message>
+        <source>Ratio (mV/A)</source>
+        <translation>变比 (mV/A)</translation>
+    </message>
+    <message>
+        <source>I range (A)</source>
+        <translation>电流量程 (A)</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>名称为空！</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>名称无效！</translation>
+    </message>
+</context>
+<context>
     <name>ComplianceBars</name>
     <message>
         <source>Limit</source>
@@ -863,6 +1051,100 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>SetupClamp2</name>
+    <message>
+        <source>Clamp</source>
+        <translation>电流钳</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>I Ratio :</source>
+        <translation>电流变比：</translation>
+    </message>
+    <message>
+        <source>V Ratio :</source>
+        <translation>电压变比：</translation>
+    </message>
+    <message>
+        <source>Channel :</source>
+        <translation>通道：</translation>
+    </message>
+    <message>
+        <source>Phases</source>
+        <translation>相线</translation>
+    </message>
+    <message>
+        <source>Neutral</source>
+        <translation>中性线</translation>
+    </message>
+    <message>
+        <source>Clamp :</source>
+        <translation>电流钳：</translation>
+    </message>
+    <message>
+        <source>Sensitivity :</source>
+        <translation>灵敏度：</translation>
+    </message>
+    <message>
+        <source>I range :</source>
+        <translation>电流量程：</translation>
+    </message>
+    <message>
+        <source>Flexible :</source>
+        <translation>柔性：</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>是</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>否</translation>
+    </message>
+    <message>
+        <source>numerator</source>
+        <translation>分子</translation>
+    </message>
+    <message>
+        <source>denominator</source>
+        <translation>分母</translation>
+    </message>
+    <message>
+        <source>Uneditable Clamp!</source>
+        <translation>此电流钳不可编辑！</translation>
+    </message>
+    <message>
+        <source>Delete the Clamp?</source>
+        <translation>删除该电流钳？</translation>
+    </message>
+</context>
+<context>
+    <name>SetupClamps</name>
+    <message>
+        <source>Clamp Exist!</source>
+        <translation>电流钳已存在！</translation>
+    </message>
+</context>
+<context>
     <name>SetupConfigEnterPage</name>
     <message>
         <source>JOIN CONFIG</source>
@@ -1025,6 +1307,10 @@ Do you want to overwrite it?</source>
         <source>Page Down</source>
         <translation>下一页</translation>
     </message>
+    <message>
+        <source>Measurement</source>
+        <translation>测量</translation>
+    </message>
 </context>
 <context>
     <name>SetupMainPage2</name>
@@ -1039,6 +1325,10 @@ Do you want to overwrite it?</source>
     <message>
         <source>Page Up</source>
         <translation>上一页</translation>
+    </message>
+    <message>
+        <source>Measurement</source>
+        <translation>测量</translation>
     </message>
 </context>
 <context>
@@ -1066,10 +1356,6 @@ Do you want to overwrite it?</source>
 </context>
 <context>
     <name>SetupSummary</name>
-    <message>
-        <source>Measurement</source>
-        <translation>测量</translation>
-    </message>
     <message>
         <source>Config:</source>
         <translation>接线：</translation>

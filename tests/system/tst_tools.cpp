@@ -18,6 +18,7 @@ private slots:
     void pictureWithAFlippedBitIsNotWhole();
     void keyNamesAndNumbersGiveTheRemoteNumber();
     void galleryPicturesTheMenuAndVoltsAmpsHertz();
+    void galleryPicturesOneLanguage();
 
 private:
     struct Result
@@ -156,6 +157,27 @@ void TstTools::galleryPicturesTheMenuAndVoltsAmpsHertz()
     QCOMPARE(run(QStringLiteral("quvera-gallery"), { "--pages", "garden" }).code, 2);
     QCOMPARE(run(QStringLiteral("quvera-gallery"), { "--wirings", "11" }).code, 2);
     QCOMPARE(run(QStringLiteral("quvera-gallery"), { "--languages", "XX" }).code, 2);
+    QCOMPARE(run(QStringLiteral("quvera-gallery"), { "--language", "XX" }).code, 2);
+}
+
+void TstTools::galleryPicturesOneLanguage()
+{
+    QTemporaryDir folder;
+    const QString out = folder.path();
+    for (const QStringList &language : { QStringList { "--languages", "EN" }, QStringList { "--language", "RU" } }) {
+        const Result result
+            = run(QStringLiteral("quvera-gallery"),
+                  QStringList { "--out", out, "--pages", "menu", "--settle", "0", "--warm-up", "0" } + language);
+        QVERIFY2(result.code == 0, result.error);
+        QCOMPARE(QFile::exists(out + "/sheet.png"), language.first() == "--language");
+    }
+    // The captions below the first row of tiles are others, the tiles are the same.
+    const QRect tile(78, 32, 100, 100);
+    const QRect captions(20, 132, 600, 40);
+    const QImage english(out + "/menu-menu-3P_WYE_50_Hz_EN.png"), russian(out + "/menu-menu-3P_WYE_50_Hz_RU.png");
+    QVERIFY(!english.isNull() && !russian.isNull());
+    QCOMPARE(russian.copy(tile), english.copy(tile));
+    QVERIFY(russian.copy(captions) != english.copy(captions));
 }
 
 QTEST_GUILESS_MAIN(TstTools)

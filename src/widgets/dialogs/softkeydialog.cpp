@@ -37,9 +37,10 @@ void SoftKeyDialog::finishForm()
     setFixedSize(size());
     m_background = ChartParts::scaledPicture(QStringLiteral(":/message_bg"), size());
     for (QLabel *label : findChildren<QLabel *>()) {
-        label->ensurePolished(); // or it would not know yet how large its letters are
+        // A translation may be longer than its place. A label of the form has letters in points, not yet in pixels.
+        label->ensurePolished();
         if (!label->text().isEmpty())
-            fitText(label, label->text(), label->font().pixelSize()); // a translation may be longer than its place
+            fitText(label, label->text(), QFontInfo(label->font()).pixelSize());
     }
     for (int number = 1; number <= 5; ++number) {
         if (const QLabel *key = softKey(number))

@@ -1,5 +1,7 @@
 #include "platform/target.h"
 #include "settings/userconfig.h"
+#include "setup/calibrationdialog.h"
+#include "setup/instrumentinfo.h"
 #include "shell/menupage.h"
 #include "shell/pagetable.h"
 #include "shell/tasklinks.h"
@@ -179,6 +181,8 @@ void TstLanguages::lookAtDialogs()
     VirtualKeyBoard::getKeyBoardInput(QString(), QString());
     FileManager::getExistFileName();
     FileCopingProgressBar(QString(), QString()).exec();
+    CalibrationDialog::calibration();
+    InstrumentInfo::editInstrumentInfo();
 }
 
 void TstLanguages::everyTextFits_data()
