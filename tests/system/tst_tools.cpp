@@ -174,7 +174,7 @@ void TstTools::galleryPicturesOneLanguage()
     // The captions below the first row of tiles are others, the tiles are the same.
     const QRect tile(78, 32, 100, 100);
     const QRect captions(20, 132, 600, 40);
-    const QImage english(out + "/menu-menu-3P_WYE_50_Hz_EN.png"), russian(out + "/menu-menu-3P_WYE_50_Hz_RU.png");
+    const QImage english(out + "/menu-menu-3P_WYE_50_Hz.png"), russian(out + "/menu-menu-3P_WYE_50_Hz_RU.png");
     QVERIFY(!english.isNull() && !russian.isNull());
     QCOMPARE(russian.copy(tile), english.copy(tile));
     QVERIFY(russian.copy(captions) != english.copy(captions));
