@@ -754,6 +754,29 @@ réseau</translation>
     </message>
 </context>
 <context>
+    <name>PhaseColorDialog</name>
+    <message>
+        <source>Default</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Phase Colors</source>
+        <translation>Couleur des phases</translation>
+    </message>
+    <message>
+        <source>Earth</source>
+        <translation>Terre</translation>
+    </message>
+</context>
+<context>
     <name>PowerInverterMain</name>
     <message>
         <source>Freq =</source>
@@ -1688,6 +1711,194 @@ Voulez-vous l&apos;écraser ?</translation>
     </message>
 </context>
 <context>
+    <name>UserDatePage</name>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>Date et heure</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Time Zone:</source>
+        <translation>Fuseau horaire :</translation>
+    </message>
+</context>
+<context>
+    <name>UserLanPage</name>
+    <message>
+        <source>Address:</source>
+        <translation>Adresse :</translation>
+    </message>
+    <message>
+        <source>Netmask:</source>
+        <translation>Masque :</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>Passerelle :</translation>
+    </message>
+    <message>
+        <source>LAN SETUP</source>
+        <translation>CONFIGURATION LAN</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Use DHCP</source>
+        <translation>Utiliser DHCP</translation>
+    </message>
+    <message>
+        <source>Static</source>
+        <translation>Statique</translation>
+    </message>
+    <message>
+        <source>IP Setup</source>
+        <translation>Configuration IP</translation>
+    </message>
+    <message>
+        <source>IP In-use:</source>
+        <translation>IP utilisée :</translation>
+    </message>
+</context>
+<context>
+    <name>UserWifiPage</name>
+    <message>
+        <source>Connect To</source>
+        <translation>Connecter</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>WLAN</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>SSID:</source>
+        <translation>SSID:</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>État :</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Adresse :</translation>
+    </message>
+    <message>
+        <source>Netmask:</source>
+        <translation>Masque :</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>Passerelle :</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connecté</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>Recherche</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Déconnecté</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>%1 dBm</source>
+        <translation>%1 dBm</translation>
+    </message>
+    <message>
+        <source>secured</source>
+        <translation>sécurisé</translation>
+    </message>
+    <message>
+        <source>no networks</source>
+        <translation>aucun réseau</translation>
+    </message>
+</context>
+<context>
+    <name>UserZiPage</name>
+    <message>
+        <source>Connected</source>
+        <translation>Connecté</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Déconnecté</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utilisateur</translation>
+    </message>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>Date et heure</translation>
+    </message>
+    <message>
+        <source>LAN</source>
+        <translation>LAN</translation>
+    </message>
+    <message>
+        <source>WLAN</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Mise à jour</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Sleep Time</source>
+        <translation>Mise en veille</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Éclairage</translation>
+    </message>
+    <message>
+        <source>Phase Colors</source>
+        <translation>Couleur des phases</translation>
+    </message>
+    <message>
+        <source>User Name</source>
+        <translation>Nom d&apos;utilisateur</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+</context>
+<context>
     <name>VifMain</name>
     <message>
         <source>Freq =</source>
@@ -1801,6 +2012,37 @@ Voulez-vous l&apos;écraser ?</translation>
     <message>
         <source>Flicker</source>
         <translation>Flicker</translation>
+    </message>
+</context>
+<context>
+    <name>wlanSettingDialog</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Connect To</source>
+        <translation>Connecter</translation>
+    </message>
+    <message>
+        <source>SSID:</source>
+        <translation>SSID:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Mot de passe :</translation>
+    </message>
+    <message>
+        <source>(stored)</source>
+        <translation>(enregistré)</translation>
+    </message>
+    <message>
+        <source>Invalid input!</source>
+        <translation>Saisie incorrecte !</translation>
     </message>
 </context>
 </TS>

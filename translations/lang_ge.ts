@@ -754,6 +754,29 @@ signale</translation>
     </message>
 </context>
 <context>
+    <name>PhaseColorDialog</name>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Phase Colors</source>
+        <translation>Phasenfarben</translation>
+    </message>
+    <message>
+        <source>Earth</source>
+        <translation>Erde</translation>
+    </message>
+</context>
+<context>
     <name>PowerInverterMain</name>
     <message>
         <source>Freq =</source>
@@ -1688,6 +1711,194 @@ Soll sie überschrieben werden?</translation>
     </message>
 </context>
 <context>
+    <name>UserDatePage</name>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>Datum &amp; Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Time Zone:</source>
+        <translation>Zeitzone:</translation>
+    </message>
+</context>
+<context>
+    <name>UserLanPage</name>
+    <message>
+        <source>Address:</source>
+        <translation>Adresse:</translation>
+    </message>
+    <message>
+        <source>Netmask:</source>
+        <translation>Netzmaske:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>Gateway:</translation>
+    </message>
+    <message>
+        <source>LAN SETUP</source>
+        <translation>LAN-EINSTELLUNG</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Use DHCP</source>
+        <translation>DHCP verwenden</translation>
+    </message>
+    <message>
+        <source>Static</source>
+        <translation>Statisch</translation>
+    </message>
+    <message>
+        <source>IP Setup</source>
+        <translation>IP-Einstellung</translation>
+    </message>
+    <message>
+        <source>IP In-use:</source>
+        <translation>IP in Gebrauch:</translation>
+    </message>
+</context>
+<context>
+    <name>UserWifiPage</name>
+    <message>
+        <source>Connect To</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>WLAN</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>SSID:</source>
+        <translation>SSID:</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>Status:</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Adresse:</translation>
+    </message>
+    <message>
+        <source>Netmask:</source>
+        <translation>Netzmaske:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>Gateway:</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Verbindung wird hergestellt</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>Suche läuft</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Getrennt</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>%1 dBm</source>
+        <translation>%1 dBm</translation>
+    </message>
+    <message>
+        <source>secured</source>
+        <translation>gesichert</translation>
+    </message>
+    <message>
+        <source>no networks</source>
+        <translation>keine Netze</translation>
+    </message>
+</context>
+<context>
+    <name>UserZiPage</name>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Getrennt</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Benutzer</translation>
+    </message>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>Datum &amp; Uhrzeit</translation>
+    </message>
+    <message>
+        <source>LAN</source>
+        <translation>LAN</translation>
+    </message>
+    <message>
+        <source>WLAN</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Sleep Time</source>
+        <translation>Abschaltzeit</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Beleuchtung</translation>
+    </message>
+    <message>
+        <source>Phase Colors</source>
+        <translation>Phasenfarben</translation>
+    </message>
+    <message>
+        <source>User Name</source>
+        <translation>Benutzername</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Version</translation>
+    </message>
+</context>
+<context>
     <name>VifMain</name>
     <message>
         <source>Freq =</source>
@@ -1801,6 +2012,37 @@ Soll sie überschrieben werden?</translation>
     <message>
         <source>Flicker</source>
         <translation>Flicker</translation>
+    </message>
+</context>
+<context>
+    <name>wlanSettingDialog</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Connect To</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>SSID:</source>
+        <translation>SSID:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Passwort:</translation>
+    </message>
+    <message>
+        <source>(stored)</source>
+        <translation>(gespeichert)</translation>
+    </message>
+    <message>
+        <source>Invalid input!</source>
+        <translation>Ungültige Eingabe!</translation>
     </message>
 </context>
 </TS>

@@ -754,6 +754,29 @@ in rete</translation>
     </message>
 </context>
 <context>
+    <name>PhaseColorDialog</name>
+    <message>
+        <source>Default</source>
+        <translation>Predefinito</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Phase Colors</source>
+        <translation>Colori delle fasi</translation>
+    </message>
+    <message>
+        <source>Earth</source>
+        <translation>Terra</translation>
+    </message>
+</context>
+<context>
     <name>PowerInverterMain</name>
     <message>
         <source>Freq =</source>
@@ -1688,6 +1711,194 @@ Sovrascriverlo?</translation>
     </message>
 </context>
 <context>
+    <name>UserDatePage</name>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>Data e ora</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Time Zone:</source>
+        <translation>Fuso orario:</translation>
+    </message>
+</context>
+<context>
+    <name>UserLanPage</name>
+    <message>
+        <source>Address:</source>
+        <translation>Indirizzo:</translation>
+    </message>
+    <message>
+        <source>Netmask:</source>
+        <translation>Maschera:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>Gateway:</translation>
+    </message>
+    <message>
+        <source>LAN SETUP</source>
+        <translation>IMPOSTAZIONI LAN</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Use DHCP</source>
+        <translation>Usa DHCP</translation>
+    </message>
+    <message>
+        <source>Static</source>
+        <translation>Statico</translation>
+    </message>
+    <message>
+        <source>IP Setup</source>
+        <translation>Impostazioni IP</translation>
+    </message>
+    <message>
+        <source>IP In-use:</source>
+        <translation>IP in uso:</translation>
+    </message>
+</context>
+<context>
+    <name>UserWifiPage</name>
+    <message>
+        <source>Connect To</source>
+        <translation>Connetti</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Esci</translation>
+    </message>
+    <message>
+        <source>WLAN</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>SSID:</source>
+        <translation>SSID:</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>Stato:</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Indirizzo:</translation>
+    </message>
+    <message>
+        <source>Netmask:</source>
+        <translation>Maschera:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>Gateway:</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connesso</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Connessione</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>Ricerca</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Disconnesso</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Attiva</translation>
+    </message>
+    <message>
+        <source>%1 dBm</source>
+        <translation>%1 dBm</translation>
+    </message>
+    <message>
+        <source>secured</source>
+        <translation>protetta</translation>
+    </message>
+    <message>
+        <source>no networks</source>
+        <translation>nessuna rete</translation>
+    </message>
+</context>
+<context>
+    <name>UserZiPage</name>
+    <message>
+        <source>Connected</source>
+        <translation>Connesso</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Disconnesso</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utente</translation>
+    </message>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>Data e ora</translation>
+    </message>
+    <message>
+        <source>LAN</source>
+        <translation>LAN</translation>
+    </message>
+    <message>
+        <source>WLAN</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aggiornamento</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>Sleep Time</source>
+        <translation>Tempo di riposo</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Luce</translation>
+    </message>
+    <message>
+        <source>Phase Colors</source>
+        <translation>Colori delle fasi</translation>
+    </message>
+    <message>
+        <source>User Name</source>
+        <translation>Nome utente</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versione</translation>
+    </message>
+</context>
+<context>
     <name>VifMain</name>
     <message>
         <source>Freq =</source>
@@ -1801,6 +2012,37 @@ Sovrascriverlo?</translation>
     <message>
         <source>Flicker</source>
         <translation>Flicker</translation>
+    </message>
+</context>
+<context>
+    <name>wlanSettingDialog</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Connect To</source>
+        <translation>Connetti</translation>
+    </message>
+    <message>
+        <source>SSID:</source>
+        <translation>SSID:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>(stored)</source>
+        <translation>(memorizzata)</translation>
+    </message>
+    <message>
+        <source>Invalid input!</source>
+        <translation>Immissione non valida!</translation>
     </message>
 </context>
 </TS>

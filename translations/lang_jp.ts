@@ -754,6 +754,29 @@ Signaling</source>
     </message>
 </context>
 <context>
+    <name>PhaseColorDialog</name>
+    <message>
+        <source>Default</source>
+        <translation>初期値</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Phase Colors</source>
+        <translation>相の色</translation>
+    </message>
+    <message>
+        <source>Earth</source>
+        <translation>接地</translation>
+    </message>
+</context>
+<context>
     <name>PowerInverterMain</name>
     <message>
         <source>Freq =</source>
@@ -1688,6 +1711,194 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>UserDatePage</name>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>日付と時刻</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Time Zone:</source>
+        <translation>タイムゾーン:</translation>
+    </message>
+</context>
+<context>
+    <name>UserLanPage</name>
+    <message>
+        <source>Address:</source>
+        <translation>アドレス:</translation>
+    </message>
+    <message>
+        <source>Netmask:</source>
+        <translation>ネットマスク:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>ゲートウェイ:</translation>
+    </message>
+    <message>
+        <source>LAN SETUP</source>
+        <translation>LAN 設定</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Use DHCP</source>
+        <translation>DHCP を使用</translation>
+    </message>
+    <message>
+        <source>Static</source>
+        <translation>固定</translation>
+    </message>
+    <message>
+        <source>IP Setup</source>
+        <translation>IP 設定</translation>
+    </message>
+    <message>
+        <source>IP In-use:</source>
+        <translation>使用中の IP:</translation>
+    </message>
+</context>
+<context>
+    <name>UserWifiPage</name>
+    <message>
+        <source>Connect To</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>WLAN</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>SSID:</source>
+        <translation>SSID:</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>状態:</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>アドレス:</translation>
+    </message>
+    <message>
+        <source>Netmask:</source>
+        <translation>ネットマスク:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>ゲートウェイ:</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>接続済み</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>接続中</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>スキャン中</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>未接続</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>%1 dBm</source>
+        <translation>%1 dBm</translation>
+    </message>
+    <message>
+        <source>secured</source>
+        <translation>保護あり</translation>
+    </message>
+    <message>
+        <source>no networks</source>
+        <translation>ネットワークなし</translation>
+    </message>
+</context>
+<context>
+    <name>UserZiPage</name>
+    <message>
+        <source>Connected</source>
+        <translation>接続済み</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>未接続</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>ユーザー</translation>
+    </message>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>日付と時刻</translation>
+    </message>
+    <message>
+        <source>LAN</source>
+        <translation>LAN</translation>
+    </message>
+    <message>
+        <source>WLAN</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Sleep Time</source>
+        <translation>消灯時間</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>バックライト</translation>
+    </message>
+    <message>
+        <source>Phase Colors</source>
+        <translation>相の色</translation>
+    </message>
+    <message>
+        <source>User Name</source>
+        <translation>ユーザー名</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>バージョン</translation>
+    </message>
+</context>
+<context>
     <name>VifMain</name>
     <message>
         <source>Freq =</source>
@@ -1801,6 +2012,37 @@ Do you want to overwrite it?</source>
     <message>
         <source>Flicker</source>
         <translation>フリッカ</translation>
+    </message>
+</context>
+<context>
+    <name>wlanSettingDialog</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Connect To</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>SSID:</source>
+        <translation>SSID:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>パスワード:</translation>
+    </message>
+    <message>
+        <source>(stored)</source>
+        <translation>（保存済み）</translation>
+    </message>
+    <message>
+        <source>Invalid input!</source>
+        <translation>入力が無効です！</translation>
     </message>
 </context>
 </TS>

@@ -754,6 +754,29 @@ Signaling</source>
     </message>
 </context>
 <context>
+    <name>PhaseColorDialog</name>
+    <message>
+        <source>Default</source>
+        <translation>기본값</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Phase Colors</source>
+        <translation>상 색상</translation>
+    </message>
+    <message>
+        <source>Earth</source>
+        <translation>접지</translation>
+    </message>
+</context>
+<context>
     <name>PowerInverterMain</name>
     <message>
         <source>Freq =</source>
@@ -1688,6 +1711,194 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>UserDatePage</name>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>날짜 및 시각</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Time Zone:</source>
+        <translation>시간대:</translation>
+    </message>
+</context>
+<context>
+    <name>UserLanPage</name>
+    <message>
+        <source>Address:</source>
+        <translation>주소:</translation>
+    </message>
+    <message>
+        <source>Netmask:</source>
+        <translation>넷마스크:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>게이트웨이:</translation>
+    </message>
+    <message>
+        <source>LAN SETUP</source>
+        <translation>LAN 설정</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Use DHCP</source>
+        <translation>DHCP 사용</translation>
+    </message>
+    <message>
+        <source>Static</source>
+        <translation>고정</translation>
+    </message>
+    <message>
+        <source>IP Setup</source>
+        <translation>IP 설정</translation>
+    </message>
+    <message>
+        <source>IP In-use:</source>
+        <translation>사용 중인 IP:</translation>
+    </message>
+</context>
+<context>
+    <name>UserWifiPage</name>
+    <message>
+        <source>Connect To</source>
+        <translation>연결</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>종료</translation>
+    </message>
+    <message>
+        <source>WLAN</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>SSID:</source>
+        <translation>SSID:</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>상태:</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>주소:</translation>
+    </message>
+    <message>
+        <source>Netmask:</source>
+        <translation>넷마스크:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>게이트웨이:</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>연결됨</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>연결 중</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>검색 중</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>연결 끊김</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>켜기</translation>
+    </message>
+    <message>
+        <source>%1 dBm</source>
+        <translation>%1 dBm</translation>
+    </message>
+    <message>
+        <source>secured</source>
+        <translation>보안</translation>
+    </message>
+    <message>
+        <source>no networks</source>
+        <translation>네트워크 없음</translation>
+    </message>
+</context>
+<context>
+    <name>UserZiPage</name>
+    <message>
+        <source>Connected</source>
+        <translation>연결됨</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>연결 끊김</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>사용자</translation>
+    </message>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>날짜 및 시각</translation>
+    </message>
+    <message>
+        <source>LAN</source>
+        <translation>LAN</translation>
+    </message>
+    <message>
+        <source>WLAN</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>업데이트</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>언어</translation>
+    </message>
+    <message>
+        <source>Sleep Time</source>
+        <translation>절전 시간</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>백라이트</translation>
+    </message>
+    <message>
+        <source>Phase Colors</source>
+        <translation>상 색상</translation>
+    </message>
+    <message>
+        <source>User Name</source>
+        <translation>사용자 이름</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>버전</translation>
+    </message>
+</context>
+<context>
     <name>VifMain</name>
     <message>
         <source>Freq =</source>
@@ -1801,6 +2012,37 @@ Do you want to overwrite it?</source>
     <message>
         <source>Flicker</source>
         <translation>플리커</translation>
+    </message>
+</context>
+<context>
+    <name>wlanSettingDialog</name>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Connect To</source>
+        <translation>연결</translation>
+    </message>
+    <message>
+        <source>SSID:</source>
+        <translation>SSID:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>비밀번호:</translation>
+    </message>
+    <message>
+        <source>(stored)</source>
+        <translation>(저장됨)</translation>
+    </message>
+    <message>
+        <source>Invalid input!</source>
+        <translation>잘못된 입력입니다!</translation>
     </message>
 </context>
 </TS>

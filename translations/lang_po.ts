@@ -754,6 +754,29 @@ w sieci</translation>
     </message>
 </context>
 <context>
+    <name>PhaseColorDialog</name>
+    <message>
+        <source>Default</source>
+        <translation>Domyślne</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Phase Colors</source>
+        <translation>Kolory faz</translation>
+    </message>
+    <message>
+        <source>Earth</source>
+        <translation>Uziemienie</translation>
+    </message>
+</context>
+<context>
     <name>PowerInverterMain</name>
     <message>
         <source>Freq =</source>
@@ -1688,6 +1711,194 @@ Czy go zastąpić?</translation>
     </message>
 </context>
 <context>
+    <name>UserDatePage</name>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>Data i czas</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Time Zone:</source>
+        <translation>Strefa czasowa:</translation>
+    </message>
+</context>
+<context>
+    <name>UserLanPage</name>
+    <message>
+        <source>Address:</source>
+        <translation>Adres:</translation>
+    </message>
+    <message>
+        <source>Netmask:</source>
+        <translation>Maska:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>Brama:</translation>
+    </message>
+    <message>
+        <source>LAN SETUP</source>
+        <translation>USTAWIENIA LAN</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Use DHCP</source>
+        <translation>Użyj DHCP</translation>
+    </message>
+    <message>
+        <source>Static</source>
+        <translation>Statyczny</translation>
+    </message>
+    <message>
+        <source>IP Setup</source>
+        <translation>Ustawienia IP</translation>
+    </message>
+    <message>
+        <source>IP In-use:</source>
+        <translation>Używane IP:</translation>
+    </message>
+</context>
+<context>
+    <name>UserWifiPage</name>
+    <message>
+        <source>Connect To</source>
+        <translation>Połącz</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Wyjście</translation>
+    </message>
+    <message>
+        <source>WLAN</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>SSID:</source>
+        <translation>SSID:</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>Stan:</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Adres:</translation>
+    </message>
+    <message>
+        <source>Netmask:</source>
+        <translation>Maska:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>Brama:</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Połączono</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Łączenie</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>Szukanie</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Rozłączono</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Zamknij</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Włącz</translation>
+    </message>
+    <message>
+        <source>%1 dBm</source>
+        <translation>%1 dBm</translation>
+    </message>
+    <message>
+        <source>secured</source>
+        <translation>zabezpieczona</translation>
+    </message>
+    <message>
+        <source>no networks</source>
+        <translation>brak sieci</translation>
+    </message>
+</context>
+<context>
+    <name>UserZiPage</name>
+    <message>
+        <source>Connected</source>
+        <translation>Połączono</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Rozłączono</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Użytkownik</translation>
+    </message>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>Data i czas</translation>
+    </message>
+    <message>
+        <source>LAN</source>
+        <translation>LAN</translation>
+    </message>
+    <message>
+        <source>WLAN</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualizacja</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Język</translation>
+    </message>
+    <message>
+        <source>Sleep Time</source>
+        <translation>Czas wygaszenia</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Podświetlenie</translation>
+    </message>
+    <message>
+        <source>Phase Colors</source>
+        <translation>Kolory faz</translation>
+    </message>
+    <message>
+        <source>User Name</source>
+        <translation>Nazwa użytkownika</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Wersja</translation>
+    </message>
+</context>
+<context>
     <name>VifMain</name>
     <message>
         <source>Freq =</source>
@@ -1801,6 +2012,37 @@ Czy go zastąpić?</translation>
     <message>
         <source>Flicker</source>
         <translation>Migotanie</translation>
+    </message>
+</context>
+<context>
+    <name>wlanSettingDialog</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Connect To</source>
+        <translation>Połącz</translation>
+    </message>
+    <message>
+        <source>SSID:</source>
+        <translation>SSID:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Hasło:</translation>
+    </message>
+    <message>
+        <source>(stored)</source>
+        <translation>(zapisane)</translation>
+    </message>
+    <message>
+        <source>Invalid input!</source>
+        <translation>Niepoprawna wartość!</translation>
     </message>
 </context>
 </TS>

@@ -754,6 +754,29 @@ en la red</translation>
     </message>
 </context>
 <context>
+    <name>PhaseColorDialog</name>
+    <message>
+        <source>Default</source>
+        <translation>Por defecto</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Phase Colors</source>
+        <translation>Colores de fase</translation>
+    </message>
+    <message>
+        <source>Earth</source>
+        <translation>Tierra</translation>
+    </message>
+</context>
+<context>
     <name>PowerInverterMain</name>
     <message>
         <source>Freq =</source>
@@ -1688,6 +1711,194 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>UserDatePage</name>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>Fecha y hora</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Time Zone:</source>
+        <translation>Zona horaria:</translation>
+    </message>
+</context>
+<context>
+    <name>UserLanPage</name>
+    <message>
+        <source>Address:</source>
+        <translation>Dirección:</translation>
+    </message>
+    <message>
+        <source>Netmask:</source>
+        <translation>Máscara:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>Puerta de enlace:</translation>
+    </message>
+    <message>
+        <source>LAN SETUP</source>
+        <translation>CONFIGURACIÓN LAN</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Use DHCP</source>
+        <translation>Usar DHCP</translation>
+    </message>
+    <message>
+        <source>Static</source>
+        <translation>Estática</translation>
+    </message>
+    <message>
+        <source>IP Setup</source>
+        <translation>Configuración IP</translation>
+    </message>
+    <message>
+        <source>IP In-use:</source>
+        <translation>IP en uso:</translation>
+    </message>
+</context>
+<context>
+    <name>UserWifiPage</name>
+    <message>
+        <source>Connect To</source>
+        <translation>Conectar</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>WLAN</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>SSID:</source>
+        <translation>SSID:</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>Estado:</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Dirección:</translation>
+    </message>
+    <message>
+        <source>Netmask:</source>
+        <translation>Máscara:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>Puerta de enlace:</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectado</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Conectando</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>Buscando</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Desconectado</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Activar</translation>
+    </message>
+    <message>
+        <source>%1 dBm</source>
+        <translation>%1 dBm</translation>
+    </message>
+    <message>
+        <source>secured</source>
+        <translation>segura</translation>
+    </message>
+    <message>
+        <source>no networks</source>
+        <translation>sin redes</translation>
+    </message>
+</context>
+<context>
+    <name>UserZiPage</name>
+    <message>
+        <source>Connected</source>
+        <translation>Conectado</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Desconectado</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuario</translation>
+    </message>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>Fecha y hora</translation>
+    </message>
+    <message>
+        <source>LAN</source>
+        <translation>LAN</translation>
+    </message>
+    <message>
+        <source>WLAN</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualización</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Sleep Time</source>
+        <translation>Tiempo de espera</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Iluminación</translation>
+    </message>
+    <message>
+        <source>Phase Colors</source>
+        <translation>Colores de fase</translation>
+    </message>
+    <message>
+        <source>User Name</source>
+        <translation>Nombre de usuario</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Versión</translation>
+    </message>
+</context>
+<context>
     <name>VifMain</name>
     <message>
         <source>Freq =</source>
@@ -1801,6 +2012,37 @@ Do you want to overwrite it?</source>
     <message>
         <source>Flicker</source>
         <translation>Flicker</translation>
+    </message>
+</context>
+<context>
+    <name>wlanSettingDialog</name>
+    <message>
+        <source>Ok</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Connect To</source>
+        <translation>Conectar</translation>
+    </message>
+    <message>
+        <source>SSID:</source>
+        <translation>SSID:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Contraseña:</translation>
+    </message>
+    <message>
+        <source>(stored)</source>
+        <translation>(guardada)</translation>
+    </message>
+    <message>
+        <source>Invalid input!</source>
+        <translation>¡Entrada no válida!</translation>
     </message>
 </context>
 </TS>

@@ -754,6 +754,29 @@ sinyalleri</translation>
     </message>
 </context>
 <context>
+    <name>PhaseColorDialog</name>
+    <message>
+        <source>Default</source>
+        <translation>Varsayılan</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Phase Colors</source>
+        <translation>Faz renkleri</translation>
+    </message>
+    <message>
+        <source>Earth</source>
+        <translation>Toprak</translation>
+    </message>
+</context>
+<context>
     <name>PowerInverterMain</name>
     <message>
         <source>Freq =</source>
@@ -1688,6 +1711,194 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>UserDatePage</name>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>Tarih ve saat</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Time Zone:</source>
+        <translation>Saat dilimi:</translation>
+    </message>
+</context>
+<context>
+    <name>UserLanPage</name>
+    <message>
+        <source>Address:</source>
+        <translation>Adres:</translation>
+    </message>
+    <message>
+        <source>Netmask:</source>
+        <translation>Ağ maskesi:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>Ağ geçidi:</translation>
+    </message>
+    <message>
+        <source>LAN SETUP</source>
+        <translation>LAN AYARLARI</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Use DHCP</source>
+        <translation>DHCP kullan</translation>
+    </message>
+    <message>
+        <source>Static</source>
+        <translation>Statik</translation>
+    </message>
+    <message>
+        <source>IP Setup</source>
+        <translation>IP ayarları</translation>
+    </message>
+    <message>
+        <source>IP In-use:</source>
+        <translation>Kullanılan IP:</translation>
+    </message>
+</context>
+<context>
+    <name>UserWifiPage</name>
+    <message>
+        <source>Connect To</source>
+        <translation>Bağlan</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Çıkış</translation>
+    </message>
+    <message>
+        <source>WLAN</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>SSID:</source>
+        <translation>SSID:</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>Durum:</translation>
+    </message>
+    <message>
+        <source>Address:</source>
+        <translation>Adres:</translation>
+    </message>
+    <message>
+        <source>Netmask:</source>
+        <translation>Ağ maskesi:</translation>
+    </message>
+    <message>
+        <source>Gateway:</source>
+        <translation>Ağ geçidi:</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Bağlı</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Bağlanıyor</translation>
+    </message>
+    <message>
+        <source>Scanning</source>
+        <translation>Taranıyor</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Bağlı değil</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Aç</translation>
+    </message>
+    <message>
+        <source>%1 dBm</source>
+        <translation>%1 dBm</translation>
+    </message>
+    <message>
+        <source>secured</source>
+        <translation>korumalı</translation>
+    </message>
+    <message>
+        <source>no networks</source>
+        <translation>ağ yok</translation>
+    </message>
+</context>
+<context>
+    <name>UserZiPage</name>
+    <message>
+        <source>Connected</source>
+        <translation>Bağlı</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Bağlı değil</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Kullanıcı</translation>
+    </message>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>Tarih ve saat</translation>
+    </message>
+    <message>
+        <source>LAN</source>
+        <translation>LAN</translation>
+    </message>
+    <message>
+        <source>WLAN</source>
+        <translation>WLAN</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Güncelleme</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Dil</translation>
+    </message>
+    <message>
+        <source>Sleep Time</source>
+        <translation>Uyku süresi</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Işık</translation>
+    </message>
+    <message>
+        <source>Phase Colors</source>
+        <translation>Faz renkleri</translation>
+    </message>
+    <message>
+        <source>User Name</source>
+        <translation>Kullanıcı adı</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>Sürüm</translation>
+    </message>
+</context>
+<context>
     <name>VifMain</name>
     <message>
         <source>Freq =</source>
@@ -1801,6 +2012,37 @@ Do you want to overwrite it?</source>
     <message>
         <source>Flicker</source>
         <translation>Kırpışma</translation>
+    </message>
+</context>
+<context>
+    <name>wlanSettingDialog</name>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Connect To</source>
+        <translation>Bağlan</translation>
+    </message>
+    <message>
+        <source>SSID:</source>
+        <translation>SSID:</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Parola:</translation>
+    </message>
+    <message>
+        <source>(stored)</source>
+        <translation>(kayıtlı)</translation>
+    </message>
+    <message>
+        <source>Invalid input!</source>
+        <translation>Geçersiz giriş!</translation>
     </message>
 </context>
 </TS>
