@@ -14,6 +14,7 @@ public:
 
     /// The wiring to show, 1 to 10.
     void setJoinMode(int joinMode);
+    int joinMode() const { return m_joinMode; }
 
 signals:
     void stored(); // after Ok

@@ -16,7 +16,8 @@ class SetupConfigPage : public SetupPane
 public:
     explicit SetupConfigPage(QWidget *parent = nullptr);
 
-    int selected() const { return m_selected; } // join mode, 1 to 10
+    /// A join mode of 1 to 10; any other number changes nothing.
+    void select(int joinMode);
 
 signals:
     void goConfigDetail(int joinMode);
@@ -31,7 +32,6 @@ protected:
 private:
     static constexpr int kColumns = 2, kPerPage = 4, kPages = 3;
 
-    void select(int joinMode);
     void showPage1() { select(1); }
     void showPage2() { select(1 + kPerPage); }
     void showPage3() { select(1 + 2 * kPerPage); }

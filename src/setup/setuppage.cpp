@@ -36,7 +36,8 @@ std::vector<SetupPage::SubPage> SetupPage::table()
           { pass(&SetupConfigPage::goConfigDetail, &SetupPage::showSetupConfigEnter),
             way(&SetupConfigPage::goSetupMain, Main) } },
         { make<SetupConfigEnterPage>,
-          { way(&SetupConfigEnterPage::stored, Main), back(&SetupConfigEnterPage::goBack) } },
+          { way(&SetupConfigEnterPage::stored, Main),
+            pass(&SetupConfigEnterPage::goBack, &SetupPage::backSetupConfig) } },
         { make<SetupVnomPage>, { way(&SetupVnomPage::stored, Main), way(&SetupVnomPage::goBack, Main) } },
         { make<SetupFunctions>,
           { way(&SetupFunctions::goSetupKFactor, KFactor), way(&SetupFunctions::goSetupFlicker, Flicker),
@@ -66,4 +67,12 @@ void SetupPage::showSetupConfigEnter(int joinMode)
 void SetupPage::showJoinInUse()
 {
     showSetupConfigEnter(m_settingConfig_g.getJoinMode());
+}
+
+void SetupPage::backSetupConfig()
+{
+    const int joinMode = made<SetupConfigEnterPage>(ConfigEnter)->joinMode();
+    showPrevious();
+    if (currentIndex() == Config)
+        made<SetupConfigPage>(Config)->select(joinMode); // the one that was looked at, not the one in use
 }

@@ -36,4 +36,6 @@ private:
     void exitSetup();
     void showSetupConfigEnter(int joinMode);
     void showJoinInUse();
+    /// Back from a wiring at large, to where it was opened.
+    void backSetupConfig();
 };

@@ -12,6 +12,7 @@ class TstSetupEditors : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { SetupCase::makeDevice(); }
     void init() { SetupCase::restoreSettings(); }
     void aStepAtABoundStaysAtTheBound_data();
     void aStepAtABoundStaysAtTheBound();
