@@ -13,6 +13,10 @@ class TstSetupKeys : public QObject
 private slots:
     void initTestCase() { SetupCase::makeDevice(); }
     void randomKeysLeaveValidFilesAndValuesWithinTheirBounds();
+
+private:
+    static void valuesStandWithinTheirBounds();
+    static void fileHoldsEachKeyOnce();
 };
 
 void TstSetupKeys::randomKeysLeaveValidFilesAndValuesWithinTheirBounds()
@@ -21,6 +25,7 @@ void TstSetupKeys::randomKeysLeaveValidFilesAndValuesWithinTheirBounds()
     constexpr unsigned kSeed = 71;
     SetupCase::restoreSettings();
     SetupPage setup(liveData());
+    setup.show(); // a group of pages opens when it is seen
     setup.enter();
     // A dialog that a key opens is given some keys, then closed.
     int dialogs = 0;
@@ -46,10 +51,10 @@ void TstSetupKeys::randomKeysLeaveValidFilesAndValuesWithinTheirBounds()
     for (int i = 0; i < kKeys; ++i) {
         const unsigned what = random() % 1000;
         if (what == 0) {
-            QTest::keyClick(setup.currentPage(), Qt::Key_A); // Menu, and back
+            QTest::keyClick(SetupCase::topPage(setup), Qt::Key_A); // Menu, and back
             setup.enter();
         } else if (what < 20) {
-            LivePage *page = setup.currentPage();
+            LivePage *page = SetupCase::topPage(setup);
             const Qt::Key held = key();
             QTest::keyPress(page, held);
             for (auto *repeat : page->findChildren<KeyRepeat *>()) {
@@ -58,14 +63,20 @@ void TstSetupKeys::randomKeysLeaveValidFilesAndValuesWithinTheirBounds()
             }
             QTest::keyRelease(page, held);
         } else {
-            QTest::keyClick(setup.currentPage(), key());
+            QTest::keyClick(SetupCase::topPage(setup), key());
         }
         visited << SetupCase::onTop(setup);
         if (i % 1000 == 0)
             QCoreApplication::processEvents();
     }
     closer.stop();
-    QCOMPARE(visited.size(), setup.pageCount());
+    QVERIFY(visited.size() >= setup.pageCount());
+    valuesStandWithinTheirBounds();
+    fileHoldsEachKeyOnce();
+}
+
+void TstSetupKeys::valuesStandWithinTheirBounds()
+{
     const SettingConfig reader;
     for (const auto &row : SettingConfig::rows()) {
         const double value = m_settingConfig_g.value(row);
@@ -75,6 +86,10 @@ void TstSetupKeys::randomKeysLeaveValidFilesAndValuesWithinTheirBounds()
         if (!QByteArray(row.key).startsWith("INRUSH_")) // the next start begins with the levels of the clamp
             QVERIFY2(qFuzzyCompare(1 + reader.value(row), 1 + value), row.key);
     }
+}
+
+void TstSetupKeys::fileHoldsEachKeyOnce()
+{
     // Each line is a key that there is, once, with a number.
     QSet<QByteArray> found;
     for (const QByteArray &line : SetupCase::settingFile().split('\n')) {
