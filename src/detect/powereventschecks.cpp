@@ -227,7 +227,7 @@ void PowerEvents::checkRVC(int channel)
     RvcChange change;
     if (!m_rvc[channel].rvc_events_loop(limits, m_counter < kEventLimit, &change))
         return;
-    // Born finished: no curves, no duration, no buzzer, no waveform.
+    // Listed as finished at once: no curves, no duration, no buzzer, no waveform.
     ++m_counter;
     PQAEventItem event;
     event.channel = channel;

@@ -22,7 +22,7 @@ public:
     ~IRemote() override;
 
     /// Starts threadUdpRecv. A socket that cannot be made or bound ends the process with -1, on purpose: an instrument
-    /// that a plant cannot reach must not look alive.
+    /// that a plant cannot reach must not seem to work.
     void initThreadUdpRecv();
 
     /// The port in use; 0 until the socket is bound.

@@ -226,7 +226,7 @@ void Panel::makePictures()
             png = ScreenShot::png(picture);
         last = std::move(picture);
         handOut(png, takers);
-        // By the event loop, so that a storm of requests leaves it its rounds.
+        // Through the event loop: however fast requests come, it handles its other events between two pictures.
         QMetaObject::invokeMethod(this, "pictureDone", Qt::QueuedConnection);
     }
 }

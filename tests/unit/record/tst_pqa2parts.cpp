@@ -2,6 +2,7 @@
 #include "record/pqa2ff.h"
 #include "record/pqa2reader.h"
 #include "platform/target.h"
+#include "unit/filestandin.h"
 
 #include <QDir>
 #include <QFile>
@@ -83,6 +84,8 @@ private slots:
     void partThatCannotBeBegunEndsTheRecording();
     void openingAgainStartsWithTheFirstPart();
     void namesOfParts();
+    void whatIsNoFileIsNotRecordedInto_data() { addFileStandIns(); }
+    void whatIsNoFileIsNotRecordedInto();
 };
 
 void TstPqa2Parts::cleanup()
@@ -90,6 +93,18 @@ void TstPqa2Parts::cleanup()
     QDir storage(Target::path(QStringLiteral("/mnt/storage")));
     for (const QString &name : storage.entryList({ QStringLiteral("*.pqa2") }))
         QDir(storage.filePath(name)).exists() ? QDir(storage.filePath(name)).removeRecursively() : storage.remove(name);
+}
+
+void TstPqa2Parts::whatIsNoFileIsNotRecordedInto()
+{
+    QFETCH(FileStandIn, kind);
+    QVERIFY(putStandIn(kPath, kind));
+    ::alarm(20); // whoever waits for the other end of a pipe would wait for ever
+    Pqa2FF file;
+    QVERIFY(!file.open(kPath));
+    QVERIFY(!file.isOpen());
+    ::alarm(0);
+    removeStandIn(kPath);
 }
 
 void TstPqa2Parts::offsetsNearTwoAndFourGigabytesAreLinkedAndRead()

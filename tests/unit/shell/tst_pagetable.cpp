@@ -1,6 +1,10 @@
 #include "shell/pagetable.h"
 
+#include "testpaths.h"
+
 #include <QApplication>
+#include <QFile>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTest>
 
@@ -16,6 +20,7 @@ private slots:
     void languageOrder();
     void beginOrder();
     void tilesFillTheMenu();
+    void galleryKnowsTheTiles();
     void plans();
     void functions();
 };
@@ -110,6 +115,27 @@ void TstPageTable::tilesFillTheMenu()
     const QStringList expected { "power",  "vif",        "harmonics",      "unbalance", "flicker", "dips_swells",
                                  "inrush", "transients", "mainssignaling", "wave",      "logger",  "user" };
     QCOMPARE(QStringList(names.values()), expected);
+}
+
+/// The gallery drives the instrument from outside and has the menu's tiles in a table of its own.
+void TstPageTable::galleryKnowsTheTiles()
+{
+    QFile source(QStringLiteral(QUVERA_SOURCE_DIR "/tools/gallery/pages.cpp"));
+    QVERIFY(source.open(QIODevice::ReadOnly));
+    const QString text = QString::fromUtf8(source.readAll());
+    const int begin = text.indexOf(QLatin1String("kMenu[kRows][kColumns]"));
+    QVERIFY(begin >= 0);
+    QStringList names;
+    const QRegularExpression quoted(QStringLiteral("\"([a-z_]+)\""));
+    for (auto found = quoted.globalMatch(text.mid(begin, text.indexOf(QLatin1String("};"), begin) - begin));
+         found.hasNext();)
+        names << found.next().captured(1);
+    QMap<int, QString> tiles;
+    for (const PageRow &row : PageTable::rows()) {
+        if (row.tile.place != 0)
+            tiles[row.tile.place] = QString::fromLatin1(row.tile.name);
+    }
+    QCOMPARE(names, QStringList(tiles.values()));
 }
 
 void TstPageTable::plans()

@@ -11,6 +11,7 @@
 #include <QWidget>
 
 #include <clocale>
+#include <memory>
 
 // What the tests of pages have in common: reading labels by name, and the letters that the front panel sends.
 
@@ -137,6 +138,16 @@ inline void openAll(QWidget &page)
     container->enter();
     for (int row = 0; row < container->pageCount(); ++row)
         container->page(row);
+}
+
+/// A page of a run that has just begun, all its sub pages made, in wiring 1 at 50 Hz.
+template <typename Opened> std::unique_ptr<Opened> openedPage()
+{
+    setUpMeasurement(1);
+    auto page = std::make_unique<Opened>(liveData());
+    openAll(*page);
+    beginRun(*page);
+    return page;
 }
 
 /// Press and release.

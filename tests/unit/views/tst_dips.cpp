@@ -91,11 +91,8 @@ private:
 
 void TstDips::init()
 {
-    setUpMeasurement(1);
     DipSwellInfo::m_zoom_index = 0;
-    m_page = std::make_unique<dswell>(liveData());
-    openAll(*m_page);
-    beginRun(*m_page);
+    m_page = openedPage<dswell>();
 }
 
 /// \a count half-cycle values arrive on every phase, and the display is refreshed.

@@ -85,12 +85,9 @@ void TstInrush::cleanupTestCase()
 
 void TstInrush::init()
 {
-    setUpMeasurement(1);
     InrushInfo::m_duration_index = 0;
     setClamp(1000, 1000);
-    m_page = std::make_unique<InrushPage>(liveData());
-    openAll(*m_page);
-    beginRun(*m_page);
+    m_page = openedPage<InrushPage>();
 }
 
 /// A clamp of \a range amperes and \a ratio microvolts an ampere, and the levels that follow from it.

@@ -49,10 +49,7 @@ private:
 
 void TstPower::init()
 {
-    m_settingConfig_g.setJoinMode(1);
-    m_page = std::make_unique<powen>(liveData());
-    openAll(*m_page);
-    beginRun(*m_page);
+    m_page = openedPage<powen>();
 }
 
 void TstPower::eachStartShowsEmptyRecords()

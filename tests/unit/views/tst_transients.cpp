@@ -114,12 +114,9 @@ void TstTransients::cleanupTestCase()
 
 void TstTransients::init()
 {
-    setUpMeasurement(1);
     if (m_settingConfig_g.getTransThreshold() != 50)
         m_settingConfig_g.setTransThreshold(50);
-    m_page = std::make_unique<trans>(liveData());
-    openAll(*m_page);
-    beginRun(*m_page);
+    m_page = openedPage<trans>();
 }
 
 void TstTransients::cleanup()

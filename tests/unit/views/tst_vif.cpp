@@ -71,10 +71,7 @@ private:
 
 void TstVif::init()
 {
-    m_settingConfig_g.setJoinMode(1);
-    m_page = std::make_unique<VifPage>(liveData());
-    openAll(*m_page);
-    beginRun(*m_page);
+    m_page = openedPage<VifPage>();
 }
 
 void TstVif::eachStartShowsEmptyRecords()
