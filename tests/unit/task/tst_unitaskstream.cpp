@@ -23,6 +23,7 @@ private slots:
     void trendsKeepTheirLength();
     void singlePhaseWiringFeedsOneChannel();
     void dipIsListed();
+    void listsGoOnBehindAHoldAndShowItsMoment();
     void transientIsCutAndListed();
     void transientNumberRestartsWithTheTask();
     void transientCodesFollowTheWiring();
@@ -119,6 +120,28 @@ void TstUniTaskStream::dipIsListed()
     QCOMPARE(liveData().events().at(0).duration, 100);
     QCOMPARE(liveData().events().at(0).value, 1.5f * kVolt);
     QCOMPARE(changes.count(), 2);
+}
+
+void TstUniTaskStream::listsGoOnBehindAHoldAndShowItsMoment()
+{
+    start();
+    EventList &events = liveData().events();
+    m_task->datagramRMS_1_2(halfCycles(10, 2.9f, 0.001f).bytes());
+    m_task->datagramRMS_1_2(halfCycles(10, 1.5f, 0.001f, kNow + 100).bytes());
+    m_task->datagramWave(wave((2u << 24) | 2000).bytes());
+    m_task->pauseTask();
+    m_task->datagramRMS_1_2(halfCycles(10, 2.9f, 0.001f, kNow + 200).bytes()); // the dip ends
+    m_task->datagramRMS_1_2(halfCycles(10, 1.4f, 0.001f, kNow + 300).bytes()); // another one begins
+    m_task->datagramWave(wave((1u << 24) | 100).bytes());
+    QCOMPARE(events.size(), 2);
+    QCOMPARE(liveData().transients().size(), 2);
+    QCOMPARE(events.shownSize(), 1);
+    QCOMPARE(events.shownAt(0).finished, 0);
+    QCOMPARE(liveData().transients().shownSize(), 1);
+    m_task->continueTask();
+    QCOMPARE(events.shownSize(), 2);
+    QCOMPARE(events.shownAt(0).duration, 100);
+    QCOMPARE(liveData().transients().shownSize(), 2);
 }
 
 void TstUniTaskStream::transientIsCutAndListed()
