@@ -6,7 +6,9 @@ class QCoreApplication;
 class QKeyEvent;
 
 /// Lets the keys of a PC keyboard stand for those of the front panel, which on the board arrive as letters: F1 to F12,
-/// the arrows and Enter are the keys of that name, Escape leads out. The panel's letters work as well. GUI thread.
+/// the arrows and Enter are the keys of that name, Escape leads out. The panel's letters work as well, but for a widget
+/// that takes text (Qt::WA_InputMethodEnabled): signs and Backspace come to it as text of an input method. What comes
+/// from the remote control carries no text and stays a key of the panel. GUI thread.
 class DeskKeys : public QObject
 {
 public:
@@ -20,6 +22,8 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    /// Hands the sign of a key, or the erasing of one, to a widget that takes text; false: the key has none.
+    static bool typeInto(QObject *widget, const QKeyEvent &key);
     DeskKeys(QCoreApplication *application, PanelLetter panelLetter);
     int letterOf(const QKeyEvent &key) const;
 

@@ -1,6 +1,10 @@
 #include "widgets/dialogs/virtualkeyboard.h"
 
+#include "board/backlight.h"
 #include "ui_virtualkeyboard.h"
+#include "widgets/text/keymap.h"
+
+#include <QInputMethodEvent>
 
 #include <algorithm>
 
@@ -42,6 +46,7 @@ VirtualKeyBoard::VirtualKeyBoard(const QString &title, const QString &text, cons
     setKeyText(1, QStringLiteral("ABC"));
     m_ui->keys->setCurrentChar(QLatin1Char('q'));
     setInput(text);
+    setAttribute(Qt::WA_InputMethodEnabled);
 }
 
 VirtualKeyBoard::~VirtualKeyBoard() = default;
@@ -68,8 +73,23 @@ void VirtualKeyBoard::append(QChar sign)
     setInput(text);
 }
 
+void VirtualKeyBoard::inputMethodEvent(QInputMethodEvent *event)
+{
+    event->accept();
+    if (keyMap::recoverBackLight())
+        return; // as any other key
+    BackLight::recoverBackLight();
+    m_typed = true;
+    if (event->replacementLength() > 0)
+        setInput(m_text.left(m_text.size() - 1));
+    for (const QChar sign : event->commitString())
+        append(sign);
+}
+
 void VirtualKeyBoard::handleKeyPress()
 {
+    if (m_typed)
+        return accept();
     const QChar sign = m_ui->keys->currentChar();
     if (sign == QLatin1Char('<'))
         setInput(m_text.left(m_text.size() - 1));
@@ -103,20 +123,24 @@ void VirtualKeyBoard::appendSpace()
 
 void VirtualKeyBoard::moveLeft()
 {
+    m_typed = false;
     m_ui->keys->moveHorizontally(-1);
 }
 
 void VirtualKeyBoard::moveRight()
 {
+    m_typed = false;
     m_ui->keys->moveHorizontally(1);
 }
 
 void VirtualKeyBoard::moveUp()
 {
+    m_typed = false;
     m_ui->keys->moveVertically(-1);
 }
 
 void VirtualKeyBoard::moveDown()
 {
+    m_typed = false;
     m_ui->keys->moveVertically(1);
 }

@@ -10,7 +10,8 @@ namespace Ui {
 class VirtualKeyBoard;
 }
 
-/// A keyboard on the screen: the arrows choose a key, Enter presses it. Keys: docs/widgets.md.
+/// A keyboard on the screen: the arrows choose a key, Enter presses it. On a desk the PC's keyboard types as well.
+/// Keys: docs/widgets.md.
 class VirtualKeyBoard : public SoftKeyDialog
 {
     Q_OBJECT
@@ -26,6 +27,10 @@ public:
     ~VirtualKeyBoard() override;
 
     QString text() const { return m_text; }
+
+protected:
+    /// Signs of a PC's keyboard (platform/deskkeys.h).
+    void inputMethodEvent(QInputMethodEvent *event) override;
 
 private:
     void handleKeyPress();
@@ -44,4 +49,5 @@ private:
     QString m_text;
     QRegularExpression m_expression; // anchored; empty pattern: any text
     int m_maxLength;
+    bool m_typed = false; // on the PC's keyboard last: Enter then ends the text
 };

@@ -1,9 +1,15 @@
 #include "dialogdriver.h"
 
+#include "board/backlight.h"
+#include "platform/deskkeys.h"
 #include "widgets/controls/keygrid.h"
 #include "widgets/dialogs/virtualkeyboard.h"
+#include "widgets/text/keymap.h"
 
+#include <QKeyEvent>
 #include <QSet>
+
+#include <memory>
 
 class TstVirtualKeyBoard : public QObject
 {
@@ -25,6 +31,10 @@ private slots:
     void alternativesOfAnExpressionAreFullMatches_data();
     void alternativesOfAnExpressionAreFullMatches();
     void longTextsShowTheirEnd();
+    void keyboardOfAPcTypes();
+    void typedSignsObeyTheExpression();
+    void keysOfThePanelKeepTheirMeaning();
+    void typedKeyOnADimmedScreenOnlyWakesIt();
 };
 
 /// Types a text as a user does: cursor to each sign, Enter.
@@ -212,6 +222,82 @@ void TstVirtualKeyBoard::longTextsShowTheirEnd()
     const QString shown = labelText(&keyboard, "input");
     QVERIFY(shown.endsWith(QStringLiteral("xyz_")));
     QVERIFY(shown.size() < 100);
+}
+
+void TstVirtualKeyBoard::keyboardOfAPcTypes()
+{
+    const std::unique_ptr<DeskKeys> desk(DeskKeys::install(qApp, keyMap::panelLetter));
+    VirtualKeyBoard keyboard(QString(), QStringLiteral("x"), QString(), 20);
+    keyboard.show();
+    // W, L and K are F1, F5 and Enter of the panel; here they are letters.
+    QTest::keyClicks(&keyboard, QStringLiteral("WLk 7!"));
+    QCOMPARE(keyboard.text(), QStringLiteral("xWLk 7!"));
+    QTest::keyClick(&keyboard, Qt::Key_Backspace);
+    QTest::keyClick(&keyboard, Qt::Key_Backspace);
+    QCOMPARE(keyboard.text(), QStringLiteral("xWLk "));
+    QVERIFY(keyboard.isVisible());
+    QTest::keyClick(&keyboard, Qt::Key_Return);
+    QVERIFY(!keyboard.isVisible());
+    QCOMPARE(keyboard.result(), int(QDialog::Accepted));
+
+    keyboard.show();
+    QTest::keyClicks(&keyboard, QStringLiteral("abc"));
+    QTest::keyClick(&keyboard, Qt::Key_Escape);
+    QVERIFY(!keyboard.isVisible());
+    QCOMPARE(keyboard.result(), int(QDialog::Rejected));
+}
+
+void TstVirtualKeyBoard::typedSignsObeyTheExpression()
+{
+    const std::unique_ptr<DeskKeys> desk(DeskKeys::install(qApp, keyMap::panelLetter));
+    VirtualKeyBoard keyboard(QString(), QString(), QStringLiteral("^(\\d{1,5})$"), 4);
+    keyboard.show();
+    QTest::keyClicks(&keyboard, QStringLiteral("a1;b2'34567"));
+    QCOMPARE(keyboard.text(), QStringLiteral("1234"));
+    for (int i = 0; i < 6; ++i)
+        QTest::keyClick(&keyboard, Qt::Key_Backspace);
+    QCOMPARE(keyboard.text(), QString());
+    QTest::keyClick(&keyboard, Qt::Key_Return);
+    QVERIFY(keyboard.isVisible());
+    QCOMPARE(labelText(&keyboard, "hint"), QStringLiteral("Invalid input!"));
+}
+
+void TstVirtualKeyBoard::keysOfThePanelKeepTheirMeaning()
+{
+    const std::unique_ptr<DeskKeys> desk(DeskKeys::install(qApp, keyMap::panelLetter));
+    VirtualKeyBoard keyboard(QString(), QString(), QString(), 20);
+    keyboard.show();
+    // From the panel and the remote control: letters without a text.
+    const auto panel = [&keyboard](char letter) {
+        for (const auto type : { QEvent::KeyPress, QEvent::KeyRelease }) {
+            QKeyEvent event(type, letter, Qt::NoModifier);
+            QCoreApplication::sendEvent(&keyboard, &event);
+        }
+    };
+    panel('W'); // upper case
+    panel('K');
+    QCOMPARE(keyboard.text(), QStringLiteral("Q"));
+    // From a PC: the arrows, Enter and the soft keys; after an arrow Enter presses the key under the cursor again.
+    QTest::keyClick(&keyboard, Qt::Key_F1);
+    QTest::keyClicks(&keyboard, QStringLiteral("1"));
+    QTest::keyClick(&keyboard, Qt::Key_Right);
+    QTest::keyClick(&keyboard, Qt::Key_Return);
+    QCOMPARE(keyboard.text(), QStringLiteral("Q1w"));
+    QTest::keyClick(&keyboard, Qt::Key_F2);
+    QCOMPARE(keyboard.text(), QString());
+    panel('L');
+    QVERIFY(!keyboard.isVisible());
+}
+
+void TstVirtualKeyBoard::typedKeyOnADimmedScreenOnlyWakesIt()
+{
+    const std::unique_ptr<DeskKeys> desk(DeskKeys::install(qApp, keyMap::panelLetter));
+    VirtualKeyBoard keyboard(QString(), QString(), QString(), 20);
+    keyboard.show();
+    BackLight::shutDownBL();
+    QTest::keyClicks(&keyboard, QStringLiteral("ab"));
+    QCOMPARE(keyboard.text(), QStringLiteral("b"));
+    QVERIFY(!BackLight::isShut());
 }
 
 QTEST_MAIN(TstVirtualKeyBoard)
