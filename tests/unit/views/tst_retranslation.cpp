@@ -1,25 +1,14 @@
 #include "settings/phasecolor.h"
 #include "device/idevice.h"
 #include "allpages.h"
+#include "unit/markedlanguage.h"
 
 #include <QAbstractButton>
 #include <QMap>
-#include <QTranslator>
 
 #include <memory>
 
 namespace {
-
-/// A language in which every text begins with a sign of its own.
-class MarkedLanguage : public QTranslator
-{
-public:
-    QString translate(const char *, const char *source, const char *, int) const override
-    {
-        return QLatin1Char('~') + QString::fromUtf8(source);
-    }
-    bool isEmpty() const override { return false; }
-};
 
 /// Texts of all labels and buttons, by the classes and names on the way down to each.
 QMap<QString, QString> texts(const QWidget *page)
