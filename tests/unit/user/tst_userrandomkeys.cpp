@@ -44,15 +44,21 @@ void TstUserRandomKeys::pressSome(UserPage &user)
     const QWidget *begun = QApplication::activeModalWidget();
     for (int i = 0; i < kBatch && m_left > 0 && QApplication::activeModalWidget() == begun; ++i, --m_left) {
         m_random = m_random * 1664525 + 1013904223;
-        const FrontKey key = kPanel[(m_random >> 16) % std::size(kPanel)];
+        FrontKey key = kPanel[(m_random >> 16) % std::size(kPanel)];
         QWidget *target = QApplication::activeModalWidget();
         if (!target)
             target = user.currentPage();
+        // An update that has begun takes no keys for a while, so it is mostly left before.
+        const bool updating = !begun && user.currentIndex() == UserPage::Update;
+        if (updating && m_random % 16384 > 1000)
+            key = F5;
         m_seen.insert(QString::fromLatin1(target->metaObject()->className()));
         for (const auto type : { QEvent::KeyPress, QEvent::KeyRelease }) {
             QKeyEvent event(type, key, Qt::NoModifier);
             QCoreApplication::sendEvent(target, &event);
         }
+        if (updating)
+            break;
     }
 }
 
