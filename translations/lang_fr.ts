@@ -1711,6 +1711,13 @@ Voulez-vous l&apos;écraser ?</translation>
     </message>
 </context>
 <context>
+    <name>UniTask</name>
+    <message>
+        <source>Power Quality</source>
+        <translation>Qualité du réseau</translation>
+    </message>
+</context>
+<context>
     <name>UserDatePage</name>
     <message>
         <source>Date &amp; Time</source>
@@ -1770,6 +1777,77 @@ Voulez-vous l&apos;écraser ?</translation>
     <message>
         <source>IP In-use:</source>
         <translation>IP utilisée :</translation>
+    </message>
+</context>
+<context>
+    <name>UserUpdate</name>
+    <message>
+        <source>Execute</source>
+        <translation>Exécuter</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Mise à jour</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Logiciel</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Update in progress. Do not operate!!!</source>
+        <translation>Mise à jour en cours. Ne rien toucher !!!</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>Insérez une clé USB...</translation>
+    </message>
+    <message>
+        <source>File not found...</source>
+        <translation>Fichier introuvable...</translation>
+    </message>
+    <message>
+        <source>Software update complete...</source>
+        <translation>Mise à jour du logiciel terminée...</translation>
+    </message>
+    <message>
+        <source>Software update error...</source>
+        <translation>Erreur de mise à jour du logiciel...</translation>
+    </message>
+    <message>
+        <source>Unkown error...</source>
+        <translation>Erreur inconnue...</translation>
+    </message>
+    <message>
+        <source>Firmware data checksum ok.</source>
+        <translation>Somme de contrôle du firmware correcte.</translation>
+    </message>
+    <message>
+        <source>Firmware update fault.</source>
+        <translation>Échec de la mise à jour du firmware.</translation>
+    </message>
+    <message>
+        <source>Firmware update complete...</source>
+        <translation>Mise à jour du firmware terminée...</translation>
+    </message>
+    <message>
+        <source>ErrCode: </source>
+        <translation>Code d&apos;erreur : </translation>
+    </message>
+    <message>
+        <source>Timeout</source>
+        <translation>Délai dépassé</translation>
+    </message>
+    <message>
+        <source>C403 Timeout</source>
+        <translation>C403 Délai dépassé</translation>
     </message>
 </context>
 <context>

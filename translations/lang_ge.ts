@@ -1711,6 +1711,13 @@ Soll sie überschrieben werden?</translation>
     </message>
 </context>
 <context>
+    <name>UniTask</name>
+    <message>
+        <source>Power Quality</source>
+        <translation>Netzqualität</translation>
+    </message>
+</context>
+<context>
     <name>UserDatePage</name>
     <message>
         <source>Date &amp; Time</source>
@@ -1770,6 +1777,77 @@ Soll sie überschrieben werden?</translation>
     <message>
         <source>IP In-use:</source>
         <translation>IP in Gebrauch:</translation>
+    </message>
+</context>
+<context>
+    <name>UserUpdate</name>
+    <message>
+        <source>Execute</source>
+        <translation>Ausführen</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Update in progress. Do not operate!!!</source>
+        <translation>Update läuft. Nicht bedienen!!!</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>Bitte USB-Stick einstecken...</translation>
+    </message>
+    <message>
+        <source>File not found...</source>
+        <translation>Datei nicht gefunden...</translation>
+    </message>
+    <message>
+        <source>Software update complete...</source>
+        <translation>Software-Update abgeschlossen...</translation>
+    </message>
+    <message>
+        <source>Software update error...</source>
+        <translation>Fehler beim Software-Update...</translation>
+    </message>
+    <message>
+        <source>Unkown error...</source>
+        <translation>Unbekannter Fehler...</translation>
+    </message>
+    <message>
+        <source>Firmware data checksum ok.</source>
+        <translation>Prüfsumme der Firmware stimmt.</translation>
+    </message>
+    <message>
+        <source>Firmware update fault.</source>
+        <translation>Firmware-Update fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Firmware update complete...</source>
+        <translation>Firmware-Update abgeschlossen...</translation>
+    </message>
+    <message>
+        <source>ErrCode: </source>
+        <translation>Fehlercode: </translation>
+    </message>
+    <message>
+        <source>Timeout</source>
+        <translation>Zeitüberschreitung</translation>
+    </message>
+    <message>
+        <source>C403 Timeout</source>
+        <translation>C403 Zeitüberschreitung</translation>
     </message>
 </context>
 <context>

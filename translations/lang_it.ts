@@ -1711,6 +1711,13 @@ Sovrascriverlo?</translation>
     </message>
 </context>
 <context>
+    <name>UniTask</name>
+    <message>
+        <source>Power Quality</source>
+        <translation>Qualità della rete</translation>
+    </message>
+</context>
+<context>
     <name>UserDatePage</name>
     <message>
         <source>Date &amp; Time</source>
@@ -1770,6 +1777,77 @@ Sovrascriverlo?</translation>
     <message>
         <source>IP In-use:</source>
         <translation>IP in uso:</translation>
+    </message>
+</context>
+<context>
+    <name>UserUpdate</name>
+    <message>
+        <source>Execute</source>
+        <translation>Esegui</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Esci</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aggiornamento</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Update in progress. Do not operate!!!</source>
+        <translation>Aggiornamento in corso. Non operare!!!</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>Inserire una chiave USB...</translation>
+    </message>
+    <message>
+        <source>File not found...</source>
+        <translation>File non trovato...</translation>
+    </message>
+    <message>
+        <source>Software update complete...</source>
+        <translation>Aggiornamento software completato...</translation>
+    </message>
+    <message>
+        <source>Software update error...</source>
+        <translation>Errore di aggiornamento software...</translation>
+    </message>
+    <message>
+        <source>Unkown error...</source>
+        <translation>Errore sconosciuto...</translation>
+    </message>
+    <message>
+        <source>Firmware data checksum ok.</source>
+        <translation>Checksum del firmware corretto.</translation>
+    </message>
+    <message>
+        <source>Firmware update fault.</source>
+        <translation>Aggiornamento firmware non riuscito.</translation>
+    </message>
+    <message>
+        <source>Firmware update complete...</source>
+        <translation>Aggiornamento firmware completato...</translation>
+    </message>
+    <message>
+        <source>ErrCode: </source>
+        <translation>Codice errore: </translation>
+    </message>
+    <message>
+        <source>Timeout</source>
+        <translation>Tempo scaduto</translation>
+    </message>
+    <message>
+        <source>C403 Timeout</source>
+        <translation>C403 Tempo scaduto</translation>
     </message>
 </context>
 <context>

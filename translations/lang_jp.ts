@@ -1711,6 +1711,13 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>UniTask</name>
+    <message>
+        <source>Power Quality</source>
+        <translation>電力品質</translation>
+    </message>
+</context>
+<context>
     <name>UserDatePage</name>
     <message>
         <source>Date &amp; Time</source>
@@ -1770,6 +1777,77 @@ Do you want to overwrite it?</source>
     <message>
         <source>IP In-use:</source>
         <translation>使用中の IP:</translation>
+    </message>
+</context>
+<context>
+    <name>UserUpdate</name>
+    <message>
+        <source>Execute</source>
+        <translation>実行</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>ソフトウェア</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>ファームウェア</translation>
+    </message>
+    <message>
+        <source>Update in progress. Do not operate!!!</source>
+        <translation>更新中です。操作しないでください！！！</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>USB メモリを挿入してください...</translation>
+    </message>
+    <message>
+        <source>File not found...</source>
+        <translation>ファイルが見つかりません...</translation>
+    </message>
+    <message>
+        <source>Software update complete...</source>
+        <translation>ソフトウェア更新が完了しました...</translation>
+    </message>
+    <message>
+        <source>Software update error...</source>
+        <translation>ソフトウェア更新エラー...</translation>
+    </message>
+    <message>
+        <source>Unkown error...</source>
+        <translation>不明なエラー...</translation>
+    </message>
+    <message>
+        <source>Firmware data checksum ok.</source>
+        <translation>ファームウェアのチェックサム OK。</translation>
+    </message>
+    <message>
+        <source>Firmware update fault.</source>
+        <translation>ファームウェア更新に失敗しました。</translation>
+    </message>
+    <message>
+        <source>Firmware update complete...</source>
+        <translation>ファームウェア更新が完了しました...</translation>
+    </message>
+    <message>
+        <source>ErrCode: </source>
+        <translation>エラーコード: </translation>
+    </message>
+    <message>
+        <source>Timeout</source>
+        <translation>タイムアウト</translation>
+    </message>
+    <message>
+        <source>C403 Timeout</source>
+        <translation>C403 タイムアウト</translation>
     </message>
 </context>
 <context>

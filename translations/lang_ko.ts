@@ -1711,6 +1711,13 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>UniTask</name>
+    <message>
+        <source>Power Quality</source>
+        <translation>전력 품질</translation>
+    </message>
+</context>
+<context>
     <name>UserDatePage</name>
     <message>
         <source>Date &amp; Time</source>
@@ -1770,6 +1777,77 @@ Do you want to overwrite it?</source>
     <message>
         <source>IP In-use:</source>
         <translation>사용 중인 IP:</translation>
+    </message>
+</context>
+<context>
+    <name>UserUpdate</name>
+    <message>
+        <source>Execute</source>
+        <translation>실행</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>종료</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>업데이트</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>소프트웨어</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>펌웨어</translation>
+    </message>
+    <message>
+        <source>Update in progress. Do not operate!!!</source>
+        <translation>업데이트 중입니다. 조작하지 마십시오!!!</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>USB 메모리를 꽂으십시오...</translation>
+    </message>
+    <message>
+        <source>File not found...</source>
+        <translation>파일을 찾을 수 없습니다...</translation>
+    </message>
+    <message>
+        <source>Software update complete...</source>
+        <translation>소프트웨어 업데이트 완료...</translation>
+    </message>
+    <message>
+        <source>Software update error...</source>
+        <translation>소프트웨어 업데이트 오류...</translation>
+    </message>
+    <message>
+        <source>Unkown error...</source>
+        <translation>알 수 없는 오류...</translation>
+    </message>
+    <message>
+        <source>Firmware data checksum ok.</source>
+        <translation>펌웨어 체크섬 정상.</translation>
+    </message>
+    <message>
+        <source>Firmware update fault.</source>
+        <translation>펌웨어 업데이트 실패.</translation>
+    </message>
+    <message>
+        <source>Firmware update complete...</source>
+        <translation>펌웨어 업데이트 완료...</translation>
+    </message>
+    <message>
+        <source>ErrCode: </source>
+        <translation>오류 코드: </translation>
+    </message>
+    <message>
+        <source>Timeout</source>
+        <translation>시간 초과</translation>
+    </message>
+    <message>
+        <source>C403 Timeout</source>
+        <translation>C403 시간 초과</translation>
     </message>
 </context>
 <context>

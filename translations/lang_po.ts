@@ -1711,6 +1711,13 @@ Czy go zastąpić?</translation>
     </message>
 </context>
 <context>
+    <name>UniTask</name>
+    <message>
+        <source>Power Quality</source>
+        <translation>Jakość energii</translation>
+    </message>
+</context>
+<context>
     <name>UserDatePage</name>
     <message>
         <source>Date &amp; Time</source>
@@ -1770,6 +1777,77 @@ Czy go zastąpić?</translation>
     <message>
         <source>IP In-use:</source>
         <translation>Używane IP:</translation>
+    </message>
+</context>
+<context>
+    <name>UserUpdate</name>
+    <message>
+        <source>Execute</source>
+        <translation>Wykonaj</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Wyjście</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualizacja</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Oprogramowanie</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Update in progress. Do not operate!!!</source>
+        <translation>Trwa aktualizacja. Nie dotykać!!!</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>Włóż pamięć USB...</translation>
+    </message>
+    <message>
+        <source>File not found...</source>
+        <translation>Nie znaleziono pliku...</translation>
+    </message>
+    <message>
+        <source>Software update complete...</source>
+        <translation>Aktualizacja oprogramowania zakończona...</translation>
+    </message>
+    <message>
+        <source>Software update error...</source>
+        <translation>Błąd aktualizacji oprogramowania...</translation>
+    </message>
+    <message>
+        <source>Unkown error...</source>
+        <translation>Nieznany błąd...</translation>
+    </message>
+    <message>
+        <source>Firmware data checksum ok.</source>
+        <translation>Suma kontrolna firmware poprawna.</translation>
+    </message>
+    <message>
+        <source>Firmware update fault.</source>
+        <translation>Błąd aktualizacji firmware.</translation>
+    </message>
+    <message>
+        <source>Firmware update complete...</source>
+        <translation>Aktualizacja firmware zakończona...</translation>
+    </message>
+    <message>
+        <source>ErrCode: </source>
+        <translation>Kod błędu: </translation>
+    </message>
+    <message>
+        <source>Timeout</source>
+        <translation>Przekroczony czas</translation>
+    </message>
+    <message>
+        <source>C403 Timeout</source>
+        <translation>C403 Przekroczony czas</translation>
     </message>
 </context>
 <context>

@@ -1711,6 +1711,13 @@ Deseja substituí-lo?</translation>
     </message>
 </context>
 <context>
+    <name>UniTask</name>
+    <message>
+        <source>Power Quality</source>
+        <translation>Qualidade de energia</translation>
+    </message>
+</context>
+<context>
     <name>UserDatePage</name>
     <message>
         <source>Date &amp; Time</source>
@@ -1770,6 +1777,77 @@ Deseja substituí-lo?</translation>
     <message>
         <source>IP In-use:</source>
         <translation>IP em uso:</translation>
+    </message>
+</context>
+<context>
+    <name>UserUpdate</name>
+    <message>
+        <source>Execute</source>
+        <translation>Executar</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Sair</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Atualização</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Update in progress. Do not operate!!!</source>
+        <translation>Atualização em andamento. Não opere!!!</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>Insira um pendrive USB...</translation>
+    </message>
+    <message>
+        <source>File not found...</source>
+        <translation>Arquivo não encontrado...</translation>
+    </message>
+    <message>
+        <source>Software update complete...</source>
+        <translation>Atualização do software concluída...</translation>
+    </message>
+    <message>
+        <source>Software update error...</source>
+        <translation>Erro na atualização do software...</translation>
+    </message>
+    <message>
+        <source>Unkown error...</source>
+        <translation>Erro desconhecido...</translation>
+    </message>
+    <message>
+        <source>Firmware data checksum ok.</source>
+        <translation>Soma de verificação do firmware correta.</translation>
+    </message>
+    <message>
+        <source>Firmware update fault.</source>
+        <translation>Falha na atualização do firmware.</translation>
+    </message>
+    <message>
+        <source>Firmware update complete...</source>
+        <translation>Atualização do firmware concluída...</translation>
+    </message>
+    <message>
+        <source>ErrCode: </source>
+        <translation>Código de erro: </translation>
+    </message>
+    <message>
+        <source>Timeout</source>
+        <translation>Tempo esgotado</translation>
+    </message>
+    <message>
+        <source>C403 Timeout</source>
+        <translation>C403 Tempo esgotado</translation>
     </message>
 </context>
 <context>

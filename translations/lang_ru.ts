@@ -1711,6 +1711,13 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>UniTask</name>
+    <message>
+        <source>Power Quality</source>
+        <translation>Качество электроэнергии</translation>
+    </message>
+</context>
+<context>
     <name>UserDatePage</name>
     <message>
         <source>Date &amp; Time</source>
@@ -1770,6 +1777,77 @@ Do you want to overwrite it?</source>
     <message>
         <source>IP In-use:</source>
         <translation>Текущий IP:</translation>
+    </message>
+</context>
+<context>
+    <name>UserUpdate</name>
+    <message>
+        <source>Execute</source>
+        <translation>Выполнить</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Выход</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Обновление</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>ПО прибора</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>ПО процессора</translation>
+    </message>
+    <message>
+        <source>Update in progress. Do not operate!!!</source>
+        <translation>Идёт обновление. Не трогайте прибор!!!</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>Вставьте USB-диск...</translation>
+    </message>
+    <message>
+        <source>File not found...</source>
+        <translation>Файл не найден...</translation>
+    </message>
+    <message>
+        <source>Software update complete...</source>
+        <translation>Обновление ПО завершено...</translation>
+    </message>
+    <message>
+        <source>Software update error...</source>
+        <translation>Ошибка обновления ПО...</translation>
+    </message>
+    <message>
+        <source>Unkown error...</source>
+        <translation>Неизвестная ошибка...</translation>
+    </message>
+    <message>
+        <source>Firmware data checksum ok.</source>
+        <translation>Контрольная сумма верна.</translation>
+    </message>
+    <message>
+        <source>Firmware update fault.</source>
+        <translation>Сбой обновления процессора.</translation>
+    </message>
+    <message>
+        <source>Firmware update complete...</source>
+        <translation>Обновление процессора завершено...</translation>
+    </message>
+    <message>
+        <source>ErrCode: </source>
+        <translation>Код ошибки: </translation>
+    </message>
+    <message>
+        <source>Timeout</source>
+        <translation>Тайм-аут</translation>
+    </message>
+    <message>
+        <source>C403 Timeout</source>
+        <translation>C403 Тайм-аут</translation>
     </message>
 </context>
 <context>

@@ -1711,6 +1711,13 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>UniTask</name>
+    <message>
+        <source>Power Quality</source>
+        <translation>Calidad de energía</translation>
+    </message>
+</context>
+<context>
     <name>UserDatePage</name>
     <message>
         <source>Date &amp; Time</source>
@@ -1770,6 +1777,77 @@ Do you want to overwrite it?</source>
     <message>
         <source>IP In-use:</source>
         <translation>IP en uso:</translation>
+    </message>
+</context>
+<context>
+    <name>UserUpdate</name>
+    <message>
+        <source>Execute</source>
+        <translation>Ejecutar</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Salir</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualización</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Update in progress. Do not operate!!!</source>
+        <translation>Actualización en curso. ¡¡¡No tocar!!!</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>Inserte una memoria USB...</translation>
+    </message>
+    <message>
+        <source>File not found...</source>
+        <translation>Archivo no encontrado...</translation>
+    </message>
+    <message>
+        <source>Software update complete...</source>
+        <translation>Actualización de software completa...</translation>
+    </message>
+    <message>
+        <source>Software update error...</source>
+        <translation>Error al actualizar el software...</translation>
+    </message>
+    <message>
+        <source>Unkown error...</source>
+        <translation>Error desconocido...</translation>
+    </message>
+    <message>
+        <source>Firmware data checksum ok.</source>
+        <translation>Suma de control del firmware correcta.</translation>
+    </message>
+    <message>
+        <source>Firmware update fault.</source>
+        <translation>Fallo al actualizar el firmware.</translation>
+    </message>
+    <message>
+        <source>Firmware update complete...</source>
+        <translation>Actualización de firmware completa...</translation>
+    </message>
+    <message>
+        <source>ErrCode: </source>
+        <translation>Código de error: </translation>
+    </message>
+    <message>
+        <source>Timeout</source>
+        <translation>Tiempo agotado</translation>
+    </message>
+    <message>
+        <source>C403 Timeout</source>
+        <translation>C403 Tiempo agotado</translation>
     </message>
 </context>
 <context>

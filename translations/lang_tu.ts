@@ -1711,6 +1711,13 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>UniTask</name>
+    <message>
+        <source>Power Quality</source>
+        <translation>Güç kalitesi</translation>
+    </message>
+</context>
+<context>
     <name>UserDatePage</name>
     <message>
         <source>Date &amp; Time</source>
@@ -1770,6 +1777,77 @@ Do you want to overwrite it?</source>
     <message>
         <source>IP In-use:</source>
         <translation>Kullanılan IP:</translation>
+    </message>
+</context>
+<context>
+    <name>UserUpdate</name>
+    <message>
+        <source>Execute</source>
+        <translation>Uygula</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>Çıkış</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Güncelleme</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Yazılım</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Donanım yazılımı</translation>
+    </message>
+    <message>
+        <source>Update in progress. Do not operate!!!</source>
+        <translation>Güncelleme sürüyor. Dokunmayın!!!</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>USB bellek takın...</translation>
+    </message>
+    <message>
+        <source>File not found...</source>
+        <translation>Dosya bulunamadı...</translation>
+    </message>
+    <message>
+        <source>Software update complete...</source>
+        <translation>Yazılım güncellemesi tamamlandı...</translation>
+    </message>
+    <message>
+        <source>Software update error...</source>
+        <translation>Yazılım güncelleme hatası...</translation>
+    </message>
+    <message>
+        <source>Unkown error...</source>
+        <translation>Bilinmeyen hata...</translation>
+    </message>
+    <message>
+        <source>Firmware data checksum ok.</source>
+        <translation>Donanım yazılımı sağlaması doğru.</translation>
+    </message>
+    <message>
+        <source>Firmware update fault.</source>
+        <translation>Donanım yazılımı güncellenemedi.</translation>
+    </message>
+    <message>
+        <source>Firmware update complete...</source>
+        <translation>Donanım yazılımı güncellendi...</translation>
+    </message>
+    <message>
+        <source>ErrCode: </source>
+        <translation>Hata kodu: </translation>
+    </message>
+    <message>
+        <source>Timeout</source>
+        <translation>Zaman aşımı</translation>
+    </message>
+    <message>
+        <source>C403 Timeout</source>
+        <translation>C403 Zaman aşımı</translation>
     </message>
 </context>
 <context>

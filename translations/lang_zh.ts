@@ -1711,6 +1711,13 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>UniTask</name>
+    <message>
+        <source>Power Quality</source>
+        <translation>电能质量</translation>
+    </message>
+</context>
+<context>
     <name>UserDatePage</name>
     <message>
         <source>Date &amp; Time</source>
@@ -1770,6 +1777,77 @@ Do you want to overwrite it?</source>
     <message>
         <source>IP In-use:</source>
         <translation>当前 IP：</translation>
+    </message>
+</context>
+<context>
+    <name>UserUpdate</name>
+    <message>
+        <source>Execute</source>
+        <translation>执行</translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation>退出</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>软件</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>固件</translation>
+    </message>
+    <message>
+        <source>Update in progress. Do not operate!!!</source>
+        <translation>正在更新。请勿操作！！！</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>请插入 U 盘...</translation>
+    </message>
+    <message>
+        <source>File not found...</source>
+        <translation>未找到文件...</translation>
+    </message>
+    <message>
+        <source>Software update complete...</source>
+        <translation>软件更新完成...</translation>
+    </message>
+    <message>
+        <source>Software update error...</source>
+        <translation>软件更新错误...</translation>
+    </message>
+    <message>
+        <source>Unkown error...</source>
+        <translation>未知错误...</translation>
+    </message>
+    <message>
+        <source>Firmware data checksum ok.</source>
+        <translation>固件数据校验正确。</translation>
+    </message>
+    <message>
+        <source>Firmware update fault.</source>
+        <translation>固件更新失败。</translation>
+    </message>
+    <message>
+        <source>Firmware update complete...</source>
+        <translation>固件更新完成...</translation>
+    </message>
+    <message>
+        <source>ErrCode: </source>
+        <translation>错误代码： </translation>
+    </message>
+    <message>
+        <source>Timeout</source>
+        <translation>超时</translation>
+    </message>
+    <message>
+        <source>C403 Timeout</source>
+        <translation>C403 超时</translation>
     </message>
 </context>
 <context>

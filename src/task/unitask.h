@@ -32,7 +32,7 @@ public:
     explicit UniTask(LiveData &data, QObject *parent = nullptr);
     ~UniTask() override;
 
-    QString getTaskName() override { return QStringLiteral("Power Quality"); }
+    QString getTaskName() override { return tr("Power Quality"); }
     /// Ends what runs beside basic measuring.
     void save(bool keep) override;
     /// Ends the recording's files; without a recorder there are none.

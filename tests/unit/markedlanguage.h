@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QAbstractButton>
+#include <QLabel>
+#include <QMap>
 #include <QTranslator>
 
 /// A language in which every text begins with a sign of its own, as long as it is spoken.
@@ -16,3 +19,19 @@ public:
 
     bool spoken;
 };
+
+/// Texts of all labels and buttons, by the classes and names on the way down to each.
+inline QMap<QString, QString> texts(const QWidget *page)
+{
+    QMap<QString, QString> result;
+    for (const QWidget *widget : page->findChildren<QWidget *>()) {
+        QString path = widget->objectName();
+        for (const QWidget *above = widget->parentWidget(); above != page; above = above->parentWidget())
+            path.prepend(QString::fromLatin1(above->metaObject()->className()) + QLatin1Char('/'));
+        if (const auto *label = qobject_cast<const QLabel *>(widget))
+            result.insert(path, label->text());
+        else if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
+            result.insert(path, button->text());
+    }
+    return result;
+}

@@ -5,6 +5,7 @@
 #include "shell/menupage.h"
 #include "shell/pagetable.h"
 #include "shell/tasklinks.h"
+#include "unit/markedlanguage.h"
 #include "unit/views/pagetest.h"
 #include "widgets/dialogs/filecopingprogressbar.h"
 #include "widgets/dialogs/filemanager.h"
@@ -16,7 +17,6 @@
 #include "shellcase.h"
 #include "testpaths.h"
 
-#include <QTranslator>
 #include <QXmlStreamReader>
 
 #include <memory>
@@ -93,6 +93,8 @@ class TstLanguages : public QObject
 
 private slots:
     void initTestCase();
+    void aChangeOfTheLanguageReachesEveryText_data();
+    void aChangeOfTheLanguageReachesEveryText();
     void everyTextFits_data();
     void everyTextFits();
     void everyTextThatIsAskedForIsInTheFiles();
@@ -127,6 +129,38 @@ void TstLanguages::initTestCase()
         if (row.make)
             m_pages.emplace_back(QString::fromLatin1(row.title), row.make(m_links, PageTest::liveData()));
     }
+}
+
+void TstLanguages::aChangeOfTheLanguageReachesEveryText_data()
+{
+    QTest::addColumn<int>("row");
+    const auto &rows = PageTable::rows();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (rows[i].make)
+            QTest::newRow(rows[i].title) << int(i);
+    }
+}
+
+void TstLanguages::aChangeOfTheLanguageReachesEveryText()
+{
+    QFETCH(int, row);
+    const auto make = [this, row] {
+        std::unique_ptr<FunctionPage> page(PageTable::rows()[std::size_t(row)].make(m_links, PageTest::liveData()));
+        PageTest::openAll(*page);
+        page->init_parameter();
+        page->updateDisplay(nullptr);
+        return page;
+    };
+    const auto page = make();
+    const auto english = texts(page.get());
+    MarkedLanguage language;
+    QVERIFY(QCoreApplication::installTranslator(&language));
+    page->retranslateUi();
+    const auto shown = texts(page.get());
+    const auto expected = texts(make().get()); // of a page that never knew another language
+    QVERIFY(expected != english);
+    for (const QString &name : expected.keys())
+        QCOMPARE(name + shown[name], name + expected[name]);
 }
 
 void TstLanguages::look(QWidget *widget, const QString &where)

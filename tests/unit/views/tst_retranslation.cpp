@@ -3,28 +3,9 @@
 #include "allpages.h"
 #include "unit/markedlanguage.h"
 
-#include <QAbstractButton>
-#include <QMap>
-
 #include <memory>
 
 namespace {
-
-/// Texts of all labels and buttons, by the classes and names on the way down to each.
-QMap<QString, QString> texts(const QWidget *page)
-{
-    QMap<QString, QString> result;
-    for (const QWidget *widget : page->findChildren<QWidget *>()) {
-        QString path = widget->objectName();
-        for (const QWidget *above = widget->parentWidget(); above != page; above = above->parentWidget())
-            path.prepend(QString::fromLatin1(above->metaObject()->className()) + QLatin1Char('/'));
-        if (const auto *label = qobject_cast<const QLabel *>(widget))
-            result.insert(path, label->text());
-        else if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
-            result.insert(path, button->text());
-    }
-    return result;
-}
 
 /// Style sheets of all labels, in the order of the page's widgets.
 QStringList sheets(const QWidget *page)
