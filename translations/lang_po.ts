@@ -1795,7 +1795,7 @@ Czy go zastąpić?</translation>
     </message>
     <message>
         <source>Software</source>
-        <translation>Oprogramowanie</translation>
+        <translation>Program</translation>
     </message>
     <message>
         <source>Firmware</source>
