@@ -1853,6 +1853,10 @@ Voulez-vous l&apos;écraser ?</translation>
 <context>
     <name>UserWifiPage</name>
     <message>
+        <source>UNKNOWN</source>
+        <translation>INCONNU</translation>
+    </message>
+    <message>
         <source>Connect To</source>
         <translation>Connecter</translation>
     </message>

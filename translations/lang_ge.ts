@@ -1853,6 +1853,10 @@ Soll sie überschrieben werden?</translation>
 <context>
     <name>UserWifiPage</name>
     <message>
+        <source>UNKNOWN</source>
+        <translation>UNBEKANNT</translation>
+    </message>
+    <message>
         <source>Connect To</source>
         <translation>Verbinden</translation>
     </message>

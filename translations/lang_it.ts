@@ -1853,6 +1853,10 @@ Sovrascriverlo?</translation>
 <context>
     <name>UserWifiPage</name>
     <message>
+        <source>UNKNOWN</source>
+        <translation>SCONOSCIUTO</translation>
+    </message>
+    <message>
         <source>Connect To</source>
         <translation>Connetti</translation>
     </message>

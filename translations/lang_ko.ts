@@ -1853,6 +1853,10 @@ Do you want to overwrite it?</source>
 <context>
     <name>UserWifiPage</name>
     <message>
+        <source>UNKNOWN</source>
+        <translation>알 수 없음</translation>
+    </message>
+    <message>
         <source>Connect To</source>
         <translation>연결</translation>
     </message>

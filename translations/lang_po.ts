@@ -1853,6 +1853,10 @@ Czy go zastąpić?</translation>
 <context>
     <name>UserWifiPage</name>
     <message>
+        <source>UNKNOWN</source>
+        <translation>NIEZNANY</translation>
+    </message>
+    <message>
         <source>Connect To</source>
         <translation>Połącz</translation>
     </message>

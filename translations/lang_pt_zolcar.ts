@@ -1853,6 +1853,10 @@ Deseja substituí-lo?</translation>
 <context>
     <name>UserWifiPage</name>
     <message>
+        <source>UNKNOWN</source>
+        <translation>DESCONHECIDO</translation>
+    </message>
+    <message>
         <source>Connect To</source>
         <translation>Conectar</translation>
     </message>

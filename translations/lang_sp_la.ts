@@ -1853,6 +1853,10 @@ Do you want to overwrite it?</source>
 <context>
     <name>UserWifiPage</name>
     <message>
+        <source>UNKNOWN</source>
+        <translation>DESCONOCIDO</translation>
+    </message>
+    <message>
         <source>Connect To</source>
         <translation>Conectar</translation>
     </message>

@@ -1853,6 +1853,10 @@ Do you want to overwrite it?</source>
 <context>
     <name>UserWifiPage</name>
     <message>
+        <source>UNKNOWN</source>
+        <translation>未知</translation>
+    </message>
+    <message>
         <source>Connect To</source>
         <translation>连接</translation>
     </message>

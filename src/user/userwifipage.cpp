@@ -13,7 +13,6 @@ constexpr int kTop = 40, kPitch = 30; // of the lines, pixels
 constexpr int kRefreshMs = 1000;
 
 const QString kInterface = QStringLiteral("wlan0");
-const QString kUnknown = QStringLiteral("UNKNOWN");
 
 /// The daemon's words while it joins.
 const char *const kJoiningStates[]
@@ -34,7 +33,7 @@ QString addressInUse()
 
 QString orUnknown(const QString &text)
 {
-    return text.isEmpty() ? kUnknown : text;
+    return text.isEmpty() ? UserWifiPage::tr("UNKNOWN") : text;
 }
 
 } // namespace

@@ -70,7 +70,7 @@ const QVector<Page> &galleryPages()
                    "Down Down Down Down Down Right: date-zone", "F5 F2: lan", "Down Right: lan-static",
                    "Down Enter: lan-keyboard", "F5 F5 F3: wlan", "F1: wlan-open", "F1 F5 F4: update",
                    "Right: update-firmware", "F1: update-no-disk" },
-                 "F1 F5", true, kOneWiring),
+                 "", true, kOneWiring),
         byKey("scope", "F6",
               { "voltage", "F1: next", "F1: next-2", "F1: next-3", "F1: next-4", "F3: cursor", "F3 Up: zoom" }),
         byKey("monitor", "F8", { "message" }, "F5", kNotAt400Hz, kOneWiring),
