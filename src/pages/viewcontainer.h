@@ -22,7 +22,7 @@ public:
     /// A row of the table: the maker of a sub page, and the ways that lead on from it.
     struct SubPage
     {
-        LivePage *(*make)(const LiveData &);
+        std::function<LivePage *(const LiveData &)> make;
         std::vector<Way> ways;
     };
 

@@ -9,6 +9,7 @@
 #include "setup/setupfunctions.h"
 #include "setup/setupinrush.h"
 #include "setup/setupkfactor.h"
+#include "setup/setuplimits.h"
 #include "setup/setupmain.h"
 #include "setup/setupmainpage2.h"
 #include "setup/setupmainssig.h"
@@ -31,7 +32,8 @@ std::vector<SetupPage::SubPage> SetupPage::table()
             way(&SetupMain::goSetupVnom, Vnom), way(&SetupMain::goSetupClamp, Clamps),
             way(&SetupMain::goSetupNext, Main2) } },
         { make<SetupMainPage2>,
-          { way(&SetupMainPage2::goSetupFunctions, Functions), way(&SetupMainPage2::goSetupPrev, Main) } },
+          { way(&SetupMainPage2::goSetupLimits, Limits), way(&SetupMainPage2::goSetupFunctions, Functions),
+            way(&SetupMainPage2::goSetupPrev, Main) } },
         { make<SetupConfigPage>,
           { pass(&SetupConfigPage::goConfigDetail, &SetupPage::showSetupConfigEnter),
             way(&SetupConfigPage::goSetupMain, Main) } },
@@ -49,6 +51,7 @@ std::vector<SetupPage::SubPage> SetupPage::table()
         { make<SetupInrush>, { back(&SetupInrush::stored), back(&SetupInrush::cancelled) } },
         { make<SetupMainsSig>, { back(&SetupMainsSig::stored), back(&SetupMainsSig::cancelled) } },
         { make<SetupClamps>, { back(&SetupClamps::done) } },
+        { make<SetupLimits>, { back(&SetupLimits::done) } },
     };
 }
 

@@ -22,7 +22,8 @@ public:
         Transients,
         Inrush,
         MainsSig,
-        Clamps
+        Clamps,
+        Limits
     };
 
     explicit SetupPage(const LiveData &data, QWidget *parent = nullptr);

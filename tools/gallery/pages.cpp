@@ -42,13 +42,50 @@ Page byKey(const char *name, const char *key, const QStringList &shots, const ch
     return page;
 }
 
+/// The editors of clamps and limits; they know neither wiring nor frequency.
+QVector<Page> setupEditors()
+{
+    return {
+        byKey("setup-clamps", "F9",
+              { "F4: choice", "Down Right Right Right Right Right Right: flexible",
+                "Down Right Right Right Right Right: custom", "Enter: ratio-keys", "F5 F2: uneditable", "F5 F1: editor",
+                "Enter: name-keys", "Enter Right Enter F4 Down Down Enter F2 Up Enter F4: edited", "F4: added",
+                "F1 F4: empty", "F5 F5 F3: delete" },
+              "F5 F5", true, false),
+        byKey("setup-limits", "F9",
+              { "F5 F1: sets",
+                "Enter: built-in",
+                "Enter: voltage-built-in",
+                "F5 F5 F1 Enter Right Enter F4: added",
+                "F1 F2 Enter Right Enter F4: exists",
+                "F5 F1 F4: empty",
+                "F5 Down Down Enter: items",
+                "Enter: voltage",
+                "Down Right Right: voltage-edited",
+                "Down Right Right: not-applied",
+                "F4 Down Enter: harmonics",
+                "F1 Right Down: harmonics-edited",
+                "F4 Down Enter: flicker",
+                "F5 Down Enter: dips",
+                "F5 Down Enter: swells",
+                "F5 Down Enter: interruptions",
+                "F5 Down Enter: rvc",
+                "F5 Down Enter: unbalance",
+                "F5 Down Enter: frequency",
+                "F5 Down Enter: mains-signaling",
+                "F5 F4 F4: in-use",
+                "F1 F2: delete" },
+              "F5 F5", true, false),
+    };
+}
+
 } // namespace
 
 const QVector<Page> &galleryPages()
 {
     constexpr bool kNotAt400Hz = false;
     constexpr bool kOneWiring = false;
-    static const QVector<Page> pages = {
+    static const QVector<Page> pages = QVector<Page> {
         // F5 closes the message that a function which is not built yet answers with.
         byKey("menu", "", { "menu", "F1: status" }, "F5", true, kOneWiring),
         fromMenu("power", "power", { "table", "F3: energy", "F3 F4: trend" }),
@@ -87,14 +124,8 @@ const QVector<Page> &galleryPages()
                 "F5 Left Left Right Right Left Right Left Right: calibration", "F1 F2: calibration-l1",
                 "F3: calibration-runs", "F5: calibration-question", "F4: left" },
               "", true, kOneWiring),
-        byKey("setup-clamps", "F9",
-              { "F4: choice", "Down Right Right Right Right Right Right: flexible",
-                "Down Right Right Right Right Right: custom", "Enter: ratio-keys", "F5 F2: uneditable", "F5 F1: editor",
-                "Enter: name-keys", "Enter Right Enter F4 Down Down Enter F2 Up Enter F4: edited", "F4: added",
-                "F1 F4: empty", "F5 F5 F3: delete" },
-              "F5 F5", true, kOneWiring),
         byKey("memory", "F10", { "message" }, "F5", true, kOneWiring),
-    };
+    } + setupEditors();
     return pages;
 }
 

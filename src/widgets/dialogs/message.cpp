@@ -47,6 +47,13 @@ int Message::showMessage(int type, const QString &text)
     return message.exec() == QDialog::Accepted ? message.getRet() : 0;
 }
 
+bool Message::confirm(const QString &text, const QString &action)
+{
+    Message message(YesNo, text);
+    message.setKeyText(4, action);
+    return message.exec() == QDialog::Accepted && message.getRet() == Yes;
+}
+
 Message::Message(int type, const QString &text, QWidget *parent)
     : SoftKeyDialog(parent), m_ui(new Ui::Message), m_type(type >= 0 && type < int(std::size(kForms)) ? type : Info)
 {

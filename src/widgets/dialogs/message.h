@@ -30,6 +30,9 @@ public:
     /// shows as Info.
     static int showMessage(int type, const QString &text);
 
+    /// A question whose F4 carries the text of what a yes does. A dialog closed by other means is a no.
+    static bool confirm(const QString &text, const QString &action);
+
     Message(int type, const QString &text, QWidget *parent = nullptr);
     ~Message() override;
 

@@ -17,6 +17,8 @@ private slots:
     void keysWithoutTextDoNothing();
     void otherKeysDoNothing();
     void closedByOtherMeansItAnswersZero();
+    void aConfirmedActionIsNamedOnItsKey_data();
+    void aConfirmedActionIsNamedOnItsKey();
     void newMessageHasTheReturnValueEight();
     void anUnknownTypeShowsAsInformation();
     void thePressThatWakesTheScreenDoesNothingElse();
@@ -135,6 +137,29 @@ void TstMessage::closedByOtherMeansItAnswersZero()
 void TstMessage::newMessageHasTheReturnValueEight()
 {
     QCOMPARE(Message(0, QString()).getRet(), 8);
+}
+
+void TstMessage::aConfirmedActionIsNamedOnItsKey_data()
+{
+    QTest::addColumn<char>("letter"); // 0: closed
+    QTest::addColumn<bool>("confirmed");
+    QTest::newRow("the action") << 'F' << true;
+    QTest::newRow("no") << 'L' << false;
+    QTest::newRow("closed by other means") << '\0' << false;
+}
+
+void TstMessage::aConfirmedActionIsNamedOnItsKey()
+{
+    QFETCH(char, letter);
+    DialogDriver driver({ [letter](QDialog *dialog) {
+        QCOMPARE(keyTexts(dialog), QStringList({ "", "", "", "Overwrite", "No" }));
+        if (letter)
+            QTest::keyClick(dialog, letter);
+        else
+            dialog->close();
+    } });
+    QTEST(Message::confirm(QStringLiteral("It exists"), QStringLiteral("Overwrite")), "confirmed");
+    QVERIFY(driver.isDone());
 }
 
 void TstMessage::anUnknownTypeShowsAsInformation()
