@@ -26,6 +26,7 @@ private slots:
     void twoUpdatesAtOnceDoNotMix();
     void diskWithoutRoomKeepsTheOldVersion();
     void minimumIsRaisedOnlyByAnUpdateThatCounts();
+    void memoryDoesNotGrowWithThePackage();
 
 private:
     static QProcessEnvironment faulty(const UpdateDesk &desk, const char *variable, const QString &value)
@@ -48,6 +49,17 @@ private:
         QList<QByteArray> lines = UpdateDesk::read(desk.path("/log")).split('\n');
         lines.removeLast();
         return result.status == Done ? lines : QList<QByteArray>();
+    }
+    /// Unpacks under limits that a shell sets.
+    static UpdateDesk::Result limited(const UpdateDesk &desk, const QString &package, const char *limits)
+    {
+        QProcess process;
+        process.setProcessEnvironment(desk.environment());
+        process.start("/bin/sh",
+                      { "-c", QLatin1String(limits) + "; exec \"$0\" \"$1\"",
+                        QStringLiteral(QUVERA_BIN_DIR "/update-unpack"), package });
+        process.waitForFinished();
+        return { process.exitCode(), process.readAllStandardError() };
     }
     static void addFaults()
     {
@@ -219,21 +231,13 @@ void TstUpdateInstall::twoUpdatesAtOnceDoNotMix()
 void TstUpdateInstall::diskWithoutRoomKeepsTheOldVersion()
 {
     const UpdatedDesk desk;
-    QProcessEnvironment all = desk.environment();
-    QVERIFY(QDir().mkpath(desk.path("/opt/quvera/versions")));
     Content large = kNew;
     large.insert("large", QByteArray(300000, 'l'));
     const QString package = put(desk, desk.softwarePackage(large, 3));
     // No file of the program may grow beyond 100 KiB: a disk that fills up in the middle of one.
-    QProcess process;
-    process.setProcessEnvironment(all);
-    process.start("/bin/sh",
-                  { "-c", "trap '' XFSZ; ulimit -f 200; exec \"$0\" \"$1\"",
-                    QStringLiteral(QUVERA_BIN_DIR "/update-unpack"), package });
-    QVERIFY(process.waitForFinished());
-    QCOMPARE(process.exitCode(), int(NotInstalled));
-    const QByteArray text = process.readAllStandardError();
-    QVERIFY2(text.contains("a file cannot be written"), text);
+    const auto result = limited(desk, package, "trap '' XFSZ; ulimit -f 200");
+    QCOMPARE(result.status, int(NotInstalled));
+    QVERIFY2(result.text.contains("a file cannot be written"), result.text);
     QCOMPARE(desk.current(), kOld);
     QCOMPARE(desk.versions(), QStringList({ "1", "2" }));
 }
@@ -244,6 +248,16 @@ void TstUpdateInstall::minimumIsRaisedOnlyByAnUpdateThatCounts()
     QVERIFY(QDir().mkpath(desk.path("/opt/quvera/current/x")));
     QCOMPARE(desk.unpack(desk.softwarePackage(kNew, 3, 3)).status, int(NotInstalled));
     QVERIFY(!QFile::exists(desk.path("/etc/quvera/update.minimum")));
+}
+
+void TstUpdateInstall::memoryDoesNotGrowWithThePackage()
+{
+    const UpdateDesk desk;
+    const QByteArray large(60 << 20, 'l');
+    const auto result
+        = limited(desk, put(desk, desk.softwarePackage({ { "large", large } }, 1)), "ulimit -v 40000"); // kB
+    QVERIFY2(result.status == Done, result.text);
+    QCOMPARE(QFileInfo(desk.path("/opt/quvera/current/large")).size(), qint64(large.size()));
 }
 
 QTEST_GUILESS_MAIN(TstUpdateInstall)

@@ -1,6 +1,7 @@
 #include "packages.h"
 
 #include "package.h"
+#include "unit/documentpage.h"
 
 #include <QTemporaryFile>
 
@@ -39,6 +40,7 @@ private slots:
     void linkAtTheImagesPlaceIsReplacedNotFollowed();
     void wrongCallsAreTold();
     void contentThatChangesBetweenTheTwoReadsIsRefused();
+    void documentGivesBoundsAndStatuses();
 
 private:
     void refuses(const UpdateDesk &desk, const QByteArray &package, const char *why)
@@ -368,6 +370,30 @@ void TstUpdatePackage::contentThatChangesBetweenTheTwoReadsIsRefused()
     QTemporaryFile copy;
     QVERIFY(copy.open());
     QCOMPARE(int(package.copy(0, copy.handle()).status), int(Refused));
+}
+
+void TstUpdatePackage::documentGivesBoundsAndStatuses()
+{
+    const DocumentPage format(QStringLiteral("formats/update-package.md"));
+    QVector<quint64> bounds;
+    for (const QStringList &row : format.table(QStringLiteral("## Bounds")))
+        bounds << row.value(1).toULongLong();
+    QCOMPARE(bounds,
+             (QVector<quint64> { kMostFiles, kMostTableBytes, kMostNameBytes, kMostNameParts, kMostSoftwareBytes,
+                                 kMostFirmwareBytes }));
+    const auto end = [&format](const char *heading) {
+        const QVector<QStringList> rows = format.table(QString::fromLatin1(heading));
+        return rows.last().value(0).toUInt() + rows.last().value(1).toUInt();
+    };
+    QCOMPARE(end("## Head"), unsigned(kHeadBytes));
+    QCOMPARE(end("## Table"), 12u + unsigned(kDigestBytes)); // where the name begins
+    const QString page = UpdateDesk::read(QStringLiteral(QUVERA_SOURCE_DIR "/src/user/userupdate.cpp"));
+    int status = Done;
+    for (const QStringList &row : DocumentPage(QStringLiteral("updates.md")).table("## What the unpacker does")) {
+        QCOMPARE(row.value(0).toInt(), status++);
+        QVERIFY2(page.contains('"' + row.value(2) + '"'), qPrintable(row.value(2)));
+    }
+    QCOMPARE(status, Busy + 1);
 }
 
 QTEST_GUILESS_MAIN(TstUpdatePackage)
