@@ -26,7 +26,7 @@ SetupClamps::SetupClamps(const LiveData &data, QWidget *parent)
 void SetupClamps::init_parameter()
 {
     ViewContainer::init_parameter();
-    if (currentIndex() > Choice)
+    if (currentIndex() != Choice)
         showPage(Choice);
 }
 

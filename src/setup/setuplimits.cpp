@@ -34,7 +34,7 @@ std::vector<ViewContainer::SubPage> SetupLimits::table(SetupLimits *page)
 void SetupLimits::init_parameter()
 {
     ViewContainer::init_parameter();
-    if (currentIndex() > Menu)
+    if (currentIndex() != Menu)
         showPage(Menu);
 }
 

@@ -1,7 +1,9 @@
 #include "clampcase.h"
 
+#include "settings/limitbuiltins.h"
 #include "unit/storage/filelimit.h"
 #include "unit/storage/ordinaryuser.h"
+#include "unit/views/framespy.h"
 
 #include <QSignalSpy>
 
@@ -24,6 +26,7 @@ class TstClampStoring : public Pages
 private slots:
     void init() { openPage(); }
     void scalesFollowClampAndRatios();
+    void leavingSetupSendsClampAndLimitsToTheProcessor();
     void okWithoutAChangeKeepsInrushLevels();
     void cancelLeavesTheFilesByteForByte();
     void leavingByAFunctionKeyDropsTheDraft();
@@ -51,6 +54,31 @@ void TstClampStoring::scalesFollowClampAndRatios()
         QCOMPARE(after.power[k], before.power[k] * 20 * 100 * 10);
     }
     QCOMPARE(after.voltage[3], before.voltage[3]);
+}
+
+void TstClampStoring::leavingSetupSendsClampAndLimitsToTheProcessor()
+{
+    constexpr quint32 kFlexible = 1 << 15;
+    constexpr int kConfiguration = 2, kSignal1 = 21; // words of the set-up frame
+    SetupCase::makeDevice();
+    monitor_limit limit = LimitBuiltins::en50160();
+    limit.frequency1.value = 1450;
+    m_limits_g.add("Signals", limit);
+    SetupPage setup(liveData());
+    setup.enter();
+    FrameSpy frames;
+    SetupCase::press(setup, { F4, Down, Right, Right, Right, Right, Right, Right, F4 }); // a flexible clamp
+    SetupCase::press(setup, { F5, F1, Down, Down, F4 }); // the third set
+    QCOMPARE(SetupCase::onTop(setup), QStringLiteral("SetupMainPage2"));
+    QCOMPARE(frames.count(), 0);
+    SetupCase::press(setup, { F6 });
+    QCOMPARE(frames.count(), 3);
+    QCOMPARE(frames.word(0, kConfiguration) & kFlexible, kFlexible);
+    const quint32 word = frames.word(0, kSignal1);
+    float hertz = 0;
+    memcpy(&hertz, &word, sizeof hertz);
+    QCOMPARE(hertz, 1450.0f);
+    m_limits_g.remove("Signals");
 }
 
 void TstClampStoring::okWithoutAChangeKeepsInrushLevels()
