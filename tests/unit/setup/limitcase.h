@@ -108,6 +108,13 @@ protected:
 
     QWidget *top() { return m_page->currentPage(); }
     QString shown(const QString &label) { return text(top(), label); }
+    QStringList allTexts()
+    {
+        QStringList texts;
+        for (const QLabel *label : top()->findChildren<QLabel *>())
+            texts << label->text();
+        return texts;
+    }
     SetupLimitMenu *menu() { return m_page->findChild<SetupLimitMenu *>(); }
 
     std::unique_ptr<SetupLimits> m_page;

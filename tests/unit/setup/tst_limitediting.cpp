@@ -53,7 +53,10 @@ void TstLimitEditing::valuesOfABuiltInSetAreOnlyLookedAt()
         openItem(item);
         QCOMPARE(shown("btn_f4"), QString());
         QCOMPARE(shown("btn_f5"), QStringLiteral("Back"));
+        const QStringList before = allTexts();
         press(top(), Right, 3);
+        press(top(), Left, 1);
+        QCOMPARE(allTexts(), before);
         press(top(), F4);
         QCOMPARE(m_page->currentIndex(), SetupLimits::FirstItem + item);
         press(top(), F5);
