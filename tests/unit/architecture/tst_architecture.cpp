@@ -259,7 +259,7 @@ void TstArchitecture::processorIncludesNothingOfTheInstrument()
 void TstArchitecture::toolsIncludeNothingOfTheInstrument()
 {
     QStringList found;
-    const auto paths = sources(QStringLiteral("tools"));
+    const auto paths = sources(QStringLiteral("tools")) + sources(QStringLiteral("packaging"));
     QVERIFY(!paths.isEmpty());
     for (const QString &path : paths) {
         const auto includes = includesOf(path);

@@ -80,8 +80,18 @@ class UpdatedDesk : public UpdateDesk
 public:
     UpdatedDesk()
     {
-        if (unpack(softwarePackage(kOldest, 1)).status != Done || unpack(softwarePackage(kOld, 2)).status != Done)
-            qFatal("the versions before cannot be installed");
+        install("1", kOldest);
+        install("2", kOld);
+        if (!QFile::link("versions/1", path("/opt/quvera/previous"))
+            || !QFile::link("versions/2", path("/opt/quvera/current")))
+            qFatal("the links of the versions before cannot be made");
+    }
+
+private:
+    void install(const QString &name, const Content &files) const
+    {
+        for (auto file = files.begin(); file != files.end(); ++file)
+            write(path("/opt/quvera/versions/" + name + '/' + file.key()), file.value());
     }
 };
 
@@ -219,7 +229,7 @@ void TstUpdateInstall::linkInPlaceOfTheVersionsIsNotFollowed()
 void TstUpdateInstall::twoUpdatesAtOnceDoNotMix()
 {
     UpdatedDesk desk;
-    const int lock = ::open(qPrintable(desk.path("/opt/quvera/.lock")), O_RDWR);
+    const int lock = ::open(qPrintable(desk.path("/opt/quvera/.lock")), O_RDWR | O_CREAT, 0600);
     QCOMPARE(::flock(lock, LOCK_EX), 0);
     const auto result = desk.unpack(desk.softwarePackage(kNew, 3));
     QCOMPARE(result.status, int(Busy));
