@@ -86,13 +86,20 @@ QString Config::textWith(const QString &text, const QString &key, const QString 
 
 void Config::writeConfigFile(const QString &path, const QString &key, const QString &value)
 {
-    QByteArray old;
-    const WholeFile::Reading reading = WholeFile::read(path, kLargestFile, &old);
+    writeConfigFile(path, { { key, value } });
+}
+
+void Config::writeConfigFile(const QString &path, const Entries &entries)
+{
+    QByteArray bytes;
+    const WholeFile::Reading reading = WholeFile::read(path, kLargestFile, &bytes);
     if (reading == WholeFile::Failed) {
-        QUVERA_DEBUG(QStringLiteral("%1: read fail, %2 is not stored").arg(path, key));
+        QUVERA_DEBUG(QStringLiteral("%1: read fail, %2 is not stored").arg(path, entries.value(0).first));
         return;
     }
-    if (!SafeFile::stage(path, textWith(QString::fromUtf8(old), key, value).toLatin1()))
+    for (const auto &entry : entries)
+        bytes = textWith(QString::fromUtf8(bytes), entry.first, entry.second).toLatin1();
+    if (!SafeFile::stage(path, bytes))
         return;
     // A file that is there and may not be opened keeps what it holds; the new text then stays in the staging copy.
     if (reading != WholeFile::Refused)

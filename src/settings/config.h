@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QByteArray>
+#include <QPair>
 #include <QString>
+#include <QVector>
 
 /// The settings files: text lines of key=value, read key by key and rewritten as a whole at each change.
 /// Paths are the board's. GUI thread only, no lock. No failure reaches the user: a lost write keeps the old file.
@@ -15,6 +17,10 @@ public:
     /// the read of the old text ends in an error, nothing is written and the debug log says so: the keys that could not
     /// be read would be lost.
     static void writeConfigFile(const QString &path, const QString &key, const QString &value);
+    /// Keys with their values.
+    using Entries = QVector<QPair<QString, QString>>;
+    /// Stores several keys in one step, as storing one after the other would leave the file.
+    static void writeConfigFile(const QString &path, const Entries &entries);
 
     /// The bytes of a settings file; empty when it is missing, unreadable or larger than a settings file can be.
     static QByteArray readWhole(const QString &path);

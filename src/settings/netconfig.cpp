@@ -37,8 +37,25 @@ void NetConfig::store(QString NetValues::*member, const QString &value)
     m_values.*member = value;
     for (const auto &row : rows()) {
         if (std::get<QString NetValues::*>(row.member) == member)
-            Config::writeConfigFile(filePath(), QLatin1String(row.key), value);
+            m_waiting.append({ QLatin1String(row.key), value });
     }
+    if (!m_together)
+        writeWaiting();
+}
+
+void NetConfig::writeWaiting()
+{
+    if (!m_waiting.isEmpty())
+        Config::writeConfigFile(filePath(), m_waiting);
+    m_waiting.clear();
+}
+
+void NetConfig::changeTogether(const std::function<void()> &change)
+{
+    m_together = true;
+    change();
+    m_together = false;
+    writeWaiting();
 }
 
 void NetConfig::storeAddress(QString NetValues::*member, const QString &value)

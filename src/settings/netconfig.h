@@ -3,7 +3,10 @@
 #include <QString>
 #include <QVector>
 
+#include "settings/config.h"
 #include "settings/settingrow.h"
+
+#include <functional>
 
 /// The values behind the keys of eth0.conf.
 struct NetValues
@@ -20,6 +23,10 @@ public:
 
     static const QVector<SettingRow<NetValues>> &rows();
     static QString filePath(); // the board's
+
+    /// What  change sets is stored in one write at its end: the network script never finds old and new addresses side
+    /// by side, and the disk is waited for once.
+    void changeTogether(const std::function<void()> &change);
 
     bool getIsDHCP() const;
     void setDHCP(bool on);
@@ -42,7 +49,10 @@ public:
 
 private:
     void store(QString NetValues::*member, const QString &value);
+    void writeWaiting();
     void storeAddress(QString NetValues::*member, const QString &value);
 
     NetValues m_values;
+    bool m_together = false;
+    Config::Entries m_waiting; // set together, not written yet
 };

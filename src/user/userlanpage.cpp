@@ -163,10 +163,12 @@ QString UserLanPage::networkOf(const QString &address)
 void UserLanPage::store()
 {
     NetConfig config;
-    config.setDHCP(m_dhcp);
-    config.setIPAddr(m_addresses[IpAddress]);
-    config.setNetMask(m_addresses[Netmask]);
-    config.setGateWay(m_addresses[Gateway]);
-    config.setNetWork(networkOf(m_addresses[IpAddress]));
+    config.changeTogether([this, &config] {
+        config.setDHCP(m_dhcp);
+        config.setIPAddr(m_addresses[IpAddress]);
+        config.setNetMask(m_addresses[Netmask]);
+        config.setGateWay(m_addresses[Gateway]);
+        config.setNetWork(networkOf(m_addresses[IpAddress]));
+    });
     m_shell.run(kApply);
 }

@@ -57,6 +57,40 @@ private slots:
         QCOMPARE(RootFiles::read(NetConfig::filePath()), old);
     }
 
+    void whatIsSetTogetherIsWrittenOnceAsOneAfterTheOther()
+    {
+        for (const QByteArray &old :
+             { QByteArray(), QByteArray("MAC=x\nIPADDR=1.1.1.1\nno key\n\nNAME=M\xc3\xbcller\n") }) {
+            const auto change = [](NetConfig &config) {
+                config.setIPAddr("10.0.0.2");
+                config.setDHCP(false);
+                config.setNetMask("no address");
+                config.setGateWay("10.0.0.9");
+            };
+            RootFiles::clean();
+            if (!old.isEmpty())
+                RootFiles::write(NetConfig::filePath(), old);
+            NetConfig one;
+            change(one);
+            const QByteArray expected = RootFiles::read(NetConfig::filePath());
+            QVERIFY(expected.contains("GATEWAY=10.0.0.9"));
+
+            RootFiles::clean();
+            if (!old.isEmpty())
+                RootFiles::write(NetConfig::filePath(), old);
+            const QByteArray before = RootFiles::read(NetConfig::filePath());
+            NetConfig all;
+            all.changeTogether([&] {
+                change(all);
+                QCOMPARE(RootFiles::read(NetConfig::filePath()), before);
+            });
+            QCOMPARE(RootFiles::read(NetConfig::filePath()), expected);
+            QCOMPARE(RootFiles::commands().count("sync"), 1);
+            all.setMAC("y"); // alone again
+            QVERIFY(RootFiles::read(NetConfig::filePath()).contains("MAC=y"));
+        }
+    }
+
     void onlyZeroTurnsDhcpOff_data()
     {
         QTest::addColumn<QByteArray>("word");
