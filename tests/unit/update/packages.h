@@ -19,12 +19,20 @@ class UpdateDesk
 public:
     using Content = QMap<QString, QByteArray>; // by name
 
-    UpdateDesk()
+    /// \a below: where the root is made. Hundreds of updates, each of which waits for its disk a dozen times, are made
+    /// in memory where that can be.
+    explicit UpdateDesk(const QString &below = quickDisk()) : m_folder(below + QStringLiteral("/update.XXXXXX"))
     {
         update::makeKeys(&privateKey, &publicKey);
         for (const char *folder : { "/etc/quvera", "/opt/quvera", "/tmp", "/usb" })
             QDir().mkpath(path(folder));
         write(path(update::kKeyFile), QByteArray::fromStdString(publicKey));
+    }
+
+    static QString quickDisk()
+    {
+        const QString memory = QStringLiteral("/dev/shm");
+        return QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
     }
 
     QString path(const QString &boardPath) const { return m_folder.path() + boardPath; }

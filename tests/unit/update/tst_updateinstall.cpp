@@ -262,7 +262,7 @@ void TstUpdateInstall::minimumIsRaisedOnlyByAnUpdateThatCounts()
 
 void TstUpdateInstall::memoryDoesNotGrowWithThePackage()
 {
-    const UpdateDesk desk;
+    const UpdateDesk desk(QDir::tempPath());
     const QByteArray large(60 << 20, 'l');
     const auto result
         = limited(desk, put(desk, desk.softwarePackage({ { "large", large } }, 1)), "ulimit -v 40000"); // kB
