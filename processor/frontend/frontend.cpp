@@ -78,6 +78,12 @@ void FrontEnd::setRogowski(bool on, double nominalFrequencyHz)
         m_nominalFrequency = nominalFrequencyHz;
 }
 
+void FrontEnd::setDrift(double gainPercentPerHour, double offsetUnitsPerHour)
+{
+    m_gainDrift = gainPercentPerHour / 100.0;
+    m_offsetDrift = offsetUnitsPerHour * StepsPerUnit;
+}
+
 void FrontEnd::setNoise(double steps)
 {
     m_noise = std::max(steps, 0.0);
@@ -114,8 +120,9 @@ void FrontEnd::differentiate(const double *in, double *slope, int n, int channel
 PROCESSOR_VECTOR_CODE void FrontEnd::convertChannel(const double *in, std::int16_t *out, int n, int channel)
 {
     const auto c = static_cast<std::size_t>(channel);
-    const double factor = m_factor[c];
-    const double offset = m_offset[c];
+    const double hours = double(m_position) / SampleRate / 3600.0;
+    const double factor = m_factor[c] / (1.0 + m_gainDrift * hours);
+    const double offset = m_offset[c] + m_offsetDrift * hours;
     double steps[Chunk];
     for (int i = 0; i < n; ++i)
         steps[i] = in[i] * factor + offset;

@@ -43,6 +43,10 @@ public:
     /// the instrument is set to) unless a scenario wants the wrong clamp.
     void setRogowski(bool on, double nominalFrequencyHz);
 
+    /// Moves the gains and the zero offsets of all channels and ranges away from the calibration set as time passes, by
+    /// so many percent of the gain and so many converter units in an hour of samples. Starts at none.
+    void setDrift(double gainPercentPerHour, double offsetUnitsPerHour);
+
     /// White noise of the converter, r.m.s. in steps of the converter. Starts at 0.4.
     void setNoise(double steps);
 
@@ -64,6 +68,8 @@ private:
     bool m_rogowski = false;
     double m_nominalFrequency = 50.0;
     double m_noise = 0.4; // steps, r.m.s.
+    double m_gainDrift = 0.0; // per hour
+    double m_offsetDrift = 0.0; // steps per hour
     std::uint64_t m_seed;
     std::uint64_t m_position = 0;
     bool m_clipped = false;

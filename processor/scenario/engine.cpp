@@ -201,10 +201,12 @@ void Engine::serve()
     using Kind = wire::PackageSocket::Event::Kind;
     for (const wire::PackageSocket::Event &event : m_node.serve()) {
         const bool streamed = m_link.streaming();
-        if (event.kind == Kind::Frame)
+        if (event.kind == Kind::Frame) {
             m_link.takeFrame(event.frame);
-        else if (event.kind == Kind::Disconnected)
+            m_boardRead = {}; // the instrument switches ranges before it sends what belongs to them
+        } else if (event.kind == Kind::Disconnected) {
             m_link.disconnected();
+        }
         if (event.kind != Kind::Frame)
             say(event.kind == Kind::Connected ? QStringLiteral("instrument connected")
                                               : QStringLiteral("instrument gone"));

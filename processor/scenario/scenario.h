@@ -29,6 +29,15 @@ struct Step
     QString tell; // empty: none
 };
 
+/// How far gains and zero offsets of the input stage are off: something for a calibration to find.
+struct HardwareError
+{
+    processor::InputMask inputs = 0;
+    std::optional<int> row; // of the gains, 0 to 3; nothing: all
+    double gain = 0.0; // percent of the volts or millivolts per converter unit
+    double offset = 0.0; // converter units
+};
+
 /// What the input stage is, where it differs from the ordinary one.
 struct FrontEndSpec
 {
@@ -37,6 +46,9 @@ struct FrontEndSpec
     std::optional<double> neutralClamp;
     std::optional<bool> rogowski; // the clamps that are plugged in, whatever the set-up says
     QString calibration; // file of the hardware's own gains; empty: the ordinary ones
+    std::vector<HardwareError> errors; // on top of those
+    double gainDrift = 0.0; // percent per hour, all inputs and ranges
+    double offsetDrift = 0.0; // converter units per hour
 };
 
 /// All that a scenario file says. Plain data; times count from the moment the stream is first switched on.

@@ -156,6 +156,22 @@ void readClock(JsonErrors *errors, const QJsonValue &value, Scenario *scenario)
     keys.finish();
 }
 
+HardwareError readHardwareError(JsonErrors *errors, const QString &path, const QJsonValue &value)
+{
+    JsonKeys keys(errors, path, value);
+    HardwareError error;
+    error.inputs = inputs(keys.text(QStringLiteral("inputs"), QStringLiteral("u+un+i+in")), Side::Voltage);
+    if (error.inputs == 0)
+        keys.wrong(QStringLiteral("inputs"), QStringLiteral("inputs as \"u1\", \"i\" or \"u1+u2\""));
+    const int row = keys.integer(QStringLiteral("row"), 0, 0, 3);
+    if (keys.has(QStringLiteral("row")))
+        error.row = row;
+    error.gain = keys.number(QStringLiteral("gain"), 0.0, -90.0, 1000.0);
+    error.offset = keys.number(QStringLiteral("offset"), 0.0, -10.0, 10.0);
+    keys.finish();
+    return error;
+}
+
 void readFrontEnd(JsonErrors *errors, const QString &folder, const QJsonValue &value, FrontEndSpec *frontEnd)
 {
     JsonKeys keys(errors, QStringLiteral("frontEnd"), value);
@@ -173,6 +189,11 @@ void readFrontEnd(JsonErrors *errors, const QString &folder, const QJsonValue &v
     const QString calibration = keys.text(QStringLiteral("calibration"));
     if (!calibration.isEmpty())
         frontEnd->calibration = QDir(folder).absoluteFilePath(calibration);
+    keys.list(QStringLiteral("errors"), [&](const QString &path, const QJsonValue &one) {
+        frontEnd->errors.push_back(readHardwareError(errors, path, one));
+    });
+    frontEnd->gainDrift = keys.number(QStringLiteral("gainDrift"), 0.0, -100.0, 100.0);
+    frontEnd->offsetDrift = keys.number(QStringLiteral("offsetDrift"), 0.0, -10.0, 10.0);
     keys.finish();
 }
 

@@ -52,16 +52,45 @@ Simulator::~Simulator() = default;
 
 bool Simulator::prepare(QString *error)
 {
-    if (m_scenario.frontEnd.calibration.isEmpty())
-        return true;
+    const FrontEndSpec &given = m_scenario.frontEnd;
+    if (!given.calibration.isEmpty() && !loadCalibration(given.calibration, error))
+        return false;
+    addHardwareErrors();
+    m_frontEnd.setDrift(given.gainDrift, given.offsetDrift);
+    return true;
+}
+
+bool Simulator::loadCalibration(const QString &path, QString *error)
+{
     processor::CalibrationSet calibration;
     std::string problem;
-    if (!calibration.load(QFile::encodeName(m_scenario.frontEnd.calibration).toStdString(), problem)) {
+    if (!calibration.load(QFile::encodeName(path).toStdString(), problem)) {
         *error = QString::fromStdString(problem);
         return false;
     }
     m_frontEnd.setCalibration(calibration);
     return true;
+}
+
+void Simulator::addHardwareErrors()
+{
+    processor::CalibrationSet set = m_frontEnd.calibration();
+    for (const HardwareError &error : m_scenario.frontEnd.errors) {
+        for (std::size_t input = 0; input < std::size_t(processor::InputCount); ++input) {
+            if (!(error.inputs & processor::maskOf(int(input))))
+                continue;
+            const bool voltage = input < 4;
+            processor::CalibrationSet::Table &gains = voltage ? set.volt : set.current;
+            processor::CalibrationSet::Table &zeros = voltage ? set.zeroVolt : set.zeroCurrent;
+            for (std::size_t row = 0; row < gains.size(); ++row) {
+                if (error.row && row != std::size_t(*error.row))
+                    continue;
+                gains[row][input % 4] *= float(1.0 + error.gain / 100.0);
+                zeros[row][input % 4] += float(error.offset);
+            }
+        }
+    }
+    m_frontEnd.setCalibration(set);
 }
 
 void Simulator::followLink()

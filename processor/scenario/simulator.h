@@ -64,6 +64,8 @@ public:
     bool clipped() const { return m_clipped; } // any sample of the last whole second
 
 private:
+    bool loadCalibration(const QString &path, QString *error);
+    void addHardwareErrors();
     void followLink();
     void takeDue(double until, QStringList *commands);
     void begin(const processor::SignalEvent &event);

@@ -21,6 +21,7 @@ private slots:
     void wrongFilesAreNamedWithKeyAndExpectation();
     void missingFileNamesTheOnesThereAre();
     void calibrationFileIsFoundBesideTheScenario();
+    void hardwareErrorsAreOnTopOfTheGains();
     void sameSeedGivesTheSameStream();
     void dipHasItsDepthAndLength();
     void recurringEventComesAgain();
@@ -39,7 +40,8 @@ namespace {
 const char kEveryKey[] = R"({
         "name": "all", "description": "d", "seed": 9, "followSetup": true,
         "setup": { "nominal": 60, "lamp": 120, "wiring": 1 },
-        "frontEnd": { "noise": 0.0, "clamp": 10000, "neutralClamp": 500, "rogowski": true },
+        "frontEnd": { "noise": 0.0, "clamp": 10000, "neutralClamp": 500, "rogowski": true, "gainDrift": 0.5,
+                      "offsetDrift": -0.25, "errors": [ { "inputs": "u1+i2", "row": 2, "gain": -3, "offset": 0.5 }, {} ] },
         "clock": { "start": "2024-01-18T12:00:00", "bds": true },
         "signal": {
             "u": [120, 121, 122, 3], "angles": [1, 2, 3, 4], "f": 60.5, "drift": 0.1, "driftLimit": 2,
@@ -72,6 +74,15 @@ void TstProcessorScenario::keysOfTheScenarioArriveWhereTheyBelong()
     QCOMPARE(*scenario->frontEnd.neutralClamp, 500.0);
     QCOMPARE(*scenario->frontEnd.noise, 0.0);
     QVERIFY(*scenario->frontEnd.rogowski);
+    QCOMPARE(scenario->frontEnd.gainDrift, 0.5);
+    QCOMPARE(scenario->frontEnd.offsetDrift, -0.25);
+    QCOMPARE(scenario->frontEnd.errors.at(0).inputs,
+             processor::maskOf(processor::U1) | processor::maskOf(processor::I2));
+    QCOMPARE(*scenario->frontEnd.errors.at(0).row, 2);
+    QCOMPARE(scenario->frontEnd.errors.at(0).gain, -3.0);
+    QCOMPARE(scenario->frontEnd.errors.at(0).offset, 0.5);
+    QCOMPARE(scenario->frontEnd.errors.at(1).inputs, processor::InputMask(0xFF)); // all, in all rows
+    QVERIFY(!scenario->frontEnd.errors.at(1).row);
     QCOMPARE(scenario->clockStart, qint64(1705579200000));
     QVERIFY(scenario->bds);
     QVERIFY(scenario->followsSetup);
@@ -216,6 +227,11 @@ void rowsOfWrongStepsAndSetUp()
            "charger, mains, usb, net, speed, status, help, quit, found \"dance\"";
     QTest::newRow("signal of a step") << QByteArray(R"({"steps": [{"at": 1, "signal": {"f": 0}}]})")
                                       << "s.json: steps[0].signal.f: expected a number from 10 to 1000, found 0";
+    QTest::newRow("row of the gains") << QByteArray(R"({"frontEnd": {"errors": [{"row": 4}]}})")
+                                      << "s.json: frontEnd.errors[0].row: expected a whole number from 0 to 3, found 4";
+    QTest::newRow("inputs of an error")
+        << QByteArray(R"({"frontEnd": {"errors": [{"inputs": "u9"}]}})")
+        << "s.json: frontEnd.errors[0].inputs: expected inputs as \"u1\", \"i\" or \"u1+u2\", found \"u9\"";
     QTest::newRow("fault of no kind")
         << QByteArray(R"({"link": {"at": [{"atDatagram": 1}]}})")
         << "s.json: link.at[0]: expected one of lose, repeat, tear, reorder, garbage with the number of a package";
@@ -275,6 +291,28 @@ void TstProcessorScenario::calibrationFileIsFoundBesideTheScenario()
     Simulator simulator(*scenario, 1, &stream.link);
     QVERIFY(!simulator.prepare(&error)); // it is not there
     QVERIFY(error.contains("own.dat"));
+}
+
+void TstProcessorScenario::hardwareErrorsAreOnTopOfTheGains()
+{
+    QString error;
+    const auto scenario = parse(R"({"frontEnd": {"errors": [ {"inputs": "u1+in", "row": 1, "gain": 2, "offset": 0.01},
+                                                             {"inputs": "u1", "gain": -50, "offset": -0.03} ]}})",
+                                &error);
+    QVERIFY2(scenario, qPrintable(error));
+    Stream stream;
+    Simulator simulator(*scenario, 1, &stream.link);
+    QVERIFY2(simulator.prepare(&error), qPrintable(error));
+    const processor::CalibrationSet &set = simulator.frontEnd().calibration();
+    QCOMPARE(set.volt[1][0], 79.25f * 1.02f * 0.5f);
+    QCOMPARE(set.volt[0][0], 39.8f * 0.5f);
+    QCOMPARE(set.zeroVolt[1][0], 0.01f - 0.03f);
+    QCOMPARE(set.zeroVolt[3][0], -0.03f);
+    QCOMPARE(set.current[1][3], 214.45f * 1.02f);
+    QCOMPARE(set.zeroCurrent[1][3], 0.01f);
+    QCOMPARE(set.current[2][3], 285.72f);
+    QCOMPARE(set.volt[1][1], 79.25f);
+    QCOMPARE(set.zeroVolt[1][1], 0.0f);
 }
 
 void TstProcessorScenario::sameSeedGivesTheSameStream()

@@ -109,6 +109,19 @@ TEST(samplesAreRoundedToTheNearestStep)
     CHECK(convertLevel(frontEnd, -7.6 * step)[U1][0] == -8);
 }
 
+// An hour of samples in blocks of a minute; gains are 2 percent larger at its end, offsets 0.1 units higher.
+TEST(gainsAndOffsetsDriftWithTheSamplesThatPass)
+{
+    FrontEnd frontEnd = quietFrontEnd();
+    frontEnd.setDrift(2.0, 0.1);
+    CHECK_NEAR(convertLevel(frontEnd, 39.8)[U1][0], 3276.8, 0.51);
+    const int minute = 60 * int(SampleRate);
+    for (int i = 0; i < 60; ++i)
+        convertLevel(frontEnd, 0.0, minute);
+    CHECK_NEAR(convertLevel(frontEnd, 39.8)[U1][0], 3276.8 / 1.02 + 327.68, 0.52);
+    CHECK_NEAR(convertLevel(frontEnd, 0.0)[IN][0], 327.68, 0.52);
+}
+
 TEST(zeroOffsetOfTheRowStandsInTheSamples)
 {
     FrontEnd frontEnd = quietFrontEnd();
