@@ -1,6 +1,7 @@
 // The calibration against an input stage that is off in every range: the instrument's own dialog, driven by keys, over
 // the real link, with the stand-in's metrology behind it.
 #include "livegraph.h"
+#include "unit/widgets/dialogdriver.h"
 
 #include "device/deviceinit.h"
 #include "device/idevice.h"
@@ -8,8 +9,8 @@
 #include "setup/calibrationdialog.h"
 
 #include <QFile>
-#include <QLabel>
-#include <QTimer>
+
+#include <algorithm>
 
 using namespace SystemTest;
 
@@ -17,6 +18,7 @@ namespace {
 
 constexpr double kTolerance = 0.0005; // of the value
 constexpr double kFast = 25;
+constexpr int kWaitMs = 60000; // for a run, for a reading
 
 // Letters of the front panel.
 constexpr auto kSetup = Qt::Key_S, kMenu = Qt::Key_A, kLeft = Qt::Key_O, kRight = Qt::Key_D;
@@ -51,19 +53,38 @@ private slots:
 private:
     using Procedure = std::function<void(CalibrationDialog &)>;
 
+    /// Presses a key where the focus is, once a page has it.
+    static void key(Qt::Key letter)
+    {
+        QTRY_VERIFY_WITH_TIMEOUT(QApplication::focusWidget(), kWaitMs);
+        LiveGraph::key(letter);
+    }
+    /// Ends what is measured and opens Setup.
+    static bool toSetup();
     /// Opens the dialog by the keys of the service entry and runs \a procedure on it. False when the procedure did not
     /// come to its end, or the dialog is still open.
     bool calibrate(const Procedure &procedure);
     static bool waitForEnd(CalibrationDialog &dialog)
     {
-        return QTest::qWaitFor([&dialog] { return !dialog.isRunning(); }, kPatienceMs);
+        return QTest::qWaitFor([&dialog] { return !dialog.isRunning(); }, kWaitMs);
     }
-    static void tellAll(const QStringList &commands)
+    static bool tellAll(const QStringList &commands)
     {
-        for (const QString &command : commands)
-            QVERIFY2(!LiveGraph::tell(command).isNull(), qPrintable(command));
+        return std::all_of(commands.begin(), commands.end(),
+                           [](const QString &command) { return !LiveGraph::tell(command).isNull(); });
     }
-    /// Sets the instrument up by Setup, goes to the live values and waits for new ones.
+    /// The same volts and amperes on all four channels.
+    static bool apply(double volts, double amps)
+    {
+        return tellAll({ QStringLiteral("set u %1").arg(volts), QStringLiteral("set un %1").arg(volts),
+                         QStringLiteral("set i %1").arg(amps), QStringLiteral("set in %1").arg(amps) });
+    }
+    static bool plugIn(int microvoltsPerAmpere)
+    {
+        return tellAll({ QStringLiteral("set clamp %1").arg(microvoltsPerAmpere),
+                         QStringLiteral("set neutralclamp %1").arg(microvoltsPerAmpere) });
+    }
+    /// Sets the instrument up by Setup and goes to the live values.
     void measure(int nominalRow, const QString &clamp);
     /// How far the four readings from a register on are from a value, as a share of it; the largest.
     double error(int address, double value)
@@ -73,6 +94,10 @@ private:
         for (int k = 0; k < 4 && words.size() == 8; ++k)
             largest = qMax(largest, std::fabs(double(LiveGraph::registerFloat(words, 2 * k)) / value - 1.0));
         return largest;
+    }
+    QString told(double volts, double amps)
+    {
+        return QStringLiteral("volts off by %1, amps by %2").arg(error(2, volts)).arg(error(26, amps));
     }
     QByteArray file()
     {
@@ -101,37 +126,40 @@ void TstLiveCalibration::cleanupTestCase()
     m_live.reset();
 }
 
-bool TstLiveCalibration::calibrate(const Procedure &procedure)
+bool TstLiveCalibration::toSetup()
 {
     m_taskmanage->exitTask();
-    LiveGraph::key(kSetup);
+    key(kSetup);
+    return QTest::qWaitFor([] { return LiveGraph::text("name") == QStringLiteral("Setup"); }, kWaitMs);
+}
+
+bool TstLiveCalibration::calibrate(const Procedure &procedure)
+{
     bool finished = false;
-    QTimer::singleShot(0, this, [&] {
-        if (auto *dialog = qobject_cast<CalibrationDialog *>(QApplication::activeModalWidget())) {
-            procedure(*dialog);
-            finished = !dialog->isVisible();
-            dialog->close(); // where the procedure failed
-        }
-    });
-    for (const Qt::Key key : { kLeft, kLeft, kRight, kRight, kLeft, kRight, kLeft, kRight })
-        LiveGraph::key(key);
-    LiveGraph::key(kMenu);
+    DialogDriver driver({ [&](QDialog *dialog) {
+        if (auto *calibration = qobject_cast<CalibrationDialog *>(dialog))
+            procedure(*calibration);
+        finished = !dialog->isVisible();
+        dialog->close(); // where the procedure failed
+    } });
+    if (!toSetup())
+        return false;
+    for (const Qt::Key arrow : { kLeft, kLeft, kRight, kRight, kLeft, kRight, kLeft, kRight })
+        key(arrow);
+    key(kMenu);
     return finished;
 }
 
 void TstLiveCalibration::measure(int nominalRow, const QString &clamp)
 {
-    m_taskmanage->exitTask();
-    LiveGraph::key(kSetup);
+    QVERIFY(toSetup());
     m_settingConfig_g.setNomVoltStarSelect(nominalRow);
     for (ClampIF *clamps : { m_settingConfig_g.clamps(), m_settingConfig_g.clampsN() })
         clamps->setCurClamp(clamp);
     m_settingConfig_g.saveClampConfig();
-    LiveGraph::key(kMenu); // the new set-up goes to the processor
+    key(kMenu); // the new set-up goes to the processor
     QVERIFY(LiveGraph::setSpeed(2));
     QVERIFY(LiveGraph::open(QStringLiteral("vif")));
-    const auto time = [this] { return m_master->read(0, 2); };
-    QTRY_VERIFY_WITH_TIMEOUT(!time().isEmpty(), kPatienceMs);
 }
 
 QVector<Words> TstLiveCalibration::setUpFrames()
@@ -156,11 +184,14 @@ QVector<Words> TstLiveCalibration::setUpFrames()
 
 void TstLiveCalibration::anInstrumentOutOfCalibrationReadsWrong()
 {
-    tellAll({ QStringLiteral("set u1+u2+u3+un 220"), QStringLiteral("set i1+i2+i3+in 6.5") });
+    QVERIFY(apply(220, 6.5));
     measure(5, QStringLiteral("TARN-41A"));
     // The gains are off by more than half a percent in each channel of these ranges; here by some 2.
-    QTRY_VERIFY_WITH_TIMEOUT(error(2, 220.0) > 0.01 && error(2, 220.0) < 0.05, kPatienceMs);
-    QTRY_VERIFY_WITH_TIMEOUT(error(26, 6.5) > 0.01 && error(26, 6.5) < 0.05, kPatienceMs);
+    const auto isOff = [this](int address, double value) {
+        const double off = error(address, value);
+        return off > 0.01 && off < 0.05;
+    };
+    QTRY_VERIFY2_WITH_TIMEOUT(isOff(2, 220.0) && isOff(26, 6.5), qPrintable(told(220.0, 6.5)), kWaitMs);
 }
 
 void TstLiveCalibration::aCancelledCalibrationLeavesTheFileAndTheFramesAsTheyWere()
@@ -189,13 +220,13 @@ void TstLiveCalibration::aSilentProcessorLeavesTheRunRunningAndCancelLeavesIt()
         QTest::keyClick(&dialog, kStart);
         QTest::qWait(3000);
         QVERIFY(dialog.isRunning());
-        QTimer::singleShot(0, [] { QTest::keyClick(QApplication::activeModalWidget(), kYes); });
+        DialogDriver answer({ [](QDialog *question) { QTest::keyClick(question, kYes); } });
         QTest::keyClick(&dialog, kCancel); // and the question
     }));
     QCOMPARE(file(), before);
     // The link is none the worse: values come.
     measure(5, QStringLiteral("TARN-41A"));
-    QTRY_VERIFY_WITH_TIMEOUT(error(2, 220.0) < 0.05, kPatienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(error(2, 220.0) < 0.05, kWaitMs);
 
     // The run that was left has left its count: one more run of the kind uses it up.
     QVERIFY(calibrate([](CalibrationDialog &dialog) {
@@ -223,7 +254,7 @@ void TstLiveCalibration::aProcessorThatWentAndCameBackInMidRunIsCalibratedAllThe
                                                  QStringLiteral("--log-frames"),
                                                  m_live->desk().path(QStringLiteral("/frames")) }),
                  qPrintable(m_live->desk().error()));
-        tellAll({ QStringLiteral("set u1+u2+u3+un 220"), QStringLiteral("speed %1").arg(kFast) });
+        QVERIFY(apply(220, 0) && LiveGraph::setSpeed(kFast));
         QVERIFY(waitForEnd(dialog));
         // What the stand-in's input stage has in this row: 79.25, off by -1.7 percent; L2 another 0.6.
         const __calib_data &data = dialog.task().file().data();
@@ -238,16 +269,14 @@ void TstLiveCalibration::allRunsOfTheDialogEnd()
 {
     const struct
     {
-        const char *volts;
-        const char *amps;
-    } applied[8] = { { "0", "0" },   { "120", "0" }, { "220", "0" }, { "400", "0" },
-                     { "600", "0" }, { "0", "10" },  { "0", "10" },  { "0", "6.5" } }; // 10 mV/A: 100, 100 and 65 mV
-    tellAll({ QStringLiteral("set clamp 10000"), QStringLiteral("set neutralclamp 10000") });
+        double volts;
+        double amps; // at 10 mV/A: 100, 100 and 65 mV
+    } applied[8] = { { 0, 0 }, { 120, 0 }, { 220, 0 }, { 400, 0 }, { 600, 0 }, { 0, 10 }, { 0, 10 }, { 0, 6.5 } };
+    QVERIFY(plugIn(10000));
     QVERIFY(calibrate([&](CalibrationDialog &dialog) {
         QVERIFY(LiveGraph::setSpeed(kFast));
         for (const auto &inputs : applied) {
-            tellAll({ QStringLiteral("set u1+u2+u3+un ") + QLatin1String(inputs.volts),
-                      QStringLiteral("set i1+i2+i3+in ") + QLatin1String(inputs.amps) });
+            QVERIFY(apply(inputs.volts, inputs.amps));
             QTest::keyClick(&dialog, kStart);
             QVERIFY(waitForEnd(dialog));
             QCOMPARE(dialog.findChild<QLabel *>(QStringLiteral("info"))->text(), QStringLiteral("Ok!"));
@@ -311,12 +340,10 @@ void TstLiveCalibration::calibratedReadingsAreRightWithinHalfAPerMille()
     QFETCH(QString, clamp);
     QFETCH(int, ratio);
     QFETCH(double, amps);
-    tellAll({ QStringLiteral("set u1+u2+u3+un %1").arg(volts), QStringLiteral("set i1+i2+i3+in %1").arg(amps),
-              QStringLiteral("set clamp %1").arg(ratio), QStringLiteral("set neutralclamp %1").arg(ratio) });
+    QVERIFY(apply(volts, amps) && plugIn(ratio));
     measure(nominalRow, clamp);
-    const auto told
-        = [&] { return QStringLiteral("volts off by %1, amps by %2").arg(error(2, volts)).arg(error(26, amps)); };
-    QTRY_VERIFY2_WITH_TIMEOUT(error(2, volts) < kTolerance && error(26, amps) < kTolerance, qPrintable(told()), 60000);
+    QTRY_VERIFY2_WITH_TIMEOUT(error(2, volts) < kTolerance && error(26, amps) < kTolerance,
+                              qPrintable(told(volts, amps)), kWaitMs);
 }
 
 int main(int argc, char **argv)

@@ -21,6 +21,8 @@ static const char *const kStyle = "QLabel { background-color: transparent; color
                                   "QRadioButton::indicator:unchecked { image: url(:/radio_unchecked); }"
                                   "QRadioButton::indicator:checked { image: url(:/radio_checked); }";
 
+QPointer<QWidget> SoftKeyDialog::s_keyboardGoesTo;
+
 SoftKeyDialog::SoftKeyDialog(QWidget *parent) : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint), m_keys(this)
 {
     setAttribute(Qt::WA_DeleteOnClose, false);
@@ -111,13 +113,14 @@ void SoftKeyDialog::setVisible(bool visible)
             m_origin = m_opener ? m_opener->mapToGlobal(QPoint(0, 0)) : QPoint();
         move(m_origin + QPoint(0, kScreenBottom - height()));
     }
-    const bool hadKeyboard = isActiveWindow();
+    // A question may hand the keyboard back to a dialog that closes at once: it is on its way there, and goes on.
+    const bool hadKeyboard = isActiveWindow() || s_keyboardGoesTo == this;
     QDialog::setVisible(visible);
     // Where no window manager does it, the keyboard comes to the dialog and goes back to the page.
-    if (visible)
-        activateWindow();
-    else if (hadKeyboard && m_opener)
-        m_opener->activateWindow();
+    if (!visible && !(hadKeyboard && m_opener))
+        return;
+    s_keyboardGoesTo = visible ? this : m_opener.data();
+    s_keyboardGoesTo->activateWindow();
 }
 
 void SoftKeyDialog::keyPressEvent(QKeyEvent *event)

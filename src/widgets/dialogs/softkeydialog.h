@@ -47,6 +47,8 @@ private:
     /// The window that a dialog opens over: the one with the keyboard, else that of the pages.
     static QWidget *openerWindow();
 
+    static QPointer<QWidget> s_keyboardGoesTo; // the window that was activated last
+
     FrontKeys m_keys;
     QPointer<QWidget> m_opener;
     QPoint m_origin; // of the instrument's window on the desk's screen

@@ -33,6 +33,7 @@ private slots:
     void saveStoresTheRuns();
     void cancelWhileIdleStoresNothing();
     void cancelDuringARunAsksAndLeavesOnConfirmationAlone();
+    void theKeyboardComesBackToThePageBehindTheQuestion();
     void aRunThatEndsUnderTheQuestionIsStillLeft();
     void aDialogClosedByOtherMeansDuringARunStoresNothing();
     void aProcessorThatFallsSilentIsLeftByCancel();
@@ -276,6 +277,20 @@ void TstCalibrationDialog::cancelDuringARunAsksAndLeavesOnConfirmationAlone()
     QCOMPARE(question, QStringLiteral("The calibration task is running, \nDo you want to exit?"));
     QVERIFY(stayed);
     QCOMPARE(file(), before);
+}
+
+void TstCalibrationDialog::theKeyboardComesBackToThePageBehindTheQuestion()
+{
+    QDialog page;
+    page.setFocusPolicy(Qt::StrongFocus);
+    page.show();
+    page.activateWindow();
+    page.setFocus();
+    QTRY_COMPARE(QApplication::focusWidget(), &page);
+    DialogDriver driver({ keys({ Letter::Down, Letter::F3, Letter::F5 }), keys({ Letter::F4 }) });
+    CalibrationDialog::calibration();
+    QVERIFY(driver.isDone());
+    QTRY_COMPARE(QApplication::focusWidget(), &page);
 }
 
 void TstCalibrationDialog::aRunThatEndsUnderTheQuestionIsStillLeft()
