@@ -19,6 +19,14 @@ QString ratioText(const TransformerRatio &ratio)
     return QStringLiteral("%1:%2").arg(ratio.numerator).arg(ratio.denominator);
 }
 
+/// A name that a user gave may be longer than its place: the end is left out.
+void showName(QLabel *label, const QString &name)
+{
+    const QString fitted = label->fontMetrics().elidedText(name, Qt::ElideRight, label->width());
+    if (label->text() != fitted)
+        label->setText(fitted);
+}
+
 QString rangeText(const ClampInUse &clamp)
 {
     return QStringLiteral("%1 A").arg(clamp.range);
@@ -67,12 +75,12 @@ void SetupSummary::showSettings()
     setText(m_rows[Config].values[0], m_settingConfig_g.getJoinModeName());
     setText(m_rows[Vnom].values[0], QStringLiteral("%1 V").arg(used.nominalVolt));
     setText(m_rows[Freq].values[0], QStringLiteral("%1 Hz").arg(used.nominalFrequency, 0, 'f', 0));
-    setText(m_rows[Limits].values[0], m_limits_g.activeLimitsName());
+    showName(m_rows[Limits].values[0], m_limits_g.activeLimitsName());
     const ClampInUse *const clamps[] = { &used.clamp, &used.clampN };
     const TransformerRatio *const currents[] = { &used.ratioI, &used.ratioIN };
     const TransformerRatio *const volts[] = { &used.ratioV, &used.ratioVN };
     for (std::size_t i = 0; i < 2; ++i) {
-        setText(m_inputs[ClampName].values[i], clamps[i]->name);
+        showName(m_inputs[ClampName].values[i], clamps[i]->name);
         setText(m_inputs[RatioI].values[i], ratioText(*currents[i]));
         setText(m_inputs[RatioV].values[i], ratioText(*volts[i]));
         setText(m_inputs[RangeI].values[i], rangeText(*clamps[i]));

@@ -1,4 +1,5 @@
 #include "instrument.h"
+#include "unit/services/modbusclient.h"
 
 #include <QTcpSocket>
 #include <QUdpSocket>
@@ -19,6 +20,7 @@ private slots:
     void everyWiringShowsItsOwnTable();
     void settingsOfARunAreKeptForTheNext();
     void hostileDatagramsLeaveItAlive();
+    void setUpByRemoteKeysIsReadByTheMaster();
     void modbusAnswersWhileTheStreamRuns();
     void sigtermEndsIt();
     void secondInstrumentOnTheSamePortEndsWithAMessage();
@@ -181,6 +183,26 @@ void TstLiveInstrument::hostileDatagramsLeaveItAlive()
     VERIFY_DESK(!before.isNull(), desk);
     VERIFY_DESK(!desk.waitForScreen([&](const QImage &now) { return now != before; }).isNull(), desk);
     QVERIFY(desk.isInstrumentRunning());
+}
+
+void TstLiveInstrument::setUpByRemoteKeysIsReadByTheMaster()
+{
+    Instrument desk;
+    VERIFY_DESK(desk.start(), desk);
+    ModbusClient master(desk.modbusPort());
+    const auto wiring = [&] { return master.read(11303, 1).value(0); };
+    QCOMPARE(int(wiring()), 1);
+    const auto press = [&](const char *keys) { return desk.press(QString::fromLatin1(keys).split(QLatin1Char(' '))); };
+    // Config, the second page, its last wiring, Ok; Vnom, the line voltage after the one in use, Ok; Freq once.
+    VERIFY_DESK(press("F9 F1 F2 Right Right Right Enter F4 F2 Right F4 F3"), desk);
+    QCOMPARE(desk.setting(QLatin1String(kSettingFile), QStringLiteral("JOINMODE")), QStringLiteral("8"));
+    QCOMPARE(desk.setting(QLatin1String(kSettingFile), QStringLiteral("NOM_VOLT_LINE_SELECT")), QStringLiteral("6"));
+    QCOMPARE(desk.setting(QLatin1String(kSettingFile), QStringLiteral("NOM_FREQ")), QStringLiteral("2"));
+    QCOMPARE(int(wiring()), 1); // not before Setup is left
+    VERIFY_DESK(press("Menu"), desk);
+    QTRY_COMPARE(int(wiring()), 8);
+    const QList<quint16> words = master.read(11304, 4); // frequency and nominal voltage, low word first
+    QCOMPARE(words, (QList<quint16> { 0x0000, 0x4270, 0x0000, 0x43F0 })); // 60.0 and 480.0 as floats
 }
 
 void TstLiveInstrument::modbusAnswersWhileTheStreamRuns()

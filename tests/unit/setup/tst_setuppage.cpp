@@ -21,6 +21,7 @@ private slots:
     void leavingSetsTheProcessorUpAnewBeforeTheNextPageComes();
     void theSetUpThatIsSentIsTheOneThatWasChosen();
     void summaryShowsWhatIsInForce();
+    void longNamesAreCutInTheSummary();
     void freqKeyGoesRoundTheThreeFrequencies();
     void saveStoresAPictureOfSetup();
 };
@@ -160,6 +161,19 @@ void TstSetupPage::summaryShowsWhatIsInForce()
         expected["btn_f3"] = expected["btn_f4"] = QString();
         expected["btn_f5"] = QStringLiteral("Page Up");
     }
+}
+
+void TstSetupPage::longNamesAreCutInTheSummary()
+{
+    const QString name(60, QLatin1Char('W'));
+    m_settingConfig_g.clamps()->addClamp(new Clamp(name, 10, 1000, false, true, QString()));
+    m_settingConfig_g.clamps()->setCurClamp(name);
+    m_settingConfig_g.followSettings();
+    SetupPage setup(liveData());
+    setup.enter();
+    const auto *label = setup.currentPage()->findChild<QLabel *>("clamp");
+    QVERIFY(label->text().startsWith(QStringLiteral("WWWW")) && label->text().endsWith(QChar(0x2026)));
+    QVERIFY(label->fontMetrics().horizontalAdvance(label->text()) <= label->width());
 }
 
 void TstSetupPage::freqKeyGoesRoundTheThreeFrequencies()
