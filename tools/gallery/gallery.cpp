@@ -33,8 +33,8 @@ bool Gallery::run()
         m_error = m_options.folder + QStringLiteral(": cannot be made");
         return false;
     }
-    bool isFirst = true;
     for (const QString &language : qAsConst(m_options.languages)) {
+        bool isFirst = true;
         for (int frequency : qAsConst(m_options.frequencies)) {
             for (int wiring : qAsConst(m_options.wirings)) {
                 if (!runVariant(wiring, frequency, language, isFirst))
@@ -52,7 +52,7 @@ bool Gallery::run()
     return true;
 }
 
-// One start of both programs. Pages that look the same in every wiring come with the first only.
+// One start of both programs. Pages that look the same in every wiring come with the first of a language only.
 bool Gallery::runVariant(int wiring, int frequency, const QString &language, bool isFirst)
 {
     const QString variant = variantName(wiring, frequency, language);
