@@ -1274,7 +1274,7 @@ Voulez-vous l&apos;écraser ?</translation>
     </message>
     <message>
         <source>DURATION</source>
-        <translation>DURÉE</translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>Nominal Amps</source>

@@ -1274,7 +1274,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>DURATION</source>
-        <translation>DAUER</translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Nominal Amps</source>

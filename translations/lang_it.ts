@@ -1274,7 +1274,7 @@ Sovrascriverlo?</translation>
     </message>
     <message>
         <source>DURATION</source>
-        <translation>DURATA</translation>
+        <translation>Durata</translation>
     </message>
     <message>
         <source>Nominal Amps</source>

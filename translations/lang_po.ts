@@ -1274,7 +1274,7 @@ Czy go zastąpić?</translation>
     </message>
     <message>
         <source>DURATION</source>
-        <translation>CZAS TRW.</translation>
+        <translation>Czas trwania</translation>
     </message>
     <message>
         <source>Nominal Amps</source>

@@ -1274,7 +1274,7 @@ Deseja substituí-lo?</translation>
     </message>
     <message>
         <source>DURATION</source>
-        <translation>DURAÇÃO</translation>
+        <translation>Duração</translation>
     </message>
     <message>
         <source>Nominal Amps</source>

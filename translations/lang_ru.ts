@@ -1274,7 +1274,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>DURATION</source>
-        <translation>ДЛИТЕЛЬН.</translation>
+        <translation>Длительность</translation>
     </message>
     <message>
         <source>Nominal Amps</source>
@@ -1362,7 +1362,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Signaling Frequency 1 (Hz)</source>
-        <translation>Частота сигнала 1 (Гц)</translation>
+        <translation>Частота сигнала 1 (Hz)</translation>
     </message>
     <message>
         <source>Detection Threshold 1 (%)</source>
@@ -1370,7 +1370,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Signaling Frequency 2 (Hz)</source>
-        <translation>Частота сигнала 2 (Гц)</translation>
+        <translation>Частота сигнала 2 (Hz)</translation>
     </message>
     <message>
         <source>Detection Threshold 2 (%)</source>
@@ -2051,7 +2051,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Freq(Hz)</source>
-        <translation>Част(Гц)</translation>
+        <translation>Част(Hz)</translation>
     </message>
     <message>
         <source>Type</source>

@@ -1274,7 +1274,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>DURATION</source>
-        <translation>DURACIÓN</translation>
+        <translation>Duración</translation>
     </message>
     <message>
         <source>Nominal Amps</source>

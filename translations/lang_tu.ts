@@ -1274,7 +1274,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>DURATION</source>
-        <translation>SÜRE</translation>
+        <translation>Süre</translation>
     </message>
     <message>
         <source>Nominal Amps</source>

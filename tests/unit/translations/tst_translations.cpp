@@ -82,7 +82,7 @@ QString lost(const QString &source, const QString &translation)
         const char *name;
     } kKept[] = {
         { "%\\d", "a place for a value" },  { "\n", "a line feed" },           { "\\A\\s+", "blanks in front" },
-        { "\\s+\\z", "blanks at the end" }, { "\\([^)\\d]*%1?\\)", "a unit" },
+        { "\\s+\\z", "blanks at the end" }, { "\\((%1?|A|V|Hz|mV/A|°)\\)", "a unit" },
     };
     for (const auto &kept : kKept) {
         if (parts(source, kept.pattern) != parts(translation, kept.pattern))
@@ -180,6 +180,7 @@ void TstTranslations::whatATranslationLosesIsFound()
     QCOMPARE(lost("Sig 1(%1)", "Сиг 1(%1)"), QString());
     QCOMPARE(lost("Sig 1(%)", "Сиг 1(%1)"), QString("a place for a value"));
     QCOMPARE(lost("Sig 1(%)", "Сиг 1 %"), QString("a unit"));
+    QCOMPARE(lost("Freq(Hz)", "Част(Гц)"), QString("a unit"));
 }
 
 void TstTranslations::everyTextIsTranslated()
