@@ -543,6 +543,243 @@ voulez-vous quitter ?</translation>
     </message>
 </context>
 <context>
+    <name>LimitHarmPage</name>
+    <message>
+        <source>Harmonics: time in limits</source>
+        <translation>Harmoniques : temps dans les limites</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for this time</source>
+        <translation>Harmoniques : limite pour ce temps</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for all the time</source>
+        <translation>Harmoniques : limite pour 100 % du temps</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Colonne</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>LimitItemsPage</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter : valeurs</translation>
+    </message>
+</context>
+<context>
+    <name>LimitValuePage</name>
+    <message>
+        <source>Time in limits</source>
+        <translation>Temps dans limites</translation>
+    </message>
+    <message>
+        <source>Upper limit</source>
+        <translation>Limite haute</translation>
+    </message>
+    <message>
+        <source>Upper, always</source>
+        <translation>Haut, toujours</translation>
+    </message>
+    <message>
+        <source>Lower limit</source>
+        <translation>Limite basse</translation>
+    </message>
+    <message>
+        <source>Lower, always</source>
+        <translation>Bas, toujours</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Seuil</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Hystérésis</translation>
+    </message>
+    <message>
+        <source>Allowed number</source>
+        <translation>Nombre admis</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Tension</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmoniques</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>Creux</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>Surtensions</translation>
+    </message>
+    <message>
+        <source>Interruptions</source>
+        <translation>Coupures</translation>
+    </message>
+    <message>
+        <source>RVC</source>
+        <translation>RVC</translation>
+    </message>
+    <message>
+        <source>Steady time</source>
+        <translation>Temps de stabilité</translation>
+    </message>
+    <message>
+        <source>Minimum step</source>
+        <translation>Saut minimal</translation>
+    </message>
+    <message>
+        <source>Minimum rate</source>
+        <translation>Pente minimale</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Déséquilibre</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Fréquence</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Signaux réseau</translation>
+    </message>
+    <message>
+        <source>Frequency 1</source>
+        <translation>Fréquence 1</translation>
+    </message>
+    <message>
+        <source>Frequency 2</source>
+        <translation>Fréquence 2</translation>
+    </message>
+    <message>
+        <source>Plt, time</source>
+        <translation>Plt, temps</translation>
+    </message>
+    <message>
+        <source>Plt, limit</source>
+        <translation>Plt, limite</translation>
+    </message>
+    <message>
+        <source>Plt, always</source>
+        <translation>Plt, toujours</translation>
+    </message>
+    <message>
+        <source>Pst, time</source>
+        <translation>Pst, temps</translation>
+    </message>
+    <message>
+        <source>Pst, limit</source>
+        <translation>Pst, limite</translation>
+    </message>
+    <message>
+        <source>Pst, always</source>
+        <translation>Pst, toujours</translation>
+    </message>
+    <message>
+        <source>Negative, time</source>
+        <translation>Inverse, temps</translation>
+    </message>
+    <message>
+        <source>Negative, limit</source>
+        <translation>Inverse, limite</translation>
+    </message>
+    <message>
+        <source>Negative, always</source>
+        <translation>Inverse, toujours</translation>
+    </message>
+    <message>
+        <source>Zero, time</source>
+        <translation>Homopolaire, temps</translation>
+    </message>
+    <message>
+        <source>Zero, limit</source>
+        <translation>Homopolaire, limite</translation>
+    </message>
+    <message>
+        <source>Zero, always</source>
+        <translation>Homopolaire, toujours</translation>
+    </message>
+    <message>
+        <source>Time 1</source>
+        <translation>Temps 1</translation>
+    </message>
+    <message>
+        <source>Limit 1</source>
+        <translation>Limite 1</translation>
+    </message>
+    <message>
+        <source>Always 1</source>
+        <translation>Toujours 1</translation>
+    </message>
+    <message>
+        <source>Time 2</source>
+        <translation>Temps 2</translation>
+    </message>
+    <message>
+        <source>Limit 2</source>
+        <translation>Limite 2</translation>
+    </message>
+    <message>
+        <source>Always 2</source>
+        <translation>Toujours 2</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Lampe</translation>
+    </message>
+    <message>
+        <source>lamp</source>
+        <translation>lampe</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
     <name>LivePage</name>
     <message>
         <source>Hold</source>
@@ -972,6 +1209,13 @@ réseau</translation>
     </message>
 </context>
 <context>
+    <name>RatioChoice</name>
+    <message>
+        <source>CUSTOM</source>
+        <translation>PERSO.</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>
@@ -1306,6 +1550,73 @@ Voulez-vous l&apos;écraser ?</translation>
     <message>
         <source>K-factor par. q:</source>
         <translation>Facteur K, par. q :</translation>
+    </message>
+</context>
+<context>
+    <name>SetupLimitMenu</name>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>built-in</source>
+        <translation>intégré</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>utilisé</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>Nom vide !</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>Nom incorrect !</translation>
+    </message>
+    <message>
+        <source>It exists, Overwrite it?</source>
+        <translation>Existe déjà. L&apos;écraser ?</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Écraser</translation>
+    </message>
+    <message>
+        <source>Name of the new limits</source>
+        <translation>Nom des nouvelles limites</translation>
+    </message>
+    <message>
+        <source>Name of the limits</source>
+        <translation>Nom des limites</translation>
+    </message>
+    <message>
+        <source>Delete the Limits?</source>
+        <translation>Supprimer les limites ?</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Limites</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter : valeurs</translation>
     </message>
 </context>
 <context>
@@ -1978,6 +2289,10 @@ Voulez-vous l&apos;écraser ?</translation>
     <message>
         <source>Version</source>
         <translation>Version</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>NON</translation>
     </message>
 </context>
 <context>

@@ -543,6 +543,243 @@ soll sie beendet werden?</translation>
     </message>
 </context>
 <context>
+    <name>LimitHarmPage</name>
+    <message>
+        <source>Harmonics: time in limits</source>
+        <translation>Harmonische: Zeit in den Grenzen</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for this time</source>
+        <translation>Harmonische: Grenzwert für diese Zeit</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for all the time</source>
+        <translation>Harmonische: Grenzwert für 100 % der Zeit</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Spalte</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>LimitItemsPage</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: Werte</translation>
+    </message>
+</context>
+<context>
+    <name>LimitValuePage</name>
+    <message>
+        <source>Time in limits</source>
+        <translation>Zeit in den Grenzen</translation>
+    </message>
+    <message>
+        <source>Upper limit</source>
+        <translation>Obergrenze</translation>
+    </message>
+    <message>
+        <source>Upper, always</source>
+        <translation>Oben, immer</translation>
+    </message>
+    <message>
+        <source>Lower limit</source>
+        <translation>Untergrenze</translation>
+    </message>
+    <message>
+        <source>Lower, always</source>
+        <translation>Unten, immer</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Schwelle</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Hysterese</translation>
+    </message>
+    <message>
+        <source>Allowed number</source>
+        <translation>Zulässige Anzahl</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Spannung</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmonische</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>Einbrüche</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>Überhöhungen</translation>
+    </message>
+    <message>
+        <source>Interruptions</source>
+        <translation>Unterbrechungen</translation>
+    </message>
+    <message>
+        <source>RVC</source>
+        <translation>RVC</translation>
+    </message>
+    <message>
+        <source>Steady time</source>
+        <translation>Beruhigungszeit</translation>
+    </message>
+    <message>
+        <source>Minimum step</source>
+        <translation>Mindestsprung</translation>
+    </message>
+    <message>
+        <source>Minimum rate</source>
+        <translation>Mindeststeilheit</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Unsymmetrie</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequenz</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Rundsteuersignale</translation>
+    </message>
+    <message>
+        <source>Frequency 1</source>
+        <translation>Frequenz 1</translation>
+    </message>
+    <message>
+        <source>Frequency 2</source>
+        <translation>Frequenz 2</translation>
+    </message>
+    <message>
+        <source>Plt, time</source>
+        <translation>Plt, Zeit</translation>
+    </message>
+    <message>
+        <source>Plt, limit</source>
+        <translation>Plt, Grenzwert</translation>
+    </message>
+    <message>
+        <source>Plt, always</source>
+        <translation>Plt, immer</translation>
+    </message>
+    <message>
+        <source>Pst, time</source>
+        <translation>Pst, Zeit</translation>
+    </message>
+    <message>
+        <source>Pst, limit</source>
+        <translation>Pst, Grenzwert</translation>
+    </message>
+    <message>
+        <source>Pst, always</source>
+        <translation>Pst, immer</translation>
+    </message>
+    <message>
+        <source>Negative, time</source>
+        <translation>Gegensystem, Zeit</translation>
+    </message>
+    <message>
+        <source>Negative, limit</source>
+        <translation>Gegensystem, Grenzwert</translation>
+    </message>
+    <message>
+        <source>Negative, always</source>
+        <translation>Gegensystem, immer</translation>
+    </message>
+    <message>
+        <source>Zero, time</source>
+        <translation>Nullsystem, Zeit</translation>
+    </message>
+    <message>
+        <source>Zero, limit</source>
+        <translation>Nullsystem, Grenzwert</translation>
+    </message>
+    <message>
+        <source>Zero, always</source>
+        <translation>Nullsystem, immer</translation>
+    </message>
+    <message>
+        <source>Time 1</source>
+        <translation>Zeit 1</translation>
+    </message>
+    <message>
+        <source>Limit 1</source>
+        <translation>Grenzwert 1</translation>
+    </message>
+    <message>
+        <source>Always 1</source>
+        <translation>Immer 1</translation>
+    </message>
+    <message>
+        <source>Time 2</source>
+        <translation>Zeit 2</translation>
+    </message>
+    <message>
+        <source>Limit 2</source>
+        <translation>Grenzwert 2</translation>
+    </message>
+    <message>
+        <source>Always 2</source>
+        <translation>Immer 2</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Lampe</translation>
+    </message>
+    <message>
+        <source>lamp</source>
+        <translation>Lampe</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
     <name>LivePage</name>
     <message>
         <source>Hold</source>
@@ -972,6 +1209,13 @@ signale</translation>
     </message>
 </context>
 <context>
+    <name>RatioChoice</name>
+    <message>
+        <source>CUSTOM</source>
+        <translation>FREI</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>
@@ -1306,6 +1550,73 @@ Soll sie überschrieben werden?</translation>
     <message>
         <source>K-factor par. q:</source>
         <translation>K-Faktor, Par. q:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupLimitMenu</name>
+    <message>
+        <source>Add</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>built-in</source>
+        <translation>fest</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>aktiv</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>Der Name ist leer!</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>Ungültiger Name!</translation>
+    </message>
+    <message>
+        <source>It exists, Overwrite it?</source>
+        <translation>Schon vorhanden. Überschreiben?</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Überschreiben</translation>
+    </message>
+    <message>
+        <source>Name of the new limits</source>
+        <translation>Name der neuen Grenzwerte</translation>
+    </message>
+    <message>
+        <source>Name of the limits</source>
+        <translation>Name der Grenzwerte</translation>
+    </message>
+    <message>
+        <source>Delete the Limits?</source>
+        <translation>Grenzwerte löschen?</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Grenzwerte</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: Werte</translation>
     </message>
 </context>
 <context>
@@ -1978,6 +2289,10 @@ Soll sie überschrieben werden?</translation>
     <message>
         <source>Version</source>
         <translation>Version</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>AUS</translation>
     </message>
 </context>
 <context>

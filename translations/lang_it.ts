@@ -543,6 +543,243 @@ si desidera uscire?</translation>
     </message>
 </context>
 <context>
+    <name>LimitHarmPage</name>
+    <message>
+        <source>Harmonics: time in limits</source>
+        <translation>Armoniche: tempo nei limiti</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for this time</source>
+        <translation>Armoniche: limite per questo tempo</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for all the time</source>
+        <translation>Armoniche: limite per tutto il tempo</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Colonna</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+</context>
+<context>
+    <name>LimitItemsPage</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: valori</translation>
+    </message>
+</context>
+<context>
+    <name>LimitValuePage</name>
+    <message>
+        <source>Time in limits</source>
+        <translation>Tempo nei limiti</translation>
+    </message>
+    <message>
+        <source>Upper limit</source>
+        <translation>Limite superiore</translation>
+    </message>
+    <message>
+        <source>Upper, always</source>
+        <translation>Superiore, sempre</translation>
+    </message>
+    <message>
+        <source>Lower limit</source>
+        <translation>Limite inferiore</translation>
+    </message>
+    <message>
+        <source>Lower, always</source>
+        <translation>Inferiore, sempre</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Soglia</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Isteresi</translation>
+    </message>
+    <message>
+        <source>Allowed number</source>
+        <translation>Numero ammesso</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Tensione</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Armoniche</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>Buchi</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>Sovratensioni</translation>
+    </message>
+    <message>
+        <source>Interruptions</source>
+        <translation>Interruzioni</translation>
+    </message>
+    <message>
+        <source>RVC</source>
+        <translation>RVC</translation>
+    </message>
+    <message>
+        <source>Steady time</source>
+        <translation>Tempo di stabilità</translation>
+    </message>
+    <message>
+        <source>Minimum step</source>
+        <translation>Gradino minimo</translation>
+    </message>
+    <message>
+        <source>Minimum rate</source>
+        <translation>Velocità minima</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Squilibrio</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequenza</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Segnali in rete</translation>
+    </message>
+    <message>
+        <source>Frequency 1</source>
+        <translation>Frequenza 1</translation>
+    </message>
+    <message>
+        <source>Frequency 2</source>
+        <translation>Frequenza 2</translation>
+    </message>
+    <message>
+        <source>Plt, time</source>
+        <translation>Plt, tempo</translation>
+    </message>
+    <message>
+        <source>Plt, limit</source>
+        <translation>Plt, limite</translation>
+    </message>
+    <message>
+        <source>Plt, always</source>
+        <translation>Plt, sempre</translation>
+    </message>
+    <message>
+        <source>Pst, time</source>
+        <translation>Pst, tempo</translation>
+    </message>
+    <message>
+        <source>Pst, limit</source>
+        <translation>Pst, limite</translation>
+    </message>
+    <message>
+        <source>Pst, always</source>
+        <translation>Pst, sempre</translation>
+    </message>
+    <message>
+        <source>Negative, time</source>
+        <translation>Inversa, tempo</translation>
+    </message>
+    <message>
+        <source>Negative, limit</source>
+        <translation>Inversa, limite</translation>
+    </message>
+    <message>
+        <source>Negative, always</source>
+        <translation>Inversa, sempre</translation>
+    </message>
+    <message>
+        <source>Zero, time</source>
+        <translation>Omopolare, tempo</translation>
+    </message>
+    <message>
+        <source>Zero, limit</source>
+        <translation>Omopolare, limite</translation>
+    </message>
+    <message>
+        <source>Zero, always</source>
+        <translation>Omopolare, sempre</translation>
+    </message>
+    <message>
+        <source>Time 1</source>
+        <translation>Tempo 1</translation>
+    </message>
+    <message>
+        <source>Limit 1</source>
+        <translation>Limite 1</translation>
+    </message>
+    <message>
+        <source>Always 1</source>
+        <translation>Sempre 1</translation>
+    </message>
+    <message>
+        <source>Time 2</source>
+        <translation>Tempo 2</translation>
+    </message>
+    <message>
+        <source>Limit 2</source>
+        <translation>Limite 2</translation>
+    </message>
+    <message>
+        <source>Always 2</source>
+        <translation>Sempre 2</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Lampada</translation>
+    </message>
+    <message>
+        <source>lamp</source>
+        <translation>lampada</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+</context>
+<context>
     <name>LivePage</name>
     <message>
         <source>Hold</source>
@@ -972,6 +1209,13 @@ in rete</translation>
     </message>
 </context>
 <context>
+    <name>RatioChoice</name>
+    <message>
+        <source>CUSTOM</source>
+        <translation>LIBERO</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>
@@ -1306,6 +1550,73 @@ Sovrascriverlo?</translation>
     <message>
         <source>K-factor par. q:</source>
         <translation>Fattore K, par. q:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupLimitMenu</name>
+    <message>
+        <source>Add</source>
+        <translation>Aggiungi</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>built-in</source>
+        <translation>integrato</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>in uso</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>Nome vuoto!</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>Nome non valido!</translation>
+    </message>
+    <message>
+        <source>It exists, Overwrite it?</source>
+        <translation>Esiste già. Sovrascrivere?</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Sovrascrivi</translation>
+    </message>
+    <message>
+        <source>Name of the new limits</source>
+        <translation>Nome dei nuovi limiti</translation>
+    </message>
+    <message>
+        <source>Name of the limits</source>
+        <translation>Nome dei limiti</translation>
+    </message>
+    <message>
+        <source>Delete the Limits?</source>
+        <translation>Eliminare i limiti?</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Limiti</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: valori</translation>
     </message>
 </context>
 <context>
@@ -1978,6 +2289,10 @@ Sovrascriverlo?</translation>
     <message>
         <source>Version</source>
         <translation>Versione</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>OFF</translation>
     </message>
 </context>
 <context>

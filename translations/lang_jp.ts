@@ -543,6 +543,243 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>LimitHarmPage</name>
+    <message>
+        <source>Harmonics: time in limits</source>
+        <translation>高調波: 限度内の時間</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for this time</source>
+        <translation>高調波: この時間の限度値</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for all the time</source>
+        <translation>高調波: 全時間の限度値</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>LimitItemsPage</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: 値</translation>
+    </message>
+</context>
+<context>
+    <name>LimitValuePage</name>
+    <message>
+        <source>Time in limits</source>
+        <translation>限度内の時間</translation>
+    </message>
+    <message>
+        <source>Upper limit</source>
+        <translation>上限</translation>
+    </message>
+    <message>
+        <source>Upper, always</source>
+        <translation>上限、常時</translation>
+    </message>
+    <message>
+        <source>Lower limit</source>
+        <translation>下限</translation>
+    </message>
+    <message>
+        <source>Lower, always</source>
+        <translation>下限、常時</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>しきい値</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>ヒステリシス</translation>
+    </message>
+    <message>
+        <source>Allowed number</source>
+        <translation>許容回数</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>電圧</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>高調波</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>フリッカ</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>ディップ</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>スウェル</translation>
+    </message>
+    <message>
+        <source>Interruptions</source>
+        <translation>瞬停</translation>
+    </message>
+    <message>
+        <source>RVC</source>
+        <translation>RVC</translation>
+    </message>
+    <message>
+        <source>Steady time</source>
+        <translation>安定時間</translation>
+    </message>
+    <message>
+        <source>Minimum step</source>
+        <translation>最小変化幅</translation>
+    </message>
+    <message>
+        <source>Minimum rate</source>
+        <translation>最小変化率</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>不平衡</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>周波数</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>電源重畳信号</translation>
+    </message>
+    <message>
+        <source>Frequency 1</source>
+        <translation>周波数 1</translation>
+    </message>
+    <message>
+        <source>Frequency 2</source>
+        <translation>周波数 2</translation>
+    </message>
+    <message>
+        <source>Plt, time</source>
+        <translation>Plt、時間</translation>
+    </message>
+    <message>
+        <source>Plt, limit</source>
+        <translation>Plt、限度値</translation>
+    </message>
+    <message>
+        <source>Plt, always</source>
+        <translation>Plt、常時</translation>
+    </message>
+    <message>
+        <source>Pst, time</source>
+        <translation>Pst、時間</translation>
+    </message>
+    <message>
+        <source>Pst, limit</source>
+        <translation>Pst、限度値</translation>
+    </message>
+    <message>
+        <source>Pst, always</source>
+        <translation>Pst、常時</translation>
+    </message>
+    <message>
+        <source>Negative, time</source>
+        <translation>逆相、時間</translation>
+    </message>
+    <message>
+        <source>Negative, limit</source>
+        <translation>逆相、限度値</translation>
+    </message>
+    <message>
+        <source>Negative, always</source>
+        <translation>逆相、常時</translation>
+    </message>
+    <message>
+        <source>Zero, time</source>
+        <translation>零相、時間</translation>
+    </message>
+    <message>
+        <source>Zero, limit</source>
+        <translation>零相、限度値</translation>
+    </message>
+    <message>
+        <source>Zero, always</source>
+        <translation>零相、常時</translation>
+    </message>
+    <message>
+        <source>Time 1</source>
+        <translation>時間 1</translation>
+    </message>
+    <message>
+        <source>Limit 1</source>
+        <translation>限度値 1</translation>
+    </message>
+    <message>
+        <source>Always 1</source>
+        <translation>常時 1</translation>
+    </message>
+    <message>
+        <source>Time 2</source>
+        <translation>時間 2</translation>
+    </message>
+    <message>
+        <source>Limit 2</source>
+        <translation>限度値 2</translation>
+    </message>
+    <message>
+        <source>Always 2</source>
+        <translation>常時 2</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>ランプ</translation>
+    </message>
+    <message>
+        <source>lamp</source>
+        <translation>ランプ</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+</context>
+<context>
     <name>LivePage</name>
     <message>
         <source>Hold</source>
@@ -972,6 +1209,13 @@ Signaling</source>
     </message>
 </context>
 <context>
+    <name>RatioChoice</name>
+    <message>
+        <source>CUSTOM</source>
+        <translation>任意</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>
@@ -1306,6 +1550,73 @@ Do you want to overwrite it?</source>
     <message>
         <source>K-factor par. q:</source>
         <translation>K ファクタ q:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupLimitMenu</name>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>built-in</source>
+        <translation>内蔵</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>使用中</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>名前が空です！</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>名前が無効です！</translation>
+    </message>
+    <message>
+        <source>It exists, Overwrite it?</source>
+        <translation>既にあります。上書きしますか？</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>上書き</translation>
+    </message>
+    <message>
+        <source>Name of the new limits</source>
+        <translation>新しい限度値の名前</translation>
+    </message>
+    <message>
+        <source>Name of the limits</source>
+        <translation>限度値の名前</translation>
+    </message>
+    <message>
+        <source>Delete the Limits?</source>
+        <translation>限度値を削除しますか？</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>限度値</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: 値</translation>
     </message>
 </context>
 <context>
@@ -1978,6 +2289,10 @@ Do you want to overwrite it?</source>
     <message>
         <source>Version</source>
         <translation>バージョン</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>オフ</translation>
     </message>
 </context>
 <context>

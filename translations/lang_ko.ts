@@ -543,6 +543,243 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>LimitHarmPage</name>
+    <message>
+        <source>Harmonics: time in limits</source>
+        <translation>고조파: 한계 내 시간</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for this time</source>
+        <translation>고조파: 이 시간의 한계값</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for all the time</source>
+        <translation>고조파: 전체 시간 한계값</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>열</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+</context>
+<context>
+    <name>LimitItemsPage</name>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: 값</translation>
+    </message>
+</context>
+<context>
+    <name>LimitValuePage</name>
+    <message>
+        <source>Time in limits</source>
+        <translation>한계 내 시간</translation>
+    </message>
+    <message>
+        <source>Upper limit</source>
+        <translation>상한</translation>
+    </message>
+    <message>
+        <source>Upper, always</source>
+        <translation>상한, 항상</translation>
+    </message>
+    <message>
+        <source>Lower limit</source>
+        <translation>하한</translation>
+    </message>
+    <message>
+        <source>Lower, always</source>
+        <translation>하한, 항상</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>임계값</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>히스테리시스</translation>
+    </message>
+    <message>
+        <source>Allowed number</source>
+        <translation>허용 횟수</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>전압</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>고조파</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>플리커</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>새그</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>스웰</translation>
+    </message>
+    <message>
+        <source>Interruptions</source>
+        <translation>정전</translation>
+    </message>
+    <message>
+        <source>RVC</source>
+        <translation>RVC</translation>
+    </message>
+    <message>
+        <source>Steady time</source>
+        <translation>안정 시간</translation>
+    </message>
+    <message>
+        <source>Minimum step</source>
+        <translation>최소 변화폭</translation>
+    </message>
+    <message>
+        <source>Minimum rate</source>
+        <translation>최소 변화율</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>불평형</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>주파수</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>전원 신호</translation>
+    </message>
+    <message>
+        <source>Frequency 1</source>
+        <translation>주파수 1</translation>
+    </message>
+    <message>
+        <source>Frequency 2</source>
+        <translation>주파수 2</translation>
+    </message>
+    <message>
+        <source>Plt, time</source>
+        <translation>Plt, 시간</translation>
+    </message>
+    <message>
+        <source>Plt, limit</source>
+        <translation>Plt, 한계값</translation>
+    </message>
+    <message>
+        <source>Plt, always</source>
+        <translation>Plt, 항상</translation>
+    </message>
+    <message>
+        <source>Pst, time</source>
+        <translation>Pst, 시간</translation>
+    </message>
+    <message>
+        <source>Pst, limit</source>
+        <translation>Pst, 한계값</translation>
+    </message>
+    <message>
+        <source>Pst, always</source>
+        <translation>Pst, 항상</translation>
+    </message>
+    <message>
+        <source>Negative, time</source>
+        <translation>역상, 시간</translation>
+    </message>
+    <message>
+        <source>Negative, limit</source>
+        <translation>역상, 한계값</translation>
+    </message>
+    <message>
+        <source>Negative, always</source>
+        <translation>역상, 항상</translation>
+    </message>
+    <message>
+        <source>Zero, time</source>
+        <translation>영상, 시간</translation>
+    </message>
+    <message>
+        <source>Zero, limit</source>
+        <translation>영상, 한계값</translation>
+    </message>
+    <message>
+        <source>Zero, always</source>
+        <translation>영상, 항상</translation>
+    </message>
+    <message>
+        <source>Time 1</source>
+        <translation>시간 1</translation>
+    </message>
+    <message>
+        <source>Limit 1</source>
+        <translation>한계값 1</translation>
+    </message>
+    <message>
+        <source>Always 1</source>
+        <translation>항상 1</translation>
+    </message>
+    <message>
+        <source>Time 2</source>
+        <translation>시간 2</translation>
+    </message>
+    <message>
+        <source>Limit 2</source>
+        <translation>한계값 2</translation>
+    </message>
+    <message>
+        <source>Always 2</source>
+        <translation>항상 2</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>램프</translation>
+    </message>
+    <message>
+        <source>lamp</source>
+        <translation>램프</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+</context>
+<context>
     <name>LivePage</name>
     <message>
         <source>Hold</source>
@@ -972,6 +1209,13 @@ Signaling</source>
     </message>
 </context>
 <context>
+    <name>RatioChoice</name>
+    <message>
+        <source>CUSTOM</source>
+        <translation>사용자</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>
@@ -1306,6 +1550,73 @@ Do you want to overwrite it?</source>
     <message>
         <source>K-factor par. q:</source>
         <translation>K-팩터 변수 q:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupLimitMenu</name>
+    <message>
+        <source>Add</source>
+        <translation>추가</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>built-in</source>
+        <translation>내장</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>사용 중</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>이름</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>이름이 비어 있습니다!</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>잘못된 이름입니다!</translation>
+    </message>
+    <message>
+        <source>It exists, Overwrite it?</source>
+        <translation>이미 있습니다. 덮어쓰시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>덮어쓰기</translation>
+    </message>
+    <message>
+        <source>Name of the new limits</source>
+        <translation>새 한계값 이름</translation>
+    </message>
+    <message>
+        <source>Name of the limits</source>
+        <translation>한계값 이름</translation>
+    </message>
+    <message>
+        <source>Delete the Limits?</source>
+        <translation>한계값을 삭제하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>한계값</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: 값</translation>
     </message>
 </context>
 <context>
@@ -1978,6 +2289,10 @@ Do you want to overwrite it?</source>
     <message>
         <source>Version</source>
         <translation>버전</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>끔</translation>
     </message>
 </context>
 <context>

@@ -543,6 +543,243 @@ czy zakończyć?</translation>
     </message>
 </context>
 <context>
+    <name>LimitHarmPage</name>
+    <message>
+        <source>Harmonics: time in limits</source>
+        <translation>Harmoniczne: czas w limitach</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for this time</source>
+        <translation>Harmoniczne: limit dla tego czasu</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for all the time</source>
+        <translation>Harmoniczne: limit dla całego czasu</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Kolumna</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Wstecz</translation>
+    </message>
+</context>
+<context>
+    <name>LimitItemsPage</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Wstecz</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: wartości</translation>
+    </message>
+</context>
+<context>
+    <name>LimitValuePage</name>
+    <message>
+        <source>Time in limits</source>
+        <translation>Czas w limitach</translation>
+    </message>
+    <message>
+        <source>Upper limit</source>
+        <translation>Limit górny</translation>
+    </message>
+    <message>
+        <source>Upper, always</source>
+        <translation>Górny, zawsze</translation>
+    </message>
+    <message>
+        <source>Lower limit</source>
+        <translation>Limit dolny</translation>
+    </message>
+    <message>
+        <source>Lower, always</source>
+        <translation>Dolny, zawsze</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Próg</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Histereza</translation>
+    </message>
+    <message>
+        <source>Allowed number</source>
+        <translation>Dozwolona liczba</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Napięcie</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmoniczne</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Migotanie</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>Zapady</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>Wzrosty</translation>
+    </message>
+    <message>
+        <source>Interruptions</source>
+        <translation>Przerwy</translation>
+    </message>
+    <message>
+        <source>RVC</source>
+        <translation>RVC</translation>
+    </message>
+    <message>
+        <source>Steady time</source>
+        <translation>Czas ustalenia</translation>
+    </message>
+    <message>
+        <source>Minimum step</source>
+        <translation>Minimalny skok</translation>
+    </message>
+    <message>
+        <source>Minimum rate</source>
+        <translation>Minimalna szybkość</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Asymetria</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Częstotliwość</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Sygnały w sieci</translation>
+    </message>
+    <message>
+        <source>Frequency 1</source>
+        <translation>Częstotliwość 1</translation>
+    </message>
+    <message>
+        <source>Frequency 2</source>
+        <translation>Częstotliwość 2</translation>
+    </message>
+    <message>
+        <source>Plt, time</source>
+        <translation>Plt, czas</translation>
+    </message>
+    <message>
+        <source>Plt, limit</source>
+        <translation>Plt, limit</translation>
+    </message>
+    <message>
+        <source>Plt, always</source>
+        <translation>Plt, zawsze</translation>
+    </message>
+    <message>
+        <source>Pst, time</source>
+        <translation>Pst, czas</translation>
+    </message>
+    <message>
+        <source>Pst, limit</source>
+        <translation>Pst, limit</translation>
+    </message>
+    <message>
+        <source>Pst, always</source>
+        <translation>Pst, zawsze</translation>
+    </message>
+    <message>
+        <source>Negative, time</source>
+        <translation>Przeciwna, czas</translation>
+    </message>
+    <message>
+        <source>Negative, limit</source>
+        <translation>Przeciwna, limit</translation>
+    </message>
+    <message>
+        <source>Negative, always</source>
+        <translation>Przeciwna, zawsze</translation>
+    </message>
+    <message>
+        <source>Zero, time</source>
+        <translation>Zerowa, czas</translation>
+    </message>
+    <message>
+        <source>Zero, limit</source>
+        <translation>Zerowa, limit</translation>
+    </message>
+    <message>
+        <source>Zero, always</source>
+        <translation>Zerowa, zawsze</translation>
+    </message>
+    <message>
+        <source>Time 1</source>
+        <translation>Czas 1</translation>
+    </message>
+    <message>
+        <source>Limit 1</source>
+        <translation>Limit 1</translation>
+    </message>
+    <message>
+        <source>Always 1</source>
+        <translation>Zawsze 1</translation>
+    </message>
+    <message>
+        <source>Time 2</source>
+        <translation>Czas 2</translation>
+    </message>
+    <message>
+        <source>Limit 2</source>
+        <translation>Limit 2</translation>
+    </message>
+    <message>
+        <source>Always 2</source>
+        <translation>Zawsze 2</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Lampa</translation>
+    </message>
+    <message>
+        <source>lamp</source>
+        <translation>lampa</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Wstecz</translation>
+    </message>
+</context>
+<context>
     <name>LivePage</name>
     <message>
         <source>Hold</source>
@@ -972,6 +1209,13 @@ w sieci</translation>
     </message>
 </context>
 <context>
+    <name>RatioChoice</name>
+    <message>
+        <source>CUSTOM</source>
+        <translation>WŁASNE</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>
@@ -1306,6 +1550,73 @@ Czy go zastąpić?</translation>
     <message>
         <source>K-factor par. q:</source>
         <translation>Wsp. K, par. q:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupLimitMenu</name>
+    <message>
+        <source>Add</source>
+        <translation>Dodaj</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>built-in</source>
+        <translation>wbudowany</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>w użyciu</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nazwa</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>Pusta nazwa!</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>Niepoprawna nazwa!</translation>
+    </message>
+    <message>
+        <source>It exists, Overwrite it?</source>
+        <translation>Już istnieje. Zastąpić?</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Zastąp</translation>
+    </message>
+    <message>
+        <source>Name of the new limits</source>
+        <translation>Nazwa nowych limitów</translation>
+    </message>
+    <message>
+        <source>Name of the limits</source>
+        <translation>Nazwa limitów</translation>
+    </message>
+    <message>
+        <source>Delete the Limits?</source>
+        <translation>Usunąć limity?</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Limity</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: wartości</translation>
     </message>
 </context>
 <context>
@@ -1978,6 +2289,10 @@ Czy go zastąpić?</translation>
     <message>
         <source>Version</source>
         <translation>Wersja</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>WYŁ.</translation>
     </message>
 </context>
 <context>

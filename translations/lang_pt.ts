@@ -543,6 +543,243 @@ deseja sair?</translation>
     </message>
 </context>
 <context>
+    <name>LimitHarmPage</name>
+    <message>
+        <source>Harmonics: time in limits</source>
+        <translation>Harmónicas: tempo nos limites</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for this time</source>
+        <translation>Harmónicas: limite para este tempo</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for all the time</source>
+        <translation>Harmónicas: limite para todo o tempo</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Coluna</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+</context>
+<context>
+    <name>LimitItemsPage</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: valores</translation>
+    </message>
+</context>
+<context>
+    <name>LimitValuePage</name>
+    <message>
+        <source>Time in limits</source>
+        <translation>Tempo nos limites</translation>
+    </message>
+    <message>
+        <source>Upper limit</source>
+        <translation>Limite superior</translation>
+    </message>
+    <message>
+        <source>Upper, always</source>
+        <translation>Superior, sempre</translation>
+    </message>
+    <message>
+        <source>Lower limit</source>
+        <translation>Limite inferior</translation>
+    </message>
+    <message>
+        <source>Lower, always</source>
+        <translation>Inferior, sempre</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Limiar</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Histerese</translation>
+    </message>
+    <message>
+        <source>Allowed number</source>
+        <translation>Número permitido</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Tensão</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmónicas</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>Cavas</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>Sobretensões</translation>
+    </message>
+    <message>
+        <source>Interruptions</source>
+        <translation>Interrupções</translation>
+    </message>
+    <message>
+        <source>RVC</source>
+        <translation>RVC</translation>
+    </message>
+    <message>
+        <source>Steady time</source>
+        <translation>Tempo estável</translation>
+    </message>
+    <message>
+        <source>Minimum step</source>
+        <translation>Salto mínimo</translation>
+    </message>
+    <message>
+        <source>Minimum rate</source>
+        <translation>Taxa mínima</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Desequilíbrio</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequência</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Sinais na rede</translation>
+    </message>
+    <message>
+        <source>Frequency 1</source>
+        <translation>Frequência 1</translation>
+    </message>
+    <message>
+        <source>Frequency 2</source>
+        <translation>Frequência 2</translation>
+    </message>
+    <message>
+        <source>Plt, time</source>
+        <translation>Plt, tempo</translation>
+    </message>
+    <message>
+        <source>Plt, limit</source>
+        <translation>Plt, limite</translation>
+    </message>
+    <message>
+        <source>Plt, always</source>
+        <translation>Plt, sempre</translation>
+    </message>
+    <message>
+        <source>Pst, time</source>
+        <translation>Pst, tempo</translation>
+    </message>
+    <message>
+        <source>Pst, limit</source>
+        <translation>Pst, limite</translation>
+    </message>
+    <message>
+        <source>Pst, always</source>
+        <translation>Pst, sempre</translation>
+    </message>
+    <message>
+        <source>Negative, time</source>
+        <translation>Inversa, tempo</translation>
+    </message>
+    <message>
+        <source>Negative, limit</source>
+        <translation>Inversa, limite</translation>
+    </message>
+    <message>
+        <source>Negative, always</source>
+        <translation>Inversa, sempre</translation>
+    </message>
+    <message>
+        <source>Zero, time</source>
+        <translation>Homopolar, tempo</translation>
+    </message>
+    <message>
+        <source>Zero, limit</source>
+        <translation>Homopolar, limite</translation>
+    </message>
+    <message>
+        <source>Zero, always</source>
+        <translation>Homopolar, sempre</translation>
+    </message>
+    <message>
+        <source>Time 1</source>
+        <translation>Tempo 1</translation>
+    </message>
+    <message>
+        <source>Limit 1</source>
+        <translation>Limite 1</translation>
+    </message>
+    <message>
+        <source>Always 1</source>
+        <translation>Sempre 1</translation>
+    </message>
+    <message>
+        <source>Time 2</source>
+        <translation>Tempo 2</translation>
+    </message>
+    <message>
+        <source>Limit 2</source>
+        <translation>Limite 2</translation>
+    </message>
+    <message>
+        <source>Always 2</source>
+        <translation>Sempre 2</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Lâmpada</translation>
+    </message>
+    <message>
+        <source>lamp</source>
+        <translation>lâmpada</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+</context>
+<context>
     <name>LivePage</name>
     <message>
         <source>Hold</source>
@@ -972,6 +1209,13 @@ na rede</translation>
     </message>
 </context>
 <context>
+    <name>RatioChoice</name>
+    <message>
+        <source>CUSTOM</source>
+        <translation>LIVRE</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>
@@ -1306,6 +1550,73 @@ Deseja substituí-lo?</translation>
     <message>
         <source>K-factor par. q:</source>
         <translation>Fator K, par. q:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupLimitMenu</name>
+    <message>
+        <source>Add</source>
+        <translation>Adicionar</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>built-in</source>
+        <translation>integrado</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>em uso</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>Nome vazio!</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>Nome inválido!</translation>
+    </message>
+    <message>
+        <source>It exists, Overwrite it?</source>
+        <translation>Já existe. Substituir?</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Substituir</translation>
+    </message>
+    <message>
+        <source>Name of the new limits</source>
+        <translation>Nome dos novos limites</translation>
+    </message>
+    <message>
+        <source>Name of the limits</source>
+        <translation>Nome dos limites</translation>
+    </message>
+    <message>
+        <source>Delete the Limits?</source>
+        <translation>Eliminar os limites?</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Limites</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: valores</translation>
     </message>
 </context>
 <context>
@@ -1978,6 +2289,10 @@ Deseja substituí-lo?</translation>
     <message>
         <source>Version</source>
         <translation>Versão</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>DESL.</translation>
     </message>
 </context>
 <context>

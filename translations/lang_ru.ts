@@ -543,6 +543,243 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>LimitHarmPage</name>
+    <message>
+        <source>Harmonics: time in limits</source>
+        <translation>Гармоники: время в пределах</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for this time</source>
+        <translation>Гармоники: предел для этого времени</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for all the time</source>
+        <translation>Гармоники: предел для всего времени</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Столбец</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+</context>
+<context>
+    <name>LimitItemsPage</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: значения</translation>
+    </message>
+</context>
+<context>
+    <name>LimitValuePage</name>
+    <message>
+        <source>Time in limits</source>
+        <translation>Время в пределах</translation>
+    </message>
+    <message>
+        <source>Upper limit</source>
+        <translation>Верхний предел</translation>
+    </message>
+    <message>
+        <source>Upper, always</source>
+        <translation>Верхний, всегда</translation>
+    </message>
+    <message>
+        <source>Lower limit</source>
+        <translation>Нижний предел</translation>
+    </message>
+    <message>
+        <source>Lower, always</source>
+        <translation>Нижний, всегда</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Порог</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Гистерезис</translation>
+    </message>
+    <message>
+        <source>Allowed number</source>
+        <translation>Допустимое число</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Напряжение</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Гармоники</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Фликер</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>Провалы</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>Выбросы</translation>
+    </message>
+    <message>
+        <source>Interruptions</source>
+        <translation>Прерывания</translation>
+    </message>
+    <message>
+        <source>RVC</source>
+        <translation>RVC</translation>
+    </message>
+    <message>
+        <source>Steady time</source>
+        <translation>Время установления</translation>
+    </message>
+    <message>
+        <source>Minimum step</source>
+        <translation>Минимальный скачок</translation>
+    </message>
+    <message>
+        <source>Minimum rate</source>
+        <translation>Минимальная скорость</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Несимметрия</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Частота</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Сигналы в сети</translation>
+    </message>
+    <message>
+        <source>Frequency 1</source>
+        <translation>Частота 1</translation>
+    </message>
+    <message>
+        <source>Frequency 2</source>
+        <translation>Частота 2</translation>
+    </message>
+    <message>
+        <source>Plt, time</source>
+        <translation>Plt, время</translation>
+    </message>
+    <message>
+        <source>Plt, limit</source>
+        <translation>Plt, предел</translation>
+    </message>
+    <message>
+        <source>Plt, always</source>
+        <translation>Plt, всегда</translation>
+    </message>
+    <message>
+        <source>Pst, time</source>
+        <translation>Pst, время</translation>
+    </message>
+    <message>
+        <source>Pst, limit</source>
+        <translation>Pst, предел</translation>
+    </message>
+    <message>
+        <source>Pst, always</source>
+        <translation>Pst, всегда</translation>
+    </message>
+    <message>
+        <source>Negative, time</source>
+        <translation>Обратная, время</translation>
+    </message>
+    <message>
+        <source>Negative, limit</source>
+        <translation>Обратная, предел</translation>
+    </message>
+    <message>
+        <source>Negative, always</source>
+        <translation>Обратная, всегда</translation>
+    </message>
+    <message>
+        <source>Zero, time</source>
+        <translation>Нулевая, время</translation>
+    </message>
+    <message>
+        <source>Zero, limit</source>
+        <translation>Нулевая, предел</translation>
+    </message>
+    <message>
+        <source>Zero, always</source>
+        <translation>Нулевая, всегда</translation>
+    </message>
+    <message>
+        <source>Time 1</source>
+        <translation>Время 1</translation>
+    </message>
+    <message>
+        <source>Limit 1</source>
+        <translation>Предел 1</translation>
+    </message>
+    <message>
+        <source>Always 1</source>
+        <translation>Всегда 1</translation>
+    </message>
+    <message>
+        <source>Time 2</source>
+        <translation>Время 2</translation>
+    </message>
+    <message>
+        <source>Limit 2</source>
+        <translation>Предел 2</translation>
+    </message>
+    <message>
+        <source>Always 2</source>
+        <translation>Всегда 2</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Лампа</translation>
+    </message>
+    <message>
+        <source>lamp</source>
+        <translation>лампа</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+</context>
+<context>
     <name>LivePage</name>
     <message>
         <source>Hold</source>
@@ -972,6 +1209,13 @@ Signaling</source>
     </message>
 </context>
 <context>
+    <name>RatioChoice</name>
+    <message>
+        <source>CUSTOM</source>
+        <translation>СВОЁ</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>
@@ -1306,6 +1550,73 @@ Do you want to overwrite it?</source>
     <message>
         <source>K-factor par. q:</source>
         <translation>Парам. q K-фактора:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupLimitMenu</name>
+    <message>
+        <source>Add</source>
+        <translation>Добавить</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>built-in</source>
+        <translation>встроенный</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>в работе</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Имя</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>Имя не задано!</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>Недопустимое имя!</translation>
+    </message>
+    <message>
+        <source>It exists, Overwrite it?</source>
+        <translation>Уже существует. Заменить?</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Заменить</translation>
+    </message>
+    <message>
+        <source>Name of the new limits</source>
+        <translation>Имя нового набора пределов</translation>
+    </message>
+    <message>
+        <source>Name of the limits</source>
+        <translation>Имя набора пределов</translation>
+    </message>
+    <message>
+        <source>Delete the Limits?</source>
+        <translation>Удалить пределы?</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Пределы</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: значения</translation>
     </message>
 </context>
 <context>
@@ -1978,6 +2289,10 @@ Do you want to overwrite it?</source>
     <message>
         <source>Version</source>
         <translation>Версия</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>ВЫКЛ</translation>
     </message>
 </context>
 <context>

@@ -543,6 +543,243 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>LimitHarmPage</name>
+    <message>
+        <source>Harmonics: time in limits</source>
+        <translation>Armónicos: tiempo en límites</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for this time</source>
+        <translation>Armónicos: límite para este tiempo</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for all the time</source>
+        <translation>Armónicos: límite para todo el tiempo</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Columna</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+</context>
+<context>
+    <name>LimitItemsPage</name>
+    <message>
+        <source>Ok</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: valores</translation>
+    </message>
+</context>
+<context>
+    <name>LimitValuePage</name>
+    <message>
+        <source>Time in limits</source>
+        <translation>Tiempo en límites</translation>
+    </message>
+    <message>
+        <source>Upper limit</source>
+        <translation>Límite superior</translation>
+    </message>
+    <message>
+        <source>Upper, always</source>
+        <translation>Superior, siempre</translation>
+    </message>
+    <message>
+        <source>Lower limit</source>
+        <translation>Límite inferior</translation>
+    </message>
+    <message>
+        <source>Lower, always</source>
+        <translation>Inferior, siempre</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Umbral</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Histéresis</translation>
+    </message>
+    <message>
+        <source>Allowed number</source>
+        <translation>Número permitido</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Tensión</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Armónicos</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>Huecos</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>Sobretensiones</translation>
+    </message>
+    <message>
+        <source>Interruptions</source>
+        <translation>Interrupciones</translation>
+    </message>
+    <message>
+        <source>RVC</source>
+        <translation>RVC</translation>
+    </message>
+    <message>
+        <source>Steady time</source>
+        <translation>Tiempo estable</translation>
+    </message>
+    <message>
+        <source>Minimum step</source>
+        <translation>Salto mínimo</translation>
+    </message>
+    <message>
+        <source>Minimum rate</source>
+        <translation>Tasa mínima</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Desequilibrio</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frecuencia</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Señales en la red</translation>
+    </message>
+    <message>
+        <source>Frequency 1</source>
+        <translation>Frecuencia 1</translation>
+    </message>
+    <message>
+        <source>Frequency 2</source>
+        <translation>Frecuencia 2</translation>
+    </message>
+    <message>
+        <source>Plt, time</source>
+        <translation>Plt, tiempo</translation>
+    </message>
+    <message>
+        <source>Plt, limit</source>
+        <translation>Plt, límite</translation>
+    </message>
+    <message>
+        <source>Plt, always</source>
+        <translation>Plt, siempre</translation>
+    </message>
+    <message>
+        <source>Pst, time</source>
+        <translation>Pst, tiempo</translation>
+    </message>
+    <message>
+        <source>Pst, limit</source>
+        <translation>Pst, límite</translation>
+    </message>
+    <message>
+        <source>Pst, always</source>
+        <translation>Pst, siempre</translation>
+    </message>
+    <message>
+        <source>Negative, time</source>
+        <translation>Inversa, tiempo</translation>
+    </message>
+    <message>
+        <source>Negative, limit</source>
+        <translation>Inversa, límite</translation>
+    </message>
+    <message>
+        <source>Negative, always</source>
+        <translation>Inversa, siempre</translation>
+    </message>
+    <message>
+        <source>Zero, time</source>
+        <translation>Homopolar, tiempo</translation>
+    </message>
+    <message>
+        <source>Zero, limit</source>
+        <translation>Homopolar, límite</translation>
+    </message>
+    <message>
+        <source>Zero, always</source>
+        <translation>Homopolar, siempre</translation>
+    </message>
+    <message>
+        <source>Time 1</source>
+        <translation>Tiempo 1</translation>
+    </message>
+    <message>
+        <source>Limit 1</source>
+        <translation>Límite 1</translation>
+    </message>
+    <message>
+        <source>Always 1</source>
+        <translation>Siempre 1</translation>
+    </message>
+    <message>
+        <source>Time 2</source>
+        <translation>Tiempo 2</translation>
+    </message>
+    <message>
+        <source>Limit 2</source>
+        <translation>Límite 2</translation>
+    </message>
+    <message>
+        <source>Always 2</source>
+        <translation>Siempre 2</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Lámpara</translation>
+    </message>
+    <message>
+        <source>lamp</source>
+        <translation>lámpara</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+</context>
+<context>
     <name>LivePage</name>
     <message>
         <source>Hold</source>
@@ -972,6 +1209,13 @@ en la red</translation>
     </message>
 </context>
 <context>
+    <name>RatioChoice</name>
+    <message>
+        <source>CUSTOM</source>
+        <translation>PROPIO</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>
@@ -1306,6 +1550,73 @@ Do you want to overwrite it?</source>
     <message>
         <source>K-factor par. q:</source>
         <translation>Factor K, par. q:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupLimitMenu</name>
+    <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>built-in</source>
+        <translation>integrado</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>en uso</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>¡Nombre vacío!</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>¡Nombre no válido!</translation>
+    </message>
+    <message>
+        <source>It exists, Overwrite it?</source>
+        <translation>Ya existe. ¿Sobrescribir?</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Sobrescribir</translation>
+    </message>
+    <message>
+        <source>Name of the new limits</source>
+        <translation>Nombre de los nuevos límites</translation>
+    </message>
+    <message>
+        <source>Name of the limits</source>
+        <translation>Nombre de los límites</translation>
+    </message>
+    <message>
+        <source>Delete the Limits?</source>
+        <translation>¿Borrar los límites?</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Límites</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: valores</translation>
     </message>
 </context>
 <context>
@@ -1978,6 +2289,10 @@ Do you want to overwrite it?</source>
     <message>
         <source>Version</source>
         <translation>Versión</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>NO</translation>
     </message>
 </context>
 <context>

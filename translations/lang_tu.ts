@@ -543,6 +543,243 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>LimitHarmPage</name>
+    <message>
+        <source>Harmonics: time in limits</source>
+        <translation>Harmonikler: sınır içi süre</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for this time</source>
+        <translation>Harmonikler: bu süre için sınır</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for all the time</source>
+        <translation>Harmonikler: tüm süre için sınır</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>Sütun</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+</context>
+<context>
+    <name>LimitItemsPage</name>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: değerler</translation>
+    </message>
+</context>
+<context>
+    <name>LimitValuePage</name>
+    <message>
+        <source>Time in limits</source>
+        <translation>Sınır içi süre</translation>
+    </message>
+    <message>
+        <source>Upper limit</source>
+        <translation>Üst sınır</translation>
+    </message>
+    <message>
+        <source>Upper, always</source>
+        <translation>Üst, her zaman</translation>
+    </message>
+    <message>
+        <source>Lower limit</source>
+        <translation>Alt sınır</translation>
+    </message>
+    <message>
+        <source>Lower, always</source>
+        <translation>Alt, her zaman</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>Eşik</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>Histerezis</translation>
+    </message>
+    <message>
+        <source>Allowed number</source>
+        <translation>İzin verilen sayı</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Gerilim</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmonikler</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Kırpışma</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>Çukurlar</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>Tepeler</translation>
+    </message>
+    <message>
+        <source>Interruptions</source>
+        <translation>Kesintiler</translation>
+    </message>
+    <message>
+        <source>RVC</source>
+        <translation>RVC</translation>
+    </message>
+    <message>
+        <source>Steady time</source>
+        <translation>Kararlılık süresi</translation>
+    </message>
+    <message>
+        <source>Minimum step</source>
+        <translation>En az sıçrama</translation>
+    </message>
+    <message>
+        <source>Minimum rate</source>
+        <translation>En az değişim hızı</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Dengesizlik</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frekans</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Şebeke sinyalleri</translation>
+    </message>
+    <message>
+        <source>Frequency 1</source>
+        <translation>Frekans 1</translation>
+    </message>
+    <message>
+        <source>Frequency 2</source>
+        <translation>Frekans 2</translation>
+    </message>
+    <message>
+        <source>Plt, time</source>
+        <translation>Plt, süre</translation>
+    </message>
+    <message>
+        <source>Plt, limit</source>
+        <translation>Plt, sınır</translation>
+    </message>
+    <message>
+        <source>Plt, always</source>
+        <translation>Plt, her zaman</translation>
+    </message>
+    <message>
+        <source>Pst, time</source>
+        <translation>Pst, süre</translation>
+    </message>
+    <message>
+        <source>Pst, limit</source>
+        <translation>Pst, sınır</translation>
+    </message>
+    <message>
+        <source>Pst, always</source>
+        <translation>Pst, her zaman</translation>
+    </message>
+    <message>
+        <source>Negative, time</source>
+        <translation>Negatif, süre</translation>
+    </message>
+    <message>
+        <source>Negative, limit</source>
+        <translation>Negatif, sınır</translation>
+    </message>
+    <message>
+        <source>Negative, always</source>
+        <translation>Negatif, her zaman</translation>
+    </message>
+    <message>
+        <source>Zero, time</source>
+        <translation>Sıfır, süre</translation>
+    </message>
+    <message>
+        <source>Zero, limit</source>
+        <translation>Sıfır, sınır</translation>
+    </message>
+    <message>
+        <source>Zero, always</source>
+        <translation>Sıfır, her zaman</translation>
+    </message>
+    <message>
+        <source>Time 1</source>
+        <translation>Süre 1</translation>
+    </message>
+    <message>
+        <source>Limit 1</source>
+        <translation>Sınır 1</translation>
+    </message>
+    <message>
+        <source>Always 1</source>
+        <translation>Her zaman 1</translation>
+    </message>
+    <message>
+        <source>Time 2</source>
+        <translation>Süre 2</translation>
+    </message>
+    <message>
+        <source>Limit 2</source>
+        <translation>Sınır 2</translation>
+    </message>
+    <message>
+        <source>Always 2</source>
+        <translation>Her zaman 2</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>Lamba</translation>
+    </message>
+    <message>
+        <source>lamp</source>
+        <translation>lamba</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+</context>
+<context>
     <name>LivePage</name>
     <message>
         <source>Hold</source>
@@ -972,6 +1209,13 @@ sinyalleri</translation>
     </message>
 </context>
 <context>
+    <name>RatioChoice</name>
+    <message>
+        <source>CUSTOM</source>
+        <translation>ÖZEL</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>
@@ -1306,6 +1550,73 @@ Do you want to overwrite it?</source>
     <message>
         <source>K-factor par. q:</source>
         <translation>K faktörü par. q:</translation>
+    </message>
+</context>
+<context>
+    <name>SetupLimitMenu</name>
+    <message>
+        <source>Add</source>
+        <translation>Ekle</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>built-in</source>
+        <translation>yerleşik</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>kullanımda</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Ad</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>Ad boş!</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>Geçersiz ad!</translation>
+    </message>
+    <message>
+        <source>It exists, Overwrite it?</source>
+        <translation>Zaten var. Üzerine yazılsın mı?</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>Üzerine yaz</translation>
+    </message>
+    <message>
+        <source>Name of the new limits</source>
+        <translation>Yeni sınırların adı</translation>
+    </message>
+    <message>
+        <source>Name of the limits</source>
+        <translation>Sınırların adı</translation>
+    </message>
+    <message>
+        <source>Delete the Limits?</source>
+        <translation>Sınırlar silinsin mi?</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Sınırlar</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter: değerler</translation>
     </message>
 </context>
 <context>
@@ -1978,6 +2289,10 @@ Do you want to overwrite it?</source>
     <message>
         <source>Version</source>
         <translation>Sürüm</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>KAPALI</translation>
     </message>
 </context>
 <context>

@@ -543,6 +543,243 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>LimitHarmPage</name>
+    <message>
+        <source>Harmonics: time in limits</source>
+        <translation>谐波：合格时间</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for this time</source>
+        <translation>谐波：该时间内的限值</translation>
+    </message>
+    <message>
+        <source>Harmonics: limit for all the time</source>
+        <translation>谐波：全部时间的限值</translation>
+    </message>
+    <message>
+        <source>Column</source>
+        <translation>列</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+</context>
+<context>
+    <name>LimitItemsPage</name>
+    <message>
+        <source>Ok</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter：数值</translation>
+    </message>
+</context>
+<context>
+    <name>LimitValuePage</name>
+    <message>
+        <source>Time in limits</source>
+        <translation>合格时间</translation>
+    </message>
+    <message>
+        <source>Upper limit</source>
+        <translation>上限</translation>
+    </message>
+    <message>
+        <source>Upper, always</source>
+        <translation>上限，始终</translation>
+    </message>
+    <message>
+        <source>Lower limit</source>
+        <translation>下限</translation>
+    </message>
+    <message>
+        <source>Lower, always</source>
+        <translation>下限，始终</translation>
+    </message>
+    <message>
+        <source>Threshold</source>
+        <translation>阈值</translation>
+    </message>
+    <message>
+        <source>Hysteresis</source>
+        <translation>迟滞</translation>
+    </message>
+    <message>
+        <source>Allowed number</source>
+        <translation>允许次数</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>电压</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>谐波</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>闪变</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>暂降</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>暂升</translation>
+    </message>
+    <message>
+        <source>Interruptions</source>
+        <translation>中断</translation>
+    </message>
+    <message>
+        <source>RVC</source>
+        <translation>RVC</translation>
+    </message>
+    <message>
+        <source>Steady time</source>
+        <translation>稳定时间</translation>
+    </message>
+    <message>
+        <source>Minimum step</source>
+        <translation>最小阶跃</translation>
+    </message>
+    <message>
+        <source>Minimum rate</source>
+        <translation>最小变化率</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>不平衡</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>频率</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>电网信号</translation>
+    </message>
+    <message>
+        <source>Frequency 1</source>
+        <translation>频率 1</translation>
+    </message>
+    <message>
+        <source>Frequency 2</source>
+        <translation>频率 2</translation>
+    </message>
+    <message>
+        <source>Plt, time</source>
+        <translation>Plt，时间</translation>
+    </message>
+    <message>
+        <source>Plt, limit</source>
+        <translation>Plt，限值</translation>
+    </message>
+    <message>
+        <source>Plt, always</source>
+        <translation>Plt，始终</translation>
+    </message>
+    <message>
+        <source>Pst, time</source>
+        <translation>Pst，时间</translation>
+    </message>
+    <message>
+        <source>Pst, limit</source>
+        <translation>Pst，限值</translation>
+    </message>
+    <message>
+        <source>Pst, always</source>
+        <translation>Pst，始终</translation>
+    </message>
+    <message>
+        <source>Negative, time</source>
+        <translation>负序，时间</translation>
+    </message>
+    <message>
+        <source>Negative, limit</source>
+        <translation>负序，限值</translation>
+    </message>
+    <message>
+        <source>Negative, always</source>
+        <translation>负序，始终</translation>
+    </message>
+    <message>
+        <source>Zero, time</source>
+        <translation>零序，时间</translation>
+    </message>
+    <message>
+        <source>Zero, limit</source>
+        <translation>零序，限值</translation>
+    </message>
+    <message>
+        <source>Zero, always</source>
+        <translation>零序，始终</translation>
+    </message>
+    <message>
+        <source>Time 1</source>
+        <translation>时间 1</translation>
+    </message>
+    <message>
+        <source>Limit 1</source>
+        <translation>限值 1</translation>
+    </message>
+    <message>
+        <source>Always 1</source>
+        <translation>始终 1</translation>
+    </message>
+    <message>
+        <source>Time 2</source>
+        <translation>时间 2</translation>
+    </message>
+    <message>
+        <source>Limit 2</source>
+        <translation>限值 2</translation>
+    </message>
+    <message>
+        <source>Always 2</source>
+        <translation>始终 2</translation>
+    </message>
+    <message>
+        <source>Lamp</source>
+        <translation>灯</translation>
+    </message>
+    <message>
+        <source>lamp</source>
+        <translation>灯</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+</context>
+<context>
     <name>LivePage</name>
     <message>
         <source>Hold</source>
@@ -972,6 +1209,13 @@ Signaling</source>
     </message>
 </context>
 <context>
+    <name>RatioChoice</name>
+    <message>
+        <source>CUSTOM</source>
+        <translation>自定义</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>
@@ -1306,6 +1550,73 @@ Do you want to overwrite it?</source>
     <message>
         <source>K-factor par. q:</source>
         <translation>K 因子参数 q：</translation>
+    </message>
+</context>
+<context>
+    <name>SetupLimitMenu</name>
+    <message>
+        <source>Add</source>
+        <translation>添加</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>built-in</source>
+        <translation>内置</translation>
+    </message>
+    <message>
+        <source>in use</source>
+        <translation>使用中</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Empty name!</source>
+        <translation>名称为空！</translation>
+    </message>
+    <message>
+        <source>Invalid name!</source>
+        <translation>名称无效！</translation>
+    </message>
+    <message>
+        <source>It exists, Overwrite it?</source>
+        <translation>已存在，是否覆盖？</translation>
+    </message>
+    <message>
+        <source>Overwrite</source>
+        <translation>覆盖</translation>
+    </message>
+    <message>
+        <source>Name of the new limits</source>
+        <translation>新限值组名称</translation>
+    </message>
+    <message>
+        <source>Name of the limits</source>
+        <translation>限值组名称</translation>
+    </message>
+    <message>
+        <source>Delete the Limits?</source>
+        <translation>删除该限值组？</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>限值</translation>
+    </message>
+    <message>
+        <source>Enter: values</source>
+        <translation>Enter：数值</translation>
     </message>
 </context>
 <context>
@@ -1978,6 +2289,10 @@ Do you want to overwrite it?</source>
     <message>
         <source>Version</source>
         <translation>版本</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>

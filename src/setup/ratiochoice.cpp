@@ -1,5 +1,7 @@
 #include "setup/ratiochoice.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace {
@@ -60,5 +62,5 @@ QString RatioChoice::numbers() const
 
 QString RatioChoice::text() const
 {
-    return m_custom ? QStringLiteral("CUSTOM") : numbers();
+    return m_custom ? QCoreApplication::translate("RatioChoice", "CUSTOM") : numbers();
 }

@@ -78,7 +78,7 @@ std::vector<EditorPage::Row> UserZiPage::rows()
           {} },
         { "sleep",
           QT_TRANSLATE_NOOP("UserZiPage", "Sleep Time"),
-          [] { return m_userConfig_g.getSleep(); },
+          [] { return m_userConfig_g.sleepDelay() > 0 ? m_userConfig_g.getSleep() : tr("OFF"); },
           [this](int step) { changeSleep(step); },
           {},
           {} },
