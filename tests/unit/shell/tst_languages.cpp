@@ -19,6 +19,7 @@
 
 #include <QXmlStreamReader>
 
+#include <functional>
 #include <memory>
 #include <set>
 
@@ -102,7 +103,7 @@ private slots:
 private:
     void look(QWidget *widget, const QString &where);
     void lookAtDialogs();
-    void lookAtPage(FunctionPage *page, const QString &name);
+    void walk(LivePage *page, FunctionPage *whole, const std::function<void()> &show);
     void closeDialog();
 
     AskedTexts m_texts;
@@ -111,7 +112,7 @@ private:
     QStringList m_misfits;
     QSet<QString> m_seen; // what is already among them, wherever
     QString m_where; // the page on which keys are pressed
-    std::vector<std::pair<QString, std::unique_ptr<FunctionPage>>> m_pages;
+    std::vector<std::unique_ptr<FunctionPage>> m_pages;
 };
 
 void TstLanguages::initTestCase()
@@ -127,7 +128,7 @@ void TstLanguages::initTestCase()
     m_closer.start(0);
     for (const PageRow &row : PageTable::rows()) {
         if (row.make)
-            m_pages.emplace_back(QString::fromLatin1(row.title), row.make(m_links, PageTest::liveData()));
+            m_pages.emplace_back(row.make(m_links, PageTest::liveData()));
     }
 }
 
@@ -182,25 +183,26 @@ void TstLanguages::closeDialog()
     dialog->close();
 }
 
-void TstLanguages::lookAtPage(FunctionPage *page, const QString &name)
+/// Presses the keys of a page that \a show brings to the front of \a whole, or of all pages in it.
+void TstLanguages::walk(LivePage *page, FunctionPage *whole, const std::function<void()> &show)
 {
-    page->retranslateUi();
-    page->resize(640, 448);
-    auto *container = qobject_cast<ViewContainer *>(page);
-    page->enter();
-    page->init_parameter();
-    for (int i = 0; i < (container ? container->pageCount() : 1); ++i) {
-        for (const PageTest::FrontKey key :
-             { PageTest::Up, PageTest::F1, PageTest::F2, PageTest::F3, PageTest::F4, PageTest::F5, PageTest::Enter,
-               PageTest::Left, PageTest::Right, PageTest::Down }) {
-            if (container)
-                container->showPage(i);
-            m_where = QStringLiteral("%1 %2 %3").arg(name).arg(i).arg(QChar(key));
-            QWidget *shown = container ? container->currentPage() : page;
-            PageTest::press(shown, key);
-            page->updateDisplay(nullptr);
-            look(page, m_where);
+    if (auto *container = qobject_cast<ViewContainer *>(page)) {
+        for (int row = 0; row < container->pageCount(); ++row) {
+            walk(container->page(row), whole, [&show, container, row] {
+                show();
+                container->showPage(row);
+            });
         }
+        return;
+    }
+    m_where = QString::fromLatin1(page->metaObject()->className());
+    for (const PageTest::FrontKey key :
+         { PageTest::Up, PageTest::F1, PageTest::F2, PageTest::F3, PageTest::F4, PageTest::F5, PageTest::Enter,
+           PageTest::Left, PageTest::Right, PageTest::Down }) {
+        show();
+        PageTest::press(page, key);
+        whole->updateDisplay(nullptr);
+        look(whole, m_where);
     }
 }
 
@@ -238,8 +240,13 @@ void TstLanguages::everyTextFits()
     m_basedialog->navigator().go(UI_VIF, UI_MENU);
     look(m_basedialog, QStringLiteral("window"));
     lookAtDialogs();
-    for (const auto &page : m_pages)
-        lookAtPage(page.second.get(), page.first);
+    for (const auto &page : m_pages) {
+        page->retranslateUi();
+        page->resize(640, 448);
+        page->enter();
+        page->init_parameter();
+        walk(page.get(), page.get(), [] {});
+    }
     for (const QString &misfit : m_misfits)
         qWarning("%s", qPrintable(misfit));
     QVERIFY(m_misfits.isEmpty());

@@ -129,7 +129,7 @@ inline void continueRun(FunctionPage &page)
     page.setContinue();
 }
 
-/// Opens a page and makes all its sub pages, as one who has looked at each and come back.
+/// Opens a page and makes all its sub pages and theirs, as one who has looked at each and come back.
 inline void openAll(QWidget &page)
 {
     auto *container = qobject_cast<ViewContainer *>(&page);
@@ -137,7 +137,7 @@ inline void openAll(QWidget &page)
         return;
     container->enter();
     for (int row = 0; row < container->pageCount(); ++row)
-        container->page(row);
+        openAll(*container->page(row));
 }
 
 /// A page of a run that has just begun, all its sub pages made, in wiring 1 at 50 Hz.
