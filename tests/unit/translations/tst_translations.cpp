@@ -81,8 +81,9 @@ QString lost(const QString &source, const QString &translation)
         const char *pattern;
         const char *name;
     } kKept[] = {
-        { "%\\d", "a place for a value" },  { "\n", "a line feed" },           { "\\A\\s+", "blanks in front" },
-        { "\\s+\\z", "blanks at the end" }, { "\\((%1?|A|V|Hz|mV/A|°)\\)", "a unit" },
+        { "%\\d", "a place for a value" },         { "\n", "a line feed" },
+        { "\\A\\s+", "blanks in front" },          { "\\s+\\z", "blanks at the end" },
+        { "\\((%1?|A|V|Hz|mV/A|°)\\)", "a unit" },
     };
     for (const auto &kept : kKept) {
         if (parts(source, kept.pattern) != parts(translation, kept.pattern))
