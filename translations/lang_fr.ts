@@ -63,7 +63,7 @@ dans cette version du logiciel.</translation>
     </message>
     <message>
         <source>Power&amp;Energy</source>
-        <translation>Puissance &amp; énergie</translation>
+        <translation>Puissance/énergie</translation>
     </message>
     <message>
         <source>Flicker</source>
@@ -887,7 +887,7 @@ voulez-vous quitter ?</translation>
     <message>
         <source>Power&amp;Energy
 </source>
-        <translation>Puissance &amp; énergie
+        <translation>Puissance/énergie
 </translation>
     </message>
     <message>
