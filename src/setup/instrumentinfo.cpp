@@ -12,7 +12,8 @@ namespace {
 
 constexpr int kWidth = 640, kHeight = 180; // pixels
 constexpr int kTop = 20, kPitch = 56, kLineHeight = 44;
-constexpr int kLongestNumber = 32; // letters
+constexpr int kLetters = 22; // pixels
+constexpr int kLongestNumber = 32; // signs
 
 QLabel *addLabel(QWidget *dialog, const char *name, const QRect &place, Qt::Alignment alignment)
 {
@@ -51,7 +52,8 @@ InstrumentInfo::InstrumentInfo(QWidget *parent)
     const QString captions[Lines] = { tr("S/N"), tr("Model") };
     for (int line = 0; line < Lines; ++line) {
         const int top = kTop + line * kPitch;
-        addLabel(this, names[line][0], QRect(40, top, 160, kLineHeight), Qt::AlignLeft)->setText(captions[line]);
+        QLabel *caption = addLabel(this, names[line][0], QRect(40, top, 160, kLineHeight), Qt::AlignLeft);
+        fitText(caption, captions[line], kLetters);
         m_values[line] = addLabel(this, names[line][1], QRect(210, top, 390, kLineHeight), Qt::AlignRight);
     }
     addLabel(this, "btn_f4", QRect(383, 144, 124, 34), Qt::AlignHCenter);
@@ -87,8 +89,8 @@ void InstrumentInfo::stepModel(int step)
 
 void InstrumentInfo::showValues()
 {
-    fitText(m_values[SerialNumber], m_serialNumber, 22);
-    fitText(m_values[Model], UserConfig::modelNames().value(m_model), 22);
+    fitText(m_values[SerialNumber], m_serialNumber, kLetters);
+    fitText(m_values[Model], UserConfig::modelNames().value(m_model), kLetters);
 }
 
 void InstrumentInfo::store()

@@ -55,8 +55,10 @@ std::vector<SetupPage::SubPage> SetupPage::table()
     };
 }
 
-void SetupPage::exitSetup()
+void SetupPage::exitSetup(_quvera_ui_type target)
 {
+    if (target == uiType())
+        return; // its own key leads nowhere
     DeviceInit::initAnalogDevice2();
     emit settingsLeft();
 }

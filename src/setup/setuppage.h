@@ -34,7 +34,7 @@ signals:
 
 private:
     static std::vector<SubPage> table();
-    void exitSetup();
+    void exitSetup(_quvera_ui_type target);
     void showSetupConfigEnter(int joinMode);
     void showJoinInUse();
     /// Back from a wiring at large, to where it was opened.

@@ -19,6 +19,7 @@ private slots:
     void keysLeadFromPageToPage();
     void leavingSetsTheProcessorUpAnewBeforeTheNextPageComes_data();
     void leavingSetsTheProcessorUpAnewBeforeTheNextPageComes();
+    void theSetupKeyOnItsOwnPagesSendsNothing();
     void theSetUpThatIsSentIsTheOneThatWasChosen();
     void summaryShowsWhatIsInForce();
     void longNamesAreCutInTheSummary();
@@ -115,6 +116,19 @@ void TstSetupPage::leavingSetsTheProcessorUpAnewBeforeTheNextPageComes()
     QCOMPARE(frames.word(0, 1), 198u);
     QCOMPARE(frames.word(2, 1), 193u);
     QCOMPARE(frames.word(2, 2), 1u);
+}
+
+void TstSetupPage::theSetupKeyOnItsOwnPagesSendsNothing()
+{
+    SetupPage setup(liveData());
+    setup.enter();
+    SetupCase::press(setup, { F1 });
+    FrameSpy frames;
+    QSignalSpy settings(&setup, &SetupPage::settingsLeft);
+    QTest::keyClick(setup.currentPage(), Qt::Key_S);
+    QCOMPARE(frames.count(), 0);
+    QCOMPARE(settings.count(), 0);
+    QCOMPARE(SetupCase::onTop(setup), QStringLiteral("SetupConfigPage"));
 }
 
 void TstSetupPage::theSetUpThatIsSentIsTheOneThatWasChosen()

@@ -4,6 +4,7 @@
 #include "pages/viewcontainer.h"
 #include "settings/dipswellinfo.h"
 #include "settings/harmdata.h"
+#include "setup/setuppage.h"
 #include "shell/pagetable.h"
 #include "shell/tasklinks.h"
 #include "task/unitask.h"
@@ -40,6 +41,8 @@ private slots:
     void whatTheTaskKeepsFollowsTheFrequencyBeforeItsPagesAreMade();
     void inverterIsSetUpAnewOnlyWhenItIsLeft();
     void holdOfTheInverterWaitsForItsStart();
+    void setupAsksBeforeItEndsAMeasurement();
+    void whatSetupChangedIsOnTheNextPage();
     void aCommandedPageIsEnteredOnceItIsInFront();
 
 private:
@@ -255,6 +258,47 @@ void TstVisits::aCommandedPageIsEnteredOnceItIsInFront()
     QCOMPARE(inFront, static_cast<QWidget *>(page));
     QVERIFY(page->currentPage()->isAncestorOf(page->window()->focusWidget()));
     disconnect(stack, nullptr, this, nullptr);
+}
+
+void TstVisits::setupAsksBeforeItEndsAMeasurement()
+{
+    constexpr auto kSetup = Qt::Key_S;
+    visit("vif");
+    g_unitask->startTask();
+    DialogAnswer stay(kF5);
+    QTest::keyClick(vifPage()->currentPage(), kSetup);
+    QVERIFY(stay.text.contains(QStringLiteral("is running.\ndo you want to quit?")));
+    QCOMPARE(top(), static_cast<QWidget *>(vifPage()));
+    QVERIFY(g_unitask->isTaskRunning());
+    DialogAnswer quit(kF4);
+    QTest::keyClick(vifPage()->currentPage(), kSetup);
+    QVERIFY(quit.asked);
+    QCOMPARE(title(), QStringLiteral("Setup"));
+    QCOMPARE(top(), static_cast<QWidget *>(pageOf<SetupPage>(UI_SETUP)));
+    QVERIFY(!m_taskmanage->currentTask());
+    backToMenu();
+    QCOMPARE(title(), QStringLiteral("Menu"));
+}
+
+void TstVisits::whatSetupChangedIsOnTheNextPage()
+{
+    const auto restore = qScopeGuard([] { m_settingConfig_g.setJoinMode(1); });
+    m_settingConfig_g.setJoinMode(1);
+    visit("vif");
+    QCOMPARE(vifPage()->currentPage()->findChild<QLabel *>("header_1")->text(), QStringLiteral("L1"));
+    backToMenu();
+    m_taskmanage->exitTask();
+    QTest::keyClick(m_basedialog->menu(), Qt::Key_S);
+    const auto *setup = pageOf<SetupPage>(UI_SETUP);
+    for (const Qt::Key key : { kF1, kRight, kEnter, kF4 }) // Config, from 3P WYE to 3P IT, its picture, Ok
+        QTest::keyClick(setup->currentPage(), key);
+    QCOMPARE(m_settingConfig_g.getJoinMode(), 2);
+    QTest::keyClick(setup->currentPage(), kF6); // Scope
+    QCOMPARE(title(), QStringLiteral("Scope"));
+    QVERIFY(m_taskmanage->currentTask());
+    backToMenu();
+    visit("vif");
+    QCOMPARE(vifPage()->currentPage()->findChild<QLabel *>("header_1")->text(), QStringLiteral("L12"));
 }
 
 QTEST_MAIN(TstVisits)
