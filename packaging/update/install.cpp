@@ -93,15 +93,31 @@ Outcome Installation::run()
     return {};
 }
 
+/// Whether a link leads to it, however the link is written: someone may have made it by hand.
 bool Installation::isWanted(const std::string &version) const
 {
-    const std::string place = std::string(kVersionsFolder) + '/' + version;
-    return place == target(m_top, kCurrentLink) || place == target(m_top, kPreviousLink);
+    struct stat folder
+    {
+    }, linked {};
+    if (::fstatat(m_versions, version.c_str(), &folder, AT_SYMLINK_NOFOLLOW) != 0)
+        return false;
+    for (const char *link : { kCurrentLink, kPreviousLink }) {
+        if (::fstatat(m_top, link, &linked, 0) == 0 && linked.st_dev == folder.st_dev && linked.st_ino == folder.st_ino)
+            return true;
+    }
+    return false;
 }
 
 /// Versions that no link leads to: older ones, and what an update that was cut off left.
 bool Installation::removeUnused() const
 {
+    struct stat linked
+    {
+    };
+    for (const char *link : { kCurrentLink, kPreviousLink }) {
+        if (::fstatat(m_top, link, &linked, 0) != 0 && errno != ENOENT)
+            return false; // what cannot be looked at may be in use
+    }
     bool good = true;
     for (const std::string &name : namesIn(m_versions)) {
         if (!isWanted(name))

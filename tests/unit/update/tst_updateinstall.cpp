@@ -21,6 +21,7 @@ private slots:
     void allIsOnTheDiskBeforeTheNewVersionCounts();
     void versionBeforeIsKeptAndOlderOnesGo();
     void sameVersionAgainIsInstalledBesideTheOneThatRuns();
+    void versionThatALinkMadeByHandLeadsToIsKept();
     void folderInPlaceOfTheLinkIsLeftAlone();
     void linkInPlaceOfTheVersionsIsNotFollowed();
     void twoUpdatesAtOnceDoNotMix();
@@ -205,6 +206,21 @@ void TstUpdateInstall::sameVersionAgainIsInstalledBesideTheOneThatRuns()
     QCOMPARE(desk.unpack(desk.softwarePackage(kOld, 2)).status, int(Done));
     QCOMPARE(desk.versions(), QStringList({ "2", "2.2" }));
     QCOMPARE(desk.current(), kOld);
+}
+
+void TstUpdateInstall::versionThatALinkMadeByHandLeadsToIsKept()
+{
+    const UpdatedDesk desk;
+    for (const QString &to : { desk.path("/opt/quvera/versions/2"), QStringLiteral("./versions//2/") }) {
+        QVERIFY(QFile::remove(desk.path("/opt/quvera/current")));
+        QVERIFY(QFile::link(to, desk.path("/opt/quvera/current")));
+        // The first write fails, so that no new version takes the place.
+        const QString package = put(desk, desk.softwarePackage(kNew, 3));
+        QCOMPARE(desk.unpack(package, faulty(desk, "DISK_FAIL", "3")).status, int(NotInstalled));
+        QCOMPARE(desk.current(), kOld);
+    }
+    QCOMPARE(desk.unpack(desk.softwarePackage(kNew, 3)).status, int(Done));
+    QCOMPARE(desk.version(kPreviousLink), kOld);
 }
 
 void TstUpdateInstall::folderInPlaceOfTheLinkIsLeftAlone()
