@@ -7,6 +7,8 @@
 #include "shell/tasklinks.h"
 #include "unit/markedlanguage.h"
 #include "unit/views/pagetest.h"
+#include "widgets/charts/monitorharmhisto.h"
+#include "widgets/charts/monitorhistogram.h"
 #include "widgets/dialogs/filecopingprogressbar.h"
 #include "widgets/dialogs/filemanager.h"
 #include "widgets/dialogs/message.h"
@@ -102,6 +104,7 @@ private slots:
 
 private:
     void look(QWidget *widget, const QString &where);
+    void lookAtCharts();
     void lookAtDialogs();
     void walk(LivePage *page, FunctionPage *whole, const std::function<void()> &show);
     void closeDialog();
@@ -206,6 +209,17 @@ void TstLanguages::walk(LivePage *page, FunctionPage *whole, const std::function
     }
 }
 
+/// Charts with words of their own, also where no page shows them yet.
+void TstLanguages::lookAtCharts()
+{
+    MonitorHistogram quantities;
+    MonitorHarmHisto orders;
+    for (QWidget *chart : { static_cast<QWidget *>(&quantities), static_cast<QWidget *>(&orders) }) {
+        chart->resize(620, 340);
+        look(chart, QString::fromLatin1(chart->metaObject()->className()));
+    }
+}
+
 void TstLanguages::lookAtDialogs()
 {
     m_where = QStringLiteral("dialogs");
@@ -240,6 +254,7 @@ void TstLanguages::everyTextFits()
     m_basedialog->navigator().go(UI_VIF, UI_MENU);
     look(m_basedialog, QStringLiteral("window"));
     lookAtDialogs();
+    lookAtCharts();
     for (const auto &page : m_pages) {
         page->retranslateUi();
         page->resize(640, 448);
