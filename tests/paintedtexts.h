@@ -101,7 +101,7 @@ inline QVector<PaintedText> paintedTexts(QWidget &top)
     QList<QWidget *> widgets = top.findChildren<QWidget *>();
     widgets.prepend(&top);
     for (QWidget *widget : widgets) {
-        if (!widget->isVisibleTo(&top) || widget->size().isEmpty())
+        if ((widget != &top && !widget->isVisibleTo(&top)) || widget->size().isEmpty())
             continue;
         TextRecorder recorder(widget->size());
         widget->render(&recorder, QPoint(), QRegion(), QWidget::RenderFlags());

@@ -55,11 +55,12 @@ void ComplianceBars::drawLegends(QPainter &painter) const
                     { m_allowedSign, QCoreApplication::translate("ComplianceBars", "Allowed%"), 54 } };
     painter.setPen(Qt::white);
     ChartParts::setFontPixels(painter, 14);
-    constexpr int kLegendWidth = 96; // sign and text
+    constexpr int kMargin = 4;
+    int textX = width() - 66; // further left for a longer text
+    for (const auto &legend : legends)
+        textX = std::min(textX, width() - kMargin - painter.fontMetrics().horizontalAdvance(legend.text));
     for (const auto &legend : legends) {
-        const int x = width() - kLegendWidth;
-        painter.drawPixmap(x, legend.y, legend.sign);
-        const int textX = x + std::max(legend.sign.width(), 12) + 6;
+        painter.drawPixmap(textX - 6 - std::max(legend.sign.width(), 12), legend.y, legend.sign);
         const int rowHeight = std::max(legend.sign.height(), 16);
         painter.drawText(textX, legend.y, width() - textX, rowHeight, Qt::AlignLeft | Qt::AlignVCenter, legend.text);
     }
