@@ -104,8 +104,10 @@ void TstPhaseColorDialog::cancelLeavesFileAndColorsAsTheyAre()
 
 void TstPhaseColorDialog::digitsBehindThePaletteOpenWithThePhasesOwnColor()
 {
-    PhaseColor::setPhaseColors(QStringLiteral("9x231"));
-    QCOMPARE(after({}), QStringLiteral("01231"));
+    for (const char *digits : { "91231", "01631", "9x231" }) {
+        PhaseColor::setPhaseColors(QString::fromLatin1(digits));
+        QCOMPARE(after({}), QStringLiteral("01231"));
+    }
     PhaseColor::setPhaseColors(QStringLiteral("012"));
     QCOMPARE(after({}), QStringLiteral("01231"));
 }

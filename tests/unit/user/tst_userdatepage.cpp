@@ -283,6 +283,8 @@ void TstUserDatePage::cancelRestoresAndStoresNothing()
 void TstUserDatePage::clockBytes()
 {
     QCOMPARE(UserDatePage::adjustdate(utc(2024, 1, 18, 16, 15, 42)), QByteArray::fromHex("2a0f10041201e807"));
+    const QDateTime elsewhere(QDate(2024, 1, 18), QTime(18, 15, 42), Qt::OffsetFromUTC, 7200);
+    QCOMPARE(UserDatePage::adjustdate(elsewhere), QByteArray::fromHex("2a0f10041201e807"));
     QCOMPARE(UserDatePage::adjustdate(utc(2000, 2, 29, 0, 0, 0)), QByteArray::fromHex("000000021d02d007"));
     QCOMPARE(UserDatePage::adjustdate(utc(2023, 12, 31, 23, 59, 59)), QByteArray::fromHex("3b3b17071f0ce707"));
 }

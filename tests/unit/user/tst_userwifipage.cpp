@@ -34,6 +34,7 @@ private slots:
     void cancelledPasswordJoinsNothing();
     void storedNetworkNeedsNoPassword();
     void storedNetworkTakesANewPassword();
+    void refusedPasswordSelectsNothing();
     void hiddenNetworkAsksForItsName();
     void hiddenNetworkWithoutANameIsRefused();
     void shortPasswordIsRefused();
@@ -283,6 +284,18 @@ void TstUserWifiPage::storedNetworkTakesANewPassword()
     QVERIFY(changes().contains("SELECT_NETWORK 3"));
 }
 
+void TstUserWifiPage::refusedPasswordSelectsNothing()
+{
+    m_daemon->answers["LIST_NETWORKS"] = "network id / ssid / bssid / flags\n3\tHall\tany\t\n";
+    m_daemon->answers["SET_NETWORK"] = "FAIL\n";
+    openWith({ network("Hall", kSecured) });
+    DialogDriver driver({ DialogDriver::press("K"), type(QStringLiteral("other-one")), DialogDriver::press("F") });
+    press(F4);
+    QTRY_COMPARE(changes(), QVector<QByteArray> { "SET_NETWORK 3 ssid \"Hall\"" });
+    QTRY_VERIFY(shown("state") != QStringLiteral("Connecting"));
+    QCOMPARE(changes().size(), 1);
+}
+
 void TstUserWifiPage::hiddenNetworkAsksForItsName()
 {
     openWith({ network("", kSecured) });
@@ -353,9 +366,9 @@ void TstUserWifiPage::selectionStaysOnItsNetwork()
     press(Down, 2);
     QCOMPARE(shown("count"), QStringLiteral("3 / 3"));
     m_daemon->networks
-        = { network("c", kOpen, 3), network("d", kOpen, 4), network("a", kOpen, 1), network("b", kOpen, 2) };
+        = { network("d", kOpen, 4), network("c", kOpen, 3), network("a", kOpen, 1), network("b", kOpen, 2) };
     Wifi::scanResults();
-    QTRY_COMPARE(shown("count"), QStringLiteral("1 / 4"));
+    QTRY_COMPARE(shown("count"), QStringLiteral("2 / 4"));
     m_daemon->networks = { network("d", kOpen, 4) };
     Wifi::scanResults();
     QTRY_COMPARE(shown("count"), QStringLiteral("1 / 1"));

@@ -285,6 +285,11 @@ void TstVirtualKeyBoard::keysOfThePanelKeepTheirMeaning()
     QCOMPARE(keyboard.text(), QStringLiteral("Q1w"));
     QTest::keyClick(&keyboard, Qt::Key_F2);
     QCOMPARE(keyboard.text(), QString());
+    for (const auto modifier : { Qt::ControlModifier, Qt::AltModifier, Qt::MetaModifier }) {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_V, modifier, QStringLiteral("v")); // the desk's own
+        QCoreApplication::sendEvent(&keyboard, &event);
+    }
+    QCOMPARE(keyboard.text(), QString());
     panel('L');
     QVERIFY(!keyboard.isVisible());
 }
