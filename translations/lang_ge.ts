@@ -2217,7 +2217,7 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation>Schließen</translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>Open</source>

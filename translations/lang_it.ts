@@ -2217,7 +2217,7 @@ Sovrascriverlo?</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation>Chiudi</translation>
+        <translation>Disattiva</translation>
     </message>
     <message>
         <source>Open</source>

@@ -2217,7 +2217,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Close</source>
-        <translation>닫기</translation>
+        <translation>끄기</translation>
     </message>
     <message>
         <source>Open</source>

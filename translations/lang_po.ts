@@ -2217,7 +2217,7 @@ Czy go zastąpić?</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation>Zamknij</translation>
+        <translation>Wyłącz</translation>
     </message>
     <message>
         <source>Open</source>

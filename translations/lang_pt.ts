@@ -2217,7 +2217,7 @@ Deseja substituí-lo?</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation>Fechar</translation>
+        <translation>Desativar</translation>
     </message>
     <message>
         <source>Open</source>

@@ -2217,7 +2217,7 @@ Do you want to overwrite it?</source>
     </message>
     <message>
         <source>Close</source>
-        <translation>Cerrar</translation>
+        <translation>Desactivar</translation>
     </message>
     <message>
         <source>Open</source>
