@@ -1,3 +1,4 @@
+#include "unit/documentpage.h"
 #include "unit/task/calibrationcase.h"
 #include "unit/widgets/dialogdriver.h"
 
@@ -25,6 +26,7 @@ private slots:
     void theChannelGoesRound();
     void eachItemStartsItsRunAndTellsIt_data();
     void eachItemStartsItsRunAndTellsIt();
+    void theDocumentTellsWhatEachRunDoes();
     void theChannelOfTheKeyIsTheOneThatIsStored();
     void duringARunOnlyCancelDoesSomething();
     void startDuringARunDoesNotBeginItAnew();
@@ -168,6 +170,45 @@ void TstCalibrationDialog::eachItemStartsItsRunAndTellsIt()
     QCOMPARE(info(dialog), QStringLiteral("Ok!"));
     for (int k = 0; k < 4; ++k)
         QCOMPARE(dialog.task().file().calibData()[firstFloat + k], value);
+}
+
+// Runs of 2 units each, as the table says how long they are and which row of the block they fill.
+void TstCalibrationDialog::theDocumentTellsWhatEachRunDoes()
+{
+    const auto rows = DocumentPage(QStringLiteral("calibration.md")).table(QStringLiteral("## Runs"));
+    QCOMPARE(rows.size(), kRowCount);
+    CalibrationDialog dialog;
+    for (int i = 0; i < kRowCount; ++i, press(dialog, { Letter::Down })) {
+        const QStringList &row = rows.at(i);
+        QCOMPARE(row.value(0), labelText(&dialog, kRows[i].name));
+        const CalibFile before = dialog.task().file();
+        press(dialog, { Letter::F3 });
+        Measured measured;
+        measured.volts = measured.amps = measured.voltOffsets = measured.ampOffsets = { 2, 2, 2, 2 };
+        measured.send(row.value(2).toInt() - 1);
+        QVERIFY(dialog.isRunning());
+        measured.send();
+        QVERIFY(!dialog.isRunning());
+        QStringList filled;
+        for (int r = 0; r < 16; ++r) {
+            const float *now = dialog.task().file().calibData() + 4 * r;
+            if (memcmp(now, before.calibData() + 4 * r, 16) == 0)
+                continue;
+            static const char *const kTables[] = { "zeroVolt", "zeroCurrent", "volt", "current" };
+            filled << QStringLiteral("%1 row %2").arg(QLatin1String(kTables[r / 4])).arg(r % 4);
+            if (i > 0)
+                QVERIFY(std::fabs(now[0] - row.value(1).section(' ', 0, 0).toFloat() / 2) < 1e-4f);
+        }
+        if (i == 0)
+            QCOMPARE(filled.size(), 8); // all rows of both
+        else
+            QCOMPARE(filled, QStringList { row.value(3) });
+        const Switches now = switches();
+        if (i > 0)
+            QCOMPARE(row.value(5),
+                     i < 5 ? QStringLiteral("voltage %1").arg(now.phaseVolt)
+                           : QStringLiteral("current %1").arg(now.phaseCurrent));
+    }
 }
 
 void TstCalibrationDialog::theChannelOfTheKeyIsTheOneThatIsStored()
