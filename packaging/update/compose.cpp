@@ -64,9 +64,9 @@ Outcome addFile(const std::string &path, const std::string &name, std::vector<So
 Outcome addFolder(const std::string &path, const std::string &prefix, std::vector<Source> *sources)
 {
     const File folder = openFolder(AT_FDCWD, path);
-    if (!folder)
-        return wrong(path + " is no folder that can be opened");
-    std::vector<std::string> names = namesIn(folder.descriptor());
+    std::vector<std::string> names;
+    if (!folder || !namesIn(folder.descriptor(), &names))
+        return wrong(path + " is no folder that can be read");
     std::sort(names.begin(), names.end()); // the same folder gives the same package
     for (const std::string &name : names) {
         struct stat info

@@ -102,22 +102,25 @@ bool replaceSmall(int folder, const std::string &name, const std::string &conten
     return ::renameat(folder, aside.c_str(), folder, name.c_str()) == 0 && ::fsync(folder) == 0;
 }
 
-std::vector<std::string> namesIn(int folder)
+bool namesIn(int folder, std::vector<std::string> *names)
 {
-    std::vector<std::string> names;
+    names->clear();
     const int twin = ::openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     DIR *listing = twin >= 0 ? ::fdopendir(twin) : nullptr;
     if (!listing) {
         if (twin >= 0)
             ::close(twin);
-        return names;
+        return false;
     }
+    errno = 0;
     while (const dirent *entry = ::readdir(listing)) {
         if (std::strcmp(entry->d_name, ".") != 0 && std::strcmp(entry->d_name, "..") != 0)
-            names.emplace_back(entry->d_name);
+            names->emplace_back(entry->d_name);
+        errno = 0;
     }
+    const bool whole = errno == 0;
     ::closedir(listing);
-    return names;
+    return whole;
 }
 
 bool removeTree(int folder, const std::string &name)
@@ -128,9 +131,10 @@ bool removeTree(int folder, const std::string &name)
         return false;
     {
         const File inner = openFolder(folder, name);
-        if (!inner)
+        std::vector<std::string> names;
+        if (!inner || !namesIn(inner.descriptor(), &names))
             return false;
-        for (const std::string &entry : namesIn(inner.descriptor())) {
+        for (const std::string &entry : names) {
             if (!removeTree(inner.descriptor(), entry))
                 return false;
         }

@@ -42,8 +42,8 @@ bool readSmall(const std::string &path, std::size_t most, std::string *content);
 /// Replaces a small file so that a power cut leaves the old or the new one.
 bool replaceSmall(int folder, const std::string &name, const std::string &content, unsigned mode);
 
-/// What stands in a folder.
-std::vector<std::string> namesIn(int folder);
+/// What stands in a folder. False when it cannot be read to its end.
+bool namesIn(int folder, std::vector<std::string> *names);
 /// Takes a file, a link or a whole folder away without following links. A name that is not there is fine.
 bool removeTree(int folder, const std::string &name);
 

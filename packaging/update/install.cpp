@@ -118,8 +118,9 @@ bool Installation::removeUnused() const
         if (::fstatat(m_top, link, &linked, 0) != 0 && errno != ENOENT)
             return false; // what cannot be looked at may be in use
     }
-    bool good = true;
-    for (const std::string &name : namesIn(m_versions)) {
+    std::vector<std::string> names;
+    bool good = namesIn(m_versions, &names);
+    for (const std::string &name : names) {
         if (!isWanted(name))
             good = removeTree(m_versions, name) && good;
     }
@@ -181,7 +182,10 @@ File Installation::folderOf(int folder, const std::string &name) const
 
 bool Installation::syncFolders(int folder) const
 {
-    for (const std::string &name : namesIn(folder)) {
+    std::vector<std::string> names;
+    if (!namesIn(folder, &names))
+        return false;
+    for (const std::string &name : names) {
         const File inner = openFolder(folder, name);
         if (inner ? !syncFolders(inner.descriptor()) : errno != ENOTDIR)
             return false;
