@@ -15,7 +15,6 @@ SetupPane::~SetupPane() = default;
 
 void SetupPane::dressPane()
 {
-    setObjectName(QString::fromLatin1(metaObject()->className()));
     LabelLook::dress(this);
 }
 
@@ -28,6 +27,7 @@ void SetupPane::init_parameter()
 
 void SetupPane::retranslateUi()
 {
+    setObjectName(QString::fromLatin1(metaObject()->className())); // by now the page is whole
     LivePage::retranslateUi();
     setText(m_ui->title, QCoreApplication::translate(metaObject()->className(), m_title));
     showSettings();

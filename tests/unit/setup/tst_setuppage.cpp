@@ -1,4 +1,5 @@
 #include "setupcase.h"
+#include "unit/documentpage.h"
 #include "unit/views/framespy.h"
 
 #include <QSignalSpy>
@@ -17,6 +18,7 @@ private slots:
     void setupOpensWithItsFirstPageWhicheverWasLeftLast();
     void keysLeadFromPageToPage_data();
     void keysLeadFromPageToPage();
+    void softKeysAreThoseOfTheDocument();
     void leavingSetsTheProcessorUpAnewBeforeTheNextPageComes_data();
     void leavingSetsTheProcessorUpAnewBeforeTheNextPageComes();
     void theSetupKeyOnItsOwnPagesSendsNothing();
@@ -81,6 +83,23 @@ void TstSetupPage::keysLeadFromPageToPage()
     setup.enter();
     SetupCase::press(setup, keys);
     QTEST(SetupCase::onTop(setup), "page");
+}
+
+void TstSetupPage::softKeysAreThoseOfTheDocument()
+{
+    const auto rows = DocumentPage(QStringLiteral("setup-pages.md")).table(QStringLiteral("## Pages"));
+    SetupPage setup(liveData());
+    openAll(setup);
+    for (const QStringList &row : rows) {
+        const auto *page = setup.findChild<LivePage *>(row.value(0));
+        QVERIFY2(page, qPrintable(row.value(0)));
+        QStringList keys;
+        for (int key = 1; key <= 5; ++key)
+            keys << PageTest::text(page, QStringLiteral("btn_f%1").arg(key));
+        keys.removeAll(QString());
+        QCOMPARE(keys.join(QStringLiteral(", ")), row.value(2));
+    }
+    QCOMPARE(rows.size(), 11);
 }
 
 void TstSetupPage::leavingSetsTheProcessorUpAnewBeforeTheNextPageComes_data()

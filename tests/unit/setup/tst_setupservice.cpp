@@ -2,6 +2,7 @@
 
 #include "setup/calibrationdialog.h"
 #include "setup/instrumentinfo.h"
+#include "unit/documentpage.h"
 #include "unit/widgets/dialogdriver.h"
 
 #include <QRegularExpression>
@@ -11,8 +12,19 @@ using SetupCase::Keys;
 
 namespace {
 
-const char kCalibration[] = "LLRRLRLR";
-const char kInstrument[] = "RRLLRLRL";
+/// The arrows that open a dialog, as the document has them.
+QByteArray documented(const char *dialog)
+{
+    for (const QStringList &row :
+         DocumentPage(QStringLiteral("setup-pages.md")).table(QStringLiteral("## For the service"))) {
+        if (row.value(1) == QLatin1String(dialog))
+            return row.value(0).remove(QLatin1Char(' ')).toLatin1();
+    }
+    return "not documented";
+}
+
+const QByteArray kCalibration = documented("CalibrationDialog");
+const QByteArray kInstrument = documented("InstrumentInfo");
 
 QStringList logLines;
 
@@ -46,13 +58,13 @@ private slots:
     void okWithoutAChangeStoresNothing();
 
 private:
-    static void type(SetupPage &setup, const char *sequence)
+    static void type(SetupPage &setup, const QByteArray &sequence)
     {
-        for (; *sequence; ++sequence)
-            SetupCase::press(setup, { *sequence == 'L' ? Left : *sequence == 'R' ? Right : Down });
+        for (const char arrow : sequence)
+            SetupCase::press(setup, { arrow == 'L' ? Left : arrow == 'R' ? Right : Down });
     }
     /// Class of the dialog that a sequence opens; it is closed again. Empty: none.
-    static QString opens(SetupPage &setup, const char *sequence)
+    static QString opens(SetupPage &setup, const QByteArray &sequence)
     {
         QString name;
         DialogDriver driver({ [&name](QDialog *dialog) {
@@ -89,8 +101,8 @@ void TstSetupService::sequencesOpenTheirDialogs_data()
 {
     QTest::addColumn<QByteArray>("sequence");
     QTest::addColumn<QString>("dialog");
-    QTest::newRow("calibration") << QByteArray(kCalibration) << QStringLiteral("CalibrationDialog");
-    QTest::newRow("instrument") << QByteArray(kInstrument) << QStringLiteral("InstrumentInfo");
+    QTest::newRow("calibration") << kCalibration << QStringLiteral("CalibrationDialog");
+    QTest::newRow("instrument") << kInstrument << QStringLiteral("InstrumentInfo");
     // The last eight arrows count.
     QTest::newRow("calibration behind other arrows")
         << QByteArray("RRR") + kCalibration << QStringLiteral("CalibrationDialog");
@@ -104,14 +116,14 @@ void TstSetupService::sequencesOpenTheirDialogs()
     QFETCH(QByteArray, sequence);
     SetupPage setup(liveData());
     setup.enter();
-    QTEST(opens(setup, sequence.constData()), "dialog");
+    QTEST(opens(setup, sequence), "dialog");
     QCOMPARE(SetupCase::onTop(setup), QStringLiteral("SetupMain"));
 }
 
 void TstSetupService::nearMissesOpenNothing_data()
 {
     QTest::addColumn<QByteArray>("sequence");
-    for (const QByteArray &sequence : { QByteArray(kCalibration), QByteArray(kInstrument) }) {
+    for (const QByteArray &sequence : { kCalibration, kInstrument }) {
         for (int i = 0; i < sequence.size(); ++i) {
             QByteArray wrong = sequence;
             wrong[i] = wrong[i] == 'L' ? 'R' : 'L';
@@ -130,7 +142,7 @@ void TstSetupService::nearMissesOpenNothing()
     QFETCH(QByteArray, sequence);
     SetupPage setup(liveData());
     setup.enter();
-    QCOMPARE(opens(setup, sequence.constData()), QString());
+    QCOMPARE(opens(setup, sequence), QString());
 }
 
 void TstSetupService::eachSequenceOpensItsDialogAgain()
