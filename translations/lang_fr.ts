@@ -2217,11 +2217,11 @@ Voulez-vous l&apos;écraser ?</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation>Fermer</translation>
+        <translation>Désactiver</translation>
     </message>
     <message>
         <source>Open</source>
-        <translation>Ouvrir</translation>
+        <translation>Activer</translation>
     </message>
     <message>
         <source>%1 dBm</source>

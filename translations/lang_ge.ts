@@ -381,7 +381,7 @@ soll sie beendet werden?</translation>
     </message>
     <message>
         <source>Fold Dir</source>
-        <translation>Ordner auf</translation>
+        <translation>Ebene höher</translation>
     </message>
     <message>
         <source>Select</source>
@@ -1345,11 +1345,11 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>I Ratio :</source>
-        <translation>I-Verhältnis :</translation>
+        <translation>I-Übersetzung :</translation>
     </message>
     <message>
         <source>V Ratio :</source>
-        <translation>U-Verhältnis :</translation>
+        <translation>U-Übersetzung :</translation>
     </message>
     <message>
         <source>Channel :</source>
@@ -1720,11 +1720,11 @@ Soll sie überschrieben werden?</translation>
     </message>
     <message>
         <source>I Ratio</source>
-        <translation>I-Verhältnis</translation>
+        <translation>I-Übersetzung</translation>
     </message>
     <message>
         <source>V Ratio</source>
-        <translation>U-Verhältnis</translation>
+        <translation>U-Übersetzung</translation>
     </message>
     <message>
         <source>Irange</source>

@@ -381,7 +381,7 @@ czy zakończyć?</translation>
     </message>
     <message>
         <source>Fold Dir</source>
-        <translation>Folder wyżej</translation>
+        <translation>Poziom wyżej</translation>
     </message>
     <message>
         <source>Select</source>
@@ -430,7 +430,7 @@ czy zakończyć?</translation>
     <name>HarmMain</name>
     <message>
         <source>Meter</source>
-        <translation>Mierniki</translation>
+        <translation>Wartości</translation>
     </message>
     <message>
         <source>Hold</source>

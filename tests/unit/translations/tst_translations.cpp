@@ -198,6 +198,8 @@ void TstTranslations::everyTextIsTranslated()
         if (!m_found.texts.contains(text.key()))
             faults << text.key().first + QStringLiteral(" no longer has: ") + text.key().second;
     }
+    if (!faults.isEmpty())
+        faults.prepend(QStringLiteral("translations/README.md says what to do:"));
     QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
 }
 
