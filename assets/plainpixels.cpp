@@ -1,8 +1,8 @@
 // Rewrites a picture as plain pixels, at build time: what is shown while the instrument starts is then copied instead
 // of decoded. Usage: plainpixels PICTURE.png PLAIN
 //
-// An opaque picture becomes a PPM (three bytes a pixel), one with transparency a BMP with an alpha channel (four). The
-// toolkit reads both, and the pixels stay the same.
+// The picture becomes a BMP of four bytes a pixel, as the toolkit keeps pixels in memory, with an alpha channel if it
+// is transparent anywhere. The toolkit reads it; src/shell/plainpicture.cpp copies it. The pixels stay the same.
 #include <QDataStream>
 #include <QFile>
 #include <QImage>
@@ -32,6 +32,7 @@ QByteArray bmp(const QImage &image)
     constexpr quint32 kBitFields = 3;
     constexpr quint32 kSrgb = 0x73524742;
     const quint32 pixels = quint32(image.width()) * quint32(image.height()) * 4;
+    const quint32 alphaMask = isOpaque(image) ? 0 : 0xff000000;
     QByteArray bytes;
     QDataStream out(&bytes, QIODevice::WriteOnly);
     out.setByteOrder(QDataStream::LittleEndian);
@@ -39,25 +40,12 @@ QByteArray bmp(const QImage &image)
     out << (kFileHeader + kInfoHeader + pixels) << quint32(0) << (kFileHeader + kInfoHeader);
     out << kInfoHeader << qint32(image.width()) << qint32(-image.height()) << quint16(1) << quint16(32) << kBitFields
         << pixels << kPerMetre << kPerMetre << quint32(0) << quint32(0) << quint32(0x00ff0000) << quint32(0x0000ff00)
-        << quint32(0x000000ff) << quint32(0xff000000) << kSrgb;
+        << quint32(0x000000ff) << alphaMask << kSrgb;
     while (bytes.size() < int(kFileHeader + kInfoHeader))
         out << quint8(0);
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x)
             out << quint32(image.pixel(x, y));
-    }
-    return bytes;
-}
-
-QByteArray ppm(const QImage &image)
-{
-    QByteArray bytes = QByteArrayLiteral("P6\n") + QByteArray::number(image.width()) + ' '
-        + QByteArray::number(image.height()) + "\n255\n";
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QRgb pixel = image.pixel(x, y);
-            bytes.append(char(qRed(pixel))).append(char(qGreen(pixel))).append(char(qBlue(pixel)));
-        }
     }
     return bytes;
 }
@@ -71,7 +59,7 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "plainpixels: no picture can be read\n");
         return 1;
     }
-    const QByteArray plain = isOpaque(image) ? ppm(image) : bmp(image);
+    const QByteArray plain = bmp(image);
     // What was made must be what was given.
     const QImage again = QImage::fromData(plain).convertToFormat(QImage::Format_ARGB32);
     QFile file(QFile::decodeName(argv[2]));

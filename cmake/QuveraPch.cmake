@@ -1,10 +1,13 @@
 # Precompiled headers: the headers that most sources include are read once per kind of target, not once per source.
 # They stay short on purpose: all of QtWidgets takes longer to load than most sources take to compile.
 #
-#   pch_core     containers, strings, files     the processor stand-in
-#   pch_gui      pch_core and the widgets       folders of src/
+#   pch_plain    containers and numbers         the measuring of the processor stand-in, which knows no toolkit
+#   pch_core     containers, strings, files     the processor stand-in, tools, readers of foreign bytes
+#   pch_gui      pch_core and the widgets       folders of src/, benchmarks
 #   pch_test     pch_core and QTest             tests without widgets
 #   pch_guitest  pch_gui and QTest              tests of folders
+#
+# A test says `#include <QTest>`: the umbrella `<QtTest>` reads the whole core of the toolkit anew in each test.
 #
 # A source still includes what it uses: QUVERA_PCH=OFF builds without, and the sources must compile so too.
 option(QUVERA_PCH "Read the commonest headers precompiled" ON)
@@ -13,7 +16,14 @@ option(QUVERA_PCH "Read the commonest headers precompiled" ON)
 # alike, or they would not fit.
 set(QUVERA_TEST_OPTIONS "")
 if(CMAKE_BUILD_TYPE STREQUAL "RelWithDebInfo" AND CMAKE_CXX_FLAGS_RELWITHDEBINFO MATCHES "-O2")
-  set(QUVERA_TEST_OPTIONS -O1)
+  set(QUVERA_TEST_OPTIONS -Og)
+endif()
+
+# How the measuring of the processor stand-in is compiled. Sample loops at -O0 would make every test wait for it. No errno
+# and no traps from the maths library: rounding then becomes one instruction, and results stay as they are.
+set(QUVERA_MEASURING_OPTIONS -O3 -fno-math-errno -fno-trapping-math)
+if(CMAKE_BUILD_TYPE STREQUAL "Debug")
+  set(QUVERA_MEASURING_OPTIONS -O2 -fno-math-errno -fno-trapping-math)
 endif()
 
 function(quvera_pch_kind KIND)
@@ -31,6 +41,8 @@ set(pch_core_headers <algorithm> <cmath> <cstring> <functional> <limits> <memory
     <QDir> <QFile> <QList> <QObject> <QString> <QStringList> <QTimer> <QVector>)
 set(pch_gui_headers <QDialog> <QKeyEvent> <QLabel> <QPainter> <QStackedWidget> <QWidget>)
 set(pch_gui_libs Qt5::Widgets Qt5::Network Qt5::Xml)
+quvera_pch_kind(pch_plain HEADERS <algorithm> <array> <cmath> <complex> <memory> <string> <vector>
+                OPTIONS ${QUVERA_MEASURING_OPTIONS})
 quvera_pch_kind(pch_core HEADERS ${pch_core_headers} LIBS Qt5::Core)
 quvera_pch_kind(pch_gui HEADERS ${pch_core_headers} ${pch_gui_headers} LIBS ${pch_gui_libs})
 quvera_pch_kind(pch_test HEADERS ${pch_core_headers} <QSignalSpy> <QTest> LIBS Qt5::Core Qt5::Test

@@ -8,6 +8,20 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+namespace {
+
+/// Writes all bytes to a descriptor and closes it; false where it is none.
+bool writtenAndClosed(int fd, const QByteArray &bytes)
+{
+    if (fd < 0)
+        return false;
+    const bool whole = ::write(fd, bytes.constData(), std::size_t(bytes.size())) == bytes.size();
+    ::close(fd);
+    return whole;
+}
+
+} // namespace
+
 namespace OrdinaryFile {
 
 int open(const QString &path, int flags)
@@ -39,22 +53,13 @@ QByteArray start(const QString &path, int most)
 
 bool write(const QString &path, const QByteArray &bytes)
 {
-    const int fd = open(path, O_WRONLY);
-    if (fd < 0)
-        return false;
-    const bool whole = ::write(fd, bytes.constData(), std::size_t(bytes.size())) == bytes.size();
-    ::close(fd);
-    return whole;
+    return writtenAndClosed(open(path, O_WRONLY), bytes);
 }
 
-bool waitsForReader(const QString &path)
+bool echo(const QString &path, const QByteArray &bytes)
 {
-    if (!isSomethingElse(path))
-        return false;
-    const int fd = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
-    if (fd >= 0)
-        ::close(fd);
-    return fd < 0 && errno == ENXIO;
+    constexpr int kFlags = O_WRONLY | O_CREAT | O_TRUNC | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+    return writtenAndClosed(::open(QFile::encodeName(path).constData(), kFlags, 0666), bytes);
 }
 
 bool isSomethingElse(const QString &path)

@@ -15,9 +15,10 @@ int open(const QString &path, int flags);
 QByteArray start(const QString &path, int most);
 /// Writes \a bytes over the file's first ones, as the files of the kernel take a value; false where it cannot be.
 bool write(const QString &path, const QByteArray &bytes);
+/// Makes the file hold \a bytes, as the shell's redirection does: a missing file is made, what else stands there takes
+/// them as well; false where it cannot. A pipe that nobody reads is not waited for.
+bool echo(const QString &path, const QByteArray &bytes);
 /// Whether something else than an ordinary file stands under this name, which nobody may open blindly.
 bool isSomethingElse(const QString &path);
-/// Whether it is a pipe that nobody reads: who opens it for writing waits.
-bool waitsForReader(const QString &path);
 
 } // namespace OrdinaryFile

@@ -3,9 +3,9 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QFont>
-#include <QFontDatabase>
 #include <QTranslator>
 
+#include "settings/facefile.h"
 #include "settings/translationfile.h"
 #include "settings/userconfig.h"
 #include "platform/target.h"
@@ -19,8 +19,7 @@ const char kCommonFont[] = "/usr/lib/fonts/arial.ttf";
 /// First family of a font file; empty when it cannot be loaded. Each file is loaded once.
 QString familyOf(const char *path)
 {
-    const int id = QFontDatabase::addApplicationFont(Target::path(QLatin1String(path)));
-    return id < 0 ? QString() : QFontDatabase::applicationFontFamilies(id).value(0);
+    return familyOfFaceFile(Target::path(QLatin1String(path)));
 }
 
 QString eastAsianFamily()

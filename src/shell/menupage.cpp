@@ -4,6 +4,7 @@
 #include "settings/config_data.h"
 #include "model/nominalfrequency.h"
 #include "shell/pagetable.h"
+#include "shell/plainpicture.h"
 #include "widgets/controls/labellook.h"
 #include "widgets/dialogs/runinfo.h"
 
@@ -32,7 +33,7 @@ const std::vector<const PageRow *> &tiles()
 
 void MenuItem::showPicture(bool highlighted)
 {
-    setPixmap(QPixmap(QLatin1String(":/") + objectName() + QLatin1String(highlighted ? "_hl" : "")));
+    setPixmap(plainPicture(QLatin1String(":/") + objectName() + QLatin1String(highlighted ? "_hl" : "")));
 }
 
 MenuPage::MenuPage(const LiveData &data, QWidget *parent) : Page(UI_MENU, parent), m_data(data), m_ui(new Ui::MenuPage)

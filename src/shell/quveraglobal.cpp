@@ -13,6 +13,7 @@
 #include "shell/navigator.h"
 #include "services/modbuspublisher.h"
 #include "services/iremote.h"
+#include "shell/plainpicture.h"
 #include "shell/taskmanage.h"
 #include "shell/systemtray.h"
 
@@ -30,12 +31,10 @@ QSplashScreen *splash = nullptr;
 
 void showSplash()
 {
-    QPixmap picture(QStringLiteral(":/splash"));
-    if (m_userConfig_g.getLang() == UserConfig::RU)
-        picture.load(QStringLiteral(":/splash_ru"));
+    const bool russian = m_userConfig_g.getLang() == UserConfig::RU;
     // Never closed: the main window covers it, or appInit hides it.
     splash = new QSplashScreen(QPixmap());
-    splash->setPixmap(picture);
+    splash->setPixmap(plainPicture(russian ? QStringLiteral(":/splash_ru") : QStringLiteral(":/splash")));
     splash->show();
     QCoreApplication::processEvents();
 }

@@ -4,7 +4,7 @@
 #include "scenario/simulator.h"
 
 #include <QtEndian>
-#include <QtTest>
+#include <QTest>
 
 #include <cstring>
 

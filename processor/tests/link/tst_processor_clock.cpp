@@ -1,6 +1,6 @@
 #include "link/deviceclock.h"
 
-#include <QtTest>
+#include <QTest>
 
 using wire::DeviceClock;
 using Bytes = std::array<quint8, 8>;

@@ -3,7 +3,7 @@
 #include "scenario/setcommand.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 using namespace scenario;
 

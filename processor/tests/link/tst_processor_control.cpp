@@ -1,7 +1,7 @@
 #include "board/controlsocket.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <atomic>
 #include <fcntl.h>

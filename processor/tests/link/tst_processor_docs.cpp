@@ -6,7 +6,7 @@
 
 #include <QFile>
 #include <QRegularExpression>
-#include <QtTest>
+#include <QTest>
 
 using namespace scenario;
 

@@ -3,7 +3,7 @@
 #include "link/processorlink.h"
 
 #include <QtEndian>
-#include <QtTest>
+#include <QTest>
 
 #include <random>
 

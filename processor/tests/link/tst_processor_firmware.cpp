@@ -1,7 +1,7 @@
 #include "link/firmwareexchange.h"
 #include "link/frame.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace wire;
 using Words = std::vector<quint32>;

@@ -4,7 +4,7 @@
 #include "link/setupframe.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 #include <cstring>
 

@@ -2,7 +2,7 @@
 #include "link/processorlink.h"
 
 #include <QtEndian>
-#include <QtTest>
+#include <QTest>
 
 #include <cstring>
 

@@ -1,6 +1,6 @@
 #include "scenario/pacer.h"
 
-#include <QtTest>
+#include <QTest>
 
 using scenario::Pacer;
 using std::chrono::milliseconds;

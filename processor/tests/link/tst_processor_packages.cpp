@@ -1,7 +1,7 @@
 #include "link/packager.h"
 
 #include <QtEndian>
-#include <QtTest>
+#include <QTest>
 
 using namespace wire;
 

@@ -9,7 +9,7 @@
 #include <QProcessEnvironment>
 #include <QTemporaryDir>
 #include <QtEndian>
-#include <QtTest>
+#include <QTest>
 
 #include <csignal>
 #include <poll.h>

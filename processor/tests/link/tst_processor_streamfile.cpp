@@ -1,7 +1,7 @@
 #include "link/streamfile.h"
 
 #include <QTemporaryDir>
-#include <QtTest>
+#include <QTest>
 
 using namespace wire;
 

@@ -1,6 +1,6 @@
 #include "testpaths.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <QDirIterator>
 #include <QFile>

@@ -2,7 +2,7 @@
 #include "detect/eventraw.h"
 
 #include <QSignalSpy>
-#include <QtTest>
+#include <QTest>
 
 #include <cstring>
 

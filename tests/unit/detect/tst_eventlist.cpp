@@ -1,7 +1,7 @@
 #include "eventstream.h"
 
 #include <QSignalSpy>
-#include <QtTest>
+#include <QTest>
 
 #include <cstring>
 #include <limits>

@@ -1,7 +1,7 @@
 #include "settings/config_data.h"
 #include "detect/powerevents.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <cmath>
 

@@ -1,7 +1,7 @@
 #include "model/displayrecords.h"
 #include "detect/flickerprocessor.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <algorithm>
 #include <cmath>

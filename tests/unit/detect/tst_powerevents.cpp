@@ -1,7 +1,7 @@
 #include "eventstream.h"
 
 #include <QSignalSpy>
-#include <QtTest>
+#include <QTest>
 
 // Times: the first half cycle is at 1000000 ms, each next one 10 ms later.
 

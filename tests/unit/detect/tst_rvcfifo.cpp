@@ -1,7 +1,7 @@
 #include "detect/powerevents.h"
 #include "eventstream.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <limits>
 

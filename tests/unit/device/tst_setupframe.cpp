@@ -1,4 +1,4 @@
-#include <QtTest>
+#include <QTest>
 
 #include "device/controlframe.h"
 #include "device/setupframe.h"

@@ -1,4 +1,4 @@
-#include <QtTest>
+#include <QTest>
 
 #include "model/channelset.h"
 #include "settings/settingconfig.h"

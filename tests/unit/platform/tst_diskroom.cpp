@@ -2,7 +2,7 @@
 #include "platform/target.h"
 #include "unit/filestandin.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <sys/vfs.h>
 #include <unistd.h>

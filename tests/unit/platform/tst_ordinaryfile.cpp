@@ -3,6 +3,7 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <unistd.h>
 
 /// Files that may be something else.
 class TstOrdinaryFile : public QObject
@@ -42,7 +43,6 @@ private slots:
         QCOMPARE(errno, ENOENT);
         QVERIFY(!QFile::exists(path()));
         QVERIFY(!OrdinaryFile::isSomethingElse(path()));
-        QVERIFY(!OrdinaryFile::waitsForReader(path()));
     }
 
     void somethingElseIsRefusedAtOnce_data() { addFileStandIns(); }
@@ -57,14 +57,26 @@ private slots:
         QVERIFY(OrdinaryFile::isSomethingElse(path()));
     }
 
-    void onlyAPipeWithoutAReaderWaitsForOne()
+    void anEchoLeavesNothingOfTheOldTextAndMakesAMissingFile()
     {
-        QVERIFY(!OrdinaryFile::waitsForReader(path()));
+        QVERIFY(OrdinaryFile::echo(path(), "7\n"));
+        QCOMPARE(OrdinaryFile::start(path(), 16), QByteArray("7\n"));
+        QVERIFY(QFile::remove(path()));
+        QVERIFY(OrdinaryFile::echo(path(), "in\n"));
+        QCOMPARE(OrdinaryFile::start(path(), 16), QByteArray("in\n"));
+        QVERIFY(!OrdinaryFile::echo(path() + QStringLiteral("/below"), "7\n"));
+    }
+
+    void anEchoGoesIntoAPipeAndWaitsForNoReader()
+    {
         QVERIFY(putStandIn(kName, FileStandIn::Pipe));
-        QVERIFY(OrdinaryFile::waitsForReader(path()));
+        QVERIFY(!OrdinaryFile::echo(path(), "7\n"));
         const int reader = ::open(QFile::encodeName(path()).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
         QVERIFY(reader >= 0);
-        QVERIFY(!OrdinaryFile::waitsForReader(path()));
+        QVERIFY(OrdinaryFile::echo(path(), "7\n"));
+        char bytes[8] = {};
+        QCOMPARE(::read(reader, bytes, sizeof(bytes)), ssize_t(2));
+        QCOMPARE(QByteArray(bytes), QByteArray("7\n"));
         ::close(reader);
     }
 

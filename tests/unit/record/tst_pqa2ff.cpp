@@ -8,7 +8,7 @@
 
 #include <QFile>
 #include <QRegularExpression>
-#include <QtTest>
+#include <QTest>
 
 #include <csignal>
 #include <functional>

@@ -10,7 +10,7 @@
 #include <QImage>
 #include <QRegularExpression>
 #include <QWidget>
-#include <QtTest>
+#include <QTest>
 
 #include <limits>
 

@@ -1,7 +1,7 @@
 #include "modbusownserver.h"
 
 #include <QDir>
-#include <QtTest>
+#include <QTest>
 
 #include <cerrno>
 #include <fcntl.h>

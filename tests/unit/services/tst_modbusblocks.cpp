@@ -4,8 +4,9 @@
 
 #include <QFile>
 #include <QRegularExpression>
-#include <QtTest>
+#include <QTest>
 
+#include <cmath>
 #include <cstring>
 #include <memory>
 #include <vector>

@@ -3,7 +3,7 @@
 #include "services/modbusslave.h"
 
 #include <QRegularExpression>
-#include <QtTest>
+#include <QTest>
 
 #include <atomic>
 #include <cstring>

@@ -1,4 +1,5 @@
-#include <QtTest>
+#include <QRegularExpression>
+#include <QTest>
 
 #include "settings/calibfile.h"
 #include "unit/storage/filelimit.h"

@@ -1,4 +1,5 @@
-#include <QtTest>
+#include <QRegularExpression>
+#include <QTest>
 
 #include <QRandomGenerator>
 

@@ -1,4 +1,4 @@
-#include <QtTest>
+#include <QTest>
 
 #include "settings/calibfile.h"
 #include "settings/clampif.h"

@@ -1,4 +1,4 @@
-#include <QtTest>
+#include <QTest>
 
 #include "settings/config.h"
 #include "settings/config_data.h"

@@ -1,4 +1,6 @@
-#include <QtTest>
+#include <QDirIterator>
+#include <QRegularExpression>
+#include <QTest>
 
 #include "settings/limitsmanager.h"
 #include "unit/storage/filelimit.h"

@@ -1,4 +1,4 @@
-#include <QtTest>
+#include <QTest>
 
 #include "settings/config_data.h"
 #include "unit/storage/rootfiles.h"

@@ -2,7 +2,7 @@
 #include "setup/nametext.h"
 #include "setup/ratiochoice.h"
 
-#include <QtTest>
+#include <QTest>
 
 using namespace ClampValues;
 

@@ -4,7 +4,7 @@
 #include "settings/limitsmanager.h"
 #include "unit/documentpage.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <cmath>
 #include <cstring>

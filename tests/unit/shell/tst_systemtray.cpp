@@ -7,7 +7,7 @@
 
 #include <QDir>
 #include <QSignalSpy>
-#include <QtTest>
+#include <QTest>
 
 class TstSystemTray : public QObject
 {

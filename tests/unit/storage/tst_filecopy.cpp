@@ -1,4 +1,4 @@
-#include <QtTest>
+#include <QTest>
 
 #include "storage/filecopy.h"
 #include "unit/storage/filelimit.h"

@@ -1,4 +1,6 @@
-#include <QtTest>
+#include <QRegularExpression>
+#include <QTimeZone>
+#include <QTest>
 
 #include "storage/fileinfo.h"
 #include "unit/storage/filelimit.h"

@@ -1,4 +1,5 @@
-#include <QtTest>
+#include <QSignalSpy>
+#include <QTest>
 
 #include "storage/massstorage.h"
 #include "storage/udiskstorage.h"

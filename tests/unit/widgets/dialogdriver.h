@@ -4,7 +4,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QTimer>
-#include <QtTest>
+#include <QTest>
 
 #include <functional>
 

@@ -3,7 +3,7 @@
 #include "widgets/charts/monitorharmhisto.h"
 #include "widgets/charts/monitorhistogram.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <cmath>
 

@@ -6,7 +6,7 @@
 
 #include <QKeyEvent>
 #include <QVBoxLayout>
-#include <QtTest>
+#include <QTest>
 
 /// A page that notes the keys which reach it.
 class Page : public QWidget

@@ -3,7 +3,7 @@
 #include "settings/config_data.h"
 #include "widgets/controls/eventswidget.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <cmath>
 

@@ -2,7 +2,7 @@
 #include "widgets/text/f_to_str.h"
 #include "widgets/text/numberformat.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <cmath>
 

@@ -3,7 +3,7 @@
 #include "settings/phasecolor.h"
 #include "widgets/charts/harmonicgraph.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <cmath>
 

@@ -2,7 +2,7 @@
 #include "widgets/text/keymap.h"
 
 #include <QKeyEvent>
-#include <QtTest>
+#include <QTest>
 
 class TstKeyMap : public QObject
 {

@@ -2,7 +2,7 @@
 
 #include <QFrame>
 #include <QLabel>
-#include <QtTest>
+#include <QTest>
 
 class TstLabelLook : public QObject
 {

@@ -2,7 +2,7 @@
 #include "platform/clock.h"
 #include "widgets/text/localtime.h"
 
-#include <QtTest>
+#include <QTest>
 
 class TstLocalTime : public QObject
 {

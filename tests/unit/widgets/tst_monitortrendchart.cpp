@@ -3,7 +3,7 @@
 #include "settings/phasecolor.h"
 #include "widgets/charts/monitortrendchart.h"
 
-#include <QtTest>
+#include <QTest>
 
 // A widget of 601 by 320 pixels: frame from x = 80 to 586, bands from y = 0, 101 and 202.
 static const QColor kGrey(Qt::darkGray);

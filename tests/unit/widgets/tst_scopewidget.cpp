@@ -4,7 +4,7 @@
 #include "widgets/charts/scopewidget.h"
 
 #include <QPainter>
-#include <QtTest>
+#include <QTest>
 
 #include <cmath>
 #include <cstring>

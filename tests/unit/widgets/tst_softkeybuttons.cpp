@@ -2,7 +2,7 @@
 
 #include "widgets/controls/softkeybuttons.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <memory>
 

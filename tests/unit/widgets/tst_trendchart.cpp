@@ -5,7 +5,7 @@
 #include "widgets/charts/inrushtrendchart.h"
 #include "widgets/charts/viftrendchart.h"
 
-#include <QtTest>
+#include <QTest>
 
 // A chart of 609 by 317 pixels: 600 points across, bands of 76 pixels from 0, 76, 152 and 228.
 constexpr int kWidth = 609;

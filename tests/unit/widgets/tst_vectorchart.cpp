@@ -3,7 +3,7 @@
 #include "settings/phasecolor.h"
 #include "widgets/charts/vectorchart.h"
 
-#include <QtTest>
+#include <QTest>
 
 #include <cmath>
 
