@@ -9,6 +9,7 @@ class TstPlainPicture : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase() { Q_INIT_RESOURCE(skin); }
     void everyPictureLooksAsTheToolkitReadsIt_data();
     void everyPictureLooksAsTheToolkitReadsIt();
     void aMissingPictureIsNull();
