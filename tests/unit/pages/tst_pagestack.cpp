@@ -29,20 +29,21 @@ signals:
 class SampleStack : public PageStack
 {
 public:
-    SampleStack()
-        : PageStack(UI_USER, {}, liveData(),
-                    {
-                        { make<SamplePage>, { way(&SamplePage::goNext, 1) } },
-                        { make<SamplePage>,
-                          { way(&SamplePage::goNext, 2), way(&SamplePage::goFar, 3), back(&SamplePage::goBack) } },
-                        { make<SamplePage>, { way(&SamplePage::goNext, 3), back(&SamplePage::goBack) } },
-                        { make<SamplePage>, { back(&SamplePage::goBack), way(&SamplePage::goFirst, 0) } },
-                    })
-    {
-        enter();
-    }
+    SampleStack() : PageStack(UI_USER, {}, liveData(), table()) { enter(); }
 
     SamplePage *top() { return static_cast<SamplePage *>(currentPage()); }
+
+private:
+    static std::vector<SubPage> table()
+    {
+        const Way goBack = back(&SamplePage::goBack);
+        return {
+            { make<SamplePage>, { way(&SamplePage::goNext, 1) } },
+            { make<SamplePage>, { way(&SamplePage::goNext, 2), way(&SamplePage::goFar, 3), goBack } },
+            { make<SamplePage>, { way(&SamplePage::goNext, 3), goBack } },
+            { make<SamplePage>, { goBack, way(&SamplePage::goFirst, 0) } },
+        };
+    }
 };
 
 } // namespace
