@@ -225,6 +225,13 @@ void TstLanguages::lookAtDialogs()
     m_where = QStringLiteral("dialogs");
     for (int type = 0; type < 8; ++type)
         Message::showMessage(type, QStringLiteral("?"));
+    // What is asked or called out stands in a message, or is a line of one.
+    for (const auto &text : knownTexts(QStringLiteral("ge"))) {
+        if (!text.second.contains(QLatin1Char('?')) && !text.second.contains(QLatin1Char('!')))
+            continue;
+        Message message(Message::Warning, QCoreApplication::translate(text.first.toUtf8(), text.second.toUtf8()));
+        look(&message, m_where);
+    }
     RunInfo::showSystemStatus(PageTest::liveData());
     QString name = QStringLiteral("Screen");
     SaveDialog::save(3, name);
