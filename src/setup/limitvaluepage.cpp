@@ -2,15 +2,26 @@
 
 #include "settings/config_data.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kTop = 50, kPitch = 44; // pixels: eight rows fit
 const KeyRepeat::Pace kPace { 3, { 1, 5, 10, 20, 50, 100 } };
 
+/// Captions get the room that no value in volts or hertz needs.
+int captionWidth(const LimitItem &item)
+{
+    constexpr int kBesideNotes = 270, kWide = 300;
+    const auto hasNote = [](const LimitField &field) { return field.base != LimitValue::NoBase; };
+    return std::any_of(item.fields.begin(), item.fields.end(), hasNote) ? kBesideNotes : kWide;
+}
+
 } // namespace
 
 LimitValuePage::LimitValuePage(LimitDraft &draft, const LimitItem &item, QWidget *parent)
-    : EditorPage(UI_SETUP, { item.title, kTop, kPitch }, kPace, parent), m_draft(draft), m_limit(draft.limit)
+    : EditorPage(UI_SETUP, { item.title, kTop, kPitch, captionWidth(item) }, kPace, parent), m_draft(draft),
+      m_limit(draft.limit)
 {
     static const KeyRow<LimitValuePage> keys[] = {
         { Qt::Key_F4, nullptr, &LimitValuePage::finish },

@@ -90,7 +90,8 @@ void LineList::selectLine(int index)
 void LineList::showLines()
 {
     setText(m_hint, hint());
-    const int room = kHint.left() - m_ui->title->x();
+    const int right = hint().isEmpty() ? kHint.right() : kHint.left();
+    const int room = right - m_ui->title->x();
     setText(m_ui->title, m_ui->title->fontMetrics().elidedText(title(), Qt::ElideRight, room));
     m_list.setCount(lineCount());
     m_scrollBar->setVisible(m_list.count() > kLines);
