@@ -20,7 +20,6 @@ public:
     void reset(const QDateTime &now);
 
     bool isImmediate() const { return m_immediate; }
-    void setImmediate(bool immediate) { m_immediate = immediate; }
     /// What the fields say, whether it counts or not.
     QDateTime time() const { return QDateTime(m_date, m_time); }
 

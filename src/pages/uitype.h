@@ -2,7 +2,7 @@
 
 #include <QMetaType>
 
-/// Identifies a page. Navigation signals carry the pair current page, target page.
+/// Identifies a page: what a page names that asks to be left for another one.
 enum _quvera_ui_type : int {
     UI_MENU = 0,
     UI_SCOPE = 1,

@@ -16,6 +16,7 @@ private slots:
     void comesOutInTheOrderOfArrivalWhateverTheKind();
     void asksForOneTurnUntilItBegins();
     void tenSecondsOfEverythingFit();
+    void noMoreThan64MiBWait();
     void beyondTheBoundTheOldestOfTheLargestKindGoes();
     void smallDeliveriesAreBoundedToo();
     void droppedOnesArePrintedOnceAtTheBeginningAndOnceAtTheEnd();
@@ -98,6 +99,18 @@ void TstDeliveryQueue::tenSecondsOfEverythingFit()
     }
     QCOMPARE(queue.dropped(), quint64(0));
     QCOMPARE(takeAll(queue).size(), 500 * 4 + 100);
+}
+
+void TstDeliveryQueue::noMoreThan64MiBWait()
+{
+    DeliveryQueue queue;
+    const Delivery wave = datagram(DatagramWave, 65548);
+    for (int i = 0; i < 1500; ++i) { // 94 MiB
+        queue.put(wave);
+        QVERIFY(queue.bytes() <= 64 * 1024 * 1024);
+    }
+    QVERIFY(queue.bytes() > 63 * 1024 * 1024);
+    QVERIFY(queue.dropped() > 400);
 }
 
 void TstDeliveryQueue::beyondTheBoundTheOldestOfTheLargestKindGoes()
