@@ -1,5 +1,7 @@
 #include "shellcase.h"
 
+#include "board/qwpactrl.h"
+#include "board/wifi.h"
 #include "platform/clock.h"
 #include "settings/config_data.h"
 #include "settings/phasecolor.h"
@@ -145,11 +147,15 @@ void TstUserKeys::timeZoneIsSeenOnTheClockLineAtOnce()
 void TstUserKeys::otherFunctionsAreReachedFromASubPage()
 {
     enterUser();
-    press({ kF3, kF6 });
+    press({ kF3 });
+    QCOMPARE(Wifi::wpaCtrl->scanInterval(), 1000);
+    press({ kF6 });
     QCOMPARE(title(), QStringLiteral("Scope"));
+    QCOMPARE(Wifi::wpaCtrl->scanInterval(), 5000); // however the page is left
     m_taskmanage->exitTask();
     m_basedialog->navigator().go(UI_SCOPE, UI_USER);
     QCOMPARE(QString::fromLatin1(userPage()->currentPage()->metaObject()->className()), QStringLiteral("UserZiPage"));
+    QCOMPARE(Wifi::wpaCtrl->scanInterval(), 5000);
 }
 
 QTEST_MAIN(TstUserKeys)
