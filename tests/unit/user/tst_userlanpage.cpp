@@ -7,6 +7,7 @@
 #include "user/userlanpage.h"
 
 #include <QElapsedTimer>
+#include <QRegularExpression>
 #include <QSignalSpy>
 
 #include <memory>
