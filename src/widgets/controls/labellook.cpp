@@ -12,7 +12,10 @@ constexpr int kTextSize = 18; // pixels
 
 void dressWidget(QWidget *widget)
 {
-    const bool isLabel = qobject_cast<QLabel *>(widget);
+    auto *label = qobject_cast<QLabel *>(widget);
+    const bool isLabel = label;
+    if (isLabel)
+        label->setTextFormat(Qt::PlainText); // names that a person or a file gave may look like markup
     const QVariant size = widget->property("textSize");
     if (isLabel || size.isValid()) {
         QFont font = widget->font();

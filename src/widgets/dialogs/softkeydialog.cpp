@@ -41,6 +41,7 @@ void SoftKeyDialog::finishForm()
     for (QLabel *label : findChildren<QLabel *>()) {
         // A translation may be longer than its place. A label of the form has letters in points, not yet in pixels.
         label->ensurePolished();
+        label->setTextFormat(Qt::PlainText); // as LabelLook does it for pages
         if (!label->text().isEmpty())
             fitText(label, label->text(), QFontInfo(label->font()).pixelSize());
     }

@@ -101,6 +101,7 @@ private slots:
     void everyTextFits_data();
     void everyTextFits();
     void everyTextThatIsAskedForIsInTheFiles();
+    void noTextIsReadAsMarkup();
 
 private:
     void look(QWidget *widget, const QString &where);
@@ -108,12 +109,15 @@ private:
     void lookAtDialogs();
     void walk(LivePage *page, FunctionPage *whole, const std::function<void()> &show);
     void closeDialog();
+    /// Adds the labels of a form that would show "<b>x</b>" as a thick x.
+    void takeMarkupReaders(const QWidget *form);
 
     AskedTexts m_texts;
     QTimer m_closer;
     TaskLinks m_links;
     QStringList m_misfits;
     QSet<QString> m_seen; // what is already among them, wherever
+    QStringList m_readsMarkup;
     QString m_where; // the page on which keys are pressed
     std::vector<std::unique_ptr<FunctionPage>> m_pages;
 };
@@ -183,7 +187,17 @@ void TstLanguages::closeDialog()
     if (!dialog)
         return;
     look(dialog, m_where + QLatin1Char('/') + QString::fromLatin1(dialog->metaObject()->className()));
+    takeMarkupReaders(dialog);
     dialog->close();
+}
+
+void TstLanguages::takeMarkupReaders(const QWidget *form)
+{
+    for (const QLabel *label : form->findChildren<QLabel *>()) {
+        if (label->textFormat() != Qt::PlainText)
+            m_readsMarkup << QString::fromLatin1(label->parentWidget()->metaObject()->className()) + QLatin1Char('/')
+                    + label->objectName();
+    }
 }
 
 /// Presses the keys of a page that \a show brings to the front of \a whole, or of all pages in it.
@@ -287,6 +301,20 @@ void TstLanguages::everyTextThatIsAskedForIsInTheFiles()
             unknown << text.first + QStringLiteral(": ") + text.second;
     }
     QVERIFY2(unknown.isEmpty(), qPrintable(unknown.join(QLatin1Char('\n'))));
+}
+
+/// Names of persons, networks and clamps, and what stands in files, may look like markup; a picture in it would be read
+/// from the instrument's disks.
+void TstLanguages::noTextIsReadAsMarkup()
+{
+    m_readsMarkup.clear();
+    takeMarkupReaders(m_basedialog);
+    for (const auto &page : m_pages) {
+        PageTest::openAll(*page);
+        takeMarkupReaders(page.get());
+    }
+    lookAtDialogs();
+    QVERIFY2(m_readsMarkup.isEmpty(), qPrintable(m_readsMarkup.join(QLatin1Char('\n'))));
 }
 
 PAGE_TEST_MAIN(TstLanguages)
