@@ -75,6 +75,8 @@ void Wifi::close()
     disconnectNetwork();
     is_openning = false;
     is_opened = false;
+    if (wifi)
+        ++wifi->m_closed;
 }
 
 void Wifi::startScan()
@@ -120,7 +122,9 @@ void Wifi::scanStatus()
     const QByteArray command = "STATUS";
     if (!wifi || wpaCtrl->isWaiting(command))
         return;
-    ask(command, wifi, [](int, const QByteArray &answer) {
+    ask(command, wifi, [closed = wifi->m_closed](int, const QByteArray &answer) {
+        if (closed != wifi->m_closed)
+            return; // what was so before the network was left
         status = WpaAnswers::status(answer);
         emit wifi->statusChanged();
     });

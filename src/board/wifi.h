@@ -106,6 +106,7 @@ private:
     ShellQueue m_shell;
     QVector<WifiInfo> m_found; // of the list that is being read
     bool m_reading = false;
+    int m_closed = 0; // how often
 };
 
 /// The one object, from its construction to its end.

@@ -32,6 +32,7 @@ private slots:
     void floodLeavesTheLoopItsTurn();
     void answersAreCutAtTheBufferAndAtAZeroByte();
     void unaskedAnswersAreDropped();
+    void messagesOfTheWholeDaemonAreNoAnswers();
     void requestsBeyondTheQueueFail();
     void commandsWithControlCharactersAreNotSent();
     void whatIsNoSocketIsRefused();
@@ -412,6 +413,20 @@ void TstWifiChannel::noCallOfTheLibraryWaits()
         const auto match = waiting.match(QString::fromUtf8(file.readAll()));
         QVERIFY2(!match.hasMatch(), qPrintable(name + QLatin1String(": ") + match.captured()));
     }
+}
+
+void TstWifiChannel::messagesOfTheWholeDaemonAreNoAnswers()
+{
+    ScriptedDaemon daemon;
+    daemon.silent << "PING";
+    WpaChannel channel;
+    QVERIFY(channel.open(kFolder, kInterface));
+    ask(&channel, "PING");
+    QTRY_COMPARE(daemon.count("PING"), 1);
+    daemon.send(daemon.last, "IFNAME=wlan0 <3>CTRL-EVENT-SCAN-STARTED ");
+    daemon.send(daemon.last, "PONG\n");
+    QTRY_COMPARE(m_results.size(), 1);
+    QVERIFY2(m_results.last().startsWith("PING 0 PONG"), m_results.last().constData());
 }
 
 QTEST_GUILESS_MAIN(TstWifiChannel)

@@ -4,6 +4,7 @@
 #include "standins.h"
 #include "unit/storage/rootfiles.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTest>
@@ -22,6 +23,10 @@ private slots:
     void closingLeaves();
     void joinedNetworkGetsAnAddress();
     void lostNetworkEndsTheAddressClient();
+    void onlyTheAddressClientOfTheInterfaceIsEnded();
+    void addressClientDelaysNothing();
+    void stateIsAskedForEveryThreeSeconds();
+    void answerAskedForBeforeTheCloseIsNotTaken();
     void statusIsTakenFromTheAnswer();
     void statusIsEmptyAfterAFailure();
     void statusIsAskedForAgainAndAgain();
@@ -264,6 +269,51 @@ void TstWifiState::namesAreTurnedBackIntoText()
 {
     QCOMPARE(Wifi::hexStr2QString(QStringLiteral("M\\xc3\\xbchle")), QString::fromUtf8("M\xc3\xbchle"));
     QCOMPARE(Wifi::hexStr2QString(QString()), QString());
+}
+
+void TstWifiState::onlyTheAddressClientOfTheInterfaceIsEnded()
+{
+    setStandIn(QStringLiteral("ps"),
+               "echo ' 71 root udhcpc -i wlan0'\necho ' 72 root udhcpc -i eth0'\n"
+               "echo ' 73 root quvera'\n");
+    m_daemon->event("<3>CTRL-EVENT-DISCONNECTED bssid=02:00:00:00:00:01 reason=3");
+    QTRY_COMPARE(shellCommands(), QByteArrayList({ "kill -9 71", "wlan0_del_route.sh" }));
+}
+
+void TstWifiState::addressClientDelaysNothing()
+{
+    setStandIn(QStringLiteral("udhcpc"), "sleep 3\n");
+    QElapsedTimer time;
+    time.start();
+    m_daemon->event("<3>CTRL-EVENT-CONNECTED - Connection completed");
+    m_daemon->event("<3>CTRL-EVENT-DISCONNECTED bssid=02:00:00:00:00:01 reason=3");
+    QTRY_VERIFY(shellCommands().contains("wlan0_del_route.sh"));
+    QVERIFY2(time.elapsed() < 2800, qPrintable(QString::number(time.elapsed())));
+}
+
+void TstWifiState::stateIsAskedForEveryThreeSeconds()
+{
+    QTRY_COMPARE_WITH_TIMEOUT(m_daemon->count("STATUS"), 1, 10000);
+    QElapsedTimer time;
+    time.start();
+    QTRY_COMPARE_WITH_TIMEOUT(m_daemon->count("STATUS"), 2, 10000);
+    QVERIFY2(time.elapsed() > 2000 && time.elapsed() < 4500, qPrintable(QString::number(time.elapsed())));
+}
+
+void TstWifiState::answerAskedForBeforeTheCloseIsNotTaken()
+{
+    m_daemon->silent << "STATUS";
+    Wifi::scanStatus();
+    QTRY_COMPARE(m_daemon->count("STATUS"), 1);
+    const ScriptedDaemon::Client asker = m_daemon->last;
+    Wifi::close();
+    m_daemon->send(asker, "wpa_state=COMPLETED\n");
+    QTRY_COMPARE(m_daemon->count("DISCONNECT"), 1); // the daemon hears it behind its answer
+    QVERIFY(!Wifi::isWifiConnected());
+    m_daemon->silent.clear();
+    m_daemon->answers["STATUS"] = "wpa_state=COMPLETED\n";
+    Wifi::scanStatus();
+    QTRY_VERIFY(Wifi::isWifiConnected());
 }
 
 QTEST_GUILESS_MAIN(TstWifiState)

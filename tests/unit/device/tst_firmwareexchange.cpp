@@ -32,6 +32,7 @@ private slots:
     void flashingIsAskedForByTwoWords();
     void wrongAnswerEndsTheExchange_data();
     void wrongAnswerEndsTheExchange();
+    void answerBeforeTheAnnouncementIsRefused();
     void otherCodeWhileFlashingIsIgnoredAndTheTimerStaysStopped();
     void otherResultOfTheFlashingIsIgnored();
     void onlyTheLow16BitsOfTheFlashResultCount();
@@ -347,6 +348,16 @@ void TstFirmwareExchange::answersBehindTheEndReachNobody()
     reach(FirmwareExchange::Announced);
     m_exchange.reset();
     answer(0xC401, 0);
+    QVERIFY(m_sent.isEmpty());
+}
+
+void TstFirmwareExchange::answerBeforeTheAnnouncementIsRefused()
+{
+    m_exchange = std::make_unique<FirmwareExchange>(m_device.get());
+    QSignalSpy refused(m_exchange.get(), &FirmwareExchange::refused);
+    m_exchange->firmwareUpdate(words({ 1, 2, 0xC401, 0 }));
+    QCOMPARE(refused.size(), 1);
+    QCOMPARE(refused[0], QVariantList({ 0, 0xC401u, 0u }));
     QVERIFY(m_sent.isEmpty());
 }
 

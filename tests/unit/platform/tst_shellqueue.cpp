@@ -17,6 +17,7 @@ private slots:
     void repeatedCommandsMoveToTheEnd();
     void queueMayGoWhileCommandsRun();
     void slowCommandStopsNoTimer();
+    void commandThatReadsItsInputEnds();
     void commandsAreThoseOfTheDesk();
 };
 
@@ -89,6 +90,13 @@ void TstShellQueue::commandsAreThoseOfTheDesk()
     QTRY_VERIFY(noted.exists() && noted.size() > 0);
     QVERIFY(noted.open(QIODevice::ReadOnly));
     QCOMPARE(noted.readAll(), QByteArray("udhcpc -i wlan0\n"));
+}
+
+void TstShellQueue::commandThatReadsItsInputEnds()
+{
+    ShellQueue queue;
+    queue.run(QStringLiteral("cat; echo read >> /var/log/ran"));
+    QTRY_COMPARE(ran(), QByteArrayList({ "read" }));
 }
 
 QTEST_GUILESS_MAIN(TstShellQueue)

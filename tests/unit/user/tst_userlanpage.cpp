@@ -27,6 +27,8 @@ private slots:
     void okStoresAddressesAndNetwork();
     void dhcpStoresTheStaticFieldsUnchanged();
     void okRunsTheCommandsOfTheBoardOnceAndWaitsForNone();
+    void scriptsAreGivenASecond();
+    void addressesInUseFollow();
     void cancelLeavesFileAndNetworkAlone();
     void wrongAddressesAreRefusedAtTyping_data();
     void wrongAddressesAreRefusedAtTyping();
@@ -282,6 +284,30 @@ void TstUserLanPage::networkIsTheFirstThreeFields()
 {
     QCOMPARE(UserLanPage::networkOf(QStringLiteral("192.168.2.100")), QStringLiteral("192.168.2.0"));
     QCOMPARE(UserLanPage::networkOf(QStringLiteral("10.1.22.255")), QStringLiteral("10.1.22.0"));
+}
+
+void TstUserLanPage::scriptsAreGivenASecond()
+{
+    const QString standIn = Target::path(QStringLiteral("/bin/sleep"));
+    QVERIFY(QFile::copy(Target::path(QStringLiteral("/bin/networking.sh")), standIn));
+    open();
+    press(F4);
+    QStringList seen;
+    QTRY_VERIFY_WITH_TIMEOUT((seen += commands()).contains(QStringLiteral("sleep 1")), 5000);
+    seen.removeAll(QStringLiteral("sync")); // of the file
+    QCOMPARE(seen, (QStringList { "networking.sh eth0", "networking restart", "sleep 1" }));
+    QVERIFY(QFile::remove(standIn));
+}
+
+void TstUserLanPage::addressesInUseFollow()
+{
+    open();
+    const QString address = shown("address_in_use");
+    for (const char *name : { "address_in_use", "netmask_in_use", "gateway_in_use" })
+        m_page->findChild<QLabel *>(QString::fromLatin1(name))->setText(QStringLiteral("as it was"));
+    QTRY_COMPARE(shown("address_in_use"), address);
+    QVERIFY(shown("netmask_in_use") != QStringLiteral("as it was"));
+    QVERIFY(shown("gateway_in_use") != QStringLiteral("as it was"));
 }
 
 PAGE_TEST_MAIN(TstUserLanPage)

@@ -59,6 +59,7 @@ private slots:
     void flashIsAskedForByItself();
     void nextUpdateAfterAFailureBeginsAnew();
     void diskPulledDuringTheExchangeChangesNothing();
+    void enteringThePageOnceMoreLeavesAnUpdateAlone();
 
 private:
     static void write(const QString &path, const QByteArray &content)
@@ -553,6 +554,19 @@ void TstUserUpdate::diskPulledDuringTheExchangeChangesNothing()
     answer(0xC402, 0);
     answer(0xC403, 0);
     QCOMPARE(message(), QString("Firmware update complete..."));
+}
+
+void TstUserUpdate::enteringThePageOnceMoreLeavesAnUpdateAlone()
+{
+    startFirmware();
+    m_page->init_parameter();
+    QVERIFY(m_page->isBusy());
+    QCOMPARE(message(), QString("Update in progress. Do not operate!!!"));
+    QCOMPARE(text("type"), QString("Firmware"));
+    answer(0xC401, 0);
+    answer(0xC402, 0);
+    answer(0xC403, 0);
+    QVERIFY(!m_page->isBusy());
 }
 
 PAGE_TEST_MAIN(TstUserUpdate)

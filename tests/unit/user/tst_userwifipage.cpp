@@ -25,6 +25,8 @@ private slots:
     void networksInReachAreListed();
     void openLooksForNetworksAndTheKeyReadsClose();
     void closeDisconnectsAtOnce();
+    void closeEndsAJoinThatWaits();
+    void hiddenPageAsksForNothing();
     void stateWords_data();
     void stateWords();
     void joinedNetworkShowsItsNameAndAddress();
@@ -37,6 +39,10 @@ private slots:
     void refusedPasswordSelectsNothing();
     void hiddenNetworkAsksForItsName();
     void hiddenNetworkWithoutANameIsRefused();
+    void hiddenNetworkThatIsStoredNeedsNoPassword();
+    void networkWithoutAPasswordAsksForNone();
+    void nameOfMoreThan32BytesIsRefused();
+    void longNameIsCutAtItsPlace();
     void shortPasswordIsRefused();
     void passwordOf64DigitsGoesUnquoted();
     void failedJoinEndsInDisconnect();
@@ -92,6 +98,15 @@ QByteArray network(const QByteArray &ssid, const QByteArray &flags, int number =
 const QByteArray kOpen = "[ESS]";
 const QByteArray kSecured = "[WPA2-PSK-CCMP][ESS]";
 const QByteArray kJoined = "bssid=02:00:00:00:00:11\nssid=Hall\nwpa_state=COMPLETED\nip_address=10.0.0.7\n";
+
+/// Presses "Ok" in the password dialog, which refuses it, and leaves.
+void isRefused(QDialog *dialog)
+{
+    QTest::keyClick(dialog, 'F');
+    QVERIFY(dialog->isVisible());
+    QCOMPARE(labelText(dialog, "hint"), QStringLiteral("Invalid input!"));
+    QTest::keyClick(dialog, 'L');
+}
 
 } // namespace
 
@@ -315,10 +330,7 @@ void TstUserWifiPage::hiddenNetworkWithoutANameIsRefused()
     openWith({ network("\\x00\\x00\\x00", kOpen) });
     DialogDriver driver({ [](QDialog *dialog) {
         QCOMPARE(labelText(dialog, "ssid"), QStringLiteral("[Unknown]"));
-        QTest::keyClick(dialog, 'F');
-        QVERIFY(dialog->isVisible());
-        QCOMPARE(labelText(dialog, "hint"), QStringLiteral("Invalid input!"));
-        QTest::keyClick(dialog, 'L');
+        isRefused(dialog);
     } });
     press(F4);
     QVERIFY(driver.isDone());
@@ -465,6 +477,66 @@ void TstUserWifiPage::daemonThatHangsStallsNothing()
         press(key);
     QVERIFY2(time.elapsed() < 500, qPrintable(QString::number(time.elapsed())));
     m_daemon->wake();
+}
+
+void TstUserWifiPage::closeEndsAJoinThatWaits()
+{
+    openWith({ network("Guests", kOpen) });
+    m_daemon->silent << "LIST_NETWORKS";
+    press(F4);
+    QCOMPARE(shown("state"), QStringLiteral("Connecting"));
+    press(F1);
+    QCOMPARE(shown("state"), QStringLiteral("Disconnect"));
+}
+
+void TstUserWifiPage::hiddenPageAsksForNothing()
+{
+    open();
+    m_page->hide();
+    QTest::qWait(100);
+    m_daemon->commands.clear();
+    QTest::qWait(2300); // the page asks every second, the service every three
+    QVERIFY2(m_daemon->count("STATUS") <= 1, qPrintable(QString::number(m_daemon->count("STATUS"))));
+}
+
+void TstUserWifiPage::nameOfMoreThan32BytesIsRefused()
+{
+    openWith({ network(QByteArray("x").repeated(33), kSecured) });
+    DialogDriver driver({ DialogDriver::press("K"), type(QStringLiteral("Secret-12")), isRefused });
+    press(F4);
+    QVERIFY(driver.isDone());
+    QCOMPARE(changes(), QVector<QByteArray>());
+}
+
+void TstUserWifiPage::hiddenNetworkThatIsStoredNeedsNoPassword()
+{
+    m_daemon->answers["LIST_NETWORKS"] = "network id / ssid / bssid / flags\n3\tcellar\tany\t\n";
+    openWith({ network("", kSecured) });
+    DialogDriver driver({ DialogDriver::press("K"), type(QStringLiteral("cellar")), [](QDialog *dialog) {
+                             QTRY_COMPARE(labelText(dialog, "password"), QStringLiteral("(stored)"));
+                             QTest::keyClick(dialog, 'F');
+                         } });
+    press(F4);
+    QTRY_COMPARE(changes(), QVector<QByteArray>({ "SELECT_NETWORK 3", "SAVE_CONFIG" }));
+}
+
+void TstUserWifiPage::networkWithoutAPasswordAsksForNone()
+{
+    openWith({ network("", kOpen) });
+    DialogDriver driver(
+        { DialogDriver::press("TK"), type(QStringLiteral("cellar")), DialogDriver::press("F") }); // down: no field
+    press(F4);
+    QTRY_VERIFY(changes().contains("SAVE_CONFIG"));
+    QVERIFY(changes().contains("SET_NETWORK 0 ssid \"cellar\""));
+    QVERIFY(changes().contains("SET_NETWORK 0 key_mgmt NONE"));
+}
+
+void TstUserWifiPage::longNameIsCutAtItsPlace()
+{
+    openWith({ network(QByteArray("W").repeated(32), kOpen) });
+    const auto *label = m_page->findChild<QLabel *>(QStringLiteral("name_0"));
+    QTRY_VERIFY(shown("name_0").endsWith(QChar(0x2026)));
+    QVERIFY(label->fontMetrics().horizontalAdvance(label->text()) <= label->width());
 }
 
 PAGE_TEST_MAIN(TstUserWifiPage)

@@ -32,6 +32,7 @@ private slots:
     void lightFollowsTheArrowsAndEnterGoesRound();
     void userNameIsTypedAndStored();
     void userNameCannotBeEmpty();
+    void userNameHas32SignsAtMost();
     void cancelledNameLeavesTheFileUntouched();
     void longNameIsCutOnTheScreenOnly();
     void phaseColorsAreChosenInTheirDialog();
@@ -286,6 +287,14 @@ void TstUserZiPage::fullCardKeepsTheOldFile()
     PageTest::press(m_page.get(), Left);
     QCOMPARE(stored().getLang(), int(UserConfig::EN));
     QCOMPARE(stored().getUserName(), QStringLiteral("Ann"));
+}
+
+void TstUserZiPage::userNameHas32SignsAtMost()
+{
+    select(Name);
+    DialogDriver typing({ type(QStringLiteral("q").repeated(33)) });
+    PageTest::press(m_page.get(), Enter);
+    QCOMPARE(stored().getUserName(), QStringLiteral("q").repeated(32));
 }
 
 PAGE_TEST_MAIN(TstUserZiPage)
