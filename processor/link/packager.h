@@ -26,8 +26,6 @@ public:
     /// half-cycle datagrams and is 0 in every other.
     Datagram pack(Kind kind, quint64 stampMs, quint32 bdsWord, const std::vector<quint32> &payload);
 
-    quint32 nextId() const { return m_nextId; }
-
 private:
     quint32 m_nextId;
 };

@@ -176,14 +176,6 @@ double Synthesiser::trueRms(int input, std::int64_t first, std::int64_t count) c
     return count > 0 ? std::sqrt(sum / static_cast<double>(count)) : 0.0;
 }
 
-double Synthesiser::trueMean(int input, std::int64_t first, std::int64_t count) const
-{
-    double sum = 0.0;
-    for (std::int64_t i = 0; i < count; ++i)
-        sum += valueAt(input, first + i);
-    return count > 0 ? sum / static_cast<double>(count) : 0.0;
-}
-
 double Synthesiser::truePower(int voltageInput, int currentInput, std::int64_t first, std::int64_t count) const
 {
     double sum = 0.0;

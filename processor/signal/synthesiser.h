@@ -47,9 +47,8 @@ public:
 
     /// True value of an input at a sample, V or A, without noise. Any index from the last setSpec on, rendered or not.
     double valueAt(int input, std::int64_t sample) const;
-    /// True r.m.s., mean and mean product over `count` samples from `first` on, by direct sums of valueAt.
+    /// True r.m.s. and mean product over `count` samples from `first` on, by direct sums of valueAt.
     double trueRms(int input, std::int64_t first, std::int64_t count) const;
-    double trueMean(int input, std::int64_t first, std::int64_t count) const;
     double truePower(int voltageInput, int currentInput, std::int64_t first, std::int64_t count) const;
     /// Frequency of the fundamental of an input at a sample, Hz.
     double trueFrequency(int input, std::int64_t sample) const;
