@@ -282,8 +282,6 @@ void Navigator::showSettings(_quvera_ui_type current, _quvera_ui_type target)
     if (!page || !exitCurTaskIfOrNot(current))
         return;
     leaveCurrent();
-    if (PageTable::row(target)->hears & Hears::Refresh)
-        m_tasks->connectDisplay(target);
     bringToFront(page, PageTable::title(target));
     page->enter();
 }

@@ -42,6 +42,20 @@ Page byKey(const char *name, const char *key, const QStringList &shots, const ch
     return page;
 }
 
+/// A site set up from the factory's settings, as docs/user-guide.md does it: with `--warm-up 0`, or a question comes
+/// first.
+QVector<Page> setUpOfASite()
+{
+    return {
+        byKey("site", "F9",
+              { "factory", "F1: wirings", "Enter: wiring", "F4 F2: nominal-voltage",
+                "F4 F4 Down Right Right Right Right Right Right: clamp",
+                "Up Right Down Right Right Right Right: neutral", "F4: ready" },
+              "", true, false),
+        fromMenu("site-values", "vif", { "measuring" }, "", true, false),
+    };
+}
+
 /// The editors of clamps and limits; they know neither wiring nor frequency.
 QVector<Page> setupEditors()
 {
@@ -125,7 +139,7 @@ const QVector<Page> &galleryPages()
                 "F3: calibration-runs", "F5: calibration-question", "F4: left" },
               "", true, kOneWiring),
         byKey("memory", "F10", { "message" }, "F5", true, kOneWiring),
-    } + setupEditors();
+    } + setupEditors() + setUpOfASite();
     return pages;
 }
 

@@ -42,6 +42,7 @@ private slots:
     void inverterIsSetUpAnewOnlyWhenItIsLeft();
     void holdOfTheInverterWaitsForItsStart();
     void setupAsksBeforeItEndsAMeasurement();
+    void setupShowsNoTimeOfAMeasurement();
     void whatSetupChangedIsOnTheNextPage();
     void aCommandedPageIsEnteredOnceItIsInFront();
 
@@ -278,6 +279,22 @@ void TstVisits::setupAsksBeforeItEndsAMeasurement()
     QVERIFY(!m_taskmanage->currentTask());
     backToMenu();
     QCOMPARE(title(), QStringLiteral("Menu"));
+}
+
+void TstVisits::setupShowsNoTimeOfAMeasurement()
+{
+    visit("vif");
+    const auto *shown = vifPage()->currentPage()->findChild<QLabel *>("stop_watch");
+    QVERIFY(!shown->text().isEmpty());
+    DialogAnswer quit(kF4);
+    QTest::keyClick(vifPage()->currentPage(), Qt::Key_S);
+    const auto *setup = pageOf<SetupPage>(UI_SETUP);
+    QCOMPARE(top(), static_cast<const QWidget *>(setup));
+    QTest::keyClick(setup->currentPage(), kF4); // the clamps
+    const QList<QLabel *> times = top()->findChildren<QLabel *>("stop_watch");
+    QVERIFY(!times.isEmpty());
+    for (const QLabel *time : times)
+        QCOMPARE(time->text(), QString());
 }
 
 void TstVisits::whatSetupChangedIsOnTheNextPage()
