@@ -9,8 +9,8 @@ SetupClamps::SetupClamps(const LiveData &data, QWidget *parent)
                     {
                         { make<SetupClamp2>,
                           {
-                              pass(&SetupClamp2::stored, &SetupClamps::done),
-                              pass(&SetupClamp2::cancelled, &SetupClamps::done),
+                              pass(&SetupClamp2::stored, &SetupClamps::closed),
+                              pass(&SetupClamp2::cancelled, &SetupClamps::closed),
                               pass(&SetupClamp2::goClampAdd, &SetupClamps::beginAdding),
                               pass(&SetupClamp2::goClampEdit, &SetupClamps::beginEditing),
                           } },

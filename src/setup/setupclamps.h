@@ -19,7 +19,7 @@ public slots:
     void init_parameter() override;
 
 signals:
-    void done(); // stored or cancelled
+    void closed(); // stored or cancelled
 
 private:
     void beginAdding();

@@ -14,7 +14,7 @@ SetupLimitMenu::SetupLimitMenu(QWidget *parent) : LineList(2, 120, KeyRepeat::Pa
         { Qt::Key_F2, nullptr, &SetupLimitMenu::deleteLimits },
         { Qt::Key_F3, nullptr, &SetupLimitMenu::nameLimits },
         { Qt::Key_F4, QT_TRANSLATE_NOOP("SetupLimitMenu", "Ok"), &SetupLimitMenu::selectOption },
-        { Qt::Key_F5, QT_TRANSLATE_NOOP("SetupLimitMenu", "Cancel"), &SetupLimitMenu::done },
+        { Qt::Key_F5, QT_TRANSLATE_NOOP("SetupLimitMenu", "Cancel"), &SetupLimitMenu::closed },
         { Qt::Key_Enter, nullptr, &SetupLimitMenu::showDetailItem },
     };
     loadLimits();
@@ -118,5 +118,5 @@ void SetupLimitMenu::selectOption()
 {
     stopRepeat();
     m_limits_g.changeActiveLimits(selectedName());
-    emit done();
+    emit closed();
 }

@@ -18,7 +18,7 @@ public slots:
 
 signals:
     void showDetailItem(); // of the selected set
-    void done();
+    void closed();
 
 protected:
     QString title() const override { return tr("Limits"); }

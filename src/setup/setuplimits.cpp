@@ -14,7 +14,7 @@ std::vector<ViewContainer::SubPage> SetupLimits::table(SetupLimits *page)
 {
     std::vector<SubPage> pages {
         { make<SetupLimitMenu>,
-          { pass(&SetupLimitMenu::done, &SetupLimits::done),
+          { pass(&SetupLimitMenu::closed, &SetupLimits::closed),
             pass(&SetupLimitMenu::showDetailItem, &SetupLimits::openSet) } },
         { [page](const LiveData &) { return new LimitItemsPage(page->m_draft); },
           { way(&LimitItemsPage::stored, Menu), way(&LimitItemsPage::cancelled, Menu),

@@ -18,7 +18,7 @@ public slots:
     void init_parameter() override;
 
 signals:
-    void done(); // a set was chosen, or not
+    void closed(); // a set was chosen, or not
 
 protected:
     void aboutToShow(int row) override;

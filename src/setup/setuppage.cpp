@@ -50,8 +50,8 @@ std::vector<SetupPage::SubPage> SetupPage::table()
         { make<SetupTransient>, { back(&SetupTransient::stored), back(&SetupTransient::cancelled) } },
         { make<SetupInrush>, { back(&SetupInrush::stored), back(&SetupInrush::cancelled) } },
         { make<SetupMainsSig>, { back(&SetupMainsSig::stored), back(&SetupMainsSig::cancelled) } },
-        { make<SetupClamps>, { back(&SetupClamps::done) } },
-        { make<SetupLimits>, { back(&SetupLimits::done) } },
+        { make<SetupClamps>, { back(&SetupClamps::closed) } },
+        { make<SetupLimits>, { back(&SetupLimits::closed) } },
     };
 }
 

@@ -31,7 +31,7 @@ QString FileManager::getExistFileName()
 FileManager::FileManager(QWidget *parent) : SoftKeyDialog(parent), m_ui(new Ui::FileManager)
 {
     static const FrontKeys::KeyRow<FileManager> keys[] = {
-        { Qt::Key_F1, nullptr, &FileManager::open }, // its text follows the selection
+        { Qt::Key_F1, nullptr, &FileManager::openSelected }, // its text follows the selection
         { Qt::Key_F2, QT_TRANSLATE_NOOP("FileManager", "Fold Dir"), &FileManager::cdParentDir },
         { Qt::Key_F4, QT_TRANSLATE_NOOP("FileManager", "Select"), &FileManager::chooseFile },
         { Qt::Key_F5, QT_TRANSLATE_NOOP("FileManager", "Cancel"), &FileManager::reject },
@@ -143,7 +143,7 @@ void FileManager::selectNext()
     moveSelection(1);
 }
 
-void FileManager::open()
+void FileManager::openSelected()
 {
     if (isFolder(m_ui->list->currentItem()))
         cdSubDir();

@@ -34,7 +34,7 @@ private:
     void moveSelection(int step);
     void selectPrevious();
     void selectNext();
-    void open(); // the folder, or takes the file
+    void openSelected(); // the folder, or takes the file
     void cdSubDir();
     void cdParentDir();
     void chooseFile();

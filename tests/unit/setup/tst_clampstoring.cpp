@@ -112,9 +112,9 @@ void TstClampStoring::cancelLeavesTheFilesByteForByte()
     selectField(Channel);
     press(choice(), Right);
     chooseClamp("TARN-F1");
-    QSignalSpy done(m_page.get(), &SetupClamps::done);
+    QSignalSpy closed(m_page.get(), &SetupClamps::closed);
     press(choice(), F5);
-    QCOMPARE(done.count(), 1);
+    QCOMPARE(closed.count(), 1);
     QCOMPARE(stored(), before);
     QCOMPARE(RootFiles::commands(), QByteArray()); // nothing was written in between
     QCOMPARE(m_settingConfig_g.clamps()->names().mid(9), QStringList { "Kept" });

@@ -46,17 +46,17 @@ void TstSetupLimits::setsAreListedWithTheOneInUse()
 
 void TstSetupLimits::okUsesTheSelectedSetAndCancelDoesNot()
 {
-    QSignalSpy done(m_page.get(), &SetupLimits::done);
+    QSignalSpy closed(m_page.get(), &SetupLimits::closed);
     choose("GOST32144");
     press(menu(), F5);
-    QCOMPARE(done.count(), 1);
+    QCOMPARE(closed.count(), 1);
     QCOMPARE(m_limits_g.activeLimitsName(), QStringLiteral("EN50160"));
     QVERIFY(!RootFiles::exists(kConf));
     m_page->init_parameter();
     QCOMPARE(menu()->selectedName(), QStringLiteral("EN50160"));
     choose("GOST32144");
     press(menu(), F4);
-    QCOMPARE(done.count(), 2);
+    QCOMPARE(closed.count(), 2);
     QCOMPARE(m_limits_g.activeLimitsName(), QStringLiteral("GOST32144"));
     QCOMPARE(m_limits_g.getLimitsInUsed()->interruptions.threshold, 5.0f);
     // Written by hand, as the format's page has it.
