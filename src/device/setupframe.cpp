@@ -26,7 +26,6 @@ quint32 configurationWord(const Derived &derived)
 
 SetUpWords SetUpFrame::words(const Derived &derived, const SettingValues &values, const monitor_limit &limits)
 {
-    constexpr int kLamp = 230;
     const float reference = derived.voltGain[0];
     SetUpWords words;
     words.configuration = configurationWord(derived);
@@ -35,7 +34,7 @@ SetUpWords SetUpFrame::words(const Derived &derived, const SettingValues &values
     for (int k = 0; k < 4; ++k)
         words.gainVolt[k] = derived.voltGain[k] / reference;
     words.transientThreshold = static_cast<float>(values.transThreshold) / reference;
-    words.flickerLamp = values.flickerWeightingCurve == kLamp ? kLamp : 120;
+    words.flickerLamp = SettingValues::lampOf(values.flickerWeightingCurve);
     words.signalFrequency1 = limits.frequency1.value;
     words.signalFrequency2 = limits.frequency2.value;
     return words;

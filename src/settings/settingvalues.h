@@ -17,4 +17,8 @@ struct SettingValues
     int kFactorMethod;
     double kFactorE, kFactorQ;
     double mainsSigFreq1, mainsSigThreshold1, mainsSigFreq2, mainsSigThreshold2;
+
+    static constexpr int kEuropeanLamp = 230, kAmericanLamp = 120; // V
+    /// The lamp that a flickerWeightingCurve stands for: every number but the one of the European lamp is the American.
+    static constexpr int lampOf(int curve) { return curve == kEuropeanLamp ? kEuropeanLamp : kAmericanLamp; }
 };

@@ -33,8 +33,8 @@ LimitValuePage::LimitValuePage(LimitDraft &draft, const LimitItem &item, QWidget
     if (item.lamp) {
         Row lamp { "lamp", QT_TRANSLATE_NOOP("LimitValuePage", "Lamp"), {}, {}, {}, {} };
         lamp.text = [this] {
-            const bool is120 = m_settingConfig_g.getFlickerWeightingCurve() == 120;
-            return (is120 ? QStringLiteral("120V ") : QStringLiteral("230V ")) + tr("lamp");
+            const int volts = SettingValues::lampOf(m_settingConfig_g.getFlickerWeightingCurve());
+            return QStringLiteral("%1V ").arg(volts) + tr("lamp");
         };
         lamp.shownOnly = true;
         rows.push_back(lamp);

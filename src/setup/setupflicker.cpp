@@ -2,7 +2,6 @@
 
 namespace {
 constexpr char kCurve[] = "FLICKER_WEIGHTING_CURVE";
-constexpr double kEuropeanLamp = 230; // V; every other number counts as the American one
 }
 
 SetupFlicker::SetupFlicker(QWidget *parent)
@@ -10,7 +9,8 @@ SetupFlicker::SetupFlicker(QWidget *parent)
                   parent)
 {
     setRows({ draft().row("curve", QT_TRANSLATE_NOOP("SetupFlicker", "Plt Weighting Curve"), kCurve, [](double volts) {
-        return volts == kEuropeanLamp ? QStringLiteral("50Hz 230V") : QStringLiteral("60Hz 120V");
+        return SettingValues::lampOf(qRound(volts)) == SettingValues::kEuropeanLamp ? QStringLiteral("50Hz 230V")
+                                                                                    : QStringLiteral("60Hz 120V");
     }) });
     setNoKeys();
 }
