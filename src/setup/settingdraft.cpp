@@ -29,10 +29,9 @@ void SettingDraft::load()
 
 void SettingDraft::store()
 {
-    for (Copy &copy : m_copies) {
+    for (const Copy &copy : m_copies) {
         if (copy.value != copy.inForce)
             m_settingConfig_g.setValue(*copy.setting, copy.value);
-        copy.inForce = copy.value;
     }
 }
 

@@ -70,7 +70,6 @@ void SetupMain::checkPW()
         QV_TRACE("setup/setupmain") << "Enter the calibration function.";
         QV_TRACE("setup/setupmain") << "calibration!!!";
         CalibrationDialog::calibration();
-        showSettings();
     } else if (pressed == sequence({ 'R', 'R', 'L', 'L', 'R', 'L', 'R', 'L' })) {
         m_pressed.clear();
         InstrumentInfo::editInstrumentInfo();

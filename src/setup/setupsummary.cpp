@@ -10,8 +10,8 @@ namespace {
 
 constexpr int kTop = 44, kPitch = 36; // pixels
 constexpr int kHeadTop = 196, kInputTop = 228;
-constexpr LabelGrid kWide = { 150, 0, 220, 22, 32, 20, 126, 20, 1 };
-constexpr LabelGrid kPair = { 150, 240, 220, 22, 32, 20, 126, 20, 2 };
+constexpr LabelGrid kWide = { 178, 0, 192, 22, 32, 20, 154, 20, 1 };
+constexpr LabelGrid kPair = { 178, 240, 192, 22, 32, 20, 154, 20, 2 };
 constexpr QRect kIcon = { 464, 48, 160, 110 };
 
 QString ratioText(const TransformerRatio &ratio)

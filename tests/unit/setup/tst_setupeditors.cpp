@@ -28,8 +28,10 @@ private slots:
     void okWithoutAChangeWritesNothing();
     void defaultRestoresTheValuesOfMissingKeys();
     void defaultAloneStoresNothing();
+    void defaultEndsAHeldKey();
     void kFactorParametersCanBeChangedWithTheEuropeanMethodOnly();
     void durationOfTheInrushIsInForceAfterOk();
+    void durationOfTheInrushMovesByOneHoweverLongAKeyIsHeld();
     void valuesOutsideTheirBoundsStayUntilTheyAreChanged();
     void fileThatCannotBeWrittenKeepsItsTextAndTheValueHolds();
     void fileRemovedBehindThePageIsMadeAnew();
@@ -273,6 +275,17 @@ void TstSetupEditors::defaultAloneStoresNothing()
     QCOMPARE(m_settingConfig_g.getMainsSigFreq1(), 1000.0);
 }
 
+void TstSetupEditors::defaultEndsAHeldKey()
+{
+    SetupPage setup(liveData());
+    open(setup, SetupCase::MainsSig, 0);
+    PageTest::hold(setup.currentPage(), Right, 5);
+    SetupCase::press(setup, { F3 });
+    setup.currentPage()->findChild<KeyRepeat *>()->tick();
+    QCOMPARE(SetupCase::text(setup, "freq1"), QStringLiteral("1350"));
+    PageTest::release(setup.currentPage(), Right);
+}
+
 void TstSetupEditors::kFactorParametersCanBeChangedWithTheEuropeanMethodOnly()
 {
     SetupPage setup(liveData());
@@ -299,9 +312,17 @@ void TstSetupEditors::durationOfTheInrushIsInForceAfterOk()
     QCOMPARE(m_settingConfig_g.getInrushIndex(), 3);
 }
 
+void TstSetupEditors::durationOfTheInrushMovesByOneHoweverLongAKeyIsHeld()
+{
+    SetupPage setup(liveData());
+    open(setup, SetupCase::Inrush, 0);
+    SetupCase::hold(setup, Right, 4); // where other fields begin to move by five
+    QCOMPARE(SetupCase::text(setup, "duration"), QStringLiteral("16 m")); // row 5
+}
+
 void TstSetupEditors::valuesOutsideTheirBoundsStayUntilTheyAreChanged()
 {
-    RootFiles::write(SettingConfig::filePath(), "TRANS_THRESHOLD=9000\nMAINSSIG_FREQ1=20\n");
+    RootFiles::write(SettingConfig::filePath(), "TRANS_THRESHOLD=9000\nMAINSSIG_FREQ1=20\nFLICKER_WEIGHTING_CURVE=0\n");
     m_settingConfig_g.loadSettingConfig();
     SetupPage setup(liveData());
     open(setup, SetupCase::Transients, 0);
@@ -314,6 +335,8 @@ void TstSetupEditors::valuesOutsideTheirBoundsStayUntilTheyAreChanged()
     open(setup, SetupCase::MainsSig, 0);
     SetupCase::press(setup, { Left });
     QCOMPARE(SetupCase::text(setup, "freq1"), QStringLiteral("50"));
+    open(setup, SetupCase::Flicker, 0);
+    QCOMPARE(SetupCase::text(setup, "curve"), QStringLiteral("60Hz 120V")); // as the processor is set up with
 }
 
 void TstSetupEditors::fileThatCannotBeWrittenKeepsItsTextAndTheValueHolds()
