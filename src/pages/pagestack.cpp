@@ -2,12 +2,6 @@
 
 #include <algorithm>
 
-void PageStack::enter()
-{
-    m_way.clear();
-    ViewContainer::enter();
-}
-
 void PageStack::showPrevious()
 {
     showPage(m_way.size() > 1 ? m_way[m_way.size() - 2] : 0);

@@ -14,8 +14,6 @@ class PageStack : public ViewContainer
 public:
     using ViewContainer::ViewContainer;
 
-    /// The first page, and the way back is forgotten.
-    void enter() override;
     /// The page that opened the one on top; the first page if none did.
     void showPrevious();
 

@@ -31,6 +31,7 @@ private slots:
     void namesAreChecked();
     void theRangeFollowsTheRatio();
     void aRatioOfZeroLeavesTheBound();
+    void aRatioOfZeroBeginsWithTheWidestBound();
     void aRatioOfZeroMeasuresNothing();
     void theRangeIsAtLeastOneAmpere();
 };
@@ -357,6 +358,14 @@ void TstSetupClamps::aRatioOfZeroLeavesTheBound()
     fillEditor({}, "0", "2500");
     QCOMPARE(shown("ratio"), QStringLiteral("0 mV/A"));
     QCOMPARE(shown("range"), QStringLiteral("2000 A"));
+}
+
+void TstSetupClamps::aRatioOfZeroBeginsWithTheWidestBound()
+{
+    addClamp("Zero", "0", "100"); // its bound was that of the ratio before
+    press(choice(), F2);
+    fillEditor({}, {}, "5000");
+    QCOMPARE(shown("range"), QStringLiteral("5000 A"));
 }
 
 void TstSetupClamps::aRatioOfZeroMeasuresNothing()
