@@ -147,7 +147,7 @@ void TstUpdatePackage::signatureOfAnotherKeyIsRefused()
 void TstUpdatePackage::olderPackageThanAllowedIsRefused()
 {
     UpdateDesk desk;
-    UpdateDesk::write(desk.path("/etc/quvera/update.minimum"), "software 7\nfirmware 2\n");
+    UpdateDesk::write(desk.path("/etc/quvera/update.minimum"), "software 7\nsoftware 3\nfirmware 2\n"); // the largest
     refuses(desk, desk.softwarePackage(kFiles, 6), "it is older than allowed");
     refuses(desk, desk.firmwarePackage("image", 1), "it is older than allowed");
     QCOMPARE(int(desk.unpack(desk.softwarePackage(kFiles, 7)).status), int(Done));
