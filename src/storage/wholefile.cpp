@@ -3,6 +3,7 @@
 #include "platform/ordinaryfile.h"
 #include "platform/target.h"
 
+#include <array>
 #include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
@@ -11,10 +12,9 @@ namespace {
 
 WholeFile::Reading readAll(int fd, qint64 most, QByteArray *bytes)
 {
-    constexpr int kPiece = 64 * 1024;
-    QByteArray piece(kPiece, Qt::Uninitialized);
+    std::array<char, 64 * 1024> piece;
     for (;;) {
-        const ssize_t n = ::read(fd, piece.data(), kPiece);
+        const ssize_t n = ::read(fd, piece.data(), piece.size());
         if (n < 0 && errno == EINTR)
             continue;
         if (n < 0)
@@ -23,7 +23,7 @@ WholeFile::Reading readAll(int fd, qint64 most, QByteArray *bytes)
             return WholeFile::Read;
         if (bytes->size() + n > most)
             return WholeFile::TooLarge;
-        bytes->append(piece.constData(), static_cast<int>(n));
+        bytes->append(piece.data(), static_cast<int>(n));
     }
 }
 
