@@ -31,6 +31,7 @@ private slots:
     void disconnectionStopsTheScans();
     void scanTimerScans();
     void oneScanWaitsAtATime();
+    void onePingWaitsAtATime();
 };
 
 namespace {
@@ -288,6 +289,19 @@ void TstWifiEvents::oneScanWaitsAtATime()
     daemon.wake();
     QTRY_VERIFY(answered);
     QCOMPARE(daemon.count("SCAN"), 1);
+}
+
+void TstWifiEvents::onePingWaitsAtATime()
+{
+    ScriptedDaemon daemon;
+    daemon.hang();
+    QWpaCtrl ctrl;
+    for (int i = 0; i < 50; ++i)
+        ctrl.ping();
+    daemon.wake();
+    QTRY_COMPARE(daemon.count("PING"), 1);
+    QTest::qWait(50);
+    QCOMPARE(daemon.count("PING"), 1);
 }
 
 QTEST_GUILESS_MAIN(TstWifiEvents)

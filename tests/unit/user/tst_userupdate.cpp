@@ -11,6 +11,7 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QFile>
 #include <QSignalSpy>
 
@@ -58,6 +59,7 @@ private slots:
     void errorsOfLaterFirmwareHaveTheirTexts();
     void flashIsAskedForByItself();
     void nextUpdateAfterAFailureBeginsAnew();
+    void answerBehindAnErrorBringsNoSecondOne();
     void diskPulledDuringTheExchangeChangesNothing();
     void enteringThePageOnceMoreLeavesAnUpdateAlone();
 
@@ -567,6 +569,25 @@ void TstUserUpdate::enteringThePageOnceMoreLeavesAnUpdateAlone()
     answer(0xC402, 0);
     answer(0xC403, 0);
     QVERIFY(!m_page->isBusy());
+}
+
+void TstUserUpdate::answerBehindAnErrorBringsNoSecondOne()
+{
+    startFirmware();
+    int shown = 0;
+    const DialogDriver::Step step = [this, &shown](QDialog *dialog) {
+        if (++shown == 1)
+            answer(0xC401, 0); // the error stands on the screen
+        QTest::keyClick(dialog, Qt::Key_L);
+    };
+    DialogDriver driver({ step, step });
+    QEventLoop loop; // as on the instrument, where what is to be deleted outlives the message
+    QTimer::singleShot(0, &loop, [this, &loop] {
+        answer(0xC401, 7);
+        loop.quit();
+    });
+    loop.exec();
+    QCOMPARE(shown, 1);
 }
 
 PAGE_TEST_MAIN(TstUserUpdate)
