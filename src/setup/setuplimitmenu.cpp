@@ -7,7 +7,7 @@
 
 #include <algorithm>
 
-SetupLimitMenu::SetupLimitMenu(QWidget *parent) : LineList(2, 120, KeyRepeat::Pace { 0, { 1 } }, parent)
+SetupLimitMenu::SetupLimitMenu(QWidget *parent) : LineList(2, 130, KeyRepeat::Pace { 0, { 1 } }, parent)
 {
     static const KeyRow<SetupLimitMenu> keys[] = {
         { Qt::Key_F1, QT_TRANSLATE_NOOP("SetupLimitMenu", "Add"), &SetupLimitMenu::addLimits },

@@ -104,6 +104,7 @@ private slots:
     void noTextIsReadAsMarkup();
 
 private:
+    void speak(int language);
     void look(QWidget *widget, const QString &where);
     void lookAtCharts();
     void lookAtDialogs();
@@ -113,6 +114,7 @@ private:
     void takeMarkupReaders(const QWidget *form);
 
     AskedTexts m_texts;
+    int m_language = UserConfig::EN; // the one that is looked at
     QTimer m_closer;
     TaskLinks m_links;
     QStringList m_misfits;
@@ -213,6 +215,7 @@ void TstLanguages::walk(LivePage *page, FunctionPage *whole, const std::function
         return;
     }
     m_where = QString::fromLatin1(page->metaObject()->className());
+    const int chosen = m_userConfig_g.getLang();
     for (const PageTest::FrontKey key :
          { PageTest::Up, PageTest::F1, PageTest::F2, PageTest::F3, PageTest::F4, PageTest::F5, PageTest::Enter,
            PageTest::Left, PageTest::Right, PageTest::Down }) {
@@ -220,6 +223,10 @@ void TstLanguages::walk(LivePage *page, FunctionPage *whole, const std::function
         PageTest::press(page, key);
         whole->updateDisplay(nullptr);
         look(whole, m_where);
+    }
+    if (m_userConfig_g.getLang() != chosen) { // by the keys of the user's page
+        speak(m_language);
+        whole->retranslateUi();
     }
 }
 
@@ -264,14 +271,20 @@ void TstLanguages::everyTextFits_data()
         QTest::newRow(languages.at(i).key) << i + 1;
 }
 
+void TstLanguages::speak(int language)
+{
+    languageTranslator.reloadLangTranslation(language);
+    QCoreApplication::removeTranslator(&m_texts);
+    QCoreApplication::installTranslator(&m_texts);
+}
+
 void TstLanguages::everyTextFits()
 {
     QFETCH(int, language);
     m_misfits.clear();
     m_seen.clear();
-    languageTranslator.reloadLangTranslation(language);
-    QCoreApplication::removeTranslator(&m_texts);
-    QCoreApplication::installTranslator(&m_texts);
+    m_language = language;
+    speak(language);
     m_basedialog->navigator().go(UI_VIF, UI_MENU);
     look(m_basedialog, QStringLiteral("window"));
     lookAtDialogs();
