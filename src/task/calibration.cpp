@@ -258,7 +258,6 @@ void Calibration::newDataBasic(const QByteArray &datagram)
         return;
     }
     // The datagram that finds them complete only ends the run.
-    m_counter = 0;
     storeGains();
     m_cal_type = CalNone;
     complete();

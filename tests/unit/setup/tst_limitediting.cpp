@@ -23,6 +23,7 @@ private slots:
     void leavingByAFunctionKeyDropsTheDraft();
     void aHeldKeyGrowsAndStopsAtNotApplied();
     void harmonicsAreEditedByColumns();
+    void listsBeginAtTheirTopEachTimeTheyAreOpened();
     void aSetWithoutHarmonicRowsHasNone();
     void theLampIsThatOfTheCurve();
     void theSetInUseFollowsItsEditedValues();
@@ -235,6 +236,24 @@ void TstLimitEditing::harmonicsAreEditedByColumns()
     QCOMPARE(limit.harmonicNep[24], 94.9f);
     QCOMPARE(limit.harmonicPartial[2], 5.0f);
     QCOMPARE(limit.harmonicNep[25], 0.0f); // a row that is not in use
+}
+
+void TstLimitEditing::listsBeginAtTheirTopEachTimeTheyAreOpened()
+{
+    press(menu(), Enter);
+    openItem(Harmonics);
+    press(top(), F1);
+    press(top(), Down, 3);
+    press(top(), F5);
+    openItem(Harmonics);
+    QCOMPARE(shown("title"), QStringLiteral("Harmonics: limit for this time"));
+    QCOMPARE(qobject_cast<LimitHarmPage *>(top())->selected(), 0);
+    press(top(), F5);
+    QCOMPARE(qobject_cast<LimitItemsPage *>(top())->selected(), int(Harmonics)); // the one that was open
+    press(top(), F5);
+    press(menu(), Down);
+    press(menu(), Enter);
+    QCOMPARE(qobject_cast<LimitItemsPage *>(top())->selected(), 0); // another set
 }
 
 void TstLimitEditing::aSetWithoutHarmonicRowsHasNone()

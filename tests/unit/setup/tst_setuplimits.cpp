@@ -1,5 +1,7 @@
 #include "limitcase.h"
 
+#include <QScrollBar>
+
 #include <QSignalSpy>
 
 using namespace LimitCase;
@@ -24,6 +26,7 @@ private slots:
     void namesOutOfFilesAreShownAndChosen_data();
     void namesOutOfFilesAreShownAndChosen();
     void aLongListScrolls();
+    void ofTwoFilesOfOneNameTheFirstIsInUse();
 };
 
 void TstSetupLimits::setsAreListedWithTheOneInUse()
@@ -237,11 +240,25 @@ void TstSetupLimits::namesOutOfFilesAreShownAndChosen()
     QVERIFY(!RootFiles::exists("/mnt/userfs/a/b.xml") && !RootFiles::exists("/mnt/userfs/sys/a/b.xml"));
 }
 
+void TstSetupLimits::ofTwoFilesOfOneNameTheFirstIsInUse()
+{
+    RootFiles::write(kFolder + "a.xml", set("Twice"));
+    RootFiles::write(kFolder + "b.xml", set("Twice"));
+    m_limits_g.loadAllLimitsFile();
+    m_limits_g.changeActiveLimits("Twice");
+    m_page->init_parameter();
+    QCOMPARE(lines(), QStringList({ "EN50160", "GOST32144", "Twice", "Twice" }));
+    QCOMPARE(lines(2), QStringList({ "", "", "in use" }));
+}
+
 void TstSetupLimits::aLongListScrolls()
 {
     for (int i = 1; i <= 12; ++i)
         m_limits_g.add(QString("Set %1").arg(i), limitOf("EN50160"));
+    const auto *scrollBar = top()->findChild<QScrollBar *>();
+    QVERIFY(scrollBar->isHidden()); // two sets so far
     m_page->init_parameter();
+    QVERIFY(!scrollBar->isHidden());
     QCOMPARE(lines().size(), 10);
     choose("Set 12");
     QCOMPARE(lines().last(), QStringLiteral("Set 12"));

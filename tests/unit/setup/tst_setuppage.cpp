@@ -202,11 +202,16 @@ void TstSetupPage::longNamesAreCutInTheSummary()
     m_settingConfig_g.clamps()->addClamp(new Clamp(name, 10, 1000, false, true, QString()));
     m_settingConfig_g.clamps()->setCurClamp(name);
     m_settingConfig_g.followSettings();
+    m_limits_g.add(name, *m_limits_g.getLimitsInUsed());
+    m_limits_g.changeActiveLimits(name);
     SetupPage setup(liveData());
     setup.enter();
-    const auto *label = setup.currentPage()->findChild<QLabel *>("clamp");
-    QVERIFY(label->text().startsWith(QStringLiteral("WWWW")) && label->text().endsWith(QChar(0x2026)));
-    QVERIFY(label->fontMetrics().horizontalAdvance(label->text()) <= label->width());
+    for (const char *shown : { "clamp", "limits" }) {
+        const auto *label = setup.currentPage()->findChild<QLabel *>(shown);
+        QVERIFY(label->text().startsWith(QStringLiteral("WWWW")) && label->text().endsWith(QChar(0x2026)));
+        QVERIFY(label->fontMetrics().horizontalAdvance(label->text()) <= label->width());
+    }
+    m_limits_g.remove(name);
 }
 
 void TstSetupPage::freqKeyGoesRoundTheThreeFrequencies()

@@ -53,6 +53,7 @@ private slots:
     void labelsAreShownAndCancelStoresNothing();
     void serialNumberIsTypedAndStored();
     void serialNumberIsNeverEmpty();
+    void enterOnTheModelOpensNoKeyboard();
     void modelStepsStopAtTheEndsOfTheList();
     void modelIsStoredByItsName();
     void okWithoutAChangeStoresNothing();
@@ -232,6 +233,14 @@ void TstSetupService::serialNumberIsNeverEmpty()
            },
            keys({ F4 }) });
     QCOMPARE(m_userConfig_g.getInstrumentSN(), QStringLiteral("7"));
+}
+
+void TstSetupService::enterOnTheModelOpensNoKeyboard()
+{
+    edit({ [](QDialog *dialog) {
+        keys({ Down, Enter, F5 })(dialog); // a keyboard would take F5 and leave the dialog open
+        QVERIFY(!dialog->isVisible());
+    } });
 }
 
 void TstSetupService::modelStepsStopAtTheEndsOfTheList()
