@@ -15,7 +15,7 @@ struct DatagramKind
 };
 
 /// One row per kind, in the order of the values.
-constexpr DatagramKind kDatagramKinds[] = {
+inline constexpr DatagramKind kDatagramKinds[] = {
     { DatagramAggregation, "datagramAggregation", Link::kAggregationWords, 0, true },
     { DatagramRMS_1_2, "datagramRMS_1_2", Link::kRmsWords, 0, true },
     { DatagramTransient, "datagramTransient", Link::kTransientWords, 0, false }, // Kept: assembled, not emitted

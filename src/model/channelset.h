@@ -45,7 +45,7 @@ struct ChannelSet
     QString caption(int channel) const;
 };
 
-constexpr ChannelSet kChannelSets[] = {
+inline constexpr ChannelSet kChannelSets[] = {
     { 1, "3P WYE", "3P WYE", 0b1111, 3, 3, 0b0111, 0b0111, 0b1111, 1, 3 },
     { 2, "3P IT", "3P IT", 0b0111, 3, 3, 0b0111, 0b0111, 0b1111, 2, 3 },
     { 3, "1P", "1P +NEUTRAL", 0b1001, 1, 1, 0b0001, 0b0001, 0b1001, 3, 1 },
