@@ -108,6 +108,9 @@ bool Gallery::warmUp(DeskInstrument &desk)
 // From the menu to the page, through its pictures, and back to the menu.
 bool Gallery::showPage(DeskInstrument &desk, const Page &page, const QString &variant, bool at400Hz, QString *item)
 {
+    // Setup ends the measurement. F4 agrees where it asks, else it opens the clamps; F7 leads to the menu from either.
+    if (page.endsMeasurement && !desk.press({ QStringLiteral("F9"), QStringLiteral("F4"), QStringLiteral("F7") }))
+        return false;
     QStringList way;
     if (!page.menuItem.isEmpty()) {
         way = menuPath(*item, page.menuItem, at400Hz);

@@ -42,16 +42,22 @@ Page byKey(const char *name, const char *key, const QStringList &shots, const ch
     return page;
 }
 
-/// A site set up from the factory's settings, as docs/user-guide.md does it: with `--warm-up 0`, or a question comes
-/// first.
+/// The same page of a function that ends the measurement and asks before it does.
+Page endingMeasurement(Page page)
+{
+    page.endsMeasurement = true;
+    return page;
+}
+
+/// A site set up from the factory's settings, as docs/user-guide.md does it.
 QVector<Page> setUpOfASite()
 {
     return {
-        byKey("site", "F9",
-              { "factory", "F1: wirings", "Enter: wiring", "F4 F2: nominal-voltage",
-                "F4 F4 Down Right Right Right Right Right Right: clamp",
-                "Up Right Down Right Right Right Right: neutral", "F4: ready" },
-              "", true, false),
+        endingMeasurement(byKey("site", "F9",
+                                { "factory", "F1: wirings", "Enter: wiring", "F4 F2: nominal-voltage",
+                                  "F4 F4 Down Right Right Right Right Right Right: clamp",
+                                  "Up Right Down Right Right Right Right: neutral", "F4: ready" },
+                                "", true, false)),
         fromMenu("site-values", "vif", { "measuring" }, "", true, false),
     };
 }
@@ -60,36 +66,37 @@ QVector<Page> setUpOfASite()
 QVector<Page> setupEditors()
 {
     return {
-        byKey("setup-clamps", "F9",
-              { "F4: choice", "Down Right Right Right Right Right Right: flexible",
-                "Down Right Right Right Right Right: custom", "Enter: ratio-keys", "F5 F2: uneditable", "F5 F1: editor",
-                "Enter: name-keys", "Enter Right Enter F4 Down Down Enter F2 Up Enter F4: edited", "F4: added",
-                "F1 F4: empty", "F5 F5 F3: delete" },
-              "F5 F5", true, false),
-        byKey("setup-limits", "F9",
-              { "F5 F1: sets",
-                "Enter: built-in",
-                "Enter: voltage-built-in",
-                "F5 F5 F1 Enter Right Enter F4: added",
-                "F1 F2 Enter Right Enter F4: exists",
-                "F5 F1 F4: empty",
-                "F5 Down Down Enter: items",
-                "Enter: voltage",
-                "Down Right Right: voltage-edited",
-                "Down Right Right: not-applied",
-                "F4 Down Enter: harmonics",
-                "F1 Right Down: harmonics-edited",
-                "F4 Down Enter: flicker",
-                "F5 Down Enter: dips",
-                "F5 Down Enter: swells",
-                "F5 Down Enter: interruptions",
-                "F5 Down Enter: rvc",
-                "F5 Down Enter: unbalance",
-                "F5 Down Enter: frequency",
-                "F5 Down Enter: mains-signaling",
-                "F5 F4 F4: in-use",
-                "F1 F2: delete" },
-              "F5 F5", true, false),
+        endingMeasurement(
+            byKey("setup-clamps", "F9",
+                  { "F4: choice", "Down Right Right Right Right Right Right: flexible",
+                    "Down Right Right Right Right Right: custom", "Enter: ratio-keys", "F5 F2: uneditable",
+                    "F5 F1: editor", "Enter: name-keys", "Enter Right Enter F4 Down Down Enter F2 Up Enter F4: edited",
+                    "F4: added", "F1 F4: empty", "F5 F5 F3: delete" },
+                  "F5 F5", true, false)),
+        endingMeasurement(byKey("setup-limits", "F9",
+                                { "F5 F1: sets",
+                                  "Enter: built-in",
+                                  "Enter: voltage-built-in",
+                                  "F5 F5 F1 Enter Right Enter F4: added",
+                                  "F1 F2 Enter Right Enter F4: exists",
+                                  "F5 F1 F4: empty",
+                                  "F5 Down Down Enter: items",
+                                  "Enter: voltage",
+                                  "Down Right Right: voltage-edited",
+                                  "Down Right Right: not-applied",
+                                  "F4 Down Enter: harmonics",
+                                  "F1 Right Down: harmonics-edited",
+                                  "F4 Down Enter: flicker",
+                                  "F5 Down Enter: dips",
+                                  "F5 Down Enter: swells",
+                                  "F5 Down Enter: interruptions",
+                                  "F5 Down Enter: rvc",
+                                  "F5 Down Enter: unbalance",
+                                  "F5 Down Enter: frequency",
+                                  "F5 Down Enter: mains-signaling",
+                                  "F5 F4 F4: in-use",
+                                  "F1 F2: delete" },
+                                "F5 F5", true, false)),
     };
 }
 
@@ -115,29 +122,29 @@ const QVector<Page> &galleryPages()
         fromMenu("mains-signaling", "mainssignaling", { "table", "F4: trend", "F1: trend-next" }),
         fromMenu("wave", "wave", { "message" }, "F5", true, kOneWiring),
         fromMenu("logger", "logger", { "message" }, "F5", true, kOneWiring),
-        fromMenu("user", "user",
-                 { "question", "F4: list", "Down Down Down Enter: colors", "Down Right: colors-changed",
+        endingMeasurement(fromMenu("user", "user",
+                 { "list", "Down Down Down Enter: colors", "Down Right: colors-changed",
                    "F5 Down Enter: name", "F5 F1: date", "Right: date-year",
                    "Down Down Down Down Down Right: date-zone", "F5 F2: lan", "Down Right: lan-static",
                    "Down Enter: lan-keyboard", "F5 F5 F3: wlan", "F1: wlan-open", "F1 F5 F4: update",
                    "Right: update-firmware", "F1: update-no-disk" },
-                 "", true, kOneWiring),
+                 "", true, kOneWiring)),
         byKey("scope", "F6",
               { "voltage", "F1: next", "F1: next-2", "F1: next-3", "F1: next-4", "F3: cursor", "F3 Up: zoom" }),
         byKey("monitor", "F8", { "message" }, "F5", kNotAt400Hz, kOneWiring),
-        byKey("setup", "F9",
+        endingMeasurement(byKey("setup", "F9",
               { "first", "F1: wirings", "Right: wirings-next", "F3: wirings-last", "Enter: wiring-detail",
                 "F5 F5 F2: nominal-voltage", "Right Right Right Right Right Right Right Right Up Up: custom",
                 "F5 F5: second", "F2: functions", "Down Down: functions-third", "Enter: transients",
                 "F5 Up Enter: flicker", "F5 Up Up Enter: k-factor", "Right Down Down: k-factor-us",
                 "F3 F5 Down Down Down Enter: inrush", "Down Right: inrush-edited",
                 "F5 Down Down Down Down Enter: mains-signaling", "Down Down Left: mains-signaling-edited" },
-              "F5 F5", true, true),
-        byKey("setup-service", "F9",
+              "F5 F5", true, true)),
+        endingMeasurement(byKey("setup-service", "F9",
               { "first", "Right Right Left Left Right Left Right Left: instrument-info", "Down: instrument-info-model",
                 "F5 Left Left Right Right Left Right Left Right: calibration", "F1 F2: calibration-l1",
                 "F3: calibration-runs", "F5: calibration-question", "F4: left" },
-              "", true, kOneWiring),
+              "", true, kOneWiring)),
         byKey("memory", "F10", { "message" }, "F5", true, kOneWiring),
     } + setupEditors() + setUpOfASite();
     return pages;

@@ -21,6 +21,7 @@ struct Page
     QStringList leave; // from the last shot to where F7 leads to the menu
     bool at400Hz; // false: the function does not exist at 400 Hz
     bool everyWiring; // false: looks the same in all wirings, so that one is enough
+    bool endsMeasurement = false; // a running measurement is ended before, so that no question stands in front
 };
 
 /// All functions, in the order of the menu.
