@@ -2,6 +2,7 @@
 
 #include "model/displayrecords.h"
 #include "model/eventlist.h"
+#include "model/monitorrecords.h"
 #include "model/transientlist.h"
 
 #include <optional>
@@ -21,6 +22,8 @@ struct DisplayRecords
     __rms_trend_data inrush;
     __mains_sig_data mainsSignal;
     __pi_data inverter;
+    __monitor_data monitor;
+    __monitor_trend monitorTrend;
 };
 
 /// The one owner of the measured data. The task writes the live records; pages read the shown ones. These are the live

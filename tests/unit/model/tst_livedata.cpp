@@ -23,6 +23,7 @@ private slots:
     void liveRecordsKeepTheirAddress();
     void endOfAMeasurementKeepsItsEventsAndNoTransients();
     void startEmptiesTheLists();
+    void aTrendOfTheMonitorDropsItsOldestValueWhenItIsFull();
     void listsGoOnBehindAHold();
     void endOfAHeldMeasurementLeavesWhatIsShown();
     void heldTransientsOutlastTheirDrop();
@@ -63,6 +64,8 @@ void TstLiveData::heldRecordsStandStillWhileTheLiveOnesGoOn()
     live.inrush.current[0] = { 5 };
     live.mainsSignal.frequencyTrend = { 50 };
     live.inverter.trend[5].series[0] = { 6 };
+    live.monitor.voltMax[1] = 231;
+    live.monitorTrend.row[MonitorTrendUnbalance] = { 0.5f };
     m_data.hold();
 
     live.vif.voltage[2] = 0;
@@ -77,6 +80,8 @@ void TstLiveData::heldRecordsStandStillWhileTheLiveOnesGoOn()
     live.inrush.current[0].append(6);
     live.mainsSignal.frequencyTrend.append(51);
     live.inverter.trend[5].series[0].clear();
+    live.monitor.voltMax[1] = 232;
+    live.monitorTrend.append(MonitorTrendUnbalance, 1);
 
     const DisplayRecords &shown = m_data.shown();
     QCOMPARE(shown.vif.voltage[2], 230.0f);
@@ -91,6 +96,8 @@ void TstLiveData::heldRecordsStandStillWhileTheLiveOnesGoOn()
     QCOMPARE(shown.inrush.current[0], QList<float>({ 5 }));
     QCOMPARE(shown.mainsSignal.frequencyTrend, QList<float>({ 50 }));
     QCOMPARE(shown.inverter.trend[5].series[0], QList<float>({ 6 }));
+    QCOMPARE(shown.monitor.voltMax[1], 231.0f);
+    QCOMPARE(shown.monitorTrend.row[MonitorTrendUnbalance], QList<float>({ 0.5f }));
 }
 
 void TstLiveData::runShowsTheLiveRecordsAgain()
@@ -134,6 +141,9 @@ void TstLiveData::startEmptiesEveryRecordAndHoldsNothing()
     live.mainsSignal.rms1[0] = 1;
     live.inverter.efficiency = 1;
     live.inverter.trend[0].series[0] = { 1 };
+    live.monitor.voltReady = 1;
+    live.monitor.harmOk[2][24] = 0;
+    live.monitorTrend.append(MonitorTrendFrequency, 50);
     m_data.hold();
     m_data.empty(60);
 
@@ -143,6 +153,9 @@ void TstLiveData::startEmptiesEveryRecordAndHoldsNothing()
     QCOMPARE(live.power.row[3].tangent, 0.0f);
     QVERIFY(live.power.trend[7].series[3].isEmpty());
     QCOMPARE(live.power.hours, 0);
+    QCOMPARE(live.monitor.voltReady, 0);
+    QCOMPARE(live.monitor.harmOk[2][24], 1);
+    QVERIFY(live.monitorTrend.row[MonitorTrendFrequency].isEmpty());
     QCOMPARE(live.harmonics.reference, 2);
     QCOMPARE(live.harmonics.channel[7].inter[49].frequency, 0.0f);
     QCOMPARE(live.unbalance.angleDifference[3], 0.0f);
@@ -156,6 +169,20 @@ void TstLiveData::startEmptiesEveryRecordAndHoldsNothing()
     QCOMPARE(live.mainsSignal.rms1[0], 0.0f);
     QCOMPARE(live.inverter.efficiency, 0.0f);
     QVERIFY(live.inverter.trend[0].series[0].isEmpty());
+}
+
+void TstLiveData::aTrendOfTheMonitorDropsItsOldestValueWhenItIsFull()
+{
+    __monitor_trend &trend = m_data.live().monitorTrend;
+    for (int i = 0; i < 1024; ++i)
+        trend.append(MonitorTrendVoltage + 2, float(i));
+    QCOMPARE(trend.row[6].size(), 1024);
+    QCOMPARE(trend.row[6].first(), 0.0f);
+    trend.append(MonitorTrendVoltage + 2, 1024);
+    QCOMPARE(trend.row[6].size(), 1024);
+    QCOMPARE(trend.row[6].first(), 1.0f);
+    QCOMPARE(trend.row[6].last(), 1024.0f);
+    QVERIFY(trend.row[4].isEmpty());
 }
 
 void TstLiveData::startStandsForTheNominalFrequency()
