@@ -10,7 +10,7 @@
 #include "shell/quveraglobal.h"
 #include "shell/taskmanage.h"
 #include "widgets/controls/labellook.h"
-#include "widgets/text/localtime.h"
+#include "settings/localtime.h"
 #include "widgets/dialogs/message.h"
 
 #include <QDateTime>

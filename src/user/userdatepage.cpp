@@ -5,7 +5,7 @@
 #include "settings/config_data.h"
 #include "user/timezones.h"
 #include "widgets/dialogs/softkeydialog.h"
-#include "widgets/text/localtime.h"
+#include "settings/localtime.h"
 
 #include <QLabel>
 

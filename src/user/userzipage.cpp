@@ -10,7 +10,7 @@
 #include "user/phasecolordialog.h"
 #include "user/phasecolorpalette.h"
 #include "widgets/dialogs/virtualkeyboard.h"
-#include "widgets/text/localtime.h"
+#include "settings/localtime.h"
 
 #include <QFontMetrics>
 

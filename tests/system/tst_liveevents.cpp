@@ -8,7 +8,7 @@
 #include "views/inrush/inrusheventpage.h"
 #include "views/inrush/inrushpage.h"
 #include "widgets/controls/eventswidget.h"
-#include "widgets/text/localtime.h"
+#include "settings/localtime.h"
 
 #include <QFile>
 #include <QJsonArray>

@@ -2,7 +2,7 @@
 
 #include "model/livedata.h"
 
-#include "widgets/text/localtime.h"
+#include "settings/localtime.h"
 
 #include <algorithm>
 #include <cmath>

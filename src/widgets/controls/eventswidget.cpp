@@ -2,7 +2,7 @@
 
 #include "widgets/charts/chartparts.h"
 #include "widgets/text/f_to_str.h"
-#include "widgets/text/localtime.h"
+#include "settings/localtime.h"
 
 #include <QDateTime>
 #include <QPainter>

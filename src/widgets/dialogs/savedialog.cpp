@@ -5,7 +5,7 @@
 #include "ui_savedialog.h"
 #include "widgets/dialogs/message.h"
 #include "widgets/dialogs/virtualkeyboard.h"
-#include "widgets/text/localtime.h"
+#include "settings/localtime.h"
 
 #include <QFile>
 

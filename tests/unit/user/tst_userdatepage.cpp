@@ -5,7 +5,7 @@
 #include "unit/views/framespy.h"
 #include "user/timezones.h"
 #include "user/userdatepage.h"
-#include "widgets/text/localtime.h"
+#include "settings/localtime.h"
 
 #include <QSignalSpy>
 #include <QTimeZone>

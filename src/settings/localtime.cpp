@@ -1,4 +1,4 @@
-#include "widgets/text/localtime.h"
+#include "settings/localtime.h"
 
 #include "settings/config_data.h"
 #include "platform/clock.h"

@@ -1,6 +1,6 @@
 #include "settings/config_data.h"
 #include "platform/clock.h"
-#include "widgets/text/localtime.h"
+#include "settings/localtime.h"
 
 #include <QTest>
 

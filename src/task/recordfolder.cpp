@@ -1,0 +1,59 @@
+#include "task/recordfolder.h"
+
+#include "platform/target.h"
+#include "settings/localtime.h"
+#include "storage/fileinfo.h"
+
+#include <QDir>
+
+namespace {
+
+/// A name of the user's as a part of the name of a folder.
+QString plainName(const QString &name)
+{
+    QString plain = name;
+    for (QChar &c : plain) {
+        if (c == QLatin1Char('/') || c == QLatin1Char(',') || c.category() == QChar::Other_Control)
+            c = QLatin1Char('_');
+    }
+    return plain;
+}
+
+} // namespace
+
+QString RecordFolder::nameAt(const QDateTime &localTime, const QString &record)
+{
+    return localTime.toString(QStringLiteral("yyMMdd_hhmmss")) + QLatin1Char(' ') + plainName(record);
+}
+
+bool RecordFolder::create(const QString &record)
+{
+    const QDateTime now = LocalTime::currentDateTime();
+    m_name = nameAt(now, record);
+    const QDir folder(Target::path(path()));
+    if (!folder.exists() && !QDir().mkdir(folder.path())) {
+        m_name.clear();
+        return false;
+    }
+    FileInfo().saveInfo(m_name, now);
+    return true;
+}
+
+void RecordFolder::remove()
+{
+    if (m_name.isEmpty())
+        return;
+    QDir(Target::path(path())).removeRecursively();
+    FileInfo().removeInfo(m_name);
+    m_name.clear();
+}
+
+QString RecordFolder::path() const
+{
+    return m_name.isEmpty() ? QString() : FileInfo::storagePath() + m_name + QLatin1Char('/');
+}
+
+QString RecordFolder::file(const QString &name) const
+{
+    return m_name.isEmpty() ? QString() : path() + name;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+class QDateTime;
+
+/// The folder of one recording, or of one run of the monitor, on the storage: "yyMMdd_hhmmss name", by the user's time.
+/// Paths are the board's. Main thread.
+class RecordFolder
+{
+public:
+    /// What a recording of that name is called which begins at that time. Slashes, commas and control characters, which
+    /// would lead elsewhere or break the line of the index, become "_".
+    static QString nameAt(const QDateTime &localTime, const QString &record);
+
+    /// Makes the folder of a recording that begins now and enters it in the index. False, with no name, when it cannot
+    /// be made.
+    bool create(const QString &record);
+    /// Lets go of the folder, which stays.
+    void release() { m_name.clear(); }
+    /// Takes the folder away with all that is in it, and its entry.
+    void remove();
+
+    QString name() const { return m_name; } // empty without a folder
+    QString path() const; // with a slash at its end; empty without a folder
+    /// Path of a file in it; empty without a folder.
+    QString file(const QString &name) const;
+
+private:
+    QString m_name;
+};

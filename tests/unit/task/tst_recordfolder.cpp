@@ -1,0 +1,98 @@
+#include "platform/clock.h"
+#include "settings/config_data.h"
+#include "storage/fileinfo.h"
+#include "task/recordfolder.h"
+#include "unit/storage/rootfiles.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QTest>
+
+/// Folders of recordings.
+class TstRecordFolder : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        RootFiles::clean();
+        Clock::setForTest(1705594500000); // 2024-01-18 16:15:00 UTC
+        m_userConfig_g.setTimeZone(QStringLiteral("Europe/Warsaw")); // an hour ahead
+    }
+    void cleanup() { Clock::useSystem(); }
+
+    void theNameIsTheUsersTimeAndTheRecordsName();
+    void noNameLeadsToAnotherFolderOrBreaksTheIndex();
+    void theFolderStandsOnTheStorageAndInTheIndex();
+    void withoutStorageThereIsNoFolder();
+    void aRemovedFolderIsGoneWithItsFilesAndItsEntry();
+    void aReleasedFolderStays();
+};
+
+void TstRecordFolder::theNameIsTheUsersTimeAndTheRecordsName()
+{
+    const QDateTime local(QDate(2024, 1, 18), QTime(16, 15, 9), Qt::UTC);
+    QCOMPARE(RecordFolder::nameAt(local, QStringLiteral("Logger_1")), QStringLiteral("240118_161509 Logger_1"));
+    QCOMPARE(RecordFolder::nameAt(local, QString()), QStringLiteral("240118_161509 "));
+}
+
+void TstRecordFolder::noNameLeadsToAnotherFolderOrBreaksTheIndex()
+{
+    const QDateTime local(QDate(2024, 1, 18), QTime(16, 15, 9), Qt::UTC);
+    QCOMPARE(RecordFolder::nameAt(local, QStringLiteral("../../a,b\nc")), QStringLiteral("240118_161509 .._.._a_b_c"));
+}
+
+void TstRecordFolder::theFolderStandsOnTheStorageAndInTheIndex()
+{
+    RecordFolder folder;
+    QVERIFY(folder.create(QStringLiteral("Logger_1")));
+    QCOMPARE(folder.name(), QStringLiteral("240118_171500 Logger_1"));
+    QCOMPARE(folder.path(), QStringLiteral("/mnt/storage/240118_171500 Logger_1/"));
+    QCOMPARE(folder.file(QStringLiteral("Common.pqa2")),
+             QStringLiteral("/mnt/storage/240118_171500 Logger_1/Common.pqa2"));
+    QVERIFY(QDir(Target::path(folder.path())).exists());
+    QCOMPARE(RootFiles::read(FileInfo::indexPath()), QByteArray("240118_171500 Logger_1,2024-01-18 17:15:00\n"));
+    QCOMPARE(FileInfo().getRecordInfos(), QStringList { folder.name() });
+    QCOMPARE(FileInfo().getDefaultRecordName(QStringLiteral("Logger_")), QStringLiteral("Logger_2"));
+}
+
+void TstRecordFolder::withoutStorageThereIsNoFolder()
+{
+    const QString storage = Target::path(FileInfo::storagePath());
+    QVERIFY(QDir(storage).removeRecursively());
+    RecordFolder folder;
+    QVERIFY(!folder.create(QStringLiteral("Logger_1")));
+    QVERIFY(!QDir(storage).exists());
+    QCOMPARE(folder.name(), QString());
+    QCOMPARE(folder.path(), QString());
+    QCOMPARE(folder.file(QStringLiteral("Common.pqa2")), QString());
+    QVERIFY(QDir().mkpath(storage));
+}
+
+void TstRecordFolder::aRemovedFolderIsGoneWithItsFilesAndItsEntry()
+{
+    RecordFolder folder;
+    QVERIFY(folder.create(QStringLiteral("Logger_1")));
+    RootFiles::write(folder.file(QStringLiteral("Common.pqa2")), "x");
+    const QString path = Target::path(folder.path());
+    folder.remove();
+    QVERIFY(!QDir(path).exists());
+    QCOMPARE(RootFiles::read(FileInfo::indexPath()), QByteArray());
+    QCOMPARE(folder.name(), QString());
+    folder.remove(); // nothing is left that could go
+    QVERIFY(QDir(Target::path(FileInfo::storagePath())).exists());
+}
+
+void TstRecordFolder::aReleasedFolderStays()
+{
+    RecordFolder folder;
+    QVERIFY(folder.create(QStringLiteral("Logger_1")));
+    const QString path = Target::path(folder.path());
+    folder.release();
+    folder.remove();
+    QVERIFY(QDir(path).exists());
+}
+
+QTEST_GUILESS_MAIN(TstRecordFolder)
+#include "tst_recordfolder.moc"
