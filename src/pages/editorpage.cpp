@@ -13,11 +13,11 @@ namespace {
 constexpr int kCaptionLeft = 76, kValueRight = 564; // pixels
 
 /// Places of a row.
-LabelGrid gridOf(int captionWidth)
+LabelGrid gridOf(int captionWidth, int height, int textSize)
 {
     const int left = kCaptionLeft + captionWidth + 14;
     constexpr int kNote = -124; // from a value to its note: both stand to the right of their room
-    return { left, kNote, kValueRight - left, 24, 44, kCaptionLeft, captionWidth, 24, 2 };
+    return { left, kNote, kValueRight - left, textSize, height, kCaptionLeft, captionWidth, textSize, 2 };
 }
 
 const char *const kCaptionColors[] = { "#606060", "#c0c0c0" }; // grey row, selectable row
@@ -85,7 +85,8 @@ void EditorPage::setRows(std::vector<Row> rows)
 {
     setObjectName(QString::fromLatin1(metaObject()->className()));
     m_rows = std::move(rows);
-    const LabelGrid grid = gridOf(m_look.captionWidth);
+    const LabelGrid grid = gridOf(m_look.captionWidth, m_look.height, m_look.textSize);
+    m_ui->field_bar->resize(m_ui->field_bar->width(), m_look.height);
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
         QStringList names { m_rows[i].name };
         if (m_rows[i].note)

@@ -67,6 +67,8 @@ protected:
         int top = 70;
         int pitch = 60;
         int captionWidth = 240; // the values get the rest
+        int height = 44; // of a row
+        int textSize = 24;
     };
     /// \a pace: how the steps of a held key grow.
     EditorPage(_quvera_ui_type type, const Look &look, const KeyRepeat::Pace &pace, QWidget *parent);

@@ -11,6 +11,19 @@ void StartTime::reset(const QDateTime &now)
     m_time = QTime(now.time().hour(), now.time().minute());
 }
 
+QDateTime StartTime::moment(const QTimeZone &zone) const
+{
+    // The toolkit's own way may be two hours off where the time does not exist.
+    const QDateTime asUtc(m_date, m_time, Qt::UTC);
+    const QDateTime near = asUtc.addSecs(-zone.offsetFromUtc(asUtc));
+    return asUtc.addSecs(-zone.offsetFromUtc(near));
+}
+
+quint32 StartTime::begin(const QTimeZone &zone) const
+{
+    return m_immediate ? 0 : quint32(moment(zone).toSecsSinceEpoch());
+}
+
 void StartTime::setDate(int year, int month, int day)
 {
     const QDate first(std::clamp(year, kFirstYear, kLastYear), std::clamp(month, 1, 12), 1);

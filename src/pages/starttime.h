@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QTimeZone>
 
 /// When a measurement begins: at once, or at a time that the user sets field by field. Its rows stand in any editor
 /// page; those of the date are grey while the start is immediate. The time is local time, in whole minutes, and always
@@ -22,6 +23,11 @@ public:
     bool isImmediate() const { return m_immediate; }
     /// What the fields say, whether it counts or not.
     QDateTime time() const { return QDateTime(m_date, m_time); }
+    /// The moment at which clocks of \a zone show what the fields say. Of a time that the change to summer time skips
+    /// it is one an hour beside it.
+    QDateTime moment(const QTimeZone &zone) const;
+    /// When a measurement that is planned so begins, s since 1970; 0: at once.
+    quint32 begin(const QTimeZone &zone) const;
 
     /// A field by \a step; each stops at its bounds, none carries into the next.
     void stepYear(int step);

@@ -17,15 +17,6 @@ constexpr int kTop = 60, kPitch = 52; // of the rows, pixels
 constexpr int kFollowMs = 1000;
 constexpr int kZonePixels = 24;
 
-/// The moment at which clocks of a zone show these fields. A time that the change to summer time skips gives one an
-/// hour beside it, for which the toolkit's own way may be two hours off.
-QDateTime momentOf(const QDateTime &fields, const QTimeZone &zone)
-{
-    const QDateTime asUtc(fields.date(), fields.time(), Qt::UTC);
-    const QDateTime near = asUtc.addSecs(-zone.offsetFromUtc(asUtc));
-    return asUtc.addSecs(-zone.offsetFromUtc(near));
-}
-
 } // namespace
 
 UserDatePage::UserDatePage(QWidget *parent)
@@ -120,6 +111,6 @@ void UserDatePage::store()
 {
     m_userConfig_g.setTimeZone(QString::fromLatin1(m_zone));
     // A zone alone must not take the seconds of the clock away.
-    DeviceInit::setADSPHWClock(adjustdate(m_changed ? momentOf(m_time.time(), QTimeZone(m_zone)) : Clock::now()));
+    DeviceInit::setADSPHWClock(adjustdate(m_changed ? m_time.moment(QTimeZone(m_zone)) : Clock::now()));
     emit timeSet();
 }

@@ -89,6 +89,8 @@ private slots:
     void dayFollowsMonthAndYear();
     void fieldsOfATimeStopAtTheirBounds();
     void aBrokenClockStillGivesADate();
+    void plannedStartIsAMomentOfTheZone();
+    void rowsAreAsHighAsThePageAsks();
 
 private:
     std::unique_ptr<SampleEditor> m_page;
@@ -320,7 +322,8 @@ namespace {
 class StartEditor : public EditorPage
 {
 public:
-    StartEditor() : EditorPage(UI_LOGGER, { "Start", 50, 50 }, { 3, { 1, 5, 10, 20 } }, nullptr)
+    explicit StartEditor(int height = Look().height)
+        : EditorPage(UI_LOGGER, { "Start", 50, 50, 240, height }, { 3, { 1, 5, 10, 20 } }, nullptr)
     {
         setRows(start.rows());
         setNoKeys();
@@ -414,6 +417,32 @@ void TstEditorPage::aBrokenClockStillGivesADate()
     QVERIFY(start.time().isValid());
     start.reset(QDateTime(QDate(1970, 1, 1), QTime(0, 0)));
     QCOMPARE(start.time().date(), QDate(2000, 1, 1));
+}
+
+void TstEditorPage::plannedStartIsAMomentOfTheZone()
+{
+    const QTimeZone berlin("Europe/Berlin");
+    StartTime start;
+    start.reset(QDateTime(QDate(2024, 7, 1), QTime(12, 0)));
+    QCOMPARE(start.begin(berlin), 0u); // at once
+    start.rows().front().enter();
+    QCOMPARE(start.begin(berlin), 1719828000u); // 10:00 UTC
+    QCOMPARE(start.begin(QTimeZone::utc()), 1719828000u + 7200u);
+    // 02:30 does not exist on the day on which summer time begins: 03:30, which is 01:30 UTC.
+    start.stepMonth(-4);
+    start.stepDay(30);
+    start.stepHour(-10);
+    start.stepMinute(30);
+    QCOMPARE(start.begin(berlin), 1711848600u);
+}
+
+void TstEditorPage::rowsAreAsHighAsThePageAsks()
+{
+    StartEditor page(34);
+    QCOMPARE(page.findChild<QLabel *>("field_bar")->height(), 34);
+    QCOMPARE(page.findChild<QLabel *>("month")->height(), 34);
+    StartEditor plain;
+    QCOMPARE(plain.findChild<QLabel *>("field_bar")->height(), 44);
 }
 
 QTEST_MAIN(TstEditorPage)
