@@ -57,6 +57,8 @@ UniTask::UniTask(LiveData &data, QObject *parent)
     connectDetector();
     setTaskType(0, 1000);
     connectStates();
+    m_secondTimer.setInterval(1000);
+    connect(&m_secondTimer, &QTimer::timeout, this, &UniTask::tick);
 }
 
 UniTask::~UniTask() = default;
@@ -105,8 +107,9 @@ void UniTask::initUniFunction(AbstractTask::UniFunction function)
     }
     if (plan)
         setTaskLifeCycle(plan->start, plan->life);
+    beginFunctions();
     if (isLive())
-        beginFunctions();
+        tell([](TaskFunction &running) { running.measure(); });
 }
 
 TaskFunction *UniTask::functionOf(AbstractTask::UniFunction function)
@@ -175,12 +178,22 @@ void UniTask::startBaseTimer()
 {
     m_energy.resume();
     beginFunctions();
+    tell([](TaskFunction &function) { function.measure(); });
+    m_secondTimer.start();
 }
 
 void UniTask::stopBaseTimer()
 {
+    m_secondTimer.stop();
     endFunctions(Keep::Data);
     m_data.finish();
+}
+
+void UniTask::tick()
+{
+    const Call call(this);
+    if (isTaskRunning())
+        tell([](TaskFunction &function) { function.tick(); });
 }
 
 void UniTask::save(bool keep)

@@ -12,6 +12,7 @@
 #include "task/halfcycletrends.h"
 
 #include <QByteArray>
+#include <QTimer>
 
 #include <memory>
 #include <vector>
@@ -73,6 +74,8 @@ public slots:
     void resetEnergy();
     void startBaseTimer();
     void stopBaseTimer();
+    /// A second has passed: the task's own timer calls it while a measurement runs.
+    void tick();
     /// The waveform around \a time (ms since 1970) is wanted.
     void changeEventsWave(long long time) { m_eventWaves.want(time); }
 
@@ -128,6 +131,7 @@ private:
     MonitorFunction m_monitor;
     RecorderFunction m_recorder;
     std::vector<TaskFunction *> m_running;
+    QTimer m_secondTimer;
 
     qint32 m_channels = 3; // measured phases
     AbstractTask::UniFunction m_function = UniBasic;

@@ -26,13 +26,17 @@ public:
     TaskFunction &operator=(const TaskFunction &) = delete;
     virtual ~TaskFunction() = default;
 
-    /// Its part of the run begins: files are opened here.
+    /// It is chosen for a run that is planned, or begins inside one: files are opened here.
     virtual void start() { }
+    /// The run for which it was chosen measures from now on; not for what begins inside a run.
+    virtual void measure() { }
     /// A new aggregation, given with the waveform that follows it: each once, and of two before one waveform the last.
     /// Its frequency is a magnitude, its energies are counted up to now.
     virtual void aggregation(const __datagram_aggregation &) { }
     /// Another second of the run is full; behind aggregation().
     virtual void second() { }
+    /// Another second has passed while the run was not paused, whether data came or not.
+    virtual void tick() { }
     virtual void halfCycles(const __datagram_rms &) { }
     virtual void wave(const __datagram_wave &) { }
     /// \a out: what this datagram brought to an end, its blocks without a head.

@@ -12,11 +12,13 @@ class Listener : public TaskFunction
 {
 public:
     void start() override { heard << "start"; }
+    void measure() override { heard << "measure"; }
     void aggregation(const __datagram_aggregation &record) override
     {
         heard << QStringLiteral("aggregation %1").arg(double(record.frequency));
     }
     void second() override { heard << "second"; }
+    void tick() override { heard << "tick"; }
     void halfCycles(const __datagram_rms &) override { heard << "half cycles"; }
     void wave(const __datagram_wave &) override
     {
@@ -67,6 +69,8 @@ private slots:
     void recorderHearsOnlyInsideTheRecordingWindow();
     void monitorEndsItsFileWithTheHeadsOfAllEvents();
     void changeOfTheFunctionEndsTheFormerOne();
+    void chosenFunctionHearsWhenItsRunMeasures();
+    void secondsPassWhetherDataComesOrNotAndNotOnHold();
 
 private:
     void start(AbstractTask::UniFunction function = AbstractTask::UniBasic)
@@ -277,6 +281,38 @@ void TstTaskFunctions::changeOfTheFunctionEndsTheFormerOne()
     m_task->initUniFunction(AbstractTask::UniWave);
     QCOMPARE(m_listener.take(), QStringList({ "stop" }));
     m_task->datagramWave(wave().bytes());
+    QCOMPARE(m_listener.take(), QStringList());
+}
+
+void TstTaskFunctions::chosenFunctionHearsWhenItsRunMeasures()
+{
+    m_task->begin(&m_listener); // chosen, the run is still to come
+    QCOMPARE(m_listener.take(), QStringList({ "start" }));
+    m_task->startTask();
+    QCOMPARE(m_listener.take(), QStringList({ "measure" }));
+    m_task->end(&m_listener, Keep::Data);
+    m_listener.take();
+    m_task->begin(&m_listener); // in the midst of it
+    QCOMPARE(m_listener.take(), QStringList({ "start" }));
+}
+
+void TstTaskFunctions::secondsPassWhetherDataComesOrNotAndNotOnHold()
+{
+    m_task->begin(&m_listener);
+    m_task->tick(); // it waits
+    QCOMPARE(m_listener.take(), QStringList({ "start" }));
+    m_task->startTask();
+    m_listener.take();
+    m_task->tick();
+    m_task->pauseTask();
+    m_task->tick();
+    m_task->continueTask();
+    m_task->tick();
+    QCOMPARE(m_listener.take(), QStringList({ "tick", "tick" }));
+    QTRY_COMPARE_WITH_TIMEOUT(m_listener.heard, QStringList({ "tick" }), 3000); // by the clock
+    m_task->stopTask();
+    m_listener.take();
+    m_task->tick();
     QCOMPARE(m_listener.take(), QStringList());
 }
 
