@@ -1,10 +1,19 @@
 #include "settings/recordinfo.h"
 
 #include "settings/config.h"
+#include "settings/recordgroups.h"
 #include "settings/settingrow.h"
+#include "storage/massstorage.h"
 #include "model/nominalfrequency.h"
 
+#include <algorithm>
+
 namespace {
+
+constexpr double kRoomToBegin = 50; // MB, below which no file is opened
+constexpr double kRoomKept = 5; // MB, below which nothing is stored any more
+constexpr double kMegabyte = 1024 * 1024;
+constexpr double kLongest = 24000; // h: the longest life of a measurement
 const char kFile[] = "/mnt/userfs/config/record.conf";
 const char kKey[] = "PARAMS";
 }
@@ -37,4 +46,20 @@ void RecordInfo::initHarmMaxNumb(double nominalFrequency)
 {
     constexpr int kOrders400 = 12;
     m_harm_max_numb = highestOrder(nominalFrequency, kOrders400, m_harm_max_numb);
+}
+
+int RecordInfo::hoursInRoom(double room, quint32 items, int intervalSeconds, const ChannelSet &wiring)
+{
+    if (room < kRoomToBegin)
+        return 0;
+    const double perHour = recordBytesPerHour(items, intervalSeconds, wiring);
+    return int(std::min((room - kRoomKept) * kMegabyte / perHour, kLongest));
+}
+
+void RecordInfo::checkMaxDuration(const ChannelSet &wiring)
+{
+    const double room = double(MassStorage::storageFreeSize(QStringLiteral("/mnt/storage/")));
+    m_storage_room = int(room);
+    m_max_duration = hoursInRoom(room, m_recordItems, m_record_interval[m_interval_index], wiring);
+    m_duration = std::clamp(m_duration, 1, std::max(m_max_duration, 1));
 }

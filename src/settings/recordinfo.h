@@ -3,6 +3,8 @@
 #include <QString>
 #include <QtGlobal>
 
+struct ChannelSet;
+
 /// The user's choices of the recorder function.
 class RecordInfo
 {
@@ -44,4 +46,11 @@ public:
     static void writeSelectedParam();
     /// 100 orders at 50 and 60 Hz, 12 at 400 Hz; another nominal frequency changes nothing.
     static void initHarmMaxNumb(double nominalFrequency);
+    /// Hours that a recording of these items can go on for with so many MB free (docs/formats/recorder.md); 0 where the
+    /// room is too small to begin one.
+    static int hoursInRoom(double room, quint32 items, int intervalSeconds, const ChannelSet &wiring);
+    /// Looks how much room is free: m_storage_room and m_max_duration follow for the items and the interval as they are
+    /// chosen, and m_duration is lowered where it is longer, to no less than an
+    /// hour.
+    static void checkMaxDuration(const ChannelSet &wiring);
 };

@@ -7,7 +7,10 @@
 #include "settings/inrushinfo.h"
 #include "settings/loggerinfo.h"
 #include "settings/monitorinfo.h"
+#include "settings/recordgroups.h"
 #include "settings/recordinfo.h"
+#include "storage/massstorage.h"
+#include "model/channelset.h"
 #include "model/transparam.h"
 #include "settings/waveinfo.h"
 #include "unit/storage/rootfiles.h"
@@ -92,6 +95,66 @@ private slots:
         RecordInfo::m_recordItems = 0;
         RecordInfo::readSelectedParam();
         QCOMPARE(RecordInfo::m_recordItems, 0x807Fu);
+    }
+
+    void anHourOfARecordingIsCountedBlockByBlock_data()
+    {
+        QTest::addColumn<uint>("items");
+        QTest::addColumn<int>("interval");
+        QTest::addColumn<int>("joinMode");
+        QTest::addColumn<double>("bytes");
+        // A block: 12 of its head, 8 of its time, the values.
+        QTest::newRow("10-second frequency") << 1u << 1 << 1 << 360.0 * 3 * (12 + 8 + 4);
+        QTest::newRow("frequency") << 2u << 1 << 1 << 3600.0 * 3 * (12 + 8 + 4);
+        QTest::newRow("rms and angles") << 4u << 10 << 1 << 360.0 * (3 * (20 + 4 * 52) + 6 * (20 + 16));
+        QTest::newRow("rms, three phases in triangle") << 4u << 10 << 2 << 360.0 * (3 * (20 + 4 * 52) + 6 * (20 + 16));
+        QTest::newRow("rms, phase and neutral") << 4u << 10 << 3 << 360.0 * (3 * (20 + 2 * 52) + 6 * (20 + 8));
+        QTest::newRow("rms, split phase") << 4u << 10 << 5 << 360.0 * (3 * (20 + 3 * 52) + 6 * (20 + 12));
+        QTest::newRow("rms, one phase") << 4u << 10 << 6 << 360.0 * (3 * (20 + 52) + 6 * (20 + 4));
+        QTest::newRow("power") << 8u << 60 << 1 << 60.0 * 3 * (20 + 96);
+        QTest::newRow("energy") << 16u << 60 << 1 << 60.0 * (20 + 96);
+        QTest::newRow("flicker") << 32u << 60 << 1 << 6.0 * (20 + 12) + 0.5 * (20 + 12);
+        QTest::newRow("unbalance") << 64u << 60 << 6 << 60.0 * 3 * (20 + 40);
+        QTest::newRow("mains signaling") << 0x8000u << 60 << 1 << 60.0 * 3 * (20 + 96);
+        for (uint item = 128; item <= 0x4000; item <<= 1)
+            QTest::addRow("spectrum %x", item) << item << 300 << 1 << 12.0 * 3 * (20 + 4 * (2 + 50) * 4);
+        QTest::newRow("a spectrum of one phase") << 128u << 300 << 6 << 12.0 * 3 * (20 + (2 + 50) * 4);
+        QTest::newRow("items add up") << 3u << 1 << 1 << (360.0 + 3600.0) * 72;
+    }
+    void anHourOfARecordingIsCountedBlockByBlock()
+    {
+        QFETCH(uint, items);
+        QFETCH(int, interval);
+        QFETCH(int, joinMode);
+        QFETCH(double, bytes);
+        const double counted = recordBytesPerHour(items, interval, *channelSet(joinMode));
+        QVERIFY2(std::abs(counted - bytes) < 1e-6 * bytes, qPrintable(QString::number(counted)));
+    }
+
+    void theRoomAllowsSoManyHoursAsTheItemsNeed()
+    {
+        // 324000 bytes an hour; 5 MB stay free
+        const ChannelSet &wiring = *channelSet(1);
+        QCOMPARE(RecordInfo::hoursInRoom(50, 4, 10, wiring), 145);
+        QCOMPARE(RecordInfo::hoursInRoom(1024, 4, 10, wiring), int(1019.0 * 1024 * 1024 / 324000));
+        QCOMPARE(RecordInfo::hoursInRoom(1024, 4, 30, wiring), 3 * 3297 + 2);
+        QCOMPARE(RecordInfo::hoursInRoom(49.9, 4, 10, wiring), 0); // no file can be begun
+        QCOMPARE(RecordInfo::hoursInRoom(1e9, 1, 300, wiring), 24000);
+    }
+
+    void theDurationIsLoweredToWhatTheRoomAllows()
+    {
+        RecordInfo::m_recordItems = 0xFFFF;
+        RecordInfo::m_interval_index = 0;
+        RecordInfo::m_duration = 1 << 30;
+        RecordInfo::checkMaxDuration(*channelSet(1));
+        QCOMPARE(RecordInfo::m_storage_room, int(MassStorage::storageFreeSize("/mnt/storage/")));
+        QVERIFY(std::abs(RecordInfo::m_max_duration
+                         - RecordInfo::hoursInRoom(RecordInfo::m_storage_room, 0xFFFF, 1, *channelSet(1)))
+                <= 1);
+        QCOMPARE(RecordInfo::m_duration, std::max(RecordInfo::m_max_duration, 1));
+        RecordInfo::m_interval_index = 3;
+        RecordInfo::m_duration = 2;
     }
 
     void theLoggerStartsWithItsDefaults()
