@@ -10,7 +10,7 @@ enum Status : int {
     Refused = 1, // the package: unsigned, changed, cut, too old, too large, names that are not allowed
     WrongCall = 2,
     Unreadable = 3, // the package cannot be read: no ordinary file, an error of the disk, a disk that was pulled
-    NotInstalled = 4, // the instrument cannot take it: no key, no room, a failed write
+    NotInstalled = 4, // the instrument cannot take it: no key, an unreadable minimum, no room, a failed write
     Busy = 5, // another update is under way
 };
 

@@ -36,7 +36,10 @@ Outcome unpack(const std::string &path)
         return outcome;
     const Head &head = package.head();
     const Minimum minimum(root);
-    if (head.version < minimum.of(head.kind))
+    const std::optional<std::uint32_t> oldest = minimum.of(head.kind);
+    if (!oldest)
+        return { NotInstalled, "the oldest version that is allowed cannot be read" };
+    if (head.version < *oldest)
         return { Refused, "the package is refused: it is older than allowed" };
     outcome = head.kind == Kind::Software ? installSoftware(package, root) : leaveFirmware(package, root);
     if (outcome.good() && !minimum.raise(head.kind, head.minimum))

@@ -32,6 +32,7 @@ private slots:
     void scanTimerScans();
     void oneScanWaitsAtATime();
     void onePingWaitsAtATime();
+    void pingIsSentEveryTenSeconds();
 };
 
 namespace {
@@ -302,6 +303,15 @@ void TstWifiEvents::onePingWaitsAtATime()
     QTRY_COMPARE(daemon.count("PING"), 1);
     QTest::qWait(50);
     QCOMPARE(daemon.count("PING"), 1);
+}
+
+void TstWifiEvents::pingIsSentEveryTenSeconds()
+{
+    ScriptedDaemon daemon;
+    QWpaCtrl ctrl;
+    QTest::qWait(8500);
+    QCOMPARE(daemon.count("PING"), 0);
+    QTRY_COMPARE_WITH_TIMEOUT(daemon.count("PING"), 1, 4000);
 }
 
 QTEST_GUILESS_MAIN(TstWifiEvents)

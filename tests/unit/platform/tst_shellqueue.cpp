@@ -19,6 +19,7 @@ private slots:
     void slowCommandStopsNoTimer();
     void commandThatReadsItsInputEnds();
     void commandsAreThoseOfTheDesk();
+    void shellThatCannotBeStartedDoesNotHoldUpTheNext();
 };
 
 namespace {
@@ -97,6 +98,16 @@ void TstShellQueue::commandThatReadsItsInputEnds()
     ShellQueue queue;
     queue.run(QStringLiteral("cat; echo read >> /var/log/ran"));
     QTRY_COMPARE(ran(), QByteArrayList({ "read" }));
+}
+
+void TstShellQueue::shellThatCannotBeStartedDoesNotHoldUpTheNext()
+{
+    constexpr int kTooLong = 300000; // for one argument of a program, which ends at 128 KiB
+    ShellQueue queue;
+    queue.run(QLatin1String("echo lost >> /var/log/ran #") + QString(kTooLong, QLatin1Char('x')));
+    queue.run(QStringLiteral("echo first >> /var/log/ran"));
+    queue.run(QStringLiteral("echo second >> /var/log/ran"));
+    QTRY_COMPARE(ran(), QByteArrayList({ "first", "second" }));
 }
 
 QTEST_GUILESS_MAIN(TstShellQueue)

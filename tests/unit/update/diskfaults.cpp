@@ -1,7 +1,8 @@
 // Stands between a program and the C library: counts the calls that change a disk, and lets one of them fail or ends
 // the program right before it. Loaded by LD_PRELOAD. DISK_LOG names a file that gets one line for each call: the call,
 // the path of its descriptor, and the name below it. DISK_KILL and DISK_FAIL hold the number of a call, from 1. A write
-// before which the program ends writes half of its bytes.
+// before which the program ends writes half of its bytes. DISK_MISREAD holds the place of a byte: the first read of it
+// from a package gives another value than all that follow.
 #include <cerrno>
 #include <csignal>
 #include <cstdarg>
@@ -28,16 +29,27 @@ int numberFrom(const char *variable)
     return text ? std::atoi(text) : 0;
 }
 
+struct Path
+{
+    explicit Path(int descriptor)
+    {
+        char link[64];
+        std::snprintf(link, sizeof(link), "/proc/self/fd/%d", descriptor);
+        (void)!::readlink(link, text, sizeof(text) - 1);
+    }
+    bool isPackage() const { return std::strstr(text, ".upd") != nullptr; }
+
+    char text[512] = {};
+};
+
 void note(const char *call, int descriptor, const char *name)
 {
     static const char *const file = std::getenv("DISK_LOG");
     if (!file)
         return;
     static const int log = next<Open>("open")(file, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0600);
-    char link[64], path[512] = {}, line[1200];
-    std::snprintf(link, sizeof(link), "/proc/self/fd/%d", descriptor);
-    (void)!::readlink(link, path, sizeof(path) - 1);
-    const int size = std::snprintf(line, sizeof(line), "%s %s %s\n", call, path, name);
+    char line[1200];
+    const int size = std::snprintf(line, sizeof(line), "%s %s %s\n", call, Path(descriptor).text, name);
     (void)!next<Write>("write")(log, line, size_t(size));
 }
 
@@ -95,6 +107,17 @@ ssize_t write(int fd, const void *data, size_t size)
         return real(fd, data, size);
     errno = ENOSPC;
     return -1;
+}
+
+ssize_t pread(int fd, void *data, size_t size, off_t offset)
+{
+    static int place = std::getenv("DISK_MISREAD") ? numberFrom("DISK_MISREAD") : -1;
+    const ssize_t got = next<ssize_t (*)(int, void *, size_t, off_t)>("pread")(fd, data, size, offset);
+    if (place >= offset && place < offset + got && Path(fd).isPackage()) {
+        static_cast<char *>(data)[place - offset] ^= 0x40;
+        place = -1;
+    }
+    return got;
 }
 
 int fsync(int fd)

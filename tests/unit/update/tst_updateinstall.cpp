@@ -27,6 +27,7 @@ private slots:
     void twoUpdatesAtOnceDoNotMix();
     void diskWithoutRoomKeepsTheOldVersion();
     void minimumIsRaisedOnlyByAnUpdateThatCounts();
+    void versionThatADiskReadsWronglyAtFirstIsTheSignedOne();
     void memoryDoesNotGrowWithThePackage();
 
 private:
@@ -274,6 +275,19 @@ void TstUpdateInstall::minimumIsRaisedOnlyByAnUpdateThatCounts()
     QVERIFY(QDir().mkpath(desk.path("/opt/quvera/current/x")));
     QCOMPARE(desk.unpack(desk.softwarePackage(kNew, 3, 3)).status, int(NotInstalled));
     QVERIFY(!QFile::exists(desk.path("/etc/quvera/update.minimum")));
+}
+
+void TstUpdateInstall::versionThatADiskReadsWronglyAtFirstIsTheSignedOne()
+{
+    UpdatedDesk desk;
+    UpdateDesk::write(desk.path("/etc/quvera/update.minimum"), "software 50\n");
+    const QString package = put(desk, desk.softwarePackage(kNew, 3));
+    const QString placeOfVersion = QStringLiteral("16");
+    // First read as 67, which would be allowed.
+    const auto result = desk.unpack(package, faulty(desk, "DISK_MISREAD", placeOfVersion));
+    QCOMPARE(result.status, int(Refused));
+    QVERIFY2(result.text.contains("it is older than allowed"), result.text);
+    QCOMPARE(desk.current(), kOld);
 }
 
 void TstUpdateInstall::memoryDoesNotGrowWithThePackage()

@@ -24,6 +24,9 @@ private slots:
     void signatureOfAnotherKeyIsRefused();
     void olderPackageThanAllowedIsRefused();
     void minimumOnlyRisesAndBelongsToAKind();
+    void minimumThatCannotBeReadLetsNothingIn_data();
+    void minimumThatCannotBeReadLetsNothingIn();
+    void minimumThatNamesOneKindAllowsAllOfTheOther();
     void otherKindThanAskedForIsRefused();
     void instrumentWithoutKeyTakesNothing_data();
     void instrumentWithoutKeyTakesNothing();
@@ -163,6 +166,48 @@ void TstUpdatePackage::minimumOnlyRisesAndBelongsToAKind()
     QCOMPARE(int(desk.unpack(desk.softwarePackage(kFiles, 6, 2)).status), int(Done));
     QCOMPARE(UpdateDesk::read(desk.path("/etc/quvera/update.minimum")), QByteArray("software 5\nfirmware 4\n"));
     QCOMPARE(int(desk.unpack(desk.softwarePackage(kFiles, 4)).status), int(Refused));
+}
+
+void TstUpdatePackage::minimumThatCannotBeReadLetsNothingIn_data()
+{
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("empty") << QByteArray("");
+    QTest::newRow("zeroes") << QByteArray(20, '\0');
+    QTest::newRow("a number too large") << QByteArray("software 4294967296\nfirmware 0\n");
+    QTest::newRow("a number below zero") << QByteArray("software -1\nfirmware 0\n");
+    QTest::newRow("no number") << QByteArray("software\nfirmware 0\n");
+    QTest::newRow("more behind the number") << QByteArray("software 3x\nfirmware 0\n");
+    QTest::newRow("another kind's line is damaged") << QByteArray("software 0\nfirm");
+    QTest::newRow("an unknown kind") << QByteArray("software 0\nbootware 2\n");
+    QTest::newRow("too long") << QByteArray("software 0\n").repeated(500);
+    QTest::newRow("a folder") << QByteArray();
+}
+
+void TstUpdatePackage::minimumThatCannotBeReadLetsNothingIn()
+{
+    QFETCH(QByteArray, content);
+    UpdateDesk desk;
+    const QString path = desk.path("/etc/quvera/update.minimum");
+    if (content.isNull())
+        QVERIFY(QDir().mkpath(path));
+    else
+        UpdateDesk::write(path, content);
+    for (const QByteArray &package : { desk.softwarePackage(kFiles, 99, 99), desk.firmwarePackage("image", 99, 99) }) {
+        const auto result = desk.unpack(package);
+        QCOMPARE(result.status, int(NotInstalled));
+        QVERIFY2(result.text.contains("the oldest version that is allowed cannot be read"), result.text);
+    }
+    QVERIFY(desk.versions().isEmpty());
+    QVERIFY(!QFile::exists(desk.path("/tmp/.firmwareupd.tmp")));
+    QCOMPARE(UpdateDesk::read(path), content); // for the service to look at
+}
+
+void TstUpdatePackage::minimumThatNamesOneKindAllowsAllOfTheOther()
+{
+    UpdateDesk desk;
+    UpdateDesk::write(desk.path("/etc/quvera/update.minimum"), "firmware 2\n");
+    QCOMPARE(int(desk.unpack(desk.softwarePackage(kFiles, 1)).status), int(Done));
+    QCOMPARE(int(desk.unpack(desk.firmwarePackage("image", 1)).status), int(Refused));
 }
 
 void TstUpdatePackage::otherKindThanAskedForIsRefused()
