@@ -47,7 +47,10 @@ void PhaseColor::setPhaseColors(const QString &digits)
 
 QString PhaseColor::digits()
 {
-    return QStringLiteral("%1%2%3%4%5").arg(color_a).arg(color_b).arg(color_c).arg(color_n).arg(color_gnd);
+    QString text;
+    for (const int index : { color_a, color_b, color_c, color_n, color_gnd })
+        text += QChar(ushort('0' + index));
+    return text;
 }
 
 QColor PhaseColor::color(int channel)

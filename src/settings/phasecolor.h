@@ -15,7 +15,7 @@ public:
 
     /// Takes the indices from the digits; a text that is not five characters long gives those of "01231".
     static void setPhaseColors(const QString &digits);
-    /// The five digits that the indices make.
+    /// The five characters that the indices stand for.
     static QString digits();
 
     static QColor colorA();

@@ -110,6 +110,13 @@ void TstPhaseColorDialog::digitsBehindThePaletteOpenWithThePhasesOwnColor()
     }
     PhaseColor::setPhaseColors(QStringLiteral("012"));
     QCOMPARE(after({}), QStringLiteral("01231"));
+    // Something else than a digit concerns its own phase alone, and Ok mends it.
+    for (const ushort sign : { ushort('a'), ushort('!'), ushort('-'), ushort(0x0663), ushort(0xffff) }) {
+        m_userConfig_g.setPhaseColors(QLatin1Char('4') + QString(QChar(sign)) + QLatin1String("405"));
+        QCOMPARE(PhaseColor::colorB(), QColor(Qt::green));
+        QCOMPARE(after({ F4 }), QStringLiteral("41405"));
+        QCOMPARE(UserConfig().getPhaseColors(), QStringLiteral("41405"));
+    }
 }
 
 void TstPhaseColorDialog::chosenBoxIsFramed()
