@@ -6,6 +6,8 @@
 
 #include <unistd.h>
 
+Pqa2Device::Pqa2Device() : m_flush(::fsync) { }
+
 bool Pqa2Device::open(const QString &path)
 {
     m_file.setFileName(Target::path(path));
@@ -18,7 +20,7 @@ bool Pqa2Device::open(const QString &path)
 void Pqa2Device::close()
 {
     m_file.close();
-    Target::shell(QStringLiteral("sync"));
+    DiskWorker::instance().sync();
 }
 
 qint64 Pqa2Device::write(const char *data, qint64 size)
@@ -49,6 +51,11 @@ bool Pqa2Device::resize(qint64 size)
 bool Pqa2Device::sync()
 {
     return ::fsync(m_file.handle()) == 0;
+}
+
+bool Pqa2Device::syncBehind()
+{
+    return m_flush.begin(m_file.handle());
 }
 
 float Pqa2Device::freeSize()

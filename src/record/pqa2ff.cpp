@@ -114,6 +114,12 @@ void Pqa2FF::flush()
         m_device->sync();
 }
 
+void Pqa2FF::flushBehind()
+{
+    if (m_open && m_unflushed)
+        m_unflushed = !m_device->syncBehind();
+}
+
 qint64 Pqa2FF::size() const
 {
     return m_open ? m_device->size() : -1;
@@ -130,6 +136,7 @@ qint64 Pqa2FF::write(const char *data, qint64 size)
         return -1;
     const qint64 written = m_device->write(data, size);
     m_end = alignedUp(m_device->pos());
+    m_unflushed = true;
     return written;
 }
 
@@ -211,6 +218,7 @@ int Pqa2FF::storeBlock(quint32 type, const char *data, qint64 size)
         return -1;
     }
     m_end = start + whole;
+    m_unflushed = true;
     if (!modifyLastOONB({ quint32(start), kPqa2LastBlock })) {
         dropTail(start);
         return -1;

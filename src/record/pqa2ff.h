@@ -72,6 +72,8 @@ public:
     static QString partPath(const QString &path, int part);
     /// Has the system write out what was written so far: the point that a power cut cannot go behind.
     void flush();
+    /// The same without waiting for it, where something was written since the last time.
+    void flushBehind();
 
     /// 0: stored, or no file open. -1: nothing stored, for lack of room, because the storage failed or the file is
     /// full; the file stays whole, and unless it is full the next block may succeed.
@@ -107,6 +109,7 @@ private:
     int m_part = 1;
     bool m_open = false;
     bool m_full = false;
+    bool m_unflushed = false; // something was written that no flush was begun for
     bool m_continues = false; // in a next part
     std::function<void(Pqa2FF &)> m_beginPart;
     qint64 m_end = 0; // where the next block starts

@@ -51,9 +51,7 @@ constexpr int kVoltageInter = offsetof(ChannelSpectrum, voltageInter);
 constexpr int kCurrentInter = offsetof(ChannelSpectrum, currentInter);
 constexpr int kUpperHalf = kFileLines * kLine;
 
-} // namespace
-
-const RecordFileRow kRecordFileRows[kRecordFiles] = {
+constexpr std::array<RecordFileRow, kRecordFiles> kFiles = { {
     { 0, "Common.pqa2" },
     { Bits::HarmonicVolt1to50, "U Harmonic(1-50).pqa2" },
     { Bits::HarmonicAmp1to50, "I Harmonic(1-50).pqa2" },
@@ -63,9 +61,9 @@ const RecordFileRow kRecordFileRows[kRecordFiles] = {
     { Bits::HarmonicAmp51to100, "I Harmonic(51-100).pqa2" },
     { Bits::InterharmonicVolt50to99, "U inHarmonic(50-99).pqa2" },
     { Bits::InterharmonicAmp50to99, "I inHarmonic(50-99).pqa2" },
-};
+} };
 
-const RecordGroup kRecordGroups[] = {
+constexpr std::array<RecordGroup, 14> kGroups = { {
     single(Bits::FrequencyInterval, 0xA1000029, 0xA1000064, 0xA10000A4, offsetof(Record, frequency), sizeof(float)),
     rows(Bits::CommonRms, 0xA1000020, 0xA1000060, 0xA10000A0, offsetof(Record, channel), sizeof(ChannelRms)),
     rows(Bits::Power, 0xA1000021, 0xA1000061, 0xA10000A1, offsetof(Record, power), sizeof(PowerRow)),
@@ -88,9 +86,7 @@ const RecordGroup kRecordGroups[] = {
              kVoltageInter + kUpperHalf),
     spectrum(Bits::InterharmonicAmp50to99, InterharmonicAmpHighFile, 0xA1000037, 0xA100006C, 0xA10000AC, false,
              kCurrentInter + kUpperHalf),
-};
-
-namespace {
+} };
 
 constexpr int kFrequencySeconds = 10;
 constexpr int kPstSeconds = 600;
@@ -108,7 +104,7 @@ int channelsOf(const ChannelSet &wiring)
 qint64 intervalBytes(quint32 items, const ChannelSet &wiring)
 {
     qint64 bytes = 0;
-    for (const RecordGroup &group : kRecordGroups) {
+    for (const RecordGroup &group : kGroups) {
         if (!(items & group.item))
             continue;
         const int blocks = (group.mean != 0) + (group.maximum != 0) + (group.minimum != 0);
@@ -120,6 +116,16 @@ qint64 intervalBytes(quint32 items, const ChannelSet &wiring)
 }
 
 } // namespace
+
+const std::array<RecordFileRow, kRecordFiles> &recordFiles()
+{
+    return kFiles;
+}
+
+const std::array<RecordGroup, 14> &recordGroups()
+{
+    return kGroups;
+}
 
 int recordGroupBytes(const RecordGroup &group, const ChannelSet &wiring)
 {

@@ -4,7 +4,7 @@
 
 #include <QtGlobal>
 
-#include <iterator>
+#include <array>
 
 struct ChannelSet;
 
@@ -47,9 +47,10 @@ struct RecordGroup
     int stride; // bytes from a value to the next
 };
 
-extern const RecordFileRow kRecordFileRows[kRecordFiles];
-/// In the order in which they are stored. The last eight are the spectra, in the order of their files.
-extern const RecordGroup kRecordGroups[14];
+/// In the order of RecordFile.
+const std::array<RecordFileRow, kRecordFiles> &recordFiles();
+/// In the order in which they are stored.
+const std::array<RecordGroup, 14> &recordGroups();
 
 constexpr int kRecordAngleGroups = 6;
 constexpr quint32 kRecordFirstAngleType = 0xA1001003; // of the six that follow the common group

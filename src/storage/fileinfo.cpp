@@ -4,6 +4,7 @@
 #include <QDir>
 
 #include "platform/debuglog.h"
+#include "platform/diskworker.h"
 #include "platform/target.h"
 #include "storage/safefile.h"
 #include "storage/wholefile.h"
@@ -37,7 +38,7 @@ bool writeLines(const QStringList &lines)
         text += line.toLatin1() + '\n';
     if (!SafeFile::replace(FileInfo::indexPath(), text))
         return false;
-    Target::shell(QStringLiteral("sync"));
+    DiskWorker::instance().sync();
     return true;
 }
 

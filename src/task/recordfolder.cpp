@@ -1,5 +1,6 @@
 #include "task/recordfolder.h"
 
+#include "platform/diskworker.h"
 #include "platform/target.h"
 #include "settings/localtime.h"
 #include "storage/fileinfo.h"
@@ -7,6 +8,18 @@
 #include <QDir>
 
 namespace {
+
+constexpr char kLeaving[] = ".leaving "; // stands before the name of a folder whose files are being removed
+
+/// Removes what is leaving, also what a lost supply left of it.
+void removeLeaving()
+{
+    DiskWorker::instance().run([storage = QDir(Target::path(FileInfo::storagePath()))] {
+        const QString pattern = QLatin1String(kLeaving) + QLatin1Char('*');
+        for (const QString &folder : storage.entryList({ pattern }, QDir::Dirs | QDir::Hidden | QDir::NoSymLinks))
+            QDir(storage.filePath(folder)).removeRecursively();
+    });
+}
 
 /// A name of the user's as a part of the name of a folder.
 QString plainName(const QString &name)
@@ -36,6 +49,7 @@ bool RecordFolder::create(const QString &record)
         return false;
     }
     FileInfo().saveInfo(m_name, now);
+    removeLeaving();
     return true;
 }
 
@@ -43,9 +57,11 @@ void RecordFolder::remove()
 {
     if (m_name.isEmpty())
         return;
-    QDir(Target::path(path())).removeRecursively();
+    const QDir storage(Target::path(FileInfo::storagePath()));
+    QDir(storage).rename(m_name, QLatin1String(kLeaving) + m_name);
     FileInfo().removeInfo(m_name);
     m_name.clear();
+    removeLeaving();
 }
 
 QString RecordFolder::path() const

@@ -18,7 +18,8 @@ public:
     bool create(const QString &record);
     /// Lets go of the folder, which stays.
     void release() { m_name.clear(); }
-    /// Takes the folder away with all that is in it, and its entry.
+    /// Takes the folder away with all that is in it, and its entry. It is out of sight at once; that its files go may
+    /// take longer than the screen may stand still, and is done behind.
     void remove();
 
     QString name() const { return m_name; } // empty without a folder

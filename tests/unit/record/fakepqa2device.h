@@ -18,6 +18,7 @@ public:
         QList<QPair<qint64, QByteArray>> writes; // place and bytes that were taken
         float free = 1000.0f; // MB
         bool opens = true;
+        bool syncs = true; // the sync before has ended
         int writeNumber = 0; // of the write that comes next, from 0
         int failingWrite = INT_MAX; // this one and none other fails
         int failingWrites = 1; // so many in a row
@@ -65,6 +66,11 @@ public:
     {
         m_state->calls << QStringLiteral("sync");
         return true;
+    }
+    bool syncBehind() override
+    {
+        m_state->calls << QStringLiteral("syncBehind");
+        return m_state->syncs;
     }
     float freeSize() override
     {

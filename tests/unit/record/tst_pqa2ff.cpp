@@ -50,6 +50,7 @@ private slots:
     void badSizesAreRefused();
     void callsComeInTheirOrder();
     void flushAndCloseWriteOut();
+    void aFlushBehindIsBegunOnlyForWhatWasWritten();
     void everyPrefixAndTornWriteLeavesWholeBlocks();
     void everyFailingWriteLeavesAWholeFile_data();
     void everyFailingWriteLeavesAWholeFile();
@@ -392,6 +393,21 @@ void TstPqa2FF::flushAndCloseWriteOut()
     QCOMPARE(fake.state.calls, QStringList { "sync" });
     fake.file.reset(); // as close() does
     QCOMPARE(fake.state.calls, (QStringList { "sync", "close" }));
+}
+
+void TstPqa2FF::aFlushBehindIsBegunOnlyForWhatWasWritten()
+{
+    Fake fake;
+    QVERIFY(fake.open());
+    fake.file->flushBehind();
+    fake.file->flushBehind(); // nothing new
+    QCOMPARE(fake.state.calls.count("syncBehind"), 1);
+    fake.file->addBlankBlock();
+    fake.state.syncs = false; // the one before still goes on
+    fake.file->flushBehind();
+    fake.state.syncs = true;
+    fake.file->flushBehind(); // so that it is asked for again
+    QCOMPARE(fake.state.calls.count("syncBehind"), 3);
 }
 
 void TstPqa2FF::everyPrefixAndTornWriteLeavesWholeBlocks()

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QString>
 
+#include "platform/diskworker.h"
 #include "platform/target.h"
 
 /// Files of the test's own root, by the board's paths.
@@ -45,6 +46,7 @@ inline bool exists(const QString &boardPath)
 /// Takes away everything that settings, recordings and commands left in the root.
 inline void clean()
 {
+    DiskWorker::instance().wait();
     for (const char *folder : { "/mnt/userfs", "/mnt/storage", "/mnt/calibration", "/run/media" }) {
         QDir(Target::path(QString::fromLatin1(folder))).removeRecursively();
         QDir().mkpath(Target::path(QString::fromLatin1(folder)));
@@ -54,8 +56,10 @@ inline void clean()
     QFile::remove(Target::path("/var/log/commands"));
 }
 
+/// The commands so far, with those that were under way on the disk thread.
 inline QByteArray commands()
 {
+    DiskWorker::instance().wait();
     return exists("/var/log/commands") ? read("/var/log/commands") : QByteArray();
 }
 

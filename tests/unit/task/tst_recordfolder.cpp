@@ -1,4 +1,5 @@
 #include "platform/clock.h"
+#include "platform/diskworker.h"
 #include "settings/config_data.h"
 #include "storage/fileinfo.h"
 #include "task/recordfolder.h"
@@ -76,8 +77,14 @@ void TstRecordFolder::aRemovedFolderIsGoneWithItsFilesAndItsEntry()
     QVERIFY(folder.create(QStringLiteral("Logger_1")));
     RootFiles::write(folder.file(QStringLiteral("Common.pqa2")), "x");
     const QString path = Target::path(folder.path());
+    const QString leftBehind = QStringLiteral("/mnt/storage/.leaving 240101_000000 Logger_9/Common.pqa2");
+    RootFiles::write(leftBehind, "x"); // by a supply that was lost
     folder.remove();
     QVERIFY(!QDir(path).exists());
+    DiskWorker::instance().wait();
+    QVERIFY(!RootFiles::exists(leftBehind));
+    const QDir storage(Target::path(FileInfo::storagePath()));
+    QCOMPARE(storage.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList(".infomation"));
     QCOMPARE(RootFiles::read(FileInfo::indexPath()), QByteArray());
     QCOMPARE(folder.name(), QString());
     folder.remove(); // nothing is left that could go
