@@ -207,3 +207,11 @@ struct __pi_data
     float frequency = 0; // Hz
     __trend_data trend[6];
 };
+
+/// How far a waveform capture has come.
+struct waveProgress
+{
+    qint32 percent = 0; // of the frames that were asked for
+    qint32 seconds = 0; // still to come
+    bool refused = false; // the storage took no more: the capture ends there
+};

@@ -22,6 +22,7 @@ struct DisplayRecords
     __rms_trend_data inrush;
     __mains_sig_data mainsSignal;
     __pi_data inverter;
+    waveProgress wave;
     __monitor_data monitor;
     __monitor_trend monitorTrend;
 };

@@ -1,5 +1,6 @@
 #include "record/pqafile.h"
 
+#include "record/truncated.h"
 #include "settings/derived.h"
 #include "storage/fileinfo.h"
 #include "settings/softwareversion.h"
@@ -8,21 +9,11 @@
 
 #include <QFile>
 
-#include <algorithm>
 #include <cstring>
-#include <limits>
 
 static constexpr unsigned char kTrailer[] = { 0xAA, 0x55 };
 static constexpr quint32 kVersion
     = quint32(kSoftwareMajor) << 24 | quint32(kSoftwareMinor) << 16 | quint32(kSoftwareBuild);
-
-/// A setting without its fraction; a ratio that someone wrote into the settings may lead beyond 32 bits.
-static qint32 truncated(double value)
-{
-    constexpr double kLowest = std::numeric_limits<qint32>::min();
-    constexpr double kHighest = std::numeric_limits<qint32>::max();
-    return qint32(std::clamp(value, kLowest, kHighest));
-}
 
 QString PqaFile::imagePath()
 {
