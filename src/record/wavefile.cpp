@@ -1,16 +1,24 @@
 #include "record/wavefile.h"
 
+#include "platform/clock.h"
+#include "platform/diskworker.h"
+#include "platform/target.h"
 #include "record/pqa2device.h"
 #include "record/pqa2info.h"
 #include "record/truncated.h"
 #include "settings/derived.h"
 #include "storage/fileinfo.h"
 
+#include <QFile>
+
 #include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace {
 
 constexpr char kMagic[4] = { 'W', 'A', 'V', 0x1A };
+constexpr qint64 kFlushInterval = 4000; // ms; a cut of the supply costs no more than this and a chunk
 constexpr qint64 kSmallestChunk = 9; // bytes; less is no chunk
 
 WaveFileHeader headerFor(quint32 begin, quint32 sampleRate, const Derived &setUp)
@@ -31,6 +39,17 @@ WaveFileHeader headerFor(quint32 begin, quint32 sampleRate, const Derived &setUp
     header.mark1 = kWaveMark1;
     header.mark2 = kWaveMark2;
     return header;
+}
+
+/// Takes a file and its entry away. Its bytes are freed by the disk worker: the system keeps them as long as the file
+/// is open somewhere.
+void removeLargeFile(const QString &name)
+{
+    const QByteArray path = QFile::encodeName(Target::path(FileInfo::storagePath() + name));
+    const int fd = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+    FileInfo().removeInfo(name);
+    if (fd >= 0)
+        DiskWorker::instance().run([fd] { ::close(fd); });
 }
 
 } // namespace
@@ -78,6 +97,7 @@ bool WaveFile::open(const QDateTime &localTime)
     m_header.lastWrite = 0;
     if (m_header.begin == 0) // not planned for a time
         m_header.begin = quint32(localTime.toSecsSinceEpoch());
+    m_flushed = Clock::elapsed();
     m_open = writeHeader();
     if (!m_open) {
         m_device->close();
@@ -108,13 +128,17 @@ qint64 WaveFile::write(const QByteArray &data, unsigned int time)
     m_header.frames += quint64(length) / kWaveFrameBytes;
     // A head that cannot be written counts fewer frames than there are, which a reader sees.
     writeHeader();
+    if (Clock::elapsed() - m_flushed >= kFlushInterval)
+        flush();
     return data.size();
 }
 
-void WaveFile::flush()
+bool WaveFile::flush()
 {
-    if (m_open)
-        m_device->sync();
+    if (!m_open || !m_device->syncBehind())
+        return false;
+    m_flushed = Clock::elapsed();
+    return true;
 }
 
 void WaveFile::close()
@@ -131,5 +155,5 @@ void WaveFile::save(bool keep)
         return;
     close();
     if (!keep)
-        FileInfo().removeInfo(fileName());
+        removeLargeFile(fileName());
 }

@@ -54,7 +54,8 @@ static_assert(std::is_trivially_copyable_v<WaveFileHeader>, "written and read by
 class WaveFile
 {
 public:
-    /// \a name: without folder and suffix; \a beginTime: 0 for at once. The factors and the wiring are those of \a setUp as it stands now.
+    /// \a name: without folder and suffix; \a beginTime: 0 for at once. The factors and the wiring are those of \a
+    /// setUp as it stands now.
     WaveFile(const QString &name, unsigned int beginTime, unsigned int sampleRate, const Derived &setUp);
     /// On another device.
     WaveFile(const QString &name, unsigned int beginTime, unsigned int sampleRate, const Derived &setUp,
@@ -68,10 +69,12 @@ public:
     bool open(const QDateTime &localTime);
     bool isOpen() const { return m_open; }
     /// A chunk of whole frames, written at \a time (s since 1970). The bytes stored: 0 for fewer than 9 and without an
-    /// open file; -1 when the storage refused it. Then nothing of it is left and the head is as it was.
+    /// open file; -1 when the storage refused it. Then nothing of it is left and the head is as it was. Every few
+    /// seconds a flush goes with it.
     qint64 write(const QByteArray &data, unsigned int time);
-    /// Has the system write out what was written so far.
-    void flush();
+    /// Has the system write out what was written so far, without waiting for it. False when it was not begun, as the
+    /// flush before still goes on.
+    bool flush();
     void close();
     /// Closes the file; one that is not kept is deleted, and its entry in the index with it.
     void save(bool keep);
@@ -88,6 +91,7 @@ private:
     WaveFileHeader m_header;
     std::unique_ptr<Pqa2Device> m_device;
     bool m_open = false;
+    qint64 m_flushed = 0; // Clock::elapsed() of the last flush
 };
 
 /// A chunk as it stands in the file.

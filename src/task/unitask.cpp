@@ -38,6 +38,11 @@ InverterFunction::Output inverterOutput()
     return { single, InverterFeed::outputMask(set ? set->trendFlags() : 0, single) };
 }
 
+const Derived &setUpInUse()
+{
+    return m_settingConfig_g.derived();
+}
+
 /// Longest trends of half-cycle values; another duration may be chosen while a task runs.
 HalfCycleTrends::Limits trendLimits()
 {
@@ -52,7 +57,8 @@ UniTask::UniTask(LiveData &data, QObject *parent)
       m_aggregation(makeRecord<__datagram_aggregation>()), m_rms(makeRecord<__datagram_rms>()),
       m_wave(makeRecord<__datagram_wave>()), m_flicker(makeRecord<__datagram_flicker>()),
       m_events(new PowerEvents(data.events(), this)), m_flickerProcessor(std::make_unique<FlickerProcessor>()),
-      m_trends(data.live()), m_inverter(data.live(), inverterOutput), m_monitor(data), m_recorder(data)
+      m_trends(data.live()), m_inverter(data.live(), inverterOutput), m_monitor(data), m_recorder(data),
+      m_capture(data.live().wave, setUpInUse, [this] { stopTask(); })
 {
     connectDetector();
     setTaskType(0, 1000);
@@ -122,6 +128,7 @@ TaskFunction *UniTask::functionOf(AbstractTask::UniFunction function)
     case UniPowerInverter:
         return &m_inverter;
     case UniWave:
+        return &m_capture;
     case UniLogger:
         break;
     }

@@ -9,6 +9,7 @@
 #include "task/functions/monitorfunction.h"
 #include "task/functions/recorderfunction.h"
 #include "task/functions/secondtrends.h"
+#include "task/functions/wavefunction.h"
 #include "task/halfcycletrends.h"
 
 #include <QByteArray>
@@ -130,6 +131,7 @@ private:
     InverterFunction m_inverter;
     MonitorFunction m_monitor;
     RecorderFunction m_recorder;
+    WaveFunction m_capture;
     std::vector<TaskFunction *> m_running;
     QTimer m_secondTimer;
 

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr qint64 kFlushInterval = 4000; // ms; a cut of the supply costs no more than this and a datagram
-
 /// Of so many frames of \a record the first, one frame behind the other: the voltages of L1, L2, L3 and N, then their
 /// currents.
 void interleave(const __datagram_wave &record, int step, QByteArray *chunk)
@@ -32,7 +30,7 @@ void interleave(const __datagram_wave &record, int step, QByteArray *chunk)
 
 } // namespace
 
-void WaveFunction::initWaveData(const Derived &setUp)
+void WaveFunction::initWaveData()
 {
     m_rate = WaveInfo::m_sample_times[std::clamp(WaveInfo::m_sample_index, 0, 2)];
     m_step = std::clamp(WaveInfo::m_step, 1, kWaveSamples);
@@ -40,14 +38,13 @@ void WaveFunction::initWaveData(const Derived &setUp)
     m_frames = 0;
     m_file.reset();
     if (!WaveInfo::m_wave_file->isEmpty())
-        m_file = std::make_unique<WaveFile>(*WaveInfo::m_wave_file, WaveInfo::m_begain_time, quint32(m_rate), setUp);
+        m_file
+            = std::make_unique<WaveFile>(*WaveInfo::m_wave_file, WaveInfo::m_begain_time, quint32(m_rate), m_setUp());
 }
 
-void WaveFunction::start()
+void WaveFunction::measure()
 {
-    m_progress = {};
     showProgress();
-    m_flushed = Clock::elapsed();
     m_progress.refused = m_file && !m_file->open(LocalTime::currentDateTime());
 }
 
@@ -59,24 +56,13 @@ void WaveFunction::wave(const __datagram_wave &record)
         return;
     interleave(record, m_step, &m_chunk);
     // Frames carry no time: behind one that is missing nothing may follow.
-    m_progress.refused = !writeWaveFile(m_chunk, Clock::seconds());
+    m_progress.refused = m_file->write(m_chunk, Clock::seconds()) < 0;
     if (m_progress.refused)
         return m_done();
     m_frames += m_chunk.size() / kWaveFrameBytes;
     showProgress();
     if (m_frames >= m_limit)
         m_done();
-}
-
-bool WaveFunction::writeWaveFile(const QByteArray &chunk, unsigned int time)
-{
-    if (m_file->write(chunk, time) != chunk.size())
-        return false;
-    if (Clock::elapsed() - m_flushed >= kFlushInterval) {
-        m_flushed = Clock::elapsed();
-        m_file->flush();
-    }
-    return true;
 }
 
 void WaveFunction::showProgress()

@@ -15,24 +15,25 @@ struct waveProgress;
 class WaveFunction : public TaskFunction
 {
 public:
-    /// \a progress, which follows each chunk, outlives it; \a done is called when the capture is complete, or the
-    /// storage takes no more: it ends the run.
-    WaveFunction(waveProgress &progress, std::function<void()> done) : m_progress(progress), m_done(std::move(done)) { }
+    /// \a progress, which follows each chunk, outlives it. \a setUp is asked at the start of each capture. \a done is
+    /// called when the capture is complete, or the storage takes no more: it ends the run.
+    WaveFunction(waveProgress &progress, std::function<const Derived &()> setUp, std::function<void()> done)
+        : m_progress(progress), m_setUp(std::move(setUp)), m_done(std::move(done))
+    { }
 
-    /// Takes the user's choices (WaveInfo) for the run that is planned. Without a name there is no file, and the run
-    /// stores nothing.
-    void initWaveData(const Derived &setUp);
-
-    void start() override;
+    void start() override { initWaveData(); }
+    /// The file is begun: a run that is ended while it waits leaves none.
+    void measure() override;
     void wave(const __datagram_wave &record) override;
     void stop(Keep keep) override;
 
 private:
-    /// False: the storage refused it.
-    bool writeWaveFile(const QByteArray &chunk, unsigned int time);
+    /// Takes the user's choices (WaveInfo). Without a name there is no file, and the run stores nothing.
+    void initWaveData();
     void showProgress();
 
     waveProgress &m_progress;
+    const std::function<const Derived &()> m_setUp;
     const std::function<void()> m_done;
     std::unique_ptr<WaveFile> m_file;
     QByteArray m_chunk; // serves all chunks
@@ -40,5 +41,4 @@ private:
     int m_rate = 1; // frames per second
     qint64 m_frames = 0; // written
     qint64 m_limit = 0; // frames of the whole capture
-    qint64 m_flushed = 0; // Clock::elapsed() of the last flush
 };
