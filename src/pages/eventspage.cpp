@@ -42,6 +42,11 @@ ScrollModel &EventsPage::list()
     return m_ui->events->scroll();
 }
 
+EventsWidget &EventsPage::table()
+{
+    return *m_ui->events;
+}
+
 void EventsPage::showList()
 {
     m_ui->events->update();

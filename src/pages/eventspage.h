@@ -8,6 +8,7 @@ namespace Ui {
 class EventsPage;
 }
 class EventSelection;
+class EventsWidget;
 
 /// List of a function's events, one line selected, with a counter "3/17". The arrows up and down move the selection,
 /// and go on while they are held; F5 goes back.
@@ -32,6 +33,7 @@ signals:
 protected:
     ScrollModel &list() override;
     void showList() override;
+    EventsWidget &table();
 
 private:
     void showEventsCounts();

@@ -7,7 +7,7 @@
 class MonitorInfo
 {
 public:
-    /// One zoom step of the monitor's trend: hours across the chart, hours per grid line.
+    /// One zoom step of the monitor's trend: hours across the chart, 10-minute values that share a point.
     struct Zoom
     {
         int hours;

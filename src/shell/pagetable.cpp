@@ -1,5 +1,6 @@
 #include "shell/pagetable.h"
 
+#include "device/deviceinit.h"
 #include "services/modbuspublisher.h"
 #include "settings/recordinfo.h"
 #include "setup/setuppage.h"
@@ -13,6 +14,7 @@
 #include "views/harmonics/harm.h"
 #include "views/inrush/inrushpage.h"
 #include "views/mainssignaling/mainssignaling.h"
+#include "views/monitor/monitorpage.h"
 #include "views/power/powen.h"
 #include "views/powerinverter/powerinverter.h"
 #include "views/scope/scopepage.h"
@@ -62,6 +64,17 @@ FunctionPage *makeInverter(TaskLinks &links, const LiveData &data)
     auto *page = new PowerInverter(data);
     QObject::connect(page, &PowerInverter::startPowerInverterTask, &links,
                      [&links] { emit links.startWanted(AbstractTask::UniPowerInverter, UI_POWER_INVERTER); });
+    return page;
+}
+
+FunctionPage *makeMonitor(TaskLinks &links, const LiveData &data)
+{
+    auto *page = new MonitorPage(data);
+    QObject::connect(page, &MonitorPage::startMonitorTask, &links,
+                     [&links] { emit links.startWanted(AbstractTask::UniMonitor, UI_MONITOR); });
+    // The set says at which frequencies the processor looks for mains signals.
+    QObject::connect(page, &MonitorPage::limitsChanged, &links, &DeviceInit::initAnalogDevice2);
+    QObject::connect(page, &MonitorPage::limitsChanged, &links, &ModbusPublisher::publishSettings);
     return page;
 }
 
@@ -121,7 +134,7 @@ const PageRow kRows[] = {
     // The logger of text files: its pages exist, no key of this release shows them.
     { UI_LOGGER, QT_TRANSLATE_NOOP("BaseDialog", "Logger"), kNoTile, Plan::Unreached, kBasic, 0, 0, 11, nullptr },
     { UI_MONITOR, QT_TRANSLATE_NOOP("BaseDialog", "Monitor"), kNoTile,
-      Plan::Commanded, AbstractTask::UniMonitor, Hears::kFront, 11, 0, nullptr, kNot400Hz },
+      Plan::Commanded, AbstractTask::UniMonitor, Hears::kFront, 11, 0, makeMonitor, kNot400Hz },
     { UI_SCOPE, QT_TRANSLATE_NOOP("BaseDialog", "Scope"), kNoTile,
       Plan::Live, kBasic, Hears::kLive, 12, 7, make<ScopePage> },
     { UI_SETUP, QT_TRANSLATE_NOOP("BaseDialog", "Setup"), kNoTile, Plan::Settings, kBasic, 0, 14, 0, makeSetup },

@@ -1,0 +1,125 @@
+#include "views/monitor/monitorbarspage.h"
+#include "ui_monitorform.h"
+
+#include "model/livedata.h"
+#include "pages/labelgrid.h"
+#include "settings/config_data.h"
+#include "settings/phasecolor.h"
+#include "widgets/controls/labellook.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int kChartTop = 34, kChartHeight = 250; // pixels
+constexpr int kCaptionTop = 286, kCaptionHeight = 18;
+constexpr int kHeadingTop = 306;
+constexpr LabelGrid kHeading = { 324, 0, 300, 20, 26, 16, 300, 20, 1 };
+constexpr ValueStrip kUpper = { 16, 208, 102, 102, 336 };
+constexpr ValueStrip kLower = { 16, 208, 102, 102, 368 };
+constexpr int kFieldsInRow = 3;
+
+const struct
+{
+    const char *text; // to be translated
+    Qt::GlobalColor color;
+} kVerdicts[] = { { "", Qt::white },
+                  { QT_TRANSLATE_NOOP("MonitorBarsPage", "Within the limits"), Qt::green },
+                  { QT_TRANSLATE_NOOP("MonitorBarsPage", "Outside the limits"), Qt::red } };
+
+} // namespace
+
+MonitorBarsPage::MonitorBarsPage(const LiveData &data, QWidget *parent)
+    : LivePage(UI_MONITOR, parent), m_data(data), m_ui(new Ui::MonitorForm)
+{
+    m_ui->setupUi(this);
+}
+
+MonitorBarsPage::~MonitorBarsPage() = default;
+
+void MonitorBarsPage::setUpBars(QWidget *chart, int left, int width)
+{
+    setObjectName(QString::fromLatin1(metaObject()->className()));
+    chart->setParent(this);
+    chart->setObjectName(QStringLiteral("histogram"));
+    chart->setGeometry(left, kChartTop, width, kChartHeight);
+    const LabelGrid::Row heading
+        = kHeading.addRow(this, QStringLiteral("quantity"), { QStringLiteral("verdict") }, kHeadingTop);
+    m_quantity = heading.caption;
+    m_verdict = heading.values[0];
+    const ValueStrip::Labels upper = kUpper.add(this, "A%1_Caption", "A%1_Value", kFieldsInRow);
+    const ValueStrip::Labels lower = kLower.add(this, "B%1_Caption", "B%1_Value", kFieldsInRow);
+    m_captions[0] = upper.captions;
+    m_values[0] = upper.values;
+    m_captions[1] = lower.captions;
+    m_values[1] = lower.values;
+    LabelLook::dress(this);
+}
+
+QLabel *MonitorBarsPage::addCaption(const QString &name, int centre, int width, int textSize)
+{
+    auto *label = new QLabel(this);
+    label->setObjectName(name);
+    label->setGeometry(centre - width / 2, kCaptionTop, width, kCaptionHeight);
+    label->setAlignment(Qt::AlignCenter);
+    label->setProperty("textSize", textSize);
+    label->setProperty("textColor", QStringLiteral("#c0c0c0"));
+    return label;
+}
+
+void MonitorBarsPage::updateDisplay(void *)
+{
+    const MonitorView now = view();
+    setText(m_ui->type, m_limits_g.activeLimitsName());
+    showBars(now);
+    showReadout(readout(now));
+}
+
+void MonitorBarsPage::init_parameter()
+{
+    LivePage::init_parameter();
+    updateDisplay(nullptr);
+}
+
+void MonitorBarsPage::retranslateUi()
+{
+    LivePage::retranslateUi();
+    updateDisplay(nullptr); // on hold no refresh would bring the words
+}
+
+void MonitorBarsPage::moveCursor(int step)
+{
+    int bar = m_cursor + step;
+    while (bar >= 0 && bar < barCount() && !isShown(bar))
+        bar += step;
+    if (bar >= 0 && bar < barCount())
+        setCursor(bar);
+}
+
+void MonitorBarsPage::setCursor(int bar)
+{
+    m_cursor = bar;
+    updateDisplay(nullptr);
+}
+
+MonitorView MonitorBarsPage::view() const
+{
+    const DisplayRecords &shown = m_data.shown();
+    return { shown.monitor, shown.monitorTrend, *m_limits_g.getLimitsInUsed(), ChannelLabels::channels(), events() };
+}
+
+void MonitorBarsPage::showReadout(const MonitorReadout &readout)
+{
+    setText(m_quantity, readout.quantity);
+    LabelLook::setColor(m_quantity, readout.phase < 0 ? QColor(Qt::white) : PhaseColor::color(readout.phase));
+    const auto &verdict = kVerdicts[readout.verdict];
+    setText(m_verdict, *verdict.text ? tr(verdict.text) : QString());
+    LabelLook::setColor(m_verdict, verdict.color);
+    for (int i = 0; i < MonitorReadout::kFields; ++i) {
+        const MonitorReadout::Field field = readout.fields.value(i);
+        const int row = i / kFieldsInRow;
+        const auto column = std::size_t(i % kFieldsInRow);
+        setText(m_captions[row][column], field.caption);
+        setText(m_values[row][column], field.value);
+    }
+}
