@@ -6,6 +6,7 @@
 #include "views/harmonics/harm.h"
 #include "views/inrush/inrushpage.h"
 #include "views/mainssignaling/mainssignaling.h"
+#include "views/monitor/monitorpage.h"
 #include "views/power/powen.h"
 #include "views/powerinverter/powerinverter.h"
 #include "views/scope/scopepage.h"
@@ -40,4 +41,5 @@ inline void addAllPages()
     QTest::newRow("inrush") << MakePage(makePage<InrushPage>);
     QTest::newRow("mains signaling") << MakePage(makePage<MainsSignaling>);
     QTest::newRow("power inverter") << MakePage(makePage<PowerInverter>);
+    QTest::newRow("monitor") << MakePage(makePage<MonitorPage>);
 }
