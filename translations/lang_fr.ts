@@ -991,6 +991,211 @@ réseau</translation>
     </message>
 </context>
 <context>
+    <name>MonitStarHarmPage</name>
+    <message>
+        <source>Events</source>
+        <translation>Événements</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>MonitStartPage</name>
+    <message>
+        <source>Vrms</source>
+        <translation>Vrms</translation>
+    </message>
+    <message>
+        <source>Harm.</source>
+        <translation>Harm.</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>DIRS</source>
+        <translation>DIRS</translation>
+    </message>
+    <message>
+        <source>Unb.</source>
+        <translation>Dés.</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>Sig.</source>
+        <translation>Sig.</translation>
+    </message>
+    <message>
+        <source>Unbal., Hz</source>
+        <translation>Déséq., Hz</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorBarsPage</name>
+    <message>
+        <source>Within the limits</source>
+        <translation>Dans les limites</translation>
+    </message>
+    <message>
+        <source>Outside the limits</source>
+        <translation>Hors limites</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorEventPage</name>
+    <message>
+        <source>All events</source>
+        <translation>Tous évènements</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Tendance</translation>
+    </message>
+    <message>
+        <source>Vrms</source>
+        <translation>Vrms</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmoniques</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>DIRS</source>
+        <translation>DIRS</translation>
+    </message>
+    <message>
+        <source>Unbal., Hz</source>
+        <translation>Déséq., Hz</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorMain</name>
+    <message>
+        <source>SETUP</source>
+        <translation>RÉGLAGES</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> j</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> h</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Limites</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Nom du fichier :</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorReadout</name>
+    <message>
+        <source>Allowed%</source>
+        <translation>Admis%</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Max</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmoniques</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Pire</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>Creux</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>Surtensions</translation>
+    </message>
+    <message>
+        <source>Interr.</source>
+        <translation>Coupures</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Déséquilibre</translation>
+    </message>
+    <message>
+        <source>Neg.</source>
+        <translation>Inv.</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Fréquence</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Signaux réseau</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorTrendPage</name>
+    <message>
+        <source>Unbalance(%)</source>
+        <translation>Déséquilibre(%)</translation>
+    </message>
+    <message>
+        <source>Freq(Hz)</source>
+        <translation>Fréq(Hz)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
     <name>PhaseColorDialog</name>
     <message>
         <source>Default</source>

@@ -991,6 +991,211 @@ signale</translation>
     </message>
 </context>
 <context>
+    <name>MonitStarHarmPage</name>
+    <message>
+        <source>Events</source>
+        <translation>Ereignisse</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>MonitStartPage</name>
+    <message>
+        <source>Vrms</source>
+        <translation>Vrms</translation>
+    </message>
+    <message>
+        <source>Harm.</source>
+        <translation>OS</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>DIRS</source>
+        <translation>DIRS</translation>
+    </message>
+    <message>
+        <source>Unb.</source>
+        <translation>Uns.</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>Sig.</source>
+        <translation>RS</translation>
+    </message>
+    <message>
+        <source>Unbal., Hz</source>
+        <translation>Unsym., Hz</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorBarsPage</name>
+    <message>
+        <source>Within the limits</source>
+        <translation>Innerhalb der Grenzen</translation>
+    </message>
+    <message>
+        <source>Outside the limits</source>
+        <translation>Außerhalb der Grenzen</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorEventPage</name>
+    <message>
+        <source>All events</source>
+        <translation>Alle Ereignisse</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Trend</translation>
+    </message>
+    <message>
+        <source>Vrms</source>
+        <translation>Vrms</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmonische</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>DIRS</source>
+        <translation>DIRS</translation>
+    </message>
+    <message>
+        <source>Unbal., Hz</source>
+        <translation>Unsym., Hz</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorMain</name>
+    <message>
+        <source>SETUP</source>
+        <translation>EINSTELLEN</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> T</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> h</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Grenzwerte</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Dateiname:</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorReadout</name>
+    <message>
+        <source>Allowed%</source>
+        <translation>Zulässig%</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Grenzwert</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Max</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmonische</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Größte</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>Einbrüche</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>Überhöhungen</translation>
+    </message>
+    <message>
+        <source>Interr.</source>
+        <translation>Unterbr.</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Unsymmetrie</translation>
+    </message>
+    <message>
+        <source>Neg.</source>
+        <translation>Gegen</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequenz</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Rundsteuersignale</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorTrendPage</name>
+    <message>
+        <source>Unbalance(%)</source>
+        <translation>Unsymmetrie(%)</translation>
+    </message>
+    <message>
+        <source>Freq(Hz)</source>
+        <translation>Freq(Hz)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
     <name>PhaseColorDialog</name>
     <message>
         <source>Default</source>

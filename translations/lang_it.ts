@@ -991,6 +991,211 @@ in rete</translation>
     </message>
 </context>
 <context>
+    <name>MonitStarHarmPage</name>
+    <message>
+        <source>Events</source>
+        <translation>Eventi</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+</context>
+<context>
+    <name>MonitStartPage</name>
+    <message>
+        <source>Vrms</source>
+        <translation>Vrms</translation>
+    </message>
+    <message>
+        <source>Harm.</source>
+        <translation>Arm.</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>DIRS</source>
+        <translation>DIRS</translation>
+    </message>
+    <message>
+        <source>Unb.</source>
+        <translation>Squ.</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>Sig.</source>
+        <translation>Segn.</translation>
+    </message>
+    <message>
+        <source>Unbal., Hz</source>
+        <translation>Squil., Hz</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorBarsPage</name>
+    <message>
+        <source>Within the limits</source>
+        <translation>Entro i limiti</translation>
+    </message>
+    <message>
+        <source>Outside the limits</source>
+        <translation>Fuori dai limiti</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorEventPage</name>
+    <message>
+        <source>All events</source>
+        <translation>Tutti gli eventi</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Andamento</translation>
+    </message>
+    <message>
+        <source>Vrms</source>
+        <translation>Vrms</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Armoniche</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>DIRS</source>
+        <translation>DIRS</translation>
+    </message>
+    <message>
+        <source>Unbal., Hz</source>
+        <translation>Squil., Hz</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorMain</name>
+    <message>
+        <source>SETUP</source>
+        <translation>IMPOSTA</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durata</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> g</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> h</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Limiti</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Nome del file:</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorReadout</name>
+    <message>
+        <source>Allowed%</source>
+        <translation>Ammesso%</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Max</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Armoniche</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Peggiore</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>Buchi</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>Sovratensioni</translation>
+    </message>
+    <message>
+        <source>Interr.</source>
+        <translation>Interr.</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Squilibrio</translation>
+    </message>
+    <message>
+        <source>Neg.</source>
+        <translation>Inv.</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequenza</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Segnali in rete</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorTrendPage</name>
+    <message>
+        <source>Unbalance(%)</source>
+        <translation>Squilibrio(%)</translation>
+    </message>
+    <message>
+        <source>Freq(Hz)</source>
+        <translation>Freq(Hz)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+</context>
+<context>
     <name>PhaseColorDialog</name>
     <message>
         <source>Default</source>

@@ -991,6 +991,211 @@ Signaling</source>
     </message>
 </context>
 <context>
+    <name>MonitStarHarmPage</name>
+    <message>
+        <source>Events</source>
+        <translation>イベント</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>MonitStartPage</name>
+    <message>
+        <source>Vrms</source>
+        <translation>Vrms</translation>
+    </message>
+    <message>
+        <source>Harm.</source>
+        <translation>高調波</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>フリッカ</translation>
+    </message>
+    <message>
+        <source>DIRS</source>
+        <translation>DIRS</translation>
+    </message>
+    <message>
+        <source>Unb.</source>
+        <translation>逆相</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>Sig.</source>
+        <translation>信号</translation>
+    </message>
+    <message>
+        <source>Unbal., Hz</source>
+        <translation>不平衡, Hz</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorBarsPage</name>
+    <message>
+        <source>Within the limits</source>
+        <translation>限度内</translation>
+    </message>
+    <message>
+        <source>Outside the limits</source>
+        <translation>限度外</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorEventPage</name>
+    <message>
+        <source>All events</source>
+        <translation>全イベント</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>トレンド</translation>
+    </message>
+    <message>
+        <source>Vrms</source>
+        <translation>Vrms</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>高調波</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>フリッカ</translation>
+    </message>
+    <message>
+        <source>DIRS</source>
+        <translation>DIRS</translation>
+    </message>
+    <message>
+        <source>Unbal., Hz</source>
+        <translation>不平衡, Hz</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorMain</name>
+    <message>
+        <source>SETUP</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>期間</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> 日</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> 時間</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>限度値</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>ファイル名:</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorReadout</name>
+    <message>
+        <source>Allowed%</source>
+        <translation>許容%</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>限度値</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Max</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>高調波</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>最大</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>フリッカ</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>ディップ</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>スウェル</translation>
+    </message>
+    <message>
+        <source>Interr.</source>
+        <translation>停電</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>不平衡</translation>
+    </message>
+    <message>
+        <source>Neg.</source>
+        <translation>逆相</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>周波数</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>電源重畳信号</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorTrendPage</name>
+    <message>
+        <source>Unbalance(%)</source>
+        <translation>不平衡(%)</translation>
+    </message>
+    <message>
+        <source>Freq(Hz)</source>
+        <translation>周波数(Hz)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>ズーム</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+</context>
+<context>
     <name>PhaseColorDialog</name>
     <message>
         <source>Default</source>

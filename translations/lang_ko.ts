@@ -991,6 +991,211 @@ Signaling</source>
     </message>
 </context>
 <context>
+    <name>MonitStarHarmPage</name>
+    <message>
+        <source>Events</source>
+        <translation>이벤트</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+</context>
+<context>
+    <name>MonitStartPage</name>
+    <message>
+        <source>Vrms</source>
+        <translation>Vrms</translation>
+    </message>
+    <message>
+        <source>Harm.</source>
+        <translation>고조파</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>플리커</translation>
+    </message>
+    <message>
+        <source>DIRS</source>
+        <translation>DIRS</translation>
+    </message>
+    <message>
+        <source>Unb.</source>
+        <translation>불평</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>Sig.</source>
+        <translation>신호</translation>
+    </message>
+    <message>
+        <source>Unbal., Hz</source>
+        <translation>불평형, Hz</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorBarsPage</name>
+    <message>
+        <source>Within the limits</source>
+        <translation>한계 이내</translation>
+    </message>
+    <message>
+        <source>Outside the limits</source>
+        <translation>한계 초과</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorEventPage</name>
+    <message>
+        <source>All events</source>
+        <translation>모든 이벤트</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>추이</translation>
+    </message>
+    <message>
+        <source>Vrms</source>
+        <translation>Vrms</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>고조파</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>플리커</translation>
+    </message>
+    <message>
+        <source>DIRS</source>
+        <translation>DIRS</translation>
+    </message>
+    <message>
+        <source>Unbal., Hz</source>
+        <translation>불평형, Hz</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorMain</name>
+    <message>
+        <source>SETUP</source>
+        <translation>설정</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>기간</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> 일</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> 시간</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>한계값</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>파일 이름:</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorReadout</name>
+    <message>
+        <source>Allowed%</source>
+        <translation>허용%</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>한계값</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Max</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>고조파</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>최대</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>플리커</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>새그</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>스웰</translation>
+    </message>
+    <message>
+        <source>Interr.</source>
+        <translation>정전</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>불평형</translation>
+    </message>
+    <message>
+        <source>Neg.</source>
+        <translation>역상</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>주파수</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>전원 신호</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>값</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorTrendPage</name>
+    <message>
+        <source>Unbalance(%)</source>
+        <translation>불평형(%)</translation>
+    </message>
+    <message>
+        <source>Freq(Hz)</source>
+        <translation>주파수(Hz)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>종류</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>확대</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+</context>
+<context>
     <name>PhaseColorDialog</name>
     <message>
         <source>Default</source>

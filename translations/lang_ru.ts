@@ -991,6 +991,211 @@ Signaling</source>
     </message>
 </context>
 <context>
+    <name>MonitStarHarmPage</name>
+    <message>
+        <source>Events</source>
+        <translation>События</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+</context>
+<context>
+    <name>MonitStartPage</name>
+    <message>
+        <source>Vrms</source>
+        <translation>Vrms</translation>
+    </message>
+    <message>
+        <source>Harm.</source>
+        <translation>Гарм.</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Фликер</translation>
+    </message>
+    <message>
+        <source>DIRS</source>
+        <translation>DIRS</translation>
+    </message>
+    <message>
+        <source>Unb.</source>
+        <translation>Несим</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Гц</translation>
+    </message>
+    <message>
+        <source>Sig.</source>
+        <translation>Сигн.</translation>
+    </message>
+    <message>
+        <source>Unbal., Hz</source>
+        <translation>Несим., Гц</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorBarsPage</name>
+    <message>
+        <source>Within the limits</source>
+        <translation>В пределах</translation>
+    </message>
+    <message>
+        <source>Outside the limits</source>
+        <translation>Вне пределов</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorEventPage</name>
+    <message>
+        <source>All events</source>
+        <translation>Все события</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Тренд</translation>
+    </message>
+    <message>
+        <source>Vrms</source>
+        <translation>Vrms</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Гармоники</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Фликер</translation>
+    </message>
+    <message>
+        <source>DIRS</source>
+        <translation>DIRS</translation>
+    </message>
+    <message>
+        <source>Unbal., Hz</source>
+        <translation>Несим., Гц</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorMain</name>
+    <message>
+        <source>SETUP</source>
+        <translation>НАСТРОЙКА</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Старт</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Длительность</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> д</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> ч</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Пределы</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Имя файла:</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorReadout</name>
+    <message>
+        <source>Allowed%</source>
+        <translation>Допустимо%</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Предел</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Max</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Гармоники</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Худшая</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Фликер</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>Провалы</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>Выбросы</translation>
+    </message>
+    <message>
+        <source>Interr.</source>
+        <translation>Прерыв.</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Несимметрия</translation>
+    </message>
+    <message>
+        <source>Neg.</source>
+        <translation>Обр.</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Частота</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Сигналы в сети</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Знач.</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorTrendPage</name>
+    <message>
+        <source>Unbalance(%)</source>
+        <translation>Несимметрия(%)</translation>
+    </message>
+    <message>
+        <source>Freq(Hz)</source>
+        <translation>Част(Hz)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Вид</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Масштаб</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+</context>
+<context>
     <name>PhaseColorDialog</name>
     <message>
         <source>Default</source>

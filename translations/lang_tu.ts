@@ -991,6 +991,211 @@ sinyalleri</translation>
     </message>
 </context>
 <context>
+    <name>MonitStarHarmPage</name>
+    <message>
+        <source>Events</source>
+        <translation>Olaylar</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+</context>
+<context>
+    <name>MonitStartPage</name>
+    <message>
+        <source>Vrms</source>
+        <translation>Vrms</translation>
+    </message>
+    <message>
+        <source>Harm.</source>
+        <translation>Harm.</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Kırpışma</translation>
+    </message>
+    <message>
+        <source>DIRS</source>
+        <translation>DIRS</translation>
+    </message>
+    <message>
+        <source>Unb.</source>
+        <translation>Deng.</translation>
+    </message>
+    <message>
+        <source>Hz</source>
+        <translation>Hz</translation>
+    </message>
+    <message>
+        <source>Sig.</source>
+        <translation>Siny.</translation>
+    </message>
+    <message>
+        <source>Unbal., Hz</source>
+        <translation>Dengesiz., Hz</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorBarsPage</name>
+    <message>
+        <source>Within the limits</source>
+        <translation>Sınırlar içinde</translation>
+    </message>
+    <message>
+        <source>Outside the limits</source>
+        <translation>Sınırların dışında</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorEventPage</name>
+    <message>
+        <source>All events</source>
+        <translation>Tüm olaylar</translation>
+    </message>
+    <message>
+        <source>Trend</source>
+        <translation>Eğilim</translation>
+    </message>
+    <message>
+        <source>Vrms</source>
+        <translation>Vrms</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmonikler</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Kırpışma</translation>
+    </message>
+    <message>
+        <source>DIRS</source>
+        <translation>DIRS</translation>
+    </message>
+    <message>
+        <source>Unbal., Hz</source>
+        <translation>Dengesiz., Hz</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorMain</name>
+    <message>
+        <source>SETUP</source>
+        <translation>AYAR</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Başlat</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Süre</translation>
+    </message>
+    <message>
+        <source> d</source>
+        <translation> g</translation>
+    </message>
+    <message>
+        <source> h</source>
+        <translation> sa</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation>Sınırlar</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Dosya adı:</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorReadout</name>
+    <message>
+        <source>Allowed%</source>
+        <translation>İzin%</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Sınır</translation>
+    </message>
+    <message>
+        <source>Max</source>
+        <translation>Max</translation>
+    </message>
+    <message>
+        <source>Min</source>
+        <translation>Min</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmonikler</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>En kötü</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Kırpışma</translation>
+    </message>
+    <message>
+        <source>Dips</source>
+        <translation>Çukurlar</translation>
+    </message>
+    <message>
+        <source>Swells</source>
+        <translation>Tepeler</translation>
+    </message>
+    <message>
+        <source>Interr.</source>
+        <translation>Kesinti</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Dengesizlik</translation>
+    </message>
+    <message>
+        <source>Neg.</source>
+        <translation>Negatif</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frekans</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Şebeke sinyalleri</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Değer</translation>
+    </message>
+</context>
+<context>
+    <name>MonitorTrendPage</name>
+    <message>
+        <source>Unbalance(%)</source>
+        <translation>Dengesizlik(%)</translation>
+    </message>
+    <message>
+        <source>Freq(Hz)</source>
+        <translation>Frek(Hz)</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Tip</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Yakınlaş</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+</context>
+<context>
     <name>PhaseColorDialog</name>
     <message>
         <source>Default</source>

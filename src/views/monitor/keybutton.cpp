@@ -1,6 +1,5 @@
 #include "views/monitor/keybutton.h"
 
-#include "widgets/controls/labellook.h"
 #include "widgets/controls/softkeybutton.h"
 
 void KeyButton::place(QWidget *page, int number, SoftKeyButton *button)
@@ -12,5 +11,5 @@ void KeyButton::place(QWidget *page, int number, SoftKeyButton *button)
     if (plain)
         button->setGeometry(plain->geometry());
     delete plain;
-    LabelLook::setBackground(button, QStringLiteral(":/button"));
+    button->setProperty("background", QStringLiteral(":/button"));
 }

@@ -20,8 +20,8 @@ MonitorEventPage::MonitorEventPage(const Family &family, QWidget *parent)
     };
     m_name->setObjectName(QStringLiteral("family"));
     m_name->setGeometry(kNamePlace);
-    LabelLook::dress(this);
     KeyButton::place(this, 4, m_filterKey);
+    LabelLook::dress(this);
     setKeys(keys);
 }
 

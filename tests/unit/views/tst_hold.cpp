@@ -3,6 +3,7 @@
 #include "allpages.h"
 #include "pages/viewcontainer.h"
 #include "settings/dipswellinfo.h"
+#include "settings/monitorinfo.h"
 #include "widgets/controls/eventswidget.h"
 
 #include <QImage>
@@ -32,6 +33,26 @@ template <std::size_t N> void fillTrends(__trend_data (&trends)[N], float level)
         for (int c = 0; c < kChannels; ++c)
             trend.series[c] = seriesOf(level * float(c + 1), 20);
     }
+}
+
+/// The monitor's results and trends, all of them others for another \a level.
+void monitor(float level)
+{
+    __monitor_data &data = live().monitor;
+    data.freqReady = data.voltReady = data.flickerReady = 1;
+    for (int p = 0; p < kMonitorPhases; ++p) {
+        data.voltMax[p] = data.voltMin[p] = level * float(p + 1);
+        data.voltPartialRatio[p] = data.pltPartialRatio[p] = level * float(p + 1);
+        for (int row = 0; row < kMonitorHarmonics; ++row)
+            data.harmPartialRatio[p][row] = level / float(row + 1);
+    }
+    data.freqMax = data.freqMin = data.freqPartialRatio = level;
+    for (const int row : { MonitorTrendVoltage, MonitorTrendThd, MonitorTrendPlt }) {
+        for (int p = 0; p < kMonitorPhases; ++p)
+            live().monitorTrend.row[row + p] = seriesOf(level * float(p + 1), 20);
+    }
+    live().monitorTrend.row[MonitorTrendUnbalance] = live().monitorTrend.row[MonitorTrendFrequency]
+        = seriesOf(level, 20);
 }
 
 /// Values on every page, all of them others for another \a level.
@@ -77,6 +98,7 @@ void measure(float level)
     fillTrends(records.power.trend, level);
     fillTrends(records.mainsSignal.trend, level);
     fillTrends(records.inverter.trend, level);
+    monitor(level);
 }
 
 constexpr float kHeldLevel = 100;
@@ -121,7 +143,8 @@ void TstHold::initTestCase()
 
 QVector<QImage> TstHold::pictures(const MakePage &make, int subPage, const Keys &keys, bool held, bool later)
 {
-    DipSwellInfo::m_zoom_index = 0; // survives its page
+    DipSwellInfo::m_zoom_index = 0; // survive their pages
+    MonitorInfo::m_zoom_index = 3;
     std::unique_ptr<FunctionPage> page(make());
     if (auto *harmonics = qobject_cast<harm *>(page.get())) {
         // As the task answers.
@@ -170,6 +193,10 @@ void TstHold::everyKeyShowsTheHeldMoment_data()
     QTest::newRow("inrush") << MakePage(makePage<InrushPage>) << 1 << Keys { F1, Left, F3, Left, Left, Right, F1 };
     QTest::newRow("opening the flicker trend") << MakePage(makePage<flicker>) << 0 << Keys { F4 };
     QTest::newRow("transients") << MakePage(makePage<trans>) << 1 << Keys { Right, Right, F3, Up, F2 };
+    QTest::newRow("monitor overview") << MakePage(makePage<MonitorPage>) << 1
+                                      << Keys { Left, Left, Right, Right, Right };
+    QTest::newRow("monitor harmonics") << MakePage(makePage<MonitorPage>) << 4 << Keys { Right, F1, Right, F1 };
+    QTest::newRow("monitor trend") << MakePage(makePage<MonitorPage>) << 12 << Keys { F1, Down, F4, Up };
     QTest::newRow("inverter trend") << MakePage(makePage<PowerInverter>) << 2 << Keys(6, F1);
 }
 
