@@ -56,6 +56,20 @@ public:
     /// Value at fraction p of the first n of a sorted list, interpolated between neighbours. In a descending list p is
     /// the fraction of time in which the value is exceeded. Where n * p is below 1 the first value, 0 for no values.
     static float percentiles(float p, QList<float> *sorted, unsigned int n);
+    /// The same for \a count values that are kept in another way: \a at takes a place and answers its value.
+    template <typename At> static float percentileOf(float p, int count, const At &at)
+    {
+        if (count == 0)
+            return 0.0f;
+        const float x = static_cast<float>(count) * p;
+        if (count == 1 || !(x >= 1.0f)) // would read ahead of the list
+            return at(0);
+        if (x >= static_cast<float>(count))
+            return at(count - 1);
+        const int i = static_cast<int>(x);
+        const float r = x - static_cast<float>(i);
+        return at(i - 1) + (at(i) - at(i - 1)) * r;
+    }
     /// Short-term flicker of a descending list of instantaneous values (IEC 61000-4-15, 5.7.2, smoothed percentiles).
     static double pst10min(QList<float> *sorted, unsigned int n);
     /// Resamples n values to 600. Without values `out` stays as it is.

@@ -29,18 +29,7 @@ double DataTypes::plt(const QList<float> *values, unsigned int n)
 float DataTypes::percentiles(float p, QList<float> *sorted, unsigned int n)
 {
     const int count = static_cast<int>(std::min(n, static_cast<unsigned int>(sorted->size())));
-    if (count == 0)
-        return 0.0f;
-    if (count == 1)
-        return sorted->at(0);
-    const float x = static_cast<float>(count) * p;
-    if (!(x >= 1.0f)) // would read ahead of the list
-        return sorted->at(0);
-    if (x >= static_cast<float>(count))
-        return sorted->at(count - 1);
-    const int i = static_cast<int>(x);
-    const float r = x - static_cast<float>(i);
-    return sorted->at(i - 1) + (sorted->at(i) - sorted->at(i - 1)) * r;
+    return percentileOf(p, count, [sorted](int place) { return sorted->at(place); });
 }
 
 double DataTypes::pst10min(QList<float> *sorted, unsigned int n)

@@ -57,8 +57,10 @@ UniTask::UniTask(LiveData &data, QObject *parent)
       m_aggregation(makeRecord<__datagram_aggregation>()), m_rms(makeRecord<__datagram_rms>()),
       m_wave(makeRecord<__datagram_wave>()), m_flicker(makeRecord<__datagram_flicker>()),
       m_events(new PowerEvents(data.events(), this)), m_flickerProcessor(std::make_unique<FlickerProcessor>()),
-      m_trends(data.live()), m_inverter(data.live(), inverterOutput), m_monitor(data), m_recorder(data),
-      m_capture(data.live().wave, setUpInUse, [this] { stopTask(); })
+      m_trends(data.live()), m_inverter(data.live(), inverterOutput),
+      m_monitor(
+          { data, *m_events, *m_flickerProcessor, [this] { emit updateDisplay(nullptr); }, [this] { stopTask(); } }),
+      m_recorder(data), m_capture(data.live().wave, setUpInUse, [this] { stopTask(); })
 {
     connectDetector();
     setTaskType(0, 1000);

@@ -268,9 +268,10 @@ void TstTaskFunctions::monitorEndsItsFileWithTheHeadsOfAllEvents()
     m_task->stopTask();
     m_task->monitor().file().set(nullptr);
     const QList<ReadBlock> blocks = storedBlocks(file);
-    QCOMPARE(blocks.size(), 1);
+    QCOMPARE(blocks.size(), 2); // then the time
     QCOMPARE(blocks[0].type, 0xA1010080u);
     QCOMPARE(blocks[0].payload.size(), 32);
+    QCOMPARE(blocks[1].type, 0xA1000019u);
 }
 
 void TstTaskFunctions::changeOfTheFunctionEndsTheFormerOne()

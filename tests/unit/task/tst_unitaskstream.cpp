@@ -416,9 +416,9 @@ void TstUniTaskStream::flickerValuesGoToTheFileOfTheFunction()
     Pqa2FF monitor("/tmp/monitor.pqa2");
     if (!common.open() || !monitor.open())
         QFAIL("no room for the files");
-    setFiles(&common, &monitor);
     m_task->initUniFunction(AbstractTask::UniFunction(function));
     m_task->startTask();
+    setFiles(&common, &monitor);
     RecordInfo::m_recordItems = RecordInfo::Flicker;
     if (function == AbstractTask::UniBasic)
         m_task->startRecordTask();

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <vector>
+
+/// Numbers in ascending order, as many as a run of years brings. Taking one in costs the same however many there are:
+/// they stand in short blocks, and only the one that a number belongs to is moved.
+class SortedValues
+{
+public:
+    /// What is not a number has no place in the order and is left out.
+    void insert(float value);
+    int size() const { return m_size; }
+    bool isEmpty() const { return m_size == 0; }
+    /// \a place from 0 (the smallest) to size() - 1.
+    float at(int place) const;
+    /// Value below which \a share (0 to 1) of them lie, as DataTypes::percentiles() has it for the whole list.
+    float percentile(float share) const;
+
+private:
+    static constexpr int kBlock = 1024; // longest block
+
+    std::vector<std::vector<float>> m_blocks; // none is empty
+    int m_size = 0;
+};
