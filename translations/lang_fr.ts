@@ -791,6 +791,20 @@ voulez-vous quitter ?</translation>
     </message>
 </context>
 <context>
+    <name>LoggerParamPage</name>
+    <message>
+        <source>Params</source>
+        <translation>Paramètres</translation>
+    </message>
+</context>
+<context>
+    <name>LoggerSetup</name>
+    <message>
+        <source>Logger</source>
+        <translation>Enregistreur</translation>
+    </message>
+</context>
+<context>
     <name>MainsSignalingMain</name>
     <message>
         <source>Freq =</source>
@@ -1418,6 +1432,240 @@ réseau</translation>
     <message>
         <source>CUSTOM</source>
         <translation>PERSO.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPqa2Param</name>
+    <message>
+        <source>Values</source>
+        <translation>Valeurs</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Puissance</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>U Harmonics</source>
+        <translation>U harmon.</translation>
+    </message>
+    <message>
+        <source>I Harmonics</source>
+        <translation>I harmon.</translation>
+    </message>
+    <message>
+        <source>U Interharm.</source>
+        <translation>U interharm.</translation>
+    </message>
+    <message>
+        <source>I Interharm.</source>
+        <translation>I interharm.</translation>
+    </message>
+    <message>
+        <source>Signaling</source>
+        <translation>Signaux</translation>
+    </message>
+    <message>
+        <source>Params</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Urms Irms CF THD</source>
+        <translation>Urms Irms CF THD</translation>
+    </message>
+    <message>
+        <source>Frequence</source>
+        <translation>Fréquence</translation>
+    </message>
+    <message>
+        <source>P S Q PF cosφ tanφ</source>
+        <translation>P S Q PF cosφ tanφ</translation>
+    </message>
+    <message>
+        <source>E(Wh) E(VAh) E(varh)</source>
+        <translation>E(Wh) E(VAh) E(varh)</translation>
+    </message>
+    <message>
+        <source>Pst Plt</source>
+        <translation>Pst Plt</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Déséquilibre</translation>
+    </message>
+    <message>
+        <source>(rms angle) 1-50</source>
+        <translation>(rms angle) 1-50</translation>
+    </message>
+    <message>
+        <source>(rms angle) 51-100</source>
+        <translation>(rms angle) 51-100</translation>
+    </message>
+    <message>
+        <source>(rms) 0-49</source>
+        <translation>(rms) 0-49</translation>
+    </message>
+    <message>
+        <source>(rms) 50-51</source>
+        <translation>(rms) 50-51</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Signaux réseau</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPqa2Setup</name>
+    <message>
+        <source>Logger</source>
+        <translation>Enregistreur</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingParam</name>
+    <message>
+        <source>All</source>
+        <translation>Tous</translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation>Inverser</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingSetup</name>
+    <message>
+        <source>File name:</source>
+        <translation>Nom du fichier :</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Durée :</translation>
+    </message>
+    <message>
+        <source>Interval:</source>
+        <translation>Intervalle :</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>Mémoire disponible :</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Params</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>There is no room for a recording.
+Delete files in Memory.</source>
+        <translation>Pas de place pour un enregistrement.
+Supprimez des fichiers en mémoire.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingStart</name>
+    <message>
+        <source>File name:</source>
+        <translation>Nom du fichier :</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Durée :</translation>
+    </message>
+    <message>
+        <source>Interval:</source>
+        <translation>Intervalle :</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>Mémoire disponible :</translation>
+    </message>
+    <message>
+        <source>Logger waits for its start.
+Swith to other page to see real time data and details.</source>
+        <translation>L&apos;enregistreur attend son départ.
+Les autres pages montrent les valeurs en temps réel et les détails.</translation>
+    </message>
+    <message>
+        <source>Logger is running.
+Swith to other page to see real time data and details.</source>
+        <translation>Enregistrement en cours.
+Les autres pages montrent les valeurs en temps réel et les détails.</translation>
+    </message>
+    <message>
+        <source>Logger has ended.
+Its data stands in Memory.</source>
+        <translation>Enregistrement terminé.
+Les données sont en mémoire.</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>Enregistreur</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêt</translation>
+    </message>
+    <message>
+        <source>Save: save the data.
+</source>
+        <translation>Sauver : enregistrer les données.
+</translation>
+    </message>
+    <message>
+        <source>Exit: delete the data and exit.
+</source>
+        <translation>Quitter : effacer les données et quitter.
+</translation>
+    </message>
+    <message>
+        <source>Restart: delete the data and restart logger.</source>
+        <translation>Relancer : effacer les données et relancer l&apos;enregistreur.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingText</name>
+    <message>
+        <source> %1 d, %2 hr</source>
+        <translation> %1 j, %2 h</translation>
+    </message>
+    <message>
+        <source>%1 hr</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>

@@ -791,6 +791,20 @@ soll sie beendet werden?</translation>
     </message>
 </context>
 <context>
+    <name>LoggerParamPage</name>
+    <message>
+        <source>Params</source>
+        <translation>Parameter</translation>
+    </message>
+</context>
+<context>
+    <name>LoggerSetup</name>
+    <message>
+        <source>Logger</source>
+        <translation>Logger</translation>
+    </message>
+</context>
+<context>
     <name>MainsSignalingMain</name>
     <message>
         <source>Freq =</source>
@@ -1418,6 +1432,240 @@ signale</translation>
     <message>
         <source>CUSTOM</source>
         <translation>FREI</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPqa2Param</name>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Leistung</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>U Harmonics</source>
+        <translation>U Harmon.</translation>
+    </message>
+    <message>
+        <source>I Harmonics</source>
+        <translation>I Harmon.</translation>
+    </message>
+    <message>
+        <source>U Interharm.</source>
+        <translation>U Zwischenh.</translation>
+    </message>
+    <message>
+        <source>I Interharm.</source>
+        <translation>I Zwischenh.</translation>
+    </message>
+    <message>
+        <source>Signaling</source>
+        <translation>Rundsteuer.</translation>
+    </message>
+    <message>
+        <source>Params</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Urms Irms CF THD</source>
+        <translation>Urms Irms CF THD</translation>
+    </message>
+    <message>
+        <source>Frequence</source>
+        <translation>Frequenz</translation>
+    </message>
+    <message>
+        <source>P S Q PF cosφ tanφ</source>
+        <translation>P S Q PF cosφ tanφ</translation>
+    </message>
+    <message>
+        <source>E(Wh) E(VAh) E(varh)</source>
+        <translation>E(Wh) E(VAh) E(varh)</translation>
+    </message>
+    <message>
+        <source>Pst Plt</source>
+        <translation>Pst Plt</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Unsymmetrie</translation>
+    </message>
+    <message>
+        <source>(rms angle) 1-50</source>
+        <translation>(rms Winkel) 1-50</translation>
+    </message>
+    <message>
+        <source>(rms angle) 51-100</source>
+        <translation>(rms Winkel) 51-100</translation>
+    </message>
+    <message>
+        <source>(rms) 0-49</source>
+        <translation>(rms) 0-49</translation>
+    </message>
+    <message>
+        <source>(rms) 50-51</source>
+        <translation>(rms) 50-51</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Rundsteuersignale</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPqa2Setup</name>
+    <message>
+        <source>Logger</source>
+        <translation>Logger</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingParam</name>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation>Umkehren</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingSetup</name>
+    <message>
+        <source>File name:</source>
+        <translation>Dateiname:</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Dauer:</translation>
+    </message>
+    <message>
+        <source>Interval:</source>
+        <translation>Intervall:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>Freier Speicher:</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Params</source>
+        <translation>Parameter</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>There is no room for a recording.
+Delete files in Memory.</source>
+        <translation>Für eine Aufzeichnung fehlt der Platz.
+Bitte im Speicher Dateien löschen.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingStart</name>
+    <message>
+        <source>File name:</source>
+        <translation>Dateiname:</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Dauer:</translation>
+    </message>
+    <message>
+        <source>Interval:</source>
+        <translation>Intervall:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>Freier Speicher:</translation>
+    </message>
+    <message>
+        <source>Logger waits for its start.
+Swith to other page to see real time data and details.</source>
+        <translation>Der Logger wartet auf den Start.
+Aktuelle Werte und Einzelheiten stehen auf den anderen Seiten.</translation>
+    </message>
+    <message>
+        <source>Logger is running.
+Swith to other page to see real time data and details.</source>
+        <translation>Der Logger läuft.
+Aktuelle Werte und Einzelheiten stehen auf den anderen Seiten.</translation>
+    </message>
+    <message>
+        <source>Logger has ended.
+Its data stands in Memory.</source>
+        <translation>Der Logger ist beendet.
+Die Daten stehen im Speicher.</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>Logger</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Save: save the data.
+</source>
+        <translation>Speichern: Daten speichern.
+</translation>
+    </message>
+    <message>
+        <source>Exit: delete the data and exit.
+</source>
+        <translation>Ende: Daten löschen und beenden.
+</translation>
+    </message>
+    <message>
+        <source>Restart: delete the data and restart logger.</source>
+        <translation>Neustart: Daten löschen und Logger neu starten.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingText</name>
+    <message>
+        <source> %1 d, %2 hr</source>
+        <translation> %1 T, %2 h</translation>
+    </message>
+    <message>
+        <source>%1 hr</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>

@@ -791,6 +791,20 @@ si desidera uscire?</translation>
     </message>
 </context>
 <context>
+    <name>LoggerParamPage</name>
+    <message>
+        <source>Params</source>
+        <translation>Parametri</translation>
+    </message>
+</context>
+<context>
+    <name>LoggerSetup</name>
+    <message>
+        <source>Logger</source>
+        <translation>Registratore</translation>
+    </message>
+</context>
+<context>
     <name>MainsSignalingMain</name>
     <message>
         <source>Freq =</source>
@@ -1418,6 +1432,240 @@ in rete</translation>
     <message>
         <source>CUSTOM</source>
         <translation>LIBERO</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPqa2Param</name>
+    <message>
+        <source>Values</source>
+        <translation>Valori</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Potenza</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualità</translation>
+    </message>
+    <message>
+        <source>U Harmonics</source>
+        <translation>U armoniche</translation>
+    </message>
+    <message>
+        <source>I Harmonics</source>
+        <translation>I armoniche</translation>
+    </message>
+    <message>
+        <source>U Interharm.</source>
+        <translation>U interarm.</translation>
+    </message>
+    <message>
+        <source>I Interharm.</source>
+        <translation>I interarm.</translation>
+    </message>
+    <message>
+        <source>Signaling</source>
+        <translation>Segnali</translation>
+    </message>
+    <message>
+        <source>Params</source>
+        <translation>Parametri</translation>
+    </message>
+    <message>
+        <source>Urms Irms CF THD</source>
+        <translation>Urms Irms CF THD</translation>
+    </message>
+    <message>
+        <source>Frequence</source>
+        <translation>Frequenza</translation>
+    </message>
+    <message>
+        <source>P S Q PF cosφ tanφ</source>
+        <translation>P S Q PF cosφ tanφ</translation>
+    </message>
+    <message>
+        <source>E(Wh) E(VAh) E(varh)</source>
+        <translation>E(Wh) E(VAh) E(varh)</translation>
+    </message>
+    <message>
+        <source>Pst Plt</source>
+        <translation>Pst Plt</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Squilibrio</translation>
+    </message>
+    <message>
+        <source>(rms angle) 1-50</source>
+        <translation>(rms angolo) 1-50</translation>
+    </message>
+    <message>
+        <source>(rms angle) 51-100</source>
+        <translation>(rms angolo) 51-100</translation>
+    </message>
+    <message>
+        <source>(rms) 0-49</source>
+        <translation>(rms) 0-49</translation>
+    </message>
+    <message>
+        <source>(rms) 50-51</source>
+        <translation>(rms) 50-51</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Segnali in rete</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPqa2Setup</name>
+    <message>
+        <source>Logger</source>
+        <translation>Registratore</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingParam</name>
+    <message>
+        <source>All</source>
+        <translation>Tutti</translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation>Inverti</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingSetup</name>
+    <message>
+        <source>File name:</source>
+        <translation>Nome del file:</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Durata:</translation>
+    </message>
+    <message>
+        <source>Interval:</source>
+        <translation>Intervallo:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>Memoria disponibile:</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Successivo</translation>
+    </message>
+    <message>
+        <source>Params</source>
+        <translation>Parametri</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>There is no room for a recording.
+Delete files in Memory.</source>
+        <translation>Non c&apos;è spazio per una registrazione.
+Eliminare file nella memoria.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingStart</name>
+    <message>
+        <source>File name:</source>
+        <translation>Nome del file:</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Durata:</translation>
+    </message>
+    <message>
+        <source>Interval:</source>
+        <translation>Intervallo:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>Memoria disponibile:</translation>
+    </message>
+    <message>
+        <source>Logger waits for its start.
+Swith to other page to see real time data and details.</source>
+        <translation>Il registratore attende l&apos;avvio.
+Le altre pagine mostrano i dati in tempo reale e i dettagli.</translation>
+    </message>
+    <message>
+        <source>Logger is running.
+Swith to other page to see real time data and details.</source>
+        <translation>Il registratore è in funzione.
+Le altre pagine mostrano i dati in tempo reale e i dettagli.</translation>
+    </message>
+    <message>
+        <source>Logger has ended.
+Its data stands in Memory.</source>
+        <translation>La registrazione è terminata.
+I dati sono nella memoria.</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>Registratore</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>Save: save the data.
+</source>
+        <translation>Salva: salva i dati.
+</translation>
+    </message>
+    <message>
+        <source>Exit: delete the data and exit.
+</source>
+        <translation>Esci: cancella i dati ed esce.
+</translation>
+    </message>
+    <message>
+        <source>Restart: delete the data and restart logger.</source>
+        <translation>Riavvia: cancella i dati e riavvia il registratore.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingText</name>
+    <message>
+        <source> %1 d, %2 hr</source>
+        <translation> %1 g, %2 h</translation>
+    </message>
+    <message>
+        <source>%1 hr</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>

@@ -791,6 +791,20 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>LoggerParamPage</name>
+    <message>
+        <source>Params</source>
+        <translation>パラメータ</translation>
+    </message>
+</context>
+<context>
+    <name>LoggerSetup</name>
+    <message>
+        <source>Logger</source>
+        <translation>ロガー</translation>
+    </message>
+</context>
+<context>
     <name>MainsSignalingMain</name>
     <message>
         <source>Freq =</source>
@@ -1418,6 +1432,240 @@ Signaling</source>
     <message>
         <source>CUSTOM</source>
         <translation>任意</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPqa2Param</name>
+    <message>
+        <source>Values</source>
+        <translation>測定値</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>電力</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>品質</translation>
+    </message>
+    <message>
+        <source>U Harmonics</source>
+        <translation>U 高調波</translation>
+    </message>
+    <message>
+        <source>I Harmonics</source>
+        <translation>I 高調波</translation>
+    </message>
+    <message>
+        <source>U Interharm.</source>
+        <translation>U 次数間</translation>
+    </message>
+    <message>
+        <source>I Interharm.</source>
+        <translation>I 次数間</translation>
+    </message>
+    <message>
+        <source>Signaling</source>
+        <translation>信号電圧</translation>
+    </message>
+    <message>
+        <source>Params</source>
+        <translation>パラメータ</translation>
+    </message>
+    <message>
+        <source>Urms Irms CF THD</source>
+        <translation>Urms Irms CF THD</translation>
+    </message>
+    <message>
+        <source>Frequence</source>
+        <translation>周波数</translation>
+    </message>
+    <message>
+        <source>P S Q PF cosφ tanφ</source>
+        <translation>P S Q PF cosφ tanφ</translation>
+    </message>
+    <message>
+        <source>E(Wh) E(VAh) E(varh)</source>
+        <translation>E(Wh) E(VAh) E(varh)</translation>
+    </message>
+    <message>
+        <source>Pst Plt</source>
+        <translation>Pst Plt</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>不平衡</translation>
+    </message>
+    <message>
+        <source>(rms angle) 1-50</source>
+        <translation>(rms 位相角) 1-50</translation>
+    </message>
+    <message>
+        <source>(rms angle) 51-100</source>
+        <translation>(rms 位相角) 51-100</translation>
+    </message>
+    <message>
+        <source>(rms) 0-49</source>
+        <translation>(rms) 0-49</translation>
+    </message>
+    <message>
+        <source>(rms) 50-51</source>
+        <translation>(rms) 50-51</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>電源重畳信号</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPqa2Setup</name>
+    <message>
+        <source>Logger</source>
+        <translation>ロガー</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingParam</name>
+    <message>
+        <source>All</source>
+        <translation>全て</translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation>反転</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingSetup</name>
+    <message>
+        <source>File name:</source>
+        <translation>ファイル名:</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>継続時間:</translation>
+    </message>
+    <message>
+        <source>Interval:</source>
+        <translation>間隔:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>メモリ残量:</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>Params</source>
+        <translation>パラメータ</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>There is no room for a recording.
+Delete files in Memory.</source>
+        <translation>記録する空き容量がありません。
+メモリのファイルを削除してください。</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingStart</name>
+    <message>
+        <source>File name:</source>
+        <translation>ファイル名:</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>継続時間:</translation>
+    </message>
+    <message>
+        <source>Interval:</source>
+        <translation>間隔:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>メモリ残量:</translation>
+    </message>
+    <message>
+        <source>Logger waits for its start.
+Swith to other page to see real time data and details.</source>
+        <translation>ロガーは開始を待っています。
+リアルタイム値と詳細は他のページで確認できます。</translation>
+    </message>
+    <message>
+        <source>Logger is running.
+Swith to other page to see real time data and details.</source>
+        <translation>ロガー動作中です。
+リアルタイム値と詳細は他のページで確認できます。</translation>
+    </message>
+    <message>
+        <source>Logger has ended.
+Its data stands in Memory.</source>
+        <translation>ロガーは終了しました。
+データはメモリにあります。</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>ロガー</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Save: save the data.
+</source>
+        <translation>保存: データを保存します。
+</translation>
+    </message>
+    <message>
+        <source>Exit: delete the data and exit.
+</source>
+        <translation>終了: データを削除して終了します。
+</translation>
+    </message>
+    <message>
+        <source>Restart: delete the data and restart logger.</source>
+        <translation>再開: データを削除してロガーを再開します。</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingText</name>
+    <message>
+        <source> %1 d, %2 hr</source>
+        <translation> %1 日, %2 時間</translation>
+    </message>
+    <message>
+        <source>%1 hr</source>
+        <translation>%1 時間</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
     </message>
 </context>
 <context>

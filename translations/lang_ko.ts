@@ -791,6 +791,20 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>LoggerParamPage</name>
+    <message>
+        <source>Params</source>
+        <translation>매개변수</translation>
+    </message>
+</context>
+<context>
+    <name>LoggerSetup</name>
+    <message>
+        <source>Logger</source>
+        <translation>로거</translation>
+    </message>
+</context>
+<context>
     <name>MainsSignalingMain</name>
     <message>
         <source>Freq =</source>
@@ -1418,6 +1432,240 @@ Signaling</source>
     <message>
         <source>CUSTOM</source>
         <translation>사용자</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPqa2Param</name>
+    <message>
+        <source>Values</source>
+        <translation>측정값</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>전력</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>품질</translation>
+    </message>
+    <message>
+        <source>U Harmonics</source>
+        <translation>U 고조파</translation>
+    </message>
+    <message>
+        <source>I Harmonics</source>
+        <translation>I 고조파</translation>
+    </message>
+    <message>
+        <source>U Interharm.</source>
+        <translation>U 차수간</translation>
+    </message>
+    <message>
+        <source>I Interharm.</source>
+        <translation>I 차수간</translation>
+    </message>
+    <message>
+        <source>Signaling</source>
+        <translation>신호 전압</translation>
+    </message>
+    <message>
+        <source>Params</source>
+        <translation>매개변수</translation>
+    </message>
+    <message>
+        <source>Urms Irms CF THD</source>
+        <translation>Urms Irms CF THD</translation>
+    </message>
+    <message>
+        <source>Frequence</source>
+        <translation>주파수</translation>
+    </message>
+    <message>
+        <source>P S Q PF cosφ tanφ</source>
+        <translation>P S Q PF cosφ tanφ</translation>
+    </message>
+    <message>
+        <source>E(Wh) E(VAh) E(varh)</source>
+        <translation>E(Wh) E(VAh) E(varh)</translation>
+    </message>
+    <message>
+        <source>Pst Plt</source>
+        <translation>Pst Plt</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>불평형</translation>
+    </message>
+    <message>
+        <source>(rms angle) 1-50</source>
+        <translation>(rms 위상각) 1-50</translation>
+    </message>
+    <message>
+        <source>(rms angle) 51-100</source>
+        <translation>(rms 위상각) 51-100</translation>
+    </message>
+    <message>
+        <source>(rms) 0-49</source>
+        <translation>(rms) 0-49</translation>
+    </message>
+    <message>
+        <source>(rms) 50-51</source>
+        <translation>(rms) 50-51</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>전원 신호</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPqa2Setup</name>
+    <message>
+        <source>Logger</source>
+        <translation>로거</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingParam</name>
+    <message>
+        <source>All</source>
+        <translation>전체</translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation>반전</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingSetup</name>
+    <message>
+        <source>File name:</source>
+        <translation>파일 이름:</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>기간:</translation>
+    </message>
+    <message>
+        <source>Interval:</source>
+        <translation>간격:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>사용 가능 메모리:</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>다음</translation>
+    </message>
+    <message>
+        <source>Params</source>
+        <translation>매개변수</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>There is no room for a recording.
+Delete files in Memory.</source>
+        <translation>기록할 공간이 없습니다.
+메모리에서 파일을 삭제하십시오.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingStart</name>
+    <message>
+        <source>File name:</source>
+        <translation>파일 이름:</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>기간:</translation>
+    </message>
+    <message>
+        <source>Interval:</source>
+        <translation>간격:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>사용 가능 메모리:</translation>
+    </message>
+    <message>
+        <source>Logger waits for its start.
+Swith to other page to see real time data and details.</source>
+        <translation>로거가 시작을 기다리고 있습니다.
+실시간 값과 상세 내용은 다른 페이지에서 볼 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Logger is running.
+Swith to other page to see real time data and details.</source>
+        <translation>로거가 실행 중입니다.
+실시간 값과 상세 내용은 다른 페이지에서 볼 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Logger has ended.
+Its data stands in Memory.</source>
+        <translation>로거가 종료되었습니다.
+데이터는 메모리에 있습니다.</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>로거</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>정지</translation>
+    </message>
+    <message>
+        <source>Save: save the data.
+</source>
+        <translation>저장: 데이터를 저장합니다.
+</translation>
+    </message>
+    <message>
+        <source>Exit: delete the data and exit.
+</source>
+        <translation>종료: 데이터를 삭제하고 종료합니다.
+</translation>
+    </message>
+    <message>
+        <source>Restart: delete the data and restart logger.</source>
+        <translation>재시작: 데이터를 삭제하고 로거를 다시 시작합니다.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingText</name>
+    <message>
+        <source> %1 d, %2 hr</source>
+        <translation> %1일, %2시간</translation>
+    </message>
+    <message>
+        <source>%1 hr</source>
+        <translation>%1시간</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1분</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1초</translation>
     </message>
 </context>
 <context>

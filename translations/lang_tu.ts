@@ -791,6 +791,20 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>LoggerParamPage</name>
+    <message>
+        <source>Params</source>
+        <translation>Parametreler</translation>
+    </message>
+</context>
+<context>
+    <name>LoggerSetup</name>
+    <message>
+        <source>Logger</source>
+        <translation>Kaydedici</translation>
+    </message>
+</context>
+<context>
     <name>MainsSignalingMain</name>
     <message>
         <source>Freq =</source>
@@ -1418,6 +1432,240 @@ sinyalleri</translation>
     <message>
         <source>CUSTOM</source>
         <translation>ÖZEL</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPqa2Param</name>
+    <message>
+        <source>Values</source>
+        <translation>Değerler</translation>
+    </message>
+    <message>
+        <source>Power</source>
+        <translation>Güç</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Kalite</translation>
+    </message>
+    <message>
+        <source>U Harmonics</source>
+        <translation>U harmonik</translation>
+    </message>
+    <message>
+        <source>I Harmonics</source>
+        <translation>I harmonik</translation>
+    </message>
+    <message>
+        <source>U Interharm.</source>
+        <translation>U araharm.</translation>
+    </message>
+    <message>
+        <source>I Interharm.</source>
+        <translation>I araharm.</translation>
+    </message>
+    <message>
+        <source>Signaling</source>
+        <translation>Sinyal</translation>
+    </message>
+    <message>
+        <source>Params</source>
+        <translation>Parametreler</translation>
+    </message>
+    <message>
+        <source>Urms Irms CF THD</source>
+        <translation>Urms Irms CF THD</translation>
+    </message>
+    <message>
+        <source>Frequence</source>
+        <translation>Frekans</translation>
+    </message>
+    <message>
+        <source>P S Q PF cosφ tanφ</source>
+        <translation>P S Q PF cosφ tanφ</translation>
+    </message>
+    <message>
+        <source>E(Wh) E(VAh) E(varh)</source>
+        <translation>E(Wh) E(VAh) E(varh)</translation>
+    </message>
+    <message>
+        <source>Pst Plt</source>
+        <translation>Pst Plt</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Dengesizlik</translation>
+    </message>
+    <message>
+        <source>(rms angle) 1-50</source>
+        <translation>(rms açı) 1-50</translation>
+    </message>
+    <message>
+        <source>(rms angle) 51-100</source>
+        <translation>(rms açı) 51-100</translation>
+    </message>
+    <message>
+        <source>(rms) 0-49</source>
+        <translation>(rms) 0-49</translation>
+    </message>
+    <message>
+        <source>(rms) 50-51</source>
+        <translation>(rms) 50-51</translation>
+    </message>
+    <message>
+        <source>Mains Signaling</source>
+        <translation>Şebeke sinyalleri</translation>
+    </message>
+</context>
+<context>
+    <name>RecordPqa2Setup</name>
+    <message>
+        <source>Logger</source>
+        <translation>Kaydedici</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingParam</name>
+    <message>
+        <source>All</source>
+        <translation>Tümü</translation>
+    </message>
+    <message>
+        <source>Invert</source>
+        <translation>Ters çevir</translation>
+    </message>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingSetup</name>
+    <message>
+        <source>File name:</source>
+        <translation>Dosya adı:</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Süre:</translation>
+    </message>
+    <message>
+        <source>Interval:</source>
+        <translation>Aralık:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>Boş bellek:</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Sonraki</translation>
+    </message>
+    <message>
+        <source>Params</source>
+        <translation>Parametreler</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Başlat</translation>
+    </message>
+    <message>
+        <source>There is no room for a recording.
+Delete files in Memory.</source>
+        <translation>Kayıt için yer yok.
+Bellekten dosya silin.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingStart</name>
+    <message>
+        <source>File name:</source>
+        <translation>Dosya adı:</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Başlat</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Süre:</translation>
+    </message>
+    <message>
+        <source>Interval:</source>
+        <translation>Aralık:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>Boş bellek:</translation>
+    </message>
+    <message>
+        <source>Logger waits for its start.
+Swith to other page to see real time data and details.</source>
+        <translation>Kaydedici başlangıcı bekliyor.
+Anlık veriler ve ayrıntılar diğer sayfalardadır.</translation>
+    </message>
+    <message>
+        <source>Logger is running.
+Swith to other page to see real time data and details.</source>
+        <translation>Kaydedici çalışıyor.
+Anlık veriler ve ayrıntılar diğer sayfalardadır.</translation>
+    </message>
+    <message>
+        <source>Logger has ended.
+Its data stands in Memory.</source>
+        <translation>Kayıt sona erdi.
+Veriler bellekte.</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>Kaydedici</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Durdur</translation>
+    </message>
+    <message>
+        <source>Save: save the data.
+</source>
+        <translation>Kaydet: verileri kaydeder.
+</translation>
+    </message>
+    <message>
+        <source>Exit: delete the data and exit.
+</source>
+        <translation>Çıkış: verileri siler ve çıkar.
+</translation>
+    </message>
+    <message>
+        <source>Restart: delete the data and restart logger.</source>
+        <translation>Yeniden: verileri siler ve kaydediciyi yeniden başlatır.</translation>
+    </message>
+</context>
+<context>
+    <name>RecordingText</name>
+    <message>
+        <source> %1 d, %2 hr</source>
+        <translation> %1 g, %2 sa</translation>
+    </message>
+    <message>
+        <source>%1 hr</source>
+        <translation>%1 sa</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 dk</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
     </message>
 </context>
 <context>

@@ -10,8 +10,9 @@
 #include <algorithm>
 
 namespace {
-constexpr int kHeight = 40; // pixels
-constexpr int kBarMargin = 16; // of the bar to the left of its button
+constexpr QRect kCornerTitle(16, 4, 480, 30); // where buttons stand side by side
+constexpr int kBarMargin = 16; // pixels of the bar to both sides of its button
+constexpr int kColumnMargin = 4; // likewise where buttons stand side by side
 }
 
 ChoicePage::ChoicePage(_quvera_ui_type type, Kind kind, const Look &look, QWidget *parent)
@@ -22,15 +23,24 @@ ChoicePage::ChoicePage(_quvera_ui_type type, Kind kind, const Look &look, QWidge
 
 ChoicePage::~ChoicePage() = default;
 
+QAbstractButton *ChoicePage::makeButton()
+{
+    if (m_kind == OneOf)
+        return new MRadioButton(this);
+    return new MCheckBox(this);
+}
+
+QRect ChoicePage::place(int index) const
+{
+    return { m_look.left + index % m_look.columns * m_look.columnPitch,
+             m_look.top + index / m_look.columns * m_look.pitch, m_look.width, m_look.height };
+}
+
 void ChoicePage::addChoice(const Choice &choice)
 {
-    QAbstractButton *button = nullptr;
-    if (m_kind == OneOf)
-        button = new MRadioButton(this);
-    else
-        button = new MCheckBox(this);
-    button->setObjectName(QString::fromLatin1(choice.name));
-    button->setGeometry(m_look.left, m_look.top + int(m_buttons.size()) * m_look.pitch, m_look.width, kHeight);
+    QAbstractButton *button = makeButton();
+    button->setObjectName(QString::fromUtf8(choice.name));
+    button->setGeometry(place(int(m_buttons.size())));
     button->setFocusPolicy(Qt::NoFocus);
     m_choices.push_back(&choice);
     m_buttons.push_back(button);
@@ -39,6 +49,13 @@ void ChoicePage::addChoice(const Choice &choice)
 void ChoicePage::finishChoices()
 {
     setObjectName(QString::fromLatin1(metaObject()->className()));
+    if (m_look.columns > 1) { // the buttons need the room
+        m_ui->title->setGeometry(kCornerTitle);
+        m_ui->title->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        m_ui->title->setProperty("textSize", 22);
+    }
+    if (m_look.textSize != Look {}.textSize)
+        setStyleSheet(styleSheet() + QStringLiteral("\nQCheckBox { font-size: %1px; }").arg(m_look.textSize));
     LabelLook::dress(this);
     m_ui->field_bar->setVisible(m_kind == AnyOf && !m_buttons.empty());
     if (m_kind == OneOf)
@@ -58,8 +75,10 @@ void ChoicePage::retranslateUi()
     LivePage::retranslateUi();
     const char *own = metaObject()->className();
     setText(m_ui->title, QCoreApplication::translate(own, m_look.title));
-    for (std::size_t i = 0; i < m_buttons.size(); ++i)
-        m_buttons[i]->setText(QCoreApplication::translate(own, m_choices[i]->caption));
+    for (std::size_t i = 0; i < m_buttons.size(); ++i) {
+        if (m_choices[i]->caption)
+            m_buttons[i]->setText(QCoreApplication::translate(own, m_choices[i]->caption));
+    }
 }
 
 bool ChoicePage::isChosen(int index) const
@@ -98,7 +117,7 @@ void ChoicePage::selectAll()
     if (m_kind != AnyOf)
         return;
     for (QAbstractButton *button : m_buttons)
-        button->setChecked(true);
+        button->setChecked(button->isChecked() || button->isEnabled());
     emit choiceChanged();
 }
 
@@ -107,13 +126,37 @@ void ChoicePage::invertAll()
     if (m_kind != AnyOf)
         return;
     for (QAbstractButton *button : m_buttons)
-        button->setChecked(!button->isChecked());
+        button->setChecked(button->isChecked() != button->isEnabled());
     emit choiceChanged();
 }
 
-void ChoicePage::moveCursor(int direction)
+void ChoicePage::setAvailable(int index, bool available)
 {
-    const int moved = m_cursor + direction;
+    if (has(index))
+        m_buttons[std::size_t(index)]->setEnabled(available);
+}
+
+bool ChoicePage::isAvailable(int index) const
+{
+    return has(index) && m_buttons[std::size_t(index)]->isEnabled();
+}
+
+void ChoicePage::setCaption(int index, const QString &text)
+{
+    if (has(index))
+        m_buttons[std::size_t(index)]->setText(text);
+}
+
+void ChoicePage::moveSideways(int direction)
+{
+    const int column = m_cursor % m_look.columns + direction;
+    if (column >= 0 && column < m_look.columns)
+        moveCursor(direction);
+}
+
+void ChoicePage::moveCursor(int by)
+{
+    const int moved = m_cursor + by;
     if (!has(moved))
         return;
     m_cursor = moved;
@@ -126,7 +169,7 @@ void ChoicePage::moveCursor(int direction)
 
 void ChoicePage::toggle()
 {
-    if (m_kind != AnyOf || !has(m_cursor))
+    if (m_kind != AnyOf || !isAvailable(m_cursor))
         return;
     setChosen(m_cursor, !isChosen(m_cursor));
     emit choiceChanged();
@@ -134,15 +177,17 @@ void ChoicePage::toggle()
 
 void ChoicePage::showCursor()
 {
-    m_ui->field_bar->setGeometry(m_look.left - kBarMargin, m_look.top + m_cursor * m_look.pitch,
-                                 m_look.width + 2 * kBarMargin, kHeight);
+    const int margin = m_look.columns > 1 ? kColumnMargin : kBarMargin;
+    m_ui->field_bar->setGeometry(place(m_cursor).adjusted(-margin, 0, margin, 0));
 }
 
 std::vector<FrontKeys::Row> ChoicePage::commonKeys()
 {
     return {
-        { Qt::Key_Up, nullptr, [this] { moveCursor(-1); }, {}, 0, {} },
-        { Qt::Key_Down, nullptr, [this] { moveCursor(1); }, {}, 0, {} },
+        { Qt::Key_Up, nullptr, [this] { moveCursor(-m_look.columns); }, {}, 0, {} },
+        { Qt::Key_Down, nullptr, [this] { moveCursor(m_look.columns); }, {}, 0, {} },
+        { Qt::Key_Left, nullptr, [this] { moveSideways(-1); }, {}, 0, {} },
+        { Qt::Key_Right, nullptr, [this] { moveSideways(1); }, {}, 0, {} },
         { Qt::Key_Enter, nullptr, [this] { toggle(); }, {}, 0, {} },
         { Qt::Key_F5, nullptr, {}, {}, 0, {} }, // nothing is held here
     };

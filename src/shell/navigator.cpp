@@ -37,6 +37,7 @@ Navigator::Navigator(TaskManage *tasks, MenuPage *menu, QStackedWidget *stack, Q
     connect(m_menu, &MenuPage::leave, this, [this](_quvera_ui_type target) { go(UI_MENU, target); });
     connect(m_menu, &MenuPage::restartTask, this, &Navigator::restartTask);
     connect(&m_tasks->links(), &TaskLinks::startWanted, this, &Navigator::startFunction);
+    connect(&m_tasks->links(), &TaskLinks::recordWanted, this, &Navigator::startRecordTask);
 }
 
 std::size_t Navigator::place(const PageRow &row)
@@ -145,6 +146,7 @@ bool Navigator::endRecordingAsAsked(_quvera_ui_type current)
     case Message::Restart:
         m_tasks->exitTaskWithSave(false);
         startRecordTask();
+        m_tasks->connectDisplay(current); // the user stays there
         return false;
     default:
         return false;

@@ -17,6 +17,7 @@
 #include "views/monitor/monitorpage.h"
 #include "views/power/powen.h"
 #include "views/powerinverter/powerinverter.h"
+#include "views/recorder/recordpqa2page.h"
 #include "views/scope/scopepage.h"
 #include "views/transients/trans.h"
 #include "views/unbalance/unbalan.h"
@@ -78,6 +79,26 @@ FunctionPage *makeMonitor(TaskLinks &links, const LiveData &data)
     return page;
 }
 
+FunctionPage *makeRecorder(TaskLinks &links, const LiveData &data)
+{
+    auto *page = new RecordPqa2Page(data);
+    QObject::connect(page, &RecordPqa2Page::startRecordTask, &links, &TaskLinks::recordWanted);
+    QObject::connect(page, &RecordPqa2Page::stopRecordWithSave, &links, &TaskLinks::recordEndWanted);
+    QObject::connect(&links, &TaskLinks::recordPlanned, page, &RecordPqa2Page::showPlan);
+    QObject::connect(&links, &TaskLinks::recordEnded, page, &RecordPqa2Page::recordingStoped);
+    return page;
+}
+
+FunctionPage *makeLogger(TaskLinks &links, const LiveData &data)
+{
+    auto *page = new LoggerPage(data);
+    QObject::connect(page, &LoggerPage::startRecordTask, &links,
+                     [&links] { emit links.startWanted(AbstractTask::UniLogger, UI_LOGGER); });
+    QObject::connect(page, &LoggerPage::stopRecordWithSave, &links, &TaskLinks::endWanted);
+    QObject::connect(&links, &TaskLinks::ended, page, &LoggerPage::recordingStoped);
+    return page;
+}
+
 FunctionPage *makeSetup(TaskLinks &links, const LiveData &data)
 {
     auto *page = new SetupPage(data);
@@ -132,7 +153,7 @@ const PageRow kRows[] = {
       { 7, "inrush", QT_TRANSLATE_NOOP("MenuPage", "Inrush\n") },
       Plan::Live, kBasic, Hears::kLive, 9, 9, make<InrushPage> },
     // The logger of text files: its pages exist, no key of this release shows them.
-    { UI_LOGGER, QT_TRANSLATE_NOOP("BaseDialog", "Logger"), kNoTile, Plan::Unreached, kBasic, 0, 0, 11, nullptr },
+    { UI_LOGGER, QT_TRANSLATE_NOOP("BaseDialog", "Logger"), kNoTile, Plan::Unreached, kBasic, 0, 0, 11, makeLogger },
     { UI_MONITOR, QT_TRANSLATE_NOOP("BaseDialog", "Monitor"), kNoTile,
       Plan::Commanded, AbstractTask::UniMonitor, Hears::kFront, 11, 0, makeMonitor, kNot400Hz },
     { UI_SCOPE, QT_TRANSLATE_NOOP("BaseDialog", "Scope"), kNoTile,
@@ -150,7 +171,7 @@ const PageRow kRows[] = {
     // The recorder. Recording runs inside the basic function.
     { UI_LOGGER, QT_TRANSLATE_NOOP("BaseDialog", "Logger"),
       { 11, "logger", QT_TRANSLATE_NOOP("MenuPage", "Logger\n") },
-      Plan::Commanded, kBasic, Hears::Refresh | Hears::RecordTime, 10, 0, nullptr, true, notRecording },
+      Plan::Commanded, kBasic, Hears::Refresh | Hears::RecordTime, 10, 0, makeRecorder, true, notRecording },
 };
 // clang-format on
 

@@ -26,6 +26,7 @@ void TaskLinks::follow(UniTask *task)
     m_task = task;
     connect(task, &UniTask::hasTransEvents, this, &TaskLinks::transientsChanged);
     connect(task, qOverload<>(&AbstractTask::taskStoped), this, &TaskLinks::ended);
+    connect(task, &AbstractTask::recordingStoped, this, &TaskLinks::recordEnded);
     connect(task, &AbstractTask::taskPaused, this, &TaskLinks::paused);
     connect(task, &AbstractTask::taskContinued, this, &TaskLinks::continued);
     connect(task, &UniTask::updateDisplay, this, &TaskLinks::refresh);

@@ -46,11 +46,18 @@ signals:
     void begun(); // a run begins: what was shown is to be forgotten
     void ended();
     void transientsChanged();
+    void recordPlanned(qint64 begin, qint64 end); // a recording, ms since 1970
+    void recordEnded(); // its files are complete
     // of the pages
     void pauseWanted();
     void runWanted();
     /// A commanded function is to start and to show itself on the page of this type.
     void startWanted(AbstractTask::UniFunction function, _quvera_ui_type page);
+    /// A recording is to begin, as the recorder's choices say.
+    void recordWanted();
+    void recordEndWanted(bool keep);
+    /// The run is to end with what its function wrote.
+    void endWanted(bool keep);
 
 private:
     /// A page that was taken in.

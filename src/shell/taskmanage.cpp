@@ -9,6 +9,8 @@ TaskManage::TaskManage(LiveData &data, QObject *parent) : QObject(parent), m_dat
 {
     connect(m_links, &TaskLinks::runWanted, this, &TaskManage::continueTask);
     connect(m_links, &TaskLinks::pauseWanted, this, &TaskManage::pauseTask);
+    connect(m_links, &TaskLinks::recordEndWanted, this, &TaskManage::stopRecordWithSave);
+    connect(m_links, &TaskLinks::endWanted, this, &TaskManage::stopTaskWithSave);
 }
 
 QString TaskManage::curTaskName() const
@@ -90,6 +92,7 @@ void TaskManage::enableRecord()
         return;
     g_unitask->initRecording();
     g_unitask->enableRecord();
+    emit m_links->recordPlanned(g_unitask->recordStart(), g_unitask->recordStart() + g_unitask->recordLife());
 }
 
 void TaskManage::stopRecord()

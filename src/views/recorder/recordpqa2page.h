@@ -1,0 +1,66 @@
+#pragma once
+
+#include "pages/viewcontainer.h"
+#include "views/recorder/recordingkind.h"
+
+/// Recording over hours and days: set-up, choice of what is written, and the recording under way. Values are stored
+/// beside the measurement: all live pages stay open to the user.
+class RecordingPage : public ViewContainer
+{
+    Q_OBJECT
+
+public:
+    enum Row { Setup, Param, Start };
+
+    /// The set-up, unless a recording is prepared or runs.
+    void enter() override;
+    /// A recording is planned from \a begin to \a end, ms since 1970.
+    void showPlan(qint64 begin, qint64 end);
+
+public slots:
+    void recordingStoped();
+
+signals:
+    /// As the choices say.
+    void startRecordTask();
+    void stopRecordWithSave(bool keep);
+
+protected:
+    struct Makers
+    {
+        LivePage *(*setup)(const LiveData &);
+        LivePage *(*param)(const LiveData &);
+        LivePage *(*start)(const LiveData &);
+    };
+
+    RecordingPage(const LiveData &data, const RecordingKind &kind, const Makers &makers, QWidget *parent);
+
+    void aboutToShow(int row) override;
+
+private:
+    static std::vector<Way> setupWays();
+    static std::vector<Way> startWays();
+    void beginSetup();
+
+    const RecordingKind &m_kind;
+};
+
+/// The recorder.
+class RecordPqa2Page : public RecordingPage
+{
+    Q_OBJECT
+
+public:
+    explicit RecordPqa2Page(const LiveData &data, QWidget *parent = nullptr);
+
+    void enterRecordPqa2() { enter(); }
+};
+
+/// The logger of text files. No key of this release leads to it.
+class LoggerPage : public RecordingPage
+{
+    Q_OBJECT
+
+public:
+    explicit LoggerPage(const LiveData &data, QWidget *parent = nullptr);
+};
