@@ -1,0 +1,160 @@
+// Reads what is written for people and follows its links.
+#include "gallery/pages.h"
+#include "unit/architecture/sourcetext.h"
+#include "unit/documentpage.h"
+
+#include <QImageReader>
+#include <QSet>
+#include <QTest>
+
+#include <algorithm>
+
+namespace {
+
+using SourceText::kTop;
+using SourceText::read;
+
+const QString kPictures = QStringLiteral("docs/pictures/");
+
+/// Paths of all documents and readme files, seen from the top.
+QStringList documents()
+{
+    QStringList paths { QStringLiteral("README.md") };
+    for (const char *folder : { "assets", "docs", "packaging", "processor", "src", "tests", "tools", "translations" }) {
+        QDirIterator files(kTop + QLatin1Char('/') + QLatin1String(folder), { QStringLiteral("*.md") }, QDir::Files,
+                           QDirIterator::Subdirectories);
+        while (files.hasNext())
+            paths << files.next().mid(kTop.size() + 1);
+    }
+    return paths;
+}
+
+/// Everything in a text that a pattern's bracket catches.
+QStringList caught(const QString &text, const char *pattern)
+{
+    QStringList found;
+    auto matches = QRegularExpression(QString::fromLatin1(pattern)).globalMatch(text);
+    while (matches.hasNext())
+        found << matches.next().captured(1);
+    return found;
+}
+
+/// Where the links of a document lead to, without those to the world.
+QStringList links(const QString &document)
+{
+    QStringList targets = caught(read(kTop + QLatin1Char('/') + document), "\\]\\(([^)\\s]+)\\)");
+    targets.erase(std::remove_if(targets.begin(), targets.end(),
+                                 [](const QString &target) { return target.contains(QLatin1String("://")); }),
+                  targets.end());
+    return targets;
+}
+
+/// A link of a document as a path from the top.
+QString resolved(const QString &document, const QString &link)
+{
+    return QDir::cleanPath(QFileInfo(document).path() + QLatin1Char('/') + link);
+}
+
+/// The names by which links know the headings of a document.
+QStringList anchors(const QString &document)
+{
+    QStringList names;
+    for (QString heading : caught(read(kTop + QLatin1Char('/') + document), "\n#+ ([^\n]+)"))
+        names << heading.toLower()
+                     .remove(QRegularExpression(QStringLiteral("[^a-z0-9 -]")))
+                     .replace(QLatin1Char(' '), QLatin1Char('-'));
+    return names;
+}
+
+} // namespace
+
+class TstDocuments : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyLinkLeadsSomewhere();
+    void everyDocumentThatAReadmeNamesIsThere();
+    void everyPictureIsShown();
+    void picturesOfTheGuideAreTakenByTheGallery();
+    void picturesAreWholeScreens();
+};
+
+void TstDocuments::everyLinkLeadsSomewhere()
+{
+    int followed = 0;
+    const QStringList all = documents();
+    for (const QString &document : all) {
+        const QStringList targets = links(document);
+        for (const QString &target : targets) {
+            const QString file = target.section(QLatin1Char('#'), 0, 0), anchor = target.section(QLatin1Char('#'), 1);
+            const QString path = file.isEmpty() ? document : resolved(document, file);
+            QVERIFY2(QFile::exists(kTop + QLatin1Char('/') + path),
+                     qPrintable(document + QStringLiteral(": ") + target));
+            QVERIFY2(anchor.isEmpty() || anchors(path).contains(anchor),
+                     qPrintable(document + QStringLiteral(": ") + target));
+            ++followed;
+        }
+    }
+    QVERIFY2(followed > 40, qPrintable(QString::number(followed)));
+}
+
+void TstDocuments::everyDocumentThatAReadmeNamesIsThere()
+{
+    int found = 0;
+    const QStringList all = documents();
+    for (const QString &path : all) {
+        const QStringList names = caught(read(kTop + QLatin1Char('/') + path), "\\b(docs/[a-z0-9/-]+\\.md)\\b");
+        for (const QString &name : names)
+            QVERIFY2(QFile::exists(kTop + QLatin1Char('/') + name), qPrintable(path + QStringLiteral(": ") + name));
+        found += names.size();
+    }
+    QVERIFY2(found > 20, qPrintable(QString::number(found)));
+}
+
+void TstDocuments::everyPictureIsShown()
+{
+    QSet<QString> shown;
+    const QStringList all = documents();
+    for (const QString &document : all) {
+        const QStringList targets = links(document);
+        for (const QString &target : targets)
+            shown << resolved(document, target);
+    }
+    const QStringList pictures = QDir(kTop + QLatin1Char('/') + kPictures).entryList({ QStringLiteral("*.png") });
+    QVERIFY(!pictures.isEmpty());
+    for (const QString &picture : pictures)
+        QVERIFY2(shown.contains(kPictures + picture), qPrintable(picture));
+}
+
+void TstDocuments::picturesOfTheGuideAreTakenByTheGallery()
+{
+    QSet<QString> taken;
+    for (const Page &page : galleryPages()) {
+        for (const Shot &shot : page.shots)
+            taken << kPictures + page.name + QLatin1Char('-') + shot.name + QStringLiteral(".png");
+    }
+    const QString guide = QStringLiteral("docs/user-guide.md");
+    int pictures = 0;
+    const QStringList targets = links(guide);
+    for (const QString &target : targets) {
+        const QString path = resolved(guide, target);
+        if (!path.endsWith(QLatin1String(".png")))
+            continue;
+        QVERIFY2(taken.contains(path), qPrintable(target));
+        // The command that takes them anew knows them by this beginning.
+        QVERIFY2(path.startsWith(kPictures + QStringLiteral("site-")), qPrintable(target));
+        ++pictures;
+    }
+    QVERIFY(pictures >= 6);
+}
+
+void TstDocuments::picturesAreWholeScreens()
+{
+    const QDir folder(kTop + QLatin1Char('/') + kPictures);
+    for (const QString &picture : folder.entryList({ QStringLiteral("*.png") }))
+        QVERIFY2(QImageReader(folder.filePath(picture)).size() == QSize(640, 480), qPrintable(picture));
+}
+
+QTEST_GUILESS_MAIN(TstDocuments)
+#include "tst_documents.moc"
