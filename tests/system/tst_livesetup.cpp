@@ -12,9 +12,9 @@ constexpr double kTolerance = 0.002; // of the value
 constexpr int kWaitMs = 60000;
 
 // Letters of the front panel.
-constexpr auto kF1 = Qt::Key_W, kF2 = Qt::Key_Y, kF3 = Qt::Key_P, kF4 = Qt::Key_F;
-constexpr auto kLeft = Qt::Key_O, kRight = Qt::Key_D, kDown = Qt::Key_T, kEnter = Qt::Key_K, kMenu = Qt::Key_A,
-               kSetup = Qt::Key_S;
+constexpr auto kF1 = Qt::Key_W, kF2 = Qt::Key_Y, kF3 = Qt::Key_P, kF4 = Qt::Key_F, kF5 = Qt::Key_L;
+constexpr auto kLeft = Qt::Key_O, kRight = Qt::Key_D, kUp = Qt::Key_Q, kDown = Qt::Key_T, kEnter = Qt::Key_K,
+               kMenu = Qt::Key_A, kSetup = Qt::Key_S;
 
 } // namespace
 
@@ -31,6 +31,8 @@ private slots:
     void nominalFrequencyIsTheOneThatWasChosen_data();
     void nominalFrequencyIsTheOneThatWasChosen();
     void flickerHasNoTileAt400Hz();
+    void flickerIsWeightedByTheLampThatWasChosen();
+    void transientsAreCaughtAboveTheThresholdThatWasChosen();
     void clampScalesTheCurrents(); // the last: a supply that is set by command no longer follows
 
 private:
@@ -54,11 +56,20 @@ private:
         QTRY_VERIFY(QApplication::focusWidget()); // behind the question the window gets the keyboard back
     }
     /// Leaves Setup and measures.
-    static void measure()
+    static void measure(const char *tile = "vif")
     {
         LiveGraph::key(kMenu);
         QTRY_COMPARE(LiveGraph::text("name"), QStringLiteral("Menu"));
-        QVERIFY(LiveGraph::open(QStringLiteral("vif")));
+        QVERIFY(LiveGraph::open(QString::fromLatin1(tile)));
+    }
+    /// From the first page of Setup to the editor in this line of the functions.
+    static void openFunction(int line)
+    {
+        LiveGraph::key(kF5); // Page Down
+        LiveGraph::key(kF2); // Functions
+        keys(kUp, 4);
+        keys(kDown, line);
+        LiveGraph::key(kEnter);
     }
     double value(int address) { return double(LiveGraph::registerFloat(m_master->read(address, 2), 0)); }
     bool holds(int address, double expected) { return std::fabs(value(address) - expected) <= kTolerance * expected; }
@@ -186,6 +197,55 @@ void TstLiveSetup::flickerHasNoTileAt400Hz()
     QTRY_COMPARE(LiveGraph::text("name"), QStringLiteral("Menu"));
     for (int i = 0; i < 12; ++i, LiveGraph::key(i % 4 ? kRight : kDown))
         QVERIFY(m_basedialog->menu()->currentItem()->objectName() != QStringLiteral("flicker"));
+}
+
+void TstLiveSetup::flickerIsWeightedByTheLampThatWasChosen()
+{
+    constexpr int kFlicker = 1;
+    const struct
+    {
+        Qt::Key key;
+        const char *shown, *lamp;
+    } choices[] = { { kLeft, "60Hz 120V", "120" }, { kRight, "50Hz 230V", "230" } };
+    for (const auto &choice : choices) {
+        enterSetup();
+        openFunction(kFlicker);
+        LiveGraph::key(choice.key);
+        QCOMPARE(LiveGraph::text("curve"), QString::fromLatin1(choice.shown));
+        LiveGraph::key(kF4); // Ok
+        measure("flicker");
+        QTRY_COMPARE_WITH_TIMEOUT(LiveGraph::status(QStringLiteral("lamp")), QString::fromLatin1(choice.lamp), kWaitMs);
+    }
+}
+
+void TstLiveSetup::transientsAreCaughtAboveTheThresholdThatWasChosen()
+{
+    constexpr int kTransients = 2;
+    const auto caught = [] { return m_taskmanage->data().transients().shownSize(); };
+    // An impulse of 200 V is caught by the lower threshold only, one of 600 V by both.
+    const struct
+    {
+        Qt::Key key;
+        int presses; // from 50 V on
+        const char *shown;
+        int caughtOfSmall;
+    } choices[] = { { kRight, 250, "300 %", 0 }, { kLeft, 200, "100 %", 1 } };
+    for (const auto &choice : choices) {
+        enterSetup();
+        openFunction(kTransients);
+        keys(choice.key, choice.presses);
+        LiveGraph::key(kF4); // Ok
+        measure("transients");
+        QCOMPARE(LiveGraph::text("threshold"), QString::fromLatin1(choice.shown)); // the page's own row
+        LiveGraph::key(kF5); // Start
+        QCOMPARE(LiveGraph::text("trigger"), QString::fromLatin1(choice.shown));
+        QTRY_VERIFY_WITH_TIMEOUT(LiveGraph::measuredUntil() > 0, kWaitMs);
+        const qint64 begin = LiveGraph::measuredUntil();
+        QVERIFY(!LiveGraph::tell(QStringLiteral("event transient l1 200V in=1s")).isNull());
+        QVERIFY(!LiveGraph::tell(QStringLiteral("event transient l1 600V in=3s")).isNull());
+        QTRY_VERIFY_WITH_TIMEOUT(LiveGraph::measuredUntil() > begin + 6000, kWaitMs);
+        QCOMPARE(caught(), choice.caughtOfSmall + 1);
+    }
 }
 
 int main(int argc, char **argv)
