@@ -63,6 +63,7 @@ Panel::Panel()
     m_spacing.setSingleShot(true);
     m_spacing.setTimerType(Qt::PreciseTimer);
     connect(&m_spacing, &QTimer::timeout, this, &Panel::takePicture);
+    connect(&m_grab, &QTimer::timeout, this, &Panel::comeRound);
     // Signals are for the main thread. The mask is inherited, so it is set before the thread exists.
     sigset_t all;
     sigset_t before;
@@ -188,8 +189,18 @@ void Panel::takePicture()
         m_pictureFor = m_wantedBy;
         m_wantedBy = 0;
     }
-    // Two steps to the picture, as many as a key takes from here to its page, so that they keep their order.
-    QMetaObject::invokeMethod(this, "grabScreen", Qt::QueuedConnection);
+    m_rounds = 0;
+    m_grab.start(0);
+}
+
+// A key that closed a dialog has done its work only when the dialog's own loop has ended, and that loop still handles
+// what waits in its last round. The round behind it belongs to the loop outside.
+void Panel::comeRound()
+{
+    if (++m_rounds < 2)
+        return;
+    m_grab.stop();
+    grabScreen();
 }
 
 void Panel::grabScreen()

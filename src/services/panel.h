@@ -64,7 +64,8 @@ private:
     Q_INVOKABLE void deliverKey();
     void loopCameRound();
     Q_INVOKABLE void takePicture();
-    Q_INVOKABLE void grabScreen();
+    void comeRound();
+    void grabScreen();
     Q_INVOKABLE void pictureDone();
     void makePictures();
     void handOut(const QByteArray &png, quint32 takers);
@@ -87,6 +88,8 @@ private:
     // GUI thread only.
     QTimer m_round;
     QTimer m_spacing;
+    QTimer m_grab;
+    int m_rounds = 0; // of the event loop since a picture was begun
     QElapsedTimer m_lastPicture;
 
     std::thread m_thread; // runs makePictures()

@@ -3,11 +3,14 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QDialog>
 #include <QElapsedTimer>
 #include <QImage>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 #include <QWidget>
 
 #include <atomic>
@@ -18,7 +21,14 @@ namespace {
 
 constexpr int kPatience = 30000; // ms
 
-/// A page whose colour the test sets.
+/// A dialog that any key closes.
+class Question : public QDialog
+{
+protected:
+    void keyPressEvent(QKeyEvent *) override { accept(); }
+};
+
+/// A page whose colour the test sets. A key opens a dialog; when that is closed the page becomes red.
 class Page : public QWidget
 {
 public:
@@ -26,6 +36,13 @@ public:
     int paints = 0;
 
 protected:
+    void keyPressEvent(QKeyEvent *) override
+    {
+        Question question;
+        question.exec();
+        colour = Qt::red;
+        update();
+    }
     void paintEvent(QPaintEvent *) override
     {
         ++paints;
@@ -84,6 +101,7 @@ private slots:
     void stormLeavesTheScreenItsTime();
     void waitingRequestsOfAllShareOnePicture();
     void requestBehindAPictureGetsANewerOne();
+    void pictureBehindAKeyThatClosesADialogShowsWhatCameOfIt();
     void nothingToShowGivesNoBytes();
     void whoDidNotAskGetsNothing();
     void removedTakerIsNotCalledAgain();
@@ -229,6 +247,25 @@ void TstPanel::requestBehindAPictureGetsANewerOne()
     m_panel->requestPicture(number);
     QTRY_COMPARE_WITH_TIMEOUT(counter.pictures.load(), 2, kPatience);
     QCOMPARE(QImage::fromData(counter.png(), "PNG").pixelColor(320, 240), QColor(Qt::green));
+    m_panel->removeTaker(number);
+}
+
+void TstPanel::pictureBehindAKeyThatClosesADialogShowsWhatCameOfIt()
+{
+    constexpr int kEnter = 13;
+    Counter counter;
+    const int number = m_panel->addTaker(counter.taker());
+    m_page->setFocusPolicy(Qt::StrongFocus);
+    m_page->setFocus();
+    m_panel->pressKey(kEnter);
+    // In the dialog's own loop: both lie in one queue when it comes round.
+    QTimer::singleShot(100, this, [&] {
+        QVERIFY(QApplication::activeModalWidget());
+        m_panel->pressKey(kEnter);
+        m_panel->requestPicture(number);
+    });
+    QTRY_COMPARE_WITH_TIMEOUT(counter.pictures.load(), 1, kPatience);
+    QCOMPARE(QImage::fromData(counter.png(), "PNG").pixelColor(320, 240), QColor(Qt::red));
     m_panel->removeTaker(number);
 }
 
