@@ -19,6 +19,17 @@ void tick(__power_data &clock)
     ++clock.hours;
 }
 
+/// What \a power makes of the energies in so many us.
+void add(const PowerRow (&power)[kChannels], qint64 elapsed, EnergyRow (&energy)[kChannels])
+{
+    const float hours = float(double(elapsed) / 3.6e9);
+    for (int c = 0; c < kChannels && elapsed > 0; ++c) {
+        energy[c].active += double(hours * power[c].active);
+        energy[c].apparent += double(hours * power[c].apparent);
+        energy[c].reactive += double(hours * power[c].reactive);
+    }
+}
+
 } // namespace
 
 void EnergyMeter::resume()
@@ -32,25 +43,26 @@ void EnergyMeter::restart()
     m_microseconds = 0;
 }
 
-void EnergyMeter::count(__datagram_aggregation &record, __power_data &shown)
+/// us since the last call; 0 for what is no measured time.
+qint64 EnergyMeter::takeElapsed()
 {
     const timeval now = Clock::timeOfDay();
     const qint64 elapsed = (qint64(now.tv_sec) - m_last.tv_sec) * kSecond + (qint64(now.tv_usec) - m_last.tv_usec);
     m_last = now;
-    if (elapsed < 0 || elapsed > kLongestGap)
-        return;
+    return elapsed < 0 || elapsed > kLongestGap ? 0 : elapsed;
+}
 
-    m_microseconds += elapsed;
-    for (; m_microseconds >= kSecond; m_microseconds -= kSecond) {
+void EnergyMeter::count(const PowerRow (&power)[kChannels], EnergyRow (&energy)[kChannels])
+{
+    add(power, takeElapsed(), energy);
+}
+
+void EnergyMeter::count(__datagram_aggregation &record, __power_data &shown)
+{
+    const qint64 elapsed = takeElapsed();
+    for (m_microseconds += elapsed; m_microseconds >= kSecond; m_microseconds -= kSecond) {
         ++m_seconds;
         tick(shown);
     }
-    const float hours = float(double(elapsed) / 3.6e9);
-    for (int c = 0; c < kChannels; ++c) {
-        const PowerRow &power = record.power[c];
-        EnergyRow &energy = record.energy[c];
-        energy.active += double(hours * power.active);
-        energy.apparent += double(hours * power.apparent);
-        energy.reactive += double(hours * power.reactive);
-    }
+    add(record.power, elapsed, record.energy);
 }

@@ -16,9 +16,13 @@ public:
     /// Counts what passed since the last call into the energies of \a record and the run-time clock of \a shown. A gap
     /// of more than 60 s, or one that goes back, is a step of the clock or a lost link and counts nothing.
     void count(__datagram_aggregation &record, __power_data &shown);
+    /// The same for \a power alone.
+    void count(const PowerRow (&power)[kChannels], EnergyRow (&energy)[kChannels]);
     int seconds() const { return m_seconds; } // counted since the task was made
 
 private:
+    qint64 takeElapsed();
+
     timeval m_last = {}; // of the last aggregation
     qint32 m_seconds = 0;
     qint64 m_microseconds = 0; // rest below a second

@@ -5,6 +5,7 @@
 #include "settings/dipswellinfo.h"
 #include "settings/harmdata.h"
 #include "settings/inrushinfo.h"
+#include "settings/recordinfo.h"
 #include "device/datatypes.h"
 #include "model/livedata.h"
 #include "device/trace.h"
@@ -19,6 +20,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <limits>
 #include <utility>
 
 namespace {
@@ -50,6 +52,13 @@ HalfCycleTrends::Limits trendLimits()
              InrushInfo::m_rms_numb_per_sec * InrushInfo::m_dura_time[InrushInfo::m_duration_index].seconds };
 }
 
+/// Length of a recording of so many hours; -1, the longest, for what none can have.
+int recordSeconds(int hours)
+{
+    constexpr int kHour = 3600;
+    return hours > 0 && hours <= std::numeric_limits<int>::max() / kHour ? kHour * hours : -1;
+}
+
 } // namespace
 
 UniTask::UniTask(LiveData &data, QObject *parent)
@@ -60,7 +69,8 @@ UniTask::UniTask(LiveData &data, QObject *parent)
       m_trends(data.live()), m_inverter(data.live(), inverterOutput),
       m_monitor(
           { data, *m_events, *m_flickerProcessor, [this] { emit updateDisplay(nullptr); }, [this] { stopTask(); } }),
-      m_recorder(data), m_capture(data.live().wave, setUpInUse, [this] { stopTask(); })
+      m_recorder({ data, *m_flickerProcessor, [this] { return recorderSetUp(); } }),
+      m_capture(data.live().wave, setUpInUse, [this] { stopTask(); })
 {
     connectDetector();
     setTaskType(0, 1000);
@@ -90,11 +100,8 @@ void UniTask::connectStates()
     connect(this, &AbstractTask::taskContinued, this, [this] { m_data.run(); });
     connect(this, &AbstractTask::taskStarted, this, &UniTask::startBaseTimer);
     connect(this, QOverload<>::of(&AbstractTask::taskStoped), this, &UniTask::stopBaseTimer);
-    connect(this, &AbstractTask::recordingStarted, this, [this] {
-        if (m_function == UniBasic)
-            begin(&m_recorder);
-    });
-    connect(this, &AbstractTask::recordingStoped, this, [this] { end(&m_recorder, Keep::Data); });
+    connect(this, &AbstractTask::recordingStarted, this, &UniTask::startRecording);
+    connect(this, &AbstractTask::recordingStoped, this, &UniTask::stopRecording);
 }
 
 // Functions
@@ -103,7 +110,10 @@ void UniTask::initUniFunction(AbstractTask::UniFunction function)
 {
     const ChannelSet *set = m_settingConfig_g.channels();
     m_channels = set ? set->taskPhases : 3;
+    if (isRecording())
+        stopRecordTask(); // it runs inside one measurement
     endFunctions(Keep::Data);
+    m_recorder.folder().release();
     m_data.events().clear();
     m_function = function;
     const std::optional<FunctionPlan> plan = functionPlan(function);
@@ -151,9 +161,14 @@ void UniTask::endFunctions(Keep keep)
         end(m_running.back(), keep);
 }
 
+bool UniTask::isRunning(const TaskFunction *function) const
+{
+    return std::find(m_running.begin(), m_running.end(), function) != m_running.end();
+}
+
 void UniTask::begin(TaskFunction *function)
 {
-    if (std::find(m_running.begin(), m_running.end(), function) != m_running.end())
+    if (isRunning(function))
         return;
     m_running.push_back(function);
     function->start();
@@ -172,7 +187,7 @@ template <typename Hear> void UniTask::tell(const Hear &hear)
 {
     const std::vector<TaskFunction *> now = m_running;
     for (TaskFunction *function : now) {
-        if (std::find(m_running.begin(), m_running.end(), function) != m_running.end())
+        if (isRunning(function))
             hear(*function);
     }
 }
@@ -212,9 +227,54 @@ void UniTask::save(bool keep)
         endFunctions(keep ? Keep::Data : Keep::Nothing);
 }
 
-void UniTask::saveRecord(bool) { }
+// The recording inside basic measuring
 
-void UniTask::initRecording() { }
+RecorderSetUp UniTask::recorderSetUp() const
+{
+    return { m_settingConfig_g.channels(), m_settingConfig_g.getNomFreq(), m_aggregation->frequency };
+}
+
+void UniTask::initRecording()
+{
+    m_recorder.folder().release();
+    setTaskLifeCycle(RecordInfo::m_begain_time, -1);
+    setRecordLifeCycle(RecordInfo::m_begain_time, recordSeconds(RecordInfo::m_duration));
+    RecordInfo::m_in_recording = 1;
+}
+
+void UniTask::startRecording()
+{
+    if (m_function != UniBasic)
+        return;
+    begin(&m_recorder);
+}
+
+void UniTask::stopRecording()
+{
+    end(&m_recorder, Keep::Data);
+    clearRecording();
+}
+
+void UniTask::clearRecording()
+{
+    RecordInfo::m_in_recording = 0;
+}
+
+void UniTask::saveRecord(bool keep)
+{
+    if (keep)
+        m_recorder.folder().release();
+    else
+        m_recorder.folder().remove();
+}
+
+void UniTask::driveRecording()
+{
+    const bool recorded = isRecording();
+    recordTimer(quint64(m_wave->time));
+    if (recorded && !isRecording())
+        m_recorder.folder().release(); // it ended by itself: whatever is discarded later is not this recording
+}
 
 // Live records
 
@@ -363,7 +423,7 @@ void UniTask::datagramWave(const QByteArray &bytes)
     if (!DataTypes::fits(DatagramWave, bytes))
         return;
     DataTypes::datagramWave(m_wave.get(), bytes.constData());
-    recordTimer(quint64(m_wave->time));
+    driveRecording();
     if (!isLive())
         return;
     // Used up by this datagram, however many ask for a new aggregation.

@@ -37,9 +37,10 @@ public:
     QString getTaskName() override { return tr("Power Quality"); }
     /// Ends what runs beside basic measuring.
     void save(bool keep) override;
-    /// Ends the recording's files; without a recorder there are none.
-    void saveRecord(bool keep);
+    /// Plans a recording by the user's choice (RecordInfo).
     void initRecording();
+    /// What becomes of the recording that ended: its folder stays, or goes with all that is in it.
+    void saveRecord(bool keep);
 
     /// Chooses the function and plans the run for it. Values out of 1 to 5 only clear the event list.
     void initUniFunction(AbstractTask::UniFunction function);
@@ -99,10 +100,18 @@ private:
     // Functions
     /// The one that \a function runs beside the live records; null: none.
     TaskFunction *functionOf(AbstractTask::UniFunction function);
+    bool isRunning(const TaskFunction *function) const;
     void beginFunctions();
     void endFunctions(Keep keep);
     /// Calls \a hear of each function that runs. One may end itself, the others or the task meanwhile.
     template <typename Hear> void tell(const Hear &hear);
+
+    // Recording
+    RecorderSetUp recorderSetUp() const;
+    void startRecording();
+    void stopRecording();
+    void clearRecording();
+    void driveRecording();
 
     // Live records
     void beginRecords();

@@ -1,14 +1,33 @@
 #pragma once
 
+#include "platform/diskworker.h"
 #include "platform/target.h"
 #include "record/pqa2ff.h"
+#include "task/functions/recorderfunction.h"
 #include "unit/record/readblocks.h"
 
 #include <QFile>
 
-/// The blocks of a file behind those that every file opens with.
+/// The blocks of a file (a board's path) behind those that every file opens with.
+inline QList<ReadBlock> storedBlocks(const QString &path)
+{
+    DiskWorker::instance().wait();
+    QFile stored(Target::path(path));
+    return stored.open(QIODevice::ReadOnly) ? readBlocks(stored.readAll()).mid(3) : QList<ReadBlock>();
+}
+
 inline QList<ReadBlock> storedBlocks(const Pqa2FF &file)
 {
-    QFile stored(Target::path(file.fullFilePath()));
-    return stored.open(QIODevice::ReadOnly) ? readBlocks(stored.readAll()).mid(3) : QList<ReadBlock>();
+    return storedBlocks(file.fullFilePath());
+}
+
+/// What a recording's common file holds of one kind; the recording is held.
+inline QList<ReadBlock> recordedBlocks(RecorderFunction &recorder, quint32 type)
+{
+    QList<ReadBlock> found;
+    for (const ReadBlock &block : storedBlocks(recorder.folder().file(QStringLiteral("Common.pqa2")))) {
+        if (block.type == type)
+            found << block;
+    }
+    return found;
 }

@@ -45,11 +45,9 @@ private:
         m_task->initUniFunction(AbstractTask::UniBasic);
         m_task->startTask();
     }
-    /// Files that the recording functions write; null: none.
-    void setFiles(Pqa2FF *common, Pqa2FF *monitor)
+    QList<ReadBlock> recorded() const
     {
-        m_task->recorder().commonFile().set(common);
-        m_task->monitor().file().set(monitor);
+        return storedBlocks(m_task->recorder().folder().file(QStringLiteral("Common.pqa2")));
     }
     std::unique_ptr<UniTask> m_task;
 };
@@ -341,49 +339,49 @@ void TstUniTaskStream::recordersStoreTransientAndEvents()
     m_task->datagramRMS_1_2(halfCycles(10, 1.5f, 0.001f).bytes());
     m_task->datagramWave(wave((3u << 24) | 2000).bytes());
 
-    Pqa2FF common("/tmp/common.pqa2");
     Pqa2FF monitor("/tmp/monitor.pqa2");
-    if (!common.open() || !monitor.open())
-        QFAIL("no room for the files");
-    setFiles(&common, &monitor);
-    m_task->storeEvents(EventChoice::Unfinished); // the dip runs and has no curves yet: no record but an empty block
-    m_task->storeEvents(EventChoice::Finished);
+    if (!monitor.open())
+        QFAIL("no room for the file");
+    m_task->monitor().file().set(&monitor);
+    m_task->startRecordTask();
     m_task->storeEvents(EventChoice::All);
-    setFiles(nullptr, nullptr);
+    m_task->storeEvents(EventChoice::Unfinished);
+    m_task->monitor().file().set(nullptr);
+    m_task->stopRecordTask(); // the dip runs and has no curves yet: no record but an empty block
 
-    const QList<ReadBlock> recorded = storedBlocks(common);
-    QCOMPARE(recorded.size(), 3);
-    QCOMPARE(recorded[0].type, 0xA1010083u);
-    QCOMPARE(recorded[0].payload.size(), 0);
-    QCOMPARE(recorded[1].type, 0xA1000025u);
-    QCOMPARE(recorded[1].payload.size(), 16 + 1200); // time, frequency, position, 600 samples of the channel
-    QCOMPARE(recorded[2].type, 0xA1010080u);
-    QCOMPARE(recorded[2].payload.size(), 32);
+    const QList<ReadBlock> stored = recorded();
+    QCOMPARE(stored.size(), 6);
+    QCOMPARE(stored[0].type, 0xA1000018u);
+    QCOMPARE(stored[1].type, 0xA1000025u); // of before the start
+    QCOMPARE(stored[1].payload.size(), 16 + 1200); // time, frequency, position, 600 samples of the channel
+    QCOMPARE(stored[2].type, 0xA1010080u);
+    QCOMPARE(stored[2].payload.size(), 32);
+    for (int i : { 3, 4 }) {
+        QCOMPARE(stored[i].type, 0xA1010083u);
+        QCOMPARE(stored[i].payload.size(), 0);
+    }
+    QCOMPARE(stored[5].type, 0xA1000019u);
     const QList<ReadBlock> monitored = storedBlocks(monitor);
     QCOMPARE(monitored.size(), 2);
     for (const ReadBlock &block : monitored) {
         QCOMPARE(block.type, 0xA1010080u);
-        QCOMPARE(block.payload, recorded[2].payload);
+        QCOMPARE(block.payload, stored[2].payload);
     }
 }
 
 void TstUniTaskStream::recorderStoresTheWaveformOfAnEvent()
 {
-    Pqa2FF common("/tmp/common.pqa2");
-    if (!common.open())
-        QFAIL("no room for the file");
+    const auto waves = [this] { return recordedBlocks(m_task->recorder(), 0xA100002Au); };
     start();
-    setFiles(&common, nullptr);
     m_task->startRecordTask();
-    const qint64 before = common.size();
     m_task->datagramRMS_1_2(halfCycles(10, 1.5f, 0.001f).bytes()); // a dip
     m_task->datagramWave(wave(0, kNow - 100).bytes());
-    QCOMPARE(common.size(), before);
+    QCOMPARE(waves().size(), 0);
     m_task->datagramWave(wave(0, kNow + 100).bytes());
-    // Block head, time, eight channels of 2048 samples.
-    QCOMPARE(common.size() - before, 12 + 8 + 8 * 4096);
+    QCOMPARE(waves().size(), 1);
+    QCOMPARE(waves().first().payload.size(), 8 + 8 * 4096); // time, eight channels of 2048 samples
     m_task->datagramWave(wave(0, kNow + 300).bytes()); // stored once
-    QCOMPARE(common.size() - before, 12 + 8 + 8 * 4096);
+    QCOMPARE(waves().size(), 1);
 
     m_task->stopRecordTask(); // without a recording the queue empties all the same
     m_task->changeEventsWave(kNow + 400);
@@ -391,9 +389,7 @@ void TstUniTaskStream::recorderStoresTheWaveformOfAnEvent()
     m_task->datagramWave(wave(0, kNow + 500).bytes());
     m_task->startRecordTask();
     m_task->datagramWave(wave(0, kNow + 700).bytes());
-    QCOMPARE(common.size() - before, 12 + 8 + 8 * 4096);
-    setFiles(nullptr, nullptr);
-    QCOMPARE(storedBlocks(common).first().type, 0xA100002Au);
+    QCOMPARE(waves().size(), 0); // in the file that the second recording began in the same second
 }
 
 void TstUniTaskStream::flickerValuesGoToTheFileOfTheFunction_data()
@@ -412,13 +408,12 @@ void TstUniTaskStream::flickerValuesGoToTheFileOfTheFunction()
     QFETCH(int, timeBytes);
     QFETCH(quint32, shortKind);
     QFETCH(quint32, longKind);
-    Pqa2FF common("/tmp/common.pqa2");
     Pqa2FF monitor("/tmp/monitor.pqa2");
-    if (!common.open() || !monitor.open())
-        QFAIL("no room for the files");
+    if (!monitor.open())
+        QFAIL("no room for the file");
     m_task->initUniFunction(AbstractTask::UniFunction(function));
     m_task->startTask();
-    setFiles(&common, &monitor);
+    m_task->monitor().file().set(&monitor);
     RecordInfo::m_recordItems = RecordInfo::Flicker;
     if (function == AbstractTask::UniBasic)
         m_task->startRecordTask();
@@ -431,12 +426,12 @@ void TstUniTaskStream::flickerValuesGoToTheFileOfTheFunction()
             p.set(word, float(kInterval - i % kInterval));
         m_task->datagramFlicker(p.set(1502, 500u).bytes());
     }
-    setFiles(nullptr, nullptr);
+    m_task->monitor().file().set(nullptr);
     RecordInfo::m_recordItems = RecordInfo::Frequency10s;
 
     const bool monitoring = function == AbstractTask::UniMonitor;
-    const QList<ReadBlock> blocks = storedBlocks(monitoring ? monitor : common);
-    QVERIFY(storedBlocks(monitoring ? common : monitor).isEmpty());
+    const QList<ReadBlock> blocks = monitoring ? storedBlocks(monitor) : recorded().mid(1); // behind the start
+    QVERIFY(monitoring ? recorded().isEmpty() : storedBlocks(monitor).isEmpty());
     QCOMPARE(blocks.size(), 12 + 1);
     for (int i = 0; i < blocks.size(); ++i) {
         QCOMPARE(blocks[i].type, i < 12 ? shortKind : longKind);
