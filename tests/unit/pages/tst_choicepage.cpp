@@ -39,6 +39,32 @@ private:
     void take() { taken = chosenAll(); }
 };
 
+/// Five boxes in two columns, of which the fourth can be had or not.
+class ColumnChoice : public ChoicePage
+{
+public:
+    ColumnChoice() : ChoicePage(UI_LOGGER, AnyOf, { "Columns", 100, 60, 50, 200, 2, 220, 18, 36 }, nullptr)
+    {
+        static const Choice choices[] = {
+            { "first", "1" }, { "second", "2" }, { "third", "3" }, { "fourth", "4" }, { "fifth", nullptr },
+        };
+        static const KeyRow<ColumnChoice> keys[] = {
+            { Qt::Key_F1, nullptr, &ColumnChoice::selectAll },
+            { Qt::Key_F2, nullptr, &ColumnChoice::invertAll },
+        };
+        setChoices(choices);
+        setCaption(4, QStringLiteral("VRMS"));
+        setKeys(keys);
+    }
+
+    void have(bool fourth, bool chosen)
+    {
+        setAvailable(3, fourth);
+        setChosen(3, chosen);
+    }
+    QRect place(const char *name) const { return findChild<QAbstractButton *>(name)->geometry(); }
+};
+
 using Indices = std::vector<int>;
 
 } // namespace
@@ -57,6 +83,10 @@ private slots:
     void oneRadioButtonIsAlwaysOn();
     void allAndInvertLeaveRadioButtonsAlone();
     void keysOfThePageReachNoButton();
+    void columnsAreFilledLineByLine();
+    void leftAndRightStayInTheLine();
+    void whatCannotBeHadStaysAsItIs();
+    void aTextWithoutTranslationStays();
 };
 
 void TstChoicePage::loadedChoicesAreShown()
@@ -160,6 +190,63 @@ void TstChoicePage::keysOfThePageReachNoButton()
     press(&page, F5);
     QCOMPARE(page.chosenAll(), Indices({ 1 }));
     QCOMPARE(pause.count(), 0);
+}
+
+void TstChoicePage::columnsAreFilledLineByLine()
+{
+    ColumnChoice page;
+    QCOMPARE(page.place("first"), QRect(100, 60, 200, 36));
+    QCOMPARE(page.place("second"), QRect(320, 60, 200, 36));
+    QCOMPARE(page.place("fourth"), QRect(320, 110, 200, 36));
+    QCOMPARE(page.place("fifth"), QRect(100, 160, 200, 36));
+    QVERIFY(page.findChild<QLabel *>("title")->geometry().bottom() < 60);
+}
+
+void TstChoicePage::leftAndRightStayInTheLine()
+{
+    ColumnChoice page;
+    press(&page, Right, 2);
+    QCOMPARE(page.cursor(), 1);
+    press(&page, Down, 2);
+    QCOMPARE(page.cursor(), 3); // nothing below it
+    press(&page, Left, 2);
+    press(&page, Down);
+    QCOMPARE(page.cursor(), 4);
+    QVERIFY(page.findChild<QWidget *>("field_bar")->geometry().contains(page.place("fifth")));
+    SampleChoice plain(ChoicePage::AnyOf);
+    plain.init_parameter();
+    press(&plain, Right);
+    press(&plain, Left);
+    QCOMPARE(plain.cursor(), 0);
+}
+
+void TstChoicePage::whatCannotBeHadStaysAsItIs()
+{
+    ColumnChoice page;
+    page.have(false, true);
+    press(&page, F2);
+    QCOMPARE(page.chosenAll(), Indices({ 0, 1, 2, 3, 4 }));
+    press(&page, F2);
+    QCOMPARE(page.chosenAll(), Indices({ 3 }));
+    page.have(false, false);
+    press(&page, F1);
+    QCOMPARE(page.chosenAll(), Indices({ 0, 1, 2, 4 }));
+    press(&page, Right);
+    press(&page, Down);
+    QCOMPARE(page.cursor(), 3);
+    press(&page, Enter);
+    QVERIFY(!page.isChosen(3));
+    page.have(true, false);
+    press(&page, Enter);
+    QVERIFY(page.isChosen(3));
+}
+
+void TstChoicePage::aTextWithoutTranslationStays()
+{
+    ColumnChoice page;
+    page.retranslateUi();
+    QCOMPARE(page.findChild<QAbstractButton *>("fifth")->text(), QStringLiteral("VRMS"));
+    QCOMPARE(page.findChild<QAbstractButton *>("first")->text(), QStringLiteral("1"));
 }
 
 QTEST_MAIN(TstChoicePage)

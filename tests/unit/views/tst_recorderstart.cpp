@@ -1,6 +1,7 @@
 #include "recordercase.h"
 
 #include "platform/clock.h"
+#include "unit/markedlanguage.h"
 
 #include <QSignalSpy>
 #include <QTimer>
@@ -45,6 +46,7 @@ private slots:
     void enteringShowsTheRecordingThatRuns();
     void leavesByTheFunctionKeysWhileItRuns();
     void roomIsRedWhereItDoesNotLast();
+    void anotherLanguageReachesEveryText();
     void randomKeysNeverStoreAWrongChoice_data() { addFamilies(); }
     void randomKeysNeverStoreAWrongChoice();
 };
@@ -267,6 +269,31 @@ void TstRecorderStart::roomIsRedWhereItDoesNotLast()
     RecordInfo::m_in_recording = 0;
     page->recordingStoped();
     QCOMPARE(memory->palette().color(QPalette::WindowText), enough); // nothing needs it any more
+}
+
+void TstRecorderStart::anotherLanguageReachesEveryText()
+{
+    auto page = prepared(false);
+    page->stopWatchChanged(QStringLiteral("00:00:01"));
+    const QMap<QString, QString> english = texts(page.get());
+    MarkedLanguage language;
+    QVERIFY(QCoreApplication::installTranslator(&language));
+    page->retranslateUi();
+    // No words: names, numbers, moments. The rest begins with the language's sign.
+    const QStringList neutral {
+        "file_name", "year", "month", "day", "hours", "minutes", "start", "memory", "stop_watch"
+    };
+    const QMap<QString, QString> marked = texts(page.get());
+    for (const QString &path : english.keys()) {
+        if (english[path].isEmpty() || neutral.contains(path.section('/', -1)))
+            continue;
+        QVERIFY2(marked[path].startsWith('~'), qPrintable(path + ": " + marked[path]));
+    }
+    QCOMPARE(text(startOf(*page), "text"), QLatin1Char('~') + kRunning);
+    QCOMPARE(text(setupOf(*page), "start"), QStringLiteral("~Immediate"));
+    QCoreApplication::removeTranslator(&language);
+    page->retranslateUi();
+    QCOMPARE(texts(page.get()), english);
 }
 
 void TstRecorderStart::randomKeysNeverStoreAWrongChoice()
