@@ -51,6 +51,8 @@ public:
     const __datagram_aggregation &aggregation() const { return *m_aggregation; }
     const __datagram_rms &halfCycles() const { return *m_rms; }
     const __datagram_wave &wave() const { return *m_wave; }
+    /// What calls tick(); who makes time himself stops it.
+    QTimer &secondTimer() { return m_secondTimer; }
     /// The records that it writes, whatever the pages show.
     const DisplayRecords &live() const;
 

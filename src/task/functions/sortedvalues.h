@@ -3,7 +3,8 @@
 #include <vector>
 
 /// Numbers in ascending order, as many as a run of years brings. Taking one in costs the same however many there are:
-/// they stand in short blocks, and only the one that a number belongs to is moved.
+/// they stand in short blocks, of which only the one that a number belongs to is moved, and a tree of sums over the
+/// sizes of the blocks leads to a place.
 class SortedValues
 {
 public:
@@ -19,6 +20,9 @@ public:
 private:
     static constexpr int kBlock = 1024; // longest block
 
+    void countBlocks();
+
     std::vector<std::vector<float>> m_blocks; // none is empty
+    std::vector<int> m_sums; // [i]: values of as many blocks before the i-th as the lowest set bit of i says
     int m_size = 0;
 };
