@@ -1,0 +1,331 @@
+#include "recorderrun.h"
+#include "unitaskcase.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QSignalSpy>
+#include <QTest>
+
+/// A recording inside a measurement, from its plan to what becomes of its folder.
+class TstRecording : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void aRecordingIsPlannedByTheUsersChoice();
+    void itRunsForItsHoursByTheProcessorsTime();
+    void onlyHarmonicItemsRecordTheRmsGroupAnyway();
+    void stoppingWritesAFinalPartialInterval();
+    void aDeclinedRecordingIsDeletedEntirely();
+    void aKeptRecordingStaysWhateverIsDiscardedLater();
+    void aRecordingThatEndedByItselfIsNoLongerAtDisposal();
+    void anotherFunctionEndsTheRecording();
+    void aRecordingThatNeverBeganLeavesNothing();
+    void theRecordingGoesOnBehindAHold();
+    void nothingIsRecordedBesideAnotherFunction();
+    void eventsOfBeforeTheStartAreStoredWithoutAStall();
+    void anEndInTheMiddleOfThemLosesNoneOfThem();
+    void aDiscardedRecordingWritesNothingAnyMore();
+
+private:
+    void start()
+    {
+        m_task->initUniFunction(AbstractTask::UniBasic);
+        m_task->startTask();
+    }
+    /// Prepares a recording of the chosen items, as the page does.
+    void prepare(quint32 items, int hours = 1)
+    {
+        RecordInfo::m_recordItems = items;
+        RecordInfo::m_duration = hours;
+        m_task->initRecording();
+        m_task->enableRecord();
+    }
+    /// Aggregations with their waveforms: from one time to another, in ms from kNow on.
+    void feed(qint64 from, qint64 to, int step = 200)
+    {
+        for (qint64 at = from; at < to; at += step) {
+            const qint64 time = kNow + at;
+            Clock::advance(time - Clock::msecs());
+            Payload payload = aggregation();
+            payload.set(0, quint32(time)).set(1, quint32(quint64(time) >> 32));
+            m_task->datagramAggregation(payload.bytes());
+            m_task->datagramWave(wave(0, time).bytes());
+        }
+    }
+    QString path() const { return m_task->recorder().folder().path(); }
+    QList<ReadBlock> blocks(quint32 type) const { return recordedBlocks(m_task->recorder(), type); }
+    QStringList storage() const
+    {
+        DiskWorker::instance().wait();
+        return QDir(Target::path(QStringLiteral("/mnt/storage")))
+            .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
+    }
+    /// Finished events with curves, as if they had been found before.
+    void addEvents(int count);
+
+    std::unique_ptr<UniTask> m_task;
+};
+
+void TstRecording::init()
+{
+    RootFiles::clean();
+    renewRecords();
+    *RecordInfo::m_record_file = QStringLiteral("Logger_1");
+    RecordInfo::m_begain_time = 0;
+    RecordInfo::m_interval_index = 3; // 10 s
+    m_task = std::make_unique<UniTask>(liveData());
+}
+
+void TstRecording::cleanup()
+{
+    m_task.reset();
+    dropRecords();
+}
+
+void TstRecording::addEvents(int count)
+{
+    PQAEventItem event;
+    event.type = EventDip;
+    event.finished = 1;
+    event.startTime = event.endTime = kNow;
+    for (int input = 0; input < 7; ++input) {
+        for (RmsCurve *curve : { &event.startRms[input], &event.endRms[input] }) {
+            for (int i = 0; i < 300; ++i) // three seconds
+                curve->append({ kNow + 10 * i + (curve == &event.endRms[input] ? 60'000 : 0), 230.0f });
+        }
+    }
+    for (int i = 0; i < count; ++i) {
+        event.value = float(i);
+        liveData().events().append(event);
+    }
+}
+
+void TstRecording::aRecordingIsPlannedByTheUsersChoice()
+{
+    start();
+    prepare(RecordInfo::Power, 7);
+    QCOMPARE(RecordInfo::m_in_recording, 1);
+    QVERIFY(!m_task->isRecording());
+    QCOMPARE(m_task->recordStart(), kNow + 10'000); // at once: ten seconds from now
+    QCOMPARE(m_task->recordLife(), 7 * 3'600'000);
+    m_task->stopRecordTask();
+    QCOMPARE(RecordInfo::m_in_recording, 0);
+    RecordInfo::m_begain_time = quint32(kNow / 1000) + 86'400; // planned for tomorrow
+    prepare(RecordInfo::Power, 24'000);
+    QCOMPARE(m_task->recordStart(), kNow + 86'400'000);
+    QCOMPARE(m_task->recordLife(), qint64(86'400'000) * 1000);
+    QCOMPARE(storage(), QStringList());
+}
+
+void TstRecording::itRunsForItsHoursByTheProcessorsTime()
+{
+    start();
+    prepare(RecordInfo::FrequencyInterval | RecordInfo::Frequency10s);
+    QSignalSpy started(m_task.get(), &AbstractTask::recordingStarted);
+    QSignalSpy stopped(m_task.get(), &AbstractTask::recordingStoped);
+    feed(0, 10'000);
+    QCOMPARE(started.count(), 0);
+    feed(10'000, 10'200);
+    QCOMPARE(started.count(), 1);
+    QVERIFY(m_task->isRecording());
+    const QString folder = path();
+    QCOMPARE(folder, QStringLiteral("/mnt/storage/231114_221330 Logger_1/"));
+    feed(10'200, 3'610'000);
+    QCOMPARE(stopped.count(), 0);
+    feed(3'610'000, 3'610'400);
+    QCOMPARE(stopped.count(), 1);
+    QVERIFY(!m_task->isRecording());
+    QVERIFY(m_task->isTaskRunning()); // the pages stay live
+    QCOMPARE(RecordInfo::m_in_recording, 0);
+
+    const QList<ReadBlock> stored = storedBlocks(folder + QStringLiteral("Common.pqa2"));
+    int intervals = 0, tens = 0;
+    for (const ReadBlock &block : stored) {
+        if (block.type == 0xA1000029u)
+            QCOMPARE(valueAt<qint64>(block.payload, 0), kNow + 10'000 + 10'000 * ++intervals);
+        tens += block.type == 0xA1000028u;
+    }
+    QCOMPARE(intervals, 360);
+    QCOMPARE(tens, 360);
+    QCOMPARE(valueAt<quint32>(stored.first().payload, 0), quint32(kNow / 1000) + 10);
+    QCOMPARE(valueAt<quint32>(stored.last().payload, 0), quint32(kNow / 1000) + 3610);
+}
+
+void TstRecording::onlyHarmonicItemsRecordTheRmsGroupAnyway()
+{
+    RootFiles::write("/mnt/userfs/config/record.conf", "PARAMS=128\n");
+    RecordInfo::readSelectedParam();
+    start();
+    prepare(RecordInfo::m_recordItems);
+    feed(10'000, 20'400);
+    m_task->stopRecordTask();
+    QCOMPARE(blocks(0xA1000020).size(), 2); // a full interval and a begun one
+    QVERIFY(std::abs(valueAt<float>(blocks(0xA1000020).first().payload, 8) - 2.0f * kVolt) < 1e-3f);
+    QCOMPARE(storedBlocks(path() + QStringLiteral("U Harmonic(1-50).pqa2")).size(), 6);
+}
+
+void TstRecording::stoppingWritesAFinalPartialInterval()
+{
+    start();
+    prepare(RecordInfo::CommonRms);
+    feed(10'000, 13'000);
+    m_task->stopRecordTask();
+    QCOMPARE(blocks(0xA1000020).size(), 1);
+    QCOMPARE(valueAt<qint64>(blocks(0xA1000020).first().payload, 0), kNow + 12'800);
+    QCOMPARE(blocks(0xA1000019).size(), 1);
+}
+
+void TstRecording::aDeclinedRecordingIsDeletedEntirely()
+{
+    start();
+    prepare(0xFFFF);
+    feed(10'000, 13'000);
+    RootFiles::write(path() + QStringLiteral("sub/other"), "x");
+    QCOMPARE(storage(), (QStringList { ".infomation", "231114_221330 Logger_1" }));
+    m_task->stopRecordTask();
+    m_task->saveRecord(false);
+    QCOMPARE(storage(), QStringList(".infomation"));
+    QCOMPARE(RootFiles::read("/mnt/storage/.infomation"), QByteArray());
+}
+
+void TstRecording::aKeptRecordingStaysWhateverIsDiscardedLater()
+{
+    start();
+    prepare(1);
+    feed(10'000, 13'000);
+    m_task->stopRecordTask();
+    m_task->saveRecord(true);
+    m_task->saveRecord(false);
+    QCOMPARE(storage(), (QStringList { ".infomation", "231114_221330 Logger_1" }));
+    QVERIFY(RootFiles::read("/mnt/storage/.infomation").startsWith("231114_221330 Logger_1,"));
+}
+
+void TstRecording::aRecordingThatEndedByItselfIsNoLongerAtDisposal()
+{
+    start();
+    prepare(1);
+    feed(3'609'000, 3'609'400); // its clock is that of the processor: the window is open already
+    feed(7'300'000, 7'300'400);
+    QVERIFY(!m_task->isRecording());
+    m_task->save(false); // what a page says that discards something else
+    m_task->stopRecordTask();
+    m_task->saveRecord(false);
+    QCOMPARE(storage().size(), 2);
+}
+
+void TstRecording::anotherFunctionEndsTheRecording()
+{
+    start();
+    prepare(RecordInfo::CommonRms);
+    feed(10'000, 11'000);
+    const QString folder = path();
+    m_task->initUniFunction(AbstractTask::UniPowerInverter);
+    QVERIFY(!m_task->isRecording());
+    QCOMPARE(RecordInfo::m_in_recording, 0);
+    QCOMPARE(storedBlocks(folder + QStringLiteral("Common.pqa2")).last().type, 0xA1000019u);
+    m_task->saveRecord(false); // of the new function
+    QVERIFY(RootFiles::exists(folder));
+}
+
+void TstRecording::aRecordingThatNeverBeganLeavesNothing()
+{
+    start();
+    prepare(1);
+    feed(0, 5'000);
+    m_task->stopRecordTask();
+    m_task->saveRecord(false);
+    QCOMPARE(storage(), QStringList());
+    QCOMPARE(RecordInfo::m_in_recording, 0);
+}
+
+void TstRecording::theRecordingGoesOnBehindAHold()
+{
+    start();
+    prepare(RecordInfo::FrequencyInterval);
+    feed(10'000, 12'000);
+    m_task->pauseTask();
+    feed(12'000, 22'000);
+    m_task->continueTask();
+    m_task->stopRecordTask();
+    QCOMPARE(blocks(0xA1000029).size(), 2);
+}
+
+void TstRecording::nothingIsRecordedBesideAnotherFunction()
+{
+    m_task->initUniFunction(AbstractTask::UniPowerInverter);
+    m_task->startTask();
+    prepare(1);
+    feed(10'000, 12'000);
+    m_task->stopRecordTask();
+    QCOMPARE(storage(), QStringList());
+}
+
+void TstRecording::eventsOfBeforeTheStartAreStoredWithoutAStall()
+{
+    constexpr int kEvents = 2000; // of 50 kB each
+    start();
+    addEvents(kEvents);
+    prepare(1);
+    QElapsedTimer timer;
+    timer.start();
+    feed(10'000, 10'200);
+    qint64 longest = timer.elapsed();
+    int beats = 0;
+    for (; beats < 10'000 && blocks(0xA1010083).size() < kEvents; ++beats) {
+        for (int i = 0; i < 20; ++i) {
+            timer.start();
+            m_task->recorder().beat();
+            longest = std::max(longest, timer.elapsed());
+        }
+    }
+    QVERIFY2(longest < 50, qPrintable(QString::number(longest)));
+    QVERIFY(beats > 1);
+    const QList<ReadBlock> events = blocks(0xA1010083);
+    QCOMPARE(events.size(), kEvents);
+    for (int i = 0; i < kEvents; ++i) {
+        QCOMPARE(valueAt<float>(events[i].payload, 12), float(i));
+        QCOMPARE(events[i].payload.size(), 40 + 7 * 300 * 12 * 2); // four voltages, three currents
+    }
+    m_task->stopRecordTask();
+}
+
+void TstRecording::anEndInTheMiddleOfThemLosesNoneOfThem()
+{
+    constexpr int kEvents = 500;
+    start();
+    addEvents(kEvents);
+    prepare(1);
+    feed(10'000, 10'200);
+    m_task->recorder().beat();
+    PQAEventItem running;
+    running.value = 4711.0f;
+    liveData().events().append(running);
+    const QString folder = path();
+    QElapsedTimer timer;
+    timer.start();
+    m_task->stopRecordTask();
+    QVERIFY2(timer.elapsed() < 50, qPrintable(QString::number(timer.elapsed())));
+    liveData().events().clear(); // as the next measurement does
+    const QList<ReadBlock> events = blocks(0xA1010083);
+    QCOMPARE(events.size(), kEvents + 1);
+    QCOMPARE(events.last().payload.size(), 0); // without curves
+    QCOMPARE(storedBlocks(folder + QStringLiteral("Common.pqa2")).last().type, 0xA1000019u);
+}
+
+void TstRecording::aDiscardedRecordingWritesNothingAnyMore()
+{
+    start();
+    addEvents(500);
+    prepare(1);
+    feed(10'000, 10'200);
+    m_task->stopRecordTask();
+    m_task->saveRecord(false); // while the events are still on their way
+    QCOMPARE(storage(), QStringList(".infomation"));
+}
+
+QTEST_GUILESS_MAIN(TstRecording)
+#include "tst_recording.moc"
