@@ -2854,6 +2854,122 @@ Voulez-vous l&apos;écraser ?</translation>
     </message>
 </context>
 <context>
+    <name>WaveMain</name>
+    <message>
+        <source>File name:</source>
+        <translation>Nom du fichier :</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>Échantillonnage :</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Durée :</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>Temps restant :</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Forme d&apos;onde</translation>
+    </message>
+    <message>
+        <source>The capture waits for its start.</source>
+        <translation>La capture attend son départ.</translation>
+    </message>
+    <message>
+        <source>The capture is running.</source>
+        <translation>La capture est en cours.</translation>
+    </message>
+    <message>
+        <source>The capture has ended.
+Its data stands in Memory.</source>
+        <translation>La capture est terminée.
+Les données sont en mémoire.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+What was captured stands in Memory.</source>
+        <translation>La mémoire n&apos;accepte plus de données.
+Ce qui a été capturé est en mémoire.</translation>
+    </message>
+    <message>
+        <source>The capture was ended
+before it had data.</source>
+        <translation>La capture a été arrêtée
+avant d&apos;avoir des données.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêt</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Do you want to stop
+</source>
+        <translation>Voulez-vous arrêter
+</translation>
+    </message>
+    <message>
+        <source> the current record?</source>
+        <translation> l&apos;enregistrement en cours ?</translation>
+    </message>
+</context>
+<context>
+    <name>WaveSetup</name>
+    <message>
+        <source>Wave</source>
+        <translation>Forme d&apos;onde</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Démarrer</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Durée :</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>Échantillonnage :</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Nom du fichier :</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>Mémoire disponible :</translation>
+    </message>
+    <message>
+        <source>There is no room for a capture.
+Delete files in Memory.</source>
+        <translation>Pas de place pour une capture.
+Supprimez des fichiers en mémoire.</translation>
+    </message>
+</context>
+<context>
     <name>flicker</name>
     <message>
         <source>pinst</source>

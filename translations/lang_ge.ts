@@ -2854,6 +2854,122 @@ Soll sie überschrieben werden?</translation>
     </message>
 </context>
 <context>
+    <name>WaveMain</name>
+    <message>
+        <source>File name:</source>
+        <translation>Dateiname:</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>Abtastrate:</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Dauer:</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>Restzeit:</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Wellenform</translation>
+    </message>
+    <message>
+        <source>The capture waits for its start.</source>
+        <translation>Die Aufnahme wartet auf den Start.</translation>
+    </message>
+    <message>
+        <source>The capture is running.</source>
+        <translation>Die Aufnahme läuft.</translation>
+    </message>
+    <message>
+        <source>The capture has ended.
+Its data stands in Memory.</source>
+        <translation>Die Aufnahme ist beendet.
+Die Daten stehen im Speicher.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+What was captured stands in Memory.</source>
+        <translation>Der Speicher nimmt nichts mehr auf.
+Das Aufgenommene steht im Speicher.</translation>
+    </message>
+    <message>
+        <source>The capture was ended
+before it had data.</source>
+        <translation>Die Aufnahme wurde beendet,
+bevor sie Daten hatte.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Do you want to stop
+</source>
+        <translation>Soll die laufende
+</translation>
+    </message>
+    <message>
+        <source> the current record?</source>
+        <translation> Aufzeichnung beendet werden?</translation>
+    </message>
+</context>
+<context>
+    <name>WaveSetup</name>
+    <message>
+        <source>Wave</source>
+        <translation>Wellenform</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Dauer:</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>Abtastrate:</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Dateiname:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>Freier Speicher:</translation>
+    </message>
+    <message>
+        <source>There is no room for a capture.
+Delete files in Memory.</source>
+        <translation>Für eine Aufnahme fehlt der Platz.
+Bitte im Speicher Dateien löschen.</translation>
+    </message>
+</context>
+<context>
     <name>flicker</name>
     <message>
         <source>pinst</source>

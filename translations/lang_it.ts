@@ -2854,6 +2854,122 @@ Sovrascriverlo?</translation>
     </message>
 </context>
 <context>
+    <name>WaveMain</name>
+    <message>
+        <source>File name:</source>
+        <translation>Nome del file:</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>Campionamento:</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Durata:</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>Tempo restante:</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Forma d&apos;onda</translation>
+    </message>
+    <message>
+        <source>The capture waits for its start.</source>
+        <translation>La cattura attende l&apos;avvio.</translation>
+    </message>
+    <message>
+        <source>The capture is running.</source>
+        <translation>La cattura è in corso.</translation>
+    </message>
+    <message>
+        <source>The capture has ended.
+Its data stands in Memory.</source>
+        <translation>La cattura è terminata.
+I dati sono nella memoria.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+What was captured stands in Memory.</source>
+        <translation>La memoria non accetta altri dati.
+Quanto catturato è nella memoria.</translation>
+    </message>
+    <message>
+        <source>The capture was ended
+before it had data.</source>
+        <translation>La cattura è terminata
+prima di avere dati.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Ferma</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Do you want to stop
+</source>
+        <translation>Interrompere
+</translation>
+    </message>
+    <message>
+        <source> the current record?</source>
+        <translation> la registrazione in corso?</translation>
+    </message>
+</context>
+<context>
+    <name>WaveSetup</name>
+    <message>
+        <source>Wave</source>
+        <translation>Forma d&apos;onda</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Successivo</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Avvia</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Durata:</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>Campionamento:</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Nome del file:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>Memoria disponibile:</translation>
+    </message>
+    <message>
+        <source>There is no room for a capture.
+Delete files in Memory.</source>
+        <translation>Non c&apos;è spazio per una cattura.
+Eliminare file nella memoria.</translation>
+    </message>
+</context>
+<context>
     <name>flicker</name>
     <message>
         <source>pinst</source>

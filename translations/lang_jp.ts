@@ -2854,6 +2854,122 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>WaveMain</name>
+    <message>
+        <source>File name:</source>
+        <translation>ファイル名:</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>サンプリング:</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>継続時間:</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>残り時間:</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>波形</translation>
+    </message>
+    <message>
+        <source>The capture waits for its start.</source>
+        <translation>取り込みは開始を待っています。</translation>
+    </message>
+    <message>
+        <source>The capture is running.</source>
+        <translation>取り込み中です。</translation>
+    </message>
+    <message>
+        <source>The capture has ended.
+Its data stands in Memory.</source>
+        <translation>取り込みは終了しました。
+データはメモリにあります。</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+What was captured stands in Memory.</source>
+        <translation>これ以上書き込めません。
+取り込んだデータはメモリにあります。</translation>
+    </message>
+    <message>
+        <source>The capture was ended
+before it had data.</source>
+        <translation>データを得る前に
+取り込みを終了しました。</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>Do you want to stop
+</source>
+        <translation>現在の記録を
+</translation>
+    </message>
+    <message>
+        <source> the current record?</source>
+        <translation> 停止しますか？</translation>
+    </message>
+</context>
+<context>
+    <name>WaveSetup</name>
+    <message>
+        <source>Wave</source>
+        <translation>波形</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>次へ</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>継続時間:</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>サンプリング:</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>ファイル名:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>メモリ残量:</translation>
+    </message>
+    <message>
+        <source>There is no room for a capture.
+Delete files in Memory.</source>
+        <translation>取り込む空き容量がありません。
+メモリのファイルを削除してください。</translation>
+    </message>
+</context>
+<context>
     <name>flicker</name>
     <message>
         <source>pinst</source>

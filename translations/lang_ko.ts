@@ -2854,6 +2854,122 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>WaveMain</name>
+    <message>
+        <source>File name:</source>
+        <translation>파일 이름:</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>샘플링:</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>기간:</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>남은 시간:</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>파형</translation>
+    </message>
+    <message>
+        <source>The capture waits for its start.</source>
+        <translation>캡처가 시작을 기다리고 있습니다.</translation>
+    </message>
+    <message>
+        <source>The capture is running.</source>
+        <translation>캡처 중입니다.</translation>
+    </message>
+    <message>
+        <source>The capture has ended.
+Its data stands in Memory.</source>
+        <translation>캡처가 종료되었습니다.
+데이터는 메모리에 있습니다.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+What was captured stands in Memory.</source>
+        <translation>더 이상 저장할 수 없습니다.
+캡처된 데이터는 메모리에 있습니다.</translation>
+    </message>
+    <message>
+        <source>The capture was ended
+before it had data.</source>
+        <translation>데이터를 얻기 전에
+캡처가 종료되었습니다.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>정지</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1초</translation>
+    </message>
+    <message>
+        <source>Do you want to stop
+</source>
+        <translation>현재 기록을
+</translation>
+    </message>
+    <message>
+        <source> the current record?</source>
+        <translation> 중지하시겠습니까?</translation>
+    </message>
+</context>
+<context>
+    <name>WaveSetup</name>
+    <message>
+        <source>Wave</source>
+        <translation>파형</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>다음</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>기간:</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1초</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>샘플링:</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>파일 이름:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>사용 가능 메모리:</translation>
+    </message>
+    <message>
+        <source>There is no room for a capture.
+Delete files in Memory.</source>
+        <translation>캡처할 공간이 없습니다.
+메모리에서 파일을 삭제하십시오.</translation>
+    </message>
+</context>
+<context>
     <name>flicker</name>
     <message>
         <source>pinst</source>

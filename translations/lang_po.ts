@@ -2854,6 +2854,122 @@ Czy go zastąpić?</translation>
     </message>
 </context>
 <context>
+    <name>WaveMain</name>
+    <message>
+        <source>File name:</source>
+        <translation>Nazwa pliku:</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>Próbkowanie:</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Czas trwania:</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>Pozostało:</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Przebieg</translation>
+    </message>
+    <message>
+        <source>The capture waits for its start.</source>
+        <translation>Przechwytywanie czeka na start.</translation>
+    </message>
+    <message>
+        <source>The capture is running.</source>
+        <translation>Przechwytywanie trwa.</translation>
+    </message>
+    <message>
+        <source>The capture has ended.
+Its data stands in Memory.</source>
+        <translation>Przechwytywanie zakończone.
+Dane są w pamięci.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+What was captured stands in Memory.</source>
+        <translation>Pamięć nie przyjmuje danych.
+Przechwycone dane są w pamięci.</translation>
+    </message>
+    <message>
+        <source>The capture was ended
+before it had data.</source>
+        <translation>Przechwytywanie zakończono
+przed zebraniem danych.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Wstecz</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Do you want to stop
+</source>
+        <translation>Czy zatrzymać
+</translation>
+    </message>
+    <message>
+        <source> the current record?</source>
+        <translation> bieżący zapis?</translation>
+    </message>
+</context>
+<context>
+    <name>WaveSetup</name>
+    <message>
+        <source>Wave</source>
+        <translation>Przebieg</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Następ.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Czas trwania:</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>Próbkowanie:</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Nazwa pliku:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>Wolna pamięć:</translation>
+    </message>
+    <message>
+        <source>There is no room for a capture.
+Delete files in Memory.</source>
+        <translation>Brak miejsca na przechwycenie.
+Usuń pliki w pamięci.</translation>
+    </message>
+</context>
+<context>
     <name>flicker</name>
     <message>
         <source>pinst</source>

@@ -2854,6 +2854,122 @@ Deseja substituí-lo?</translation>
     </message>
 </context>
 <context>
+    <name>WaveMain</name>
+    <message>
+        <source>File name:</source>
+        <translation>Nome do ficheiro:</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>Amostragem:</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Duração:</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>Tempo restante:</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Forma de onda</translation>
+    </message>
+    <message>
+        <source>The capture waits for its start.</source>
+        <translation>A captura aguarda o início.</translation>
+    </message>
+    <message>
+        <source>The capture is running.</source>
+        <translation>A captura está em curso.</translation>
+    </message>
+    <message>
+        <source>The capture has ended.
+Its data stands in Memory.</source>
+        <translation>A captura terminou.
+Os dados estão na memória.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+What was captured stands in Memory.</source>
+        <translation>A memória não aceita mais dados.
+O que foi captado está na memória.</translation>
+    </message>
+    <message>
+        <source>The capture was ended
+before it had data.</source>
+        <translation>A captura terminou
+antes de ter dados.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Do you want to stop
+</source>
+        <translation>Deseja parar
+</translation>
+    </message>
+    <message>
+        <source> the current record?</source>
+        <translation> o registo atual?</translation>
+    </message>
+</context>
+<context>
+    <name>WaveSetup</name>
+    <message>
+        <source>Wave</source>
+        <translation>Forma de onda</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Seguinte</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Iniciar</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Duração:</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>Amostragem:</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Nome do ficheiro:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>Memória disponível:</translation>
+    </message>
+    <message>
+        <source>There is no room for a capture.
+Delete files in Memory.</source>
+        <translation>Não há espaço para uma captura.
+Elimine ficheiros na memória.</translation>
+    </message>
+</context>
+<context>
     <name>flicker</name>
     <message>
         <source>pinst</source>

@@ -2854,6 +2854,122 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>WaveMain</name>
+    <message>
+        <source>File name:</source>
+        <translation>Имя файла:</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Старт</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>Частота отсчётов:</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Длительность:</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>Осталось:</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Форма сигнала</translation>
+    </message>
+    <message>
+        <source>The capture waits for its start.</source>
+        <translation>Захват ждёт начала.</translation>
+    </message>
+    <message>
+        <source>The capture is running.</source>
+        <translation>Идёт захват.</translation>
+    </message>
+    <message>
+        <source>The capture has ended.
+Its data stands in Memory.</source>
+        <translation>Захват завершён.
+Данные находятся в памяти.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+What was captured stands in Memory.</source>
+        <translation>Память не принимает данные.
+Захваченное находится в памяти.</translation>
+    </message>
+    <message>
+        <source>The capture was ended
+before it had data.</source>
+        <translation>Захват завершён
+до получения данных.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Стоп</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 с</translation>
+    </message>
+    <message>
+        <source>Do you want to stop
+</source>
+        <translation>Остановить
+</translation>
+    </message>
+    <message>
+        <source> the current record?</source>
+        <translation> текущую запись?</translation>
+    </message>
+</context>
+<context>
+    <name>WaveSetup</name>
+    <message>
+        <source>Wave</source>
+        <translation>Форма сигнала</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>След.</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Старт</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Длительность:</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 с</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>Частота отсчётов:</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Имя файла:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>Свободная память:</translation>
+    </message>
+    <message>
+        <source>There is no room for a capture.
+Delete files in Memory.</source>
+        <translation>Для захвата нет места.
+Удалите файлы в памяти.</translation>
+    </message>
+</context>
+<context>
     <name>flicker</name>
     <message>
         <source>pinst</source>

@@ -2854,6 +2854,122 @@ Do you want to overwrite it?</source>
     </message>
 </context>
 <context>
+    <name>WaveMain</name>
+    <message>
+        <source>File name:</source>
+        <translation>Dosya adı:</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Başlat</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>Örnekleme:</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Süre:</translation>
+    </message>
+    <message>
+        <source>Time left:</source>
+        <translation>Kalan süre:</translation>
+    </message>
+    <message>
+        <source>Wave</source>
+        <translation>Dalga şekli</translation>
+    </message>
+    <message>
+        <source>The capture waits for its start.</source>
+        <translation>Yakalama başlangıcı bekliyor.</translation>
+    </message>
+    <message>
+        <source>The capture is running.</source>
+        <translation>Yakalama sürüyor.</translation>
+    </message>
+    <message>
+        <source>The capture has ended.
+Its data stands in Memory.</source>
+        <translation>Yakalama sona erdi.
+Veriler bellekte.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+What was captured stands in Memory.</source>
+        <translation>Bellek artık veri almıyor.
+Yakalananlar bellekte.</translation>
+    </message>
+    <message>
+        <source>The capture was ended
+before it had data.</source>
+        <translation>Yakalama, veri alınmadan
+sona erdi.</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Durdur</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Do you want to stop
+</source>
+        <translation>Geçerli kaydı
+</translation>
+    </message>
+    <message>
+        <source> the current record?</source>
+        <translation> durdurmak istiyor musunuz?</translation>
+    </message>
+</context>
+<context>
+    <name>WaveSetup</name>
+    <message>
+        <source>Wave</source>
+        <translation>Dalga şekli</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Sonraki</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Başlat</translation>
+    </message>
+    <message>
+        <source>Duration:</source>
+        <translation>Süre:</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>Sample rate:</source>
+        <translation>Örnekleme:</translation>
+    </message>
+    <message>
+        <source>File name:</source>
+        <translation>Dosya adı:</translation>
+    </message>
+    <message>
+        <source>Memory Available:</source>
+        <translation>Boş bellek:</translation>
+    </message>
+    <message>
+        <source>There is no room for a capture.
+Delete files in Memory.</source>
+        <translation>Yakalama için yer yok.
+Bellekten dosya silin.</translation>
+    </message>
+</context>
+<context>
     <name>flicker</name>
     <message>
         <source>pinst</source>

@@ -213,5 +213,6 @@ struct waveProgress
 {
     qint32 percent = 0; // of the frames that were asked for
     qint32 seconds = 0; // still to come
+    quint32 begin = 0; // s since 1970; 0: it has not begun
     bool refused = false; // the storage took no more: the capture ends there
 };

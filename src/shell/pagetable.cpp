@@ -7,6 +7,7 @@
 #include "shell/basedialog.h"
 #include "shell/quveraglobal.h"
 #include "shell/tasklinks.h"
+#include "shell/taskmanage.h"
 #include "task/unitask.h"
 #include "user/userpage.h"
 #include "views/dips/dswell.h"
@@ -22,6 +23,7 @@
 #include "views/transients/trans.h"
 #include "views/unbalance/unbalan.h"
 #include "views/vif/vifpage.h"
+#include "views/wave/wave.h"
 
 #include <QCoreApplication>
 
@@ -99,6 +101,17 @@ FunctionPage *makeLogger(TaskLinks &links, const LiveData &data)
     return page;
 }
 
+FunctionPage *makeWave(TaskLinks &links, const LiveData &data)
+{
+    auto *page = new Wave(data);
+    QObject::connect(page, &Wave::startWaveTask, &links,
+                     [&links] { emit links.startWanted(AbstractTask::UniWave, UI_WAVE); });
+    QObject::connect(page, &Wave::stopTaskWithSave, &links, &TaskLinks::endWanted);
+    QObject::connect(page, &Wave::exitTask, m_taskmanage, &TaskManage::exitTask);
+    QObject::connect(&links, &TaskLinks::ended, page, &Wave::taskStoped);
+    return page;
+}
+
 FunctionPage *makeSetup(TaskLinks &links, const LiveData &data)
 {
     auto *page = new SetupPage(data);
@@ -162,7 +175,7 @@ const PageRow kRows[] = {
     { UI_MEMORY, QT_TRANSLATE_NOOP("BaseDialog", "Memory"), kNoTile, Plan::Overlay, kBasic, 0, 15, 0, nullptr },
     { UI_WAVE, QT_TRANSLATE_NOOP("BaseDialog", "Wave"),
       { 10, "wave", QT_TRANSLATE_NOOP("MenuPage", "Wave\n") },
-      Plan::Commanded, AbstractTask::UniWave, Hears::kFront, 13, 10, nullptr },
+      Plan::Commanded, AbstractTask::UniWave, Hears::kFront, 13, 10, makeWave },
     { UI_MAINS_SIG, QT_TRANSLATE_NOOP("BaseDialog", "Mains Signaling"),
       { 9, "mainssignaling", QT_TRANSLATE_NOOP("MenuPage", "Mains\nSignaling") },
       Plan::Live, kBasic, Hears::kLive, 16, 12, make<MainsSignaling> },

@@ -32,20 +32,24 @@ void interleave(const __datagram_wave &record, int step, QByteArray *chunk)
 
 void WaveFunction::initWaveData()
 {
-    m_rate = WaveInfo::m_sample_times[std::clamp(WaveInfo::m_sample_index, 0, 2)];
+    m_rate = WaveInfo::sampleRate();
     m_step = std::clamp(WaveInfo::m_step, 1, kWaveSamples);
     m_limit = WaveInfo::m_points_numb;
     m_frames = 0;
     m_file.reset();
+    // A start that is past is none: the run then begins at once.
+    const quint32 planned = WaveInfo::m_begain_time >= Clock::seconds() ? WaveInfo::m_begain_time : 0;
     if (!WaveInfo::m_wave_file->isEmpty())
-        m_file
-            = std::make_unique<WaveFile>(*WaveInfo::m_wave_file, WaveInfo::m_begain_time, quint32(m_rate), m_setUp());
+        m_file = std::make_unique<WaveFile>(*WaveInfo::m_wave_file, planned, quint32(m_rate), m_setUp());
 }
 
 void WaveFunction::measure()
 {
     showProgress();
-    m_progress.refused = m_file && !m_file->open(LocalTime::currentDateTime());
+    if (!m_file)
+        return;
+    m_progress.refused = !m_file->open(LocalTime::currentDateTime());
+    m_progress.begin = m_file->header().begin;
 }
 
 void WaveFunction::wave(const __datagram_wave &record)

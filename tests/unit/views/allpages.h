@@ -13,6 +13,7 @@
 #include "views/transients/trans.h"
 #include "views/unbalance/unbalan.h"
 #include "views/vif/vifpage.h"
+#include "views/wave/wave.h"
 
 #include <functional>
 
@@ -26,8 +27,8 @@ template <typename Page> FunctionPage *makePage()
     return new Page(PageTest::liveData());
 }
 
-/// A data row for each function; column "make".
-inline void addAllPages()
+/// A data row for each function that shows something in the colours of the phases; column "make".
+inline void addColouredPages()
 {
     QTest::addColumn<MakePage>("make");
     QTest::newRow("vif") << MakePage(makePage<VifPage>);
@@ -42,4 +43,11 @@ inline void addAllPages()
     QTest::newRow("mains signaling") << MakePage(makePage<MainsSignaling>);
     QTest::newRow("power inverter") << MakePage(makePage<PowerInverter>);
     QTest::newRow("monitor") << MakePage(makePage<MonitorPage>);
+}
+
+/// A data row for each function; column "make".
+inline void addAllPages()
+{
+    addColouredPages();
+    QTest::newRow("wave") << MakePage(makePage<Wave>);
 }

@@ -87,6 +87,7 @@ void measure(float level)
         records.inverter.outputVoltage[p] = records.inverter.outputCurrent[p] = level;
         records.inverter.outputPower[p] = level;
     }
+    records.wave.percent = int(level) / 2;
     records.inverter.inputVoltage = records.inverter.inputCurrent = records.inverter.efficiency = level;
     for (HarmChannel &channel : records.harmonics.channel) {
         channel.rms = channel.offset = channel.distortion = level;

@@ -28,7 +28,7 @@ private slots:
     void languageChangeReachesEveryText_data();
     void languageChangeReachesEveryText();
     void heldPageSaysRunInTheNewLanguage();
-    void newPhaseColoursReachTheLabelsWhenThePageIsShown_data() { addAllPages(); }
+    void newPhaseColoursReachTheLabelsWhenThePageIsShown_data() { addColouredPages(); }
     void newPhaseColoursReachTheLabelsWhenThePageIsShown();
 };
 
