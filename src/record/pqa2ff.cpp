@@ -6,6 +6,7 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -16,6 +17,12 @@ constexpr qint64 kMostPayload = 1 << 30; // bytes; no writer comes near it
 constexpr qint64 alignedUp(qint64 bytes)
 {
     return (bytes + 3) & ~qint64(3);
+}
+
+/// Bytes that a block takes in the file.
+constexpr qint64 wholeBlock(qint64 payload)
+{
+    return qint64(sizeof(Pqa2BlockHead)) + alignedUp(payload);
 }
 
 } // namespace
@@ -175,8 +182,7 @@ int Pqa2FF::appendBlock(quint32 type, const char *data, qint64 size)
         return 0;
     if (size < 0 || size > kMostPayload || (size > 0 && !data) || m_device->freeSize() < kRoomToWrite)
         return -1;
-    const qint64 whole = qint64(sizeof(Pqa2BlockHead)) + alignedUp(size);
-    if (m_end + whole >= qint64(kPqa2LastBlock)) { // no link could tell where the next block starts
+    if (m_end + wholeBlock(size) >= qint64(kPqa2LastBlock)) { // no link could tell where the next block starts
         m_full = true;
         if (!m_continues || !beginNextPart())
             return -1;
@@ -201,18 +207,56 @@ bool Pqa2FF::beginNextPart()
     return m_open;
 }
 
+int Pqa2FF::addDataBlocks(Pqa2DBType type, const QList<QByteArray> &payloads)
+{
+    if (!m_open || payloads.isEmpty())
+        return 0;
+    qint64 whole = 0;
+    for (const QByteArray &payload : payloads)
+        whole += wholeBlock(payload.size());
+    if (whole <= kMostPayload && m_end + whole < qint64(kPqa2LastBlock) && m_device->freeSize() >= kRoomToWrite) {
+        m_buffer.resize(0);
+        qint64 last = m_end;
+        for (int i = 0; i < payloads.size(); ++i) {
+            last = m_end + m_buffer.size();
+            const bool follows = i + 1 < payloads.size();
+            const quint32 next = follows ? quint32(last + wholeBlock(payloads[i].size())) : kPqa2LastBlock;
+            bufferBlock(next, type, payloads[i].constData(), payloads[i].size());
+        }
+        if (storeBuffer(last) == 0)
+            return 0;
+    }
+    int result = 0;
+    for (const QByteArray &payload : payloads)
+        result = std::min(result, addDataBlock(type, payload));
+    return result;
+}
+
 int Pqa2FF::storeBlock(quint32 type, const char *data, qint64 size)
 {
-    const qint64 start = m_end;
-    const qint64 whole = qint64(sizeof(Pqa2BlockHead)) + alignedUp(size);
-    const Pqa2BlockHead head = { kPqa2LastBlock, type, quint32(size) };
-    m_buffer.resize(int(whole));
-    std::memcpy(m_buffer.data(), &head, sizeof head);
-    if (size > 0)
-        std::memcpy(m_buffer.data() + sizeof head, data, size_t(size));
-    std::memset(m_buffer.data() + sizeof head + size, 0, size_t(whole - qint64(sizeof head) - size));
+    m_buffer.resize(0);
+    bufferBlock(kPqa2LastBlock, type, data, size);
+    return storeBuffer(m_end);
+}
 
-    // A block that is not whole in the file is never linked: it is cut off, and the next one takes its place.
+void Pqa2FF::bufferBlock(quint32 oonb, quint32 type, const char *data, qint64 size)
+{
+    const Pqa2BlockHead head = { oonb, type, quint32(size) };
+    const int start = m_buffer.size();
+    m_buffer.resize(start + int(wholeBlock(size)));
+    char *block = m_buffer.data() + start;
+    std::memcpy(block, &head, sizeof head);
+    if (size > 0)
+        std::memcpy(block + sizeof head, data, size_t(size));
+    std::memset(block + sizeof head + size, 0, size_t(wholeBlock(size) - qint64(sizeof head) - size));
+}
+
+/// Stores the blocks of the buffer, the last of which begins at that place of the file.
+int Pqa2FF::storeBuffer(qint64 lastBlock)
+{
+    // Blocks that are not whole in the file are never linked: they are cut off, and the next ones take their place.
+    const qint64 start = m_end;
+    const qint64 whole = m_buffer.size();
     if ((m_device->pos() != start && !m_device->seek(start)) || m_device->write(m_buffer.constData(), whole) != whole) {
         dropTail(start);
         return -1;
@@ -223,6 +267,7 @@ int Pqa2FF::storeBlock(quint32 type, const char *data, qint64 size)
         dropTail(start);
         return -1;
     }
+    m_last.last().offset = quint32(lastBlock);
     return 0;
 }
 

@@ -79,6 +79,9 @@ public:
     /// full; the file stays whole, and unless it is full the next block may succeed.
     int addDataBlock(Pqa2DBType type, const char *data, int size);
     int addDataBlock(Pqa2DBType type, const QByteArray &data);
+    /// Many blocks of one kind at once, for as little of the caller's time as one: they are linked when all of them are
+    /// in the file. Where that fails they are stored one by one, as far as they go. -1: not all are stored.
+    int addDataBlocks(Pqa2DBType type, const QList<QByteArray> &payloads);
     /// The raw form tells the debug log when it is refused.
     int addDataBlock(const _pqa2_data_block &block);
     /// Text with the present time before it.
@@ -96,6 +99,8 @@ private:
     bool initFileHeader();
     int appendBlock(quint32 type, const char *data, qint64 size);
     int storeBlock(quint32 type, const char *data, qint64 size);
+    void bufferBlock(quint32 oonb, quint32 type, const char *data, qint64 size);
+    int storeBuffer(qint64 lastBlock);
     bool beginNextPart();
     bool begin();
     bool modifyLastOONB(const _pqa2_block_iterator &block);
@@ -114,5 +119,5 @@ private:
     std::function<void(Pqa2FF &)> m_beginPart;
     qint64 m_end = 0; // where the next block starts
     QList<_pqa2_block_iterator> m_last; // the last blocks, at most three
-    QByteArray m_buffer; // block on its way into the file
+    QByteArray m_buffer; // blocks on their way into the file
 };

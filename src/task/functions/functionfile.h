@@ -14,6 +14,11 @@ public:
         if (isOpen())
             m_file->addDataBlock(type, payload);
     }
+    void addAll(Pqa2DBType type, const QList<QByteArray> &payloads)
+    {
+        if (isOpen())
+            m_file->addDataBlocks(type, payloads);
+    }
 
 private:
     Pqa2FF *m_file = nullptr;

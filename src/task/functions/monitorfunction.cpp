@@ -200,8 +200,10 @@ void MonitorFunction::transient(const __trans_data &record)
 
 void MonitorFunction::storeEvents(EventChoice choice)
 {
+    QList<QByteArray> heads;
     EventBlocks::forEach(m_links.data.events(), choice,
-                         [this](const PQAEventItem &event) { m_file.add(Pqa2EventHead, EventBlocks::head(event)); });
+                         [&heads](const PQAEventItem &event) { heads.append(EventBlocks::head(event)); });
+    m_file.addAll(Pqa2EventHead, heads);
 }
 
 void MonitorFunction::stop(Keep)

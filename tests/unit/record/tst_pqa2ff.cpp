@@ -1,5 +1,5 @@
 #include "settings/config_data.h"
-#include "fakepqa2device.h"
+#include "fakepqa2file.h"
 #include "platform/clock.h"
 #include "platform/target.h"
 #include "record/pqa2info.h"
@@ -62,21 +62,6 @@ private slots:
 };
 
 namespace {
-
-/// A writer on a file in memory.
-struct Fake
-{
-    Fake()
-    {
-        auto owned = std::make_unique<FakePqa2Device>(&state);
-        device = owned.get();
-        file = std::make_unique<Pqa2FF>(std::move(owned));
-    }
-    int open() { return file->open(QStringLiteral("/mnt/storage/x.pqa2")); }
-    FakePqa2Device::State state;
-    FakePqa2Device *device;
-    std::unique_ptr<Pqa2FF> file;
-};
 
 QByteArray fileBytes(const QString &boardPath)
 {
@@ -150,7 +135,7 @@ void TstPqa2FF::workedExampleOfThePageIsWhatIsWritten()
     QByteArray documented;
     for (auto match = line.globalMatch(example); match.hasNext();)
         documented += QByteArray::fromHex(match.next().captured(1).toLatin1());
-    Fake fake;
+    FakePqa2File fake;
     QVERIFY(fake.open());
     fake.file->addSystemLog("Lost some data!");
     fake.file->addBlankBlock();
@@ -199,7 +184,7 @@ void TstPqa2FF::pageNamesEveryKindOfBlock()
 
 void TstPqa2FF::blockOfThreeBytesTakesSixteenAndTheNextIsAligned()
 {
-    Fake fake;
+    FakePqa2File fake;
     QVERIFY(fake.open());
     const int before = fake.state.content.size();
     QCOMPARE(before % 4, 0);
@@ -215,7 +200,7 @@ void TstPqa2FF::blockOfThreeBytesTakesSixteenAndTheNextIsAligned()
 
 void TstPqa2FF::emptyPayloadMakesABlockOfSizeZero()
 {
-    Fake fake;
+    FakePqa2File fake;
     QVERIFY(fake.open());
     QCOMPARE(fake.file->addDataBlock(Pqa2DBType(0x5000), QByteArray()), 0);
     QCOMPARE(fake.file->addBlankBlock(), 0);
@@ -229,7 +214,7 @@ void TstPqa2FF::emptyPayloadMakesABlockOfSizeZero()
 
 void TstPqa2FF::systemLogHoldsTimeAndText()
 {
-    Fake fake;
+    FakePqa2File fake;
     QVERIFY(fake.open());
     Clock::setForTest(0x0102030405060708LL);
     QCOMPARE(fake.file->addSystemLog("Lost some data!"), 0);
@@ -288,7 +273,7 @@ void TstPqa2FF::channelFactorsStandVoltageCurrentPower()
 
 void TstPqa2FF::closedFileTakesBlocksAndStoresNothing()
 {
-    Fake fake;
+    FakePqa2File fake;
     const _pqa2_data_block raw = { 0, 0x5000, 3, "abc" };
     QCOMPARE(fake.file->addDataBlock(Pqa2DBType(0x5000), "abc", 3), 0);
     QCOMPARE(fake.file->addDataBlock(Pqa2DBType(0x5000), QByteArray("abc")), 0);
@@ -304,7 +289,7 @@ void TstPqa2FF::closedFileTakesBlocksAndStoresNothing()
 
 void TstPqa2FF::openNeedsPathRoomAndAFile()
 {
-    Fake fake;
+    FakePqa2File fake;
     QCOMPARE(fake.file->open(), 0); // no path
     QVERIFY(fake.state.calls.isEmpty());
     fake.state.free = 49.99f;
@@ -339,7 +324,7 @@ void TstPqa2FF::reopeningTruncates()
 
 void TstPqa2FF::blockNeedsFiveMegabytes()
 {
-    Fake fake;
+    FakePqa2File fake;
     QVERIFY(fake.open());
     const int before = fake.state.content.size();
     fake.state.free = 4.99f;
@@ -355,7 +340,7 @@ void TstPqa2FF::blockNeedsFiveMegabytes()
 
 void TstPqa2FF::badSizesAreRefused()
 {
-    Fake fake;
+    FakePqa2File fake;
     QVERIFY(fake.open());
     const QByteArray before = fake.state.content;
     QCOMPARE(fake.file->addDataBlock(Pqa2DBType(1), "abc", -1), -1);
@@ -370,7 +355,7 @@ void TstPqa2FF::badSizesAreRefused()
 
 void TstPqa2FF::callsComeInTheirOrder()
 {
-    Fake fake;
+    FakePqa2File fake;
     QVERIFY(fake.open());
     QCOMPARE(fake.state.calls.mid(0, 5),
              (QStringList { "free", "open", "write 0+24", "free", fake.state.calls.at(4) }));
@@ -386,7 +371,7 @@ void TstPqa2FF::callsComeInTheirOrder()
 
 void TstPqa2FF::flushAndCloseWriteOut()
 {
-    Fake fake;
+    FakePqa2File fake;
     QVERIFY(fake.open());
     fake.state.calls.clear();
     fake.file->flush();
@@ -397,7 +382,7 @@ void TstPqa2FF::flushAndCloseWriteOut()
 
 void TstPqa2FF::aFlushBehindIsBegunOnlyForWhatWasWritten()
 {
-    Fake fake;
+    FakePqa2File fake;
     QVERIFY(fake.open());
     fake.file->flushBehind();
     fake.file->flushBehind(); // nothing new
@@ -413,7 +398,7 @@ void TstPqa2FF::aFlushBehindIsBegunOnlyForWhatWasWritten()
 void TstPqa2FF::everyPrefixAndTornWriteLeavesWholeBlocks()
 {
     constexpr int kBlocks = 200;
-    Fake fake;
+    FakePqa2File fake;
     QVERIFY(fake.open());
     writeRun(*fake.file, kBlocks);
     QByteArray image;
@@ -446,7 +431,7 @@ void TstPqa2FF::everyFailingWriteLeavesAWholeFile()
     QFETCH(int, taken);
     constexpr int kBlocks = 40;
     for (int failing = 7; failing < 7 + 2 * kBlocks; ++failing) { // the head and the opening blocks make writes 0 to 5
-        Fake fake;
+        FakePqa2File fake;
         QVERIFY(fake.open());
         fake.state.failingWrite = failing;
         fake.state.bytesTaken = taken;
@@ -463,7 +448,7 @@ void TstPqa2FF::everyFailingWriteLeavesAWholeFile()
 
 void TstPqa2FF::fullDiskThatFreesUpLaterGoesOn()
 {
-    Fake fake;
+    FakePqa2File fake;
     QVERIFY(fake.open());
     writeRun(*fake.file, 3);
     const QByteArray before = fake.state.content;
@@ -480,7 +465,7 @@ void TstPqa2FF::fullDiskThatFreesUpLaterGoesOn()
 
 void TstPqa2FF::blockThatCannotBeLinkedIsTakenBack()
 {
-    Fake fake;
+    FakePqa2File fake;
     QVERIFY(fake.open());
     const int end = fake.state.content.size();
     fake.state.failingWrite = fake.state.writeNumber + 1; // the link
@@ -494,7 +479,7 @@ void TstPqa2FF::blockThatCannotBeLinkedIsTakenBack()
 
 void TstPqa2FF::tornTailThatCannotBeCutIsOverwritten()
 {
-    Fake fake;
+    FakePqa2File fake;
     QVERIFY(fake.open());
     fake.state.resizeFails = true;
     fake.state.failingWrite = fake.state.writeNumber;
@@ -576,7 +561,7 @@ void TstPqa2FF::processKilledAtEveryCallLeavesWholeBlocks()
 
 void TstPqa2FF::offsetsReachUpToTheLastLink()
 {
-    Fake fake;
+    FakePqa2File fake;
     QVERIFY(fake.open());
     // Beyond 2^31: a place that a signed offset would not hold.
     fake.device->skip(qint64(0x80000000) - fake.device->pos());
