@@ -68,6 +68,13 @@ QVector<NetworkSetting> JoinSettings::withAuth(const WifiInfo &info, const QStri
     return settings;
 }
 
+QVector<NetworkSetting> JoinSettings::leftToDefault(const WifiInfo &info)
+{
+    if (keyKind(info.flags()).proto)
+        return {};
+    return { { "proto", "WPA RSN", false } };
+}
+
 QByteArray JoinSettings::command(int id, const NetworkSetting &setting)
 {
     const QByteArray &name = setting.name;

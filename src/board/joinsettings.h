@@ -21,6 +21,9 @@ namespace JoinSettings {
 QVector<NetworkSetting> withoutAuth(const WifiInfo &info);
 /// A network with a password; the kind of key follows from its flags. 64 characters are a raw hexadecimal key.
 QVector<NetworkSetting> withAuth(const WifiInfo &info, const QString &password);
+/// What a stored network may hold of what it was before, and withAuth() leaves alone: the daemon's default instead.
+/// Nothing where withAuth() says it all.
+QVector<NetworkSetting> leftToDefault(const WifiInfo &info);
 
 /// The command that stores a value: "SET_NETWORK 0 ssid "name"". A name that quotes cannot carry safely (quotes,
 /// backslashes, anything but printable ASCII) goes as hexadecimal digits, which the daemon takes for this field. Empty

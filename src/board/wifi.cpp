@@ -247,6 +247,15 @@ void Wifi::configNetworkWithAuth(int id, const WifiInfo &info, const QString &pa
     configure(id, JoinSettings::withAuth(info, password), 0, context, std::move(done));
 }
 
+void Wifi::forgetFormerKind(int id, const WifiInfo &info, QObject *context, Done done)
+{
+    const QVector<NetworkSetting> settings = JoinSettings::leftToDefault(info);
+    if (settings.isEmpty())
+        QTimer::singleShot(0, context, [done] { done(true); });
+    else
+        configure(id, settings, 0, context, std::move(done));
+}
+
 void Wifi::addSsid(const WifiInfo &info, const QString &password, QObject *context, Number done)
 {
     // The steps run to their end even when the asker is gone: a half-configured network must not stay behind.

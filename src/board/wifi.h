@@ -77,6 +77,8 @@ public:
     /// The same with a password; see JoinSettings::withAuth.
     static void configNetworkWithAuth(int id, const WifiInfo &info, const QString &password, QObject *context,
                                       Done done);
+    /// A stored network takes the daemon's defaults for what its router no longer asks for.
+    static void forgetFormerKind(int id, const WifiInfo &info, QObject *context, Done done);
     /// Adds and configures a network and answers its number; an empty password: a network without one. What could not
     /// be configured is removed again.
     static void addSsid(const WifiInfo &info, const QString &password, QObject *context, Number done);

@@ -144,11 +144,14 @@ void wlanSettingDialog::connect2wifi(const WifiInfo &info, const QString &passwo
         const Wifi::Done configured = [number, join](bool ok) { join(ok ? number : -1); };
         if (number < 0)
             Wifi::addSsid(info, password, context, join);
-        else if (!password.isEmpty())
-            Wifi::configNetworkWithAuth(number, info, password, context, configured);
-        else if (isSecured(info))
-            join(number);
-        else
+        else if (!isSecured(info) && password.isEmpty())
             Wifi::configNetworkNoAuth(number, info, context, configured);
+        else
+            Wifi::forgetFormerKind(number, info, context, [=](bool ok) {
+                if (ok && !password.isEmpty())
+                    Wifi::configNetworkWithAuth(number, info, password, context, configured);
+                else
+                    configured(ok);
+            });
     });
 }

@@ -29,6 +29,7 @@ private slots:
     void passwordsSurviveTheFile_data();
     void passwordsSurviveTheFile();
     void refusedPasswordLeavesNoNetwork();
+    void storedNetworkForgetsWhatItsRouterWasBefore();
     void hostileNamesSurviveTheFile();
     void stoppedDaemonStopsNoTimer();
     void restartedDaemonIsFoundAgain();
@@ -246,6 +247,22 @@ void TstWirelessDaemon::passwordsSurviveTheFile()
         readFileAgain();
         QCOMPARE(numberOf("Hall"), 0);
     }
+}
+
+void TstWirelessDaemon::storedNetworkForgetsWhatItsRouterWasBefore()
+{
+    QCOMPARE(addNetwork("Hall", kSecured, QStringLiteral("password")), 0);
+    QVERIFY(save());
+    QVERIFY2(configuration().contains("\tproto=RSN\n"), configuration().constData()); // as it calls the second kind
+    WifiInfo now;
+    now.setSsid(QStringLiteral("Hall"));
+    now.setFlags(QStringLiteral("[WPA-PSK-TKIP][ESS]"));
+    int forgotten = -1;
+    Wifi::forgetFormerKind(0, now, this, [&forgotten](bool ok) { forgotten = ok; });
+    QTRY_COMPARE(forgotten, 1);
+    QVERIFY(save());
+    QVERIFY2(!configuration().contains("\tproto="), configuration().constData()); // its default is not written
+    QVERIFY(configuration().contains("\tpsk=\"password\"\n"));
 }
 
 void TstWirelessDaemon::refusedPasswordLeavesNoNetwork()

@@ -36,6 +36,7 @@ private slots:
     void cancelledPasswordJoinsNothing();
     void storedNetworkNeedsNoPassword();
     void storedNetworkTakesANewPassword();
+    void storedNetworkFollowsARouterOfTheFirstGeneration();
     void refusedPasswordSelectsNothing();
     void hiddenNetworkAsksForItsName();
     void hiddenNetworkWithoutANameIsRefused();
@@ -297,6 +298,27 @@ void TstUserWifiPage::storedNetworkTakesANewPassword()
     QVERIFY(!changes().contains("ADD_NETWORK"));
     QVERIFY(changes().contains("SET_NETWORK 3 psk \"other-one\""));
     QVERIFY(changes().contains("SELECT_NETWORK 3"));
+}
+
+void TstUserWifiPage::storedNetworkFollowsARouterOfTheFirstGeneration()
+{
+    // What was stored while the router was of the second one would never join it again.
+    m_daemon->answers["LIST_NETWORKS"] = "network id / ssid / bssid / flags\n3\tHall\tany\t\n";
+    openWith({ network("Hall", "[WPA-PSK-TKIP][ESS]") });
+    {
+        DialogDriver driver({ [](QDialog *dialog) {
+            QTRY_COMPARE(labelText(dialog, "password"), QStringLiteral("(stored)"));
+            QTest::keyClick(dialog, 'F');
+        } });
+        press(F4);
+    }
+    const QByteArray reset = "SET_NETWORK 3 proto WPA RSN"; // the daemon's default
+    QTRY_COMPARE(changes(), (QVector<QByteArray> { reset, "SELECT_NETWORK 3", "SAVE_CONFIG" }));
+    DialogDriver driver({ DialogDriver::press("K"), type(QStringLiteral("other-one")), DialogDriver::press("F") });
+    press(F4);
+    QTRY_COMPARE(changes().count("SAVE_CONFIG"), 2);
+    QCOMPARE(changes().count(reset), 2);
+    QCOMPARE(changes().count("SET_NETWORK 3 psk \"other-one\""), 1);
 }
 
 void TstUserWifiPage::refusedPasswordSelectsNothing()
