@@ -62,6 +62,20 @@ QVector<Page> setUpOfASite()
     };
 }
 
+/// A week is recorded, as docs/user-guide.md does it.
+QVector<Page> recordingOfASite()
+{
+    constexpr int kHours = 7 * 24 - 2; // two are offered at first
+    const QString week = QStringLiteral("Down") + QStringLiteral(" Right").repeated(kHours) + QStringLiteral(": week");
+    return {
+        fromMenu("site-recording", "logger",
+                 { week, "Down Right Right: interval",
+                   "F2 F2 Down Down Down Right Enter Down Enter Down Enter Left Enter Down Enter Right Enter: params",
+                   "F4 F5: running", "F5: question" },
+                 "F1", true, false),
+    };
+}
+
 /// The editors of clamps and limits; they know neither wiring nor frequency.
 QVector<Page> setupEditors()
 {
@@ -157,7 +171,7 @@ const QVector<Page> &galleryPages()
                 "F3: calibration-runs", "F5: calibration-question", "F4: left" },
               "", true, kOneWiring)),
         byKey("memory", "F10", { "message" }, "F5", true, kOneWiring),
-    } + setupEditors() + setUpOfASite();
+    } + setupEditors() + setUpOfASite() + recordingOfASite();
     return pages;
 }
 
