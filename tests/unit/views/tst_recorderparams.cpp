@@ -1,5 +1,7 @@
 #include "recordercase.h"
 
+#include "unit/documentpage.h"
+
 #include <QSignalSpy>
 
 using namespace RecorderCase;
@@ -60,6 +62,7 @@ private slots:
     void at400HzHighOrdersAndFlickerAreGreyAndStayAsTheyWere();
     void cursorWalksThroughLinesAndColumns();
     void captionsOfTheLines();
+    void documentTellsTheBoxes();
     void otherKeysDoNothing_data() { addFamilies(); }
     void otherKeysDoNothing();
     void choiceChangesTheRoomThatTheSetupTells();
@@ -231,6 +234,20 @@ void TstRecorderParams::captionsOfTheLines()
              QStringList({ "Values", "Power", "Quality", "U Harmonics", "I Harmonics", "U Interharm.", "I Interharm.",
                            "Signaling" }));
     QCOMPARE(text(paramOf(*page), "title"), QStringLiteral("Params"));
+}
+
+void TstRecorderParams::documentTellsTheBoxes()
+{
+    auto page = openFamily(false);
+    const QVector<QStringList> table
+        = DocumentPage(QStringLiteral("recorder-pages.md")).table(QStringLiteral("## What the boxes stand for"));
+    QCOMPARE(table.size(), 8);
+    for (int line = 0; line < table.size(); ++line) {
+        QStringList shown { text(paramOf(*page), QStringLiteral("line_%1").arg(line + 1)) };
+        for (int at = 2 * line; at < 2 * line + 2; ++at)
+            shown << (at < int(std::size(kBoxes)) ? box(paramOf(*page), kBoxes[at].name)->text() : QString());
+        QCOMPARE(table[line], shown);
+    }
 }
 
 void TstRecorderParams::otherKeysDoNothing()
