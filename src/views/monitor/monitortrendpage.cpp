@@ -51,7 +51,7 @@ const Quantity kDistortion {
     [] { return QStringLiteral("THD(%)"); }, MonitorTrendThd, 0, 1, 0, unscaled, zero, percent, "___.__%",
 };
 const Quantity kFlicker {
-    [] { return QStringLiteral("Plt"); }, MonitorTrendPlt, 0, 1, 0, unscaled, zero, F_to_Str::number_2, "__.__",
+    [] { return QStringLiteral("Plt"); }, MonitorTrendPlt, 0, 1, 0, unscaled, zero, F_to_Str::number_2, "__.__", 12,
 };
 const Quantity kUnbalance {
     [] { return MonitorTrendPage::tr("Unbalance(%)"); },
@@ -63,14 +63,15 @@ const Quantity kUnbalance {
     zero,
     percent,
     "___.__%",
+    1,
     true,
 };
 const Quantity kFrequency {
     [] { return MonitorTrendPage::tr("Freq(Hz)"); },
     MonitorTrendFrequency,
     kSingleSecond,
+    0.1,
     1,
-    0,
     unscaled,
     [] { return float(m_settingConfig_g.getNomFreq()); },
     [](float value) { return F_to_Str::number_F(value) + QStringLiteral("Hz"); },
@@ -191,11 +192,12 @@ void MonitorTrendPage::showTrend()
     m_chart->setFullScale(MonitorTrend::axisLabels(zoom().hours));
     m_chart->setLimits(QString::number(scale.max * factor, 'f', shown.decimals),
                        QString::number(scale.min * factor, 'f', shown.decimals));
+    const double valuesPerPoint = double(zoom().step) / shown.intervals;
     QVector<qint16> series[kMonitorPhases];
     __trend_chart_data picture {};
     for (int i = 0; i < kMonitorPhases; ++i) {
         if (i < curves)
-            series[i] = MonitorTrend::offsets(rows[i], double(zoom().step), shown.reference(), scale);
+            series[i] = MonitorTrend::offsets(rows[i], valuesPerPoint, shown.reference(), scale);
         picture.series[i] = &series[i];
         const auto place = std::size_t(i);
         setText(m_labels.values[place],

@@ -34,6 +34,7 @@ public:
         float (*reference)(); // the value farthest from it stands for those that share a point
         QString (*text)(float); // of a value, with its unit
         const char *placeholder; // in place of a value that is not there yet
+        int intervals = 1; // of ten minutes that a value stands for
         bool threePhasesOnly = false;
     };
 
