@@ -76,7 +76,7 @@ bool Gallery::runVariant(int wiring, int frequency, const QString &language, boo
     }
     QString item = QLatin1String(kFirstItem);
     for (const Page &page : galleryPages()) {
-        const bool wanted = m_options.pages.isEmpty() || m_options.pages.contains(page.name);
+        const bool wanted = m_options.pages.isEmpty() ? !page.onRequest : m_options.pages.contains(page.name);
         if (!wanted || (!page.everyWiring && !isFirst) || (!page.at400Hz && frequency == 400))
             continue;
         if (!showPage(desk, page, variant, frequency == 400, &item)) {
@@ -122,10 +122,22 @@ bool Gallery::showPage(DeskInstrument &desk, const Page &page, const QString &va
     if (!desk.press(way))
         return false;
     for (const Shot &shot : page.shots) {
-        if (!desk.press(shot.keys) || !take(desk, page, shot.name, variant))
+        if (!press(desk, shot.keys) || !take(desk, page, shot.name, variant))
             return false;
     }
     return desk.press(page.leave) && desk.press({ QStringLiteral("F7") });
+}
+
+bool Gallery::press(DeskInstrument &desk, const QStringList &keys)
+{
+    static const QString wait = QStringLiteral("Wait");
+    for (const QString &key : keys) {
+        if (key.startsWith(wait))
+            QThread::sleep(key.midRef(wait.size()).toULong());
+        else if (!desk.press({ key }))
+            return false;
+    }
+    return true;
 }
 
 bool Gallery::take(DeskInstrument &desk, const Page &page, const QString &shot, const QString &variant)

@@ -34,6 +34,7 @@ private:
     bool runVariant(int wiring, int frequency, const QString &language, bool isFirst);
     bool warmUp(DeskInstrument &desk);
     bool showPage(DeskInstrument &desk, const Page &page, const QString &variant, bool at400Hz, QString *item);
+    static bool press(DeskInstrument &desk, const QStringList &keys);
     bool take(DeskInstrument &desk, const Page &page, const QString &shot, const QString &variant);
 
     GalleryOptions m_options;

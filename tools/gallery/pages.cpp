@@ -49,6 +49,17 @@ Page endingMeasurement(Page page)
     return page;
 }
 
+/// Two hours of a monitor, as docs/user-guide.md does it.
+Page monitorOfASite()
+{
+    Page page = byKey("site-monitor", "F8",
+                      { "setup", "F5 Left Left Left Wait7260: overview", "F2 Right Right Right Right: harmonics",
+                        "F5 F4: dips", "F3: trend" },
+                      "", false, false);
+    page.onRequest = true;
+    return page;
+}
+
 /// A site set up from the factory's settings, as docs/user-guide.md does it.
 QVector<Page> setUpOfASite()
 {
@@ -59,6 +70,7 @@ QVector<Page> setUpOfASite()
                                   "Up Right Down Right Right Right Right: neutral", "F4: ready" },
                                 "", true, false)),
         fromMenu("site-values", "vif", { "measuring" }, "", true, false),
+        endingMeasurement(monitorOfASite()),
     };
 }
 

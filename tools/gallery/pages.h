@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QVector>
 
-/// One picture: the keys that lead to it from the picture before, and its name.
+/// One picture: the keys that lead to it from the picture before, and its name. "Wait<seconds>" among the keys waits.
 struct Shot
 {
     QStringList keys;
@@ -22,6 +22,7 @@ struct Page
     bool at400Hz; // false: the function does not exist at 400 Hz
     bool everyWiring; // false: looks the same in all wirings, so that one is enough
     bool endsMeasurement = false; // a running measurement is ended before, so that no question stands in front
+    bool onRequest = false; // takes hours: only when it is asked for by name
 };
 
 /// All functions, in the order of the menu.

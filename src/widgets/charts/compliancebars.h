@@ -7,8 +7,8 @@
 /// One bar of a compliance histogram.
 struct ComplianceBar
 {
-    float limit = 0; // value in percent of the limit
-    float allowed = 0; // time outside in percent of the time allowed
+    float limit = 0; // value in percent of the limit that holds for all the time
+    float allowed = 0; // value in percent of the limit that may be broken for the time allowed
 };
 
 /// What both compliance histograms share: the two scales, their lines and legends, the double bars, the cursor. The

@@ -1,7 +1,10 @@
 #include "pagetest.h"
 #include "settings/monitorinfo.h"
+#include "settings/phasecolor.h"
+#include "unit/documentpage.h"
 #include "views/monitor/monitoreventpage.h"
 #include "views/monitor/monitorpage.h"
+#include "views/monitor/monitortrend.h"
 #include "views/monitor/monitortrendpage.h"
 #include "widgets/charts/monitortrendchart.h"
 #include "widgets/controls/eventswidget.h"
@@ -40,7 +43,12 @@ private slots:
     void withoutThreePhasesOnlyTheFrequencyIsThere();
     void axisReads21hTo3hAtTheFinestZoom();
     void zoomKeysStepThroughTheRows();
+    void aFlickerValueCoversTwoHours();
     void heldTrendsStay();
+
+    // document
+    void softKeysAreThoseOfTheDocument();
+    void zoomsAreThoseOfTheDocument();
 
 private:
     template <typename P> P *page() { return m_page->findChild<P *>(); }
@@ -309,6 +317,25 @@ void TstMonitorEvents::zoomKeysStepThroughTheRows()
     QCOMPARE(MonitorInfo::m_zoom_index, 3);
 }
 
+void TstMonitorEvents::aFlickerValueCoversTwoHours()
+{
+    for (const float value : { 0.9f, 0.1f })
+        live().monitorTrend.append(MonitorTrendPlt, value);
+    m_page->updateDisplay(nullptr);
+    auto *trend = page<MonitFlickTrePage>();
+    const QImage picture = chart(trend)->grab().toImage();
+    const QRgb color = PhaseColor::colorA().rgb();
+    int first = picture.width();
+    for (int x = 584; x > 80; --x) { // without the letters left of the frame and the flag
+        for (int y = 1; y < 101; ++y) {
+            if (picture.pixel(x, y) == color)
+                first = x;
+        }
+    }
+    // The plot ends at 601 - 520 + 506; twice 12 ten-minute steps of four points each.
+    QCOMPARE(first, 587 - 96);
+}
+
 void TstMonitorEvents::heldTrendsStay()
 {
     live().monitorTrend.append(MonitorTrendFrequency, 50.5f);
@@ -321,6 +348,35 @@ void TstMonitorEvents::heldTrendsStay()
     continueRun(*m_page);
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(trend, "D1_Value"), QStringLiteral("49.50Hz"));
+}
+
+void TstMonitorEvents::softKeysAreThoseOfTheDocument()
+{
+    const auto rows = DocumentPage(QStringLiteral("monitor-pages.md")).table(QStringLiteral("## Pages"));
+    QCOMPARE(rows.size(), m_page->pageCount());
+    for (int i = 0; i < rows.size(); ++i) {
+        const LivePage *page = m_page->page(i);
+        QCOMPARE(QString::fromLatin1(page->metaObject()->className()), rows.at(i).at(0));
+        QStringList keys;
+        for (int key = 1; key <= 5; ++key) {
+            const auto *label = page->findChild<QLabel *>(QStringLiteral("btn_f%1").arg(key));
+            const auto *button = dynamic_cast<const SoftKeyButton *>(label);
+            keys << (button ? button->texts().join(QLatin1Char(' ')) : label->text());
+        }
+        keys.removeAll(QString());
+        QCOMPARE(keys.join(QStringLiteral(", ")), rows.at(i).at(2));
+    }
+}
+
+void TstMonitorEvents::zoomsAreThoseOfTheDocument()
+{
+    const auto rows = DocumentPage(QStringLiteral("monitor-pages.md")).table(QStringLiteral("## Trends"));
+    QCOMPARE(rows.size(), 4);
+    for (int i = 0; i < rows.size(); ++i) {
+        const QStringList axis = MonitorTrend::axisLabels(MonitorInfo::m_zoom_time[3 - i].hours);
+        QCOMPARE(rows.at(i).at(0), QStringLiteral("%1 h").arg(MonitorInfo::m_zoom_time[3 - i].hours));
+        QCOMPARE(rows.at(i).at(2), axis.first() + QStringLiteral(" to ") + axis.last());
+    }
 }
 
 PAGE_TEST_MAIN(TstMonitorEvents)
