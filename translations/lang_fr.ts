@@ -1049,6 +1049,18 @@ réseau</translation>
         <source>Unbal., Hz</source>
         <translation>Déséq., Hz</translation>
     </message>
+    <message>
+        <source>Waiting</source>
+        <translation>En attente</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>En cours</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Terminé</translation>
+    </message>
 </context>
 <context>
     <name>MonitorBarsPage</name>
@@ -1057,8 +1069,8 @@ réseau</translation>
         <translation>Dans les limites</translation>
     </message>
     <message>
-        <source>Outside the limits</source>
-        <translation>Hors limites</translation>
+        <source>Limit exceeded</source>
+        <translation>Limite dépassée</translation>
     </message>
 </context>
 <context>

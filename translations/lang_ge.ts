@@ -1049,6 +1049,18 @@ signale</translation>
         <source>Unbal., Hz</source>
         <translation>Unsym., Hz</translation>
     </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Wartet</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>Läuft</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Beendet</translation>
+    </message>
 </context>
 <context>
     <name>MonitorBarsPage</name>
@@ -1057,8 +1069,8 @@ signale</translation>
         <translation>Innerhalb der Grenzen</translation>
     </message>
     <message>
-        <source>Outside the limits</source>
-        <translation>Außerhalb der Grenzen</translation>
+        <source>Limit exceeded</source>
+        <translation>Grenzwert überschritten</translation>
     </message>
 </context>
 <context>

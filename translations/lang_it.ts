@@ -1049,6 +1049,18 @@ in rete</translation>
         <source>Unbal., Hz</source>
         <translation>Squil., Hz</translation>
     </message>
+    <message>
+        <source>Waiting</source>
+        <translation>In attesa</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>In corso</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Terminato</translation>
+    </message>
 </context>
 <context>
     <name>MonitorBarsPage</name>
@@ -1057,8 +1069,8 @@ in rete</translation>
         <translation>Entro i limiti</translation>
     </message>
     <message>
-        <source>Outside the limits</source>
-        <translation>Fuori dai limiti</translation>
+        <source>Limit exceeded</source>
+        <translation>Limite superato</translation>
     </message>
 </context>
 <context>

@@ -1049,6 +1049,18 @@ Signaling</source>
         <source>Unbal., Hz</source>
         <translation>不平衡, Hz</translation>
     </message>
+    <message>
+        <source>Waiting</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>測定中</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>完了</translation>
+    </message>
 </context>
 <context>
     <name>MonitorBarsPage</name>
@@ -1057,8 +1069,8 @@ Signaling</source>
         <translation>限度内</translation>
     </message>
     <message>
-        <source>Outside the limits</source>
-        <translation>限度外</translation>
+        <source>Limit exceeded</source>
+        <translation>限度超過</translation>
     </message>
 </context>
 <context>

@@ -1049,6 +1049,18 @@ Signaling</source>
         <source>Unbal., Hz</source>
         <translation>불평형, Hz</translation>
     </message>
+    <message>
+        <source>Waiting</source>
+        <translation>대기 중</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>실행 중</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>완료</translation>
+    </message>
 </context>
 <context>
     <name>MonitorBarsPage</name>
@@ -1057,7 +1069,7 @@ Signaling</source>
         <translation>한계 이내</translation>
     </message>
     <message>
-        <source>Outside the limits</source>
+        <source>Limit exceeded</source>
         <translation>한계 초과</translation>
     </message>
 </context>

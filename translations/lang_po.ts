@@ -1049,6 +1049,18 @@ w sieci</translation>
         <source>Unbal., Hz</source>
         <translation>Asym., Hz</translation>
     </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Oczekuje</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>Trwa</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Zakończone</translation>
+    </message>
 </context>
 <context>
     <name>MonitorBarsPage</name>
@@ -1057,8 +1069,8 @@ w sieci</translation>
         <translation>W granicach</translation>
     </message>
     <message>
-        <source>Outside the limits</source>
-        <translation>Poza granicami</translation>
+        <source>Limit exceeded</source>
+        <translation>Przekroczony limit</translation>
     </message>
 </context>
 <context>

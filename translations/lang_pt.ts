@@ -1049,6 +1049,18 @@ na rede</translation>
         <source>Unbal., Hz</source>
         <translation>Deseq., Hz</translation>
     </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Em espera</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>Em curso</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Concluído</translation>
+    </message>
 </context>
 <context>
     <name>MonitorBarsPage</name>
@@ -1057,8 +1069,8 @@ na rede</translation>
         <translation>Dentro dos limites</translation>
     </message>
     <message>
-        <source>Outside the limits</source>
-        <translation>Fora dos limites</translation>
+        <source>Limit exceeded</source>
+        <translation>Limite excedido</translation>
     </message>
 </context>
 <context>

@@ -1049,6 +1049,18 @@ Signaling</source>
         <source>Unbal., Hz</source>
         <translation>Несим., Гц</translation>
     </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Ожидание</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>Измерение</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Завершено</translation>
+    </message>
 </context>
 <context>
     <name>MonitorBarsPage</name>
@@ -1057,8 +1069,8 @@ Signaling</source>
         <translation>В пределах</translation>
     </message>
     <message>
-        <source>Outside the limits</source>
-        <translation>Вне пределов</translation>
+        <source>Limit exceeded</source>
+        <translation>Предел превышен</translation>
     </message>
 </context>
 <context>

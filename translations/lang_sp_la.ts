@@ -1049,6 +1049,18 @@ en la red</translation>
         <source>Unbal., Hz</source>
         <translation>Deseq., Hz</translation>
     </message>
+    <message>
+        <source>Waiting</source>
+        <translation>En espera</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>En marcha</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Terminado</translation>
+    </message>
 </context>
 <context>
     <name>MonitorBarsPage</name>
@@ -1057,8 +1069,8 @@ en la red</translation>
         <translation>Dentro de límites</translation>
     </message>
     <message>
-        <source>Outside the limits</source>
-        <translation>Fuera de límites</translation>
+        <source>Limit exceeded</source>
+        <translation>Límite superado</translation>
     </message>
 </context>
 <context>

@@ -1049,6 +1049,18 @@ sinyalleri</translation>
         <source>Unbal., Hz</source>
         <translation>Dengesiz., Hz</translation>
     </message>
+    <message>
+        <source>Waiting</source>
+        <translation>Bekliyor</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>Çalışıyor</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>Bitti</translation>
+    </message>
 </context>
 <context>
     <name>MonitorBarsPage</name>
@@ -1057,8 +1069,8 @@ sinyalleri</translation>
         <translation>Sınırlar içinde</translation>
     </message>
     <message>
-        <source>Outside the limits</source>
-        <translation>Sınırların dışında</translation>
+        <source>Limit exceeded</source>
+        <translation>Sınır aşıldı</translation>
     </message>
 </context>
 <context>

@@ -1049,6 +1049,18 @@ Signaling</source>
         <source>Unbal., Hz</source>
         <translation>不平衡, Hz</translation>
     </message>
+    <message>
+        <source>Waiting</source>
+        <translation>等待中</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>运行中</translation>
+    </message>
+    <message>
+        <source>Finished</source>
+        <translation>已结束</translation>
+    </message>
 </context>
 <context>
     <name>MonitorBarsPage</name>
@@ -1057,7 +1069,7 @@ Signaling</source>
         <translation>在限值内</translation>
     </message>
     <message>
-        <source>Outside the limits</source>
+        <source>Limit exceeded</source>
         <translation>超出限值</translation>
     </message>
 </context>

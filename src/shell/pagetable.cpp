@@ -75,6 +75,7 @@ FunctionPage *makeMonitor(TaskLinks &links, const LiveData &data)
     auto *page = new MonitorPage(data);
     QObject::connect(page, &MonitorPage::startMonitorTask, &links,
                      [&links] { emit links.startWanted(AbstractTask::UniMonitor, UI_MONITOR); });
+    QObject::connect(&links, &TaskLinks::ended, page, &MonitorPage::runEnded);
     // The set says at which frequencies the processor looks for mains signals.
     QObject::connect(page, &MonitorPage::limitsChanged, &links, &DeviceInit::initAnalogDevice2);
     QObject::connect(page, &MonitorPage::limitsChanged, &links, &ModbusPublisher::publishSettings);

@@ -113,6 +113,23 @@ QProcessEnvironment DeskInstrument::environment() const
     return environment;
 }
 
+bool DeskInstrument::setSpeed(int times)
+{
+    // The packages put it below the folder of the machine's kind.
+    const QString libraries = QStringLiteral("/usr/lib/");
+    const QStringList kinds = QDir(libraries).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    m_clock.clear();
+    for (const QString &kind : kinds) {
+        const QString file = libraries + kind + QStringLiteral("/faketime/libfaketimeMT.so.1");
+        if (QFileInfo::exists(file))
+            m_clock = file;
+    }
+    if (m_clock.isEmpty())
+        m_error = QStringLiteral("faketime is not installed");
+    m_speed = times;
+    return !m_clock.isEmpty();
+}
+
 bool DeskInstrument::startProcessor(const QStringList &arguments)
 {
     const QString node = path(QStringLiteral("/dev/mcasp"));
@@ -121,8 +138,10 @@ bool DeskInstrument::startProcessor(const QStringList &arguments)
     m_processor.setProcessChannelMode(QProcess::MergedChannels);
     m_processor.setStandardOutputFile(m_root + QLatin1String(kProcessorLog), QIODevice::Append);
     m_processor.setStandardInputFile(QProcess::nullDevice());
-    m_processor.start(m_binDir + QStringLiteral("/quvera-processor"),
-                      QStringList { QStringLiteral("--root"), m_root } + arguments);
+    m_processor.start(
+        m_binDir + QStringLiteral("/quvera-processor"),
+        QStringList { QStringLiteral("--root"), m_root, QStringLiteral("--speed"), QString::number(m_speed) }
+            + arguments);
     const bool stands = m_processor.waitForStarted(kStartMs)
         && waitUntil(
                             [&] {
@@ -139,7 +158,12 @@ bool DeskInstrument::startProcessor(const QStringList &arguments)
 
 bool DeskInstrument::startInstrument()
 {
-    m_instrument.setProcessEnvironment(environment());
+    QProcessEnvironment instrumentEnvironment = environment();
+    if (m_speed != 1) {
+        instrumentEnvironment.insert(QStringLiteral("LD_PRELOAD"), m_clock);
+        instrumentEnvironment.insert(QStringLiteral("FAKETIME"), QStringLiteral("+0 x%1").arg(m_speed));
+    }
+    m_instrument.setProcessEnvironment(instrumentEnvironment);
     m_instrument.setProcessChannelMode(QProcess::MergedChannels);
     m_instrument.setStandardOutputFile(m_root + QLatin1String(kInstrumentLog), QIODevice::Append);
     m_instrument.setStandardInputFile(QProcess::nullDevice());

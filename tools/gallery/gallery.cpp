@@ -66,7 +66,7 @@ bool Gallery::runVariant(int wiring, int frequency, const QString &language, boo
     // Without a wish the supply has the nominal frequency, or every page would show a frequency that is lost.
     const QString nominal = frequency == 50 ? QStringLiteral("nominal") : QStringLiteral("nominal-%1").arg(frequency);
     arguments << QStringLiteral("--scenario") << (m_options.scenario.isEmpty() ? nominal : m_options.scenario);
-    if (!desk.start(arguments)) {
+    if ((m_options.speed != 1 && !desk.setSpeed(m_options.speed)) || !desk.start(arguments)) {
         m_error = desk.error();
         return false;
     }
@@ -128,12 +128,12 @@ bool Gallery::showPage(DeskInstrument &desk, const Page &page, const QString &va
     return desk.press(page.leave) && desk.press({ QStringLiteral("F7") });
 }
 
-bool Gallery::press(DeskInstrument &desk, const QStringList &keys)
+bool Gallery::press(DeskInstrument &desk, const QStringList &keys) const
 {
     static const QString wait = QStringLiteral("Wait");
     for (const QString &key : keys) {
         if (key.startsWith(wait))
-            QThread::sleep(key.midRef(wait.size()).toULong());
+            QThread::msleep(key.midRef(wait.size()).toULong() * 1000 / ulong(m_options.speed));
         else if (!desk.press({ key }))
             return false;
     }

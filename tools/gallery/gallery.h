@@ -16,6 +16,7 @@ struct GalleryOptions
     QStringList languages; // key words of LANG; EN is built in
     int settleMs = 1200; // before each picture: two refreshes of the display
     int warmUpMs = 8000; // with live values before the first picture, so that trends have something to show
+    int speed = 1; // times faster than the clock
     bool sheet = false;
 };
 
@@ -34,7 +35,7 @@ private:
     bool runVariant(int wiring, int frequency, const QString &language, bool isFirst);
     bool warmUp(DeskInstrument &desk);
     bool showPage(DeskInstrument &desk, const Page &page, const QString &variant, bool at400Hz, QString *item);
-    static bool press(DeskInstrument &desk, const QStringList &keys);
+    bool press(DeskInstrument &desk, const QStringList &keys) const;
     bool take(DeskInstrument &desk, const Page &page, const QString &shot, const QString &variant);
 
     GalleryOptions m_options;

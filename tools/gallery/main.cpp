@@ -59,6 +59,7 @@ void addOptions(QCommandLineParser &parser)
         { "scenario", "Scenario file of the processor stand-in.", "file", "" },
         { "settle", "Wait before each picture (default: 1200).", "ms", "1200" },
         { "warm-up", "Live values before the first picture (default: 8000); 0: none.", "ms", "8000" },
+        { "speed", "Let time run so many times faster, with faketime (default: 1).", "times", "1" },
     };
     for (const auto &option : kOptions)
         parser.addOption({ QString::fromLatin1(option.name), QString::fromLatin1(option.text),
@@ -112,6 +113,9 @@ QString readOptions(const QCommandLineParser &parser, const QStringList &pageNam
     options->warmUpMs = parser.value(QStringLiteral("warm-up")).toInt(&isWarmUp);
     if (!isSettle || !isWarmUp || options->settleMs < 0 || options->warmUpMs < 0)
         return QStringLiteral("--settle and --warm-up take ms");
+    options->speed = parser.value(QStringLiteral("speed")).toInt();
+    if (options->speed < 1)
+        return QStringLiteral("--speed is a whole number");
     return {};
 }
 

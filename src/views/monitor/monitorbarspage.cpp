@@ -25,7 +25,7 @@ const struct
     Qt::GlobalColor color;
 } kVerdicts[] = { { "", Qt::white },
                   { QT_TRANSLATE_NOOP("MonitorBarsPage", "Within the limits"), Qt::green },
-                  { QT_TRANSLATE_NOOP("MonitorBarsPage", "Outside the limits"), Qt::red } };
+                  { QT_TRANSLATE_NOOP("MonitorBarsPage", "Limit exceeded"), Qt::red } };
 
 } // namespace
 

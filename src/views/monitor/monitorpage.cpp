@@ -84,6 +84,12 @@ void MonitorPage::start()
     init_parameter();
 }
 
+void MonitorPage::runEnded()
+{
+    if (auto *overview = made<MonitStartPage>(Start))
+        overview->runEnded();
+}
+
 QByteArray MonitorPage::pqaData() const
 {
     const DisplayRecords &records = shown();

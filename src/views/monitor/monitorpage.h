@@ -34,6 +34,10 @@ public:
     void enter() override;
     QByteArray pqaData() const override;
 
+public slots:
+    /// The task has ended; without a run it means nothing.
+    void runEnded();
+
 signals:
     void startMonitorTask();
     /// Another limit set is in use, of which the processor and the plant's master are to know.

@@ -69,14 +69,26 @@ ComplianceBar signalBar(const MonitorView &view)
     return worst;
 }
 
-bool harmonicsPass(const __monitor_data &data, int phase)
+bool harmonicsWithin(const __monitor_data &data, int phase)
 {
     return std::all_of(std::begin(data.harmOk[phase]), std::end(data.harmOk[phase]), [](qint32 ok) { return ok > 0; });
 }
 
-Verdict verdictOf(bool ready, bool passed)
+bool isWithin(const ComplianceBar &bar)
 {
-    return !ready ? None : passed ? Pass : Fail;
+    return bar.limit <= 100.0f && bar.allowed <= 100.0f;
+}
+
+/// Not above the limits of \a tolerance; what is no number is above none.
+template <typename Tolerance> bool isBelow(float value, const Tolerance &tolerance)
+{
+    const bool exceeds = value > tolerance.partial || (tolerance.whole < kLimitNotApplied && value > tolerance.whole);
+    return !exceeds;
+}
+
+Verdict verdictOf(bool ready, bool within)
+{
+    return !ready ? None : within ? Within : Exceeded;
 }
 
 } // namespace
@@ -145,25 +157,25 @@ std::array<ComplianceBar, MonitorHarmHisto::kBars> harmonics(const __monitor_dat
 Verdict verdict(const MonitorView &view, int bar)
 {
     const __monitor_data &data = view.data;
+    const bool inBar = isWithin(histogram(view)[std::size_t(bar)]);
     if (bar < MonitorBarHarmonics)
-        return verdictOf(data.voltReady > 0, data.voltPartialOk[bar] > 0 && data.voltWholeOk[bar] > 0);
-    if (bar < MonitorBarFlicker)
-        return verdictOf(data.voltReady > 0, harmonicsPass(data, bar - MonitorBarHarmonics));
+        return verdictOf(data.voltReady > 0, inBar);
+    if (bar < MonitorBarFlicker) // of which the bar shows the last ten minutes
+        return verdictOf(data.voltReady > 0, inBar && harmonicsWithin(data, bar - MonitorBarHarmonics));
     if (bar < MonitorBarDirs)
-        return verdictOf(data.flickerReady > 0, data.pltOk[bar - MonitorBarFlicker] > 0);
-    const ComplianceBar worst = bar == MonitorBarDirs ? eventBar(view) : signalBar(view);
-    const bool within = worst.limit <= 100.0f && worst.allowed <= 100.0f;
+        return verdictOf(data.flickerReady > 0,
+                         inBar && isBelow(data.pltPercentileAll[bar - MonitorBarFlicker], view.limit.plt));
     switch (bar) {
-    case MonitorBarDirs:
-        return verdictOf(data.freqReady > 0, within);
-    case MonitorBarUnbalance:
-        return verdictOf(data.voltReady > 0, data.unbalOk > 0);
-    case MonitorBarFrequency:
-        return verdictOf(data.freqReady > 0, data.freqPartialOk > 0 && data.freqWholeOk > 0);
+    case MonitorBarUnbalance: {
+        const QList<float> &trend = view.trend.row[MonitorTrendUnbalance];
+        const bool all
+            = std::all_of(trend.begin(), trend.end(), [&view](float value) { return isBelow(value, view.limit.neg); });
+        return verdictOf(data.voltReady > 0, inBar && all);
+    }
     case MonitorBarSignals:
-        return verdictOf(data.voltReady > 0, within);
-    default:
-        return None;
+        return verdictOf(data.voltReady > 0, inBar);
+    default: // events, frequency
+        return verdictOf(data.freqReady > 0, inBar);
     }
 }
 

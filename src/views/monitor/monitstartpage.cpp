@@ -10,6 +10,12 @@ constexpr int kTicksPerStep = 8;
 constexpr int kChartLeft = 20, kChartWidth = 600; // pixels
 constexpr int kFirstCursor = MonitorBarHarmonics; // where the histogram's own stands
 
+constexpr QRect kStatePlace(230, 2, 180, 26);
+/// By MonitStartPage::State; to be translated.
+const char *const kStates[]
+    = { QT_TRANSLATE_NOOP("MonitStartPage", "Waiting"), QT_TRANSLATE_NOOP("MonitStartPage", "Running"),
+        QT_TRANSLATE_NOOP("MonitStartPage", "Finished") };
+
 /// Words below the bars.
 const struct
 {
@@ -30,7 +36,7 @@ const struct
 } // namespace
 
 MonitStartPage::MonitStartPage(const LiveData &data, QWidget *parent)
-    : MonitorBarsPage(data, parent), m_histogram(new MonitorHistogram)
+    : MonitorBarsPage(data, parent), m_histogram(new MonitorHistogram), m_stateLabel(new QLabel(this))
 {
     static const KeyRow<MonitStartPage> keys[] = {
         { Qt::Key_F1, QT_TRANSLATE_NOOP("MonitStartPage", "Vrms"), &MonitStartPage::goMonitorVrm },
@@ -43,6 +49,9 @@ MonitStartPage::MonitStartPage(const LiveData &data, QWidget *parent)
     };
     for (const auto &caption : kCaptions)
         addCaption(QString::fromLatin1(caption.name), kChartLeft + caption.centre, caption.width, 13);
+    m_stateLabel->setObjectName(QStringLiteral("state"));
+    m_stateLabel->setGeometry(kStatePlace);
+    m_stateLabel->setAlignment(Qt::AlignCenter);
     setUpBars(m_histogram, kChartLeft, kChartWidth);
     setCursor(kFirstCursor);
     setKeys(keys);
@@ -54,8 +63,28 @@ void MonitStartPage::refreshEventList(const EventSelection &events)
     updateDisplay(nullptr);
 }
 
+void MonitStartPage::stopWatchChanged(const QString &text)
+{
+    MonitorBarsPage::stopWatchChanged(text);
+    // Before the start the clock counts down.
+    if (m_state == Waiting && !text.startsWith(QLatin1Char('-')))
+        setState(Running);
+}
+
+void MonitStartPage::runEnded()
+{
+    setState(Finished);
+}
+
+void MonitStartPage::setState(State state)
+{
+    m_state = state;
+    setText(m_stateLabel, tr(kStates[state]));
+}
+
 void MonitStartPage::init_parameter()
 {
+    setState(Waiting);
     m_events = {};
     setCursor(kFirstCursor);
     MonitorBarsPage::init_parameter();
@@ -65,6 +94,7 @@ void MonitStartPage::retranslateUi()
 {
     MonitorBarsPage::retranslateUi();
     showCaptions();
+    setState(m_state);
     m_histogram->update(); // its legends
 }
 

@@ -15,10 +15,13 @@ public:
 
     /// The run's events, which the bar of dips, interruptions, rapid changes and swells counts.
     void refreshEventList(const EventSelection &events);
+    /// The run has ended; its results stay.
+    void runEnded();
 
 public slots:
     void init_parameter() override;
     void retranslateUi() override;
+    void stopWatchChanged(const QString &text) override;
 
 signals:
     void goMonitorVrm();
@@ -35,8 +38,13 @@ protected:
     MonitorEventCounts events() const override { return m_events; }
 
 private:
+    enum State { Waiting, Running, Finished };
+
     void showCaptions();
+    void setState(State state);
 
     MonitorHistogram *m_histogram;
+    QLabel *m_stateLabel;
+    State m_state = Waiting;
     MonitorEventCounts m_events;
 };

@@ -27,6 +27,7 @@ private slots:
 private:
     static MonitorPage *monitorPage() { return pageOf<MonitorPage>(UI_MONITOR); }
     static MonitStartPage *overview() { return monitorPage()->findChild<MonitStartPage *>(); }
+    static QString state() { return overview()->findChild<QLabel *>("state")->text(); }
     static void press(Qt::Key letter, int times = 1)
     {
         for (int i = 0; i < times; ++i)
@@ -62,8 +63,13 @@ void TstMonitorKeys::startedRunIsShownWithItsClock()
     press(kF5);
     emit g_unitask->stopWatchChanged(QStringLiteral("-00:00:07"));
     QCOMPARE(overview()->findChild<QLabel *>("stop_watch")->text(), QStringLiteral("-00:00:07"));
+    QCOMPARE(state(), QStringLiteral("Waiting"));
     press(kF5); // the list of the unbalance
     QCOMPARE(monitorPage()->currentPage()->findChild<QLabel *>("stop_watch")->text(), QStringLiteral("-00:00:07"));
+    emit g_unitask->stopWatchChanged(QStringLiteral("-00:00:00"));
+    QCOMPARE(state(), QStringLiteral("Waiting"));
+    emit g_unitask->stopWatchChanged(QStringLiteral("00:00:01"));
+    QCOMPARE(state(), QStringLiteral("Running"));
     g_unitask->startTask();
     m_taskmanage->data().live().monitor.freqReady = 1;
     m_taskmanage->data().live().monitor.freqMax = 50.25f;
@@ -136,6 +142,9 @@ void TstMonitorKeys::resultsStayUntilTheNextRunIsSetUp()
     m_taskmanage->data().live().monitor.voltReady = 1;
     emit g_unitask->updateDisplay(nullptr);
     m_taskmanage->stopTask();
+    QCOMPARE(state(), QStringLiteral("Finished"));
+    emit g_unitask->stopWatchChanged(QStringLiteral("02:00:00")); // the last one stays
+    QCOMPARE(state(), QStringLiteral("Finished"));
     press(kLeft, 3);
     QCOMPARE(overview()->findChild<QLabel *>("verdict")->text(), QStringLiteral("Within the limits"));
 
@@ -147,6 +156,7 @@ void TstMonitorKeys::resultsStayUntilTheNextRunIsSetUp()
     QCOMPARE(monitorPage()->currentIndex(), int(MonitorPage::Main));
     press(kF5);
     QCOMPARE(overview()->findChild<QLabel *>("verdict")->text(), QString());
+    QCOMPARE(state(), QStringLiteral("Waiting"));
 }
 
 void TstMonitorKeys::memoryLeavesTheRunAlone()

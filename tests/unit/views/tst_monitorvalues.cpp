@@ -24,6 +24,9 @@ QStringList lines(const MonitorReadout &readout)
 
 } // namespace
 
+using Change = void (*)(__monitor_data &, __monitor_trend &);
+Q_DECLARE_METATYPE(Change)
+
 /// What the pages of the monitor make of its results.
 class TstMonitorValues : public QObject
 {
@@ -47,9 +50,10 @@ private slots:
 
     // verdicts
     void nothingIsJudgedBeforeTheFirstValue();
-    void oneResultThatFailsIsOutside_data();
-    void oneResultThatFailsIsOutside();
-    void moreEventsThanAllowedAreOutside();
+    void whatExceedsItsLimitIsSaid_data();
+    void whatExceedsItsLimitIsSaid();
+    void resultsThatCompareVoltsWithPercentsAreNotAsked();
+    void moreEventsThanAllowedExceedTheLimit();
     void eventsAreCountedByTheirKind();
 
     // numbers
@@ -218,40 +222,54 @@ void TstMonitorValues::nothingIsJudgedBeforeTheFirstValue()
         QCOMPARE(MonitorValues::verdict(view(), bar), MonitorValues::None);
     m_data.freqReady = m_data.voltReady = m_data.flickerReady = 1;
     for (int bar = 0; bar < MonitorHistogram::kBars; ++bar)
-        QCOMPARE(MonitorValues::verdict(view(), bar), MonitorValues::Pass);
+        QCOMPARE(MonitorValues::verdict(view(), bar), MonitorValues::Within);
 }
 
-void TstMonitorValues::oneResultThatFailsIsOutside_data()
+void TstMonitorValues::whatExceedsItsLimitIsSaid_data()
 {
-    QTest::addColumn<int>("word"); // of the record
+    QTest::addColumn<Change>("change");
     QTest::addColumn<int>("bar");
-    QTest::newRow("voltage L2, partial") << 28 << 1;
-    QTest::newRow("voltage L3, whole") << 32 << 2;
-    QTest::newRow("distortion L1") << 183 << 3;
-    QTest::newRow("order 25 L2") << 183 + 49 << 4;
-    QTest::newRow("flicker L3") << 275 << 8;
-    QTest::newRow("unbalance") << 278 << 10;
-    QTest::newRow("frequency, partial") << 287 << 11;
-    QTest::newRow("frequency, whole") << 288 << 11;
+    const auto row = [](const char *name, int bar, Change change) { QTest::newRow(name) << change << bar; };
+    row("voltage L2, partial", 1, [](__monitor_data &d, __monitor_trend &) { d.voltPartialRatio[1] = 100.5f; });
+    row("voltage L3, whole", 2, [](__monitor_data &d, __monitor_trend &) { d.voltWholeRatio[2] = 100.5f; });
+    row("distortion L1 now", 3, [](__monitor_data &d, __monitor_trend &) { d.harmPartialRatio[0][0] = 101; });
+    row("order 25 L2 before", 4, [](__monitor_data &d, __monitor_trend &) { d.harmOk[1][24] = 0; });
+    row("flicker L3 now", 8, [](__monitor_data &d, __monitor_trend &) { d.pltPartialRatio[2] = 1.01f; });
+    row("flicker L1 before", 6, [](__monitor_data &d, __monitor_trend &) { d.pltPercentileAll[0] = 1.01f; });
+    row("unbalance now", 10, [](__monitor_data &d, __monitor_trend &) { d.unbalPartialRatio = 101; });
+    row("unbalance before", 10, [](__monitor_data &, __monitor_trend &t) { t.row[28] = { 0.5f, 2.5f, 0.5f }; });
+    row("frequency, partial", 11, [](__monitor_data &d, __monitor_trend &) { d.freqPartialRatio = 101; });
+    row("frequency, whole", 11, [](__monitor_data &d, __monitor_trend &) { d.freqWholeRatio = 101; });
+    row("mains signal", 12, [](__monitor_data &d, __monitor_trend &) { d.signal1PercentileNep[0] = 0.051f; });
 }
 
-void TstMonitorValues::oneResultThatFailsIsOutside()
+void TstMonitorValues::whatExceedsItsLimitIsSaid()
 {
-    QFETCH(int, word);
+    QFETCH(Change, change);
     QFETCH(int, bar);
     m_data.freqReady = m_data.voltReady = m_data.flickerReady = 1;
-    reinterpret_cast<qint32 *>(&m_data)[word] = 0;
+    change(m_data, m_trend);
     for (int other = 0; other < MonitorHistogram::kBars; ++other)
-        QCOMPARE(MonitorValues::verdict(view(), other), other == bar ? MonitorValues::Fail : MonitorValues::Pass);
+        QCOMPARE(MonitorValues::verdict(view(), other), other == bar ? MonitorValues::Exceeded : MonitorValues::Within);
 }
 
-void TstMonitorValues::moreEventsThanAllowedAreOutside()
+void TstMonitorValues::resultsThatCompareVoltsWithPercentsAreNotAsked()
+{
+    // 230.9 V on a supply of 230 V: 4 percent of the limit, and the results say 0.
+    m_data.freqReady = m_data.voltReady = 1;
+    m_data.voltPartialRatio[0] = 4;
+    m_data.voltPartialOk[0] = m_data.voltWholeOk[0] = m_data.freqPartialOk = m_data.freqWholeOk = 0;
+    QCOMPARE(MonitorValues::verdict(view(), 0), MonitorValues::Within);
+    QCOMPARE(MonitorValues::verdict(view(), 11), MonitorValues::Within);
+}
+
+void TstMonitorValues::moreEventsThanAllowedExceedTheLimit()
 {
     m_data.freqReady = 1;
     m_events.interruptions = 2;
-    QCOMPARE(MonitorValues::verdict(view(), MonitorBarDirs), MonitorValues::Pass);
+    QCOMPARE(MonitorValues::verdict(view(), MonitorBarDirs), MonitorValues::Within);
     m_events.interruptions = 3;
-    QCOMPARE(MonitorValues::verdict(view(), MonitorBarDirs), MonitorValues::Fail);
+    QCOMPARE(MonitorValues::verdict(view(), MonitorBarDirs), MonitorValues::Exceeded);
 }
 
 void TstMonitorValues::eventsAreCountedByTheirKind()
@@ -348,7 +366,7 @@ void TstMonitorValues::harmonicNumbersStandBesideTheirLimits()
     QCOMPARE(lines(readout), QStringList({ "Value 3.00%", "95% 6.00%", "Allowed% 50.0", "100% -", "Limit -" }));
     QCOMPARE(MonitorReadout::ofHarmonic(view(), 0, 0).quantity, QStringLiteral("L1 THD"));
     m_data.harmOk[2][4] = 0;
-    QCOMPARE(MonitorReadout::ofHarmonic(view(), 2, 4).verdict, MonitorValues::Fail);
+    QCOMPARE(MonitorReadout::ofHarmonic(view(), 2, 4).verdict, MonitorValues::Exceeded);
 }
 
 void TstMonitorValues::aLimitThatIsNotAppliedIsNoPercentage()
