@@ -1,5 +1,7 @@
 #include "gallery/gallery.h"
 
+#include "desk/wirelessstandin.h"
+
 #include <QDir>
 #include <QThread>
 #include <cstdio>
@@ -62,6 +64,7 @@ bool Gallery::runVariant(int wiring, int frequency, const QString &language, boo
     desk.setSetting(QLatin1String(kSettingFile), QStringLiteral("JOINMODE"), QString::number(wiring));
     desk.setSetting(QLatin1String(kSettingFile), QStringLiteral("NOM_FREQ"), QString::number(frequencyCode(frequency)));
     desk.setSetting(QLatin1String(kUserFile), QStringLiteral("LANG"), language);
+    const WirelessStandIn wireless(desk.root()); // without one the page of networks would be empty
     QStringList arguments;
     // Without a wish the supply has the nominal frequency, or every page would show a frequency that is lost.
     const QString nominal = frequency == 50 ? QStringLiteral("nominal") : QStringLiteral("nominal-%1").arg(frequency);

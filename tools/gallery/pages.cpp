@@ -126,6 +126,33 @@ QVector<Page> setupEditors()
     };
 }
 
+/// The pages about the instrument itself.
+Page userPages()
+{
+    return endingMeasurement(fromMenu("user", "user",
+                                      { "list",
+                                        "Down Down Down Enter: colors",
+                                        "Down Right: colors-changed",
+                                        "F5 Down Enter: name",
+                                        "F5 F1: date",
+                                        "Right: date-year",
+                                        "Down Down Down Down Down Right: date-zone",
+                                        "F5 F2: lan",
+                                        "Down Right: lan-static",
+                                        "Down Enter: lan-keyboard",
+                                        "F5 F5 F3: wlan",
+                                        "F1: wlan-open",
+                                        "Enter: wlan-password",
+                                        "Enter: wlan-keyboard",
+                                        "F5 F4: wlan-refused",
+                                        "F5 Down Down Down Enter: wlan-hidden",
+                                        "F5 Up Enter: wlan-joined",
+                                        "F1 F5 F4: update",
+                                        "Right: update-firmware",
+                                        "F1: update-no-disk" },
+                                      "", true, false));
+}
+
 } // namespace
 
 const QVector<Page> &galleryPages()
@@ -153,13 +180,7 @@ const QVector<Page> &galleryPages()
                  { "setup", "Down Down Down Enter: timed", "Left F2: params", "Down Down Down Enter Right: params-chosen",
                    "F5 F5: waiting" },
                  "F5 F1", true, kOneWiring),
-        endingMeasurement(fromMenu("user", "user",
-                 { "list", "Down Down Down Enter: colors", "Down Right: colors-changed",
-                   "F5 Down Enter: name", "F5 F1: date", "Right: date-year",
-                   "Down Down Down Down Down Right: date-zone", "F5 F2: lan", "Down Right: lan-static",
-                   "Down Enter: lan-keyboard", "F5 F5 F3: wlan", "F1: wlan-open", "F1 F5 F4: update",
-                   "Right: update-firmware", "F1: update-no-disk" },
-                 "", true, kOneWiring)),
+        userPages(),
         byKey("scope", "F6",
               { "voltage", "F1: next", "F1: next-2", "F1: next-3", "F1: next-4", "F3: cursor", "F3 Up: zoom" }),
         endingMeasurement(byKey("monitor", "F8",
