@@ -1,5 +1,7 @@
 #pragma once
 
+#include "record/storedfile.h"
+
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
@@ -60,22 +62,21 @@ public:
     /// On another device.
     WaveFile(const QString &name, unsigned int beginTime, unsigned int sampleRate, const Derived &setUp,
              std::unique_ptr<Pqa2Device> device);
-    ~WaveFile();
     WaveFile(const WaveFile &) = delete;
     WaveFile &operator=(const WaveFile &) = delete;
 
     /// Begins the file with its head and enters it in the index; \a localTime is the time of day of the user's zone.
     /// Nothing happens to one that is open. False: there is no open file.
     bool open(const QDateTime &localTime);
-    bool isOpen() const { return m_open; }
+    bool isOpen() const { return m_file.isOpen(); }
     /// A chunk of whole frames, written at \a time (s since 1970). The bytes stored: 0 for fewer than 9 and without an
     /// open file; -1 when the storage refused it. Then nothing of it is left and the head is as it was. Every few
     /// seconds a flush goes with it.
     qint64 write(const QByteArray &data, unsigned int time);
     /// Has the system write out what was written so far, without waiting for it. False when it was not begun, as the
     /// flush before still goes on.
-    bool flush();
-    void close();
+    bool flush() { return m_file.flush(); }
+    void close() { m_file.close(); }
     /// Closes the file; one that is not kept is deleted, and its entry in the index with it.
     void save(bool keep);
 
@@ -89,9 +90,7 @@ private:
 
     const QString m_name;
     WaveFileHeader m_header;
-    std::unique_ptr<Pqa2Device> m_device;
-    bool m_open = false;
-    qint64 m_flushed = 0; // Clock::elapsed() of the last flush
+    StoredFile m_file;
 };
 
 /// A chunk as it stands in the file.

@@ -70,7 +70,7 @@ UniTask::UniTask(LiveData &data, QObject *parent)
       m_monitor(
           { data, *m_events, *m_flickerProcessor, [this] { emit updateDisplay(nullptr); }, [this] { stopTask(); } }),
       m_recorder({ data, *m_flickerProcessor, [this] { return recorderSetUp(); } }),
-      m_capture(data.live().wave, setUpInUse, [this] { stopTask(); })
+      m_capture(data.live().wave, setUpInUse, [this] { stopTask(); }), m_logger(data.live(), setUpInUse)
 {
     connectDetector();
     setTaskType(0, 1000);
@@ -142,7 +142,7 @@ TaskFunction *UniTask::functionOf(AbstractTask::UniFunction function)
     case UniWave:
         return &m_capture;
     case UniLogger:
-        break;
+        return &m_logger;
     }
     return nullptr;
 }

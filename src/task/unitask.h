@@ -6,6 +6,7 @@
 #include "task/energymeter.h"
 #include "task/eventwave.h"
 #include "task/functions/inverterfunction.h"
+#include "task/functions/loggerfunction.h"
 #include "task/functions/monitorfunction.h"
 #include "task/functions/recorderfunction.h"
 #include "task/functions/secondtrends.h"
@@ -59,6 +60,7 @@ public:
     /// Runs while basic measuring runs and the recording window is open.
     RecorderFunction &recorder() { return m_recorder; }
     MonitorFunction &monitor() { return m_monitor; }
+    LoggerFunction &logger() { return m_logger; }
     /// Lets \a function run from now to the end of the run, beside those that run already; it outlives the task. One
     /// that runs goes on undisturbed.
     void begin(TaskFunction *function);
@@ -143,6 +145,7 @@ private:
     MonitorFunction m_monitor;
     RecorderFunction m_recorder;
     WaveFunction m_capture;
+    LoggerFunction m_logger;
     std::vector<TaskFunction *> m_running;
     QTimer m_secondTimer;
 

@@ -1,5 +1,6 @@
 #include "task/functions/functionplan.h"
 
+#include "settings/loggerinfo.h"
 #include "settings/monitorinfo.h"
 #include "settings/waveinfo.h"
 
@@ -9,11 +10,13 @@ namespace {
 
 /// Kept: seconds of a monitor's run for each of its hours.
 constexpr qint64 kMonitorHour = 3601;
+/// The line of the last interval is due at the very end of the last hour.
+constexpr qint64 kLoggerHour = 3601;
 
-/// Length of a monitor's run; -1, the longest, for hours that no run can have.
-int monitorSeconds(int hours)
+/// Length of a run of \a hours, each of so many seconds; -1, the longest, for hours that no run can have.
+int lengthOf(int hours, qint64 hour)
 {
-    const qint64 seconds = kMonitorHour * hours;
+    const qint64 seconds = hour * hours;
     return seconds > 0 && seconds <= std::numeric_limits<int>::max() ? int(seconds) : -1;
 }
 
@@ -27,8 +30,9 @@ std::optional<FunctionPlan> functionPlan(AbstractTask::UniFunction function)
     case AbstractTask::UniWave:
         return FunctionPlan { WaveInfo::m_begain_time, -1, false };
     case AbstractTask::UniMonitor:
-        return FunctionPlan { MonitorInfo::m_begain_time, monitorSeconds(MonitorInfo::m_duration), true };
-    case AbstractTask::UniLogger: // it ends by the user's key
+        return FunctionPlan { MonitorInfo::m_begain_time, lengthOf(MonitorInfo::m_duration, kMonitorHour), true };
+    case AbstractTask::UniLogger:
+        return FunctionPlan { LoggerInfo::m_begain_time, lengthOf(LoggerInfo::m_duration, kLoggerHour), false };
     case AbstractTask::UniPowerInverter:
         return FunctionPlan();
     }

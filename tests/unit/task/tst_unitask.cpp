@@ -1,5 +1,6 @@
 #include "settings/inrushinfo.h"
 #include "settings/monitorinfo.h"
+#include "settings/loggerinfo.h"
 #include "settings/waveinfo.h"
 #include "task/inverterfeed.h"
 #include "unitaskcase.h"
@@ -26,7 +27,8 @@ private slots:
     void waveAndMonitorStartAtTheirPlannedTime();
     void monitorRunsASecondMoreForEachHour_data();
     void monitorRunsASecondMoreForEachHour();
-    void loggerAndInverterRunLikeBasicMeasuring();
+    void inverterRunsLikeBasicMeasuring();
+    void loggerRunsAsItIsPlanned();
     void functionOutsideTheTableOnlyClearsTheEvents();
     void channelsFollowTheWiring_data();
     void channelsFollowTheWiring();
@@ -126,14 +128,27 @@ void TstUniTask::monitorRunsASecondMoreForEachHour()
     QCOMPARE(m_task->lifeCycle(), seconds);
 }
 
-void TstUniTask::loggerAndInverterRunLikeBasicMeasuring()
+void TstUniTask::inverterRunsLikeBasicMeasuring()
 {
-    for (auto function : { AbstractTask::UniLogger, AbstractTask::UniPowerInverter }) {
-        m_task->initUniFunction(function);
-        QCOMPARE(m_task->getUniFunction(), function);
-        QCOMPARE(m_task->startTime(), quint32(kNow / 1000 + 10));
-        QCOMPARE(m_task->lifeCycle(), 86400000);
-    }
+    m_task->initUniFunction(AbstractTask::UniPowerInverter);
+    QCOMPARE(m_task->getUniFunction(), AbstractTask::UniPowerInverter);
+    QCOMPARE(m_task->startTime(), quint32(kNow / 1000 + 10));
+    QCOMPARE(m_task->lifeCycle(), 86400000);
+}
+
+void TstUniTask::loggerRunsAsItIsPlanned()
+{
+    m_task->initUniFunction(AbstractTask::UniLogger);
+    QCOMPARE(m_task->getUniFunction(), AbstractTask::UniLogger);
+    QCOMPARE(m_task->startTime(), quint32(kNow / 1000 + 10));
+    QCOMPARE(m_task->lifeCycle(), 2 * 3601); // two hours, and time for the last line
+    LoggerInfo::m_begain_time = quint32(kNow / 1000) + 3600;
+    LoggerInfo::m_duration = 0; // none
+    m_task->initUniFunction(AbstractTask::UniLogger);
+    QCOMPARE(m_task->startTime(), LoggerInfo::m_begain_time);
+    QCOMPARE(m_task->lifeCycle(), 86400000);
+    LoggerInfo::m_begain_time = 0;
+    LoggerInfo::m_duration = 2;
 }
 
 void TstUniTask::functionOutsideTheTableOnlyClearsTheEvents()

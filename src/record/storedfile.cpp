@@ -1,0 +1,83 @@
+#include "record/storedfile.h"
+
+#include "platform/clock.h"
+#include "platform/diskworker.h"
+#include "platform/target.h"
+#include "record/pqa2device.h"
+#include "storage/fileinfo.h"
+
+#include <QDateTime>
+#include <QFile>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace {
+constexpr qint64 kFlushInterval = 4000; // ms; a cut of the supply costs no more than this and what follows next
+}
+
+StoredFile::StoredFile(std::unique_ptr<Pqa2Device> device) : m_device(std::move(device)) { }
+
+StoredFile::~StoredFile()
+{
+    close();
+}
+
+bool StoredFile::open(const QString &name, const QDateTime &localTime)
+{
+    close();
+    if (!m_device->open(FileInfo::storagePath() + name))
+        return false;
+    m_name = name;
+    m_open = true;
+    m_flushed = Clock::elapsed();
+    FileInfo().saveInfo(name, localTime);
+    return true;
+}
+
+bool StoredFile::append(const QByteArray &bytes)
+{
+    const qint64 end = m_device->size();
+    if (m_device->seek(end) && m_device->write(bytes.constData(), bytes.size()) == bytes.size())
+        return true;
+    m_device->resize(end);
+    return false;
+}
+
+bool StoredFile::rewrite(qint64 offset, const char *data, qint64 size)
+{
+    return m_device->seek(offset) && m_device->write(data, size) == size;
+}
+
+void StoredFile::flushNowAndThen()
+{
+    if (Clock::elapsed() - m_flushed >= kFlushInterval)
+        flush();
+}
+
+bool StoredFile::flush()
+{
+    if (!m_open || !m_device->syncBehind())
+        return false;
+    m_flushed = Clock::elapsed();
+    return true;
+}
+
+void StoredFile::close()
+{
+    if (!m_open)
+        return;
+    m_open = false;
+    m_device->close();
+}
+
+void StoredFile::remove()
+{
+    close();
+    // The bytes are freed by the disk worker: the system keeps them as long as the file is open somewhere.
+    const QByteArray path = QFile::encodeName(Target::path(FileInfo::storagePath() + m_name));
+    const int fd = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+    FileInfo().removeInfo(m_name);
+    if (fd >= 0)
+        DiskWorker::instance().run([fd] { ::close(fd); });
+}
