@@ -4,9 +4,9 @@
 # that the folder's tests link. A folder sees the folders before it in this list and nothing else.
 
 set(QUVERA_FOLDER_ORDER platform model storage settings device board record detect task widgets pages views setup
-                        user services shell)
+                        user memory services shell)
 # Folders of equal rank do not see each other.
-set(QUVERA_NEIGHBOURS views setup user services)
+set(QUVERA_NEIGHBOURS views setup user memory services)
 
 # Folders that a tool without a screen can link: nothing but the toolkit's core is under them, and of the folders before
 # them they see each other only.

@@ -393,6 +393,25 @@ voulez-vous quitter ?</translation>
     </message>
 </context>
 <context>
+    <name>FilesList</name>
+    <message>
+        <source>TYPE</source>
+        <translation>TYPE</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>DATE</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <translation>DESCRIPTION</translation>
+    </message>
+    <message>
+        <source>no files</source>
+        <translation>aucun fichier</translation>
+    </message>
+</context>
+<context>
     <name>FlickerMain</name>
     <message>
         <source>Trend</source>
@@ -872,6 +891,99 @@ voulez-vous quitter ?</translation>
     <message>
         <source>Back</source>
         <translation>Retour</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryPage</name>
+    <message>
+        <source>Format</source>
+        <translation>Formater</translation>
+    </message>
+    <message>
+        <source>To USB</source>
+        <translation>Vers USB</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Voir</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>SelectAll</source>
+        <translation>Tout choisir</translation>
+    </message>
+    <message>
+        <source>SelectNone</source>
+        <translation>Ne rien choisir</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Used:</source>
+        <translation>Utilisé :</translation>
+    </message>
+    <message>
+        <source>Free:</source>
+        <translation>Libre :</translation>
+    </message>
+    <message>
+        <source>The file is in use by the running measurement.</source>
+        <translation>Le fichier est utilisé par la mesure en cours.</translation>
+    </message>
+    <message>
+        <source>A recording is running.
+It has to end first.</source>
+        <translation>Un enregistrement est en cours.
+Il doit d&apos;abord se terminer.</translation>
+    </message>
+    <message>
+        <source>It will format the mass storage, 
+Do you continue?</source>
+        <translation>La mémoire de masse va être formatée, 
+continuer ?</translation>
+    </message>
+    <message>
+        <source>Deleting...</source>
+        <translation>Suppression...</translation>
+    </message>
+    <message>
+        <source>Error!!!</source>
+        <translation>Erreur !!!</translation>
+    </message>
+    <message>
+        <source>Delete the file?</source>
+        <translation>Supprimer le fichier ?</translation>
+    </message>
+    <message>
+        <source>Error! Try egain.</source>
+        <translation>Erreur ! Réessayez.</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>Insérez une clé USB...</translation>
+    </message>
+    <message>
+        <source>Copy the files?</source>
+        <translation>Copier les fichiers ?</translation>
+    </message>
+    <message>
+        <source>File already exists,
+Replace the file?</source>
+        <translation>Le fichier existe déjà,
+le remplacer ?</translation>
+    </message>
+    <message>
+        <source>Insufficient storage space in Removable Storage Device.</source>
+        <translation>Espace insuffisant sur le support amovible.</translation>
     </message>
 </context>
 <context>

@@ -393,6 +393,25 @@ soll sie beendet werden?</translation>
     </message>
 </context>
 <context>
+    <name>FilesList</name>
+    <message>
+        <source>TYPE</source>
+        <translation>TYP</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>ZEIT</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <translation>BESCHREIBUNG</translation>
+    </message>
+    <message>
+        <source>no files</source>
+        <translation>keine Dateien</translation>
+    </message>
+</context>
+<context>
     <name>FlickerMain</name>
     <message>
         <source>Trend</source>
@@ -872,6 +891,99 @@ soll sie beendet werden?</translation>
     <message>
         <source>Back</source>
         <translation>Zurück</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryPage</name>
+    <message>
+        <source>Format</source>
+        <translation>Formatieren</translation>
+    </message>
+    <message>
+        <source>To USB</source>
+        <translation>Auf USB</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ansehen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>SelectAll</source>
+        <translation>Alle wählen</translation>
+    </message>
+    <message>
+        <source>SelectNone</source>
+        <translation>Keine wählen</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Used:</source>
+        <translation>Belegt:</translation>
+    </message>
+    <message>
+        <source>Free:</source>
+        <translation>Frei:</translation>
+    </message>
+    <message>
+        <source>The file is in use by the running measurement.</source>
+        <translation>Die Datei wird von der laufenden Messung benutzt.</translation>
+    </message>
+    <message>
+        <source>A recording is running.
+It has to end first.</source>
+        <translation>Eine Aufzeichnung läuft.
+Sie muss zuerst enden.</translation>
+    </message>
+    <message>
+        <source>It will format the mass storage, 
+Do you continue?</source>
+        <translation>Der Massenspeicher wird formatiert, 
+fortfahren?</translation>
+    </message>
+    <message>
+        <source>Deleting...</source>
+        <translation>Wird gelöscht...</translation>
+    </message>
+    <message>
+        <source>Error!!!</source>
+        <translation>Fehler!!!</translation>
+    </message>
+    <message>
+        <source>Delete the file?</source>
+        <translation>Datei löschen?</translation>
+    </message>
+    <message>
+        <source>Error! Try egain.</source>
+        <translation>Fehler! Bitte noch einmal.</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>Bitte USB-Stick einstecken...</translation>
+    </message>
+    <message>
+        <source>Copy the files?</source>
+        <translation>Dateien kopieren?</translation>
+    </message>
+    <message>
+        <source>File already exists,
+Replace the file?</source>
+        <translation>Die Datei ist schon vorhanden,
+ersetzen?</translation>
+    </message>
+    <message>
+        <source>Insufficient storage space in Removable Storage Device.</source>
+        <translation>Zu wenig Platz auf dem USB-Speicher.</translation>
     </message>
 </context>
 <context>

@@ -393,6 +393,25 @@ si desidera uscire?</translation>
     </message>
 </context>
 <context>
+    <name>FilesList</name>
+    <message>
+        <source>TYPE</source>
+        <translation>TIPO</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>DATA</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <translation>DESCRIZIONE</translation>
+    </message>
+    <message>
+        <source>no files</source>
+        <translation>nessun file</translation>
+    </message>
+</context>
+<context>
     <name>FlickerMain</name>
     <message>
         <source>Trend</source>
@@ -872,6 +891,99 @@ si desidera uscire?</translation>
     <message>
         <source>Back</source>
         <translation>Indietro</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryPage</name>
+    <message>
+        <source>Format</source>
+        <translation>Formatta</translation>
+    </message>
+    <message>
+        <source>To USB</source>
+        <translation>Su USB</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Elimina</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Mostra</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>SelectAll</source>
+        <translation>Sel. tutto</translation>
+    </message>
+    <message>
+        <source>SelectNone</source>
+        <translation>Nessuno</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Used:</source>
+        <translation>Usato:</translation>
+    </message>
+    <message>
+        <source>Free:</source>
+        <translation>Libero:</translation>
+    </message>
+    <message>
+        <source>The file is in use by the running measurement.</source>
+        <translation>Il file è usato dalla misura in corso.</translation>
+    </message>
+    <message>
+        <source>A recording is running.
+It has to end first.</source>
+        <translation>Una registrazione è in corso.
+Deve prima terminare.</translation>
+    </message>
+    <message>
+        <source>It will format the mass storage, 
+Do you continue?</source>
+        <translation>La memoria di massa sarà formattata, 
+continuare?</translation>
+    </message>
+    <message>
+        <source>Deleting...</source>
+        <translation>Eliminazione...</translation>
+    </message>
+    <message>
+        <source>Error!!!</source>
+        <translation>Errore!!!</translation>
+    </message>
+    <message>
+        <source>Delete the file?</source>
+        <translation>Eliminare il file?</translation>
+    </message>
+    <message>
+        <source>Error! Try egain.</source>
+        <translation>Errore! Riprovare.</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>Inserire una chiave USB...</translation>
+    </message>
+    <message>
+        <source>Copy the files?</source>
+        <translation>Copiare i file?</translation>
+    </message>
+    <message>
+        <source>File already exists,
+Replace the file?</source>
+        <translation>Il file esiste già,
+sostituirlo?</translation>
+    </message>
+    <message>
+        <source>Insufficient storage space in Removable Storage Device.</source>
+        <translation>Spazio insufficiente sul dispositivo rimovibile.</translation>
     </message>
 </context>
 <context>

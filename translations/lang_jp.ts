@@ -393,6 +393,25 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>FilesList</name>
+    <message>
+        <source>TYPE</source>
+        <translation>種類</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <translation>説明</translation>
+    </message>
+    <message>
+        <source>no files</source>
+        <translation>ファイルなし</translation>
+    </message>
+</context>
+<context>
     <name>FlickerMain</name>
     <message>
         <source>Trend</source>
@@ -872,6 +891,99 @@ Do you want to exit?</source>
     <message>
         <source>Back</source>
         <translation>戻る</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryPage</name>
+    <message>
+        <source>Format</source>
+        <translation>初期化</translation>
+    </message>
+    <message>
+        <source>To USB</source>
+        <translation>USB へ</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>表示</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>SelectAll</source>
+        <translation>全選択</translation>
+    </message>
+    <message>
+        <source>SelectNone</source>
+        <translation>選択解除</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Used:</source>
+        <translation>使用:</translation>
+    </message>
+    <message>
+        <source>Free:</source>
+        <translation>空き:</translation>
+    </message>
+    <message>
+        <source>The file is in use by the running measurement.</source>
+        <translation>ファイルは実行中の測定で使用中です。</translation>
+    </message>
+    <message>
+        <source>A recording is running.
+It has to end first.</source>
+        <translation>記録中です。
+先に終了してください。</translation>
+    </message>
+    <message>
+        <source>It will format the mass storage, 
+Do you continue?</source>
+        <translation>ストレージを初期化します。 
+続けますか？</translation>
+    </message>
+    <message>
+        <source>Deleting...</source>
+        <translation>削除中...</translation>
+    </message>
+    <message>
+        <source>Error!!!</source>
+        <translation>エラー！！！</translation>
+    </message>
+    <message>
+        <source>Delete the file?</source>
+        <translation>ファイルを削除しますか？</translation>
+    </message>
+    <message>
+        <source>Error! Try egain.</source>
+        <translation>エラー！再試行してください。</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>USB メモリを挿入してください...</translation>
+    </message>
+    <message>
+        <source>Copy the files?</source>
+        <translation>ファイルをコピーしますか？</translation>
+    </message>
+    <message>
+        <source>File already exists,
+Replace the file?</source>
+        <translation>ファイルは既に存在します。
+置き換えますか？</translation>
+    </message>
+    <message>
+        <source>Insufficient storage space in Removable Storage Device.</source>
+        <translation>リムーバブルディスクの空き容量が不足しています。</translation>
     </message>
 </context>
 <context>

@@ -393,6 +393,25 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>FilesList</name>
+    <message>
+        <source>TYPE</source>
+        <translation>종류</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>시각</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <translation>설명</translation>
+    </message>
+    <message>
+        <source>no files</source>
+        <translation>파일 없음</translation>
+    </message>
+</context>
+<context>
     <name>FlickerMain</name>
     <message>
         <source>Trend</source>
@@ -872,6 +891,99 @@ Do you want to exit?</source>
     <message>
         <source>Back</source>
         <translation>뒤로</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryPage</name>
+    <message>
+        <source>Format</source>
+        <translation>포맷</translation>
+    </message>
+    <message>
+        <source>To USB</source>
+        <translation>USB로</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>삭제</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>보기</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>SelectAll</source>
+        <translation>전체 선택</translation>
+    </message>
+    <message>
+        <source>SelectNone</source>
+        <translation>선택 해제</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Used:</source>
+        <translation>사용:</translation>
+    </message>
+    <message>
+        <source>Free:</source>
+        <translation>여유:</translation>
+    </message>
+    <message>
+        <source>The file is in use by the running measurement.</source>
+        <translation>실행 중인 측정에서 사용 중인 파일입니다.</translation>
+    </message>
+    <message>
+        <source>A recording is running.
+It has to end first.</source>
+        <translation>기록이 진행 중입니다.
+먼저 종료하십시오.</translation>
+    </message>
+    <message>
+        <source>It will format the mass storage, 
+Do you continue?</source>
+        <translation>저장 장치를 포맷합니다. 
+계속하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Deleting...</source>
+        <translation>삭제 중...</translation>
+    </message>
+    <message>
+        <source>Error!!!</source>
+        <translation>오류!!!</translation>
+    </message>
+    <message>
+        <source>Delete the file?</source>
+        <translation>파일을 삭제하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Error! Try egain.</source>
+        <translation>오류! 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>USB 메모리를 꽂으십시오...</translation>
+    </message>
+    <message>
+        <source>Copy the files?</source>
+        <translation>파일을 복사하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>File already exists,
+Replace the file?</source>
+        <translation>파일이 이미 있습니다.
+바꾸시겠습니까?</translation>
+    </message>
+    <message>
+        <source>Insufficient storage space in Removable Storage Device.</source>
+        <translation>이동식 저장 장치의 공간이 부족합니다.</translation>
     </message>
 </context>
 <context>

@@ -393,6 +393,25 @@ czy zakończyć?</translation>
     </message>
 </context>
 <context>
+    <name>FilesList</name>
+    <message>
+        <source>TYPE</source>
+        <translation>TYP</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>CZAS</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <translation>OPIS</translation>
+    </message>
+    <message>
+        <source>no files</source>
+        <translation>brak plików</translation>
+    </message>
+</context>
+<context>
     <name>FlickerMain</name>
     <message>
         <source>Trend</source>
@@ -872,6 +891,99 @@ czy zakończyć?</translation>
     <message>
         <source>Back</source>
         <translation>Wstecz</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryPage</name>
+    <message>
+        <source>Format</source>
+        <translation>Formatuj</translation>
+    </message>
+    <message>
+        <source>To USB</source>
+        <translation>Na USB</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Pokaż</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Wstecz</translation>
+    </message>
+    <message>
+        <source>SelectAll</source>
+        <translation>Zaznacz wsz.</translation>
+    </message>
+    <message>
+        <source>SelectNone</source>
+        <translation>Odznacz wsz.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Used:</source>
+        <translation>Zajęte:</translation>
+    </message>
+    <message>
+        <source>Free:</source>
+        <translation>Wolne:</translation>
+    </message>
+    <message>
+        <source>The file is in use by the running measurement.</source>
+        <translation>Plik jest używany przez trwający pomiar.</translation>
+    </message>
+    <message>
+        <source>A recording is running.
+It has to end first.</source>
+        <translation>Trwa rejestracja.
+Najpierw musi się zakończyć.</translation>
+    </message>
+    <message>
+        <source>It will format the mass storage, 
+Do you continue?</source>
+        <translation>Pamięć zostanie sformatowana, 
+kontynuować?</translation>
+    </message>
+    <message>
+        <source>Deleting...</source>
+        <translation>Usuwanie...</translation>
+    </message>
+    <message>
+        <source>Error!!!</source>
+        <translation>Błąd!!!</translation>
+    </message>
+    <message>
+        <source>Delete the file?</source>
+        <translation>Usunąć plik?</translation>
+    </message>
+    <message>
+        <source>Error! Try egain.</source>
+        <translation>Błąd! Spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>Włóż pamięć USB...</translation>
+    </message>
+    <message>
+        <source>Copy the files?</source>
+        <translation>Skopiować pliki?</translation>
+    </message>
+    <message>
+        <source>File already exists,
+Replace the file?</source>
+        <translation>Plik już istnieje,
+zastąpić?</translation>
+    </message>
+    <message>
+        <source>Insufficient storage space in Removable Storage Device.</source>
+        <translation>Za mało miejsca na nośniku wymiennym.</translation>
     </message>
 </context>
 <context>

@@ -393,6 +393,25 @@ deseja sair?</translation>
     </message>
 </context>
 <context>
+    <name>FilesList</name>
+    <message>
+        <source>TYPE</source>
+        <translation>TIPO</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>DATA</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <translation>DESCRIÇÃO</translation>
+    </message>
+    <message>
+        <source>no files</source>
+        <translation>sem ficheiros</translation>
+    </message>
+</context>
+<context>
     <name>FlickerMain</name>
     <message>
         <source>Trend</source>
@@ -872,6 +891,99 @@ deseja sair?</translation>
     <message>
         <source>Back</source>
         <translation>Voltar</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryPage</name>
+    <message>
+        <source>Format</source>
+        <translation>Formatar</translation>
+    </message>
+    <message>
+        <source>To USB</source>
+        <translation>Para USB</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ver</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>SelectAll</source>
+        <translation>Sel. tudo</translation>
+    </message>
+    <message>
+        <source>SelectNone</source>
+        <translation>Nenhum</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Used:</source>
+        <translation>Usado:</translation>
+    </message>
+    <message>
+        <source>Free:</source>
+        <translation>Livre:</translation>
+    </message>
+    <message>
+        <source>The file is in use by the running measurement.</source>
+        <translation>O ficheiro está a ser usado pela medição em curso.</translation>
+    </message>
+    <message>
+        <source>A recording is running.
+It has to end first.</source>
+        <translation>Há um registo em curso.
+Tem de terminar primeiro.</translation>
+    </message>
+    <message>
+        <source>It will format the mass storage, 
+Do you continue?</source>
+        <translation>A memória será formatada, 
+continuar?</translation>
+    </message>
+    <message>
+        <source>Deleting...</source>
+        <translation>A eliminar...</translation>
+    </message>
+    <message>
+        <source>Error!!!</source>
+        <translation>Erro!!!</translation>
+    </message>
+    <message>
+        <source>Delete the file?</source>
+        <translation>Eliminar o ficheiro?</translation>
+    </message>
+    <message>
+        <source>Error! Try egain.</source>
+        <translation>Erro! Tente de novo.</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>Insira uma pen USB...</translation>
+    </message>
+    <message>
+        <source>Copy the files?</source>
+        <translation>Copiar os ficheiros?</translation>
+    </message>
+    <message>
+        <source>File already exists,
+Replace the file?</source>
+        <translation>O ficheiro já existe,
+substituir?</translation>
+    </message>
+    <message>
+        <source>Insufficient storage space in Removable Storage Device.</source>
+        <translation>Espaço insuficiente no dispositivo amovível.</translation>
     </message>
 </context>
 <context>

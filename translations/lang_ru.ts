@@ -393,6 +393,25 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>FilesList</name>
+    <message>
+        <source>TYPE</source>
+        <translation>ТИП</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>ВРЕМЯ</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <translation>ОПИСАНИЕ</translation>
+    </message>
+    <message>
+        <source>no files</source>
+        <translation>нет файлов</translation>
+    </message>
+</context>
+<context>
     <name>FlickerMain</name>
     <message>
         <source>Trend</source>
@@ -872,6 +891,99 @@ Do you want to exit?</source>
     <message>
         <source>Back</source>
         <translation>Назад</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryPage</name>
+    <message>
+        <source>Format</source>
+        <translation>Формат</translation>
+    </message>
+    <message>
+        <source>To USB</source>
+        <translation>На USB</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Удалить</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Просмотр</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>SelectAll</source>
+        <translation>Выбрать все</translation>
+    </message>
+    <message>
+        <source>SelectNone</source>
+        <translation>Снять выбор</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Used:</source>
+        <translation>Занято:</translation>
+    </message>
+    <message>
+        <source>Free:</source>
+        <translation>Свободно:</translation>
+    </message>
+    <message>
+        <source>The file is in use by the running measurement.</source>
+        <translation>Файл занят идущим измерением.</translation>
+    </message>
+    <message>
+        <source>A recording is running.
+It has to end first.</source>
+        <translation>Идёт запись.
+Сначала завершите её.</translation>
+    </message>
+    <message>
+        <source>It will format the mass storage, 
+Do you continue?</source>
+        <translation>Накопитель будет отформатирован, 
+продолжить?</translation>
+    </message>
+    <message>
+        <source>Deleting...</source>
+        <translation>Удаление...</translation>
+    </message>
+    <message>
+        <source>Error!!!</source>
+        <translation>Ошибка!!!</translation>
+    </message>
+    <message>
+        <source>Delete the file?</source>
+        <translation>Удалить файл?</translation>
+    </message>
+    <message>
+        <source>Error! Try egain.</source>
+        <translation>Ошибка! Повторите.</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>Вставьте USB-диск...</translation>
+    </message>
+    <message>
+        <source>Copy the files?</source>
+        <translation>Копировать файлы?</translation>
+    </message>
+    <message>
+        <source>File already exists,
+Replace the file?</source>
+        <translation>Файл уже существует,
+заменить?</translation>
+    </message>
+    <message>
+        <source>Insufficient storage space in Removable Storage Device.</source>
+        <translation>Недостаточно места на съёмном носителе.</translation>
     </message>
 </context>
 <context>

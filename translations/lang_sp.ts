@@ -393,6 +393,25 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>FilesList</name>
+    <message>
+        <source>TYPE</source>
+        <translation>TIPO</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>FECHA</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <translation>DESCRIPCIÓN</translation>
+    </message>
+    <message>
+        <source>no files</source>
+        <translation>sin archivos</translation>
+    </message>
+</context>
+<context>
     <name>FlickerMain</name>
     <message>
         <source>Trend</source>
@@ -872,6 +891,99 @@ Do you want to exit?</source>
     <message>
         <source>Back</source>
         <translation>Atrás</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryPage</name>
+    <message>
+        <source>Format</source>
+        <translation>Formatear</translation>
+    </message>
+    <message>
+        <source>To USB</source>
+        <translation>A USB</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Borrar</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Ver</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>SelectAll</source>
+        <translation>Sel. todo</translation>
+    </message>
+    <message>
+        <source>SelectNone</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Used:</source>
+        <translation>Usado:</translation>
+    </message>
+    <message>
+        <source>Free:</source>
+        <translation>Libre:</translation>
+    </message>
+    <message>
+        <source>The file is in use by the running measurement.</source>
+        <translation>La medición en curso usa el archivo.</translation>
+    </message>
+    <message>
+        <source>A recording is running.
+It has to end first.</source>
+        <translation>Hay un registro en curso.
+Primero debe terminar.</translation>
+    </message>
+    <message>
+        <source>It will format the mass storage, 
+Do you continue?</source>
+        <translation>Se formateará la memoria, 
+¿continuar?</translation>
+    </message>
+    <message>
+        <source>Deleting...</source>
+        <translation>Borrando...</translation>
+    </message>
+    <message>
+        <source>Error!!!</source>
+        <translation>¡¡¡Error!!!</translation>
+    </message>
+    <message>
+        <source>Delete the file?</source>
+        <translation>¿Borrar el archivo?</translation>
+    </message>
+    <message>
+        <source>Error! Try egain.</source>
+        <translation>¡Error! Inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>Inserte una memoria USB...</translation>
+    </message>
+    <message>
+        <source>Copy the files?</source>
+        <translation>¿Copiar los archivos?</translation>
+    </message>
+    <message>
+        <source>File already exists,
+Replace the file?</source>
+        <translation>El archivo ya existe,
+¿reemplazarlo?</translation>
+    </message>
+    <message>
+        <source>Insufficient storage space in Removable Storage Device.</source>
+        <translation>Espacio insuficiente en el dispositivo extraíble.</translation>
     </message>
 </context>
 <context>

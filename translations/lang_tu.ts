@@ -393,6 +393,25 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>FilesList</name>
+    <message>
+        <source>TYPE</source>
+        <translation>TİP</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>ZAMAN</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <translation>AÇIKLAMA</translation>
+    </message>
+    <message>
+        <source>no files</source>
+        <translation>dosya yok</translation>
+    </message>
+</context>
+<context>
     <name>FlickerMain</name>
     <message>
         <source>Trend</source>
@@ -872,6 +891,99 @@ Do you want to exit?</source>
     <message>
         <source>Back</source>
         <translation>Geri</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryPage</name>
+    <message>
+        <source>Format</source>
+        <translation>Biçimlendir</translation>
+    </message>
+    <message>
+        <source>To USB</source>
+        <translation>USB&apos;ye</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Sil</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>Göster</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>SelectAll</source>
+        <translation>Tümünü seç</translation>
+    </message>
+    <message>
+        <source>SelectNone</source>
+        <translation>Seçimi kaldır</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Used:</source>
+        <translation>Dolu:</translation>
+    </message>
+    <message>
+        <source>Free:</source>
+        <translation>Boş:</translation>
+    </message>
+    <message>
+        <source>The file is in use by the running measurement.</source>
+        <translation>Dosya süren ölçüm tarafından kullanılıyor.</translation>
+    </message>
+    <message>
+        <source>A recording is running.
+It has to end first.</source>
+        <translation>Bir kayıt sürüyor.
+Önce bitmesi gerekir.</translation>
+    </message>
+    <message>
+        <source>It will format the mass storage, 
+Do you continue?</source>
+        <translation>Bellek biçimlendirilecek, 
+devam edilsin mi?</translation>
+    </message>
+    <message>
+        <source>Deleting...</source>
+        <translation>Siliniyor...</translation>
+    </message>
+    <message>
+        <source>Error!!!</source>
+        <translation>Hata!!!</translation>
+    </message>
+    <message>
+        <source>Delete the file?</source>
+        <translation>Dosya silinsin mi?</translation>
+    </message>
+    <message>
+        <source>Error! Try egain.</source>
+        <translation>Hata! Yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>USB bellek takın...</translation>
+    </message>
+    <message>
+        <source>Copy the files?</source>
+        <translation>Dosyalar kopyalansın mı?</translation>
+    </message>
+    <message>
+        <source>File already exists,
+Replace the file?</source>
+        <translation>Dosya zaten var,
+değiştirilsin mi?</translation>
+    </message>
+    <message>
+        <source>Insufficient storage space in Removable Storage Device.</source>
+        <translation>Çıkarılabilir bellekte yeterli yer yok.</translation>
     </message>
 </context>
 <context>

@@ -393,6 +393,25 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>FilesList</name>
+    <message>
+        <source>TYPE</source>
+        <translation>类型</translation>
+    </message>
+    <message>
+        <source>TIME</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>DESCRIPTION</source>
+        <translation>描述</translation>
+    </message>
+    <message>
+        <source>no files</source>
+        <translation>无文件</translation>
+    </message>
+</context>
+<context>
     <name>FlickerMain</name>
     <message>
         <source>Trend</source>
@@ -872,6 +891,99 @@ Do you want to exit?</source>
     <message>
         <source>Back</source>
         <translation>返回</translation>
+    </message>
+</context>
+<context>
+    <name>MemoryPage</name>
+    <message>
+        <source>Format</source>
+        <translation>格式化</translation>
+    </message>
+    <message>
+        <source>To USB</source>
+        <translation>到 USB</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation>查看</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>SelectAll</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>SelectNone</source>
+        <translation>全不选</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Used:</source>
+        <translation>已用：</translation>
+    </message>
+    <message>
+        <source>Free:</source>
+        <translation>可用：</translation>
+    </message>
+    <message>
+        <source>The file is in use by the running measurement.</source>
+        <translation>文件正被当前测量使用。</translation>
+    </message>
+    <message>
+        <source>A recording is running.
+It has to end first.</source>
+        <translation>正在记录。
+请先结束记录。</translation>
+    </message>
+    <message>
+        <source>It will format the mass storage, 
+Do you continue?</source>
+        <translation>将格式化存储器， 
+是否继续？</translation>
+    </message>
+    <message>
+        <source>Deleting...</source>
+        <translation>正在删除...</translation>
+    </message>
+    <message>
+        <source>Error!!!</source>
+        <translation>错误！！！</translation>
+    </message>
+    <message>
+        <source>Delete the file?</source>
+        <translation>删除文件？</translation>
+    </message>
+    <message>
+        <source>Error! Try egain.</source>
+        <translation>错误！请重试。</translation>
+    </message>
+    <message>
+        <source>Please insert USB Disk...</source>
+        <translation>请插入 U 盘...</translation>
+    </message>
+    <message>
+        <source>Copy the files?</source>
+        <translation>复制文件？</translation>
+    </message>
+    <message>
+        <source>File already exists,
+Replace the file?</source>
+        <translation>文件已存在，
+是否替换？</translation>
+    </message>
+    <message>
+        <source>Insufficient storage space in Removable Storage Device.</source>
+        <translation>可移动存储设备空间不足。</translation>
     </message>
 </context>
 <context>

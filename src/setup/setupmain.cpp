@@ -5,21 +5,6 @@
 #include "setup/calibrationdialog.h"
 #include "setup/instrumentinfo.h"
 
-namespace {
-
-constexpr int kSequenceLength = 8;
-
-// Joined letter by letter, so that the program's text does not hold them.
-QString sequence(std::initializer_list<char> letters)
-{
-    QString text;
-    for (const char letter : letters)
-        text += QLatin1Char(letter);
-    return text;
-}
-
-} // namespace
-
 SetupMain::SetupMain(QWidget *parent) : SetupSummary(QT_TRANSLATE_NOOP("SetupMain", "Measurement"), parent)
 {
     static const KeyRow<SetupMain> keys[] = {
@@ -52,25 +37,22 @@ void SetupMain::changeFrequency()
 
 bool SetupMain::pressKey(int key)
 {
-    if (key != Qt::Key_Left && key != Qt::Key_Right) {
-        m_pressed.clear();
+    m_pressed.press(key);
+    if (key != Qt::Key_Left && key != Qt::Key_Right)
         return SetupSummary::pressKey(key);
-    }
-    m_pressed += QLatin1Char(key == Qt::Key_Left ? 'L' : 'R');
-    m_pressed = m_pressed.right(kSequenceLength);
     checkPW();
     return true;
 }
 
 void SetupMain::checkPW()
 {
-    const QString pressed = m_pressed;
-    if (pressed == sequence({ 'L', 'L', 'R', 'R', 'L', 'R', 'L', 'R' })) {
+    const ServiceKeys pressed = m_pressed;
+    if (pressed.were({ 'L', 'L', 'R', 'R', 'L', 'R', 'L', 'R' })) {
         m_pressed.clear();
         QV_TRACE("setup/setupmain") << "Enter the calibration function.";
         QV_TRACE("setup/setupmain") << "calibration!!!";
         CalibrationDialog::calibration();
-    } else if (pressed == sequence({ 'R', 'R', 'L', 'L', 'R', 'L', 'R', 'L' })) {
+    } else if (pressed.were({ 'R', 'R', 'L', 'L', 'R', 'L', 'R', 'L' })) {
         m_pressed.clear();
         InstrumentInfo::editInstrumentInfo();
     }

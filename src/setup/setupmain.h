@@ -1,5 +1,6 @@
 #pragma once
 
+#include "pages/servicekeys.h"
 #include "setup/setupsummary.h"
 
 /// The first page of Setup: the set-up in use, and the ways to wiring, nominal voltage, frequency and clamps. Two
@@ -28,5 +29,5 @@ private:
     void changeFrequency();
     void checkPW();
 
-    QString m_pressed; // the last Left and Right in a row, as "L" and "R"
+    ServiceKeys m_pressed;
 };

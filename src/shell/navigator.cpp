@@ -310,6 +310,7 @@ void Navigator::showOverlay(_quvera_ui_type target)
     if (!page)
         return;
     emit titleChanged(PageTable::title(target));
+    page->enter();
     m_stack->setCurrentWidget(page);
     page->setFocus();
 }

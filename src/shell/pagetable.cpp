@@ -1,13 +1,16 @@
 #include "shell/pagetable.h"
 
 #include "device/deviceinit.h"
+#include "memory/memorypage.h"
 #include "services/modbuspublisher.h"
 #include "settings/recordinfo.h"
 #include "setup/setuppage.h"
 #include "shell/basedialog.h"
+#include "shell/navigator.h"
 #include "shell/quveraglobal.h"
 #include "shell/tasklinks.h"
 #include "shell/taskmanage.h"
+#include "storage/udiskstorage.h"
 #include "task/unitask.h"
 #include "user/userpage.h"
 #include "views/dips/dswell.h"
@@ -127,6 +130,15 @@ FunctionPage *makeUser(TaskLinks &, const LiveData &data)
     return page;
 }
 
+FunctionPage *makeMemory(TaskLinks &, const LiveData &)
+{
+    auto *page = new MemoryPage;
+    page->setMedias(udisk->Storages());
+    QObject::connect(udisk, &uDiskStorage::uDiskStorageChanged, page, &MemoryPage::massStorageMedias);
+    QObject::connect(page, &MemoryPage::goBack, &m_basedialog->navigator(), &Navigator::showLast);
+    return page;
+}
+
 bool notRecording()
 {
     return !RecordInfo::m_in_recording;
@@ -173,7 +185,7 @@ const PageRow kRows[] = {
     { UI_SCOPE, QT_TRANSLATE_NOOP("BaseDialog", "Scope"), kNoTile,
       Plan::Live, kBasic, Hears::kLive, 12, 7, make<ScopePage> },
     { UI_SETUP, QT_TRANSLATE_NOOP("BaseDialog", "Setup"), kNoTile, Plan::Settings, kBasic, 0, 14, 0, makeSetup },
-    { UI_MEMORY, QT_TRANSLATE_NOOP("BaseDialog", "Memory"), kNoTile, Plan::Overlay, kBasic, 0, 15, 0, nullptr },
+    { UI_MEMORY, QT_TRANSLATE_NOOP("BaseDialog", "Memory"), kNoTile, Plan::Overlay, kBasic, 0, 15, 0, makeMemory },
     { UI_WAVE, QT_TRANSLATE_NOOP("BaseDialog", "Wave"),
       { 10, "wave", QT_TRANSLATE_NOOP("MenuPage", "Wave\n") },
       Plan::Commanded, AbstractTask::UniWave, Hears::kFront, 13, 10, makeWave },

@@ -2,7 +2,10 @@
 
 #include "shell/basedialog.h"
 #include "settings/langtranslation.h"
+#include "settings/localtime.h"
 #include "model/livedata.h"
+#include "storage/filework.h"
+#include "storage/storeditems.h"
 #include "storage/udiskstorage.h"
 #include "settings/userconfig.h"
 #include "board/backlight.h"
@@ -39,6 +42,13 @@ void showSplash()
     QCoreApplication::processEvents();
 }
 
+/// What a lost supply left between card and index is mended behind the first pages.
+static void mendIndex()
+{
+    auto *work = new FileWork(m_basedialog);
+    work->run([zone = LocalTime::localTimeZone()] { StoredItems::mendIndex(zone); }, [work] { work->deleteLater(); });
+}
+
 void appInit()
 {
     qRegisterMetaType<_quvera_ui_type>("QuveraUiType");
@@ -67,6 +77,7 @@ void appInit()
     systemTray = new SystemTray;
     systemTray->setWirelessQuery(&Wifi::isWifiConnected);
     udisk = new uDiskStorage;
+    mendIndex();
 }
 
 void appConnection()

@@ -140,7 +140,8 @@ bool FileCopy::finish()
 
 FileCopy::State FileCopy::fail()
 {
-    cancel(qt_error_string(errno));
+    m_errorNumber = errno;
+    cancel(qt_error_string(m_errorNumber));
     return m_state;
 }
 

@@ -7,7 +7,7 @@
 /// the disk before the next is read, so that no long wait stands at the end and a pulled disk is noticed where it
 /// happens. The copy is written aside, as the target's name with ".part" added, and takes the target's name in one step
 /// when it is whole: until then an old target is as it was, and what ends early leaves nothing. Paths are the board's.
-/// GUI thread.
+/// Lives on one thread, whichever it is.
 class FileCopy
 {
 public:
@@ -26,7 +26,9 @@ public:
     void cancel(const QString &reason);
 
     double progress() const; // 0 to 1
+    qint64 copied() const { return m_copied; } // bytes
     QString error() const { return m_error; } // empty unless Failed
+    int errorNumber() const { return m_errorNumber; } // of errno; 0 unless the system refused
 
 protected:
     /// Sends a range of the copy to the disk and waits for it. False with errno set.
@@ -46,4 +48,5 @@ private:
     qint64 m_copied = 0;
     State m_state = Running;
     QString m_error;
+    int m_errorNumber = 0;
 };

@@ -2,6 +2,10 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
+#include <QMutex>
+#include <QMutexLocker>
+#include <QSet>
 
 #include "platform/debuglog.h"
 #include "platform/diskworker.h"
@@ -9,9 +13,12 @@
 #include "storage/safefile.h"
 #include "storage/wholefile.h"
 
+#include <functional>
+
 namespace {
 
 constexpr qint64 kLargestIndex = 16 * 1024 * 1024; // bytes; some 300,000 entries
+constexpr int kTimeLength = 19; // "yyyy-MM-dd hh:mm:ss"
 
 WholeFile::Reading readLines(QStringList *lines)
 {
@@ -31,15 +38,37 @@ bool linesToRewrite(QStringList *lines)
     return reading == WholeFile::Read || reading == WholeFile::Missing;
 }
 
-bool writeLines(const QStringList &lines)
+/// Whoever changes the index reads and writes it under this lock.
+QMutex &changing()
 {
-    QByteArray text;
-    for (const QString &line : lines)
-        text += line.toLatin1() + '\n';
-    if (!SafeFile::replace(FileInfo::indexPath(), text))
-        return false;
-    DiskWorker::instance().sync();
-    return true;
+    static QMutex mutex;
+    return mutex;
+}
+
+using Change = std::function<QStringList(const QStringList &)>;
+enum class Writing { Always, WhatDiffers };
+
+/// Reads the lines, changes them and writes them; false, with a line in the log, when the index could not be read or
+/// written.
+bool rewrite(const char *who, Writing writing, const Change &change)
+{
+    QMutexLocker lock(&changing());
+    QStringList lines;
+    bool good = linesToRewrite(&lines);
+    if (good) {
+        const QStringList changed = change(lines);
+        if (writing == Writing::WhatDiffers && changed == lines)
+            return true;
+        QByteArray text;
+        for (const QString &line : changed)
+            text += line.toLatin1() + '\n';
+        good = SafeFile::replace(FileInfo::indexPath(), text);
+    }
+    if (good)
+        DiskWorker::instance().sync();
+    else
+        QUVERA_DEBUG(QStringLiteral("open fail: ") + QLatin1String(who));
+    return good;
 }
 
 QString nameOf(const QString &line)
@@ -97,6 +126,11 @@ QString FileInfo::baseName(const QString &name)
     return dot < 0 ? name : name.left(dot);
 }
 
+QString FileInfo::entryName(const QString &name)
+{
+    return nameOf(QString::fromLatin1(oneLine(name).toLatin1()));
+}
+
 QStringList FileInfo::readInfo() const
 {
     QStringList lines;
@@ -126,45 +160,67 @@ bool FileInfo::testFileexist(const QString &name) const
 
 bool FileInfo::saveInfo(const QString &name, const QDateTime &localTime) const
 {
-    QStringList lines;
-    if (!linesToRewrite(&lines)) {
-        QUVERA_DEBUG("open fail: saveInfo");
-        return false;
-    }
-    QStringList kept;
-    for (const QString &line : lines) {
-        if (baseName(nameOf(line)) == baseName(name))
-            QUVERA_DEBUG("file exist ,  cover or not?");
-        else
-            kept << line;
-    }
-    kept << oneLine(name) + QLatin1Char(',') + localTime.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
-    if (!writeLines(kept)) {
-        QUVERA_DEBUG("open fail: saveInfo");
-        return false;
-    }
-    return true;
+    return rewrite("saveInfo", Writing::Always, [&](const QStringList &lines) {
+        QStringList kept;
+        for (const QString &line : lines) {
+            if (baseName(nameOf(line)) == baseName(name))
+                QUVERA_DEBUG("file exist ,  cover or not?");
+            else
+                kept << line;
+        }
+        return kept << oneLine(name) + QLatin1Char(',') + localTime.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    });
 }
 
 bool FileInfo::removeInfo(const QString &name) const
 {
     const QString base = baseName(name);
-    QStringList lines;
-    if (!linesToRewrite(&lines)) {
-        QUVERA_DEBUG("open fail: removeInfo");
-        return false;
-    }
-    // The files go first: on a full card only that makes the room which the new index needs.
-    removeFiles(base);
-    QStringList kept;
-    for (const QString &line : lines) {
-        if (baseName(nameOf(line)) != base)
-            kept << line;
-    }
-    if (writeLines(kept))
-        return true;
-    QUVERA_DEBUG("open fail: removeInfo");
-    return false;
+    return rewrite("removeInfo", Writing::Always, [&base](const QStringList &lines) {
+        // The files go first: on a full card only that makes the room which the new index needs.
+        removeFiles(base);
+        QStringList kept;
+        for (const QString &line : lines) {
+            if (baseName(nameOf(line)) != base)
+                kept << line;
+        }
+        return kept;
+    });
+}
+
+bool FileInfo::removeEntries(const QStringList &names) const
+{
+    QSet<QString> gone;
+    for (const QString &name : names)
+        gone.insert(entryName(name));
+    return rewrite("removeEntries", Writing::WhatDiffers, [&gone](const QStringList &lines) {
+        QStringList kept;
+        for (const QString &line : lines) {
+            if (!gone.contains(nameOf(line)))
+                kept << line;
+        }
+        return kept;
+    });
+}
+
+bool FileInfo::mend(const QHash<QString, QString> &present) const
+{
+    return rewrite("mend", Writing::WhatDiffers, [&present](const QStringList &lines) {
+        QStringList kept;
+        QHash<QString, QString> missing = present;
+        for (const QString &line : lines) {
+            // What was saved since is there as well.
+            if (present.contains(nameOf(line)) || QFileInfo::exists(Target::path(storagePath() + nameOf(line))))
+                kept << line;
+            missing.remove(nameOf(line));
+        }
+        QStringList added;
+        for (auto item = missing.cbegin(); item != missing.cend(); ++item)
+            added << item.value() + item.key();
+        added.sort(); // by time
+        for (const QString &item : added)
+            kept << item.mid(kTimeLength) + QLatin1Char(',') + item.left(kTimeLength);
+        return kept;
+    });
 }
 
 QStringList FileInfo::getFiles(const QString &path) const

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
 class QDateTime;
 
 /// The text index "/mnt/storage/.infomation" of what the instrument recorded, and the names it gives.
-/// Format: docs/formats/storage-index.md. GUI thread. Failures go to the debug log only.
+/// Format: docs/formats/storage-index.md. Any thread; changes are made one after the other. Failures go to the debug
+/// log only.
 class FileInfo
 {
 public:
@@ -20,6 +22,11 @@ public:
     /// Deletes the stored files of the name's base name, then removes its entries. False when the index could not be
     /// read (then nothing is deleted) or written (then the files are gone and the entries stay).
     bool removeInfo(const QString &name) const;
+    /// Removes the entries of exactly these names, in one writing however many they are; files are left alone.
+    bool removeEntries(const QStringList &names) const;
+    /// Removes the entries that are not among \a present (entry names with their times) and appends what is missing.
+    /// Writes only what differs.
+    bool mend(const QHash<QString, QString> &present) const;
     /// Files of a folder (a board's path), no dot files, oldest first.
     QStringList getFiles(const QString &path) const;
     /// Entries of the storage that look like records: "yyMMdd_hhmmss name".
@@ -33,4 +40,6 @@ public:
     static QString storagePath(); // the board's
     /// A name without its last extension: names are compared so.
     static QString baseName(const QString &name);
+    /// A file's name as the index holds it: of Latin-1, one line, up to the first comma.
+    static QString entryName(const QString &name);
 };

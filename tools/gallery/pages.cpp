@@ -153,6 +153,15 @@ Page userPages()
                                       "", true, false));
 }
 
+/// What is stored: nothing after the formatting, then two pictures of the menu.
+QVector<Page> memory()
+{
+    return { byKey("memory", "F10",
+                   { "F1 F4: empty", "F5 F11 F4 F11 F4 F10: list", "F2: to-usb", "F1: to-usb-all", "F4: no-disk",
+                     "F5 F5 F3 Enter: delete", "F4: delete-question", "F5 F5 F1: format-question", "F5 F4: picture" },
+                   "F5 F5", true, false) };
+}
+
 } // namespace
 
 const QVector<Page> &galleryPages()
@@ -203,8 +212,7 @@ const QVector<Page> &galleryPages()
                 "F5 Left Left Right Right Left Right Left Right: calibration", "F1 F2: calibration-l1",
                 "F3: calibration-runs", "F5: calibration-question", "F4: left" },
               "", true, kOneWiring)),
-        byKey("memory", "F10", { "message" }, "F5", true, kOneWiring),
-    } + setupEditors() + setUpOfASite() + recordingOfASite();
+    } + memory() + setupEditors() + setUpOfASite() + recordingOfASite();
     return pages;
 }
 

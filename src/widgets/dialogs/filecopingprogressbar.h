@@ -1,6 +1,7 @@
 #pragma once
 
-#include "storage/filecopy.h"
+#include "storage/copybatch.h"
+#include "storage/filework.h"
 #include "widgets/dialogs/softkeydialog.h"
 
 #include <QTimer>
@@ -11,9 +12,9 @@ namespace Ui {
 class FileCopingProgressBar;
 }
 
-/// Copies one file while it shows the progress. It copies a piece at a time between the events of the loop, so that
-/// measuring goes on; "Cancel", a pulled disk or a full one end it, and nothing half-written stays behind: an old
-/// target is then as it was.
+/// Copies files and folders while it shows the progress. They are copied by a thread of their own, so that measuring
+/// and the screen go on however slow a disk is; "Cancel", a pulled disk or a full one end it, and nothing half-written
+/// stays behind: an old target is then as it was.
 class FileCopingProgressBar : public SoftKeyDialog
 {
     Q_OBJECT
@@ -24,16 +25,21 @@ public:
 
     /// Copies `source` over `target` (the board's paths); false with `err` set when it did not succeed.
     static bool copyFile(const QString &source, const QString &target);
+    /// Copies these one after the other, as far as it goes; `*copied` is how many that were.
+    static CopyBatch::Result copyFiles(const QVector<CopyBatch::Job> &jobs, int *copied);
 
-    FileCopingProgressBar(const QString &source, const QString &target, QWidget *parent = nullptr);
+    explicit FileCopingProgressBar(const QVector<CopyBatch::Job> &jobs, QWidget *parent = nullptr);
     ~FileCopingProgressBar() override;
 
 private:
-    void copyPiece();
+    void showProgress();
     void finish();
     void reject() override;
 
     std::unique_ptr<Ui::FileCopingProgressBar> m_ui;
-    FileCopy m_copy;
+    CopyBatch m_batch;
+    CopyBatch::Result m_result = CopyBatch::Cancelled;
     QTimer m_turn;
+    int m_shown = -1; // job whose name stands on it
+    FileWork m_work; // ends before what it works on
 };

@@ -258,7 +258,7 @@ void TstLanguages::lookAtDialogs()
     SaveDialog::save(3, name);
     VirtualKeyBoard::getKeyBoardInput(QString(), QString());
     FileManager::getExistFileName();
-    FileCopingProgressBar(QString(), QString()).exec();
+    FileCopingProgressBar({ { QString(), QString() } }).exec();
     CalibrationDialog::calibration();
     InstrumentInfo::editInstrumentInfo();
 }

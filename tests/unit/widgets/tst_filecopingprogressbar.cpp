@@ -109,12 +109,12 @@ void TstFileCopingProgressBar::aMissingDiskIsAnError()
 
 void TstFileCopingProgressBar::cancelLeavesNothingBehind()
 {
-    write(kSource, QByteArray(40000000, 'x'));
-    FileCopingProgressBar bar(kSource, kTarget);
+    write(kSource, QByteArray(200000000, 'x'));
+    FileCopingProgressBar bar({ { kSource, kTarget } });
     bar.show();
     QTRY_VERIFY(bar.findChild<QProgressBar *>()->value() > 0);
     QTest::keyClick(&bar, 'L');
-    QVERIFY(!bar.isVisible());
+    QTRY_VERIFY(!bar.isVisible());
     QCOMPARE(bar.result(), int(QDialog::Rejected));
     QVERIFY(FileCopingProgressBar::err != QStringLiteral("NoErr"));
     QCOMPARE(onDisk(), QStringList());
@@ -122,9 +122,9 @@ void TstFileCopingProgressBar::cancelLeavesNothingBehind()
 
 void TstFileCopingProgressBar::closingTheProgramMeanwhileLeavesNothingBehind()
 {
-    write(kSource, QByteArray(40000000, 'x'));
+    write(kSource, QByteArray(200000000, 'x'));
     {
-        FileCopingProgressBar bar(kSource, kTarget);
+        FileCopingProgressBar bar({ { kSource, kTarget } });
         QTRY_VERIFY(bar.findChild<QProgressBar *>()->value() > 0);
         QCOMPARE(onDisk().size(), 1); // the part that is there
     }
