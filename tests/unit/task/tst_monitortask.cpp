@@ -1,0 +1,191 @@
+#include "settings/monitorinfo.h"
+#include "storedblocks.h"
+#include "unit/storage/rootfiles.h"
+#include "unitaskcase.h"
+
+#include <QDir>
+#include <QPointer>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+constexpr int kValuesOfTwoHours = 12;
+
+} // namespace
+
+/// The monitor inside its task: what reaches it, and how it ends the run.
+class TstMonitorTask : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void aggregationsReachTheMonitorWithTheWaveBehindThem();
+    void tenMinutesRefreshThePages();
+    void enoughValuesEndTheRun();
+    void taskMayBeDroppedWhenItHasEnough();
+    void onHoldNoSecondsPassAndTheSumsGoOn();
+    void fileIsWholeWhenTheEndIsHeardOf();
+    void savedRunIsEndedOnce();
+    void plannedRunThatIsGivenUpEndsItsFile();
+    void endOfTheFileHoldsAllOfTenThousandEvents();
+
+private:
+    void start()
+    {
+        m_task->initUniFunction(AbstractTask::UniMonitor);
+        m_task->startTask();
+    }
+    void supply(float frequency)
+    {
+        m_task->datagramAggregation(aggregation(frequency).bytes());
+        m_task->datagramWave(wave().bytes());
+    }
+    void pass(int seconds)
+    {
+        for (int i = 0; i < seconds; ++i)
+            m_task->tick();
+    }
+    void fillTrend()
+    {
+        for (int i = 0; i < kValuesOfTwoHours; ++i)
+            live().monitorTrend.append(MonitorTrendVoltage, 230);
+    }
+    static QList<quint32> kinds()
+    {
+        const QDir storage(Target::path(QStringLiteral("/mnt/storage")));
+        const QStringList folders = storage.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        QList<quint32> all;
+        QFile file(storage.filePath(folders.value(0) + QStringLiteral("/Monitor.pqa2")));
+        if (file.open(QIODevice::ReadOnly)) {
+            for (const ReadBlock &block : readBlocks(file.readAll()).mid(3))
+                all << block.type;
+        }
+        return all;
+    }
+
+    std::unique_ptr<UniTask> m_task;
+};
+
+void TstMonitorTask::init()
+{
+    RootFiles::clean();
+    renewRecords();
+    MonitorInfo::m_duration = 2;
+    m_task = std::make_unique<UniTask>(liveData());
+}
+
+void TstMonitorTask::cleanup()
+{
+    m_task.reset();
+    dropRecords();
+}
+
+void TstMonitorTask::aggregationsReachTheMonitorWithTheWaveBehindThem()
+{
+    start();
+    m_task->datagramAggregation(aggregation(-49).bytes()); // no lock: the magnitude counts
+    m_task->datagramWave(wave().bytes());
+    m_task->datagramWave(wave().bytes()); // none that is new
+    m_task->datagramAggregation(aggregation(10).bytes()); // overtaken before a wave
+    supply(51);
+    pass(10);
+    QCOMPARE(live().monitor.freqMax, 50.0f);
+}
+
+void TstMonitorTask::tenMinutesRefreshThePages()
+{
+    start();
+    QSignalSpy refresh(m_task.get(), &UniTask::updateDisplay);
+    supply(50);
+    pass(599);
+    QCOMPARE(refresh.count(), 0);
+    pass(1);
+    QCOMPARE(refresh.count(), 1);
+    QCOMPARE(live().monitor.voltReady, 1);
+    QVERIFY(live().monitorTrend.row[MonitorTrendVoltage].first() > 1);
+}
+
+void TstMonitorTask::enoughValuesEndTheRun()
+{
+    start();
+    pass(1);
+    QVERIFY(m_task->isTaskRunning());
+    fillTrend();
+    pass(1);
+    QVERIFY(m_task->isTaskStoped());
+    QCOMPARE(kinds(), QList<quint32>({ 0xA1000018, 0xA1000019 }));
+    pass(30); // and nothing more
+    QCOMPARE(kinds().size(), 2);
+}
+
+void TstMonitorTask::taskMayBeDroppedWhenItHasEnough()
+{
+    start();
+    QPointer<UniTask> task = m_task.get();
+    connect(m_task.get(), QOverload<>::of(&AbstractTask::taskStoped), this, [this] { m_task.release()->retire(); });
+    fillTrend();
+    task->tick();
+    QTRY_VERIFY(task.isNull());
+    QVERIFY(!m_task);
+}
+
+void TstMonitorTask::onHoldNoSecondsPassAndTheSumsGoOn()
+{
+    start();
+    supply(49);
+    pass(9);
+    m_task->pauseTask();
+    pass(50);
+    supply(51);
+    QCOMPARE(live().monitor.freqReady, 0);
+    m_task->continueTask();
+    pass(1);
+    QCOMPARE(live().monitor.freqMax, 50.0f);
+}
+
+void TstMonitorTask::fileIsWholeWhenTheEndIsHeardOf()
+{
+    start();
+    QList<quint32> atTheEnd;
+    connect(m_task.get(), QOverload<>::of(&AbstractTask::taskStoped), this, [&] { atTheEnd = kinds(); });
+    m_task->stopTask();
+    QCOMPARE(atTheEnd, QList<quint32>({ 0xA1000018, 0xA1000019 }));
+}
+
+void TstMonitorTask::savedRunIsEndedOnce()
+{
+    for (bool keep : { true, false }) {
+        init();
+        start();
+        m_task->save(keep); // the monitor's data stays, whatever is asked
+        m_task->stopTask();
+        m_task->save(keep);
+        QCOMPARE(kinds(), QList<quint32>({ 0xA1000018, 0xA1000019 }));
+    }
+}
+
+void TstMonitorTask::plannedRunThatIsGivenUpEndsItsFile()
+{
+    m_task->initUniFunction(AbstractTask::UniMonitor);
+    m_task->preStartTask();
+    QVERIFY(!kinds().contains(0xA1000018));
+    m_task->stopTask();
+    QCOMPARE(kinds(), QList<quint32>({ 0xA1000019 }));
+}
+
+void TstMonitorTask::endOfTheFileHoldsAllOfTenThousandEvents()
+{
+    start();
+    for (int i = 0; i < 10001; ++i)
+        liveData().events().append({});
+    m_task->stopTask();
+    QCOMPARE(kinds().count(0xA1010080), 10001);
+    QCOMPARE(kinds().last(), 0xA1000019u);
+}
+
+QTEST_GUILESS_MAIN(TstMonitorTask)
+#include "tst_monitortask.moc"
