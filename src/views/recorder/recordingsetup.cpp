@@ -132,7 +132,13 @@ void RecordingSetup::start()
 {
     stopRepeat();
     checkRoom();
-    if (*m_kind.maxDuration < 1 || m_kind.name->isEmpty()) {
+    if (m_kind.name->isEmpty()) { // all 999 defaults are taken: one has to be typed first
+        selectFirst();
+        editName();
+        showRows();
+        return;
+    }
+    if (*m_kind.maxDuration < 1) {
         Message::showMessage(Message::Info, tr("There is no room for a recording.\nDelete files in Memory."));
         return;
     }

@@ -46,6 +46,7 @@ private slots:
     void f5StartsAtThePlannedTimeOfTheUsersZone();
     void f5WithoutRoomSaysSoAndStartsNothing_data() { addFamilies(); }
     void f5WithoutRoomSaysSoAndStartsNothing();
+    void withoutAFreeNameStartAsksForOne();
     void otherKeysDoNothing_data() { addFamilies(); }
     void otherKeysDoNothing();
     void enteringAgainPlansAnew();
@@ -316,6 +317,22 @@ void TstRecorderSetup::f5WithoutRoomSaysSoAndStartsNothing()
     QCOMPARE(said, QStringLiteral("There is no room for a recording.\nDelete files in Memory."));
     QCOMPARE(started.count(), 0);
     QCOMPARE(page->currentPage(), static_cast<LivePage *>(setupOf(*page)));
+}
+
+void TstRecorderSetup::withoutAFreeNameStartAsksForOne()
+{
+    for (int n = 1; n <= 999; ++n)
+        QDir().mkpath(Target::path(QStringLiteral("/mnt/storage/240118_161509 Logger_%1").arg(n)));
+    auto page = openFamily(false);
+    QCOMPARE(text(setupOf(*page), "file_name"), QString());
+    QSignalSpy started(page.get(), &RecordingPage::startRecordTask);
+    DialogDriver keyboard({ DialogDriver::press("KF") });
+    press(setupOf(*page), F5);
+    QVERIFY(keyboard.isDone());
+    QCOMPARE(started.count(), 0);
+    QCOMPARE(text(setupOf(*page), "file_name"), QStringLiteral("q"));
+    press(setupOf(*page), F5);
+    QCOMPARE(started.count(), 1);
 }
 
 void TstRecorderSetup::otherKeysDoNothing()
