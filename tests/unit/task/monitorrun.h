@@ -6,6 +6,7 @@
 #include "settings/config_data.h"
 #include "settings/monitorinfo.h"
 #include "task/functions/monitorfunction.h"
+#include "task/recordopening.h"
 #include "unit/record/readblocks.h"
 #include "unit/storage/rootfiles.h"
 
@@ -22,6 +23,7 @@ constexpr qint64 kBegin = 1'700'000'000'000; // ms
 inline void beginCase()
 {
     RootFiles::clean();
+    Pqa2FF::setOpening(recordOpening);
     Clock::setForTest(kBegin);
     m_userConfig_g.setTimeZone(QStringLiteral("UTC"));
     MonitorInfo::m_duration = 2;

@@ -163,6 +163,7 @@ void TstMonitorFile::exampleHoldsWhatItsSupplyWas()
     QMap<quint32, QList<ReadBlock>> blocks;
     for (const ReadBlock &block : readBlocks(file.readAll()))
         blocks[block.type] << block;
+    QVERIFY(blocks[0xA1000010][0].payload.contains("Join: 3P WYE_1\n"));
     QCOMPARE(blocks[0xA1010000].size(), 61);
     for (int i = 0; i < 61; ++i) {
         const ReadBlock &block = blocks[0xA1010000][i];
