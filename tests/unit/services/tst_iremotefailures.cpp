@@ -108,6 +108,25 @@ int remoteDescriptor()
     return -1;
 }
 
+/// Descriptors that are free again once the remote control has its own: whoever opens something then gets one of them.
+class LowNumbers
+{
+public:
+    LowNumbers()
+    {
+        for (int &descriptor : m_descriptors)
+            descriptor = open("/dev/null", O_RDONLY | O_CLOEXEC);
+    }
+    void release() const
+    {
+        for (const int descriptor : m_descriptors)
+            close(descriptor);
+    }
+
+private:
+    int m_descriptors[16];
+};
+
 void waitForPort()
 {
     while (IRemote::port() == 0)
@@ -118,6 +137,7 @@ int runChild(const QByteArray &word)
 {
     ScreenShot::initScreenShot();
     LineOutput::print("child\n"); // what the output opens must not get the number of the socket that is closed below
+    const LowNumbers low; // nor must what the Modbus thread opens, whenever that is
     if (word == "child-no-descriptors") {
         const rlimit limit = { 0, 0 };
         setrlimit(RLIMIT_NOFILE, &limit);
@@ -131,8 +151,9 @@ int runChild(const QByteArray &word)
     if (word == "child-closed-socket" || word == "child-unreadable-socket") {
         waitForPort();
         const int descriptor = remoteDescriptor();
+        low.release();
         const int null = open("/dev/null", O_RDONLY);
-        QUdpSocket socket; // bound before, so that it does not get the number of the closed one
+        QUdpSocket socket;
         socket.bind(QHostAddress(QHostAddress::LocalHost), 0);
         const quint16 port = IRemote::port();
         if (word == "child-closed-socket")
@@ -141,7 +162,6 @@ int runChild(const QByteArray &word)
             dup2(null, descriptor);
         // Wakes the thread: a poll that already waits holds on to the old socket.
         socket.writeDatagram(request(0), QHostAddress(QHostAddress::LocalHost), port);
-        // Without the event loop: what it opens would get the number of the closed socket.
         for (;;)
             pause();
     }
