@@ -37,9 +37,9 @@ class RecorderRun
 public:
     static constexpr qint64 kStart = 1'700'000'000'000; // ms
 
-    RecorderRun()
-        : m_recorder(
-            { m_data, m_flicker, [this] { return setUp; }, [this] { return std::make_unique<RoomDevice>(&room); } })
+    RecorderRun() : RecorderRun([this] { return std::make_unique<RoomDevice>(&room); }) { }
+    explicit RecorderRun(const RecordFiles::MakeDevice &device)
+        : m_recorder({ m_data, m_flicker, [this] { return setUp; }, device })
     {
         RootFiles::clean();
         Clock::setForTest(kStart);

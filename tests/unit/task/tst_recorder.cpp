@@ -6,6 +6,49 @@
 
 #include <cmath>
 
+namespace {
+
+/// A file in memory whose first part has little room left below 4 GiB.
+class LongDevice : public FakePqa2Device
+{
+public:
+    LongDevice() : LongDevice(std::make_shared<State>()) { }
+    bool open(const QString &path) override
+    {
+        *m_shared = State();
+        s_parts[QFileInfo(path).fileName()] = m_shared;
+        m_first = !path.contains(QLatin1String("_2."));
+        return FakePqa2Device::open(path) && FakePqa2Device::seek(0);
+    }
+    void close() override
+    {
+        // The next part is another file.
+        const State last = *m_shared;
+        for (auto &part : s_parts) {
+            if (part == m_shared)
+                part = std::make_shared<State>(last);
+        }
+    }
+    qint64 write(const char *data, qint64 size) override
+    {
+        const qint64 written = FakePqa2Device::write(data, size);
+        if (m_first && std::exchange(m_first, false)) // the file's head
+            skip(qint64(0xFFFFFFFF) - kRoom);
+        return written;
+    }
+
+    static constexpr qint64 kRoom = 600;
+    static inline QMap<QString, std::shared_ptr<State>> s_parts;
+
+private:
+    explicit LongDevice(const std::shared_ptr<State> &state) : FakePqa2Device(state.get()), m_shared(state) { }
+
+    std::shared_ptr<State> m_shared;
+    bool m_first = false;
+};
+
+} // namespace
+
 /// What the recorder stores of a measurement, and when.
 class TstRecorder : public QObject
 {
@@ -26,6 +69,7 @@ private slots:
     void withoutRoomNothingIsStoredAndTheRecordingRuns();
     void withoutACommonFileTheOthersAreWritten();
     void blocksAreDroppedWhileThereIsNoRoomAndComeAgain();
+    void aFileThatIsFullGoesOnInItsNextPart();
     void flickerBeginsAnewWithTheRecording();
     void theLastSeveritiesAreStoredWhereTheirIntervalsAreNearlyFull();
     void everythingIsSentToTheCardEveryFewSeconds();
@@ -292,6 +336,33 @@ void TstRecorder::blocksAreDroppedWhileThereIsNoRoomAndComeAgain()
     const QList<ReadBlock> means = run.blocks(0xA1000029);
     QCOMPARE(means.size(), 2);
     QCOMPARE(valueAt<qint64>(means[1].payload, 0) - valueAt<qint64>(means[0].payload, 0), 2000);
+}
+
+void TstRecorder::aFileThatIsFullGoesOnInItsNextPart()
+{
+    LongDevice::s_parts.clear();
+    RecorderRun run([] { return std::make_unique<LongDevice>(); });
+    RecordInfo::m_recordItems = RecordInfo::FrequencyInterval | RecordInfo::HarmonicVolt1to50;
+    RecordInfo::m_interval_index = 0; // 1 s
+    run.recorder().start();
+    run.take(60, 200);
+    run.recorder().stop(Keep::Data);
+    QCOMPARE(LongDevice::s_parts.keys(),
+             (QStringList { "Common.pqa2", "Common_2.pqa2", "U Harmonic(1-50).pqa2", "U Harmonic(1-50)_2.pqa2" }));
+    int intervals = 0;
+    for (const char *part : { "Common.pqa2", "Common_2.pqa2" }) {
+        // The first part has a gap behind its head that no reader goes through; its blocks stand behind it.
+        const QByteArray content = LongDevice::s_parts[QLatin1String(part)]->content;
+        intervals += content.count(QByteArray::fromHex("290000A10C000000")); // type and size of the mean frequency
+    }
+    QCOMPARE(intervals, 12); // eleven full ones and the rest
+    for (const char *part : { "Common_2.pqa2", "U Harmonic(1-50)_2.pqa2" }) {
+        const QList<ReadBlock> blocks = readBlocks(LongDevice::s_parts[QLatin1String(part)]->content).mid(3);
+        QVERIFY(blocks.size() > 3);
+        QCOMPARE(blocks[0].type, 0xA1000018u); // of the recording
+        QCOMPARE(valueAt<quint32>(blocks[0].payload, 0), quint32(RecorderRun::kStart / 1000));
+    }
+    QCOMPARE(readBlocks(LongDevice::s_parts["Common_2.pqa2"]->content).last().type, 0xA1000019u);
 }
 
 void TstRecorder::flickerBeginsAnewWithTheRecording()
