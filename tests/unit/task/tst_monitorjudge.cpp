@@ -1,9 +1,11 @@
 #include "monitorcase.h"
+#include "unit/wildfloats.h"
 
 #include <QTest>
 
 #include <cmath>
 #include <limits>
+#include <vector>
 
 using namespace MonitorCase;
 
@@ -56,6 +58,7 @@ private slots:
     void longTermFlickerRatiosAreQuotients();
     void longTermFlickerPassesAndFailsAtItsLimit();
     void signalPercentilesAreThoseOfTheTenMinutes();
+    void anyLimitsAndValuesAreJudged();
 };
 
 // Frequency
@@ -442,6 +445,32 @@ void TstMonitorJudge::signalPercentilesAreThoseOfTheTenMinutes()
     sums.add(*record);
     j.judge.signal(sums);
     QCOMPARE(j.data.signal1PercentileAll[0], 3.0f); // nothing of the ten minutes before
+}
+
+void TstMonitorJudge::anyLimitsAndValuesAreJudged()
+{
+    std::vector<float> numbers(std::begin(kWildFloats), std::end(kWildFloats));
+    for (float number : { 0.0f, -1.0f, 100.0f, 230.0f })
+        numbers.push_back(number);
+    for (float limit : numbers) {
+        MonitorSetup setup = european();
+        auto *fields = reinterpret_cast<float *>(&setup.limits);
+        std::fill(fields, fields + sizeof(monitor_limit) / sizeof(float), limit);
+        Judged j(setup);
+        MonitorSums sums;
+        for (float value : numbers) {
+            sums.add(*supply(value, value));
+            j.judge.frequency(value, 0);
+            j.judge.voltage(2, value, 0);
+            j.judge.unbalance(value, 0);
+            j.judge.harmonic(2, 24, value, 0);
+            j.judge.plt(2, value, 0);
+            j.judge.signal(sums);
+        }
+        for (int ok : { j.data.freqPartialOk, j.data.voltWholeOk[2], j.data.unbalOk, j.data.harmOk[2][24] })
+            QVERIFY(ok == 0 || ok == 1);
+        QCOMPARE(j.trend.row[6].size(), int(numbers.size()));
+    }
 }
 
 QTEST_GUILESS_MAIN(TstMonitorJudge)

@@ -1,6 +1,7 @@
 #include "settings/monitorinfo.h"
 #include "storedblocks.h"
 #include "unit/storage/rootfiles.h"
+#include "unit/wildfloats.h"
 #include "unitaskcase.h"
 
 #include <QDir>
@@ -32,6 +33,7 @@ private slots:
     void savedRunIsEndedOnce();
     void plannedRunThatIsGivenUpEndsItsFile();
     void endOfTheFileHoldsAllOfTenThousandEvents();
+    void anyPayloadInAnyWiringLeavesTheTrendsBounded();
 
 private:
     void start()
@@ -185,6 +187,36 @@ void TstMonitorTask::endOfTheFileHoldsAllOfTenThousandEvents()
     m_task->stopTask();
     QCOMPARE(kinds().count(0xA1010080), 10001);
     QCOMPARE(kinds().last(), 0xA1000019u);
+}
+
+void TstMonitorTask::anyPayloadInAnyWiringLeavesTheTrendsBounded()
+{
+    MonitorInfo::m_duration = 10000;
+    quint32 pick = 1;
+    const auto next = [&pick](std::size_t of) {
+        pick = pick * 1664525u + 1013904223u;
+        return (pick >> 8) % of;
+    };
+    for (int joinMode = 1; joinMode <= 10; ++joinMode) {
+        m_settingConfig_g.setJoinMode(joinMode);
+        m_task = std::make_unique<UniTask>(liveData());
+        start();
+        for (int i = 0; i < 40; ++i) {
+            Payload payload(Link::kAggregationWords, i % 3 ? kNow + i : -1 - qint64(i) * kNow);
+            for (int word = 2; word < Link::kAggregationWords; ++word)
+                payload.set(word, next(4) ? float(next(1000)) : kWildFloats[next(std::size(kWildFloats))]);
+            m_task->datagramAggregation(payload.bytes());
+            m_task->datagramWave(wave().bytes());
+            pass(300);
+        }
+        for (const QList<float> &row : live().monitorTrend.row)
+            QVERIFY(row.size() <= 20);
+        QCOMPARE(live().monitorTrend.row[MonitorTrendVoltage].size(), 20);
+        m_task->stopTask();
+        QVERIFY(kinds().contains(0xA1010006));
+        RootFiles::clean();
+    }
+    m_settingConfig_g.setJoinMode(1);
 }
 
 QTEST_GUILESS_MAIN(TstMonitorTask)
