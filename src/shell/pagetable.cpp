@@ -98,8 +98,14 @@ FunctionPage *makeRecorder(TaskLinks &links, const LiveData &data)
 FunctionPage *makeLogger(TaskLinks &links, const LiveData &data)
 {
     auto *page = new LoggerPage(data);
-    QObject::connect(page, &LoggerPage::startRecordTask, &links,
-                     [&links] { emit links.startWanted(AbstractTask::UniLogger, UI_LOGGER); });
+    QObject::connect(page, &LoggerPage::startRecordTask, &links, [page, &links] {
+        // A run that has ended cannot be started again.
+        if (const AbstractTask *task = m_taskmanage->currentTask(); task && task->isTaskStoped())
+            m_taskmanage->exitTask();
+        emit links.startWanted(AbstractTask::UniLogger, UI_LOGGER);
+        if (g_unitask)
+            page->showPlan(qint64(g_unitask->startTime()) * 1000, qint64(g_unitask->endTime()) * 1000);
+    });
     QObject::connect(page, &LoggerPage::stopRecordWithSave, &links, &TaskLinks::endWanted);
     QObject::connect(&links, &TaskLinks::ended, page, &LoggerPage::recordingStoped);
     return page;

@@ -1,5 +1,6 @@
 // What the recorder's pages ask of the shell, and what they hear of the task.
 #include "shellcase.h"
+#include "unit/storage/rootfiles.h"
 
 #include "settings/loggerinfo.h"
 #include "shell/pagetable.h"
@@ -11,7 +12,7 @@
 #include "views/vif/vifmain.h"
 #include "views/vif/vifpage.h"
 
-#include <QSignalSpy>
+#include <QPointer>
 
 #include <algorithm>
 #include <memory>
@@ -169,27 +170,42 @@ void TstRecordingPages::loggersPagesRunTheirOwnFunction()
     const std::vector<PageRow> &rows = PageTable::rows();
     const auto row = std::find_if(rows.begin(), rows.end(), [](const PageRow &r) { return r.plan == Plan::Unreached; });
     QVERIFY(row != rows.end() && row->type == UI_LOGGER);
-    TaskLinks links;
-    const std::unique_ptr<FunctionPage> made(row->make(links, m_taskmanage->data()));
+    RootFiles::clean();
+    const std::unique_ptr<FunctionPage> made(row->make(m_taskmanage->links(), m_taskmanage->data()));
     auto *page = qobject_cast<LoggerPage *>(made.get());
     QVERIFY(page);
-    QList<int> started;
-    connect(&links, &TaskLinks::startWanted, this,
-            [&started](AbstractTask::UniFunction function, _quvera_ui_type display) {
-                started << int(function) << int(display);
-            });
-    QSignalSpy ended(&links, &TaskLinks::endWanted);
+    const auto answer = [page](Qt::Key key) {
+        DialogAnswer question(key);
+        QTest::keyClick(page->currentPage(), kF5);
+        return question.asked;
+    };
+    const QString file = QStringLiteral("/mnt/storage/Logger_1_00.csv");
+    LoggerInfo::m_duration = 30;
     page->enter();
     QTest::keyClick(page->currentPage(), kF5);
-    QCOMPARE(started, QList<int>({ AbstractTask::UniLogger, UI_LOGGER }));
-    LoggerInfo::m_in_logging = 1; // its function runs
-    DialogAnswer exit(kF1);
+    QCOMPARE(m_taskmanage->getUniFunction(), int(AbstractTask::UniLogger));
+    QCOMPARE(LoggerInfo::m_in_logging, 1);
+    QVERIFY(RootFiles::exists(file));
+    QCOMPARE(page->currentIndex(), int(LoggerPage::Start));
+    QCOMPARE(page->currentPage()->findChild<QLabel *>("duration")->text(), QStringLiteral("1 d, 6 hr"));
+    const QPointer<UniTask> first = g_unitask;
+    QVERIFY(answer(Qt::Key_Y)); // Restart: a run of its own
+    QVERIFY(g_unitask && g_unitask != first);
+    QCOMPARE(LoggerInfo::m_in_logging, 1);
+    QVERIFY(RootFiles::exists(file));
+    g_unitask->startTask(); // it measures
+    QVERIFY(answer(kF4)); // Save
+    QCOMPARE(LoggerInfo::m_in_logging, 0);
+    QVERIFY(g_unitask->isTaskStoped());
+    QVERIFY(RootFiles::exists(file));
+    QCOMPARE(page->currentIndex(), int(LoggerPage::Setup));
+    QCOMPARE(*LoggerInfo::m_logger_file, QStringLiteral("Logger_2"));
     QTest::keyClick(page->currentPage(), kF5);
-    QVERIFY(exit.asked);
-    QCOMPARE(ended.count(), 1);
-    QCOMPARE(ended.at(0).at(0).toBool(), false);
-    LoggerInfo::m_in_logging = 0;
-    emit links.ended();
+    QVERIFY(RootFiles::exists(QStringLiteral("/mnt/storage/Logger_2_00.csv")));
+    QVERIFY(answer(kF1)); // Exit
+    QVERIFY(!RootFiles::exists(QStringLiteral("/mnt/storage/Logger_2_00.csv")));
+    QVERIFY(RootFiles::exists(file));
+    LoggerInfo::m_duration = 2;
 }
 
 QTEST_MAIN(TstRecordingPages)
