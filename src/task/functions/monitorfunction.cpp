@@ -4,6 +4,7 @@
 #include "device/trace.h"
 #include "model/livedata.h"
 #include "platform/clock.h"
+#include "record/pqa2device.h"
 #include "settings/monitorinfo.h"
 #include "task/functions/eventblocks.h"
 #include "task/recordfolder.h"
@@ -60,8 +61,8 @@ void MonitorFunction::openFile()
     RecordFolder folder;
     if (!folder.create(*MonitorInfo::m_monitor_file))
         return; // the run goes on without a file
-    m_monitorFile = std::make_unique<Pqa2FF>(folder.file(QStringLiteral("Monitor.pqa2")));
-    m_monitorFile->open();
+    m_monitorFile = m_links.device ? std::make_unique<Pqa2FF>(m_links.device()) : std::make_unique<Pqa2FF>();
+    m_monitorFile->open(folder.file(QStringLiteral("Monitor.pqa2")));
     m_file.set(m_monitorFile.get());
 }
 

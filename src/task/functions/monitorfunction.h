@@ -12,6 +12,7 @@
 class FlickerProcessor;
 class LiveData;
 class PowerEvents;
+class Pqa2Device;
 
 /// What the monitor needs of the task that it runs in. What is referred to outlives it.
 struct MonitorLinks
@@ -21,6 +22,7 @@ struct MonitorLinks
     FlickerProcessor &flicker;
     std::function<void()> refresh; // pages show new values
     std::function<void()> enough; // the run ends
+    std::function<std::unique_ptr<Pqa2Device>()> device = {}; // makes what lies below its file
 };
 
 /// The monitor: judges the supply by the active limits, every ten seconds and every ten minutes, and stores what it was

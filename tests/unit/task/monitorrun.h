@@ -59,7 +59,8 @@ inline std::unique_ptr<__datagram_aggregation> distortedSupply()
 class Run
 {
 public:
-    explicit Run(int joinMode = 1)
+    /// \a device makes what lies below the file; without it that is a file.
+    explicit Run(int joinMode = 1, std::function<std::unique_ptr<Pqa2Device>()> device = {})
     {
         m_settingConfig_g.setJoinMode(joinMode);
         const MonitorSetup setup = currentMonitorSetup();
@@ -67,8 +68,8 @@ public:
             m_data.events(),
             eventSettings(setup.limits, { float(setup.nominalVolt), float(setup.nominalFrequency), 5.0, 100, 2, 1, 1 }),
             joinMode);
-        m_function = std::make_unique<MonitorFunction>(
-            MonitorLinks { m_data, *m_events, m_flicker, [this] { ++refreshed; }, [this] { ++enough; } });
+        m_function = std::make_unique<MonitorFunction>(MonitorLinks {
+            m_data, *m_events, m_flicker, [this] { ++refreshed; }, [this] { ++enough; }, std::move(device) });
     }
 
     void begin()

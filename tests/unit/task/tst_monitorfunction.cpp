@@ -1,4 +1,5 @@
 #include "monitorrun.h"
+#include "unit/record/fakepqa2device.h"
 
 #include <QRegularExpression>
 #include <QTest>
@@ -45,6 +46,7 @@ private slots:
     void closingValueOfTwelveIntervalsIsHeldToTwenty();
     void closingBlockOfOnePhaseIsNotStored();
     void withoutStorageTheRunGoesOn();
+    void whatIsWrittenIsOnItsWayToTheCardASecondLater();
     void nextRunBeginsWithEmptyRecords();
     void recordsOutlastTheRun();
     void weekTakesNoMoreMemoryThanItsValues();
@@ -440,6 +442,21 @@ void TstMonitorFunction::withoutStorageTheRunGoesOn()
     QCOMPARE(run.trend().row[4].size(), 1);
     run.end();
     QVERIFY(!QFile::exists(Target::path(QStringLiteral("/mnt/storage"))));
+}
+
+void TstMonitorFunction::whatIsWrittenIsOnItsWayToTheCardASecondLater()
+{
+    FakePqa2Device::State state;
+    Run run(1, [&state] { return std::make_unique<FakePqa2Device>(&state); });
+    run.begin();
+    // Something is written when measuring begins and at every tenth second: it goes with the next one. Nobody waits.
+    for (int second = 1; second <= 1201; ++second) {
+        state.calls.clear();
+        run.pass(1, supply(230, 50).get());
+        QCOMPARE(state.calls.contains("syncBehind"), second % 10 == 1);
+        QVERIFY(!state.calls.contains("sync"));
+    }
+    run.end();
 }
 
 void TstMonitorFunction::nextRunBeginsWithEmptyRecords()
