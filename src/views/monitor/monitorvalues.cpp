@@ -55,6 +55,15 @@ float ratio(float value, float limit)
     return limit > 0 ? value * 100.0f / limit : 0.0f;
 }
 
+/// Of flicker the record has quotients, and of a whole limit only where there is none: the part that counts follows
+/// from the largest value.
+ComplianceBar flickerBar(const MonitorView &view, int phase)
+{
+    const float whole = view.limit.plt.whole;
+    return { whole < kLimitNotApplied ? ratio(view.data.pltPercentileAll[phase], whole) : 0.0f,
+             view.data.pltPartialRatio[phase] * 100.0f };
+}
+
 ComplianceBar signalBar(const MonitorView &view)
 {
     ComplianceBar worst;
@@ -135,9 +144,7 @@ std::array<ComplianceBar, MonitorHistogram::kBars> histogram(const MonitorView &
     for (int phase = 0; phase < kMonitorPhases; ++phase) {
         bars[std::size_t(MonitorBarVoltage + phase)] = { data.voltWholeRatio[phase], data.voltPartialRatio[phase] };
         bars[std::size_t(MonitorBarHarmonics + phase)] = worstHarmonicBar(data, phase);
-        // Of flicker the record has quotients.
-        bars[std::size_t(MonitorBarFlicker + phase)]
-            = { data.pltWholeRatio[phase] * 100.0f, data.pltPartialRatio[phase] * 100.0f };
+        bars[std::size_t(MonitorBarFlicker + phase)] = flickerBar(view, phase);
     }
     bars[MonitorBarDirs] = eventBar(view);
     bars[MonitorBarUnbalance] = { data.unbalWholeRatio, data.unbalPartialRatio };

@@ -148,11 +148,13 @@ void TstMonitorValues::harmonicsBarIsTheWorstOfAllRows()
 void TstMonitorValues::flickerBarIsThePercentageOfTheQuotient()
 {
     m_data.pltPartialRatio[2] = 0.75f;
-    m_data.pltWholeRatio[2] = 0.5f;
-    const auto bars = MonitorValues::histogram(view());
-    QCOMPARE(bars[8].allowed, 75.0f);
-    QCOMPARE(bars[8].limit, 50.0f);
-    QCOMPARE(bars[6].allowed, 0.0f);
+    m_data.pltWholeRatio[2] = 0.5f; // to a limit that is not applied
+    m_data.pltPercentileAll[2] = 0.9f; // the largest
+    QCOMPARE(MonitorValues::histogram(view())[8].allowed, 75.0f);
+    QCOMPARE(MonitorValues::histogram(view())[8].limit, 0.0f);
+    QCOMPARE(MonitorValues::histogram(view())[6].allowed, 0.0f);
+    m_limit.plt.whole = 2;
+    QCOMPARE(MonitorValues::histogram(view())[8].limit, 45.0f);
 }
 
 void TstMonitorValues::eventsBarIsTheCountNearestToItsAllowedNumber()
