@@ -1147,7 +1147,7 @@ Signaling</source>
     </message>
     <message>
         <source>Unb.</source>
-        <translation>Несим</translation>
+        <translation>Нес.</translation>
     </message>
     <message>
         <source>Hz</source>

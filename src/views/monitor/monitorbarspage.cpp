@@ -2,7 +2,6 @@
 #include "ui_monitorform.h"
 
 #include "model/livedata.h"
-#include "pages/labelgrid.h"
 #include "settings/config_data.h"
 #include "settings/phasecolor.h"
 #include "widgets/controls/labellook.h"
@@ -15,9 +14,14 @@ constexpr int kChartTop = 34, kChartHeight = 250; // pixels
 constexpr int kCaptionTop = 286, kCaptionHeight = 18;
 constexpr int kHeadingTop = 306;
 constexpr LabelGrid kHeading = { 324, 0, 300, 20, 26, 16, 300, 20, 1 };
-constexpr ValueStrip kUpper = { 16, 208, 102, 102, 336 };
-constexpr ValueStrip kLower = { 16, 208, 102, 102, 368 };
 constexpr int kFieldsInRow = 3;
+constexpr int kFieldTops[] = { 336, 368 };
+/// The words of the last column are the longest, its numbers the shortest.
+constexpr LabelGrid kFields[kFieldsInRow] = {
+    { 108, 0, 100, 20, 30, 16, 92, 16, 1 },
+    { 316, 0, 100, 20, 30, 222, 94, 16, 1 },
+    { 550, 0, 78, 20, 30, 430, 120, 16, 1 },
+};
 
 const struct
 {
@@ -47,12 +51,12 @@ void MonitorBarsPage::setUpBars(QWidget *chart, int left, int width)
         = kHeading.addRow(this, QStringLiteral("quantity"), { QStringLiteral("verdict") }, kHeadingTop);
     m_quantity = heading.caption;
     m_verdict = heading.values[0];
-    const ValueStrip::Labels upper = kUpper.add(this, "A%1_Caption", "A%1_Value", kFieldsInRow);
-    const ValueStrip::Labels lower = kLower.add(this, "B%1_Caption", "B%1_Value", kFieldsInRow);
-    m_captions[0] = upper.captions;
-    m_values[0] = upper.values;
-    m_captions[1] = lower.captions;
-    m_values[1] = lower.values;
+    for (int i = 0; i < MonitorReadout::kFields; ++i) {
+        const QString name
+            = QStringLiteral("%1%2_").arg(QLatin1Char(char('A' + i / kFieldsInRow))).arg(i % kFieldsInRow + 1);
+        m_fields[std::size_t(i)] = kFields[i % kFieldsInRow].addRow(
+            this, name + QLatin1String("Caption"), { name + QLatin1String("Value") }, kFieldTops[i / kFieldsInRow]);
+    }
     LabelLook::dress(this);
 }
 
@@ -117,9 +121,8 @@ void MonitorBarsPage::showReadout(const MonitorReadout &readout)
     LabelLook::setColor(m_verdict, verdict.color);
     for (int i = 0; i < MonitorReadout::kFields; ++i) {
         const MonitorReadout::Field field = readout.fields.value(i);
-        const int row = i / kFieldsInRow;
-        const auto column = std::size_t(i % kFieldsInRow);
-        setText(m_captions[row][column], field.caption);
-        setText(m_values[row][column], field.value);
+        const LabelGrid::Row &labels = m_fields[std::size_t(i)];
+        setText(labels.caption, field.caption);
+        setText(labels.values[0], field.value);
     }
 }

@@ -1,9 +1,10 @@
 #pragma once
 
-#include "pages/channellabels.h"
+#include "pages/labelgrid.h"
 #include "pages/livepage.h"
 #include "views/monitor/monitorreadout.h"
 
+#include <array>
 #include <memory>
 
 class LiveData;
@@ -56,7 +57,6 @@ private:
     std::unique_ptr<Ui::MonitorForm> m_ui;
     QLabel *m_quantity = nullptr;
     QLabel *m_verdict = nullptr;
-    ChannelLabels::LabelRow m_captions[2] {};
-    ChannelLabels::LabelRow m_values[2] {};
+    std::array<LabelGrid::Row, MonitorReadout::kFields> m_fields;
     int m_cursor = 0;
 };

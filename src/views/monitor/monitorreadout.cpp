@@ -131,9 +131,10 @@ void addDirs(MonitorReadout &readout, const MonitorView &view, int)
     readout.quantity = QStringLiteral("DIRS");
     readout.fields = {
         number(MonitorReadout::tr("Dips"), events.dips, view.limit.dips.maxAllowed),
-        number(MonitorReadout::tr("Swells"), events.swells, view.limit.swells.maxAllowed),
         {},
+        number(MonitorReadout::tr("Swells"), events.swells, view.limit.swells.maxAllowed),
         number(MonitorReadout::tr("Interr."), events.interruptions, view.limit.interruptions.maxAllowed),
+        {},
         number(QStringLiteral("RVC"), events.rvc, view.limit.rvc.maxAllowed),
     };
 }

@@ -27,9 +27,9 @@ const struct
     { "bar_vrms", QT_TRANSLATE_NOOP("MonitStartPage", "Vrms"), 60, 110 },
     { "bar_harm", QT_TRANSLATE_NOOP("MonitStartPage", "Harm."), 180, 110 },
     { "bar_flicker", QT_TRANSLATE_NOOP("MonitStartPage", "Flicker"), 307, 106 },
-    { "bar_dirs", QT_TRANSLATE_NOOP("MonitStartPage", "DIRS"), 392, 36 },
-    { "bar_unbal", QT_TRANSLATE_NOOP("MonitStartPage", "Unb."), 425, 30 },
-    { "bar_freq", QT_TRANSLATE_NOOP("MonitStartPage", "Hz"), 455, 30 },
+    { "bar_dirs", QT_TRANSLATE_NOOP("MonitStartPage", "DIRS"), 389, 38 },
+    { "bar_unbal", QT_TRANSLATE_NOOP("MonitStartPage", "Unb."), 425, 34 },
+    { "bar_freq", QT_TRANSLATE_NOOP("MonitStartPage", "Hz"), 455, 26 },
     { "bar_signals", QT_TRANSLATE_NOOP("MonitStartPage", "Sig."), 487, 34 },
 };
 
