@@ -89,8 +89,9 @@ QVector<qint16> offsets(const QList<float> &values, double valuesPerPoint, float
         if (newest >= count)
             break;
         const int first = std::max(0, count - 1 - oldest);
-        points.prepend(offset(farthest(values, first, count - 1 - newest, reference), scale));
+        points.append(offset(farthest(values, first, count - 1 - newest, reference), scale));
     }
+    std::reverse(points.begin(), points.end());
     return points;
 }
 

@@ -10,6 +10,9 @@
 #include "widgets/controls/eventswidget.h"
 #include "widgets/controls/softkeybuttons.h"
 
+#include <QSet>
+#include <QTimer>
+
 #include <memory>
 
 using namespace PageTest;
@@ -45,6 +48,9 @@ private slots:
     void zoomKeysStepThroughTheRows();
     void aFlickerValueCoversTwoHours();
     void heldTrendsStay();
+
+    // all
+    void randomKeysKeepEveryChoiceWithinItsBounds();
 
     // document
     void softKeysAreThoseOfTheDocument();
@@ -348,6 +354,44 @@ void TstMonitorEvents::heldTrendsStay()
     continueRun(*m_page);
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(trend, "D1_Value"), QStringLiteral("49.50Hz"));
+}
+
+void TstMonitorEvents::randomKeysKeepEveryChoiceWithinItsBounds()
+{
+    m_limits_g.changeActiveLimits(QStringLiteral("EN50160"));
+    m_page->enter();
+    const FrontKey keys[] = { F1, F2, F3, F4, F5, F5, Left, Right, Up, Down, Enter };
+    quint32 random = 20240118;
+    const auto next = [&random, &keys] {
+        random = random * 1664525 + 1013904223;
+        return keys[(random >> 16) % std::size(keys)];
+    };
+    // The keyboard runs a loop of its own: what comes then goes to it.
+    QTimer pump;
+    connect(&pump, &QTimer::timeout, this, [&next] {
+        if (QWidget *dialog = QApplication::activeModalWidget())
+            QTest::keyClick(dialog, Qt::Key(next()));
+    });
+    pump.start(0);
+    QSet<int> visited;
+    for (int i = 0; i < 8000; ++i) {
+        if (i % 400 == 0)
+            m_page->enter();
+        if (i % 150 == 0)
+            addEvent(i / 150 % 35, i % 3);
+        if (i % 2000 == 0) {
+            setUpMeasurement(1 + i / 2000 * 3);
+            beginRun(*m_page);
+        }
+        press(m_page->currentPage(), next());
+        visited << m_page->currentIndex();
+        QVERIFY(MonitorInfo::m_duration >= 1 && MonitorInfo::m_duration <= 744);
+        QVERIFY(MonitorInfo::m_zoom_index >= 0 && MonitorInfo::m_zoom_index <= 3);
+        QVERIFY(!MonitorInfo::m_monitor_file->isEmpty());
+        QVERIFY(m_limits_g.allLimitsList().contains(m_limits_g.activeLimitsName()));
+    }
+    QCOMPARE(visited.size(), m_page->pageCount());
+    m_limits_g.changeActiveLimits(QStringLiteral("EN50160"));
 }
 
 void TstMonitorEvents::softKeysAreThoseOfTheDocument()
