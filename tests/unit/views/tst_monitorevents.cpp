@@ -10,6 +10,7 @@
 #include "widgets/controls/eventswidget.h"
 #include "widgets/controls/softkeybuttons.h"
 
+#include <QRandomGenerator>
 #include <QSet>
 #include <QTimer>
 
@@ -361,11 +362,8 @@ void TstMonitorEvents::randomKeysKeepEveryChoiceWithinItsBounds()
     m_limits_g.changeActiveLimits(QStringLiteral("EN50160"));
     m_page->enter();
     const FrontKey keys[] = { F1, F2, F3, F4, F5, F5, Left, Right, Up, Down, Enter };
-    quint32 random = 20240118;
-    const auto next = [&random, &keys] {
-        random = random * 1664525 + 1013904223;
-        return keys[(random >> 16) % std::size(keys)];
-    };
+    QRandomGenerator random(20240118);
+    const auto next = [&random, &keys] { return keys[random.bounded(int(std::size(keys)))]; };
     // The keyboard runs a loop of its own: what comes then goes to it.
     QTimer pump;
     connect(&pump, &QTimer::timeout, this, [&next] {
