@@ -13,6 +13,13 @@ DiskWorker &DiskWorker::instance()
     return worker;
 }
 
+DiskWorker &DiskWorker::slow()
+{
+    instance(); // which it asks, and which therefore ends behind it
+    static DiskWorker worker;
+    return worker;
+}
+
 DiskWorker::DiskWorker() : m_thread([this] { work(); }) { }
 
 DiskWorker::~DiskWorker()

@@ -14,7 +14,10 @@
 class DiskWorker
 {
 public:
+    /// For what is done soon: flushes, syncs, small files.
     static DiskWorker &instance();
+    /// For what may take minutes, so that no flush waits behind it: removing a recording, the rest of what one stores.
+    static DiskWorker &slow();
 
     DiskWorker();
     ~DiskWorker();

@@ -14,7 +14,7 @@ constexpr char kLeaving[] = ".leaving "; // stands before the name of a folder w
 /// Removes what is leaving, also what a lost supply left of it.
 void removeLeaving()
 {
-    DiskWorker::instance().run([storage = QDir(Target::path(FileInfo::storagePath()))] {
+    DiskWorker::slow().run([storage = QDir(Target::path(FileInfo::storagePath()))] {
         const QString pattern = QLatin1String(kLeaving) + QLatin1Char('*');
         for (const QString &folder : storage.entryList({ pattern }, QDir::Dirs | QDir::Hidden | QDir::NoSymLinks))
             QDir(storage.filePath(folder)).removeRecursively();
@@ -48,7 +48,7 @@ bool RecordFolder::create(const QString &record)
         m_name.clear();
         return false;
     }
-    FileInfo().saveInfo(m_name, now);
+    DiskWorker::instance().run([name = m_name, now] { FileInfo().saveInfo(name, now); });
     removeLeaving();
     return true;
 }
@@ -59,7 +59,7 @@ void RecordFolder::remove()
         return;
     const QDir storage(Target::path(FileInfo::storagePath()));
     QDir(storage).rename(m_name, QLatin1String(kLeaving) + m_name);
-    FileInfo().removeInfo(m_name);
+    DiskWorker::instance().run([name = m_name] { FileInfo().removeEntries({ name }); });
     m_name.clear();
     removeLeaving();
 }

@@ -13,8 +13,8 @@ public:
     /// would lead elsewhere or break the line of the index, become "_".
     static QString nameAt(const QDateTime &localTime, const QString &record);
 
-    /// Makes the folder of a recording that begins now and enters it in the index. False, with no name, when it cannot
-    /// be made.
+    /// Makes the folder of a recording that begins now; the index, which has to wait for the card, gets its entry
+    /// behind. False, with no name, when it cannot be made.
     bool create(const QString &record);
     /// Lets go of the folder, which stays.
     void release() { m_name.clear(); }

@@ -165,7 +165,7 @@ void TstLiveRecordedHour::anHourIsRecorded()
 
 void TstLiveRecordedHour::readFiles()
 {
-    DiskWorker::instance().wait();
+    DiskWorker::slow().wait();
     const QDir storage(Target::path(QStringLiteral("/mnt/storage")));
     const QStringList folders = storage.entryList({ QStringLiteral("* Hour") }, QDir::Dirs);
     QCOMPARE(folders.size(), 1);

@@ -193,7 +193,7 @@ void RecorderFunction::stop(Keep)
         files->close();
     };
     if (eventsWait)
-        DiskWorker::instance().run(close);
+        DiskWorker::slow().run(close);
     else
         close();
 }

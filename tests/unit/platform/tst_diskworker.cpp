@@ -66,6 +66,7 @@ private slots:
     void aFileIsNotFlushedTwiceAtATime();
     void aFlushOutlivesItsFile();
     void nothingIsFlushedWithoutAFile();
+    void whatTakesLongHoldsNoFlushUp();
     void whatWasAskedForIsDoneAtTheEnd();
 };
 
@@ -156,6 +157,18 @@ void TstDiskWorker::nothingIsFlushedWithoutAFile()
     QVERIFY(flush.begin(0));
     DiskWorker::instance().wait();
     QCOMPARE(g_flushes.load(), 1);
+}
+
+void TstDiskWorker::whatTakesLongHoldsNoFlushUp()
+{
+    SlowCard card;
+    DiskWorker::slow().run([&card] { card.wait(); });
+    FileFlush flush(countedSync);
+    QVERIFY(flush.begin(0));
+    DiskWorker::instance().wait();
+    QCOMPARE(g_flushes.load(), 1);
+    card.release();
+    DiskWorker::slow().wait();
 }
 
 void TstDiskWorker::whatWasAskedForIsDoneAtTheEnd()

@@ -43,10 +43,17 @@ inline bool exists(const QString &boardPath)
     return QFileInfo::exists(Target::path(boardPath));
 }
 
+/// Whatever is under way on the disk threads is done.
+inline void waitForDisks()
+{
+    DiskWorker::slow().wait();
+    DiskWorker::instance().wait();
+}
+
 /// Takes away everything that settings, recordings and commands left in the root.
 inline void clean()
 {
-    DiskWorker::instance().wait();
+    waitForDisks();
     for (const char *folder : { "/mnt/userfs", "/mnt/storage", "/mnt/calibration", "/run/media" }) {
         QDir(Target::path(QString::fromLatin1(folder))).removeRecursively();
         QDir().mkpath(Target::path(QString::fromLatin1(folder)));
@@ -59,7 +66,7 @@ inline void clean()
 /// The commands so far, with those that were under way on the disk thread.
 inline QByteArray commands()
 {
-    DiskWorker::instance().wait();
+    waitForDisks();
     return exists("/var/log/commands") ? read("/var/log/commands") : QByteArray();
 }
 

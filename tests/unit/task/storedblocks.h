@@ -1,17 +1,17 @@
 #pragma once
 
-#include "platform/diskworker.h"
 #include "platform/target.h"
 #include "record/pqa2ff.h"
 #include "task/functions/recorderfunction.h"
 #include "unit/record/readblocks.h"
+#include "unit/storage/rootfiles.h"
 
 #include <QFile>
 
 /// The blocks of a file (a board's path) behind those that every file opens with.
 inline QList<ReadBlock> storedBlocks(const QString &path)
 {
-    DiskWorker::instance().wait();
+    RootFiles::waitForDisks();
     QFile stored(Target::path(path));
     return stored.open(QIODevice::ReadOnly) ? readBlocks(stored.readAll()).mid(3) : QList<ReadBlock>();
 }

@@ -1,5 +1,4 @@
 #include "platform/clock.h"
-#include "platform/diskworker.h"
 #include "settings/config_data.h"
 #include "storage/fileinfo.h"
 #include "task/recordfolder.h"
@@ -53,6 +52,7 @@ void TstRecordFolder::theFolderStandsOnTheStorageAndInTheIndex()
     QCOMPARE(folder.file(QStringLiteral("Common.pqa2")),
              QStringLiteral("/mnt/storage/240118_171500 Logger_1/Common.pqa2"));
     QVERIFY(QDir(Target::path(folder.path())).exists());
+    RootFiles::waitForDisks();
     QCOMPARE(RootFiles::read(FileInfo::indexPath()), QByteArray("240118_171500 Logger_1,2024-01-18 17:15:00\n"));
     QCOMPARE(FileInfo().getRecordInfos(), QStringList { folder.name() });
     QCOMPARE(FileInfo().getDefaultRecordName(QStringLiteral("Logger_")), QStringLiteral("Logger_2"));
@@ -81,10 +81,11 @@ void TstRecordFolder::aRemovedFolderIsGoneWithItsFilesAndItsEntry()
     RootFiles::write(leftBehind, "x"); // by a supply that was lost
     folder.remove();
     QVERIFY(!QDir(path).exists());
-    DiskWorker::instance().wait();
+    RootFiles::waitForDisks();
     QVERIFY(!RootFiles::exists(leftBehind));
     const QDir storage(Target::path(FileInfo::storagePath()));
     QCOMPARE(storage.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot), QStringList(".infomation"));
+    RootFiles::waitForDisks();
     QCOMPARE(RootFiles::read(FileInfo::indexPath()), QByteArray());
     QCOMPARE(folder.name(), QString());
     folder.remove(); // nothing is left that could go

@@ -83,7 +83,7 @@ private:
     QList<ReadBlock> blocks(quint32 type) const { return recordedBlocks(m_task->recorder(), type); }
     QStringList storage() const
     {
-        DiskWorker::instance().wait();
+        RootFiles::waitForDisks();
         return QDir(Target::path(QStringLiteral("/mnt/storage")))
             .entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden);
     }
