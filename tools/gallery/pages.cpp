@@ -88,6 +88,20 @@ QVector<Page> recordingOfASite()
     };
 }
 
+/// A starting motor is caught and its waveform captured, as docs/user-guide.md does it.
+QVector<Page> motorOfASite()
+{
+    return {
+        endingMeasurement(
+            byKey("site-inrush-levels", "F9", { "F5 F2 Down Down Down Enter: setup" }, "F5 F5", true, false)),
+        fromMenu("site-inrush", "inrush", { "F5 Wait24 F5: trend", "F2: events" }, "",
+                 true, false),
+        endingMeasurement(fromMenu("site-wave", "wave",
+                                   { "Down Down Down Right: setup", "Left F5 Wait13: running", "Wait12: ended" }, "F5",
+                                   true, false)),
+    };
+}
+
 /// The editors of clamps and limits; they know neither wiring nor frequency.
 QVector<Page> setupEditors()
 {
@@ -212,7 +226,7 @@ const QVector<Page> &galleryPages()
                 "F5 Left Left Right Right Left Right Left Right: calibration", "F1 F2: calibration-l1",
                 "F3: calibration-runs", "F5: calibration-question", "F4: left" },
               "", true, kOneWiring)),
-    } + memory() + setupEditors() + setUpOfASite() + recordingOfASite();
+    } + memory() + setupEditors() + setUpOfASite() + recordingOfASite() + motorOfASite();
     return pages;
 }
 
