@@ -94,8 +94,7 @@ QVector<Page> motorOfASite()
     return {
         endingMeasurement(
             byKey("site-inrush-levels", "F9", { "F5 F2 Down Down Down Enter: setup" }, "F5 F5", true, false)),
-        fromMenu("site-inrush", "inrush", { "F5 Wait24 F5: trend", "F2: events" }, "",
-                 true, false),
+        fromMenu("site-inrush", "inrush", { "F5 Wait24 F5: trend", "F2: events" }, "", true, false),
         endingMeasurement(fromMenu("site-wave", "wave",
                                    { "Down Down Down Right: setup", "Left F5 Wait13: running", "Wait12: ended" }, "F5",
                                    true, false)),
