@@ -70,6 +70,11 @@ void MonitorMain::reset()
 void MonitorMain::start()
 {
     stopRepeat();
+    // Without a name every default is taken: one has to be typed first.
+    if (MonitorInfo::m_monitor_file->isEmpty())
+        editName();
+    if (MonitorInfo::m_monitor_file->isEmpty())
+        return;
     initBegainTime();
     initLimits();
     emit goMonitorStart();
@@ -116,4 +121,5 @@ void MonitorMain::editName()
                                                            QString::fromLatin1(kNameExpression), kLongestName);
     if (!name.isEmpty())
         *MonitorInfo::m_monitor_file = name;
+    showRows();
 }

@@ -2,6 +2,7 @@
 #include "settings/monitorinfo.h"
 #include "settings/phasecolor.h"
 #include "unit/documentpage.h"
+#include "unit/setup/typing.h"
 #include "views/monitor/monitoreventpage.h"
 #include "views/monitor/monitorpage.h"
 #include "views/monitor/monitortrend.h"
@@ -12,6 +13,7 @@
 
 #include <QRandomGenerator>
 #include <QSet>
+#include <QSignalSpy>
 #include <QTimer>
 
 #include <memory>
@@ -51,6 +53,7 @@ private slots:
     void heldTrendsStay();
 
     // all
+    void withoutAFreeNameStartAsksForOne();
     void randomKeysKeepEveryChoiceWithinItsBounds();
 
     // document
@@ -355,6 +358,23 @@ void TstMonitorEvents::heldTrendsStay()
     continueRun(*m_page);
     m_page->updateDisplay(nullptr);
     QCOMPARE(text(trend, "D1_Value"), QStringLiteral("49.50Hz"));
+}
+
+void TstMonitorEvents::withoutAFreeNameStartAsksForOne()
+{
+    QSignalSpy started(m_page.get(), &MonitorPage::startMonitorTask);
+    m_page->enter();
+    MonitorInfo::m_monitor_file->clear(); // as with all 999 taken
+    DialogDriver dropped({ Typing::droppedAfter(QStringLiteral("A")) });
+    press(m_page->currentPage(), F5);
+    QVERIFY(dropped.isDone());
+    QCOMPARE(started.count(), 0);
+    QCOMPARE(m_page->currentIndex(), int(MonitorPage::Main));
+    DialogDriver typed({ Typing::typed(QStringLiteral("B-1")) });
+    press(m_page->currentPage(), F5);
+    QVERIFY(typed.isDone());
+    QCOMPARE(started.count(), 1);
+    QCOMPARE(*MonitorInfo::m_monitor_file, QStringLiteral("B-1"));
 }
 
 void TstMonitorEvents::randomKeysKeepEveryChoiceWithinItsBounds()
