@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QSet>
 #include <QFileInfo>
 #include <QMutex>
 #include <QMutexLocker>
@@ -87,9 +88,10 @@ QString oneLine(const QString &name)
 /// prefix + n + suffix with the first n of 1 to 999 that is not taken; empty when all are.
 QString firstFreeName(const QString &prefix, const QString &suffix, const QStringList &taken)
 {
+    const QSet<QString> names(taken.begin(), taken.end()); // a card may hold thousands
     for (int n = 1; n <= 999; ++n) {
         const QString candidate = prefix + QString::number(n) + suffix;
-        if (!taken.contains(candidate))
+        if (!names.contains(candidate))
             return candidate;
     }
     return {};

@@ -4,7 +4,10 @@
 
 #include "platform/target.h"
 #include "record/pqa2reader.h"
+#include "settings/config_data.h"
+#include "settings/recordgroups.h"
 #include "settings/recordinfo.h"
+#include "storage/massstorage.h"
 
 #include <QDir>
 #include <QFile>
@@ -16,8 +19,8 @@ using namespace SystemTest;
 namespace {
 
 // Letters of the front panel.
-constexpr auto kF5 = Qt::Key_L, kLeft = Qt::Key_O, kRight = Qt::Key_D, kDown = Qt::Key_T, kEnter = Qt::Key_K,
-               kMenu = Qt::Key_A, kMonitor = Qt::Key_U;
+constexpr auto kF1 = Qt::Key_W, kF2 = Qt::Key_Y, kF4 = Qt::Key_F, kF5 = Qt::Key_L, kLeft = Qt::Key_O,
+               kRight = Qt::Key_D, kDown = Qt::Key_T, kEnter = Qt::Key_K, kMenu = Qt::Key_A, kMonitor = Qt::Key_U;
 constexpr int kWaitMs = 60000;
 constexpr double kFast = 60;
 
@@ -127,6 +130,9 @@ void TstLiveRecording::runsCountsAndEndsByItself()
     press(kRight, 9); // every five minutes
     QCOMPARE(LiveGraph::text("duration"), QStringLiteral(" 0 d, 1 hr"));
     QCOMPARE(LiveGraph::text("interval"), QStringLiteral("5 min"));
+    press(kF2);
+    press(kF1);
+    press(kF4); // all parameters
     press(kF5);
     QTRY_COMPARE_WITH_TIMEOUT(LiveGraph::text("text"), kRunning, kWaitMs);
     QCOMPARE(LiveGraph::text("btn_f5"), QStringLiteral("Stop"));
@@ -143,6 +149,10 @@ void TstLiveRecording::runsCountsAndEndsByItself()
     QVERIFY(begin != 0);
     QVERIFY2(end >= begin, qPrintable(QStringLiteral("%1 %2").arg(begin).arg(end)));
     QVERIFY(g_unitask->isTaskRunning()); // the live pages go on
+    // What the set-up page foretold of the room is what an hour took.
+    const double foretold = recordBytesPerHour(0xffff, 300, *m_settingConfig_g.channels());
+    const double taken = double(MassStorage::folderUsedSize(QStringLiteral("/mnt/storage/") + folder));
+    QVERIFY2(std::fabs(taken / foretold - 1) < 0.1, qPrintable(QStringLiteral("%1 of %2").arg(taken).arg(foretold)));
     QVERIFY(LiveGraph::setSpeed(1));
     press(kF5);
     QCOMPARE(LiveGraph::text("file_name"), QStringLiteral("Logger_2"));

@@ -51,6 +51,8 @@ private slots:
     void otherKeysDoNothing();
     void enteringAgainPlansAnew();
     void savesUnderLogger();
+    void saveOffersAPictureUnderThePagesName_data();
+    void saveOffersAPictureUnderThePagesName();
 };
 
 void TstRecorderSetup::takesTheFirstFreeName()
@@ -376,6 +378,36 @@ void TstRecorderSetup::savesUnderLogger()
         QCOMPARE(QByteArray(paramOf(*page)->saveIdentity().defaultName), QByteArray("Params"));
         QVERIFY(page->pqaData().isEmpty());
     }
+}
+
+void TstRecorderSetup::saveOffersAPictureUnderThePagesName_data()
+{
+    QTest::addColumn<bool>("logger");
+    QTest::addColumn<int>("row");
+    QTest::addColumn<QString>("name");
+    for (const bool logger : { false, true }) {
+        const char *family = logger ? "logger" : "recorder";
+        QTest::addRow("%s, set-up", family) << logger << int(RecordingPage::Setup) << "Logger1.png";
+        QTest::addRow("%s, parameters", family) << logger << int(RecordingPage::Param) << "Params1.png";
+        QTest::addRow("%s, under way", family) << logger << int(RecordingPage::Start) << "Logger1.png";
+    }
+}
+
+void TstRecorderSetup::saveOffersAPictureUnderThePagesName()
+{
+    QFETCH(bool, logger);
+    QFETCH(int, row);
+    QFETCH(QString, name);
+    auto page = openFamily(logger);
+    page->showPage(row);
+    QString offered;
+    DialogDriver dialog({ [&offered](QDialog *save) {
+        offered = labelText(save, "file_name");
+        QTest::keyClick(save, 'L'); // Cancel
+    } });
+    press(page->currentPage(), F11);
+    QVERIFY(dialog.isDone());
+    QCOMPARE(offered, name);
 }
 
 PAGE_TEST_MAIN(TstRecorderSetup)
