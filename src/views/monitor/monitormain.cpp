@@ -10,9 +10,6 @@
 namespace {
 
 constexpr int kHoursOfDay = 24;
-/// Names of records become names of folders, which are copied to USB disks.
-constexpr char kNameExpression[] = "[A-Za-z0-9_-][A-Za-z0-9_.-]{0,31}";
-constexpr int kLongestName = 32;
 
 void setDuration(int hours)
 {
@@ -117,8 +114,7 @@ void MonitorMain::stepLimits(int step)
 
 void MonitorMain::editName()
 {
-    const QString name = VirtualKeyBoard::getKeyBoardInput(tr("File name:"), *MonitorInfo::m_monitor_file,
-                                                           QString::fromLatin1(kNameExpression), kLongestName);
+    const QString name = VirtualKeyBoard::getFileName(tr("File name:"), *MonitorInfo::m_monitor_file);
     if (!name.isEmpty())
         *MonitorInfo::m_monitor_file = name;
     showRows();

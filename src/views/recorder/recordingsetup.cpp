@@ -15,9 +15,6 @@ namespace {
 constexpr int kTop = 40, kPitch = 36; // of the rows, pixels
 constexpr int kCaptionWidth = 230, kHeight = 34, kTextSize = 20;
 const KeyRepeat::Pace kPace { 3, { 1, 5, 10, 20, 50, 100 } };
-// The name becomes part of a folder's or a file's, here and on USB disks: plain signs only, no dot in front.
-constexpr char kNameExpression[] = "[A-Za-z0-9_-][A-Za-z0-9_.-]{0,31}";
-constexpr int kLongestName = 32;
 
 } // namespace
 
@@ -108,8 +105,7 @@ void RecordingSetup::checkRoom()
 
 void RecordingSetup::editName()
 {
-    const QString typed = VirtualKeyBoard::getKeyBoardInput(tr("File name:"), *m_kind.name,
-                                                            QString::fromLatin1(kNameExpression), kLongestName);
+    const QString typed = VirtualKeyBoard::getFileName(tr("File name:"), *m_kind.name);
     if (typed.isEmpty() || typed == *m_kind.name)
         return;
     *m_kind.name = typed;

@@ -18,8 +18,6 @@ constexpr int kTop = 40, kPitch = 36, kCaptionWidth = 240, kHeight = 34, kTextSi
 const KeyRepeat::Pace kPace { 3, { 1, 5, 10, 50 } };
 /// Pictures of pages are called "Wave1": entries are told apart without their suffix.
 constexpr char kPrefix[] = "Wave_";
-/// What may be typed: the name goes into a comma-separated index and onto USB disks.
-constexpr char kPlainName[] = "[A-Za-z0-9_-][A-Za-z0-9_.-]{0,31}";
 
 } // namespace
 
@@ -80,8 +78,7 @@ void WaveSetup::beginSetup()
 
 void WaveSetup::editItem()
 {
-    const QString typed = VirtualKeyBoard::getKeyBoardInput(tr("File name:"), *WaveInfo::m_wave_file,
-                                                            QString::fromLatin1(kPlainName), 32);
+    const QString typed = VirtualKeyBoard::getFileName(tr("File name:"), *WaveInfo::m_wave_file);
     if (typed.isEmpty())
         return;
     m_named = m_named || typed != *WaveInfo::m_wave_file;

@@ -9,9 +9,6 @@
 
 #include <QFile>
 
-// Names go into a comma-separated index and, later, onto USB disks: plain signs only, and no dot in front.
-static const char *const kNameExpression = "[A-Za-z0-9_-][A-Za-z0-9_.-]{0,31}";
-
 int SaveDialog::save(int filter, QString &name)
 {
     SaveDialog dialog(filter, name);
@@ -84,8 +81,7 @@ void SaveDialog::changeFileType()
 void SaveDialog::editName()
 {
     const QString base = FileInfo::baseName(m_name);
-    const QString edited
-        = VirtualKeyBoard::getKeyBoardInput(tr("File name:"), base, QString::fromLatin1(kNameExpression), 32);
+    const QString edited = VirtualKeyBoard::getFileName(tr("File name:"), base);
     if (!edited.isEmpty())
         setName(edited + suffix(fileType()));
 }

@@ -18,6 +18,12 @@ QString VirtualKeyBoard::getKeyBoardInput(const QString &title, const QString &t
     return taken ? keyboard.text() : text;
 }
 
+QString VirtualKeyBoard::getFileName(const QString &title, const QString &name)
+{
+    constexpr int kLongest = 32;
+    return getKeyBoardInput(title, name, QStringLiteral("[A-Za-z0-9_-][A-Za-z0-9_.-]{0,31}"), kLongest);
+}
+
 VirtualKeyBoard::VirtualKeyBoard(const QString &title, const QString &text, const QString &expression, int maxLength,
                                  QWidget *parent)
     : SoftKeyDialog(parent), m_ui(new Ui::VirtualKeyBoard), m_maxLength(std::max(maxLength, 1))

@@ -21,6 +21,9 @@ public:
     /// is taken, and a sign that can no longer lead to one is refused. `*accepted` tells the two ends apart.
     static QString getKeyBoardInput(const QString &title, const QString &text, const QString &expression = QString(),
                                     int maxLength = 64, bool *accepted = nullptr);
+    /// Likewise for the name of a file or a folder, without suffix: at most 32 plain signs and no dot in front, as it
+    /// goes into a comma-separated index and onto USB disks. Only an empty name that was empty before comes back empty.
+    static QString getFileName(const QString &title, const QString &name);
 
     VirtualKeyBoard(const QString &title, const QString &text, const QString &expression, int maxLength,
                     QWidget *parent = nullptr);
