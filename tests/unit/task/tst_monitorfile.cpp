@@ -121,33 +121,33 @@ void TstMonitorFile::trendsStandInTheRowsOfThePage()
         if (!run.trend().row[row].isEmpty())
             filled << QString::number(row);
     }
-    QStringList told;
+    QStringList documented;
     for (const QStringList &row : m_page.table(QStringLiteral("## Trends"))) {
         const QStringList ends = row[0].split(QStringLiteral(" to "));
         for (int place = ends.first().toInt(); place <= ends.last().toInt(); ++place)
-            told << QString::number(place);
+            documented << QString::number(place);
     }
-    QCOMPARE(filled, told);
+    QCOMPARE(filled, documented);
 }
 
 void TstMonitorFile::blocksAreThoseOfThePage()
 {
     Run run;
     passEverything(run);
-    QList<quint32> told;
+    QList<quint32> documented;
     for (const QStringList &row : m_page.table(QStringLiteral("## Blocks"))) {
         const quint32 kind = row[0].toUInt(nullptr, 16);
-        if (kind != 0xA1000025 && !told.contains(kind))
-            told << kind;
+        if (kind != 0xA1000025 && !documented.contains(kind))
+            documented << kind;
     }
     QList<quint32> written;
     for (quint32 kind : Run::kinds()) {
         if (!written.contains(kind))
             written << kind;
     }
-    std::sort(told.begin(), told.end());
+    std::sort(documented.begin(), documented.end());
     std::sort(written.begin(), written.end());
-    QCOMPARE(written, told);
+    QCOMPARE(written, documented);
     const QMap<quint32, int> sizes {
         { 0xA1000018, 4 },  { 0xA1010000, 8 },   { 0xA1010001, 16 },  { 0xA1010002, 16 }, { 0xA1010003, 16 },
         { 0xA1010004, 12 }, { 0xA1010005, 604 }, { 0xA1010006, 604 }, { 0xA1010080, 32 }, { 0xA1000019, 4 },

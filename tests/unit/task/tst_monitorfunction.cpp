@@ -277,7 +277,7 @@ void TstMonitorFunction::withoutAggregationsTheBlocksHoldNoNumbers()
     QCOMPARE(blocks.size(), 1 + 60 + 4);
     for (int place : { 1, 60, 61, 62, 63, 64 })
         QVERIFY2(std::isnan(floatOf(blocks[place], 0)), qPrintable(QString::number(place)));
-    QCOMPARE(secondsOf(blocks[61]), quint32(kBegin / 1000)); // no datagram has told a later time
+    QCOMPARE(secondsOf(blocks[61]), quint32(kBegin / 1000)); // no datagram brought a later time
     QCOMPARE(run.trend().row[4].size(), 1); // counts for the length of the run
     run.pass(600, supply(230, 50).get());
     QCOMPARE(run.trend().row[4].last(), 230.0f);
