@@ -75,6 +75,7 @@ private slots:
     void everythingIsSentToTheCardEveryFewSeconds();
     void nothingIsStoredInAnUnknownWiring();
     void anyAggregationIsTaken();
+    void hoursTakeTheRoomThatWasForetold();
 };
 
 void TstRecorder::theFolderHoldsTheFilesOfTheChosenItems()
@@ -450,6 +451,26 @@ void TstRecorder::anyAggregationIsTaken()
     }
     run.recorder().stop(Keep::Data);
     QCOMPARE(run.blocks().last().type, 0xA1000019u);
+}
+
+void TstRecorder::hoursTakeTheRoomThatWasForetold()
+{
+    constexpr int kHours = 6;
+    for (const int joinMode : { 1, 6 }) {
+        RecorderRun run;
+        run.setUp.wiring = channelSet(joinMode);
+        RecordInfo::m_recordItems = 0xFFFF & ~RecordInfo::Flicker; // of which none comes here
+        RecordInfo::m_interval_index = 5; // 60 s
+        run.recorder().start();
+        run.take(kHours * 18'000 + 1, 200);
+        run.recorder().stop(Keep::Data);
+        qint64 bytes = 0;
+        for (const QFileInfo &file : QDir(Target::path(run.recorder().folder().path())).entryInfoList(QDir::Files))
+            bytes += file.size();
+        const double foretold = kHours * recordBytesPerHour(RecordInfo::m_recordItems, 60, *channelSet(joinMode));
+        QVERIFY2(std::fabs(double(bytes) - foretold) < 0.003 * foretold,
+                 qPrintable(QStringLiteral("%1 instead of %2").arg(bytes).arg(foretold)));
+    }
 }
 
 QTEST_GUILESS_MAIN(TstRecorder)
