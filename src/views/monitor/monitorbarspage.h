@@ -36,7 +36,7 @@ protected:
     void setUpBars(QWidget *chart, int left, int width);
     /// A word below the bar whose middle stands at \a centre, pixels of the page.
     QLabel *addCaption(const QString &name, int centre, int width, int textSize);
-    /// One bar to the right, past those that are not shown; it stops at the ends.
+    /// By one bar, 1 to the right and -1 to the left, past those that are not shown; it stops at the ends.
     void moveCursor(int step);
     void moveCursorL(int) { moveCursor(-1); }
     void moveCursorR(int) { moveCursor(1); }
