@@ -12,28 +12,32 @@ void SortedValues::insert(float value)
     ++m_size;
     if (m_blocks.empty()) {
         m_blocks.emplace_back();
-        m_sums.assign(2, 0);
+        indexBlocks();
     }
-    auto block = std::lower_bound(m_blocks.begin(), m_blocks.end() - 1, value,
-                                  [](const std::vector<float> &one, float wanted) { return one.back() < wanted; });
-    block->insert(std::upper_bound(block->begin(), block->end(), value), value);
-    if (int(block->size()) <= kBlock) {
-        for (std::size_t i = std::size_t(block - m_blocks.begin()) + 1; i < m_sums.size(); i += i & -i)
+    const auto top = std::lower_bound(m_tops.begin(), m_tops.end() - 1, value);
+    const std::size_t place = std::size_t(top - m_tops.begin());
+    std::vector<float> &block = m_blocks[place];
+    block.insert(std::upper_bound(block.begin(), block.end(), value), value);
+    if (int(block.size()) <= kBlock) {
+        m_tops[place] = block.back();
+        for (std::size_t i = place + 1; i < m_sums.size(); i += i & -i)
             ++m_sums[i];
         return;
     }
-    const auto middle = block->begin() + kBlock / 2;
-    std::vector<float> upper(middle, block->end());
-    block->erase(middle, block->end());
-    m_blocks.insert(block + 1, std::move(upper));
-    countBlocks();
+    std::vector<float> upper(block.begin() + kBlock / 2, block.end());
+    block.resize(kBlock / 2);
+    m_blocks.insert(m_blocks.begin() + std::ptrdiff_t(place) + 1, std::move(upper));
+    indexBlocks();
 }
 
-void SortedValues::countBlocks()
+void SortedValues::indexBlocks()
 {
+    m_tops.clear();
     m_sums.assign(m_blocks.size() + 1, 0);
     for (std::size_t i = 1; i < m_sums.size(); ++i) {
-        m_sums[i] += int(m_blocks[i - 1].size());
+        const std::vector<float> &block = m_blocks[i - 1];
+        m_tops.push_back(block.empty() ? 0 : block.back());
+        m_sums[i] += int(block.size());
         const std::size_t above = i + (i & -i);
         if (above < m_sums.size())
             m_sums[above] += m_sums[i];

@@ -18,11 +18,12 @@ public:
     float percentile(float share) const;
 
 private:
-    static constexpr int kBlock = 1024; // longest block
+    static constexpr int kBlock = 256; // longest block
 
-    void countBlocks();
+    void indexBlocks();
 
     std::vector<std::vector<float>> m_blocks; // none is empty
+    std::vector<float> m_tops; // the largest value of each block
     std::vector<int> m_sums; // [i]: values of as many blocks before the i-th as the lowest set bit of i says
     int m_size = 0;
 };
