@@ -16,7 +16,7 @@ export QT_QPA_PLATFORM=offscreen
 jobs=${QUVERA_JOBS:-$(nproc)}
 
 # sanitized <preset> <ctest filters...>: builds only the tests that the filters choose, and runs them.
-# A test's name is the name of its executable.
+# Their names are the names of their executables.
 sanitized()
 {
     preset=$1

@@ -89,6 +89,8 @@ endfunction()
 file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/generated/testpaths.h @ONLY
   CONTENT "#pragma once\n#define QUVERA_SOURCE_DIR \"@CMAKE_SOURCE_DIR@\"\n#define QUVERA_BIN_DIR \"@CMAKE_BINARY_DIR@/bin\"\n")
 set_property(TARGET Qt5::Test PROPERTY INTERFACE_COMPILE_DEFINITIONS QT_TESTLIB_LIB)
+# Who defines QT_NETWORK_LIB makes each <QTest> read the whole network library, for comparisons that no test makes.
+set_property(TARGET Qt5::Network PROPERTY INTERFACE_COMPILE_DEFINITIONS "")
 
 # quvera_moc(<target> <sources...>): the meta-object code of tests, in NAME.moc for NAME.cpp, which includes it, and as a
 # source for a header with Q_OBJECT. One short call for each source: a scan of the whole target, as AUTOMOC makes it,
@@ -125,9 +127,11 @@ function(quvera_fail_on_warnings TEST)
     FAIL_REGULAR_EXPRESSION "QObject::(dis)?connect: ;QObject::(dis)?connect\\(;QMetaObject::connectSlotsByName")
 endfunction()
 
-# quvera_test(<name> SOURCES <files...> [FOLDER <folder of src>] [LIBS <libraries...>] [LABELS <labels...>] [TIMEOUT <s>])
+# quvera_test(<name> SOURCES <files...> [FOLDER <folder of src>] [LIBS <libraries...>] [LABELS <labels...>] [TIMEOUT <s>]
+#             [VARIANTS <words...>])
+#   VARIANTS: one test <name><word> for each word, which the executable finds in QUVERA_TEST_VARIANT.
 function(quvera_test NAME)
-  cmake_parse_arguments(ARG "" "FOLDER;TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "" "FOLDER;TIMEOUT" "SOURCES;LIBS;LABELS;VARIANTS" ${ARGN})
   add_executable(${NAME} ${ARG_SOURCES})
   quvera_moc(${NAME} ${ARG_SOURCES})
   set_target_properties(${NAME} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
@@ -155,7 +159,16 @@ function(quvera_test NAME)
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 120)
   endif()
-  add_test(NAME ${NAME} COMMAND ${CMAKE_SOURCE_DIR}/tests/with-root $<TARGET_FILE:${NAME}>)
-  set_tests_properties(${NAME} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}")
-  quvera_fail_on_warnings(${NAME})
+  set(tests ${NAME})
+  if(ARG_VARIANTS)
+    list(TRANSFORM ARG_VARIANTS PREPEND ${NAME} OUTPUT_VARIABLE tests)
+  endif()
+  foreach(test IN LISTS tests)
+    add_test(NAME ${test} COMMAND ${CMAKE_SOURCE_DIR}/tests/with-root $<TARGET_FILE:${NAME}>)
+    set_tests_properties(${test} PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}")
+    quvera_fail_on_warnings(${test})
+  endforeach()
+  foreach(variant IN LISTS ARG_VARIANTS)
+    set_tests_properties(${NAME}${variant} PROPERTIES ENVIRONMENT QUVERA_TEST_VARIANT=${variant})
+  endforeach()
 endfunction()

@@ -12,6 +12,7 @@
 
 #include <atomic>
 #include <pthread.h>
+#include <thread>
 #include <time.h>
 
 namespace {
@@ -72,15 +73,11 @@ qint64 processorTime(clockid_t clock)
 class FarEnd
 {
 public:
-    explicit FarEnd(ProcessorPeer *peer) : m_peer(peer), m_thread(QThread::create([this] { run(); }))
-    {
-        m_thread->start();
-    }
+    explicit FarEnd(ProcessorPeer *peer) : m_peer(peer), m_thread([this] { run(); }) { }
     ~FarEnd()
     {
         m_wanted = -1;
-        m_thread->wait();
-        delete m_thread;
+        m_thread.join();
     }
     void ask(int datagrams) { m_wanted += datagrams; }
 
@@ -103,7 +100,7 @@ private:
     ProcessorPeer *m_peer;
     const QByteArray m_payload = countingPayload(Link::kWaveWords - Link::kTimeWords, 1);
     std::atomic<int> m_wanted { 0 };
-    QThread *m_thread;
+    std::thread m_thread; // last: it uses what stands before
 };
 
 template <typename Reader> void readWaves(benchmark::State &state)

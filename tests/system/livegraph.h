@@ -39,6 +39,12 @@ namespace SystemTest {
 
 constexpr int kPatienceMs = 300000; // for a condition that a quiet machine meets in seconds
 
+/// Rated frequency of the instrument under test: the variant of this run, 50 where it is run by hand.
+inline int ratedHertz()
+{
+    return qEnvironmentVariable("QUVERA_TEST_VARIANT", QStringLiteral("50")).toInt();
+}
+
 /// The instrument's own object graph in this process, with the real processor stand-in at its node: a test drives it by
 /// keys, reads the texts on its pages, and asks its Modbus server over TCP.
 class LiveGraph

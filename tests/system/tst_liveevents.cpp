@@ -1,5 +1,5 @@
 // Dips, swells, interruptions and inrush of known depth, length and phase: the live list, the page, the Modbus table
-// and the true signal tell the same. Built once for a 50 Hz instrument and once for a 60 Hz one (QUVERA_TEST_HERTZ).
+// and the true signal tell the same. Run once as a 50 Hz instrument and once as a 60 Hz one (QUVERA_TEST_VARIANT).
 #include "livegraph.h"
 #include "supplymodel.h"
 
@@ -21,7 +21,7 @@ using namespace SupplyModel;
 
 namespace {
 
-constexpr double kHertz = QUVERA_TEST_HERTZ;
+const double kHertz = ratedHertz();
 constexpr double kFirstMoment = 40; // s of the signal; the values have settled long before
 constexpr double kSpacing = 3; // s from case to case
 constexpr double kValueTolerance = 0.002; // of the value

@@ -10,6 +10,7 @@
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <memory>
+#include <thread>
 #include <unistd.h>
 
 /// The node: start-up on the wire, writes with their repeats, a node that is missing, goes and comes back.
@@ -122,13 +123,12 @@ void TstLinkNode::nodeThatIsGoneAtTheReopeningPrintsOneLine()
     auto peer = std::make_unique<ProcessorPeer>();
     DeviceDSP dsp;
     // The node goes while the link waits its 500 ms.
-    std::unique_ptr<QThread> remover(QThread::create([&peer] {
+    std::thread remover([&peer] {
         peer->accept();
         peer->goAway();
-    }));
-    remover->start();
+    });
     dsp.openDSP();
-    remover->wait();
+    remover.join();
     QCOMPARE(out.lines(), QStringList { QStringLiteral("failed to open /dev/mcasp") });
 }
 
