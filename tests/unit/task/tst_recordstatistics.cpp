@@ -74,6 +74,7 @@ private slots:
     void harmonicsHaveTheDifferenceOfTheirPhases();
     void everyFloatHasMeanMaximumAndMinimum();
     void oneAggregationIsItsOwnStatistic();
+    void anglesOfTheRowsAreDirections();
     void anotherIntervalBeginsAtZero();
     void energiesAreThoseOfTheLastAggregation();
     void longIntervalsLoseNoDigits();
@@ -169,6 +170,23 @@ void TstRecordStatistics::oneAggregationIsItsOwnStatistic()
         for (int word = 80 + kEnergyWords; word < kWords; ++word)
             QCOMPARE(wordOf(*stored, word), wordOf(*record, word));
     }
+}
+
+void TstRecordStatistics::anglesOfTheRowsAreDirections()
+{
+    RecordStatistics statistics;
+    const auto record = filled([](int) { return 1.0f; });
+    for (const float angle : { -350.0f, -50.0f }) { // 10 and -50 degrees: around -20, and not -200
+        record->channel[3].voltageAngle = record->channel[3].currentAngle = angle;
+        record->channel[3].angleDifference = angle / 2; // -175 and -25: around -100
+        statistics.take(*record, kNoEnergy);
+    }
+    statistics.finish();
+    QVERIFY(near(statistics.mean().channel[3].voltageAngle, -20.0));
+    QVERIFY(near(statistics.mean().channel[3].currentAngle, -20.0));
+    QVERIFY(near(statistics.mean().channel[3].angleDifference, -100.0));
+    QCOMPARE(statistics.maximum().channel[3].voltageAngle, -50.0f);
+    QCOMPARE(statistics.minimum().channel[3].voltageAngle, -350.0f);
 }
 
 void TstRecordStatistics::anotherIntervalBeginsAtZero()
