@@ -101,6 +101,7 @@ private slots:
     void captureThatBeganAtOnceTellsTheMoment();
     void keptFileStaysAndAnotherOneGoesWithItsEntry();
     void killedWriterLeavesAllThatTheHeadCounts();
+    void cutSupplyLeavesAllThatWasFlushed();
     void refusedChunkLeavesTheFileAsItWas_data();
     void refusedChunkLeavesTheFileAsItWas();
     void chunksAreWrittenBeforeTheHead();
@@ -301,6 +302,36 @@ void TstWaveFile::killedWriterLeavesAllThatTheHeadCounts()
         }
     }
     QCOMPARE(Found(m_state.content).frames, chunk(12));
+}
+
+void TstWaveFile::cutSupplyLeavesAllThatWasFlushed()
+{
+    const auto capture = file();
+    QVERIFY(capture->open(kToday));
+    for (int i = 0; i < 2; ++i)
+        capture->write(chunk(4, 4 * i), kBegin);
+    QVERIFY(capture->flush());
+    const QByteArray flushed = m_state.content;
+    const int before = m_state.writes.size();
+    for (int i = 2; i < 5; ++i)
+        capture->write(chunk(4, 4 * i), kBegin);
+    // What came behind the flush reached the disk in any choice: two writes a chunk.
+    const int behind = m_state.writes.size() - before;
+    QCOMPARE(behind, 6);
+    for (int choice = 0; choice < 1 << behind; ++choice) {
+        QByteArray content = flushed;
+        for (int w = 0; w < behind; ++w) {
+            if (!(choice >> w & 1))
+                continue;
+            const auto &[at, bytes] = m_state.writes.at(before + w);
+            if (content.size() < at)
+                content.append(QByteArray(int(at) - content.size(), '\0')); // a hole
+            content.replace(int(at), bytes.size(), bytes);
+        }
+        const Found found(content);
+        QVERIFY(found.state != WaveFileReader::Unreadable);
+        QVERIFY(found.frames.startsWith(chunk(8)));
+    }
 }
 
 void TstWaveFile::refusedChunkLeavesTheFileAsItWas_data()

@@ -46,6 +46,7 @@ private slots:
     void typedNameStaysUntilItIsTaken();
     void droppedNameChangesNothing();
     void nameOfAStoredFileIsAskedFor();
+    void withoutRoomNothingStarts();
     void downAndF1GoOnAndUpGoesBack();
     void enterChoosesATimedStart();
     void f5WorksOutTheCaptureAndStartsIt();
@@ -229,6 +230,25 @@ void TstWave::nameOfAStoredFileIsAskedFor()
     QCOMPARE(started.count(), 1);
     QVERIFY(!FileInfo().testFileexist("Pump.png"));
     QVERIFY(!RootFiles::exists("/mnt/storage/Pump.png"));
+}
+
+void TstWave::withoutRoomNothingStarts()
+{
+    // A file system that never has any.
+    const QString storage = Target::path("/mnt/storage");
+    QVERIFY(QDir(storage).removeRecursively() && QFile::link("/proc", storage));
+    QSignalSpy started(m_page.get(), &Wave::startWaveTask);
+    DialogDriver driver({ Typing::answered("There is no room for a capture.\nDelete files in Memory.") });
+    press(setup(), F5);
+    const QString shown = text(setup(), "memory");
+    QVERIFY(QFile::remove(storage));
+    RootFiles::clean();
+    QVERIFY(driver.isDone());
+    QCOMPARE(started.count(), 0);
+    QCOMPARE(m_page->currentIndex(), int(Wave::Setup));
+    QCOMPARE(WaveInfo::m_in_waving, 0);
+    QCOMPARE(shown, QStringLiteral("0 MB"));
+    QCOMPARE(WaveInfo::m_duration, 10); // the shortest stays
 }
 
 void TstWave::downAndF1GoOnAndUpGoesBack()
