@@ -122,7 +122,6 @@ void MonitorTrendPage::retranslateUi()
 {
     LivePage::retranslateUi();
     // The words belong to all pages of the kind, whose own classes have none.
-    setKeyCaption(1, m_quantities.size() > 1 ? tr("Type") : QString());
     setKeyCaption(4, tr("Zoom"));
     setKeyCaption(5, tr("Back"));
     showType();
@@ -135,12 +134,15 @@ bool MonitorTrendPage::has(int quantity) const
         || ChannelLabels::channels().taskPhases == kMonitorPhases;
 }
 
+int MonitorTrendPage::next() const
+{
+    const int behind = (m_quantity + 1) % int(m_quantities.size());
+    return has(behind) ? behind : m_quantity;
+}
+
 void MonitorTrendPage::nextType()
 {
-    const int next = (m_quantity + 1) % int(m_quantities.size());
-    if (next == m_quantity || !has(next))
-        return;
-    m_quantity = next;
+    m_quantity = next();
     showType();
     showTrend();
 }
@@ -171,6 +173,7 @@ void MonitorTrendPage::showType()
 {
     const Quantity &shown = m_quantities[std::size_t(m_quantity)];
     setText(m_ui->type, shown.caption());
+    setKeyCaption(1, next() != m_quantity ? tr("Type") : QString());
     const int phases = (1 << ChannelLabels::channels().taskPhases) - 1;
     m_chart->setFlags(shown.flag ? shown.flag : phases & kPhaseFlags);
     if (shown.flag)
@@ -188,10 +191,12 @@ void MonitorTrendPage::showTrend()
     for (int i = 0; i < curves; ++i)
         lists << rows + i;
     const MonitorTrend::Scale scale = MonitorTrend::scaleOf(lists, shown.grid);
-    const double factor = shown.factor();
     m_chart->setFullScale(MonitorTrend::axisLabels(zoom().hours));
-    m_chart->setLimits(QString::number(scale.max * factor, 'f', shown.decimals),
-                       QString::number(scale.min * factor, 'f', shown.decimals));
+    const auto label = [&shown](double end) { return QString::number(end * shown.factor(), 'f', shown.decimals); };
+    if (rows->isEmpty())
+        m_chart->setLimits(QStringLiteral("10"), QStringLiteral("0")); // as any chart without data
+    else
+        m_chart->setLimits(label(scale.max), label(scale.min));
     const double valuesPerPoint = double(zoom().step) / shown.intervals;
     QVector<qint16> series[kMonitorPhases];
     __trend_chart_data picture {};

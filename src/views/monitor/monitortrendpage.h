@@ -55,6 +55,7 @@ protected:
     MonitorTrendPage(const LiveData &data, const std::vector<Quantity> &quantities, QWidget *parent);
 
 private:
+    int next() const; // quantity that F1 leads to: the same where there is no other
     void nextType();
     void nextZoom();
     void zoomIn();

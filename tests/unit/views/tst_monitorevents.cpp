@@ -297,6 +297,7 @@ void TstMonitorEvents::withoutThreePhasesOnlyTheFrequencyIsThere()
         beginRun(*m_page);
         auto *trend = page<MonitUnbalTrePage>();
         QCOMPARE(text(trend, "type"), QStringLiteral("Freq(Hz)"));
+        QCOMPARE(text(trend, "btn_f1"), QString());
         press(trend, F1);
         QCOMPARE(text(trend, "type"), QStringLiteral("Freq(Hz)"));
     }
