@@ -5,10 +5,13 @@
 #include "settings/localtime.h"
 #include "storage/fileinfo.h"
 
+#include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
 
 namespace {
 
+constexpr int kLongestName = 80; // characters; a name of the file system has room for 255 bytes
 constexpr char kLeaving[] = ".leaving "; // stands before the name of a folder whose files are being removed
 
 /// Removes what is leaving, also what a lost supply left of it.
@@ -24,7 +27,7 @@ void removeLeaving()
 /// A name of the user's as a part of the name of a folder.
 QString plainName(const QString &name)
 {
-    QString plain = name;
+    QString plain = name.left(kLongestName);
     for (QChar &c : plain) {
         if (c == QLatin1Char('/') || c == QLatin1Char(',') || c.category() == QChar::Other_Control)
             c = QLatin1Char('_');
@@ -42,9 +45,12 @@ QString RecordFolder::nameAt(const QDateTime &localTime, const QString &record)
 bool RecordFolder::create(const QString &record)
 {
     const QDateTime now = LocalTime::currentDateTime();
-    m_name = nameAt(now, record);
-    const QDir folder(Target::path(path()));
-    if (!folder.exists() && !QDir().mkdir(folder.path())) {
+    QDateTime named = now;
+    do { // another recording has that name where the clock was set back: it is left alone
+        m_name = nameAt(named, record);
+        named = named.addSecs(1);
+    } while (QFileInfo::exists(Target::path(FileInfo::storagePath() + m_name)));
+    if (!QDir().mkdir(Target::path(path()))) {
         m_name.clear();
         return false;
     }
@@ -57,8 +63,9 @@ void RecordFolder::remove()
 {
     if (m_name.isEmpty())
         return;
-    const QDir storage(Target::path(FileInfo::storagePath()));
-    QDir(storage).rename(m_name, QLatin1String(kLeaving) + m_name);
+    QDir storage(Target::path(FileInfo::storagePath()));
+    if (!storage.rename(m_name, QLatin1String(kLeaving) + m_name))
+        DiskWorker::slow().run([path = storage.filePath(m_name)] { QDir(path).removeRecursively(); });
     DiskWorker::instance().run([name = m_name] { FileInfo().removeEntries({ name }); });
     m_name.clear();
     removeLeaving();

@@ -10,11 +10,11 @@ class RecordFolder
 {
 public:
     /// What a recording of that name is called which begins at that time. Slashes, commas and control characters, which
-    /// would lead elsewhere or break the line of the index, become "_".
+    /// would lead elsewhere or break the line of the index, become "_"; a long name is cut.
     static QString nameAt(const QDateTime &localTime, const QString &record);
 
-    /// Makes the folder of a recording that begins now; the index, which has to wait for the card, gets its entry
-    /// behind. False, with no name, when it cannot be made.
+    /// Makes the folder of a recording that begins now, or a second later for each that is there already; the index,
+    /// which has to wait for the card, gets its entry behind. False, with no name, when it cannot be made.
     bool create(const QString &record);
     /// Lets go of the folder, which stays.
     void release() { m_name.clear(); }

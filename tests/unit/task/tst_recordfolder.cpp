@@ -25,6 +25,7 @@ private slots:
     void theNameIsTheUsersTimeAndTheRecordsName();
     void noNameLeadsToAnotherFolderOrBreaksTheIndex();
     void theFolderStandsOnTheStorageAndInTheIndex();
+    void aFolderThatIsThereIsLeftAlone();
     void withoutStorageThereIsNoFolder();
     void aRemovedFolderIsGoneWithItsFilesAndItsEntry();
     void aReleasedFolderStays();
@@ -41,6 +42,7 @@ void TstRecordFolder::noNameLeadsToAnotherFolderOrBreaksTheIndex()
 {
     const QDateTime local(QDate(2024, 1, 18), QTime(16, 15, 9), Qt::UTC);
     QCOMPARE(RecordFolder::nameAt(local, QStringLiteral("../../a,b\nc")), QStringLiteral("240118_161509 .._.._a_b_c"));
+    QCOMPARE(RecordFolder::nameAt(local, QString(5000, QLatin1Char('x'))).size(), 14 + 80);
 }
 
 void TstRecordFolder::theFolderStandsOnTheStorageAndInTheIndex()
@@ -56,6 +58,21 @@ void TstRecordFolder::theFolderStandsOnTheStorageAndInTheIndex()
     QCOMPARE(RootFiles::read(FileInfo::indexPath()), QByteArray("240118_171500 Logger_1,2024-01-18 17:15:00\n"));
     QCOMPARE(FileInfo().getRecordInfos(), QStringList { folder.name() });
     QCOMPARE(FileInfo().getDefaultRecordName(QStringLiteral("Logger_")), QStringLiteral("Logger_2"));
+}
+
+void TstRecordFolder::aFolderThatIsThereIsLeftAlone()
+{
+    const QString taken = QStringLiteral("/mnt/storage/240118_171500 Logger_1/Common.pqa2");
+    RootFiles::write(taken, "an hour");
+    RootFiles::write("/mnt/storage/240118_171501 Logger_1", "a file");
+    RecordFolder folder;
+    QVERIFY(folder.create(QStringLiteral("Logger_1")));
+    QCOMPARE(folder.name(), QStringLiteral("240118_171502 Logger_1"));
+    QVERIFY(QDir(Target::path(folder.path())).isEmpty());
+    folder.remove();
+    RootFiles::waitForDisks();
+    QCOMPARE(RootFiles::read(taken), QByteArray("an hour"));
+    QVERIFY(RootFiles::exists("/mnt/storage/240118_171501 Logger_1"));
 }
 
 void TstRecordFolder::withoutStorageThereIsNoFolder()

@@ -45,7 +45,9 @@ private slots:
     void aKeptRecordingStaysWhateverIsDiscardedLater();
     void aRecordingThatEndedByItselfIsNoLongerAtDisposal();
     void anotherFunctionEndsTheRecording();
+    void aPlannedRecordingBeginsTheMeasurementThatWaits();
     void aRecordingThatNeverBeganLeavesNothing();
+    void whatWaitsIsStoredByTheRecordersOwnTimer();
     void theRecordingGoesOnBehindAHold();
     void nothingIsRecordedBesideAnotherFunction();
     void eventsOfBeforeTheStartAreStoredWithoutAStall_data();
@@ -252,6 +254,33 @@ void TstRecording::anotherFunctionEndsTheRecording()
     QCOMPARE(storedBlocks(folder + QStringLiteral("Common.pqa2")).last().type, 0xA1000019u);
     m_task->saveRecord(false); // of the new function
     QVERIFY(RootFiles::exists(folder));
+}
+
+void TstRecording::aPlannedRecordingBeginsTheMeasurementThatWaits()
+{
+    m_task->initUniFunction(AbstractTask::UniBasic);
+    RecordInfo::m_begain_time = quint32(kNow / 1000) + 3600;
+    prepare(RecordInfo::FrequencyInterval);
+    m_task->preStartTask();
+    feed(3'598'000, 3'600'000);
+    QVERIFY(!m_task->isTaskRunning());
+    QCOMPARE(storage(), QStringList());
+    feed(3'600'000, 3'610'400);
+    QVERIFY(m_task->isTaskRunning());
+    QVERIFY(m_task->isRecording());
+    QCOMPARE(blocks(0xA1000029).size(), 1);
+    m_task->stopRecordTask();
+}
+
+void TstRecording::whatWaitsIsStoredByTheRecordersOwnTimer()
+{
+    start();
+    addEvents(50);
+    prepare(1);
+    feed(10'000, 10'200);
+    QCOMPARE(blocks(0xA1010083).size(), 0);
+    QTRY_COMPARE(blocks(0xA1010083).size(), 50);
+    m_task->stopRecordTask();
 }
 
 void TstRecording::aRecordingThatNeverBeganLeavesNothing()
