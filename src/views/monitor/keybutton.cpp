@@ -2,6 +2,8 @@
 
 #include "widgets/controls/softkeybutton.h"
 
+#include <QVariant>
+
 void KeyButton::place(QWidget *page, int number, SoftKeyButton *button)
 {
     const QString name = QStringLiteral("btn_f%1").arg(number);
