@@ -2,9 +2,9 @@
 
 #include "device/idevice.h"
 #include "platform/clock.h"
+#include "settings/localtime.h"
 #include "unit/views/framespy.h"
 #include "user/userdatepage.h"
-#include "widgets/text/localtime.h"
 
 #include <QTimeZone>
 
