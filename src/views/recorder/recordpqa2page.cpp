@@ -40,6 +40,14 @@ void RecordingPage::enter()
     showPage(Setup);
 }
 
+QByteArray RecordingPage::pqaData() const
+{
+    __record_pqa_data data
+        = { *m_kind.active, *m_kind.begin, *m_kind.duration, m_kind.interval(), *m_kind.choices, {} };
+    qstrncpy(data.name, m_kind.name->toUtf8().constData(), sizeof data.name);
+    return QByteArray(reinterpret_cast<const char *>(&data), sizeof data);
+}
+
 void RecordingPage::beginSetup()
 {
     static_cast<RecordingSetup *>(page(Setup))->beginSetup();

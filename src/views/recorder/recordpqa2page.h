@@ -3,6 +3,18 @@
 #include "pages/viewcontainer.h"
 #include "views/recorder/recordingkind.h"
 
+/// What a saved data file holds of a recording (84 bytes).
+struct __record_pqa_data
+{
+    qint32 active; // 1: prepared or running
+    quint32 begin; // s since 1970; 0: at once
+    qint32 duration; // h
+    qint32 interval; // s
+    quint32 choices; // bits of what is written
+    char name[64]; // UTF-8, the rest zeros
+};
+static_assert(sizeof(__record_pqa_data) == 84);
+
 /// Recording over hours and days: set-up, choice of what is written, and the recording under way. Values are stored
 /// beside the measurement: all live pages stay open to the user.
 class RecordingPage : public ViewContainer
@@ -14,6 +26,7 @@ public:
 
     /// The set-up, unless a recording is prepared or runs.
     void enter() override;
+    QByteArray pqaData() const override;
     /// A recording is planned from \a begin to \a end, ms since 1970.
     void showPlan(qint64 begin, qint64 end);
 

@@ -5,6 +5,8 @@
 
 #include <QSignalSpy>
 
+#include <cstring>
+
 using namespace RecorderCase;
 
 namespace {
@@ -51,6 +53,8 @@ private slots:
     void otherKeysDoNothing();
     void enteringAgainPlansAnew();
     void savesUnderLogger();
+    void dataOfASavedPageIsThePlan_data() { addFamilies(); }
+    void dataOfASavedPageIsThePlan();
     void saveOffersAPictureUnderThePagesName_data();
     void saveOffersAPictureUnderThePagesName();
 };
@@ -376,8 +380,24 @@ void TstRecorderSetup::savesUnderLogger()
         QCOMPARE(QByteArray(page->saveIdentity().defaultName), QByteArray("Logger"));
         QCOMPARE(setupOf(*page)->saveIdentity().windowId, 0); // the container's
         QCOMPARE(QByteArray(paramOf(*page)->saveIdentity().defaultName), QByteArray("Params"));
-        QVERIFY(page->pqaData().isEmpty());
     }
+}
+
+void TstRecorderSetup::dataOfASavedPageIsThePlan()
+{
+    QFETCH(bool, logger);
+    RootFiles::write(logger ? kLoggerFile : kRecordFile, "PARAMS=9\n");
+    auto page = openFamily(logger);
+    *kindOf(logger).active = 1;
+    *kindOf(logger).begin = 1705594509;
+    *kindOf(logger).duration = 170;
+    QByteArray expected(84, '\0');
+    const quint32 words[] = { 1, 1705594509, 170, logger ? 1u : 10u, 9 };
+    std::memcpy(expected.data(), words, sizeof words);
+    std::memcpy(expected.data() + 20, "Logger_1", 8);
+    QCOMPARE(page->pqaData(), expected);
+    *kindOf(logger).name = QString(100, QLatin1Char('x')); // none of the keyboard's; its end is cut off
+    QCOMPARE(page->pqaData().mid(20), QByteArray(63, 'x') + '\0');
 }
 
 void TstRecorderSetup::saveOffersAPictureUnderThePagesName_data()
