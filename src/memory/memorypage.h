@@ -36,6 +36,7 @@ public:
     bool isWorking() const { return m_work.isBusy(); }
     /// Folders of the USB disks (the board's paths), as they are when the page is made.
     void setMedias(const QStringList &disks) { m_medias = disks; }
+    const QStringList &medias() const { return m_medias; }
 
     /// "812.5 M", from a gigabyte on "3.71 G".
     static QString roomText(float megabytes);

@@ -1,5 +1,6 @@
 #include "shellcase.h"
 
+#include "memory/memorypage.h"
 #include "platform/target.h"
 #include "shell/pagetable.h"
 #include "shell/systemtray.h"
@@ -7,6 +8,7 @@
 #include "views/vif/vifmain.h"
 #include "views/vif/vifpage.h"
 
+#include <QDir>
 #include <QFile>
 #include <QSignalBlocker>
 #include <QSignalSpy>
@@ -33,6 +35,8 @@ private slots:
     void scopeKeyOnARunningMonitorAsks();
     void memoryKeyWhileRecordingAsksNothing();
     void backFromMemoryRestoresPageAndTitle();
+    void memoryIsReadAnewEachTimeItIsOpened();
+    void aDiskThatIsPluggedInIsKnownToMemory();
     void recordingQuestionOffersSaveExitRestartCancel();
     void restartInTheRecorderQuestionStaysAndBeginsANewRecording();
     void functionNotBuiltAnswersWithAMessage();
@@ -261,31 +265,66 @@ void TstShell::memoryKeyWhileRecordingAsksNothing()
     UniTask *task = g_unitask;
     DialogAnswer answer(kF5);
     QTest::keyClick(vifPage()->findChild<VifMain *>(), kF10);
-    QVERIFY(!answer.text.contains("Logger is running!"));
-    QVERIFY(!answer.text.contains("do you want to quit?"));
+    QTest::qWait(50);
+    QVERIFY(!answer.asked);
+    QCOMPARE(title(), QStringLiteral("Memory"));
     QCOMPARE(g_unitask, task);
     QVERIFY(task->isTaskRunning());
     QCOMPARE(m_basedialog->navigator().currentPage(), static_cast<QWidget *>(vifPage()));
+    // No key of the functions leads on from there; Back leads to where one was.
+    for (const auto key : { kF6, kF7, kF8, kF10 })
+        QTest::keyClick(top(), key);
+    QCOMPARE(title(), QStringLiteral("Memory"));
+    QTest::keyClick(top(), kF5);
+    QCOMPARE(top(), static_cast<QWidget *>(vifPage()));
+    QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
+    QCOMPARE(g_unitask, task);
+    QVERIFY(task->isTaskRunning() && !answer.asked);
 }
 
 void TstShell::backFromMemoryRestoresPageAndTitle()
 {
-    auto *stack = m_basedialog->findChild<QStackedWidget *>("base_stackedWidget");
-    QWidget *other = stack->widget(stack->count() - 1);
     enterVif();
-    QVERIFY(other != top());
-    stack->setCurrentWidget(other);
-    m_basedialog->displayTaskName("Memory");
-    m_basedialog->navigator().showLast();
+    auto *memory = pageOf<MemoryPage>(UI_MEMORY);
+    QTest::keyClick(vifPage()->findChild<VifMain *>(), kF10);
+    QCOMPARE(top(), static_cast<QWidget *>(memory));
+    QTest::keyClick(memory, kF5);
     QCOMPARE(top(), static_cast<QWidget *>(vifPage()));
     QCOMPARE(title(), QStringLiteral("Volts/Amps/Hertz"));
+    QVERIFY(vifPage()->isAncestorOf(QApplication::focusWidget())); // the keys are its own again
 
     m_basedialog->navigator().go(UI_VIF, UI_MENU);
-    stack->setCurrentWidget(other);
-    m_basedialog->displayTaskName("Memory");
-    m_basedialog->navigator().showLast();
+    QTest::keyClick(m_basedialog->menu(), kF10);
+    QCOMPARE(top(), static_cast<QWidget *>(memory));
+    QTest::keyClick(memory, kF5);
     QCOMPARE(top(), static_cast<QWidget *>(m_basedialog->menu()));
     QCOMPARE(title(), QStringLiteral("Menu"));
+}
+
+void TstShell::memoryIsReadAnewEachTimeItIsOpened()
+{
+    auto *memory = pageOf<MemoryPage>(UI_MEMORY);
+    QTest::keyClick(m_basedialog->menu(), kF10);
+    QTRY_VERIFY(!memory->isWorking());
+    const int before = memory->findChild<FilesList *>()->count();
+    QTest::keyClick(memory, kF5);
+    QFile file(Target::path(QStringLiteral("/mnt/storage/saved meanwhile.png")));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.close();
+    QTest::keyClick(m_basedialog->menu(), kF10);
+    QTRY_COMPARE(memory->findChild<FilesList *>()->count(), before + 1);
+    QTest::keyClick(memory, kF5);
+    QVERIFY(file.remove());
+}
+
+void TstShell::aDiskThatIsPluggedInIsKnownToMemory()
+{
+    auto *memory = pageOf<MemoryPage>(UI_MEMORY);
+    const QString disk = Target::path(QStringLiteral("/run/media/sda1"));
+    QVERIFY(QDir().mkpath(disk));
+    QTRY_COMPARE(memory->medias(), QStringList { "/run/media/sda1" });
+    QVERIFY(QDir().rmdir(disk));
+    QTRY_VERIFY(memory->medias().isEmpty());
 }
 
 void TstShell::recordingQuestionOffersSaveExitRestartCancel()

@@ -212,8 +212,10 @@ void TstVisits::inverterIsSetUpAnewOnlyWhenItIsLeft()
     QCOMPARE(m_taskmanage->getUniFunction(), 5);
     g_unitask->startTask();
     FrameSpy spy;
-    DialogAnswer memory(kF5);
     QTest::keyClick(page->currentPage(), kF10);
+    QCOMPARE(title(), QStringLiteral("Memory"));
+    QTest::keyClick(top(), kF5);
+    QCOMPARE(top(), static_cast<QWidget *>(page));
     DialogAnswer cancel(kF5);
     QTest::keyClick(page->currentPage(), kF7);
     QVERIFY(cancel.asked);
