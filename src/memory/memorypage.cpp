@@ -13,6 +13,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 
 namespace {
 
@@ -110,7 +111,13 @@ bool MemoryPage::pressKey(int key)
     if (key >= Qt::Key_F6 && key <= Qt::Key_F11)
         return true;
     const bool begins = (key >= Qt::Key_F1 && key <= Qt::Key_F4) || key == Qt::Key_Enter || key == Qt::Key_Return;
-    return (m_busy && begins) || FunctionPage::pressKey(key);
+    if (!begins)
+        return FunctionPage::pressKey(key);
+    if (m_busy || m_acting)
+        return true;
+    // A dialog that was answered has not returned yet when the next key arrives behind it.
+    const QScopedValueRollback<bool> acting(m_acting, true);
+    return FunctionPage::pressKey(key);
 }
 
 void MemoryPage::enter()
@@ -141,9 +148,9 @@ void MemoryPage::work(const QString &text, std::function<void()> work, std::func
     m_busy = true;
     setText(m_ui->state, text);
     m_work.run(std::move(work), [this, then = std::move(then)] {
-        m_busy = false;
         setText(m_ui->state, QString());
-        then();
+        then(); // may ask or copy: until that is through nothing else begins
+        m_busy = false;
     });
 }
 

@@ -85,6 +85,7 @@ private:
     ServiceKeys m_pressed;
     QStringList m_medias;
     bool m_busy = false;
+    bool m_acting = false; // a key that begins something has not returned
     bool m_atTop = false; // since the page was entered the list was read and shown from its top
     float m_used = 0, m_free = 0; // MB
     QPointer<ImageViewer> m_viewer;
