@@ -31,7 +31,7 @@ bool StoredFile::open(const QString &name, const QDateTime &localTime)
     m_name = name;
     m_open = true;
     m_flushed = Clock::elapsed();
-    FileInfo().saveInfo(name, localTime);
+    DiskWorker::instance().run([name, localTime] { FileInfo().saveInfo(name, localTime); });
     return true;
 }
 
@@ -77,7 +77,10 @@ void StoredFile::remove()
     // The bytes are freed by the disk worker: the system keeps them as long as the file is open somewhere.
     const QByteArray path = QFile::encodeName(Target::path(FileInfo::storagePath() + m_name));
     const int fd = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
-    FileInfo().removeInfo(m_name);
-    if (fd >= 0)
-        DiskWorker::instance().run([fd] { ::close(fd); });
+    ::unlink(path.constData());
+    DiskWorker::instance().run([name = m_name, fd] {
+        if (fd >= 0)
+            ::close(fd);
+        FileInfo().removeEntries({ name });
+    });
 }

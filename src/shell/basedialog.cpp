@@ -4,6 +4,7 @@
 #include "board/backlight.h"
 #include "board/softpower.h"
 #include "shell/menupage.h"
+#include "platform/diskworker.h"
 #include "platform/target.h"
 #include "shell/navigator.h"
 #include "shell/pagetable.h"
@@ -84,6 +85,9 @@ void BaseDialog::powerBtnPushed()
         return;
     if (m_taskmanage->currentTask())
         m_taskmanage->exitTaskWithSave(true);
+    // The supply goes at once: what is still on its way to the card has to be there.
+    DiskWorker::slow().wait();
+    DiskWorker::instance().wait();
     SoftPower::powerOff();
 }
 

@@ -6,6 +6,7 @@
 #include "settings/waveinfo.h"
 #include "storage/fileinfo.h"
 #include "unit/documentpage.h"
+#include "unit/storage/rootfiles.h"
 
 #include <QBuffer>
 #include <QDateTime>
@@ -126,9 +127,7 @@ private:
 void TstWaveFile::init()
 {
     m_state = {};
-    QDir storage(Target::path(FileInfo::storagePath()));
-    storage.removeRecursively();
-    QDir().mkpath(storage.path());
+    RootFiles::clean();
 }
 
 void TstWaveFile::headHasItsFieldsAtTheirOffsets()
@@ -227,7 +226,7 @@ void TstWaveFile::openEntersTheFileInTheIndexAndStartsItAnew()
         QCOMPARE(capture.header().frames, quint64(10));
         capture.save(true);
         QVERIFY(!capture.isOpen());
-        QCOMPARE(FileInfo().readInfo(), QStringList { "Wave_7.wav,2026-03-01 12:30:00" });
+        QCOMPARE(RootFiles::index(), QStringList { "Wave_7.wav,2026-03-01 12:30:00" });
         QFile stored(Target::path(QStringLiteral("/mnt/storage/Wave_7.wav")));
         QCOMPARE(stored.size(), qint64(88 + 4 + 160));
     }
@@ -238,7 +237,7 @@ void TstWaveFile::fileWithoutANameIsNotOpened()
     const auto capture = file(QString());
     QVERIFY(!capture->open(kToday));
     QVERIFY(m_state.calls.isEmpty());
-    QVERIFY(FileInfo().readInfo().isEmpty());
+    QVERIFY(RootFiles::index().isEmpty());
 }
 
 void TstWaveFile::storageThatRefusesTheHeadLeavesNothing()
@@ -250,7 +249,7 @@ void TstWaveFile::storageThatRefusesTheHeadLeavesNothing()
         m_state.failingWrite = m_state.writeNumber;
         m_state.bytesTaken = taken;
         QVERIFY(!file()->open(kToday));
-        QVERIFY(FileInfo().readInfo().isEmpty());
+        QVERIFY(RootFiles::index().isEmpty());
     }
 }
 
@@ -269,7 +268,7 @@ void TstWaveFile::keptFileStaysAndAnotherOneGoesWithItsEntry()
         capture.write(chunk(10), kBegin);
         capture.save(keep);
         QCOMPARE(QFile::exists(Target::path(capture.fullFilePath())), keep);
-        QCOMPARE(FileInfo().testFileexist(QStringLiteral("Wave_2.wav")), keep);
+        QCOMPARE(RootFiles::isIndexed(QStringLiteral("Wave_2.wav")), keep);
     }
 }
 

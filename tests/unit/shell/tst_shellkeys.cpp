@@ -2,6 +2,7 @@
 
 #include "board/backlight.h"
 #include "platform/deskkeys.h"
+#include "platform/diskworker.h"
 #include "platform/target.h"
 #include "task/unitask.h"
 #include "views/vif/vifmain.h"
@@ -10,8 +11,10 @@
 
 #include <QFile>
 #include <QSignalSpy>
+#include <QThread>
 #include <QWindow>
 
+#include <atomic>
 #include <memory>
 
 /// Keys of the panel and of a PC, the light, and switching off.
@@ -30,6 +33,7 @@ private slots:
     void lightKeyStepsTheLight();
     void powerKeyAsksAfterAMomentAndCancelChangesNothing();
     void powerKeySwitchesOffOnOk();
+    void supplyStaysUntilTheCardHasEverything();
 };
 
 void TstShellKeys::firstPressOnADarkScreenOnlyLightsIt()
@@ -215,6 +219,36 @@ void TstShellKeys::powerKeySwitchesOffOnOk()
     QFile direction(Target::path("/sys/class/gpio/gpio47/direction"));
     QVERIFY(direction.open(QIODevice::ReadOnly));
     QCOMPARE(direction.readAll().trimmed(), QByteArray("out"));
+}
+
+void TstShellKeys::supplyStaysUntilTheCardHasEverything()
+{
+    QFile latch(Target::path("/sys/class/gpio/gpio47/value"));
+    QVERIFY(latch.open(QIODevice::WriteOnly) && latch.write("0\n") == 2);
+    latch.close();
+    // A card that takes its time: while it writes the supply is still there.
+    std::atomic<int> heldMeanwhile { 0 };
+    const auto write = [&heldMeanwhile, path = latch.fileName()] {
+        QThread::msleep(150);
+        QFile value(path);
+        if (value.open(QIODevice::ReadOnly) && value.readAll().trimmed() == "0")
+            ++heldMeanwhile;
+    };
+    DiskWorker::slow().run([write] {
+        write();
+        DiskWorker::instance().run(write); // as a file that is closed at last
+    });
+    DialogAnswer answer(kF4);
+    QTest::keyClick(m_basedialog, kPower);
+    QTRY_VERIFY(answer.asked);
+    const auto isOff = [&latch] {
+        const bool opened = latch.open(QIODevice::ReadOnly);
+        const bool off = opened && latch.readAll().trimmed() == "1";
+        latch.close();
+        return off;
+    };
+    QTRY_VERIFY(isOff());
+    QCOMPARE(heldMeanwhile.load(), 2);
 }
 
 QTEST_MAIN(TstShellKeys)

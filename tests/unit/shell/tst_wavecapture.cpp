@@ -80,7 +80,7 @@ void TstWaveCapture::captureGoesFromTheMenuToTheFile()
     QVERIFY(g_unitask->isTaskStoped());
     QCOMPARE(state(), QStringLiteral("The capture has ended.\nIts data stands in Memory."));
     QCOMPARE(framesOf("Wave_1.wav"), quint64(204800));
-    QVERIFY(FileInfo().testFileexist("Wave_1.wav"));
+    QVERIFY(RootFiles::isIndexed("Wave_1.wav"));
     QTest::keyClick(main(), kF5);
     QVERIFY(!m_taskmanage->currentTask());
     QCOMPARE(page()->currentIndex(), int(Wave::Setup));
@@ -110,7 +110,7 @@ void TstWaveCapture::userWhoStopsKeepsTheFile()
     QVERIFY(ok.isDone());
     QVERIFY(g_unitask->isTaskStoped());
     QCOMPARE(framesOf("Wave_1.wav"), quint64(3 * 4096));
-    QVERIFY(FileInfo().testFileexist("Wave_1.wav"));
+    QVERIFY(RootFiles::isIndexed("Wave_1.wav"));
 }
 
 void TstWaveCapture::userWhoQuitsForAnotherPageKeepsNothing()
@@ -123,7 +123,7 @@ void TstWaveCapture::userWhoQuitsForAnotherPageKeepsNothing()
     QVERIFY(quit.isDone());
     QCOMPARE(title(), QStringLiteral("Menu"));
     QVERIFY(!RootFiles::exists("/mnt/storage/Wave_1.wav"));
-    QVERIFY(!FileInfo().testFileexist("Wave_1.wav"));
+    QVERIFY(!RootFiles::isIndexed("Wave_1.wav"));
     QCOMPARE(WaveInfo::m_in_waving, 0);
     enterWave();
     QCOMPARE(page()->currentIndex(), int(Wave::Setup));

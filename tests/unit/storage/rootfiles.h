@@ -8,6 +8,7 @@
 
 #include "platform/diskworker.h"
 #include "platform/target.h"
+#include "storage/fileinfo.h"
 
 /// Files of the test's own root, by the board's paths.
 namespace RootFiles {
@@ -61,6 +62,20 @@ inline void clean()
     for (const char *folder : { "/mnt/userfs/config", "/mnt/userfs/sys/limits", "/mnt/userfs/language" })
         QDir().mkpath(Target::path(QString::fromLatin1(folder)));
     QFile::remove(Target::path("/var/log/commands"));
+}
+
+/// Lines of the storage's index, with what is under way on the disk thread.
+inline QStringList index()
+{
+    waitForDisks();
+    return FileInfo().readInfo();
+}
+
+/// Whether the index has this name.
+inline bool isIndexed(const QString &name)
+{
+    waitForDisks();
+    return FileInfo().testFileexist(name);
 }
 
 /// The commands so far, with those that were under way on the disk thread.

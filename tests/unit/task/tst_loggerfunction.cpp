@@ -96,7 +96,7 @@ void TstLoggerFunction::headerStandsInTheFileBeforeTheRunMeasures()
     LoggerInfo::m_paramselected = kFrequency;
     m_task->initUniFunction(AbstractTask::UniLogger);
     QCOMPARE(lines(kFirst), QByteArrayList { kHeader });
-    QVERIFY(FileInfo().testFileexist("Plant_00.csv"));
+    QVERIFY(RootFiles::isIndexed("Plant_00.csv"));
 }
 
 void TstLoggerFunction::namesOfTheHeaderAreUtf8()
@@ -204,6 +204,7 @@ void TstLoggerFunction::fullFileIsFollowedByTheNextWithAHeader()
         QCOMPARE(lines(file).value(0), kHeader);
     QCOMPARE(cells(lines(kFirst).value(3)), QByteArray("52.000,52.000,52.000,"));
     QCOMPARE(cells(lines(kSecond).value(1)), QByteArray("53.000,53.000,53.000,"));
+    RootFiles::waitForDisks();
     QCOMPARE(FileInfo().getInfoFiles(), QStringList({ "Plant_00.csv", "Plant_01.csv", "Plant_02.csv" }));
 }
 
@@ -289,7 +290,7 @@ void TstLoggerFunction::endOfTheRunKeepsTheFile()
     m_task->save(true);
     m_task->stopTask();
     QCOMPARE(lines(kFirst).size(), 2);
-    QVERIFY(FileInfo().testFileexist("Plant_00.csv"));
+    QVERIFY(RootFiles::isIndexed("Plant_00.csv"));
     m_task->logger().writeLoggerData(); // nothing runs
     QCOMPARE(lines(kFirst).size(), 2);
 }
@@ -301,7 +302,7 @@ void TstLoggerFunction::droppedRunLeavesNoFile()
     m_task->save(false);
     m_task->stopTask();
     QVERIFY(!RootFiles::exists(kFirst));
-    QVERIFY(!FileInfo().testFileexist("Plant_00.csv"));
+    QVERIFY(!RootFiles::isIndexed("Plant_00.csv"));
 }
 
 void TstLoggerFunction::runThatNeverMeasuredLeavesNoFile()
@@ -311,7 +312,7 @@ void TstLoggerFunction::runThatNeverMeasuredLeavesNoFile()
     m_task->preStartTask();
     m_task->stopTask();
     QVERIFY(!RootFiles::exists(kFirst));
-    QVERIFY(!FileInfo().testFileexist("Plant_00.csv"));
+    QVERIFY(!RootFiles::isIndexed("Plant_00.csv"));
 }
 
 void TstLoggerFunction::refusedLineIsMissingAndTheNextIsThere()

@@ -181,7 +181,7 @@ void TstWaveFunction::captureEndsWhenItsFramesAreThere()
     const qint64 size = RootFiles::read(kPath).size();
     take(1); // the run is over
     QCOMPARE(RootFiles::read(kPath).size(), int(size));
-    QVERIFY(FileInfo().testFileexist("Wave_1.wav"));
+    QVERIFY(RootFiles::isIndexed("Wave_1.wav"));
 }
 
 void TstWaveFunction::headIsTrueWhileTheCaptureRuns()
@@ -214,7 +214,7 @@ void TstWaveFunction::runThatIsEndedWhileItWaitsLeavesNoFile()
     m_task->preStartTask();
     m_task->stopTask();
     QVERIFY(!RootFiles::exists(kPath));
-    QVERIFY(FileInfo().readInfo().isEmpty());
+    QVERIFY(RootFiles::index().isEmpty());
 }
 
 void TstWaveFunction::userWhoStopsKeepsWhatIsThere()
@@ -224,7 +224,7 @@ void TstWaveFunction::userWhoStopsKeepsWhatIsThere()
     m_task->save(true);
     m_task->stopTask();
     QCOMPARE(header().frames, quint64(3 * 4096));
-    QVERIFY(FileInfo().testFileexist("Wave_1.wav"));
+    QVERIFY(RootFiles::isIndexed("Wave_1.wav"));
 }
 
 void TstWaveFunction::userWhoQuitsKeepsNothing()
@@ -234,7 +234,7 @@ void TstWaveFunction::userWhoQuitsKeepsNothing()
     m_task->save(false);
     m_task->stopTask();
     QVERIFY(!RootFiles::exists(kPath));
-    QVERIFY(!FileInfo().testFileexist("Wave_1.wav"));
+    QVERIFY(!RootFiles::isIndexed("Wave_1.wav"));
 }
 
 void TstWaveFunction::progressIsPercentAndSecondsLeft()
@@ -286,7 +286,7 @@ void TstWaveFunction::storageThatTakesNoMoreEndsTheRun()
     QVERIFY(live().wave.refused);
     QCOMPARE(header().frames, quint64(4096));
     QCOMPARE(RootFiles::read(kPath).size(), 88 + 65540);
-    QVERIFY(FileInfo().testFileexist("Wave_1.wav"));
+    QVERIFY(RootFiles::isIndexed("Wave_1.wav"));
 }
 
 void TstWaveFunction::fileThatCannotBeBegunEndsTheRun()
@@ -297,7 +297,7 @@ void TstWaveFunction::fileThatCannotBeBegunEndsTheRun()
     take(1);
     QVERIFY(m_task->isTaskStoped());
     QVERIFY(live().wave.refused);
-    QVERIFY(FileInfo().readInfo().isEmpty());
+    QVERIFY(RootFiles::index().isEmpty());
 }
 
 void TstWaveFunction::withoutANameNothingIsStored()
