@@ -19,17 +19,6 @@ std::vector<ViewContainer::Way> RecordingPage::startWays()
              pass(&RecordingStart::restartRecord, &RecordingPage::startRecordTask) };
 }
 
-RecordingPage::RecordingPage(const LiveData &data, const RecordingKind &kind, const Makers &makers, QWidget *parent)
-    : ViewContainer(UI_LOGGER, { 26, "Logger" }, data,
-                    {
-                        { makers.setup, setupWays() },
-                        { makers.param, { way(&RecordingParam::goRecordSetup, Setup) } },
-                        { makers.start, startWays() },
-                    },
-                    parent),
-      m_kind(kind)
-{ }
-
 void RecordingPage::enter()
 {
     if (*m_kind.active) {
@@ -71,6 +60,17 @@ void RecordingPage::recordingStoped()
     if (auto *start = made<RecordingStart>(Start))
         start->recordingStoped();
 }
+
+RecordingPage::RecordingPage(const LiveData &data, const RecordingKind &kind, const Makers &makers, QWidget *parent)
+    : ViewContainer(UI_LOGGER, { 26, "Logger" }, data,
+                    {
+                        { makers.setup, setupWays() },
+                        { makers.param, { way(&RecordingParam::goRecordSetup, Setup) } },
+                        { makers.start, startWays() },
+                    },
+                    parent),
+      m_kind(kind)
+{ }
 
 RecordPqa2Page::RecordPqa2Page(const LiveData &data, QWidget *parent)
     : RecordingPage(data, RecordingKind::recorder(),
