@@ -12,6 +12,7 @@ private slots:
     void blocksAreWrittenAtOnce();
     void blocksBeyondTheEndAreRefusedOneByOne();
     void withoutRoomNoneIsStored();
+    void afterACutAtAnyByteAllOfThemAreThereOrNone();
     void everyFailureLeavesAWholeFile_data();
     void everyFailureLeavesAWholeFile();
 
@@ -76,6 +77,28 @@ void TstPqa2Many::withoutRoomNoneIsStored()
     fake.state.free = 5.0f;
     QCOMPARE(fake.file->addDataBlocks(Pqa2EventHead, payloads(5)), 0);
     QCOMPARE(stored(fake), payloads(5));
+}
+
+void TstPqa2Many::afterACutAtAnyByteAllOfThemAreThereOrNone()
+{
+    FakePqa2File fake;
+    QVERIFY(fake.open());
+    fake.file->addDataBlock(Pqa2StartTime, QByteArray("begin"));
+    QByteArray image = fake.state.content;
+    const int before = fake.state.writes.size();
+    fake.file->addDataBlocks(Pqa2EventHead, payloads(20));
+    const auto writes = fake.state.writes.mid(before);
+    QCOMPARE(writes.size(), 2);
+    for (const auto &write : writes) {
+        for (int torn = 0; torn <= write.second.size(); ++torn) {
+            QByteArray cut = image;
+            cut.replace(int(write.first), torn, write.second.left(torn));
+            const bool complete = write.first == writes.last().first && torn == 4;
+            QCOMPARE(readBlocks(cut).size(), complete ? 3 + 1 + 20 : 3 + 1);
+        }
+        image.replace(int(write.first), write.second.size(), write.second);
+    }
+    QCOMPARE(image, fake.state.content);
 }
 
 void TstPqa2Many::everyFailureLeavesAWholeFile_data()
