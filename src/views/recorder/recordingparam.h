@@ -15,6 +15,8 @@ class RecordingParam : public ChoicePage
 
 public slots:
     void retranslateUi() override;
+    /// The time of a recording that has ended is no business of the next one.
+    void stopWatchChanged(const QString &) override { }
 
 signals:
     void goRecordSetup();

@@ -18,6 +18,8 @@ public:
 
 public slots:
     void retranslateUi() override;
+    /// The time of a recording that has ended is no business of the next one.
+    void stopWatchChanged(const QString &) override { }
 
 signals:
     void goRecordParam();

@@ -102,6 +102,8 @@ void TstRecorderStart::stopWatchShowsTheTimeOfTheRecording()
     QCOMPARE(text(startOf(*page), "stop_watch"), QStringLiteral("-00:00:09"));
     page->stopWatchChanged(QStringLiteral("167:59:59"));
     QCOMPARE(text(startOf(*page), "stop_watch"), QStringLiteral("167:59:59"));
+    QCOMPARE(text(setupOf(*page), "stop_watch"), QString()); // of the next one
+    QCOMPARE(text(paramOf(*page), "stop_watch"), QString());
     QVERIFY(holds(startOf(*page), "stop_watch", QStringLiteral("-9999:59:59")));
 }
 
