@@ -105,6 +105,8 @@ private slots:
     void cutSupplyLeavesAllThatWasFlushed();
     void refusedChunkLeavesTheFileAsItWas_data();
     void refusedChunkLeavesTheFileAsItWas();
+    void everyRefusedWriteLeavesAReadableFile_data();
+    void everyRefusedWriteLeavesAReadableFile();
     void chunksAreWrittenBeforeTheHead();
     void atMostFiveSecondsAreNotFlushed();
 
@@ -356,6 +358,37 @@ void TstWaveFile::refusedChunkLeavesTheFileAsItWas()
     QCOMPARE(capture->header().frames, quint64(4));
     QCOMPARE(capture->write(chunk(4, 4), kBegin + 2), qint64(64)); // there is room again
     QCOMPARE(Found(m_state.content).frames, chunk(8));
+}
+
+void TstWaveFile::everyRefusedWriteLeavesAReadableFile_data()
+{
+    QTest::addColumn<int>("taken");
+    for (int taken : { -1, 0, 3, 62, 73 }) // 62 and 73: in the midst of the head's time and count
+        QTest::addRow("%d bytes are taken", taken) << taken;
+}
+
+void TstWaveFile::everyRefusedWriteLeavesAReadableFile()
+{
+    QFETCH(int, taken);
+    constexpr int kChunks = 10;
+    for (int failing = 1; failing <= 2 * kChunks; ++failing) { // the first is the head of the empty file
+        m_state = {};
+        const auto capture = file();
+        QVERIFY(capture->open(kToday));
+        m_state.failingWrite = failing;
+        m_state.bytesTaken = taken;
+        int stored = 0;
+        for (int i = 0; i < kChunks; ++i) {
+            stored += capture->write(chunk(8, 8 * stored), kBegin + quint32(i)) > 0;
+            const Found found(m_state.content);
+            QVERIFY(found.state == WaveFileReader::Whole || found.state == WaveFileReader::Cut);
+            QCOMPARE(found.frames, chunk(8 * stored));
+        }
+        QVERIFY(stored >= kChunks - 1);
+        const Found found(m_state.content);
+        // Only a head that was refused at the very end stays behind its chunks, unless the byte that counts was taken.
+        QCOMPARE(found.state == WaveFileReader::Whole, failing != 2 * kChunks || taken > 72);
+    }
 }
 
 void TstWaveFile::chunksAreWrittenBeforeTheHead()
