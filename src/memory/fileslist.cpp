@@ -107,11 +107,20 @@ QList<QByteArray> FilesList::checkedFiles() const
     return files;
 }
 
-void FilesList::uncheck(const QByteArray &file)
+void FilesList::uncheck(const QList<QByteArray> &files)
 {
-    for (const int row : m_scroll.checked()) {
-        if (at(row).item.file == file)
-            m_scroll.setChecked(row, false);
+    const QSet<QByteArray> gone(files.begin(), files.end());
+    for (const int row : m_scroll.checked())
+        m_scroll.setChecked(row, !gone.contains(at(row).item.file));
+    update();
+}
+
+void FilesList::setInUse(const QSet<QByteArray> &files)
+{
+    for (int row = 0; row < count(); ++row) {
+        FileListItem &item = m_items[std::size_t(row)];
+        item.inUse = files.contains(item.item.file);
+        m_scroll.setChecked(row, isChecked(row) && !item.inUse);
     }
     update();
 }

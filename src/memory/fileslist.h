@@ -52,7 +52,9 @@ public:
     bool isChecked(int row) const { return m_scroll.isChecked(row); }
     /// Names of the checked rows, from the top.
     QList<QByteArray> checkedFiles() const;
-    void uncheck(const QByteArray &file);
+    void uncheck(const QList<QByteArray> &files);
+    /// What is open by now; it loses its mark.
+    void setInUse(const QSet<QByteArray> &files);
 
     void refresh() { update(); }
 

@@ -139,6 +139,7 @@ void MemoryPage::setMode(Mode mode)
 {
     m_mode = mode;
     m_list->setEditing(mode != Browsing);
+    m_list->setInUse(FilesInUse::names());
     setModeKeys();
     highLightF4();
 }
@@ -211,8 +212,15 @@ void MemoryPage::move(int rows)
     showPlace();
 }
 
+void MemoryPage::selectAll()
+{
+    m_list->setInUse(FilesInUse::names());
+    m_list->checkAll(true);
+}
+
 void MemoryPage::toggle()
 {
+    m_list->setInUse(FilesInUse::names()); // a recording may have begun or ended since the list was read
     if (!m_list->toggleCurrent())
         Message::showMessage(Message::Info, tr("The file is in use by the running measurement."));
 }
@@ -328,8 +336,7 @@ void MemoryPage::askAndCopy(const QList<QByteArray> &files, const QString &disk,
         return;
     int copied = 0;
     const CopyBatch::Result result = FileCopingProgressBar::copyFiles(jobs, &copied);
-    for (const QByteArray &file : chosen.mid(0, copied))
-        m_list->uncheck(file); // the others are left for another attempt
+    m_list->uncheck(chosen.mid(0, copied)); // the others are left for another attempt
     if (result == CopyBatch::NoRoom)
         Message::showMessage(Message::Error, tr("Insufficient storage space in Removable Storage Device."));
     else if (result == CopyBatch::Failed)

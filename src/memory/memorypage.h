@@ -61,7 +61,7 @@ private:
     void toUsb() { setMode(ChoosingForUsb); }
     void toDelete() { setMode(ChoosingToDelete); }
     void cancel() { setMode(Browsing); }
-    void selectAll() { m_list->checkAll(true); }
+    void selectAll();
     void selectNone() { m_list->checkAll(false); }
     void toggle();
     void move(int rows);

@@ -166,8 +166,7 @@ void TstFilesList::marksOfWhatIsGoneAreForgotten()
     list->checkAll(true);
     list->setItems({ named("new"), named("c"), named("a") }, {});
     QCOMPARE(list->checkedFiles(), QList<QByteArray>({ "c", "a" }));
-    list->uncheck("c");
-    list->uncheck("never there");
+    list->uncheck({ "c", "never there" });
     QCOMPARE(list->checkedFiles(), QList<QByteArray> { "a" });
 }
 
@@ -194,6 +193,11 @@ void TstFilesList::whatIsInUseHasNoMark()
     list->move(1);
     QVERIFY(list->toggleCurrent());
     QVERIFY(list->checkedFiles().isEmpty());
+    list->checkAll(true);
+    list->setInUse({ "b" }); // the one was closed, the other opened
+    QVERIFY(list->checkedFiles().isEmpty());
+    list->checkAll(true);
+    QCOMPARE(list->checkedFiles(), QList<QByteArray> { "a" });
 }
 
 QTEST_MAIN(TstFilesList)

@@ -51,6 +51,7 @@ private slots:
     void withoutAMarkNothingIsAsked();
     void marksAndSelectionStayWithTheirFiles();
     void whatIsInUseCannotBeChosen();
+    void whatWasClosedSinceTheListWasReadCanBeChosen();
     void aFileThatIsOpenedBehindTheMarkStays();
     void formattingAsksAndTakesEverything();
     void formattingIsRefusedWhileSomethingIsInUse();
@@ -318,6 +319,29 @@ void TstMemoryPage::whatIsInUseCannotBeChosen()
         QCOMPARE(screen.marks(), QList<bool>({ true, true, false }));
         screen.press({ Up, Up, F5 });
     }
+}
+
+void TstMemoryPage::whatWasClosedSinceTheListWasReadCanBeChosen()
+{
+    storeThree();
+    QFile data(Target::path(kStorage + "Vif1.png"));
+    QVERIFY(data.open(QIODevice::ReadWrite));
+    Screen screen;
+    screen.press({ F3, F1 });
+    QCOMPARE(screen.marks(), QList<bool>({ false, true, true }));
+    data.close();
+    screen.press({ F1 });
+    QCOMPARE(screen.marks(), QList<bool>({ true, true, true }));
+    screen.press({ F2 });
+    QVERIFY(data.open(QIODevice::ReadWrite));
+    {
+        Answers answers("L");
+        screen.press({ Enter });
+        QCOMPARE(answers.said.size(), 1);
+    }
+    data.close();
+    screen.press({ Enter });
+    QCOMPARE(screen.marks(), QList<bool>({ true, false, false }));
 }
 
 void TstMemoryPage::aFileThatIsOpenedBehindTheMarkStays()
