@@ -1,0 +1,88 @@
+// A recording whose instrument goes away in the middle of it: what is there afterwards.
+#include "instrument.h"
+
+#include "record/pqa2reader.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace SystemTest;
+
+namespace {
+
+constexpr int kWaitMs = 60000; // for what takes ten seconds on a quiet machine
+
+/// Blocks of a file up to the first thing that is wrong, and whether that is nothing but a missing last link.
+struct Found
+{
+    QMap<quint32, int> blocks;
+    bool isReadable = false;
+};
+
+Found readFile(const QString &path)
+{
+    Found found;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return found;
+    Pqa2Reader reader(&file);
+    for (Pqa2Block block; reader.next(&block);)
+        ++found.blocks[block.type];
+    found.isReadable
+        = reader.state() == Pqa2Reader::Whole || (reader.state() == Pqa2Reader::Cut && !reader.skipDamage());
+    return found;
+}
+
+} // namespace
+
+class TstKilledRecording : public QObject
+{
+    Q_OBJECT
+private slots:
+    void everyFinishedIntervalStaysAndTheNextStartKnowsTheRecording();
+
+private:
+    QDir storage() const { return QDir(m_desk.path(QStringLiteral("/mnt/storage/"))); }
+    QStringList folders() const { return storage().entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name); }
+
+    Instrument m_desk;
+};
+
+void TstKilledRecording::everyFinishedIntervalStaysAndTheNextStartKnowsTheRecording()
+{
+    QStringList keys = QStringLiteral("Down Down Right Enter").split(' '); // to "Logger"
+    keys << QStringLiteral("F2 F1 F4 Down Down Left Left Left F5").split(' '); // everything, every second
+    VERIFY_DESK(m_desk.start(), m_desk);
+    VERIFY_DESK(m_desk.press(keys), m_desk);
+    QTRY_COMPARE_WITH_TIMEOUT(folders().size(), 1, kWaitMs);
+    const QString folder = storage().filePath(folders().first()) + QLatin1Char('/');
+    const QString last = folder + QStringLiteral("I inHarmonic(50-99).pqa2"); // the last to be written of an interval
+    QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(last).size() > 3 * 3 * 852, kWaitMs);
+    m_desk.stopInstrument();
+
+    const Found common = readFile(folder + QStringLiteral("Common.pqa2"));
+    QVERIFY(common.isReadable);
+    QCOMPARE(common.blocks.value(0xA1000018), 1);
+    QCOMPARE(common.blocks.value(0xA1000019), 0); // it did not come to its end
+    const int intervals = common.blocks.value(0xA1000020);
+    QVERIFY(intervals >= 3);
+    for (const quint32 type : { 0xA1000060u, 0xA10000A0u, 0xA1001008u, 0xA1000021u, 0xA1000022u, 0xA1000023u })
+        QVERIFY(intervals - common.blocks.value(type) <= 1);
+    for (const QString &name : QDir(folder).entryList(QDir::Files))
+        QVERIFY2(readFile(folder + name).isReadable, qPrintable(name));
+    QVERIFY(intervals - readFile(last).blocks.value(0xA1000037) <= 1);
+
+    // As if its entry had not reached the card either.
+    const QString index = storage().filePath(QStringLiteral(".infomation"));
+    QVERIFY(QFile::remove(index));
+    VERIFY_DESK(m_desk.startInstrument(), m_desk);
+    const auto entries = [&index] {
+        QFile file(index);
+        return file.open(QIODevice::ReadOnly) ? file.readAll().count("Logger_1,") : 0;
+    };
+    QTRY_COMPARE_WITH_TIMEOUT(entries(), 1, kWaitMs);
+    QCOMPARE(folders().size(), 1);
+}
+
+QTEST_MAIN(TstKilledRecording)
+#include "tst_killedrecording.moc"
