@@ -40,12 +40,6 @@ do you want to quit?</source>
 Voulez-vous l&apos;arrêter ?</translation>
     </message>
     <message>
-        <source>%1 is not available
-in this software version.</source>
-        <translation>%1 n&apos;est pas disponible
-dans cette version du logiciel.</translation>
-    </message>
-    <message>
         <source>Menu</source>
         <translation>Menu</translation>
     </message>

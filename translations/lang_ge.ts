@@ -40,12 +40,6 @@ do you want to quit?</source>
 Soll sie beendet werden?</translation>
     </message>
     <message>
-        <source>%1 is not available
-in this software version.</source>
-        <translation>%1 ist in dieser
-Softwareversion nicht verfügbar.</translation>
-    </message>
-    <message>
         <source>Menu</source>
         <translation>Menü</translation>
     </message>

@@ -40,12 +40,6 @@ do you want to quit?</source>
 Si desidera uscire?</translation>
     </message>
     <message>
-        <source>%1 is not available
-in this software version.</source>
-        <translation>%1 non è disponibile
-in questa versione del software.</translation>
-    </message>
-    <message>
         <source>Menu</source>
         <translation>Menu</translation>
     </message>

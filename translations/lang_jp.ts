@@ -40,12 +40,6 @@ do you want to quit?</source>
 終了しますか？</translation>
     </message>
     <message>
-        <source>%1 is not available
-in this software version.</source>
-        <translation>%1 はこのソフトウェア
-バージョンでは使用できません。</translation>
-    </message>
-    <message>
         <source>Menu</source>
         <translation>メニュー</translation>
     </message>

@@ -40,12 +40,6 @@ do you want to quit?</source>
 종료하시겠습니까?</translation>
     </message>
     <message>
-        <source>%1 is not available
-in this software version.</source>
-        <translation>%1 기능은 이 소프트웨어
-버전에서 사용할 수 없습니다.</translation>
-    </message>
-    <message>
         <source>Menu</source>
         <translation>메뉴</translation>
     </message>

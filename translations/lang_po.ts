@@ -40,12 +40,6 @@ do you want to quit?</source>
 Czy zakończyć?</translation>
     </message>
     <message>
-        <source>%1 is not available
-in this software version.</source>
-        <translation>%1: funkcja niedostępna
-w tej wersji oprogramowania.</translation>
-    </message>
-    <message>
         <source>Menu</source>
         <translation>Menu</translation>
     </message>

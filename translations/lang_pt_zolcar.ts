@@ -40,12 +40,6 @@ do you want to quit?</source>
 Deseja sair?</translation>
     </message>
     <message>
-        <source>%1 is not available
-in this software version.</source>
-        <translation>%1 não está disponível
-nesta versão do software.</translation>
-    </message>
-    <message>
         <source>Menu</source>
         <translation>Menu</translation>
     </message>

@@ -40,12 +40,6 @@ do you want to quit?</source>
 Завершить её?</translation>
     </message>
     <message>
-        <source>%1 is not available
-in this software version.</source>
-        <translation>%1: функция недоступна
-в этой версии ПО.</translation>
-    </message>
-    <message>
         <source>Menu</source>
         <translation>Меню</translation>
     </message>

@@ -40,12 +40,6 @@ do you want to quit?</source>
 ¿Desea salir?</translation>
     </message>
     <message>
-        <source>%1 is not available
-in this software version.</source>
-        <translation>%1 no está disponible
-en esta versión del software.</translation>
-    </message>
-    <message>
         <source>Menu</source>
         <translation>Menú</translation>
     </message>

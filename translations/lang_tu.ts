@@ -40,12 +40,6 @@ do you want to quit?</source>
 Çıkmak istiyor musunuz?</translation>
     </message>
     <message>
-        <source>%1 is not available
-in this software version.</source>
-        <translation>%1 bu yazılım
-sürümünde kullanılamaz.</translation>
-    </message>
-    <message>
         <source>Menu</source>
         <translation>Menü</translation>
     </message>

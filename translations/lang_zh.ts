@@ -40,12 +40,6 @@ do you want to quit?</source>
 是否退出？</translation>
     </message>
     <message>
-        <source>%1 is not available
-in this software version.</source>
-        <translation>%1 在此软件版本中
-不可用。</translation>
-    </message>
-    <message>
         <source>Menu</source>
         <translation>菜单</translation>
     </message>

@@ -172,16 +172,6 @@ bool Navigator::quitTaskAsAsked(_quvera_ui_type current)
     }
 }
 
-/// The page of a function, or null after saying that this software has none.
-FunctionPage *Navigator::builtPage(_quvera_ui_type target)
-{
-    FunctionPage *built = page(target);
-    if (!built)
-        Message::showMessage(
-            0, BaseDialog::tr("%1 is not available\nin this software version.").arg(PageTable::title(target)));
-    return built;
-}
-
 void Navigator::leaveCurrent()
 {
     if (auto *page = qobject_cast<FunctionPage *>(m_currentPage))
@@ -229,7 +219,7 @@ void Navigator::takeFront(_quvera_ui_type current, FunctionPage *page)
 /// Pages that only read live data: going from one to another never interrupts the measurement.
 void Navigator::showLive(_quvera_ui_type current, _quvera_ui_type target)
 {
-    FunctionPage *page = builtPage(target);
+    FunctionPage *page = this->page(target);
     if (!page)
         return;
     switch (changeTaskOrNot(AbstractTask::UniBasic, current)) {
@@ -255,7 +245,7 @@ void Navigator::showCommanded(_quvera_ui_type current, _quvera_ui_type target)
     const PageRow &row = *PageTable::row(target);
     if (!row.at400Hz && is400Hz())
         return;
-    FunctionPage *page = builtPage(target);
+    FunctionPage *page = this->page(target);
     if (!page)
         return;
     bool enters = true;
@@ -280,7 +270,7 @@ void Navigator::showCommanded(_quvera_ui_type current, _quvera_ui_type target)
 /// Setup and User always end the measurement.
 void Navigator::showSettings(_quvera_ui_type current, _quvera_ui_type target)
 {
-    FunctionPage *page = builtPage(target);
+    FunctionPage *page = this->page(target);
     if (!page || !exitCurTaskIfOrNot(current))
         return;
     leaveCurrent();
@@ -306,7 +296,7 @@ void Navigator::showMenuPage()
 /// The current page stays current: the measurement goes on behind this one.
 void Navigator::showOverlay(_quvera_ui_type target)
 {
-    FunctionPage *page = builtPage(target);
+    FunctionPage *page = this->page(target);
     if (!page)
         return;
     emit titleChanged(PageTable::title(target));

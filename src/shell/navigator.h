@@ -25,8 +25,7 @@ public:
     /// All arguments outlive it.
     Navigator(TaskManage *tasks, MenuPage *menu, QStackedWidget *stack, QObject *parent = nullptr);
 
-    /// The page that answers to a type, made now if it was not; null for the menu and for what is not built into this
-    /// software.
+    /// The page that answers to a type, made now if it was not; null for the menu.
     FunctionPage *page(_quvera_ui_type type);
     /// The last function page shown, menu included; one that stands over others does not change it.
     QWidget *currentPage() const { return m_currentPage; }
@@ -59,7 +58,6 @@ private:
 
     static std::size_t place(const PageRow &row);
     FunctionPage *makePage(const PageRow &row);
-    FunctionPage *builtPage(_quvera_ui_type target);
     Answer changeTaskOrNot(AbstractTask::UniFunction function, _quvera_ui_type current);
     void takeFront(_quvera_ui_type current, FunctionPage *page);
     bool exitCurTaskIfOrNot(_quvera_ui_type current);

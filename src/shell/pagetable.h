@@ -52,7 +52,7 @@ struct PageRow
     unsigned hears; // Hears::Flag
     int languageTurn; // its turn when the language changes, from 1; 0: it is not retranslated
     int beginTurn; // its turn in initUiParameter, from 1; 0: left out
-    FunctionPage *(*make)(TaskLinks &, const LiveData &); // null: not built into this software
+    FunctionPage *(*make)(TaskLinks &, const LiveData &); // null: the menu, which stands for itself
     bool at400Hz = true; // false: no such function at a nominal frequency of 400 Hz
     bool (*entersAgain)() = nullptr; // Commanded: whether it begins anew although its function runs
 };

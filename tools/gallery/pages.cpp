@@ -182,7 +182,7 @@ const QVector<Page> &galleryPages()
     constexpr bool kNotAt400Hz = false;
     constexpr bool kOneWiring = false;
     static const QVector<Page> pages = QVector<Page> {
-        // F5 closes the message that a function which is not built yet answers with.
+        // F5 closes the status.
         byKey("menu", "", { "menu", "F1: status" }, "F5", true, kOneWiring),
         fromMenu("power", "power", { "table", "F3: energy", "F3 F4: trend" }),
         fromMenu("vif", "vif", { "table", "F5: held", "F5 F4: trend", "F1 F1: trend-u-dc", "F1 F1: trend-i-rms" }),

@@ -1,6 +1,7 @@
 #include "views/recorder/recordingkind.h"
 
 #include "pages/channellabels.h"
+#include "platform/target.h"
 #include "settings/config_data.h"
 #include "settings/localtime.h"
 #include "settings/loggerinfo.h"
@@ -8,6 +9,7 @@
 #include "storage/fileinfo.h"
 
 #include <QCoreApplication>
+#include <QFile>
 
 #include <algorithm>
 #include <iterator>
@@ -21,13 +23,17 @@ QString recorderName()
     return FileInfo().getDefaultRecordName(QLatin1String(kPrefix));
 }
 
-/// The first whose first file is not there.
+/// The first whose first file is neither in the index nor on the card: a file enters the index a moment after it began.
 QString loggerName()
 {
-    const QString suffix = QStringLiteral("_00.csv");
-    QString name = FileInfo().getDefaultFileName(QLatin1String(kPrefix), suffix);
-    name.chop(suffix.size());
-    return name;
+    const QStringList entered = FileInfo().getInfoFiles();
+    for (int n = 1; n <= 999; ++n) {
+        const QString name = QLatin1String(kPrefix) + QString::number(n);
+        const QString file = name + QLatin1String("_00.csv");
+        if (!entered.contains(file) && !QFile::exists(Target::path(FileInfo::storagePath() + file)))
+            return name;
+    }
+    return {};
 }
 
 int recorderHours(float room)

@@ -75,6 +75,9 @@ void TstRecorderSetup::loggerTakesTheFirstNameWithoutAFile()
     RootFiles::write("/mnt/storage/.infomation", "Logger_1_00.csv,2024-01-18 16:15:09\n");
     auto page = openFamily(true);
     QCOMPARE(*LoggerInfo::m_logger_file, QStringLiteral("Logger_2"));
+    RootFiles::write("/mnt/storage/Logger_2_00.csv", "TIME,\n"); // not in the index yet
+    page->enter();
+    QCOMPARE(*LoggerInfo::m_logger_file, QStringLiteral("Logger_3"));
 }
 
 void TstRecorderSetup::nameOfTheUserStays()
