@@ -77,10 +77,11 @@ bool Pqa2FF::begin()
     if (m_device->freeSize() < kRoomToOpen || !m_device->open(m_path))
         return false;
     m_open = true;
-    const Pqa2Opening opening = s_opening ? s_opening() : Pqa2Opening();
-    const bool begun = initFileHeader() && addDataBlock(Pqa2InstrumentInfo, opening.instrument) == 0
-        && addDataBlock(Pqa2SystemSetting, opening.setting) == 0
-        && addDataBlock(Pqa2ChannelFactor, opening.factors) == 0;
+    if (m_part == 1) // a further part tells what its recording was begun with
+        m_opening = s_opening ? s_opening() : Pqa2Opening();
+    const bool begun = initFileHeader() && addDataBlock(Pqa2InstrumentInfo, m_opening.instrument) == 0
+        && addDataBlock(Pqa2SystemSetting, m_opening.setting) == 0
+        && addDataBlock(Pqa2ChannelFactor, m_opening.factors) == 0;
     if (!begun)
         close();
     return begun;

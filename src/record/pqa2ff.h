@@ -37,7 +37,7 @@ struct Pqa2Opening
 
 /// Writer of a PQA2 file: a head and a chain of typed blocks. A block is linked from the one before it only when all of
 /// it is in the file, so that whatever ends the process leaves every finished block readable (docs/formats/pqa2.md).
-/// Main thread only.
+/// One thread at a time; opened on the main thread.
 class Pqa2FF
 {
 public:
@@ -53,7 +53,8 @@ public:
     Pqa2FF(const Pqa2FF &) = delete;
     Pqa2FF &operator=(const Pqa2FF &) = delete;
 
-    /// Who is asked, at each opening, what the file says of the instrument; nothing is said before.
+    /// Who is asked, at each opening, what the file and its further parts say of the instrument; nothing is said
+    /// before.
     static void setOpening(Pqa2Opening (*source)()) { s_opening = source; }
 
     /// Starts the file anew with its head and the three opening blocks. 0 without a path, without room, or when the
@@ -117,6 +118,7 @@ private:
     bool m_unflushed = false; // something was written that no flush was begun for
     bool m_continues = false; // in a next part
     std::function<void(Pqa2FF &)> m_beginPart;
+    Pqa2Opening m_opening;
     qint64 m_end = 0; // where the next block starts
     QList<_pqa2_block_iterator> m_last; // the last blocks, at most three
     QByteArray m_buffer; // blocks on their way into the file

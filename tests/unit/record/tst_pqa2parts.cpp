@@ -83,6 +83,7 @@ private slots:
     void withoutRoomThePartStaysAndGoesOnLater();
     void partThatCannotBeBegunEndsTheRecording();
     void openingAgainStartsWithTheFirstPart();
+    void allPartsTellWithWhatTheFirstWasBegun();
     void namesOfParts();
     void whatIsNoFileIsNotRecordedInto_data() { addFileStandIns(); }
     void whatIsNoFileIsNotRecordedInto();
@@ -253,6 +254,30 @@ void TstPqa2Parts::openingAgainStartsWithTheFirstPart()
     QCOMPARE(sparse.add("anew"), 0);
     sparse.file->close();
     QCOMPARE(blocksOf(kPath), QList<QByteArray> { "system log: anew" });
+}
+
+void TstPqa2Parts::allPartsTellWithWhatTheFirstWasBegun()
+{
+    static int asked;
+    asked = 0;
+    Pqa2FF::setOpening([]() -> Pqa2Opening { return { QByteArray::number(++asked), "Fnom: 50Hz\n", "factors" }; });
+    SparseFile sparse;
+    sparse.file->continueInParts();
+    QVERIFY(sparse.file->open(kPath));
+    const auto told = [&sparse] {
+        QFile file(Target::path(sparse.file->fullFilePath()));
+        Pqa2Block block;
+        return file.open(QIODevice::ReadOnly) && Pqa2Reader(&file).next(&block) ? Pqa2Reader(&file).payload(block)
+                                                                                : QByteArray();
+    };
+    QCOMPARE(told(), QByteArray("1"));
+    sparse.skipTo(kEnd - 3);
+    QCOMPARE(sparse.add("next"), 0);
+    QCOMPARE(sparse.file->fullFilePath(), Pqa2FF::partPath(kPath, 2));
+    QCOMPARE(told(), QByteArray("1"));
+    QVERIFY(sparse.file->open()); // another recording
+    QCOMPARE(told(), QByteArray("2"));
+    Pqa2FF::setOpening(nullptr);
 }
 
 void TstPqa2Parts::namesOfParts()
