@@ -50,8 +50,9 @@ ImageViewer::ImageViewer(const QImage &image, QWidget *page) : QWidget(page->win
 
 void ImageViewer::leave()
 {
-    m_page->setFocus();
+    QWidget *const page = m_page;
     close();
+    page->setFocus();
 }
 
 void ImageViewer::paintEvent(QPaintEvent *)

@@ -135,6 +135,15 @@ void MemoryPage::hideEvent(QHideEvent *event)
     FunctionPage::hideEvent(event);
 }
 
+void MemoryPage::focusInEvent(QFocusEvent *event)
+{
+    // The window hands the keyboard to its page; while a picture covers it, the keys are the picture's.
+    if (m_viewer && m_viewer->isVisible())
+        m_viewer->setFocus();
+    else
+        FunctionPage::focusInEvent(event);
+}
+
 void MemoryPage::setMode(Mode mode)
 {
     m_mode = mode;

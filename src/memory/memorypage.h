@@ -54,6 +54,7 @@ protected:
     bool pressKey(int key) override;
     std::vector<FrontKeys::Row> commonKeys() override;
     void hideEvent(QHideEvent *event) override;
+    void focusInEvent(QFocusEvent *event) override;
 
 private:
     void setMode(Mode mode);

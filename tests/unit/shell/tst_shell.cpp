@@ -1,5 +1,6 @@
 #include "shellcase.h"
 
+#include "memory/imageviewer.h"
 #include "memory/memorypage.h"
 #include "platform/target.h"
 #include "shell/pagetable.h"
@@ -36,6 +37,7 @@ private slots:
     void memoryKeyWhileRecordingAsksNothing();
     void backFromMemoryRestoresPageAndTitle();
     void memoryIsReadAnewEachTimeItIsOpened();
+    void aPictureKeepsTheKeysBehindAQuestion();
     void aDiskThatIsPluggedInIsKnownToMemory();
     void recordingQuestionOffersSaveExitRestartCancel();
     void restartInTheRecorderQuestionStaysAndBeginsANewRecording();
@@ -315,6 +317,40 @@ void TstShell::memoryIsReadAnewEachTimeItIsOpened()
     QTRY_COMPARE(memory->findChild<FilesList *>()->count(), before + 1);
     QTest::keyClick(memory, kF5);
     QVERIFY(file.remove());
+}
+
+void TstShell::aPictureKeepsTheKeysBehindAQuestion()
+{
+    const QString path = Target::path(QStringLiteral("/mnt/storage/picture.png"));
+    QDir storage(Target::path(QStringLiteral("/mnt/storage"))); // what other cases left
+    QVERIFY(storage.removeRecursively() && storage.mkpath(storage.path()));
+    QImage picture(64, 48, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    QVERIFY(picture.save(path));
+    auto *memory = pageOf<MemoryPage>(UI_MEMORY);
+    QTest::keyClick(m_basedialog->menu(), kF10);
+    QTRY_VERIFY(!memory->isWorking());
+    QTest::keyClick(QApplication::focusWidget(), kF4);
+    QTRY_VERIFY(m_basedialog->findChild<ImageViewer *>());
+    QWidget *viewer = m_basedialog->findChild<ImageViewer *>();
+    {
+        DialogAnswer cancel(kF5);
+        QTest::keyClick(viewer, kPower); // rises to the window
+        QTRY_VERIFY(cancel.asked);
+        QVERIFY(cancel.text.contains("Power off?"));
+    }
+    m_basedialog->setFocus(); // which hands on what it gets
+    QTRY_COMPARE(QApplication::focusWidget(), viewer);
+    DialogAnswer format(kF5);
+    QTest::keyClick(QApplication::focusWidget(), kF1);
+    QTest::qWait(50);
+    QVERIFY(!format.asked);
+    QTest::keyClick(QApplication::focusWidget(), kF5);
+    QVERIFY(!viewer->isVisible());
+    QVERIFY(memory->isAncestorOf(QApplication::focusWidget()));
+    QTest::keyClick(QApplication::focusWidget(), kF5);
+    QCOMPARE(title(), QStringLiteral("Menu"));
+    QVERIFY(QFile::remove(path));
 }
 
 void TstShell::aDiskThatIsPluggedInIsKnownToMemory()
