@@ -556,6 +556,13 @@ voulez-vous quitter ?</translation>
     </message>
 </context>
 <context>
+    <name>InterruptedNote</name>
+    <message>
+        <source>Recording %1 was interrupted at %2</source>
+        <translation>Enregistrement %1 interrompu le %2</translation>
+    </message>
+</context>
+<context>
     <name>LimitHarmPage</name>
     <message>
         <source>Harmonics: time in limits</source>

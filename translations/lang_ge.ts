@@ -556,6 +556,13 @@ soll sie beendet werden?</translation>
     </message>
 </context>
 <context>
+    <name>InterruptedNote</name>
+    <message>
+        <source>Recording %1 was interrupted at %2</source>
+        <translation>Aufzeichnung %1 wurde am %2 unterbrochen</translation>
+    </message>
+</context>
+<context>
     <name>LimitHarmPage</name>
     <message>
         <source>Harmonics: time in limits</source>

@@ -556,6 +556,13 @@ si desidera uscire?</translation>
     </message>
 </context>
 <context>
+    <name>InterruptedNote</name>
+    <message>
+        <source>Recording %1 was interrupted at %2</source>
+        <translation>Registrazione %1 interrotta il %2</translation>
+    </message>
+</context>
+<context>
     <name>LimitHarmPage</name>
     <message>
         <source>Harmonics: time in limits</source>

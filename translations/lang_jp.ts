@@ -556,6 +556,13 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>InterruptedNote</name>
+    <message>
+        <source>Recording %1 was interrupted at %2</source>
+        <translation>記録 %1 は %2 に中断されました</translation>
+    </message>
+</context>
+<context>
     <name>LimitHarmPage</name>
     <message>
         <source>Harmonics: time in limits</source>

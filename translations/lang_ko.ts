@@ -556,6 +556,13 @@ Do you want to exit?</source>
     </message>
 </context>
 <context>
+    <name>InterruptedNote</name>
+    <message>
+        <source>Recording %1 was interrupted at %2</source>
+        <translation>기록 %1이(가) %2에 중단되었습니다</translation>
+    </message>
+</context>
+<context>
     <name>LimitHarmPage</name>
     <message>
         <source>Harmonics: time in limits</source>

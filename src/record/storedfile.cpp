@@ -5,6 +5,7 @@
 #include "platform/target.h"
 #include "record/pqa2device.h"
 #include "storage/fileinfo.h"
+#include "storage/runjournal.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -31,6 +32,7 @@ bool StoredFile::open(const QString &name, const QDateTime &localTime)
     m_name = name;
     m_open = true;
     m_flushed = Clock::elapsed();
+    RunJournal::instance().begin(name);
     DiskWorker::instance().run([name, localTime] { FileInfo().saveInfo(name, localTime); });
     return true;
 }
@@ -69,6 +71,7 @@ void StoredFile::close()
         return;
     m_open = false;
     m_device->close();
+    RunJournal::instance().end(m_name);
 }
 
 void StoredFile::remove()

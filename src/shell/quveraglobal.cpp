@@ -13,6 +13,7 @@
 #include "device/deviceinit.h"
 #include "board/screenshot.h"
 #include "board/wifi.h"
+#include "shell/interruptednote.h"
 #include "shell/navigator.h"
 #include "services/modbuspublisher.h"
 #include "services/iremote.h"
@@ -42,11 +43,12 @@ void showSplash()
     QCoreApplication::processEvents();
 }
 
-/// What a lost supply left between card and index is mended behind the first pages.
-static void mendIndex()
+/// What a lost supply left between card and index is mended behind the first pages, and the user hears what it cut.
+static void mendStorage()
 {
     auto *work = new FileWork(m_basedialog);
-    work->run([zone = LocalTime::localTimeZone()] { StoredItems::mendIndex(zone); }, [work] { work->deleteLater(); });
+    work->run([zone = LocalTime::localTimeZone()] { StoredItems::mendIndex(zone); });
+    InterruptedNote::tell(work);
 }
 
 void appInit()
@@ -77,7 +79,7 @@ void appInit()
     systemTray = new SystemTray;
     systemTray->setWirelessQuery(&Wifi::isWifiConnected);
     udisk = new uDiskStorage;
-    mendIndex();
+    mendStorage();
 }
 
 void appConnection()

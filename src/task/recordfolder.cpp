@@ -4,6 +4,7 @@
 #include "platform/target.h"
 #include "settings/localtime.h"
 #include "storage/fileinfo.h"
+#include "storage/runjournal.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -54,9 +55,15 @@ bool RecordFolder::create(const QString &record)
         m_name.clear();
         return false;
     }
+    RunJournal::instance().begin(m_name);
     DiskWorker::instance().run([name = m_name, now] { FileInfo().saveInfo(name, now); });
     removeLeaving();
     return true;
+}
+
+void RecordFolder::ended(const QString &name)
+{
+    RunJournal::instance().end(name);
 }
 
 void RecordFolder::remove()

@@ -14,8 +14,11 @@ public:
     static QString nameAt(const QDateTime &localTime, const QString &record);
 
     /// Makes the folder of a recording that begins now, or a second later for each that is there already; the index,
-    /// which has to wait for the card, gets its entry behind. False, with no name, when it cannot be made.
+    /// which has to wait for the card, gets its entry behind. The journal of runs says that it is being written, until
+    /// ended(). False, with no name, when it cannot be made.
     bool create(const QString &record);
+    /// The files in the folder of that name are complete. Any thread.
+    static void ended(const QString &name);
     /// Lets go of the folder, which stays.
     void release() { m_name.clear(); }
     /// Takes the folder away with all that is in it, and its entry. It is out of sight at once; that its files go may

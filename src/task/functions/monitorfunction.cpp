@@ -61,6 +61,7 @@ void MonitorFunction::openFile()
     RecordFolder folder;
     if (!folder.create(*MonitorInfo::m_monitor_file))
         return; // the run goes on without a file
+    m_run = folder.name();
     m_monitorFile = m_links.device ? std::make_unique<Pqa2FF>(m_links.device()) : std::make_unique<Pqa2FF>();
     m_monitorFile->open(folder.file(QStringLiteral("Monitor.pqa2")));
     m_file.set(m_monitorFile.get());
@@ -214,6 +215,7 @@ void MonitorFunction::stop(Keep)
     m_file.add(Pqa2EndTime, timed(Clock::seconds()));
     m_file.set(nullptr);
     m_monitorFile.reset();
+    RecordFolder::ended(m_run);
     m_judge.reset();
     m_sums = MonitorSums();
 }

@@ -65,6 +65,7 @@ private:
     MonitorLinks m_links;
     FunctionFile m_file;
     std::unique_ptr<Pqa2FF> m_monitorFile;
+    QString m_run; // name of its folder
     std::optional<MonitorJudge> m_judge; // while it runs
     MonitorSums m_sums;
     qint64 m_time = 0; // ms since 1970, of the newest datagram

@@ -57,6 +57,7 @@ void RecorderFunction::start()
     m_files = std::make_shared<RecordFiles>(m_links.device);
     if (m_folder.create(*RecordInfo::m_record_file))
         m_files->open(m_folder, m_items, Clock::seconds());
+    m_run = m_folder.name();
     storeEvents(EventChoice::Finished);
     m_beats = 0;
     m_beat.start();
@@ -187,10 +188,11 @@ void RecorderFunction::stop(Keep)
     const bool eventsWait = !m_waiting.isEmpty(); // those of before the start
     storeEvents(EventChoice::Unfinished);
     appendEnd();
-    const auto close = [files = std::exchange(m_files, nullptr),
+    const auto close = [name = m_run, files = std::exchange(m_files, nullptr),
                         waiting = std::make_shared<WaitingBlocks>(std::exchange(m_waiting, WaitingBlocks()))] {
         waiting->storeAll([&files](quint32 type, const QByteArray &block) { files->add(CommonFile, type, block); });
         files->close();
+        RecordFolder::ended(name);
     };
     if (eventsWait)
         DiskWorker::slow().run(close);

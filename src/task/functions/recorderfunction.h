@@ -78,6 +78,7 @@ private:
     RecorderSetUp m_setUp = {};
     quint32 m_items = 0; // RecordInfo::Item
     RecordFolder m_folder;
+    QString m_run; // name of the folder that is written into
     std::shared_ptr<RecordFiles> m_files; // null: no recording
     WaitingBlocks m_waiting; // for the common file
     qint64 m_time = 0; // of the last datagram, ms since 1970

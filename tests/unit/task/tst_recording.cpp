@@ -210,7 +210,7 @@ void TstRecording::aDeclinedRecordingIsDeletedEntirely()
     prepare(0xFFFF);
     feed(10'000, 13'000);
     RootFiles::write(path() + QStringLiteral("sub/other"), "x");
-    QCOMPARE(storage(), (QStringList { ".infomation", "231114_221330 Logger_1" }));
+    QCOMPARE(storage(), QStringList({ ".infomation", ".running", "231114_221330 Logger_1" }));
     m_task->stopRecordTask();
     m_task->saveRecord(false);
     QCOMPARE(storage(), QStringList(".infomation"));

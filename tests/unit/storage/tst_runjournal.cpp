@@ -1,0 +1,131 @@
+#include <QRegularExpression>
+#include <QTest>
+
+#include "storage/runjournal.h"
+#include "unit/storage/filelimit.h"
+#include "unit/storage/rootfiles.h"
+
+#include <sys/stat.h>
+
+namespace {
+
+const QString kJournal = QStringLiteral("/mnt/storage/.running");
+
+QByteArray stored()
+{
+    RootFiles::waitForDisks();
+    return RootFiles::read(kJournal);
+}
+
+} // namespace
+
+/// The file that names what is being recorded.
+class TstRunJournal : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { RootFiles::clean(); }
+
+    void withoutARunThereIsNoFile()
+    {
+        RunJournal journal;
+        journal.end("never begun");
+        journal.forget("never found");
+        QCOMPARE(stored(), QByteArray("(missing)"));
+        QVERIFY(journal.interrupted().isEmpty());
+    }
+
+    void itStandsThereWhileARunGoesOn()
+    {
+        RunJournal journal;
+        journal.begin("231114_221320 Logger_1");
+        QCOMPARE(stored(), QByteArray("231114_221320 Logger_1\n"));
+        journal.begin("Wave_1.wav");
+        journal.begin("Wave_1.wav");
+        QCOMPARE(stored(), QByteArray("231114_221320 Logger_1\nWave_1.wav\n"));
+        journal.end("231114_221320 Logger_1");
+        QCOMPARE(stored(), QByteArray("Wave_1.wav\n"));
+        journal.end("Wave_1.wav");
+        QCOMPARE(stored(), QByteArray("(missing)"));
+        QVERIFY(RootFiles::commands().endsWith("sync\n"));
+    }
+
+    void theNextStartFindsWhatWasCutUntilItIsForgotten()
+    {
+        RootFiles::write(kJournal, "231114_221320 Logger_1\n\xd0\x96.wav\n");
+        RunJournal next;
+        QCOMPARE(next.interrupted(), QStringList({ "231114_221320 Logger_1", QStringLiteral("Ж.wav") }));
+        next.begin("Wave_2.wav");
+        QCOMPARE(stored(), QByteArray("231114_221320 Logger_1\n\xd0\x96.wav\nWave_2.wav\n"));
+        next.forget("231114_221320 Logger_1");
+        next.forget("Wave_2.wav"); // it is not over
+        QCOMPARE(stored(), QByteArray("\xd0\x96.wav\nWave_2.wav\n"));
+        next.end(QStringLiteral("Ж.wav")); // it never went on
+        QCOMPARE(next.interrupted(), QStringList { QStringLiteral("Ж.wav") });
+    }
+
+    void aNewRunTakesThePlaceOfACutOneOfItsName()
+    {
+        RootFiles::write(kJournal, "Wave_1.wav\n");
+        RunJournal journal;
+        journal.begin("Wave_1.wav");
+        QVERIFY(journal.interrupted().isEmpty());
+        journal.end("Wave_1.wav");
+        QCOMPARE(stored(), QByteArray("(missing)"));
+    }
+
+    void noLineLeadsOutOfTheStorageOrIsUnreadable()
+    {
+        RootFiles::write(
+            kJournal, QByteArray("../userfs\n\n.infomation\na/b\n") + '\0' + "\ngood\ngood\nlast without a line feed");
+        RunJournal journal;
+        QCOMPARE(journal.interrupted(), QStringList({ "good", "last without a line feed" }));
+        journal.begin("two\nlines");
+        journal.begin("../x");
+        RootFiles::waitForDisks();
+        QCOMPARE(RunJournal().interrupted().size(), 2);
+    }
+
+    void aMillionLinesAreNotTakenIn()
+    {
+        QByteArray text;
+        for (int i = 0; i < 1000; ++i)
+            text += QByteArray::number(i) + '\n';
+        RootFiles::write(kJournal, text);
+        QCOMPARE(RunJournal().interrupted().size(), 64);
+        RootFiles::write(kJournal, text.repeated(1000));
+        QCOMPARE(RunJournal().interrupted().size(), 0);
+    }
+
+    void whatIsNoFileHoldsNoStartUp()
+    {
+        QCOMPARE(::mkfifo(QFile::encodeName(Target::path(kJournal)).constData(), 0644), 0);
+        QVERIFY(RunJournal().interrupted().isEmpty());
+    }
+
+    void onAFullCardTheOldNamesStayAndTheLastOneGoes()
+    {
+        RunJournal journal;
+        journal.begin("one");
+        journal.begin("two");
+        RootFiles::waitForDisks();
+        {
+            const FileLimit full(0);
+            QTest::ignoreMessage(QtDebugMsg, QRegularExpression("open fail: RunJournal"));
+            journal.begin("three");
+            QCOMPARE(stored(), QByteArray("one\ntwo\n"));
+            journal.end("three"); // as the file says already
+            QCOMPARE(stored(), QByteArray("one\ntwo\n"));
+            QTest::ignoreMessage(QtDebugMsg, QRegularExpression("open fail: RunJournal"));
+            journal.end("one");
+            QCOMPARE(stored(), QByteArray("one\ntwo\n"));
+            journal.end("two");
+            QCOMPARE(stored(), QByteArray("(missing)"));
+        }
+        QVERIFY(!RootFiles::exists(kJournal + ".bak"));
+    }
+};
+
+QTEST_GUILESS_MAIN(TstRunJournal)
+#include "tst_runjournal.moc"
