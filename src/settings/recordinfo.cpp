@@ -16,7 +16,13 @@ constexpr double kMegabyte = 1024 * 1024;
 constexpr double kLongest = 24000; // h: the longest life of a measurement
 const char kFile[] = "/mnt/userfs/config/record.conf";
 const char kKey[] = "PARAMS";
+
+quint32 withWhatIsNeeded(quint32 items)
+{
+    return items | RecordInfo::Frequency10s | (items & RecordInfo::AllHarmonics ? RecordInfo::CommonRms : 0u);
 }
+
+} // namespace
 
 int RecordInfo::m_in_recording = 0;
 QString *RecordInfo::m_record_file = new QString;
@@ -31,14 +37,13 @@ int RecordInfo::m_storage_room = 0;
 
 void RecordInfo::readSelectedParam()
 {
-    m_recordItems = SettingText::toUnsigned(Config::readConfigFile(QLatin1String(kFile), QLatin1String(kKey)));
-    m_recordItems |= Frequency10s;
-    if (m_recordItems & AllHarmonics)
-        m_recordItems |= CommonRms;
+    m_recordItems
+        = withWhatIsNeeded(SettingText::toUnsigned(Config::readConfigFile(QLatin1String(kFile), QLatin1String(kKey))));
 }
 
 void RecordInfo::writeSelectedParam()
 {
+    m_recordItems = withWhatIsNeeded(m_recordItems);
     Config::writeConfigFile(QLatin1String(kFile), QLatin1String(kKey), QString::number(m_recordItems));
 }
 

@@ -41,7 +41,8 @@ public:
     static int m_harm_max_numb; // highest order
     static int m_storage_room; // MB free when checked
 
-    /// The chosen items of record.conf. Frequency10s is always added, CommonRms when any harmonic item is chosen.
+    /// The chosen items of record.conf. Reading and writing always add Frequency10s, and CommonRms when any harmonic
+    /// item is chosen.
     static void readSelectedParam();
     static void writeSelectedParam();
     /// 100 orders at 50 and 60 Hz, 12 at 400 Hz; another nominal frequency changes nothing.

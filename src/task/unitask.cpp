@@ -251,6 +251,9 @@ void UniTask::startRecording()
 
 void UniTask::stopRecording()
 {
+    // The one that waits for its waveform, which may be the one that closed the window.
+    if (m_aggregationFresh && isRunning(&m_recorder))
+        m_recorder.lastAggregation(*m_aggregation);
     end(&m_recorder, Keep::Data);
     clearRecording();
 }

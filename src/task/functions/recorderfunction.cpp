@@ -72,6 +72,12 @@ void RecorderFunction::aggregation(const __datagram_aggregation &record)
     statisticAggregation(record);
 }
 
+void RecorderFunction::lastAggregation(const __datagram_aggregation &record)
+{
+    if (m_statistics.count() > 0)
+        aggregation(record);
+}
+
 void RecorderFunction::statisticAggregation(const __datagram_aggregation &record)
 {
     m_statistics.take(record, m_energy);

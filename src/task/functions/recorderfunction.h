@@ -49,6 +49,8 @@ public:
     /// Begins a folder and files by the user's choice (RecordInfo), which counts until the end, and flicker anew.
     void start() override;
     void aggregation(const __datagram_aggregation &record) override;
+    /// One that came just before the end: it belongs to the interval that has begun, and begins none.
+    void lastAggregation(const __datagram_aggregation &record);
     void wave(const __datagram_wave &record) override { m_time = record.time; }
     void flicker(const __datagram_flicker &record, const FlickerOutput &out) override;
     void transient(const __trans_data &record) override;

@@ -41,6 +41,8 @@ private slots:
     void itRunsForItsHoursByTheProcessorsTime();
     void onlyHarmonicItemsRecordTheRmsGroupAnyway();
     void stoppingWritesAFinalPartialInterval();
+    void theWaveformThatEndsItStillBringsTheLastAggregation();
+    void anAggregationThatWaitsForItsWaveformIsRecorded();
     void aDeclinedRecordingIsDeletedEntirely();
     void aKeptRecordingStaysWhateverIsDiscardedLater();
     void aRecordingThatEndedByItselfIsNoLongerAtDisposal();
@@ -69,16 +71,19 @@ private:
         m_task->initRecording();
         m_task->enableRecord();
     }
+    void feedAggregation(qint64 time)
+    {
+        Clock::advance(time - Clock::msecs());
+        Payload payload = aggregation();
+        payload.set(0, quint32(time)).set(1, quint32(quint64(time) >> 32));
+        m_task->datagramAggregation(payload.bytes());
+    }
     /// Aggregations with their waveforms: from one time to another, in ms from kNow on.
     void feed(qint64 from, qint64 to, int step = 200)
     {
         for (qint64 at = from; at < to; at += step) {
-            const qint64 time = kNow + at;
-            Clock::advance(time - Clock::msecs());
-            Payload payload = aggregation();
-            payload.set(0, quint32(time)).set(1, quint32(quint64(time) >> 32));
-            m_task->datagramAggregation(payload.bytes());
-            m_task->datagramWave(wave(0, time).bytes());
+            feedAggregation(kNow + at);
+            m_task->datagramWave(wave(0, kNow + at).bytes());
         }
     }
     QString path() const { return m_task->recorder().folder().path(); }
@@ -202,6 +207,37 @@ void TstRecording::stoppingWritesAFinalPartialInterval()
     QCOMPARE(blocks(0xA1000020).size(), 1);
     QCOMPARE(valueAt<qint64>(blocks(0xA1000020).first().payload, 0), kNow + 12'800);
     QCOMPARE(blocks(0xA1000019).size(), 1);
+}
+
+void TstRecording::theWaveformThatEndsItStillBringsTheLastAggregation()
+{
+    start();
+    prepare(RecordInfo::FrequencyInterval | RecordInfo::Frequency10s);
+    feed(10'150, 10'350); // datagrams stand askew to the second of the start
+    const QString folder = path();
+    feed(3'600'150, 3'610'150);
+    QVERIFY(m_task->isRecording());
+    feed(3'610'150, 3'610'350); // full intervals, and the end of the window
+    QVERIFY(!m_task->isRecording());
+    QHash<quint32, QList<qint64>> times;
+    for (const ReadBlock &block : storedBlocks(folder + QStringLiteral("Common.pqa2"))) {
+        if (block.payload.size() == 12)
+            times[block.type] << valueAt<qint64>(block.payload, 0) - kNow;
+    }
+    const QList<qint64> expected { 3'600'150, 3'610'150 };
+    QCOMPARE(times.value(0xA1000028), expected);
+    QCOMPARE(times.value(0xA1000029), expected);
+}
+
+void TstRecording::anAggregationThatWaitsForItsWaveformIsRecorded()
+{
+    start();
+    prepare(RecordInfo::CommonRms);
+    feed(10'000, 13'000);
+    feedAggregation(kNow + 13'000);
+    m_task->stopRecordTask();
+    QCOMPARE(blocks(0xA1000020).size(), 1);
+    QCOMPARE(valueAt<qint64>(blocks(0xA1000020).first().payload, 0), kNow + 13'000);
 }
 
 void TstRecording::aDeclinedRecordingIsDeletedEntirely()

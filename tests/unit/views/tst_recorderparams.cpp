@@ -60,6 +60,7 @@ private slots:
     void f4StoresAndF5Drops();
     void tenSecondFrequencyIsAlwaysStored();
     void at400HzHighOrdersAndFlickerAreGreyAndStayAsTheyWere();
+    void harmonicsThatStayGreyBringTheRmsGroup();
     void cursorWalksThroughLinesAndColumns();
     void captionsOfTheLines();
     void documentTellsTheBoxes();
@@ -200,6 +201,18 @@ void TstRecorderParams::at400HzHighOrdersAndFlickerAreGreyAndStayAsTheyWere()
     press(setupOf(*page), F2);
     QVERIFY(box(paramOf(*page), "u_harmonics_high")->isChecked());
     QVERIFY(box(paramOf(*page), "flicker")->isEnabled());
+}
+
+void TstRecorderParams::harmonicsThatStayGreyBringTheRmsGroup()
+{
+    RootFiles::write(kRecordFile, "PARAMS=2053\n"); // 0x805: U harmonics from 51 on, r.m.s., frequency of 10 s
+    setUpMeasurement(1, 3);
+    auto page = openFamily(false);
+    press(setupOf(*page), F2);
+    press(paramOf(*page), Enter);
+    QVERIFY(!box(paramOf(*page), "rms")->isChecked());
+    press(paramOf(*page), F4);
+    QCOMPARE(RecordInfo::m_recordItems, 0x805u);
 }
 
 void TstRecorderParams::cursorWalksThroughLinesAndColumns()
