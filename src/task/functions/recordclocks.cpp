@@ -46,6 +46,7 @@ void RecordWatchdog::begin(int intervalSeconds)
 
 void RecordWatchdog::restart()
 {
+    m_runs = true;
     m_since = m_elapsed();
     m_inRow = 0;
 }

@@ -55,16 +55,17 @@ public:
     explicit RecordWatchdog(std::function<qint64()> elapsed = &Clock::elapsed) : m_elapsed(std::move(elapsed)) { }
 
     void begin(int intervalSeconds);
-    /// An interval has ended.
+    /// An interval has ended; it runs from now on, also behind an interruption.
     void restart();
-    void stop() { m_timeout = 0; }
-    bool isRunning() const { return m_timeout > 0; }
-    /// To be asked more often than it can fire. Interrupted, which is one more loss, ends it.
+    void stop() { m_runs = false; }
+    bool isRunning() const { return m_runs; }
+    /// To be asked more often than it can fire. Interrupted, which is one more loss, stops it.
     Sign check();
 
 private:
     std::function<qint64()> m_elapsed;
-    qint64 m_timeout = 0; // ms; 0: stopped
+    bool m_runs = false;
+    qint64 m_timeout = 0; // ms
     qint64 m_since = 0;
     int m_inRow = 0;
 };

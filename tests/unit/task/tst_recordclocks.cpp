@@ -188,6 +188,9 @@ void TstRecordClocks::theTenthLossInARowIsAnInterruption()
     QCOMPARE(next(), RecordWatchdog::Interrupted);
     QVERIFY(!watchdog.isRunning());
     QCOMPARE(next(), RecordWatchdog::Nothing);
+    watchdog.restart(); // an interval ended after all
+    QVERIFY(watchdog.isRunning());
+    QCOMPARE(next(), RecordWatchdog::Lost);
 }
 
 void TstRecordClocks::waitingBlocksAreStoredInPiecesAndInOrder()

@@ -285,10 +285,13 @@ void TstRecorder::tenLossesInARowAreAnInterruption()
     for (int i = 0; i < 10; ++i)
         expected << "Lost some data!";
     QCOMPARE(run.log(), expected << "Communication Interrupted!");
-    // The recording goes on all the same.
+    // The recording goes on all the same, and what is lost later is noted again.
     RecordInfo::m_recordItems = RecordInfo::Frequency10s;
     run.take(60, 200);
     QCOMPARE(run.blocks(0xA1000028).size(), 1);
+    Clock::advance(3000);
+    run.recorder().beat();
+    QCOMPARE(run.log(), expected << "Lost some data!");
     run.recorder().stop(Keep::Data);
 }
 
