@@ -86,7 +86,7 @@ void addVoltage(MonitorReadout &readout, const MonitorView &view, int phase)
         allowed(ready, data.voltPartialRatio[phase]),
         { MonitorReadout::tr("Min"), volt(ready, data.voltMin[phase]) },
         { share(100), volt(ready, data.voltPercentileAll[phase]) },
-        limit(ready, data.voltWholeRatio[phase], std::min(band.wholeUpper, band.wholeLower)),
+        limit(ready, data.voltWholeRatio[phase], MonitorValues::bandWhole(band)),
     };
 }
 
@@ -105,7 +105,7 @@ void addHarmonics(MonitorReadout &readout, const MonitorView &view, int phase)
         allowed(ready, bar.allowed),
         {},
         {},
-        limit(ready, bar.limit, view.limit.harmonicWhole[0]),
+        limit(ready, bar.limit, MonitorValues::harmonicWhole(view.limit)),
     };
 }
 
@@ -166,7 +166,7 @@ void addFrequency(MonitorReadout &readout, const MonitorView &view, int)
         allowed(ready, data.freqPartialRatio),
         { MonitorReadout::tr("Min"), hertz(ready, data.freqMin) },
         { share(100), hertz(ready, data.freqPercentileAll) },
-        limit(ready, data.freqWholeRatio, std::min(band.wholeUpper, band.wholeLower)),
+        limit(ready, data.freqWholeRatio, MonitorValues::bandWhole(band)),
     };
 }
 
@@ -231,7 +231,7 @@ MonitorReadout MonitorReadout::ofHarmonic(const MonitorView &view, int phase, in
     const __monitor_data &data = view.data;
     const bool ready = data.voltReady > 0;
     const float partial = view.limit.harmonicPartial[row];
-    const float whole = view.limit.harmonicWhole[row];
+    const float whole = MonitorValues::harmonicWhole(view.limit, row);
     MonitorReadout readout;
     readout.verdict = MonitorValues::harmonicVerdict(view, phase, row);
     readout.quantity = harmonicName(row);

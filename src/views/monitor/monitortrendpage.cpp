@@ -43,7 +43,7 @@ const Quantity kVoltage {
     10,
     0,
     [] { return m_settingConfig_g.units().factorVolt; },
-    [] { return float(m_settingConfig_g.getNomVolt()); },
+    [] { return m_settingConfig_g.getRealNominalVolt(); },
     [](float value) { return F_to_Str::number_V(value) + m_settingConfig_g.units().volt; },
     "___._V",
 };

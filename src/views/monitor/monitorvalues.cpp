@@ -28,16 +28,17 @@ ComplianceBar worse(const ComplianceBar &a, const ComplianceBar &b)
     return { worse(a.limit, b.limit), worse(a.allowed, b.allowed) };
 }
 
-ComplianceBar harmonicBar(const __monitor_data &data, int phase, int row)
+ComplianceBar harmonicBar(const MonitorView &view, int phase, int row)
 {
-    return { data.harmWholeRatio[phase][row], data.harmPartialRatio[phase][row] };
+    const bool applied = harmonicWhole(view.limit, row) < kLimitNotApplied;
+    return { applied ? view.data.harmWholeRatio[phase][row] : 0.0f, view.data.harmPartialRatio[phase][row] };
 }
 
-ComplianceBar worstHarmonicBar(const __monitor_data &data, int phase)
+ComplianceBar worstHarmonicBar(const MonitorView &view, int phase)
 {
     ComplianceBar worst;
     for (int row = 0; row < kMonitorHarmonics; ++row)
-        worst = worse(worst, harmonicBar(data, phase, row));
+        worst = worse(worst, harmonicBar(view, phase, row));
     return worst;
 }
 
@@ -143,22 +144,38 @@ std::array<ComplianceBar, MonitorHistogram::kBars> histogram(const MonitorView &
     std::array<ComplianceBar, MonitorHistogram::kBars> bars;
     for (int phase = 0; phase < kMonitorPhases; ++phase) {
         bars[std::size_t(MonitorBarVoltage + phase)] = { data.voltWholeRatio[phase], data.voltPartialRatio[phase] };
-        bars[std::size_t(MonitorBarHarmonics + phase)] = worstHarmonicBar(data, phase);
+        bars[std::size_t(MonitorBarHarmonics + phase)] = worstHarmonicBar(view, phase);
         bars[std::size_t(MonitorBarFlicker + phase)] = flickerBar(view, phase);
     }
     bars[MonitorBarDirs] = eventBar(view);
     bars[MonitorBarUnbalance] = { data.unbalWholeRatio, data.unbalPartialRatio };
-    bars[MonitorBarFrequency] = { data.freqWholeRatio, data.freqPartialRatio };
+    bars[MonitorBarFrequency]
+        = { bandWhole(view.limit.frequency) < kLimitNotApplied ? data.freqWholeRatio : 0.0f, data.freqPartialRatio };
     bars[MonitorBarSignals] = signalBar(view);
     return bars;
 }
 
-std::array<ComplianceBar, MonitorHarmHisto::kBars> harmonics(const __monitor_data &data, int phase)
+std::array<ComplianceBar, MonitorHarmHisto::kBars> harmonics(const MonitorView &view, int phase)
 {
     std::array<ComplianceBar, MonitorHarmHisto::kBars> bars;
     for (int row = 0; row < MonitorHarmHisto::kBars; ++row)
-        bars[std::size_t(row)] = harmonicBar(data, phase, row);
+        bars[std::size_t(row)] = harmonicBar(view, phase, row);
     return bars;
+}
+
+float harmonicWhole(const monitor_limit &limit, int row)
+{
+    return limit.harmonicWhole[row] <= limit.harmonicWhole[0] ? limit.harmonicWhole[row] : kLimitNotApplied;
+}
+
+float harmonicWhole(const monitor_limit &limit)
+{
+    return *std::min_element(limit.harmonicWhole, limit.harmonicWhole + kMonitorHarmonics);
+}
+
+float bandWhole(const LimitBand<float> &band)
+{
+    return std::min(band.wholeUpper, band.wholeLower);
 }
 
 Verdict verdict(const MonitorView &view, int bar)

@@ -51,7 +51,15 @@ int histogramFlags(const ChannelSet &channels);
 /// The bars of the histogram. Of several values behind one bar the worst counts.
 std::array<ComplianceBar, MonitorHistogram::kBars> histogram(const MonitorView &view);
 /// The bars of a phase's harmonics.
-std::array<ComplianceBar, MonitorHarmHisto::kBars> harmonics(const __monitor_data &data, int phase);
+std::array<ComplianceBar, MonitorHarmHisto::kBars> harmonics(const MonitorView &view, int phase);
+
+/// The limit of a row for all the time; kLimitNotApplied where the results go by none. The one of an order counts where
+/// it is no larger than that of the distortion.
+float harmonicWhole(const monitor_limit &limit, int row);
+/// The smallest of all rows.
+float harmonicWhole(const monitor_limit &limit);
+/// The narrower side of a band for all the time.
+float bandWhole(const LimitBand<float> &band);
 
 /// Whether any value behind a bar was beyond its limits since the run began. The results of voltage and frequency are
 /// not asked: they compare volts and hertz with percents (docs/kept.md), and fail where the ratios show nothing.

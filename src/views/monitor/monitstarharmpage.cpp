@@ -61,7 +61,7 @@ void MonitStarHarmPage::setPhase(int phase)
 void MonitStarHarmPage::showBars(const MonitorView &view)
 {
     m_histogram->setCursorIndex(cursor());
-    m_histogram->showHarmHistogram(MonitorValues::harmonics(view.data, m_phase).data());
+    m_histogram->showHarmHistogram(MonitorValues::harmonics(view, m_phase).data());
 }
 
 MonitorReadout MonitStarHarmPage::readout(const MonitorView &view) const

@@ -463,13 +463,15 @@ void TstMonitorFunction::nextRunBeginsWithEmptyRecords()
 {
     Run run;
     run.begin();
-    run.pass(650, supply(200, 51).get());
+    run.pass(655, supply(200, 51).get());
     run.end();
     run.begin();
     QCOMPARE(run.results().voltReady, 0);
     QCOMPARE(run.results().freqPartialOk, 1);
     QVERIFY(run.trend().row[4].isEmpty());
-    run.pass(599, supply(230, 50).get()); // ticks and sums begin anew, too
+    run.pass(9, supply(230, 50).get()); // ticks and sums begin anew, too
+    QCOMPARE(run.results().freqReady, 0);
+    run.pass(590, supply(230, 50).get());
     QVERIFY(run.trend().row[4].isEmpty());
     run.pass(1, supply(230, 50).get());
     QCOMPARE(run.trend().row[4], QList<float>({ 230 }));

@@ -58,6 +58,8 @@ private slots:
     void longTermFlickerRatiosAreQuotients();
     void longTermFlickerPassesAndFailsAtItsLimit();
     void signalPercentilesAreThoseOfTheTenMinutes();
+    void phasesAreJudgedApart();
+    void nominalValuesAreThoseOfTheSetUp();
     void anyLimitsAndValuesAreJudged();
 };
 
@@ -445,6 +447,40 @@ void TstMonitorJudge::signalPercentilesAreThoseOfTheTenMinutes()
     sums.add(*record);
     j.judge.signal(sums);
     QCOMPARE(j.data.signal1PercentileAll[0], 3.0f); // nothing of the ten minutes before
+}
+
+void TstMonitorJudge::phasesAreJudgedApart()
+{
+    Judged j;
+    const float volts[3] = { 230, 225, 240 }, plts[3] = { 0.5f, 1.5f, 0.25f };
+    for (int phase = 0; phase < 3; ++phase) {
+        j.judge.voltage(phase, volts[phase], 0);
+        j.judge.plt(phase, plts[phase], 0);
+    }
+    for (int phase = 0; phase < 3; ++phase) {
+        QCOMPARE(j.data.voltMax[phase], volts[phase]);
+        QCOMPARE(j.data.voltMin[phase], volts[phase]);
+        QCOMPARE(j.data.voltPercentileNep[phase], volts[phase]);
+        QCOMPARE(j.data.voltPercentileAll[phase], volts[phase]);
+        QCOMPARE(j.data.voltWholeOk[phase], phase == 0 ? 1 : 0);
+        QCOMPARE(j.data.pltPercentileNep[phase], plts[phase]);
+        QCOMPARE(j.data.pltPercentileAll[phase], plts[phase]);
+        QCOMPARE(j.data.pltOk[phase], phase == 1 ? 0 : 1);
+    }
+}
+
+void TstMonitorJudge::nominalValuesAreThoseOfTheSetUp()
+{
+    MonitorSetup setup = european();
+    setup.nominalVolt = 20000; // behind a transformer
+    setup.nominalFrequency = 60;
+    Judged j(setup);
+    j.judge.voltage(0, 21000, 0); // half of ten percent
+    QCOMPARE(j.data.voltPartialRatio[0], 50.0f);
+    j.judge.frequency(60.3f, 0); // half of one percent
+    QVERIFY(std::fabs(j.data.freqPartialRatio - 50.0f) < 0.01f);
+    j.judge.frequency(75, 0);
+    QCOMPARE(j.data.freqMax, 70.0f);
 }
 
 void TstMonitorJudge::anyLimitsAndValuesAreJudged()

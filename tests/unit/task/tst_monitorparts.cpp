@@ -1,7 +1,9 @@
 #include "device/datatypes.h"
 #include "monitorcase.h"
+#include "settings/config_data.h"
 #include "task/functions/sortedvalues.h"
 
+#include <QScopeGuard>
 #include <QTest>
 
 #include <algorithm>
@@ -41,6 +43,7 @@ private slots:
     void unbalanceIsTheRootOfTheMeanSquare();
     void meansOfNoAggregationAreNoNumbers();
     void signalsOfALongHoldStayBounded();
+    void setUpOfARunIsThatOfTheInstrument();
 };
 
 void TstMonitorParts::orderedListIsTheSortedListOfItsValues()
@@ -316,6 +319,26 @@ void TstMonitorParts::signalsOfALongHoldStayBounded()
     QVERIFY(sums.sortedSignal(1, 2).empty());
     sums.clearTenMinutes();
     QVERIFY(sums.sortedSignal(0, 0).empty());
+}
+
+void TstMonitorParts::setUpOfARunIsThatOfTheInstrument()
+{
+    const int selected = m_settingConfig_g.getNomFreqSelect();
+    const auto restore = qScopeGuard([selected] {
+        m_settingConfig_g.setRatioVFenzi(1);
+        m_settingConfig_g.setNomFreq(selected);
+        m_settingConfig_g.setJoinMode(1);
+        m_limits_g.changeActiveLimits(QStringLiteral("EN50160"));
+    });
+    m_settingConfig_g.setRatioVFenzi(3); // the transformer's ratio
+    m_settingConfig_g.setNomFreq(2);
+    m_settingConfig_g.setJoinMode(5);
+    m_limits_g.changeActiveLimits(QStringLiteral("GOST32144"));
+    const MonitorSetup setup = currentMonitorSetup();
+    QCOMPARE(setup.nominalVolt, 3.0 * m_settingConfig_g.getNomVolt());
+    QCOMPARE(setup.nominalFrequency, 60.0);
+    QCOMPARE(setup.phases, 2);
+    QCOMPARE(setup.limits.harmonicWhole[0], 12.0f); // the European set has 8
 }
 
 QTEST_GUILESS_MAIN(TstMonitorParts)

@@ -1,13 +1,12 @@
-#include "settings/monitorinfo.h"
-#include "storedblocks.h"
-#include "unit/storage/rootfiles.h"
+#include "monitorrun.h"
 #include "unit/wildfloats.h"
 #include "unitaskcase.h"
 
-#include <QDir>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
+
+using MonitorCase::Run;
 
 namespace {
 
@@ -31,6 +30,7 @@ private slots:
     void onHoldNoSecondsPassAndTheSumsGoOn();
     void fileIsWholeWhenTheEndIsHeardOf();
     void savedRunIsEndedOnce();
+    void transientsAreStoredAsTheyCome();
     void plannedRunThatIsGivenUpEndsItsFile();
     void endOfTheFileHoldsAllOfTenThousandEvents();
     void anyPayloadInAnyWiringLeavesTheTrendsBounded();
@@ -56,19 +56,6 @@ private:
         for (int i = 0; i < kValuesOfTwoHours; ++i)
             live().monitorTrend.append(MonitorTrendVoltage, 230);
     }
-    static QList<quint32> kinds()
-    {
-        const QDir storage(Target::path(QStringLiteral("/mnt/storage")));
-        const QStringList folders = storage.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-        QList<quint32> all;
-        QFile file(storage.filePath(folders.value(0) + QStringLiteral("/Monitor.pqa2")));
-        if (file.open(QIODevice::ReadOnly)) {
-            for (const ReadBlock &block : readBlocks(file.readAll()).mid(3))
-                all << block.type;
-        }
-        return all;
-    }
-
     std::unique_ptr<UniTask> m_task;
 };
 
@@ -119,9 +106,9 @@ void TstMonitorTask::enoughValuesEndTheRun()
     fillTrend();
     pass(1);
     QVERIFY(m_task->isTaskStoped());
-    QCOMPARE(kinds(), QList<quint32>({ 0xA1000018, 0xA1000019 }));
+    QCOMPARE(Run::kinds(), QList<quint32>({ 0xA1000018, 0xA1000019 }));
     pass(30); // and nothing more
-    QCOMPARE(kinds().size(), 2);
+    QCOMPARE(Run::kinds().size(), 2);
 }
 
 void TstMonitorTask::taskMayBeDroppedWhenItHasEnough()
@@ -153,7 +140,7 @@ void TstMonitorTask::fileIsWholeWhenTheEndIsHeardOf()
 {
     start();
     QList<quint32> atTheEnd;
-    connect(m_task.get(), QOverload<>::of(&AbstractTask::taskStoped), this, [&] { atTheEnd = kinds(); });
+    connect(m_task.get(), QOverload<>::of(&AbstractTask::taskStoped), this, [&] { atTheEnd = Run::kinds(); });
     m_task->stopTask();
     QCOMPARE(atTheEnd, QList<quint32>({ 0xA1000018, 0xA1000019 }));
 }
@@ -166,17 +153,34 @@ void TstMonitorTask::savedRunIsEndedOnce()
         m_task->save(keep); // the monitor's data stays, whatever is asked
         m_task->stopTask();
         m_task->save(keep);
-        QCOMPARE(kinds(), QList<quint32>({ 0xA1000018, 0xA1000019 }));
+        QCOMPARE(Run::kinds(), QList<quint32>({ 0xA1000018, 0xA1000019 }));
     }
+}
+
+void TstMonitorTask::transientsAreStoredAsTheyCome()
+{
+    start();
+    m_task->datagramAggregation(aggregation(-50.1f).bytes());
+    m_task->datagramWave(wave((2u << 24) | 2000).bytes());
+    m_task->datagramWave(wave((5u << 24) | 2000).bytes()); // of no channel
+    QCOMPARE(Run::kinds(), QList<quint32>({ 0xA1000018, 0xA1000025 }));
+    const QByteArray payload = Run::blocks().last().payload; // time, frequency, position, 600 samples
+    QCOMPARE(payload.size(), 8 + 4 + 4 + 1200);
+    float frequency = 0;
+    quint32 position = 0;
+    std::memcpy(&frequency, payload.constData() + 8, sizeof frequency);
+    std::memcpy(&position, payload.constData() + 12, sizeof position);
+    QCOMPARE(frequency, 50.1f);
+    QCOMPARE(position, (2u << 24) | 301u);
 }
 
 void TstMonitorTask::plannedRunThatIsGivenUpEndsItsFile()
 {
     m_task->initUniFunction(AbstractTask::UniMonitor);
     m_task->preStartTask();
-    QVERIFY(!kinds().contains(0xA1000018));
+    QVERIFY(!Run::kinds().contains(0xA1000018));
     m_task->stopTask();
-    QCOMPARE(kinds(), QList<quint32>({ 0xA1000019 }));
+    QCOMPARE(Run::kinds(), QList<quint32>({ 0xA1000019 }));
 }
 
 void TstMonitorTask::endOfTheFileHoldsAllOfTenThousandEvents()
@@ -185,8 +189,8 @@ void TstMonitorTask::endOfTheFileHoldsAllOfTenThousandEvents()
     for (int i = 0; i < 10001; ++i)
         liveData().events().append({});
     m_task->stopTask();
-    QCOMPARE(kinds().count(0xA1010080), 10001);
-    QCOMPARE(kinds().last(), 0xA1000019u);
+    QCOMPARE(Run::kinds().count(0xA1010080), 10001);
+    QCOMPARE(Run::kinds().last(), 0xA1000019u);
 }
 
 void TstMonitorTask::anyPayloadInAnyWiringLeavesTheTrendsBounded()
@@ -213,7 +217,7 @@ void TstMonitorTask::anyPayloadInAnyWiringLeavesTheTrendsBounded()
             QVERIFY(row.size() <= 20);
         QCOMPARE(live().monitorTrend.row[MonitorTrendVoltage].size(), 20);
         m_task->stopTask();
-        QVERIFY(kinds().contains(0xA1010006));
+        QVERIFY(Run::kinds().contains(0xA1010006));
         RootFiles::clean();
     }
     m_settingConfig_g.setJoinMode(1);

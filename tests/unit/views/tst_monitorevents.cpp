@@ -12,6 +12,7 @@
 #include "widgets/controls/softkeybuttons.h"
 
 #include <QRandomGenerator>
+#include <QScopeGuard>
 #include <QSet>
 #include <QSignalSpy>
 #include <QTimer>
@@ -50,6 +51,7 @@ private slots:
     void axisReads21hTo3hAtTheFinestZoom();
     void zoomKeysStepThroughTheRows();
     void aFlickerValueCoversTwoHours();
+    void widestZoomKeepsADipBehindATransformer();
     void heldTrendsStay();
 
     // all
@@ -345,6 +347,19 @@ void TstMonitorEvents::aFlickerValueCoversTwoHours()
     }
     // The plot ends at 601 - 520 + 506; twice 12 ten-minute steps of four points each.
     QCOMPARE(first, 587 - 96);
+}
+
+void TstMonitorEvents::widestZoomKeepsADipBehindATransformer()
+{
+    const auto restore = qScopeGuard([] { m_settingConfig_g.setRatioVFenzi(1); });
+    m_settingConfig_g.setRatioVFenzi(3); // 690 V are nominal
+    MonitorInfo::m_zoom_index = 0;
+    for (int i = 0; i < 20; ++i)
+        live().monitorTrend.append(MonitorTrendVoltage, i % 2 ? 700 : 600);
+    m_page->updateDisplay(nullptr);
+    // Ten points, all of them of 600 V: the lower end of the scale.
+    const QImage picture = chart(page<MonitStarVrmTrendPage>())->grab().toImage();
+    QCOMPARE(picture.pixel(580, 100), PhaseColor::colorA().rgb());
 }
 
 void TstMonitorEvents::heldTrendsStay()

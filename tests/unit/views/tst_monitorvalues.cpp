@@ -47,6 +47,7 @@ private slots:
     void aSignalLimitThatIsNotAppliedHasNoBar();
     void whatIsNoNumberDrawsNoBar();
     void harmonicBarsAreThoseOfThePhase();
+    void aLimitThatIsNotAppliedHasNoWidePart();
 
     // verdicts
     void nothingIsJudgedBeforeTheFirstValue();
@@ -136,6 +137,7 @@ void TstMonitorValues::harmonicsBarIsTheWorstOfAllRows()
 {
     m_data.harmPartialRatio[1][0] = 30;
     m_data.harmPartialRatio[1][24] = 120;
+    m_limit.harmonicWhole[7] = 0.75f;
     m_data.harmWholeRatio[1][7] = 12;
     const auto bars = MonitorValues::histogram(view());
     QCOMPARE(bars[4].allowed, 120.0f);
@@ -211,11 +213,36 @@ void TstMonitorValues::harmonicBarsAreThoseOfThePhase()
     m_data.harmPartialRatio[2][0] = 10;
     m_data.harmWholeRatio[2][0] = 11;
     m_data.harmPartialRatio[2][24] = 12;
-    const auto bars = MonitorValues::harmonics(m_data, 2);
+    const auto bars = MonitorValues::harmonics(view(), 2);
     QCOMPARE(bars[0].allowed, 10.0f);
     QCOMPARE(bars[0].limit, 11.0f);
     QCOMPARE(bars[24].allowed, 12.0f);
-    QCOMPARE(MonitorValues::harmonics(m_data, 1)[0].allowed, 0.0f);
+    QCOMPARE(MonitorValues::harmonics(view(), 1)[0].allowed, 0.0f);
+}
+
+void TstMonitorValues::aLimitThatIsNotAppliedHasNoWidePart()
+{
+    for (int row = 0; row < kMonitorHarmonics; ++row) {
+        m_limit.harmonicWhole[row] = 100.1f;
+        m_data.harmWholeRatio[0][row] = 7; // of 100.1 percent, as the record has it
+    }
+    m_limit.frequency.wholeUpper = m_limit.frequency.wholeLower = 100.1f;
+    m_data.freqWholeRatio = 5;
+    m_data.voltReady = 1;
+    QCOMPARE(MonitorValues::histogram(view())[MonitorBarHarmonics].limit, 0.0f);
+    QCOMPARE(MonitorValues::histogram(view())[MonitorBarFrequency].limit, 0.0f);
+    QCOMPARE(lines(MonitorReadout::ofBar(view(), MonitorBarHarmonics)).last(), QStringLiteral("Limit -"));
+    // One order with a limit is enough for the bar, and it alone has one of its own.
+    m_limit.harmonicWhole[4] = 9;
+    m_data.harmWholeRatio[0][4] = 6;
+    QCOMPARE(MonitorValues::histogram(view())[MonitorBarHarmonics].limit, 6.0f);
+    QCOMPARE(lines(MonitorReadout::ofBar(view(), MonitorBarHarmonics)).last(), QStringLiteral("Limit 6.0%"));
+    QCOMPARE(lines(MonitorReadout::ofHarmonic(view(), 0, 4)).last(), QStringLiteral("Limit 6.0%"));
+    QCOMPARE(MonitorValues::harmonics(view(), 0)[3].limit, 0.0f);
+    // The record leaves out an order that may go beyond the distortion.
+    m_limit.harmonicWhole[0] = 8;
+    m_data.harmWholeRatio[0][4] = 0;
+    QCOMPARE(lines(MonitorReadout::ofHarmonic(view(), 0, 4)).last(), QStringLiteral("Limit -"));
 }
 
 void TstMonitorValues::nothingIsJudgedBeforeTheFirstValue()
