@@ -142,6 +142,7 @@ void TstMonitorFunction::tenMinutesGiveTheirResultsAndRefreshThePages()
     Run run;
     run.begin();
     const auto record = distortedSupply();
+    record->spectrum[2].voltage[24].magnitude = 6; // order 25, the last one that is judged
     run.pass(599, record.get());
     QCOMPARE(run.results().voltReady, 0);
     QCOMPARE(run.refreshed, 0);
@@ -152,6 +153,8 @@ void TstMonitorFunction::tenMinutesGiveTheirResultsAndRefreshThePages()
     QCOMPARE(results.voltMax[1], 232.0f);
     QVERIFY(std::fabs(results.harmPartialRatio[2][0] - 37.5f) < 1e-3f); // 3 of 8 percent
     QVERIFY(std::fabs(results.harmPartialRatio[0][4] - 25.0f) < 1e-3f); // 1.5 of 6 percent
+    QVERIFY(std::fabs(results.harmPartialRatio[2][24] - 200.0f) < 1e-3f); // 3 of 1.5 percent
+    QCOMPARE(results.harmOk[2][24], 0);
     QCOMPARE(results.unbalPartialRatio, 75.0f);
     QCOMPARE(results.signal1PercentileAll[1], 0.01f);
     QCOMPARE(run.trend().row[5], QList<float>({ 232 }));

@@ -59,7 +59,9 @@ private slots:
     void longTermFlickerPassesAndFailsAtItsLimit();
     void signalPercentilesAreThoseOfTheTenMinutes();
     void phasesAreJudgedApart();
+    void eventsNameTheirPhase();
     void nominalValuesAreThoseOfTheSetUp();
+    void percentilesGoByTheShareOfTheLimitSet();
     void anyLimitsAndValuesAreJudged();
 };
 
@@ -456,6 +458,7 @@ void TstMonitorJudge::phasesAreJudgedApart()
     for (int phase = 0; phase < 3; ++phase) {
         j.judge.voltage(phase, volts[phase], 0);
         j.judge.plt(phase, plts[phase], 0);
+        j.judge.harmonic(phase, 4, phase == 0 ? 7.0f : 5.0f, 0); // 6 percent are allowed
     }
     for (int phase = 0; phase < 3; ++phase) {
         QCOMPARE(j.data.voltMax[phase], volts[phase]);
@@ -466,7 +469,22 @@ void TstMonitorJudge::phasesAreJudgedApart()
         QCOMPARE(j.data.pltPercentileNep[phase], plts[phase]);
         QCOMPARE(j.data.pltPercentileAll[phase], plts[phase]);
         QCOMPARE(j.data.pltOk[phase], phase == 1 ? 0 : 1);
+        QCOMPARE(j.data.harmOk[phase][4], phase == 0 ? 0 : 1);
     }
+}
+
+void TstMonitorJudge::eventsNameTheirPhase()
+{
+    Judged j;
+    j.judge.voltage(1, 260, 0);
+    j.judge.harmonic(2, 4, 7, 0);
+    j.judge.plt(1, 2, 0);
+    j.judge.unbalance(3, 0);
+    QList<QPair<int, int>> found;
+    for (const PQAEventItem &event : j.events.getAllEvents())
+        found << qMakePair(int(event.type), int(event.channel));
+    const QList<QPair<int, int>> wanted { { EventRms, 1 }, { 4, 2 }, { EventFlicker, 1 }, { EventUnbalance, 0 } };
+    QCOMPARE(found, wanted);
 }
 
 void TstMonitorJudge::nominalValuesAreThoseOfTheSetUp()
@@ -481,6 +499,23 @@ void TstMonitorJudge::nominalValuesAreThoseOfTheSetUp()
     QVERIFY(std::fabs(j.data.freqPartialRatio - 50.0f) < 0.01f);
     j.judge.frequency(75, 0);
     QCOMPARE(j.data.freqMax, 70.0f);
+}
+
+void TstMonitorJudge::percentilesGoByTheShareOfTheLimitSet()
+{
+    MonitorSetup setup = european();
+    setup.limits.frequency.nep = 50;
+    setup.limits.voltage.nep = 20;
+    setup.limits.plt.nep = 80;
+    Judged j(setup);
+    for (int i = 10; i >= 1; --i) {
+        j.judge.frequency(45.0f + float(i), 0);
+        j.judge.voltage(0, 220.0f + float(i), 0);
+        j.judge.plt(0, 0.5f * float(i), 0);
+    }
+    QCOMPARE(j.data.freqPercentileNep, 50.0f); // the fifth of ten
+    QCOMPARE(j.data.voltPercentileNep[0], 222.0f);
+    QCOMPARE(j.data.pltPercentileNep[0], 4.0f);
 }
 
 void TstMonitorJudge::anyLimitsAndValuesAreJudged()
