@@ -14,7 +14,10 @@ bool Pqa2Device::open(const QString &path)
     if (OrdinaryFile::isSomethingElse(m_file.fileName()))
         return false;
     // Unbuffered, so that blocks are in the file and links in order when a call returns, and a failure is known there.
-    return m_file.open(QIODevice::ReadWrite | QIODevice::Truncate | QIODevice::Unbuffered);
+    if (!m_file.open(QIODevice::ReadWrite | QIODevice::Truncate | QIODevice::Unbuffered))
+        return false;
+    DiskWorker::instance().sync(); // the name: writing out a file later need not bring it to the card
+    return true;
 }
 
 void Pqa2Device::close()

@@ -13,7 +13,8 @@ public:
     Pqa2Device();
     virtual ~Pqa2Device() = default;
 
-    /// Opens the file of a board's path for reading and writing and truncates it.
+    /// Opens the file of a board's path for reading and writing and truncates it. Has the system write out
+    /// its name, without waiting for it.
     virtual bool open(const QString &path);
     /// Closes the file and has the system write everything out, without waiting for it.
     virtual void close();
