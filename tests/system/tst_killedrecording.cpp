@@ -5,11 +5,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRandomGenerator>
 
 using namespace SystemTest;
 
 namespace {
 
+const QString kJournal = QStringLiteral(".running");
 constexpr int kWaitMs = 60000; // for what takes ten seconds on a quiet machine
 
 /// Blocks of a file up to the first thing that is wrong, and whether that is nothing but a missing last link.
@@ -40,20 +42,40 @@ class TstKilledRecording : public QObject
     Q_OBJECT
 private slots:
     void everyFinishedIntervalStaysAndTheNextStartKnowsTheRecording();
+    void killedAtAnyMomentAgainAndAgainItSaysOnceWhatWasCut();
 
 private:
+    static QStringList startKeys();
+    /// Names of the index, in order.
+    QStringList listed() const
+    {
+        QStringList names;
+        QFile file(storage().filePath(QStringLiteral(".infomation")));
+        if (file.open(QIODevice::ReadOnly)) {
+            for (const QByteArray &line : file.readAll().split('\n'))
+                names << QString::fromLatin1(line.left(line.indexOf(',')));
+        }
+        names.removeAll(QString());
+        names.sort();
+        return names;
+    }
+    void checkFiles(const QString &folder);
     QDir storage() const { return QDir(m_desk.path(QStringLiteral("/mnt/storage/"))); }
     QStringList folders() const { return storage().entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name); }
 
     Instrument m_desk;
 };
 
+QStringList TstKilledRecording::startKeys()
+{
+    const QStringList keys = QStringLiteral("Down Down Right Enter").split(' '); // to "Logger"
+    return keys + QStringLiteral("F2 F1 F4 Down Down Left Left Left F5").split(' '); // everything, every second
+}
+
 void TstKilledRecording::everyFinishedIntervalStaysAndTheNextStartKnowsTheRecording()
 {
-    QStringList keys = QStringLiteral("Down Down Right Enter").split(' '); // to "Logger"
-    keys << QStringLiteral("F2 F1 F4 Down Down Left Left Left F5").split(' '); // everything, every second
     VERIFY_DESK(m_desk.start(), m_desk);
-    VERIFY_DESK(m_desk.press(keys), m_desk);
+    VERIFY_DESK(m_desk.press(startKeys()), m_desk);
     QTRY_COMPARE_WITH_TIMEOUT(folders().size(), 1, kWaitMs);
     const QString folder = storage().filePath(folders().first()) + QLatin1Char('/');
     const QString last = folder + QStringLiteral("I inHarmonic(50-99).pqa2"); // the last to be written of an interval
@@ -82,6 +104,55 @@ void TstKilledRecording::everyFinishedIntervalStaysAndTheNextStartKnowsTheRecord
     };
     QTRY_COMPARE_WITH_TIMEOUT(entries(), 1, kWaitMs);
     QCOMPARE(folders().size(), 1);
+}
+
+/// Every file opens and holds whole intervals, all but the last one in each.
+void TstKilledRecording::checkFiles(const QString &folder)
+{
+    const QDir files(storage().filePath(folder));
+    const int intervals = readFile(files.filePath(QStringLiteral("Common.pqa2"))).blocks.value(0xA1000020);
+    for (const QString &name : files.entryList(QDir::Files)) {
+        if (QFileInfo(files.filePath(name)).size() < 24)
+            continue; // killed before its head was written
+        const Found found = readFile(files.filePath(name));
+        QVERIFY2(found.isReadable, qPrintable(folder + QLatin1Char('/') + name));
+        if (name == QLatin1String("I inHarmonic(50-99).pqa2"))
+            QVERIFY(intervals - found.blocks.value(0xA1000037) <= 1);
+    }
+}
+
+void TstKilledRecording::killedAtAnyMomentAgainAndAgainItSaysOnceWhatWasCut()
+{
+    // More of them by hand: QUVERA_KILLS=200.
+    const int rounds = qMax(qEnvironmentVariableIntValue("QUVERA_KILLS"), 3);
+    m_desk.stop();
+    QVERIFY(storage().removeRecursively() && QDir().mkpath(storage().path()));
+    m_desk.setSpeed(4); // where it cannot, it takes longer
+    VERIFY_DESK(m_desk.start(), m_desk);
+    const QImage menu = page(m_desk.screen());
+    QStringList keys = startKeys();
+    for (int round = 0; round < rounds; ++round) {
+        const QStringList before = folders();
+        VERIFY_DESK(m_desk.press(keys), m_desk);
+        keys = QStringLiteral("Down Down Right Enter F5").split(' '); // by the same choices
+        QTRY_COMPARE_WITH_TIMEOUT(folders().size(), before.size() + 1, kWaitMs);
+        QTest::qWait(int(QRandomGenerator::global()->bounded(1500)));
+        m_desk.instrument().kill();
+        QVERIFY(m_desk.instrument().waitForFinished());
+        for (const QString &folder : folders()) {
+            if (!before.contains(folder))
+                checkFiles(folder);
+        }
+
+        VERIFY_DESK(m_desk.startInstrument(), m_desk);
+        const QImage message = m_desk.waitForScreen([&menu](const QImage &now) { return page(now) != menu; });
+        QVERIFY2(!message.isNull(), "nothing was told");
+        QVERIFY(storage().exists(kJournal));
+        VERIFY_DESK(m_desk.press({ QStringLiteral("F5") }), m_desk);
+        QVERIFY(!m_desk.waitForScreen([&menu](const QImage &now) { return page(now) == menu; }).isNull());
+        QTRY_VERIFY_WITH_TIMEOUT(!storage().exists(kJournal), kWaitMs); // it is not told again
+        QTRY_COMPARE_WITH_TIMEOUT(listed(), folders(), kWaitMs);
+    }
 }
 
 QTEST_MAIN(TstKilledRecording)
