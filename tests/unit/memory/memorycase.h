@@ -10,6 +10,8 @@
 
 #include <QImage>
 
+#include <ctime>
+
 // What the tests of the memory page share: a card with things on it, and the page in a window as the instrument has it.
 
 namespace MemoryCase {
@@ -18,6 +20,7 @@ using namespace PageTest;
 
 const QString kStorage = QStringLiteral("/mnt/storage/");
 const QString kDisk = QStringLiteral("/run/media/sda1");
+constexpr int kPatienceMs = 60000; // for what a quiet machine does in a second
 const QByteArray kRecording = "231114_221320 Logger_1";
 
 inline void store(const QByteArray &name, const QByteArray &content = "data")
@@ -66,7 +69,7 @@ public:
     }
 
     /// Until nothing is under way.
-    void wait() const { QTRY_VERIFY(!page->isWorking()); }
+    void wait() const { QTRY_VERIFY_WITH_TIMEOUT(!page->isWorking(), kPatienceMs); }
     void press(std::initializer_list<FrontKey> keys) const
     {
         for (const FrontKey key : keys)
@@ -155,6 +158,36 @@ public:
 
 private:
     QTimer m_timer;
+};
+
+/// How the main thread goes on while something is under way. Its own time counts: what others on the machine take does
+/// not.
+class Pulse
+{
+public:
+    Pulse()
+    {
+        QObject::connect(&m_timer, &QTimer::timeout, [this] {
+            const qint64 now = threadTime();
+            longestMs = turns > 0 ? qMax(longestMs, now - m_last) : 0;
+            m_last = now;
+            ++turns;
+        });
+        m_timer.start(1);
+    }
+    int turns = 0;
+    qint64 longestMs = 0; // between two turns
+
+private:
+    static qint64 threadTime()
+    {
+        timespec time {};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return qint64(time.tv_sec) * 1000 + time.tv_nsec / 1'000'000;
+    }
+
+    QTimer m_timer;
+    qint64 m_last = 0;
 };
 
 } // namespace MemoryCase

@@ -287,23 +287,13 @@ void TstMemoryCopy::theScreenGoesOnWhileALargeRecordingIsCopied()
     store(kRecording + "/Common.pqa2", QByteArray(150000000, 'x'));
     Screen screen;
     screen.page->setMedias({ kDisk });
-    QElapsedTimer gap;
-    qint64 longest = 0;
-    int turns = 0;
-    QTimer pulse;
-    connect(&pulse, &QTimer::timeout, this, [&] {
-        longest = gap.isValid() ? std::max(longest, gap.restart()) : longest;
-        if (!gap.isValid())
-            gap.start();
-        ++turns;
-    });
-    pulse.start(1);
+    Pulse pulse;
     Answers answers("F");
     screen.press({ F2, F1, F4 });
     screen.wait();
     QCOMPARE(onDisk(), QStringList { QString::fromLatin1(kRecording) });
-    QVERIFY(turns > 20);
-    QVERIFY2(longest < 500, qPrintable(QString::number(longest))); // of a loaded machine; the disk alone takes more
+    QVERIFY(pulse.turns > 20);
+    QVERIFY2(pulse.longestMs < 500, qPrintable(QString::number(pulse.longestMs)));
 }
 
 void TstMemoryCopy::leavingBehindTheQuestionCopiesNothing()

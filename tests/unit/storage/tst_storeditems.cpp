@@ -1,5 +1,4 @@
 #include <QDateTime>
-#include <QElapsedTimer>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -10,6 +9,7 @@
 #include "unit/storage/filelimit.h"
 #include "unit/storage/rootfiles.h"
 
+#include <ctime>
 #include <sys/stat.h>
 #include <sys/time.h>
 #include <unistd.h>
@@ -315,14 +315,14 @@ private slots:
             all << name;
         }
         RootFiles::write(kIndex, index);
-        QElapsedTimer clock;
-        clock.start();
+        const std::clock_t begun = std::clock(); // of this process alone, however busy the machine is
         QCOMPARE(StoredItems::read(kWarsaw).size(), kFiles);
         StoredItems::mendIndex(kWarsaw);
         const QByteArray last = all.takeLast();
         QVERIFY(StoredItems::remove(all).isEmpty());
         // An index written anew for each would take minutes.
-        QVERIFY2(clock.elapsed() < 5000, qPrintable(QString::number(clock.elapsed())));
+        const double seconds = double(std::clock() - begun) / CLOCKS_PER_SEC;
+        QVERIFY2(seconds < 5, qPrintable(QString::number(seconds)));
         QCOMPARE(FileInfo().getInfoFiles(), QStringList { last });
         QVERIFY(commands().count('\n') <= 2); // the index, and the card as a whole
     }

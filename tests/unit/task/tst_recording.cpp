@@ -315,7 +315,7 @@ void TstRecording::whatWaitsIsStoredByTheRecordersOwnTimer()
     prepare(1);
     feed(10'000, 10'200);
     QCOMPARE(blocks(0xA1010083).size(), 0);
-    QTRY_COMPARE(blocks(0xA1010083).size(), 50);
+    QTRY_COMPARE_WITH_TIMEOUT(blocks(0xA1010083).size(), 50, 60000);
     m_task->stopRecordTask();
 }
 
