@@ -24,6 +24,7 @@ public:
     void setFullScale(const QStringList &labels);
     QStringList fullScale() const { return m_labels; }
     void setLimits(const QString &upper, const QString &lower);
+    QStringList limits() const { return { m_upper, m_lower }; }
 
 protected:
     void paintEvent(QPaintEvent *event) override;

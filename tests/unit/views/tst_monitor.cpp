@@ -525,21 +525,24 @@ void TstMonitor::savedAsMonitor()
 void TstMonitor::savedRecordHoldsResultsAndTrends()
 {
     live().monitor.freqMax = 50.25f; // word 279
-    live().monitorTrend.append(MonitorTrendVoltage + 1, 231);
-    live().monitorTrend.append(MonitorTrendFrequency, 50);
+    // Voltage, distortion, flicker of L1 to L3, unbalance, frequency: each list holds the number of its row.
+    const int rows[] = { 4, 5, 6, 12, 13, 14, 20, 21, 22, 28, 36 };
+    for (int row : rows)
+        live().monitorTrend.append(row, float(row));
+    live().monitorTrend.append(36, 50);
     const QByteArray record = m_page->pqaData();
     // 301 words, then eleven lists: their length, their values.
-    QCOMPARE(record.size(), (301 + 11 + 2) * 4);
-    float words[314];
-    qint32 numbers[314];
+    QCOMPARE(record.size(), (301 + 11 + 12) * 4);
+    float words[324];
+    qint32 numbers[324];
     std::memcpy(words, record.constData(), sizeof words);
     std::memcpy(numbers, record.constData(), sizeof numbers);
     QCOMPARE(words[279], 50.25f);
-    QCOMPARE(numbers[301], 0); // voltage L1
-    QCOMPARE(numbers[302], 1);
-    QCOMPARE(words[303], 231.0f);
-    QCOMPARE(numbers[312], 1); // the last list: frequency
-    QCOMPARE(words[313], 50.0f);
+    for (int list = 0; list < 11; ++list) {
+        QCOMPARE(numbers[301 + 2 * list], list < 10 ? 1 : 2);
+        QCOMPARE(words[302 + 2 * list], float(rows[list]));
+    }
+    QCOMPARE(words[323], 50.0f);
 }
 
 void TstMonitor::coloursOfThePhasesAreTakenOver()

@@ -44,6 +44,9 @@ private slots:
     void placeholdersStandBeforeTheFirstValue_data();
     void placeholdersStandBeforeTheFirstValue();
     void latestValuesStandBelowTheCurves();
+    void eachTrendHasItsQuantityAndScale_data();
+    void eachTrendHasItsQuantityAndScale();
+    void scaleOfTheVoltageIsInTheUnitOfItsCaption();
     void curvesAreThoseOfTheWiring_data();
     void curvesAreThoseOfTheWiring();
     void unbalanceTrendChangesToTheFrequencyAndBack();
@@ -254,6 +257,49 @@ void TstMonitorEvents::latestValuesStandBelowTheCurves()
     QCOMPARE(text(trend, "D1_Value"), QStringLiteral("0.50"));
     QCOMPARE(text(trend, "D2_Value"), QStringLiteral("0.75"));
     QCOMPARE(text(trend, "D3_Value"), QStringLiteral("1.00"));
+}
+
+void TstMonitorEvents::eachTrendHasItsQuantityAndScale_data()
+{
+    QTest::addColumn<int>("trend");
+    QTest::addColumn<int>("presses"); // of F1
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QStringList>("scale");
+    QTest::newRow("vrms") << int(MonitorPage::VrmTrend) << 0 << "231.00V" << QStringList({ "240", "230" });
+    QTest::newRow("harmonics") << int(MonitorPage::HarmTrend) << 0 << "2.50%" << QStringList({ "3", "2" });
+    QTest::newRow("flicker") << int(MonitorPage::FlickerTrend) << 0 << "0.75" << QStringList({ "1", "0" });
+    QTest::newRow("dirs") << int(MonitorPage::DirsTrend) << 0 << "231.00V" << QStringList({ "240", "230" });
+    QTest::newRow("unbalance") << int(MonitorPage::UnbalanceTrend) << 0 << "1.25%" << QStringList({ "2", "1" });
+    QTest::newRow("frequency") << int(MonitorPage::UnbalanceTrend) << 1 << "50.02Hz" << QStringList({ "50.1", "50.0" });
+}
+
+void TstMonitorEvents::eachTrendHasItsQuantityAndScale()
+{
+    QFETCH(int, trend);
+    QFETCH(int, presses);
+    LivePage *shown = m_page->page(trend);
+    press(shown, F1, presses);
+    QCOMPARE(chart(shown)->limits(), QStringList({ "10", "0" })); // no value yet
+    live().monitorTrend.append(MonitorTrendVoltage, 231);
+    live().monitorTrend.append(MonitorTrendThd, 2.5f);
+    live().monitorTrend.append(MonitorTrendPlt, 0.75f);
+    live().monitorTrend.append(MonitorTrendUnbalance, 1.25f);
+    live().monitorTrend.append(MonitorTrendFrequency, 50.02f);
+    m_page->updateDisplay(nullptr);
+    QTEST(text(shown, "D1_Value"), "value");
+    QTEST(chart(shown)->limits(), "scale");
+}
+
+void TstMonitorEvents::scaleOfTheVoltageIsInTheUnitOfItsCaption()
+{
+    const auto restore = qScopeGuard([] { m_settingConfig_g.setRatioVFenzi(1); });
+    m_settingConfig_g.setRatioVFenzi(1000);
+    beginRun(*m_page);
+    live().monitorTrend.append(MonitorTrendVoltage, 224000);
+    live().monitorTrend.append(MonitorTrendVoltage, 235990);
+    m_page->updateDisplay(nullptr);
+    QCOMPARE(text(page<MonitStarVrmTrendPage>(), "type"), QStringLiteral("Vrms(kV)"));
+    QCOMPARE(chart(page<MonitStarVrmTrendPage>())->limits(), QStringList({ "236", "224" }));
 }
 
 void TstMonitorEvents::curvesAreThoseOfTheWiring_data()

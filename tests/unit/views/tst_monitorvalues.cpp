@@ -61,6 +61,7 @@ private slots:
     void placeholdersStandBeforeTheFirstValue();
     void voltageNumbersAreThoseOfTheRecord();
     void frequencyNumbersAreThoseOfTheRecord();
+    void otherNumbersAreThoseOfTheRecord();
     void worstHarmonicIsNamed();
     void harmonicNumbersStandBesideTheirLimits();
     void aLimitThatIsNotAppliedIsNoPercentage();
@@ -167,6 +168,12 @@ void TstMonitorValues::eventsBarIsTheCountNearestToItsAllowedNumber()
     m_events.interruptions = 3;
     QCOMPARE(MonitorValues::histogram(view())[9].limit, 150.0f);
     QCOMPARE(MonitorValues::histogram(view())[9].allowed, 150.0f);
+    m_limit.dips.maxAllowed = 5;
+    QCOMPARE(MonitorValues::histogram(view())[9].limit, 200.0f);
+    m_events.swells = 44;
+    QCOMPARE(MonitorValues::histogram(view())[9].limit, 220.0f);
+    m_events.rvc = 161;
+    QCOMPARE(MonitorValues::histogram(view())[9].limit, 230.0f);
 }
 
 void TstMonitorValues::anEventOfWhichNoneIsAllowedReachesBeyondTheLimit()
@@ -249,9 +256,18 @@ void TstMonitorValues::nothingIsJudgedBeforeTheFirstValue()
 {
     for (int bar = 0; bar < MonitorHistogram::kBars; ++bar)
         QCOMPARE(MonitorValues::verdict(view(), bar), MonitorValues::None);
-    m_data.freqReady = m_data.voltReady = m_data.flickerReady = 1;
-    for (int bar = 0; bar < MonitorHistogram::kBars; ++bar)
-        QCOMPARE(MonitorValues::verdict(view(), bar), MonitorValues::Within);
+    const auto judged = [this] { // a bit for each bar
+        int bars = 0;
+        for (int bar = 0; bar < MonitorHistogram::kBars; ++bar)
+            bars |= (MonitorValues::verdict(view(), bar) == MonitorValues::Within) << bar;
+        return bars;
+    };
+    m_data.freqReady = 1;
+    QCOMPARE(judged(), 0b0101000000000);
+    m_data.voltReady = 1;
+    QCOMPARE(judged(), 0b1111000111111);
+    m_data.flickerReady = 1;
+    QCOMPARE(judged(), 0b1111111111111);
 }
 
 void TstMonitorValues::whatExceedsItsLimitIsSaid_data()
@@ -374,6 +390,39 @@ void TstMonitorValues::frequencyNumbersAreThoseOfTheRecord()
         QStringList({ "Max 50.07Hz", "95% 50.03Hz", "Allowed% 18.0", "Min 49.91Hz", "100% 50.07Hz", "Limit 3.5%" }));
 }
 
+void TstMonitorValues::otherNumbersAreThoseOfTheRecord()
+{
+    m_data.voltReady = m_data.flickerReady = 1;
+    m_limit.plt.nep = 90;
+    m_data.pltValue[2] = 0.5f;
+    m_data.pltPercentileNep[2] = 0.6f;
+    m_data.pltPercentileAll[2] = 0.7f;
+    m_data.pltPartialRatio[2] = 0.5f;
+    QCOMPARE(lines(MonitorReadout::ofBar(view(), MonitorBarFlicker + 2)),
+             QStringList({ "Plt 0.50", "90% 0.60", "Allowed% 50.0", "100% 0.70", "Limit -" }));
+
+    m_events = { 1, 2, 3, 4 }; // dips, swells, interruptions, rapid changes
+    QCOMPARE(lines(MonitorReadout::ofBar(view(), MonitorBarDirs)),
+             QStringList({ "Dips 1/20", "Swells 2/20", "Interr. 3/2", "RVC 4/70" }));
+
+    m_trend.append(MonitorTrendUnbalance, 1.25f);
+    m_trend.append(MonitorTrendFrequency, 50);
+    m_data.unbalPartialRatio = 62.5f;
+    m_data.unbalWholeRatio = 1;
+    QCOMPARE(lines(MonitorReadout::ofBar(view(), MonitorBarUnbalance)),
+             QStringList({ "Neg. 1.25%", "Allowed% 62.5", "Limit -" }));
+
+    m_limit.frequency2.nep = 98;
+    m_limit.frequency2.whole = 20;
+    m_data.signal1PercentileNep[0] = 0.01f;
+    m_data.signal1PercentileAll[0] = 0.02f;
+    m_data.signal2PercentileNep[0] = 0.03f;
+    m_data.signal2PercentileAll[0] = 0.04f; // of 20 percent
+    QCOMPARE(lines(MonitorReadout::ofBar(view(), MonitorBarSignals)),
+             QStringList(
+                 { "1: 99% 1.00%", "2: 98% 3.00%", "Allowed% 33.3", "1: 100% 2.00%", "2: 100% 4.00%", "Limit 20.0%" }));
+}
+
 void TstMonitorValues::worstHarmonicIsNamed()
 {
     m_data.voltReady = 1;
@@ -390,9 +439,10 @@ void TstMonitorValues::harmonicNumbersStandBesideTheirLimits()
 {
     m_data.voltReady = 1;
     m_data.harmPartialRatio[2][4] = 50; // of 6 percent
+    m_limit.harmonicNep[4] = 97;
     const MonitorReadout readout = MonitorReadout::ofHarmonic(view(), 2, 4);
     QCOMPARE(readout.quantity, QStringLiteral("L3 H5"));
-    QCOMPARE(lines(readout), QStringList({ "Value 3.00%", "95% 6.00%", "Allowed% 50.0", "100% -", "Limit -" }));
+    QCOMPARE(lines(readout), QStringList({ "Value 3.00%", "97% 6.00%", "Allowed% 50.0", "100% -", "Limit -" }));
     QCOMPARE(MonitorReadout::ofHarmonic(view(), 0, 0).quantity, QStringLiteral("L1 THD"));
     m_data.harmOk[2][4] = 0;
     QCOMPARE(MonitorReadout::ofHarmonic(view(), 2, 4).verdict, MonitorValues::Exceeded);
