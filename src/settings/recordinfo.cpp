@@ -4,6 +4,7 @@
 #include "settings/recordgroups.h"
 #include "settings/settingrow.h"
 #include "storage/massstorage.h"
+#include "model/datagramrecords.h"
 #include "model/nominalfrequency.h"
 
 #include <algorithm>
@@ -49,8 +50,7 @@ void RecordInfo::writeSelectedParam()
 
 void RecordInfo::initHarmMaxNumb(double nominalFrequency)
 {
-    constexpr int kOrders400 = 12;
-    m_harm_max_numb = highestOrder(nominalFrequency, kOrders400, m_harm_max_numb);
+    m_harm_max_numb = highestOrder(nominalFrequency, kHarmonicOrders400, m_harm_max_numb);
 }
 
 int RecordInfo::hoursInRoom(double room, quint32 items, int intervalSeconds, const ChannelSet &wiring)

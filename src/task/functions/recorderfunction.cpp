@@ -4,7 +4,6 @@
 #include "detect/powerevents.h"
 #include "model/channelset.h"
 #include "model/livedata.h"
-#include "model/nominalfrequency.h"
 #include "platform/diskworker.h"
 #include "record/pqa2format.h"
 #include "settings/recordinfo.h"
@@ -44,6 +43,7 @@ void RecorderFunction::start()
 {
     m_setUp = m_links.setUp();
     m_items = RecordInfo::m_recordItems;
+    RecordInfo::initHarmMaxNumb(m_setUp.nominalFrequency);
     m_time = Clock::msecs();
     m_links.flicker.clear(m_links.data.live().flicker);
     std::memset(m_energy, 0, sizeof m_energy);
@@ -110,9 +110,8 @@ void RecorderFunction::writePQA2File()
 {
     m_statistics.finish();
     if (m_setUp.wiring) {
-        const int orders = highestOrder(m_setUp.nominalFrequency, kHarmonicOrders400, kHarmonicOrders);
         RecordBlocks::storeInterval(
-            m_time, m_items, m_statistics, *m_setUp.wiring, orders,
+            m_time, m_items, m_statistics, *m_setUp.wiring, RecordInfo::m_harm_max_numb,
             [this](RecordFile file, quint32 type, const QByteArray &payload) { m_files->add(file, type, payload); });
     }
     m_statistics.clear();

@@ -74,6 +74,7 @@ private slots:
     void theLastSeveritiesAreStoredWhereTheirIntervalsAreNearlyFull();
     void everythingIsSentToTheCardEveryFewSeconds();
     void nothingIsStoredInAnUnknownWiring();
+    void at400HzTwelveHarmonicsAreStored();
     void anyAggregationIsTaken();
     void hoursTakeTheRoomThatWasForetold();
 };
@@ -442,6 +443,27 @@ void TstRecorder::nothingIsStoredInAnUnknownWiring()
     run.take(51, 200);
     run.recorder().stop(Keep::Data);
     QCOMPARE(run.blocks().size(), 2 + 3); // but the frequency of ten seconds, which has no wiring
+}
+
+void TstRecorder::at400HzTwelveHarmonicsAreStored()
+{
+    for (const double nominal : { 400.0, 50.0 }) {
+        RecorderRun run;
+        run.setUp.nominalFrequency = nominal;
+        run.setUp.frequency = run.record->frequency = float(nominal);
+        RecordInfo::m_recordItems = RecordInfo::HarmonicVolt1to50;
+        RecordInfo::m_interval_index = 0; // 1 s
+        for (SpectrumLine &line : run.record->spectrum[0].voltage)
+            line.magnitude = 7.0f;
+        run.recorder().start();
+        run.take(6, 200);
+        const QList<ReadBlock> stored = run.blocks(0xA1000030, "U Harmonic(1-50).pqa2");
+        run.recorder().stop(Keep::Data);
+        QCOMPARE(stored.size(), 1);
+        const int orders = nominal > 100 ? 12 : 50;
+        for (int order = 1; order <= 50; ++order)
+            QCOMPARE(valueAt<float>(stored.first().payload, 12 + 4 * order), order <= orders ? 7.0f : 0.0f);
+    }
 }
 
 void TstRecorder::anyAggregationIsTaken()
