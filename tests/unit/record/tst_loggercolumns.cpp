@@ -86,6 +86,7 @@ private slots:
     void intervalWithoutAMomentIsZeros();
     void smallAndWildNumbersAreZero_data();
     void smallAndWildNumbersAreZero();
+    void aTenthOfAThousandthIsNotBelowIt();
     void distortionWithoutAFundamentalIsZero();
     void formatPageTellsTheGroups();
 };
@@ -387,6 +388,13 @@ void TstLoggerColumns::smallAndWildNumbersAreZero_data()
     QTest::newRow("no number") << std::numeric_limits<float>::quiet_NaN() << QByteArray("0.000,0.000,0.000,");
     QTest::newRow("infinite") << std::numeric_limits<float>::infinity() << QByteArray("0.000,0.000,0.000,");
     QTest::newRow("the largest number") << std::numeric_limits<float>::max() << QByteArray();
+}
+
+void TstLoggerColumns::aTenthOfAThousandthIsNotBelowIt()
+{
+    QCOMPARE(LoggerColumns::cleaned(0.0001), 0.0001);
+    QCOMPARE(LoggerColumns::cleaned(-0.0001), -0.0001);
+    QCOMPARE(LoggerColumns::cleaned(0.00009999), 0.0);
 }
 
 void TstLoggerColumns::smallAndWildNumbersAreZero()

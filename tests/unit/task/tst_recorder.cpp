@@ -58,6 +58,7 @@ private slots:
     void theFolderHoldsTheFilesOfTheChosenItems();
     void aRecordingBeginsAndEndsWithItsTimes();
     void tenSecondFrequencyHasItsOwnIntervals();
+    void tenSecondsFollowTheFrequencyOfTheirEnd();
     void anIntervalIsStoredWhenItsCyclesAreFull_data();
     void anIntervalIsStoredWhenItsCyclesAreFull();
     void theLastIntervalIsStoredAsFarAsItCame();
@@ -145,6 +146,30 @@ void TstRecorder::tenSecondFrequencyHasItsOwnIntervals()
         QCOMPARE(valueAt<float>(maxima[i].payload, 8), 50.3f);
         QCOMPARE(valueAt<float>(minima[i].payload, 8), 49.9f);
     }
+}
+
+void TstRecorder::tenSecondsFollowTheFrequencyOfTheirEnd()
+{
+    RecorderRun run;
+    run.recorder().start();
+    run.take(51, 200);
+    run.record->frequency = 51.0f;
+    run.take(50, 200); // still as long as the end before had it
+    run.take(49, 200); // 500 cycles at 51 Hz: 9803 ms
+    const struct
+    {
+        qint64 time;
+        float frequency;
+    } expected[] = { { 10'200, 50.0f }, { 20'200, 51.0f }, { 30'000, 51.0f } };
+    for (const quint32 type : { 0xA1000028u, 0xA1000063u, 0xA10000A3u }) { // nothing of the window before is in them
+        const QList<ReadBlock> stored = run.blocks(type);
+        QCOMPARE(stored.size(), 3);
+        for (int i = 0; i < 3; ++i) {
+            QCOMPARE(valueAt<qint64>(stored[i].payload, 0), RecorderRun::kStart + expected[i].time);
+            QCOMPARE(valueAt<float>(stored[i].payload, 8), expected[i].frequency);
+        }
+    }
+    run.recorder().stop(Keep::Data);
 }
 
 void TstRecorder::anIntervalIsStoredWhenItsCyclesAreFull_data()

@@ -57,6 +57,7 @@ private slots:
     void progressIsPercentAndSecondsLeft();
     void plannedStartStandsInTheHead();
     void captureThatBeginsAtOnceTellsItsMoment();
+    void plannedStartThatIsPastIsNone();
     void storageThatTakesNoMoreEndsTheRun();
     void fileThatCannotBeBegunEndsTheRun();
     void withoutANameNothingIsStored();
@@ -267,6 +268,16 @@ void TstWaveFunction::plannedStartStandsInTheHead()
 
 void TstWaveFunction::captureThatBeginsAtOnceTellsItsMoment()
 {
+    m_task->initUniFunction(AbstractTask::UniWave);
+    Clock::advance(10000);
+    m_task->startTask();
+    take(1);
+    QCOMPARE(header().begin, quint32(kNow / 1000) + 10);
+}
+
+void TstWaveFunction::plannedStartThatIsPastIsNone()
+{
+    WaveInfo::m_begain_time = quint32(kNow / 1000) - 60;
     m_task->initUniFunction(AbstractTask::UniWave);
     Clock::advance(10000);
     m_task->startTask();
