@@ -19,6 +19,10 @@ public:
     /// The page is opened anew: at once, with the limit set in use and the next free name.
     void reset();
 
+public slots:
+    /// The time of a run that has ended is no business of the next one.
+    void stopWatchChanged(const QString &) override { }
+
 signals:
     void goMonitorStart();
     /// Another limit set is in use.

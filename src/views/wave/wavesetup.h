@@ -15,6 +15,10 @@ public:
     /// A new capture is to be planned: it begins at once unless the user says otherwise, under a name that is free.
     void beginSetup();
 
+public slots:
+    /// The time of a capture that has ended is no business of the next one.
+    void stopWatchChanged(const QString &) override { }
+
 signals:
     /// The choices stand; the capture is to begin as they say.
     void goWaveMain();

@@ -54,6 +54,7 @@ private slots:
     void startTellsTheShellAndShowsTheOverview();
     void openingAgainBeginsWithTheSetUp();
     void openingAgainKeepsTheDuration();
+    void timeOfTheRunBeforeIsNotShownOnTheSetUp();
     void startChoosesTheZoomForTheDuration();
 
     // overview
@@ -289,6 +290,15 @@ void TstMonitor::openingAgainKeepsTheDuration()
     press(mainPage(), Right);
     m_page->enter();
     QCOMPARE(text(mainPage(), "duration_days"), QStringLiteral("1 d"));
+}
+
+void TstMonitor::timeOfTheRunBeforeIsNotShownOnTheSetUp()
+{
+    press(mainPage(), F5);
+    m_page->stopWatchChanged(QStringLiteral("00:01:17"));
+    QCOMPARE(text(startPage(), "stop_watch"), QStringLiteral("00:01:17"));
+    m_page->enter();
+    QCOMPARE(text(mainPage(), "stop_watch"), QString());
 }
 
 void TstMonitor::startChoosesTheZoomForTheDuration()

@@ -55,6 +55,7 @@ private slots:
     void captureThatRunsShowsItsProgress();
     void f5AsksBeforeItStops();
     void stoppedCaptureIsShownUntilTheUserGoesBack();
+    void timeOfTheCaptureBeforeIsNotShownOnTheSetup();
     void captureWithoutDataSaysSo();
     void storageThatTookNoMoreIsTold();
     void endOfAnotherRunChangesNothing();
@@ -369,6 +370,17 @@ void TstWave::stoppedCaptureIsShownUntilTheUserGoesBack()
     press(main(), F5);
     QCOMPARE(shown, int(Wave::Main)); // the task ends first
     QCOMPARE(m_page->currentIndex(), int(Wave::Setup));
+}
+
+void TstWave::timeOfTheCaptureBeforeIsNotShownOnTheSetup()
+{
+    start();
+    m_page->stopWatchChanged(QStringLiteral("00:00:10"));
+    QCOMPARE(text(main(), "stop_watch"), QStringLiteral("00:00:10"));
+    m_page->taskStoped();
+    press(main(), F5);
+    QCOMPARE(m_page->currentIndex(), int(Wave::Setup));
+    QCOMPARE(text(setup(), "stop_watch"), QString());
 }
 
 void TstWave::captureWithoutDataSaysSo()
