@@ -55,6 +55,7 @@ private slots:
     void zoomKeysStepThroughTheRows();
     void aFlickerValueCoversTwoHours();
     void widestZoomKeepsADipBehindATransformer();
+    void widestZoomKeepsALowFrequency();
     void heldTrendsStay();
 
     // all
@@ -406,6 +407,20 @@ void TstMonitorEvents::widestZoomKeepsADipBehindATransformer()
     // Ten points, all of them of 600 V: the lower end of the scale.
     const QImage picture = chart(page<MonitStarVrmTrendPage>())->grab().toImage();
     QCOMPARE(picture.pixel(580, 100), PhaseColor::colorA().rgb());
+}
+
+void TstMonitorEvents::widestZoomKeepsALowFrequency()
+{
+    MonitorInfo::m_zoom_index = 0;
+    for (int i = 0; i < 20; ++i)
+        live().monitorTrend.append(MonitorTrendFrequency, i % 2 ? 50.1f : 49.0f);
+    auto *trend = page<MonitUnbalTrePage>();
+    press(trend, F1);
+    const QImage picture = chart(trend)->grab().toImage();
+    bool isLow = false;
+    for (int y = 90; y <= 100; ++y)
+        isLow = isLow || picture.pixel(580, y) == QColor(Qt::white).rgb();
+    QVERIFY(isLow);
 }
 
 void TstMonitorEvents::heldTrendsStay()
