@@ -238,7 +238,10 @@ QStringList FileInfo::getRecordInfos() const
 
 QString FileInfo::getDefaultFileName(const QString &prefix, const QString &suffix) const
 {
-    return firstFreeName(prefix, suffix, getInfoFiles());
+    // What has just been begun may not be in the index yet; its file must not be begun anew.
+    const QStringList standing
+        = QDir(Target::path(storagePath())).entryList({ prefix + QLatin1Char('*') }, QDir::Files);
+    return firstFreeName(prefix, suffix, getInfoFiles() + standing);
 }
 
 QString FileInfo::getDefaultRecordName(const QString &prefix) const

@@ -31,7 +31,8 @@ public:
     QStringList getFiles(const QString &path) const;
     /// Entries of the storage that look like records: "yyMMdd_hhmmss name".
     QStringList getRecordInfos() const;
-    /// prefix + n + suffix with the first n of 1 to 999 that the index does not hold; empty when all are taken.
+    /// prefix + n + suffix with the first n of 1 to 999 that neither the index nor the storage holds; empty when all
+    /// are taken.
     QString getDefaultFileName(const QString &prefix, const QString &suffix) const;
     /// prefix + n with the first n of 1 to 999 that no record is named; empty when all are taken.
     QString getDefaultRecordName(const QString &prefix) const;

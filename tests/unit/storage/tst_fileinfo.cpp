@@ -209,6 +209,13 @@ private slots:
         QCOMPARE(FileInfo().getDefaultFileName("Vif_", ".pqa"), QString("Vif_1.pqa"));
     }
 
+    void aFileThatIsNotInTheIndexYetIsNotOffered()
+    {
+        RootFiles::write("/mnt/storage/Wave_1.wav", "x");
+        QCOMPARE(FileInfo().getDefaultFileName("Wave_", ".wav"), QStringLiteral("Wave_2.wav"));
+        QCOMPARE(FileInfo().getDefaultFileName("Wave_", ".png"), QStringLiteral("Wave_1.png"));
+    }
+
     void withAllNumbersTakenTheDefaultNameIsEmpty()
     {
         QByteArray index;
