@@ -8,6 +8,7 @@
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
+#include <sys/stat.h>
 
 namespace {
 
@@ -35,9 +36,14 @@ private:
 
 std::atomic<int> g_flushes { 0 };
 
-int countedSync(int)
+/// Counts what is still open.
+int countedSync(int fd)
 {
-    return ++g_flushes, 0;
+    struct stat file
+    {
+    };
+    g_flushes += ::fstat(fd, &file) == 0;
+    return 0;
 }
 
 int openFiles()

@@ -42,8 +42,11 @@ private slots:
         journal.begin("231114_221320 Logger_1");
         QCOMPARE(stored(), QByteArray("231114_221320 Logger_1\n"));
         journal.begin("Wave_1.wav");
+        QCOMPARE(stored(), QByteArray("231114_221320 Logger_1\nWave_1.wav\n"));
+        const QByteArray commands = RootFiles::commands();
         journal.begin("Wave_1.wav");
         QCOMPARE(stored(), QByteArray("231114_221320 Logger_1\nWave_1.wav\n"));
+        QCOMPARE(RootFiles::commands(), commands); // the card is spared what it holds already
         journal.end("231114_221320 Logger_1");
         QCOMPARE(stored(), QByteArray("Wave_1.wav\n"));
         journal.end("Wave_1.wav");

@@ -268,6 +268,14 @@ private slots:
                             "231114_221320 Logger_1,2023-11-14 22:13:20\n"));
     }
 
+    void whatWasSavedSinceTheCardWasReadStaysInTheIndex()
+    {
+        RootFiles::write(kIndex, "new.png,2023-01-01 00:00:00\ngone.png,2023-01-01 00:00:00\n");
+        store("new.png");
+        QVERIFY(FileInfo().mend({}));
+        QCOMPARE(FileInfo().getInfoFiles(), QStringList { "new.png" });
+    }
+
     void aLostIndexIsMadeAnew()
     {
         store("20231114_221320.wav");

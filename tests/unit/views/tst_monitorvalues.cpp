@@ -530,6 +530,9 @@ void TstMonitorValues::widestZoomKeepsTheValueFarthestFromTheReference()
     // Around 5 the 2 and the 9 are farther away.
     QCOMPARE(MonitorTrend::offsets({ 9, 5, 2, 7 }, 2, 5, { 10, 0 }),
              QVector<qint16>({ qint16(0.1 * 99), qint16(0.8 * 99) }));
+    // Of equals the newest; what is no number stands for no other value.
+    QCOMPARE(MonitorTrend::offsets({ 9, kNaN, 2, 8 }, 2, 5, { 10, 0 }),
+             QVector<qint16>({ qint16(0.1 * 99), qint16(0.2 * 99) }));
 }
 
 void TstMonitorValues::moreValuesThanThePlotHasRoomForAreTheNewest()
