@@ -259,7 +259,7 @@ void TstWirelessDaemon::storedNetworkForgetsWhatItsRouterWasBefore()
     now.setFlags(QStringLiteral("[WPA-PSK-TKIP][ESS]"));
     int forgotten = -1;
     Wifi::forgetFormerKind(0, now, this, [&forgotten](bool ok) { forgotten = ok; });
-    QTRY_COMPARE(forgotten, 1);
+    QTRY_COMPARE_WITH_TIMEOUT(forgotten, 1, 10000);
     QVERIFY(save());
     QVERIFY2(!configuration().contains("\tproto="), configuration().constData()); // its default is not written
     QVERIFY(configuration().contains("\tpsk=\"password\"\n"));
