@@ -12,7 +12,6 @@
 namespace {
 
 constexpr double kRoomToBegin = 50; // MB, below which no file is opened
-constexpr double kRoomKept = 5; // MB, below which nothing is stored any more
 constexpr double kMegabyte = 1024 * 1024;
 constexpr double kLongest = 24000; // h: the longest life of a measurement
 const char kFile[] = "/mnt/userfs/config/record.conf";

@@ -30,6 +30,8 @@ public:
         AllHarmonics = 0x7F80,
     };
 
+    static constexpr double kRoomKept = 5; // MB free, below which nothing is stored any more
+
     static int m_in_recording; // 1: prepared or running
     static QString *m_record_file; // record name
     static quint32 m_recordItems; // Item

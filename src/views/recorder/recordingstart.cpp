@@ -2,6 +2,7 @@
 #include "ui_recordingstart.h"
 
 #include "platform/clock.h"
+#include "settings/recordinfo.h"
 #include "storage/fileinfo.h"
 #include "storage/massstorage.h"
 #include "widgets/controls/labellook.h"
@@ -131,7 +132,8 @@ void RecordingStart::showRoom()
     const qint64 rest = m_end - qMax(m_begin, Clock::msecs());
     QLabel *label = m_rows[Memory].values[0];
     setText(label, QStringLiteral("%1, %2").arg(RecordingText::room(room), RecordingText::hours(hours).trimmed()));
-    LabelLook::setColor(label, QColor(state() != Ended && (hours + 1) * kHour < rest ? Qt::red : Qt::white));
+    const bool lasts = double(room) >= RecordInfo::kRoomKept && (hours + 1) * kHour >= rest;
+    LabelLook::setColor(label, QColor(state() != Ended && !lasts ? Qt::red : Qt::white));
 }
 
 void RecordingStart::stopOrBack()

@@ -1,8 +1,11 @@
 #include "recordercase.h"
 
 #include "platform/clock.h"
+#include "platform/target.h"
 #include "unit/markedlanguage.h"
 
+#include <QDir>
+#include <QFile>
 #include <QSignalSpy>
 #include <QTimer>
 
@@ -46,6 +49,7 @@ private slots:
     void enteringShowsTheRecordingThatRuns();
     void leavesByTheFunctionKeysWhileItRuns();
     void roomIsRedWhereItDoesNotLast();
+    void roomIsRedInTheLastHourOnceNothingIsStored();
     void anotherLanguageReachesEveryText();
     void randomKeysNeverStoreAWrongChoice_data() { addFamilies(); }
     void randomKeysNeverStoreAWrongChoice();
@@ -271,6 +275,19 @@ void TstRecorderStart::roomIsRedWhereItDoesNotLast()
     RecordInfo::m_in_recording = 0;
     page->recordingStoped();
     QCOMPARE(memory->palette().color(QPalette::WindowText), enough); // nothing needs it any more
+}
+
+void TstRecorderStart::roomIsRedInTheLastHourOnceNothingIsStored()
+{
+    auto page = prepared(false);
+    const qint64 now = Clock::msecs();
+    // A file system that never has any room.
+    const QString storage = Target::path("/mnt/storage");
+    QVERIFY(QDir(storage).removeRecursively() && QFile::link("/proc", storage));
+    page->showPlan(now, now + kHour / 2);
+    const QColor none = startOf(*page)->findChild<QLabel *>("memory")->palette().color(QPalette::WindowText);
+    QVERIFY(QFile::remove(storage) && QDir().mkpath(storage));
+    QCOMPARE(none, QColor(Qt::red));
 }
 
 void TstRecorderStart::anotherLanguageReachesEveryText()
