@@ -5,6 +5,7 @@
 #include "storage/fileinfo.h"
 #include "settings/softwareversion.h"
 #include "platform/clock.h"
+#include "platform/diskworker.h"
 #include "platform/target.h"
 
 #include <QFile>
@@ -108,7 +109,7 @@ void PqaFile::close()
     m_file->close();
     m_file.reset();
     m_opened = false;
-    Target::shell(QStringLiteral("sync"));
+    DiskWorker::instance().sync();
 }
 
 void PqaFile::write(const void *data, qint64 length)
@@ -142,5 +143,5 @@ void PqaFile::store(const QString &temporary, const QString &name)
     }
     stored.close();
     source.remove();
-    Target::shell(QStringLiteral("sync"));
+    DiskWorker::instance().sync();
 }

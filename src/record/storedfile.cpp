@@ -2,16 +2,13 @@
 
 #include "platform/clock.h"
 #include "platform/diskworker.h"
-#include "platform/target.h"
 #include "record/pqa2device.h"
 #include "storage/fileinfo.h"
+#include "storage/leaving.h"
 #include "storage/runjournal.h"
 
 #include <QDateTime>
 #include <QFile>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace {
 constexpr qint64 kFlushInterval = 4000; // ms; a cut of the supply costs no more than this and what follows next
@@ -33,7 +30,7 @@ bool StoredFile::open(const QString &name, const QDateTime &localTime)
     m_open = true;
     m_flushed = Clock::elapsed();
     RunJournal::instance().begin(name);
-    DiskWorker::instance().run([name, localTime] { FileInfo().saveInfo(name, localTime); });
+    FileInfo().saveInfoBehind(name, localTime);
     return true;
 }
 
@@ -77,13 +74,8 @@ void StoredFile::close()
 void StoredFile::remove()
 {
     close();
-    // The bytes are freed by the disk worker: the system keeps them as long as the file is open somewhere.
-    const QByteArray path = QFile::encodeName(Target::path(FileInfo::storagePath() + m_name));
-    const int fd = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
-    ::unlink(path.constData());
-    DiskWorker::instance().run([name = m_name, fd] {
-        if (fd >= 0)
-            ::close(fd);
+    DiskWorker::instance().run([name = m_name, taken = Leaving::take(QFile::encodeName(m_name))] {
+        Leaving::free(taken);
         FileInfo().removeEntries({ name });
     });
 }

@@ -2,7 +2,7 @@
 
 #include <QDateTime>
 #include <QDir>
-#include <QSet>
+#include <QFile>
 #include <QFileInfo>
 #include <QMutex>
 #include <QMutexLocker>
@@ -11,10 +11,13 @@
 #include "platform/debuglog.h"
 #include "platform/diskworker.h"
 #include "platform/target.h"
+#include "storage/filesinuse.h"
+#include "storage/leaving.h"
 #include "storage/safefile.h"
 #include "storage/wholefile.h"
 
 #include <functional>
+#include <memory>
 
 namespace {
 
@@ -97,17 +100,48 @@ QString firstFreeName(const QString &prefix, const QString &suffix, const QStrin
     return {};
 }
 
-/// Deletes the stored files of a base name, no folders.
-void removeFiles(const QString &base)
+/// Takes the stored files of a base name away, no folders, and not what is being recorded; the answer is for Leaving.
+QByteArrayList takeFiles(const QString &base)
 {
+    QByteArrayList taken;
     if (base.isEmpty()) // would match the index itself
-        return;
-    QDir storage(Target::path(FileInfo::storagePath()));
-    storage.setFilter(QDir::Files | QDir::NoSymLinks | QDir::Hidden);
-    for (const QString &file : storage.entryList()) {
-        if (FileInfo::baseName(file) == base)
-            storage.remove(file);
+        return taken;
+    const QSet<QByteArray> inUse = FilesInUse::names();
+    const QDir storage(Target::path(FileInfo::storagePath()));
+    for (const QString &file : storage.entryList(QDir::Files | QDir::NoSymLinks | QDir::Hidden)) {
+        if (FileInfo::baseName(file) == base && !inUse.contains(QFile::encodeName(file)))
+            taken << Leaving::take(QFile::encodeName(file));
     }
+    return taken;
+}
+
+void freeFiles(const QByteArrayList &taken)
+{
+    for (const QByteArray &file : taken)
+        Leaving::free(file);
+}
+
+QStringList withoutBase(const QStringList &lines, const QString &base)
+{
+    QStringList kept;
+    for (const QString &line : lines) {
+        if (FileInfo::baseName(nameOf(line)) != base)
+            kept << line;
+    }
+    return kept;
+}
+
+/// Names that the disk worker is about to enter: as good as entered.
+struct Coming
+{
+    QMutex mutex;
+    QStringList names;
+};
+
+std::shared_ptr<Coming> coming()
+{
+    static const auto names = std::make_shared<Coming>(); // jobs hold it, too: they may outlive what is static
+    return names;
 }
 
 } // namespace
@@ -149,9 +183,19 @@ bool FileInfo::testInfo() const
 
 QStringList FileInfo::getInfoFiles() const
 {
+    QStringList soon; // asked first: what is entered meanwhile is then in the index
+    {
+        const std::shared_ptr<Coming> names = coming();
+        const QMutexLocker lock(&names->mutex);
+        soon = names->names;
+    }
     QStringList names;
     for (const QString &line : readInfo())
         names << nameOf(line);
+    for (const QString &name : soon) {
+        if (!names.contains(name))
+            names << name;
+    }
     return names;
 }
 
@@ -179,13 +223,36 @@ bool FileInfo::removeInfo(const QString &name) const
     const QString base = baseName(name);
     return rewrite("removeInfo", Writing::Always, [&base](const QStringList &lines) {
         // The files go first: on a full card only that makes the room which the new index needs.
-        removeFiles(base);
-        QStringList kept;
-        for (const QString &line : lines) {
-            if (baseName(nameOf(line)) != base)
-                kept << line;
-        }
-        return kept;
+        freeFiles(takeFiles(base));
+        return withoutBase(lines, base);
+    });
+}
+
+void FileInfo::saveInfoBehind(const QString &name, const QDateTime &localTime) const
+{
+    const std::shared_ptr<Coming> names = coming();
+    {
+        const QMutexLocker lock(&names->mutex);
+        names->names << entryName(name);
+    }
+    DiskWorker::instance().run([name, localTime, names] {
+        FileInfo().saveInfo(name, localTime);
+        const QMutexLocker lock(&names->mutex);
+        names->names.removeOne(entryName(name));
+    });
+}
+
+void FileInfo::removeInfoBehind(const QString &name) const
+{
+    QStringList lines;
+    if (!linesToRewrite(&lines)) {
+        QUVERA_DEBUG("open fail: removeInfo");
+        return;
+    }
+    const QString base = baseName(name);
+    DiskWorker::instance().run([base, taken = takeFiles(base)] {
+        freeFiles(taken);
+        rewrite("removeInfo", Writing::Always, [&base](const QStringList &now) { return withoutBase(now, base); });
     });
 }
 

@@ -14,14 +14,20 @@ class FileInfo
 public:
     QStringList readInfo() const; // the lines
     bool testInfo() const; // whether the index is readable
-    QStringList getInfoFiles() const; // the names
+    QStringList getInfoFiles() const; // the names, also those that are about to be entered
     bool testFileexist(const QString &name) const;
     /// Adds the entry or replaces those of the same base name; false when the index could not be read or written.
     /// `localTime` is the time of saving in the user's zone.
     bool saveInfo(const QString &name, const QDateTime &localTime) const;
-    /// Deletes the stored files of the name's base name, then removes its entries. False when the index could not be
-    /// read (then nothing is deleted) or written (then the files are gone and the entries stay).
+    /// Deletes the stored files of the name's base name, but for what is being recorded, then removes its entries.
+    /// False when the index could not be read (then nothing is deleted) or written (then the files are gone and the
+    /// entries stay).
     bool removeInfo(const QString &name) const;
+    /// The same two for the main thread, which waits for no card: the disk worker writes the index, in the order of the
+    /// calls, and frees what the files took. Their names are free, and the entry's name is taken, when the call
+    /// returns.
+    void saveInfoBehind(const QString &name, const QDateTime &localTime) const;
+    void removeInfoBehind(const QString &name) const;
     /// Removes the entries of exactly these names, in one writing however many they are; files are left alone.
     bool removeEntries(const QStringList &names) const;
     /// Removes the entries that are not among \a present (entry names with their times) and appends what is missing.

@@ -4,6 +4,7 @@
 #include "platform/target.h"
 #include "storage/fileinfo.h"
 #include "storage/filesinuse.h"
+#include "storage/leaving.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -11,6 +12,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cerrno>
 #include <dirent.h>
 #include <fcntl.h>
 #include <filesystem>
@@ -44,17 +46,20 @@ unsigned char typeOf(const QByteArray &file)
     return S_ISDIR(info.st_mode) ? DT_DIR : S_ISREG(info.st_mode) ? DT_REG : DT_UNKNOWN;
 }
 
-/// All that is not hidden in the storage.
-QVector<Entry> visibleEntries()
+/// All that is not hidden in the storage; false when that could not be read to its end.
+bool visibleEntries(QVector<Entry> *entries)
 {
-    QVector<Entry> entries;
     const std::unique_ptr<DIR, int (*)(DIR *)> folder(::opendir(realPath({}).constData()), ::closedir);
-    while (const dirent *entry = folder ? ::readdir(folder.get()) : nullptr) {
+    if (!folder)
+        return errno == ENOENT;
+    errno = 0;
+    while (const dirent *entry = ::readdir(folder.get())) {
         const QByteArray name(entry->d_name);
         if (!name.startsWith('.') && name != kFileSystemsOwn)
-            entries << Entry { name, entry->d_type == DT_UNKNOWN ? typeOf(name) : entry->d_type };
+            *entries << Entry { name, entry->d_type == DT_UNKNOWN ? typeOf(name) : entry->d_type };
+        errno = 0;
     }
-    return entries;
+    return errno == 0;
 }
 
 /// Times of the index by its names.
@@ -99,13 +104,12 @@ bool removeWhole(const QByteArray &file)
     return !error;
 }
 
-} // namespace
-
-QVector<StoredItem> StoredItems::read(const QTimeZone &zone)
+bool itemsOf(const QTimeZone &zone, QVector<StoredItem> *items)
 {
-    QVector<StoredItem> items;
     const QHash<QString, QString> times = indexedTimes();
-    for (const Entry &entry : visibleEntries()) {
+    QVector<Entry> entries;
+    const bool whole = visibleEntries(&entries);
+    for (const Entry &entry : entries) {
         if (entry.type != DT_REG && entry.type != DT_DIR)
             continue;
         StoredItem item { entry.name, QFile::decodeName(entry.name), entry.type == DT_DIR, {} };
@@ -114,8 +118,17 @@ QVector<StoredItem> StoredItems::read(const QTimeZone &zone)
             item.time = timeInName(item.name);
         if (item.time.isEmpty())
             item.time = timeOfFile(entry.name, zone);
-        items << item;
+        *items << item;
     }
+    return whole;
+}
+
+} // namespace
+
+QVector<StoredItem> StoredItems::read(const QTimeZone &zone)
+{
+    QVector<StoredItem> items;
+    itemsOf(zone, &items);
     std::sort(items.begin(), items.end(), [](const StoredItem &a, const StoredItem &b) {
         return a.time != b.time ? a.time > b.time : a.file < b.file;
     });
@@ -145,9 +158,13 @@ bool StoredItems::removeAll()
 {
     if (!FilesInUse::names().isEmpty())
         return false;
+    // All names are free before the long part begins: what is recorded meanwhile may have one of them.
+    QVector<Entry> entries;
+    visibleEntries(&entries);
+    for (const Entry &entry : entries)
+        Leaving::take(entry.name);
     removeWhole(QFile::encodeName(FileInfo::indexPath().mid(FileInfo::storagePath().size())));
-    for (const Entry &entry : visibleEntries())
-        removeWhole(entry.name);
+    Leaving::freeAll();
     Target::shell(QStringLiteral("sync"));
     QUVERA_DEBUG("format large storage!!!");
     return true;
@@ -155,8 +172,12 @@ bool StoredItems::removeAll()
 
 void StoredItems::mendIndex(const QTimeZone &zone)
 {
+    QVector<StoredItem> items;
+    if (!itemsOf(zone, &items))
+        return; // a card that cannot be read is not an empty one
     QHash<QString, QString> present;
-    for (const StoredItem &item : read(zone))
+    for (const StoredItem &item : items)
         present.insert(FileInfo::entryName(item.name), item.time);
     FileInfo().mend(present);
+    Leaving::freeAll();
 }

@@ -25,9 +25,11 @@ public:
     /// Takes items away, folders with all that is in them, and their entries; then everything is brought to the card.
     /// What is in use stays. Names that are still there come back.
     static QList<QByteArray> remove(const QList<QByteArray> &files);
-    /// Takes everything away, with the index. False: something is in use, and nothing was touched.
+    /// Takes everything away, with the index: the names first, so that what begins to be recorded meanwhile stays.
+    /// False: something is in use, and nothing was touched.
     static bool removeAll();
     /// Makes the index name what is there: entries without a file go, and what stands there without an entry, such as
-    /// a recording that a lost supply ended, gets one.
+    /// a recording that a lost supply ended, gets one. What was about to go then goes. A storage that cannot be read
+    /// changes nothing.
     static void mendIndex(const QTimeZone &zone);
 };

@@ -4,26 +4,17 @@
 #include "platform/target.h"
 #include "settings/localtime.h"
 #include "storage/fileinfo.h"
+#include "storage/leaving.h"
 #include "storage/runjournal.h"
 
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 namespace {
 
 constexpr int kLongestName = 80; // characters; a name of the file system has room for 255 bytes
-constexpr char kLeaving[] = ".leaving "; // stands before the name of a folder whose files are being removed
-
-/// Removes what is leaving, also what a lost supply left of it.
-void removeLeaving()
-{
-    DiskWorker::slow().run([storage = QDir(Target::path(FileInfo::storagePath()))] {
-        const QString pattern = QLatin1String(kLeaving) + QLatin1Char('*');
-        for (const QString &folder : storage.entryList({ pattern }, QDir::Dirs | QDir::Hidden | QDir::NoSymLinks))
-            QDir(storage.filePath(folder)).removeRecursively();
-    });
-}
 
 /// A name of the user's as a part of the name of a folder.
 QString plainName(const QString &name)
@@ -56,8 +47,8 @@ bool RecordFolder::create(const QString &record)
         return false;
     }
     RunJournal::instance().begin(m_name);
-    DiskWorker::instance().run([name = m_name, now] { FileInfo().saveInfo(name, now); });
-    removeLeaving();
+    FileInfo().saveInfoBehind(m_name, now);
+    DiskWorker::slow().run(Leaving::freeAll); // what a lost supply left
     return true;
 }
 
@@ -70,12 +61,10 @@ void RecordFolder::remove()
 {
     if (m_name.isEmpty())
         return;
-    QDir storage(Target::path(FileInfo::storagePath()));
-    if (!storage.rename(m_name, QLatin1String(kLeaving) + m_name))
-        DiskWorker::slow().run([path = storage.filePath(m_name)] { QDir(path).removeRecursively(); });
+    Leaving::take(QFile::encodeName(m_name));
     DiskWorker::instance().run([name = m_name] { FileInfo().removeEntries({ name }); });
     m_name.clear();
-    removeLeaving();
+    DiskWorker::slow().run(Leaving::freeAll);
 }
 
 QString RecordFolder::path() const

@@ -1,5 +1,6 @@
 #include "views/wave/wavesetup.h"
 
+#include "platform/target.h"
 #include "record/wavefile.h"
 #include "settings/config_data.h"
 #include "settings/localtime.h"
@@ -8,6 +9,8 @@
 #include "widgets/dialogs/message.h"
 #include "widgets/dialogs/savedialog.h"
 #include "widgets/dialogs/virtualkeyboard.h"
+
+#include <QFile>
 
 #include <algorithm>
 
@@ -104,13 +107,15 @@ bool WaveSetup::nameIsFree()
     const auto sameName = std::find_if(stored.begin(), stored.end(), [&file](const QString &other) {
         return FileInfo::baseName(other) == FileInfo::baseName(file);
     });
-    if (sameName == stored.end())
+    // A picture that was saved under the same base name took the entry of a capture, which stands there all the same.
+    const bool entered = sameName != stored.end();
+    if (!entered && !QFile::exists(Target::path(FileInfo::storagePath() + file)))
         return true;
-    const QString question
-        = SaveDialog::tr("The file \"") + *sameName + SaveDialog::tr("\" is exist.\nDo you want to overwrite it?");
+    const QString question = SaveDialog::tr("The file \"") + (entered ? *sameName : file)
+        + SaveDialog::tr("\" is exist.\nDo you want to overwrite it?");
     if (Message::showMessage(Message::YesNo, question) != Message::Yes)
         return false;
-    FileInfo().removeInfo(file);
+    FileInfo().removeInfoBehind(file);
     return true;
 }
 

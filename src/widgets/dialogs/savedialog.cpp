@@ -15,7 +15,7 @@ int SaveDialog::save(int filter, QString &name)
     if (dialog.exec() != QDialog::Accepted)
         return NoFile;
     name = dialog.name();
-    FileInfo().saveInfo(name, LocalTime::currentDateTime());
+    FileInfo().saveInfoBehind(name, LocalTime::currentDateTime());
     return dialog.fileType();
 }
 
@@ -101,6 +101,6 @@ bool SaveDialog::CoverorNot(const QString &name)
     const QString question = tr("The file \"") + name + tr("\" is exist.\nDo you want to overwrite it?");
     if (Message::showMessage(Message::YesNo, question) != Message::Yes)
         return false;
-    FileInfo().removeInfo(name);
+    FileInfo().removeInfoBehind(name);
     return true;
 }

@@ -4,6 +4,8 @@
 #include "platform/target.h"
 #include "record/pqafile.h"
 #include "unit/documentpage.h"
+#include "unit/storage/helddisk.h"
+#include "unit/storage/rootfiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -32,6 +34,7 @@ private slots:
     void aPageWithoutARecordStoresThePictureOnly();
     void storedFilesReplaceOldOnes();
     void temporariesGoWhenStored();
+    void aCardThatDoesNotAnswerHoldsUpNobody();
     void anEmptyRecordIsWrittenWithoutData();
     void aFailedOpenLeavesEverythingSilentlyUnwritten();
     void knownRecordSizesAreStoredWhole_data();
@@ -229,6 +232,21 @@ void TstPqaFile::storedFilesReplaceOldOnes()
     const QByteArray built = read(PqaFile::dataPath());
     file.saveDataFile(QStringLiteral("Scope1.pqa"));
     QCOMPARE(read(QStringLiteral("/mnt/storage/Scope1.pqa")), built);
+}
+
+void TstPqaFile::aCardThatDoesNotAnswerHoldsUpNobody()
+{
+    RootFiles::commands(); // of the tests before
+    QFile::remove(Target::path("/var/log/commands"));
+    {
+        const HeldDisk held;
+        PqaFile file(2, Derived {}, "png");
+        file.writeFileData("data", 4);
+        file.saveDataFile(QStringLiteral("a.pqa"));
+        QVERIFY(!RootFiles::exists("/var/log/commands")); // nobody waits for a sync here
+    }
+    QVERIFY(RootFiles::commands().contains("sync\n"));
+    QVERIFY(RootFiles::exists("/mnt/storage/a.pqa"));
 }
 
 void TstPqaFile::temporariesGoWhenStored()

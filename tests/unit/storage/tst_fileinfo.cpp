@@ -4,6 +4,7 @@
 
 #include "storage/fileinfo.h"
 #include "unit/storage/filelimit.h"
+#include "unit/storage/helddisk.h"
 #include "unit/storage/rootfiles.h"
 #include "unit/storage/wornfile.h"
 
@@ -18,6 +19,12 @@ void touch(const QString &boardPath, int seconds)
     const timeval times[2] = { { seconds, 0 }, { seconds, 0 } };
     if (::utimes(QFile::encodeName(Target::path(boardPath)).constData(), times) != 0)
         qFatal("cannot set the time of %s", qPrintable(boardPath));
+}
+
+QStringList hiddenOnCard()
+{
+    return QDir(Target::path("/mnt/storage"))
+        .entryList({ ".*" }, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
 }
 }
 
@@ -144,6 +151,52 @@ private slots:
             QVERIFY(!FileInfo().saveInfo("c.pqa", kSaved));
         }
         QCOMPARE(RootFiles::read(kIndex), old);
+    }
+
+    void whatIsBeingRecordedStaysWhereAFileOfItsBaseNameGoes()
+    {
+        RootFiles::write(kIndex, "Pump.png,x\n");
+        RootFiles::write("/mnt/storage/Pump.png", "data");
+        RootFiles::write("/mnt/storage/Pump.wav", "data");
+        QFile capture(Target::path("/mnt/storage/Pump.wav"));
+        QVERIFY(capture.open(QIODevice::ReadWrite));
+        QVERIFY(FileInfo().removeInfo("Pump.png"));
+        QVERIFY(!RootFiles::exists("/mnt/storage/Pump.png"));
+        QVERIFY(RootFiles::exists("/mnt/storage/Pump.wav"));
+    }
+
+    void theMainThreadWaitsForNoCardToReplaceAFile()
+    {
+        RootFiles::write(kIndex, "a.png,x\nb.png,x\n");
+        RootFiles::write("/mnt/storage/a.png", "old");
+        {
+            const HeldDisk held;
+            FileInfo().removeInfoBehind("a.png");
+            QVERIFY(!RootFiles::exists("/mnt/storage/a.png")); // the name is free
+            FileInfo().saveInfoBehind("a.png", kSaved);
+            FileInfo().saveInfoBehind("c.png", kSaved);
+            RootFiles::write("/mnt/storage/a.png", "new");
+            QCOMPARE(RootFiles::read(kIndex), QByteArray("a.png,x\nb.png,x\n"));
+            QCOMPARE(FileInfo().getInfoFiles(), QStringList({ "a.png", "b.png", "c.png" }));
+            QCOMPARE(FileInfo().getDefaultFileName("c", ".png"), QString("c1.png"));
+            FileInfo().saveInfoBehind("c1.png", kSaved);
+            QCOMPARE(FileInfo().getDefaultFileName("c", ".png"), QString("c2.png")); // not the same one twice
+        }
+        QCOMPARE(RootFiles::read(kIndex),
+                 QByteArray("b.png,x\na.png,2023-11-14 22:13:20\nc.png,2023-11-14 22:13:20\n"
+                            "c1.png,2023-11-14 22:13:20\n"));
+        QCOMPARE(FileInfo().getInfoFiles(), QStringList({ "b.png", "a.png", "c.png", "c1.png" }));
+        QCOMPARE(RootFiles::read("/mnt/storage/a.png"), QByteArray("new"));
+        QCOMPARE(hiddenOnCard(), QStringList { ".infomation" }); // the old one is gone for good
+    }
+
+    void behindAnIndexThatCannotBeReadNothingIsRemoved()
+    {
+        QVERIFY(makeWornFile(kIndex));
+        RootFiles::write("/mnt/storage/a.pqa", "data");
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("open fail: removeInfo"));
+        FileInfo().removeInfoBehind("a.pqa");
+        QVERIFY(RootFiles::exists("/mnt/storage/a.pqa"));
     }
 
     void onAFullCardTheFilesGoBeforeTheIndexIsMended()

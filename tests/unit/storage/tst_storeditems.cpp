@@ -5,13 +5,16 @@
 #include "platform/diskworker.h"
 #include "storage/fileinfo.h"
 #include "storage/filesinuse.h"
+#include "storage/leaving.h"
 #include "storage/storeditems.h"
 #include "unit/storage/filelimit.h"
+#include "unit/storage/ordinaryuser.h"
 #include "unit/storage/rootfiles.h"
 
 #include <ctime>
 #include <sys/stat.h>
 #include <sys/time.h>
+#include <thread>
 #include <unistd.h>
 
 namespace {
@@ -238,6 +241,49 @@ private slots:
         QVERIFY(StoredItems::removeAll());
         QCOMPARE(onCard(), QStringList());
         QVERIFY(commands().endsWith("sync\n"));
+    }
+
+    void whatIsSavedWhileTheCardIsFormattedStays()
+    {
+        QByteArrayList names;
+        for (int i = 0; i < 3000; ++i) {
+            names << "Vif_" + QByteArray::number(i) + ".png";
+            store(names.last(), "old");
+        }
+        RootFiles::write(kIndex, "a.png,x\n");
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("format large storage!!!"));
+        std::thread format([] { StoredItems::removeAll(); });
+        while (RootFiles::exists(kIndex))
+            std::this_thread::yield();
+        for (int i = 0; i < 20; ++i)
+            store(names.at(i * 150), "new");
+        format.join();
+        QCOMPARE(onCard().size(), 20);
+        for (int i = 0; i < 20; ++i)
+            QCOMPARE(RootFiles::read(kStorage + names.at(i * 150)), QByteArray("new"));
+    }
+
+    void whatWasGoingWhenTheSupplyWentGoesWithTheNextStart()
+    {
+        store(".leaving 1", "data");
+        store(".leaving 2/Common.pqa2");
+        store("rec/Common.pqa2");
+        QVERIFY(!Leaving::take("rec").isEmpty()); // beside those that are there already
+        QVERIFY(Leaving::take("rec").isEmpty());
+        QCOMPARE(onCard().size(), 3);
+        StoredItems::mendIndex(kWarsaw);
+        QCOMPARE(onCard(), QStringList());
+    }
+
+    void aFolderThatCannotBeReadIsNoEmptyCard()
+    {
+        RootFiles::write(kIndex, "gone.png,x\n");
+        const QByteArray folder = QFile::encodeName(Target::path(kStorage));
+        OrdinaryUser user;
+        user.setFolderMode(folder, 0333); // what stands in it cannot be listed
+        StoredItems::mendIndex(kWarsaw);
+        user.setFolderMode(folder, 0777);
+        QCOMPARE(RootFiles::read(kIndex), QByteArray("gone.png,x\n"));
     }
 
     void deletingWorksOnAFullCardAndMendsTheIndexLater()

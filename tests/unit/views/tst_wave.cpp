@@ -46,6 +46,7 @@ private slots:
     void typedNameStaysUntilItIsTaken();
     void droppedNameChangesNothing();
     void nameOfAStoredFileIsAskedFor();
+    void aCaptureThatTheIndexForgotIsAskedFor();
     void withoutRoomNothingStarts();
     void downAndF1GoOnAndUpGoesBack();
     void enterChoosesATimedStart();
@@ -229,8 +230,20 @@ void TstWave::nameOfAStoredFileIsAskedFor()
     press(setup(), F5);
     QVERIFY(yes.isDone());
     QCOMPARE(started.count(), 1);
-    QVERIFY(!FileInfo().testFileexist("Pump.png"));
     QVERIFY(!RootFiles::exists("/mnt/storage/Pump.png"));
+    QVERIFY(!RootFiles::isIndexed("Pump.png"));
+}
+
+void TstWave::aCaptureThatTheIndexForgotIsAskedFor()
+{
+    RootFiles::write("/mnt/storage/Pump.wav", "data"); // a picture "Pump.png" took its entry, and was deleted
+    *WaveInfo::m_wave_file = "Pump";
+    QSignalSpy started(m_page.get(), &Wave::startWaveTask);
+    DialogDriver no({ Typing::answered("The file \"Pump.wav\" is exist.\nDo you want to overwrite it?", 'L') });
+    press(setup(), F5);
+    QVERIFY(no.isDone());
+    QCOMPARE(started.count(), 0);
+    QCOMPARE(RootFiles::read("/mnt/storage/Pump.wav"), QByteArray("data"));
 }
 
 void TstWave::withoutRoomNothingStarts()

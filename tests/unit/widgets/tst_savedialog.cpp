@@ -4,6 +4,8 @@
 #include "platform/target.h"
 #include "settings/config_data.h"
 #include "storage/fileinfo.h"
+#include "unit/storage/helddisk.h"
+#include "unit/storage/rootfiles.h"
 #include "widgets/dialogs/message.h"
 #include "widgets/dialogs/savedialog.h"
 #include "widgets/dialogs/virtualkeyboard.h"
@@ -32,6 +34,7 @@ private slots:
     void anExistingFileIsAskedAbout();
     void noKeepsTheDialogOpen();
     void yesRemovesTheOldEntryAndFile();
+    void aCardThatDoesNotAnswerHoldsUpNobody();
     void aFileThatTheIndexForgotIsAskedAboutToo();
     void withAllDefaultNamesTakenOkWaitsForAName();
 };
@@ -55,6 +58,7 @@ static void enterIndex(const QString &name)
 
 void TstSaveDialog::init()
 {
+    RootFiles::waitForDisks();
     QDir storage(Target::path(FileInfo::storagePath()));
     storage.removeRecursively();
     QVERIFY(storage.mkpath(QStringLiteral(".")));
@@ -129,7 +133,7 @@ void TstSaveDialog::theIndexTellsTheTimeInTheUsersZone()
     QCOMPARE(SaveDialog::save(1, name), 1);
     Clock::useSystem();
     m_userConfig_g.setTimeZone("UTC");
-    QCOMPARE(FileInfo().readInfo(), QStringList { "VAHz1.png,2023-11-14 23:13:20" });
+    QCOMPARE(RootFiles::index(), QStringList { "VAHz1.png,2023-11-14 23:13:20" });
 }
 
 void TstSaveDialog::dataFileHasItsOwnType()
@@ -241,7 +245,24 @@ void TstSaveDialog::yesRemovesTheOldEntryAndFile()
     QString name = QStringLiteral("VAHz");
     QCOMPARE(SaveDialog::save(1, name), 1);
     QVERIFY(!QFile::exists(stored(QStringLiteral("q.png")))); // the page writes the new one
-    QCOMPARE(FileInfo().getInfoFiles(), QStringList { "q.png" });
+    QVERIFY(RootFiles::isIndexed(QStringLiteral("q.png")));
+    QCOMPARE(RootFiles::index().size(), 1);
+}
+
+void TstSaveDialog::aCardThatDoesNotAnswerHoldsUpNobody()
+{
+    enterIndex(QStringLiteral("q.png"));
+    writeStored(QStringLiteral("q.png"));
+    const QStringList before = RootFiles::index();
+    {
+        const HeldDisk held;
+        DialogDriver driver(saveAsQ() << DialogDriver::press("F"));
+        QString name = QStringLiteral("VAHz");
+        QCOMPARE(SaveDialog::save(1, name), 1);
+        QVERIFY(!QFile::exists(stored(QStringLiteral("q.png"))));
+        QCOMPARE(FileInfo().readInfo(), before);
+    }
+    QVERIFY(RootFiles::index() != before);
 }
 
 void TstSaveDialog::aFileThatTheIndexForgotIsAskedAboutToo()
