@@ -26,11 +26,13 @@ struct Trace
 inline void secondIsOver(Trace *trace)
 {
     DiskWorker::instance().wait();
+    DiskWorker::instance().wait(); // for what that asked for itself: a sync behind each change
     trace->seconds << CardCalls::taken().size();
 }
 
 inline void finish(Trace *trace)
 {
+    RootFiles::waitForDisks();
     RootFiles::waitForDisks();
     trace->calls = CardCalls::taken();
     trace->failing = CardCalls::calls();
