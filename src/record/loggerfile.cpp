@@ -15,7 +15,8 @@ QString LoggerFile::fileName() const
 
 bool LoggerFile::open(const QDateTime &localTime)
 {
-    return isOpen() || (!m_stem.isEmpty() && m_file.open(fileName(), localTime));
+    const bool isThere = isOpen() && m_file.name() == fileName();
+    return isThere || (!m_stem.isEmpty() && m_file.open(fileName(), localTime));
 }
 
 void LoggerFile::save(bool keep)

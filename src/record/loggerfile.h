@@ -14,7 +14,8 @@ public:
     /// On another device.
     LoggerFile(const QString *stem, std::unique_ptr<Pqa2Device> device);
 
-    /// Starts the file of the number that is due anew and enters it in the index; \a localTime is the time of day of
+    /// Starts the file of the number that is due anew, unless it is the open one, and enters it in the index; a file of
+    /// the number before is closed, and at no moment is neither named as running. \a localTime is the time of day of
     /// the user's zone. False: there is no open file.
     bool open(const QDateTime &localTime);
     bool isOpen() const { return m_file.isOpen(); }

@@ -23,13 +23,17 @@ StoredFile::~StoredFile()
 
 bool StoredFile::open(const QString &name, const QDateTime &localTime)
 {
-    close();
-    if (!m_device->open(FileInfo::storagePath() + name))
+    const QString before = m_open ? m_name : QString();
+    if (m_open)
+        m_device->close();
+    m_open = m_device->open(FileInfo::storagePath() + name);
+    if (!m_open) {
+        RunJournal::instance().end(before);
         return false;
+    }
     m_name = name;
-    m_open = true;
     m_flushed = Clock::elapsed();
-    RunJournal::instance().begin(name);
+    RunJournal::instance().begin(name, before == name ? QString() : before);
     FileInfo().saveInfoBehind(name, localTime);
     return true;
 }

@@ -18,8 +18,8 @@ public:
     StoredFile(const StoredFile &) = delete;
     StoredFile &operator=(const StoredFile &) = delete;
 
-    /// Starts the file \a name anew and, on the disk's own thread, enters it in the index; \a localTime is the time of
-    /// day of the user's zone. False: there is no open file.
+    /// Starts the file \a name anew, in place of the one that is open, and, on the disk's own thread, enters it in the
+    /// index; \a localTime is the time of day of the user's zone. False: there is no open file.
     bool open(const QString &name, const QDateTime &localTime);
     bool isOpen() const { return m_open; }
     QString name() const { return m_name; } // with its suffix; of the last one that was opened

@@ -63,12 +63,13 @@ QString RunJournal::path()
     return FileInfo::storagePath() + QStringLiteral(".running");
 }
 
-void RunJournal::begin(const QString &name)
+void RunJournal::begin(const QString &name, const QString &instead)
 {
     if (!isPlain(name))
         return;
     {
         const std::lock_guard<std::mutex> lock(m_state->mutex);
+        m_state->running.removeAll(instead);
         m_state->interrupted.removeAll(name); // the new one takes its place
         if (!m_state->running.contains(name))
             m_state->running << name;

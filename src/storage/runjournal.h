@@ -15,8 +15,9 @@ public:
     /// Takes in what the run of the program before left.
     RunJournal();
 
-    /// The file or folder of that name in "/mnt/storage/" is being written from now on.
-    void begin(const QString &name);
+    /// The file or folder of that name in "/mnt/storage/" is being written from now on; \a instead of the one that it
+    /// goes on from, which has ended well: no moment lies between the two.
+    void begin(const QString &name, const QString &instead = {});
     /// It ended well: it is forgotten when everything that was asked of the disk thread before is done.
     void end(const QString &name);
 

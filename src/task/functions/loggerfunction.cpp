@@ -84,7 +84,6 @@ void LoggerFunction::writeLoggerData()
     m_samples = 0;
     if (m_lines >= m_maxLines) {
         m_lines = 0;
-        m_file->save(true);
         m_file->incFileIndex();
         writeLoggerHeader();
     }

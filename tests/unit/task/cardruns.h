@@ -132,7 +132,6 @@ inline Trace logger(const CardCalls::Fault &fault)
         secondIsOver(&trace);
         if (second != s_seconds / 2)
             continue;
-        file.save(true);
         file.incFileIndex();
         file.open(now);
     }
