@@ -507,11 +507,11 @@ void TstMemoryPage::thousandsAreDeletedWhileTheScreenGoesOn()
     QCOMPARE(screen.list()->count(), kFiles);
     Answers answers("F");
     screen.press({ F3, F1, F4 });
+    QVERIFY(screen.page->isBusy()); // the key is through, what it began is not
     Pulse pulse;
     screen.wait();
     QCOMPARE(screen.list()->count(), 0);
     QVERIFY(FileInfo().getInfoFiles().isEmpty());
-    QVERIFY(pulse.turns > 10);
     // What stands in the way of the measurement would be seconds.
     QVERIFY2(pulse.longestMs < 500, qPrintable(QString::number(pulse.longestMs)));
 }
