@@ -17,7 +17,7 @@ class AbstractTask : public QObject
 
 public:
     /// What the universal task does besides keeping the display records fresh.
-    enum UniFunction { UniBasic = 1, UniWave = 2, UniLogger = 3, UniMonitor = 4, UniPowerInverter = 5 };
+    enum UniFunction : int { UniBasic = 1, UniWave = 2, UniLogger = 3, UniMonitor = 4, UniPowerInverter = 5 };
 
     explicit AbstractTask(QObject *parent = nullptr);
     ~AbstractTask() override;
