@@ -22,16 +22,21 @@ function(quvera_link_quickly TARGET)
   endif()
 endfunction()
 
-# quvera_folder(<folder> [FIRST <files...>] [LIBS <libraries...>] [OPTIMISED <files...>] [SCREEN <files...>])
+# quvera_folder(<folder> [FIRST <files...>] [LIBS <libraries...>] [OPTIMISED <files...>] [SCREEN <files...>]
+#               [APART <folders...>])
 # All sources, headers and forms of the folder and of the folders in it.
 #   FIRST: sources whose static objects are built before those of the others, in this order.
 #   OPTIMISED: units with hot loops, compiled with -O3 when not debugging.
 #   SCREEN: sources and headers of a core folder that need the screen's toolkit: a library beside it, qv_<folder>_screen.
+#   APART: folders in it that the instrument does without; each has a library and a CMakeLists.txt of its own.
 function(quvera_folder FOLDER)
-  cmake_parse_arguments(ARG "" "" "FIRST;LIBS;OPTIMISED;SCREEN" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "FIRST;LIBS;OPTIMISED;SCREEN;APART" ${ARGN})
   set(objects qv_${FOLDER}_objects)
   file(GLOB sources CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} *.cpp *.h */*.cpp */*.h)
   file(GLOB forms CONFIGURE_DEPENDS RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} *.ui */*.ui)
+  foreach(apart IN LISTS ARG_APART)
+    list(FILTER sources EXCLUDE REGEX "^${apart}/")
+  endforeach()
   if(ARG_FIRST OR ARG_SCREEN)
     list(REMOVE_ITEM sources ${ARG_FIRST} ${ARG_SCREEN})
   endif()
@@ -69,6 +74,9 @@ function(quvera_folder FOLDER)
     quvera_folder_libraries(qv_${FOLDER}_screen pch_gui "${below};qv_${FOLDER}"
                             Qt5::Core Qt5::Gui Qt5::Widgets Qt5::Xml Qt5::Network Threads::Threads)
   endif()
+  foreach(apart IN LISTS ARG_APART)
+    add_subdirectory(${apart})
+  endforeach()
 endfunction()
 
 # The two libraries of a folder, by the name of the shared one: how they are compiled and what they are linked with.

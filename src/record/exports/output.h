@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QString>
+
+/// Where an export goes, and what it reads.
+struct OutputPlace
+{
+    QString target; // as the user named it
+    QString input; // the file or folder that is read: nothing is ever written into it
+    bool force = false; // an earlier export of that name is replaced
+};
+
+/// A file or a folder that is there whole or not at all. It grows under a hidden name beside its target and takes the
+/// target's name at the end; without finish() nothing of it stays, so it has to be destroyed on every way out, an
+/// interruption by the user too. What the target's name stands for already is never lost to a failed export. A file or
+/// folder that no export can have made is not replaced, whatever the user said.
+class Output
+{
+public:
+    enum Kind : quint8 { File, Folder };
+    /// Whether an export of this kind writes files of that name into its folder ("rms.csv", "waveforms/0001.csv").
+    using Writes = bool (*)(const QString &name);
+
+    /// \a writes is asked for folders alone; without it no folder is replaced.
+    Output(Kind kind, OutputPlace place, Writes writes = nullptr);
+    ~Output();
+    Output(const Output &) = delete;
+    Output &operator=(const Output &) = delete;
+
+    /// Checks the target and makes the empty file or folder that is to be filled.
+    bool begin();
+    /// The one to be filled; while there is none, empty.
+    QString path() const { return m_path; }
+    /// A folder in the folder that is to be filled.
+    bool makeFolder(const QString &name);
+    /// Everything is written and closed: puts it in place, once the disk has taken all of it.
+    bool finish();
+
+    /// Keeps what went wrong in the output; \a name is that of a file in the folder, or empty. Answers false.
+    bool fail(const QString &name, const QString &reason);
+    /// The first thing that went wrong, with the name that the user knows.
+    QString error() const { return m_error; }
+
+private:
+    bool isFree();
+    bool isReplaceable();
+    bool holdsNothingElse();
+    bool isApartFromInput();
+    bool make();
+    bool sync();
+    bool putInPlace();
+    bool exchangeFolders();
+    bool failBySystem();
+
+    const Kind m_kind;
+    const OutputPlace m_place;
+    const QString m_target; // without a slash at its end
+    const Writes m_writes;
+    QString m_path;
+    QString m_error;
+};

@@ -1,0 +1,366 @@
+#include "record/exports/output.h"
+#include "record/exports/outputfile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <csignal>
+
+namespace {
+
+bool isTableName(const QString &name)
+{
+    return name.endsWith(QStringLiteral(".csv"));
+}
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("no such file");
+}
+
+void put(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+}
+
+bool fill(const QString &path, const QByteArray &content)
+{
+    OutputFile file;
+    file.open(path);
+    file.write(content);
+    return file.close();
+}
+
+} // namespace
+
+/// An export is there whole or not at all, and nothing that is no export is lost to it.
+class TstOutput : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        m_folder.reset(new QTemporaryDir);
+        QVERIFY(m_folder->isValid());
+    }
+
+    void fileTakesItsNameAtTheEndOnly();
+    void folderTakesItsNameAtTheEndOnly();
+    void unfinishedOutputLeavesNothing_data();
+    void unfinishedOutputLeavesNothing();
+    void existingTargetIsRefusedWithoutForce_data();
+    void existingTargetIsRefusedWithoutForce();
+    void forceReplacesAnEarlierFile();
+    void forceReplacesAnEarlierFolderAsAWhole();
+    void failedReplacementKeepsTheEarlierOutput();
+    void forceReplacesNothingThatIsNoExport();
+    void nothingIsWrittenIntoTheInput();
+    void whatAppearsMeanwhileStays();
+    void missingFolderAndMissingNameAreNamed();
+    void slashAtTheEndOfAFolderIsNothing();
+    void largePiecesAndSmallOnesStandInOrder();
+    void refusedWriteIsToldWhenTheFileIsClosed();
+    void fileNeverFollowsALink();
+
+private:
+    QString at(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
+    /// Everything in the test's folder, hidden names too.
+    QStringList names() const
+    {
+        return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+};
+
+void TstOutput::fileTakesItsNameAtTheEndOnly()
+{
+    Output output(Output::File, { at("out.db"), QString(), false });
+    QVERIFY2(output.begin(), qPrintable(output.error()));
+    QVERIFY(fill(output.path(), "content"));
+    QVERIFY(!QFile::exists(at("out.db")));
+    QCOMPARE(QFileInfo(output.path()).path(), m_folder->path()); // a rename must not cross disks
+    QVERIFY2(output.finish(), qPrintable(output.error()));
+    QCOMPARE(names(), QStringList("out.db"));
+    QCOMPARE(contentOf(at("out.db")), QByteArray("content"));
+}
+
+void TstOutput::folderTakesItsNameAtTheEndOnly()
+{
+    Output output(Output::Folder, { at("out"), QString(), false });
+    QVERIFY2(output.begin(), qPrintable(output.error()));
+    QVERIFY(output.makeFolder("waveforms"));
+    QVERIFY(fill(output.path() + "/rms.csv", "a"));
+    QVERIFY(fill(output.path() + "/waveforms/0001.csv", "b"));
+    QVERIFY(!QFile::exists(at("out")));
+    QVERIFY2(output.finish(), qPrintable(output.error()));
+    QCOMPARE(names(), QStringList("out"));
+    QCOMPARE(contentOf(at("out/rms.csv")), QByteArray("a"));
+    QCOMPARE(contentOf(at("out/waveforms/0001.csv")), QByteArray("b"));
+}
+
+void TstOutput::unfinishedOutputLeavesNothing_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::newRow("file") << int(Output::File);
+    QTest::newRow("folder") << int(Output::Folder);
+}
+
+void TstOutput::unfinishedOutputLeavesNothing()
+{
+    QFETCH(int, kind);
+    {
+        Output output(Output::Kind(kind), { at("out"), QString(), false });
+        QVERIFY(output.begin());
+        if (kind == Output::Folder)
+            QVERIFY(output.makeFolder("waveforms") && fill(output.path() + "/waveforms/0001.csv", "half"));
+        QCOMPARE(names().size(), 1);
+    }
+    QCOMPARE(names(), QStringList());
+    {
+        // What failed is not put in place, even if its maker finishes it.
+        Output output(Output::Kind(kind), { at("out"), QString(), false });
+        QVERIFY(output.begin());
+        QVERIFY(!output.fail("rms.csv", "no room"));
+        QVERIFY(!output.finish());
+        QCOMPARE(output.error(), at("out/rms.csv") + ": no room");
+    }
+    QCOMPARE(names(), QStringList());
+}
+
+void TstOutput::existingTargetIsRefusedWithoutForce_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("name");
+    for (const char *name : { "file", "folder", "deadlink", "pipe" }) {
+        QTest::addRow("file over %s", name) << int(Output::File) << name;
+        QTest::addRow("folder over %s", name) << int(Output::Folder) << name;
+    }
+}
+
+void TstOutput::existingTargetIsRefusedWithoutForce()
+{
+    QFETCH(int, kind);
+    QFETCH(QString, name);
+    put(at("file"), "mine");
+    QVERIFY(QDir(m_folder->path()).mkdir("folder"));
+    QVERIFY(QFile::link("/nowhere", at("deadlink")));
+    QCOMPARE(::mkfifo(QFile::encodeName(at("pipe")).constData(), 0600), 0);
+    const QStringList before = names();
+    Output output(Output::Kind(kind), { m_folder->filePath(name), QString(), false }, isTableName);
+    QVERIFY(!output.begin());
+    QVERIFY2(output.error().contains("is there already (--force replaces it)"), qPrintable(output.error()));
+    QCOMPARE(names(), before);
+    QCOMPARE(contentOf(at("file")), QByteArray("mine"));
+}
+
+void TstOutput::forceReplacesAnEarlierFile()
+{
+    put(at("out"), "earlier");
+    Output output(Output::File, { at("out"), QString(), true });
+    QVERIFY2(output.begin(), qPrintable(output.error()));
+    QVERIFY(fill(output.path(), "new"));
+    QCOMPARE(contentOf(at("out")), QByteArray("earlier"));
+    QVERIFY2(output.finish(), qPrintable(output.error()));
+    QCOMPARE(contentOf(at("out")), QByteArray("new"));
+    QCOMPARE(names(), QStringList("out"));
+}
+
+// Tables that the new recording does not have must not stay beside those that it has.
+void TstOutput::forceReplacesAnEarlierFolderAsAWhole()
+{
+    QVERIFY(QDir(m_folder->path()).mkpath("out/waveforms"));
+    put(at("out/power.csv"), "earlier");
+    put(at("out/waveforms/0007.csv"), "earlier");
+    Output output(Output::Folder, { at("out"), QString(), true }, isTableName);
+    QVERIFY2(output.begin(), qPrintable(output.error()));
+    QVERIFY(fill(output.path() + "/rms.csv", "new"));
+    QVERIFY2(output.finish(), qPrintable(output.error()));
+    QCOMPARE(QDir(at("out")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList("rms.csv"));
+    QCOMPARE(names(), QStringList("out"));
+}
+
+void TstOutput::failedReplacementKeepsTheEarlierOutput()
+{
+    QVERIFY(QDir(m_folder->path()).mkdir("out"));
+    put(at("out/rms.csv"), "earlier");
+    {
+        Output output(Output::Folder, { at("out"), QString(), true }, isTableName);
+        QVERIFY(output.begin());
+        QVERIFY(fill(output.path() + "/rms.csv", "half"));
+    }
+    QCOMPARE(contentOf(at("out/rms.csv")), QByteArray("earlier"));
+    QCOMPARE(names(), QStringList("out"));
+}
+
+void TstOutput::forceReplacesNothingThatIsNoExport()
+{
+    QVERIFY(QDir(m_folder->path()).mkpath("photos/deep"));
+    put(at("photos/rms.csv"), "a");
+    put(at("photos/deep/.holiday.jpg"), "b");
+    put(at("file"), "mine");
+    QVERIFY(QFile::link(at("photos"), at("link")));
+    QCOMPARE(::mkfifo(QFile::encodeName(at("pipe")).constData(), 0600), 0);
+    const QStringList before = names();
+    const struct
+    {
+        Output::Kind kind;
+        const char *name;
+        const char *reason;
+    } cases[] = {
+        { Output::Folder, "photos", "holds \"deep/.holiday.jpg\", which is no export" },
+        { Output::Folder, "file", "is no folder" },
+        { Output::Folder, "link", "is no folder" },
+        { Output::File, "photos", "is no ordinary file" },
+        { Output::File, "pipe", "is no ordinary file" },
+        { Output::File, "link", "is no ordinary file" },
+    };
+    for (const auto &c : cases) {
+        Output output(c.kind, { at(c.name), QString(), true }, isTableName);
+        QVERIFY2(!output.begin(), c.name);
+        QVERIFY2(output.error().contains(QLatin1String(c.reason)), qPrintable(output.error()));
+    }
+    // Filled while the export was under way.
+    QVERIFY(QDir(m_folder->path()).mkdir("out"));
+    Output output(Output::Folder, { at("out"), QString(), true }, isTableName);
+    QVERIFY(output.begin());
+    put(at("out/letter.txt"), "mine");
+    QVERIFY(!output.finish());
+    QCOMPARE(contentOf(at("out/letter.txt")), QByteArray("mine"));
+    QCOMPARE(contentOf(at("photos/deep/.holiday.jpg")), QByteArray("b"));
+    QVERIFY(QDir(at("out")).removeRecursively());
+    QCOMPARE(contentOf(at("file")), QByteArray("mine"));
+    for (const QString &name : before)
+        QVERIFY2(names().contains(name), qPrintable(name));
+}
+
+void TstOutput::nothingIsWrittenIntoTheInput()
+{
+    QVERIFY(QDir(m_folder->path()).mkpath("recording/deep"));
+    put(at("recording/Common.pqa2"), "r");
+    put(at("capture.csv"), "c");
+    QVERIFY(QFile::link(at("recording"), at("link")));
+    const struct
+    {
+        const char *input, *target;
+        Output::Kind kind;
+    } cases[] = {
+        { "recording", "recording/out", Output::Folder },
+        { "recording", "recording/out.db", Output::File },
+        { "recording", "recording/deep/out", Output::File },
+        { "recording", "link/out", Output::File },
+        { "link", "recording/out", Output::Folder },
+        { "recording", "recording/deep/../out", Output::File },
+        { "capture.csv", "capture.csv", Output::File },
+        { "recording", "recording", Output::Folder },
+        { "recording/Common.pqa2", "recording", Output::Folder },
+    };
+    const auto isAnything = [](const QString &) { return true; };
+    for (const auto &c : cases) {
+        Output output(c.kind, { at(c.target), at(c.input), true }, isAnything);
+        QVERIFY2(!output.begin(), c.target);
+        QVERIFY2(output.error().contains("lies in what is read"), qPrintable(output.error()));
+    }
+    QCOMPARE(QDir(at("recording")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList({ "Common.pqa2", "deep" }));
+    QCOMPARE(contentOf(at("capture.csv")), QByteArray("c"));
+    // A name that merely begins alike is another one.
+    Output beside(Output::File, { at("recording.db"), at("recording"), false });
+    QVERIFY2(beside.begin(), qPrintable(beside.error()));
+}
+
+void TstOutput::whatAppearsMeanwhileStays()
+{
+    Output output(Output::File, { at("out"), QString(), false });
+    QVERIFY(output.begin());
+    put(at("out"), "of another program");
+    QVERIFY(!output.finish());
+    QVERIFY(output.error().startsWith(at("out") + ": "));
+    QCOMPARE(contentOf(at("out")), QByteArray("of another program"));
+}
+
+void TstOutput::missingFolderAndMissingNameAreNamed()
+{
+    Output deep(Output::Folder, { at("no/such/out"), QString(), false });
+    QVERIFY(!deep.begin());
+    QVERIFY2(deep.error().contains("there is no folder \"" + at("no/such") + '"'), qPrintable(deep.error()));
+    Output nameless(Output::File, { QString(), QString(), false });
+    QVERIFY(!nameless.begin());
+    QVERIFY(nameless.error().contains("a name is missing"));
+    QCOMPARE(names(), QStringList());
+}
+
+void TstOutput::slashAtTheEndOfAFolderIsNothing()
+{
+    Output output(Output::Folder, { at("out/"), QString(), false });
+    QVERIFY2(output.begin(), qPrintable(output.error()));
+    QVERIFY2(output.finish(), qPrintable(output.error()));
+    QCOMPARE(names(), QStringList("out"));
+}
+
+void TstOutput::largePiecesAndSmallOnesStandInOrder()
+{
+    OutputFile file;
+    QVERIFY(file.open(at("out")));
+    QByteArray all;
+    for (int size : { 1, 4096, 65535, 0, 65536, 65537, 3, 300000, 5 }) {
+        const QByteArray piece(size, char('a' + all.size() % 26));
+        file.write(piece);
+        all += piece;
+        for (int i = 0; i < 40; ++i) {
+            char *room = file.room();
+            std::fill_n(room, OutputFile::kMostRoom, '.');
+            file.wrote(room + OutputFile::kMostRoom);
+            all += QByteArray(OutputFile::kMostRoom, '.');
+        }
+    }
+    QVERIFY(file.close());
+    QVERIFY(contentOf(at("out")) == all);
+}
+
+void TstOutput::refusedWriteIsToldWhenTheFileIsClosed()
+{
+    // A file may grow to 100000 bytes and no further, as on a disk that is full.
+    std::signal(SIGXFSZ, SIG_IGN);
+    struct rlimit before;
+    QCOMPARE(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    const struct rlimit small = { 100000, before.rlim_max };
+    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &small), 0);
+    OutputFile file;
+    const bool opened = file.open(at("out"));
+    for (int i = 0; i < 50; ++i)
+        file.write(QByteArray(5000, 'x'));
+    const bool failed = file.hasFailed();
+    const bool closed = file.close();
+    const QString reason = file.reason();
+    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    QVERIFY(opened && failed && !closed);
+    QCOMPARE(reason, qt_error_string(EFBIG));
+    QCOMPARE(QFileInfo(at("out")).size(), 100000);
+    // An unopened file takes nothing and says so.
+    OutputFile closedFile;
+    closedFile.write("x");
+    QVERIFY(!closedFile.close());
+}
+
+void TstOutput::fileNeverFollowsALink()
+{
+    put(at("elsewhere"), "mine");
+    QVERIFY(QFile::link(at("elsewhere"), at("out")));
+    OutputFile file;
+    QVERIFY(!file.open(at("out")));
+    QCOMPARE(contentOf(at("elsewhere")), QByteArray("mine"));
+}
+
+QTEST_GUILESS_MAIN(TstOutput)
+#include "tst_output.moc"
