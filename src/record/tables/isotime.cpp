@@ -4,8 +4,8 @@
 
 namespace {
 
-constexpr qint64 kDay = 86'400'000; // ms
-constexpr qint64 kDaysOf400Years = 146'097;
+constexpr qint64 kDay = 86400000; // ms
+constexpr qint64 kDaysOf400Years = 146097;
 
 struct Date
 {
@@ -17,11 +17,11 @@ struct Date
 /// of its year, and the months' lengths follow one rule: 153 days in each five of them.
 Date dateOf(qint64 daysSince1970)
 {
-    constexpr qint64 kFromMarchOfYear0 = 719'468; // days to 1970-01-01
+    constexpr qint64 kFromMarchOfYear0 = 719468; // days to 1970-01-01
     const qint64 days = daysSince1970 + kFromMarchOfYear0;
     const qint64 era = (days >= 0 ? days : days - (kDaysOf400Years - 1)) / kDaysOf400Years;
     const qint64 day = days - era * kDaysOf400Years; // 0 to 146096
-    const qint64 year = (day - day / 1460 + day / 36'524 - day / 146'096) / 365; // of the 400
+    const qint64 year = (day - day / 1460 + day / 36524 - day / 146096) / 365; // of the 400
     const int dayOfYear = int(day - (365 * year + year / 4 - year / 100));
     const int month = (5 * dayOfYear + 2) / 153; // 0 is March
     const int begin = (153 * month + 2) / 5;
@@ -63,9 +63,9 @@ char *print(char *at, qint64 msSince1970)
     *at++ = '-';
     at = digits(at, date.day, 2);
     *at++ = 'T';
-    at = digits(at, ms / 3'600'000, 2);
+    at = digits(at, ms / 3600000, 2);
     *at++ = ':';
-    at = digits(at, ms / 60'000 % 60, 2);
+    at = digits(at, ms / 60000 % 60, 2);
     *at++ = ':';
     at = digits(at, ms / 1000 % 60, 2);
     *at++ = '.';
