@@ -55,7 +55,7 @@ struct Card
     }
     void note(CardCalls::Call::Kind kind, const QByteArray &name, qint64 at = 0, const QByteArray &bytes = {})
     {
-        calls.append({ kind, files.value(name, -1), name, {}, at, bytes });
+        calls.append({ kind, files.value(name, -1), name, {}, at, bytes, ::gettid() == ::getpid() });
     }
 };
 

@@ -29,6 +29,7 @@ struct Call
     QByteArray to; // Rename
     qint64 at = 0; // Write; size of Resize
     QByteArray bytes;
+    bool onMainThread = false;
 };
 
 /// Which calls fail: those from `first` on, `count` of them, counted from 0 over all that can fail.
