@@ -78,6 +78,14 @@ PQAEventItem eventWithCurves(qint64 time)
     return event;
 }
 
+FlickerOutput severities()
+{
+    FlickerOutput out;
+    out.shortTerm = out.longTerm = 7;
+    out.shortBlock = out.longBlock = QByteArray(12, '\1');
+    return out;
+}
+
 /// What an hour of a supply that is not quiet adds to a recording.
 void disturb(RecorderRun &run)
 {
@@ -89,10 +97,7 @@ void disturb(RecorderRun &run)
     auto transient = std::make_unique<__trans_data>();
     transient->position = 1u << 24;
     run.recorder().transient(*transient);
-    FlickerOutput severities;
-    severities.shortTerm = severities.longTerm = 7;
-    severities.shortBlock = severities.longBlock = QByteArray(12, '\1');
-    run.recorder().flicker(__datagram_flicker(), severities);
+    run.recorder().flicker(__datagram_flicker(), severities());
 }
 
 /// Breaks every limit that the monitor knows, or none.
@@ -106,6 +111,24 @@ std::unique_ptr<__datagram_aggregation> judgedSupply(bool good)
         record->spectrum[phase].voltageDistortion = good ? 0 : 60;
     }
     return record;
+}
+
+/// A long-term flicker value, and five seconds of half cycles with a dip of a second.
+void endTenMinutes(MonitorCase::Run &run, bool flickers)
+{
+    FlickerOutput out = severities();
+    for (float &plt : out.plt)
+        plt = flickers ? 2.0f : 0.5f;
+    __datagram_flicker record {};
+    record.time = Clock::msecs();
+    run.m_function->flicker(record, out);
+    for (int half = 0; half < 5 * kHalfCycles; ++half) {
+        const bool dips = half >= kHalfCycles && half < 2 * kHalfCycles;
+        QList<_value_with_time> values;
+        for (int input = 0; input < 8; ++input)
+            values.append({ Clock::msecs() + 10 * half, input < 3 ? (dips ? 115.0f : 230.0f) : 0.0f });
+        run.m_events->checkPowerEvents(values);
+    }
 }
 
 } // namespace
@@ -185,22 +208,7 @@ void TstLongRuns::aWeekOfTheMonitorWithAllEventsCostsTheSameEachHour()
             for (int tenMinutes = 0; tenMinutes < 6; ++tenMinutes) {
                 const bool fails = tenMinutes % 2 == 0;
                 run.pass(kTenMinutes, fails ? bad.get() : good.get());
-                FlickerOutput severities;
-                severities.shortTerm = severities.longTerm = 7;
-                severities.shortBlock = severities.longBlock = QByteArray(12, '\1');
-                for (float &plt : severities.plt)
-                    plt = fails ? 2.0f : 0.5f;
-                __datagram_flicker record {};
-                record.time = Clock::msecs();
-                run.m_function->flicker(record, severities);
-                // Five seconds of half cycles with a dip of a second.
-                for (int half = 0; half < 5 * kHalfCycles; ++half) {
-                    const bool dips = half >= kHalfCycles && half < 2 * kHalfCycles;
-                    QList<_value_with_time> values;
-                    for (int input = 0; input < 8; ++input)
-                        values.append({ Clock::msecs() + 10 * half, input < 3 ? (dips ? 115.0f : 230.0f) : 0.0f });
-                    run.m_events->checkPowerEvents(values);
-                }
+                endTenMinutes(run, fails);
             }
             const Cost cost = costNow() - before;
             if (hour <= kFullHour) {
