@@ -561,6 +561,12 @@ voulez-vous quitter ?</translation>
         <source>Recording %1 was interrupted at %2</source>
         <translation>Enregistrement %1 interrompu le %2</translation>
     </message>
+    <message>
+        <source>Recording %1, planned for %2,
+was lost with the supply.</source>
+        <translation>L&apos;enregistrement %1, prévu le %2,
+a été perdu avec l&apos;alimentation.</translation>
+    </message>
 </context>
 <context>
     <name>LimitHarmPage</name>
@@ -1115,6 +1121,14 @@ réseau</translation>
     <message>
         <source>Save</source>
         <translation>Sauver</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>Oui, tous</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>Non, aucun</translation>
     </message>
 </context>
 <context>
@@ -1704,6 +1718,12 @@ Delete files in Memory.</source>
         <translation>Pas de place pour un enregistrement.
 Supprimez des fichiers en mémoire.</translation>
     </message>
+    <message>
+        <source>A recording begins with 50 MB free.
+Delete files in Memory.</source>
+        <translation>Un enregistrement commence avec 50 Mo libres.
+Supprimez des fichiers en mémoire.</translation>
+    </message>
 </context>
 <context>
     <name>RecordingStart</name>
@@ -1772,6 +1792,12 @@ Les données sont en mémoire.</translation>
     <message>
         <source>Restart: delete the data and restart logger.</source>
         <translation>Relancer : effacer les données et relancer l&apos;enregistreur.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+Delete files in Memory.</source>
+        <translation>La mémoire ne prend plus de données.
+Supprimez des fichiers en mémoire.</translation>
     </message>
 </context>
 <context>
@@ -2435,6 +2461,15 @@ Voulez-vous l&apos;écraser ?</translation>
     <message>
         <source>Minutes</source>
         <translation>Minutes</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTray</name>
+    <message>
+        <source>Nothing is stored:
+storage full</source>
+        <translation>Rien n&apos;est stocké :
+mémoire pleine</translation>
     </message>
 </context>
 <context>

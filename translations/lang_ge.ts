@@ -561,6 +561,12 @@ soll sie beendet werden?</translation>
         <source>Recording %1 was interrupted at %2</source>
         <translation>Aufzeichnung %1 wurde am %2 unterbrochen</translation>
     </message>
+    <message>
+        <source>Recording %1, planned for %2,
+was lost with the supply.</source>
+        <translation>Aufzeichnung %1, geplant für %2,
+ging mit der Versorgung verloren.</translation>
+    </message>
 </context>
 <context>
     <name>LimitHarmPage</name>
@@ -1115,6 +1121,14 @@ signale</translation>
     <message>
         <source>Save</source>
         <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>Ja, alle</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>Nein, keine</translation>
     </message>
 </context>
 <context>
@@ -1704,6 +1718,12 @@ Delete files in Memory.</source>
         <translation>Für eine Aufzeichnung fehlt der Platz.
 Bitte im Speicher Dateien löschen.</translation>
     </message>
+    <message>
+        <source>A recording begins with 50 MB free.
+Delete files in Memory.</source>
+        <translation>Eine Aufzeichnung beginnt mit 50 MB frei.
+Bitte im Speicher Dateien löschen.</translation>
+    </message>
 </context>
 <context>
     <name>RecordingStart</name>
@@ -1772,6 +1792,12 @@ Die Daten stehen im Speicher.</translation>
     <message>
         <source>Restart: delete the data and restart logger.</source>
         <translation>Neustart: Daten löschen und Logger neu starten.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+Delete files in Memory.</source>
+        <translation>Der Speicher nimmt keine Daten mehr auf.
+Bitte im Speicher Dateien löschen.</translation>
     </message>
 </context>
 <context>
@@ -2435,6 +2461,15 @@ Soll sie überschrieben werden?</translation>
     <message>
         <source>Minutes</source>
         <translation>Minute</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTray</name>
+    <message>
+        <source>Nothing is stored:
+storage full</source>
+        <translation>Keine Speicherung:
+Speicher voll</translation>
     </message>
 </context>
 <context>

@@ -561,6 +561,12 @@ si desidera uscire?</translation>
         <source>Recording %1 was interrupted at %2</source>
         <translation>Registrazione %1 interrotta il %2</translation>
     </message>
+    <message>
+        <source>Recording %1, planned for %2,
+was lost with the supply.</source>
+        <translation>La registrazione %1, prevista per %2,
+è andata persa con l&apos;alimentazione.</translation>
+    </message>
 </context>
 <context>
     <name>LimitHarmPage</name>
@@ -1115,6 +1121,14 @@ in rete</translation>
     <message>
         <source>Save</source>
         <translation>Salva</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>Sì a tutti</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>No a tutti</translation>
     </message>
 </context>
 <context>
@@ -1704,6 +1718,12 @@ Delete files in Memory.</source>
         <translation>Non c&apos;è spazio per una registrazione.
 Eliminare file nella memoria.</translation>
     </message>
+    <message>
+        <source>A recording begins with 50 MB free.
+Delete files in Memory.</source>
+        <translation>Una registrazione inizia con 50 MB liberi.
+Eliminare file nella memoria.</translation>
+    </message>
 </context>
 <context>
     <name>RecordingStart</name>
@@ -1772,6 +1792,12 @@ I dati sono nella memoria.</translation>
     <message>
         <source>Restart: delete the data and restart logger.</source>
         <translation>Riavvia: cancella i dati e riavvia il registratore.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+Delete files in Memory.</source>
+        <translation>La memoria non accetta più dati.
+Eliminare file nella memoria.</translation>
     </message>
 </context>
 <context>
@@ -2435,6 +2461,15 @@ Sovrascriverlo?</translation>
     <message>
         <source>Minutes</source>
         <translation>Minuti</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTray</name>
+    <message>
+        <source>Nothing is stored:
+storage full</source>
+        <translation>Nulla è salvato:
+memoria piena</translation>
     </message>
 </context>
 <context>

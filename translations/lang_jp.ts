@@ -561,6 +561,12 @@ Do you want to exit?</source>
         <source>Recording %1 was interrupted at %2</source>
         <translation>記録 %1 は %2 に中断されました</translation>
     </message>
+    <message>
+        <source>Recording %1, planned for %2,
+was lost with the supply.</source>
+        <translation>記録 %1（予定 %2）は
+電源断のため取り消されました。</translation>
+    </message>
 </context>
 <context>
     <name>LimitHarmPage</name>
@@ -1115,6 +1121,14 @@ Signaling</source>
     <message>
         <source>Save</source>
         <translation>保存</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>すべてはい</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>すべていいえ</translation>
     </message>
 </context>
 <context>
@@ -1704,6 +1718,12 @@ Delete files in Memory.</source>
         <translation>記録する空き容量がありません。
 メモリのファイルを削除してください。</translation>
     </message>
+    <message>
+        <source>A recording begins with 50 MB free.
+Delete files in Memory.</source>
+        <translation>記録の開始には空き容量 50 MB が必要です。
+メモリのファイルを削除してください。</translation>
+    </message>
 </context>
 <context>
     <name>RecordingStart</name>
@@ -1772,6 +1792,12 @@ Its data stands in Memory.</source>
     <message>
         <source>Restart: delete the data and restart logger.</source>
         <translation>再開: データを削除してロガーを再開します。</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+Delete files in Memory.</source>
+        <translation>これ以上データを記録できません。
+メモリのファイルを削除してください。</translation>
     </message>
 </context>
 <context>
@@ -2435,6 +2461,15 @@ Do you want to overwrite it?</source>
     <message>
         <source>Minutes</source>
         <translation>分</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTray</name>
+    <message>
+        <source>Nothing is stored:
+storage full</source>
+        <translation>記録停止：
+空き容量なし</translation>
     </message>
 </context>
 <context>

@@ -561,6 +561,12 @@ Do you want to exit?</source>
         <source>Recording %1 was interrupted at %2</source>
         <translation>기록 %1이(가) %2에 중단되었습니다</translation>
     </message>
+    <message>
+        <source>Recording %1, planned for %2,
+was lost with the supply.</source>
+        <translation>기록 %1(예정 %2)은(는)
+전원이 끊겨 취소되었습니다.</translation>
+    </message>
 </context>
 <context>
     <name>LimitHarmPage</name>
@@ -1115,6 +1121,14 @@ Signaling</source>
     <message>
         <source>Save</source>
         <translation>저장</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>모두 예</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>모두 아니요</translation>
     </message>
 </context>
 <context>
@@ -1704,6 +1718,12 @@ Delete files in Memory.</source>
         <translation>기록할 공간이 없습니다.
 메모리에서 파일을 삭제하십시오.</translation>
     </message>
+    <message>
+        <source>A recording begins with 50 MB free.
+Delete files in Memory.</source>
+        <translation>기록을 시작하려면 50 MB의 여유가 필요합니다.
+메모리에서 파일을 삭제하십시오.</translation>
+    </message>
 </context>
 <context>
     <name>RecordingStart</name>
@@ -1772,6 +1792,12 @@ Its data stands in Memory.</source>
     <message>
         <source>Restart: delete the data and restart logger.</source>
         <translation>재시작: 데이터를 삭제하고 로거를 다시 시작합니다.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+Delete files in Memory.</source>
+        <translation>저장 장치가 더 이상 데이터를 받지 않습니다.
+메모리에서 파일을 삭제하십시오.</translation>
     </message>
 </context>
 <context>
@@ -2435,6 +2461,15 @@ Do you want to overwrite it?</source>
     <message>
         <source>Minutes</source>
         <translation>분</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTray</name>
+    <message>
+        <source>Nothing is stored:
+storage full</source>
+        <translation>저장 안 됨:
+저장 공간 부족</translation>
     </message>
 </context>
 <context>

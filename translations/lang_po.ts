@@ -561,6 +561,12 @@ czy zakończyć?</translation>
         <source>Recording %1 was interrupted at %2</source>
         <translation>Zapis %1 przerwano %2</translation>
     </message>
+    <message>
+        <source>Recording %1, planned for %2,
+was lost with the supply.</source>
+        <translation>Zapis %1, planowany na %2,
+przepadł po zaniku zasilania.</translation>
+    </message>
 </context>
 <context>
     <name>LimitHarmPage</name>
@@ -1115,6 +1121,14 @@ w sieci</translation>
     <message>
         <source>Save</source>
         <translation>Zapisz</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>Tak, wszystkie</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>Nie, żadnego</translation>
     </message>
 </context>
 <context>
@@ -1704,6 +1718,12 @@ Delete files in Memory.</source>
         <translation>Brak miejsca na zapis.
 Usuń pliki w pamięci.</translation>
     </message>
+    <message>
+        <source>A recording begins with 50 MB free.
+Delete files in Memory.</source>
+        <translation>Zapis zaczyna się przy 50 MB wolnych.
+Usuń pliki w pamięci.</translation>
+    </message>
 </context>
 <context>
     <name>RecordingStart</name>
@@ -1772,6 +1792,12 @@ Dane są w pamięci.</translation>
     <message>
         <source>Restart: delete the data and restart logger.</source>
         <translation>Restart: usuwa dane i uruchamia rejestrator ponownie.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+Delete files in Memory.</source>
+        <translation>Pamięć nie przyjmuje już danych.
+Usuń pliki w pamięci.</translation>
     </message>
 </context>
 <context>
@@ -2435,6 +2461,15 @@ Czy go zastąpić?</translation>
     <message>
         <source>Minutes</source>
         <translation>Minuta</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTray</name>
+    <message>
+        <source>Nothing is stored:
+storage full</source>
+        <translation>Brak zapisu:
+pamięć pełna</translation>
     </message>
 </context>
 <context>

@@ -561,6 +561,12 @@ deseja sair?</translation>
         <source>Recording %1 was interrupted at %2</source>
         <translation>O registro %1 foi interrompido em %2</translation>
     </message>
+    <message>
+        <source>Recording %1, planned for %2,
+was lost with the supply.</source>
+        <translation>O registro %1, previsto para %2,
+perdeu-se com a falta de alimentação.</translation>
+    </message>
 </context>
 <context>
     <name>LimitHarmPage</name>
@@ -1115,6 +1121,14 @@ na rede</translation>
     <message>
         <source>Save</source>
         <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>Sim a todos</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>Não a todos</translation>
     </message>
 </context>
 <context>
@@ -1704,6 +1718,12 @@ Delete files in Memory.</source>
         <translation>Não há espaço para um registro.
 Exclua arquivos na memória.</translation>
     </message>
+    <message>
+        <source>A recording begins with 50 MB free.
+Delete files in Memory.</source>
+        <translation>Um registro começa com 50 MB livres.
+Exclua arquivos na memória.</translation>
+    </message>
 </context>
 <context>
     <name>RecordingStart</name>
@@ -1772,6 +1792,12 @@ Os dados estão na memória.</translation>
     <message>
         <source>Restart: delete the data and restart logger.</source>
         <translation>Reiniciar: apaga os dados e reinicia o registrador.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+Delete files in Memory.</source>
+        <translation>A memória não aceita mais dados.
+Exclua arquivos na memória.</translation>
     </message>
 </context>
 <context>
@@ -2435,6 +2461,15 @@ Deseja substituí-lo?</translation>
     <message>
         <source>Minutes</source>
         <translation>Minuto</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTray</name>
+    <message>
+        <source>Nothing is stored:
+storage full</source>
+        <translation>Nada é salvo:
+memória cheia</translation>
     </message>
 </context>
 <context>

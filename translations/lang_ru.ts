@@ -561,6 +561,12 @@ Do you want to exit?</source>
         <source>Recording %1 was interrupted at %2</source>
         <translation>Запись %1 прервана %2</translation>
     </message>
+    <message>
+        <source>Recording %1, planned for %2,
+was lost with the supply.</source>
+        <translation>Запись %1, назначенная на %2,
+отменена из-за отключения питания.</translation>
+    </message>
 </context>
 <context>
     <name>LimitHarmPage</name>
@@ -1115,6 +1121,14 @@ Signaling</source>
     <message>
         <source>Save</source>
         <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>Да для всех</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>Нет для всех</translation>
     </message>
 </context>
 <context>
@@ -1704,6 +1718,12 @@ Delete files in Memory.</source>
         <translation>Для записи нет места.
 Удалите файлы в памяти.</translation>
     </message>
+    <message>
+        <source>A recording begins with 50 MB free.
+Delete files in Memory.</source>
+        <translation>Для начала записи нужно 50 МБ.
+Удалите файлы в памяти.</translation>
+    </message>
 </context>
 <context>
     <name>RecordingStart</name>
@@ -1772,6 +1792,12 @@ Its data stands in Memory.</source>
     <message>
         <source>Restart: delete the data and restart logger.</source>
         <translation>Заново: удалить данные и начать регистрацию заново.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+Delete files in Memory.</source>
+        <translation>Накопитель больше не принимает данные.
+Удалите файлы в памяти.</translation>
     </message>
 </context>
 <context>
@@ -2435,6 +2461,15 @@ Do you want to overwrite it?</source>
     <message>
         <source>Minutes</source>
         <translation>Минуты</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTray</name>
+    <message>
+        <source>Nothing is stored:
+storage full</source>
+        <translation>Запись не идёт:
+нет места</translation>
     </message>
 </context>
 <context>

@@ -561,6 +561,12 @@ Do you want to exit?</source>
         <source>Recording %1 was interrupted at %2</source>
         <translation>El registro %1 se interrumpió el %2</translation>
     </message>
+    <message>
+        <source>Recording %1, planned for %2,
+was lost with the supply.</source>
+        <translation>El registro %1, previsto para %2,
+se perdió al faltar la alimentación.</translation>
+    </message>
 </context>
 <context>
     <name>LimitHarmPage</name>
@@ -1115,6 +1121,14 @@ en la red</translation>
     <message>
         <source>Save</source>
         <translation>Guardar</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>Sí a todos</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>No a todos</translation>
     </message>
 </context>
 <context>
@@ -1704,6 +1718,12 @@ Delete files in Memory.</source>
         <translation>No hay espacio para un registro.
 Borre archivos en la memoria.</translation>
     </message>
+    <message>
+        <source>A recording begins with 50 MB free.
+Delete files in Memory.</source>
+        <translation>Un registro comienza con 50 MB libres.
+Borre archivos en la memoria.</translation>
+    </message>
 </context>
 <context>
     <name>RecordingStart</name>
@@ -1772,6 +1792,12 @@ Los datos están en la memoria.</translation>
     <message>
         <source>Restart: delete the data and restart logger.</source>
         <translation>Reiniciar: borra los datos y reinicia el registrador.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+Delete files in Memory.</source>
+        <translation>La memoria no admite más datos.
+Borre archivos en la memoria.</translation>
     </message>
 </context>
 <context>
@@ -2435,6 +2461,15 @@ Do you want to overwrite it?</source>
     <message>
         <source>Minutes</source>
         <translation>Minuto</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTray</name>
+    <message>
+        <source>Nothing is stored:
+storage full</source>
+        <translation>No se guarda nada:
+memoria llena</translation>
     </message>
 </context>
 <context>

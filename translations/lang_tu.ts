@@ -561,6 +561,12 @@ Do you want to exit?</source>
         <source>Recording %1 was interrupted at %2</source>
         <translation>%1 kaydı %2 tarihinde kesildi</translation>
     </message>
+    <message>
+        <source>Recording %1, planned for %2,
+was lost with the supply.</source>
+        <translation>%2 için planlanan %1 kaydı
+besleme kesilince iptal oldu.</translation>
+    </message>
 </context>
 <context>
     <name>LimitHarmPage</name>
@@ -1115,6 +1121,14 @@ sinyalleri</translation>
     <message>
         <source>Save</source>
         <translation>Kaydet</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>Tümüne evet</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>Tümüne hayır</translation>
     </message>
 </context>
 <context>
@@ -1704,6 +1718,12 @@ Delete files in Memory.</source>
         <translation>Kayıt için yer yok.
 Bellekten dosya silin.</translation>
     </message>
+    <message>
+        <source>A recording begins with 50 MB free.
+Delete files in Memory.</source>
+        <translation>Kayıt 50 MB boş yerle başlar.
+Bellekten dosya silin.</translation>
+    </message>
 </context>
 <context>
     <name>RecordingStart</name>
@@ -1772,6 +1792,12 @@ Veriler bellekte.</translation>
     <message>
         <source>Restart: delete the data and restart logger.</source>
         <translation>Yeniden: verileri siler ve kaydediciyi yeniden başlatır.</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+Delete files in Memory.</source>
+        <translation>Bellek artık veri almıyor.
+Bellekten dosya silin.</translation>
     </message>
 </context>
 <context>
@@ -2435,6 +2461,15 @@ Do you want to overwrite it?</source>
     <message>
         <source>Minutes</source>
         <translation>Dakika</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTray</name>
+    <message>
+        <source>Nothing is stored:
+storage full</source>
+        <translation>Kayıt yok:
+bellek dolu</translation>
     </message>
 </context>
 <context>

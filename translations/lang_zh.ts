@@ -561,6 +561,12 @@ Do you want to exit?</source>
         <source>Recording %1 was interrupted at %2</source>
         <translation>记录 %1 于 %2 中断</translation>
     </message>
+    <message>
+        <source>Recording %1, planned for %2,
+was lost with the supply.</source>
+        <translation>记录 %1（计划于 %2）
+因断电而取消。</translation>
+    </message>
 </context>
 <context>
     <name>LimitHarmPage</name>
@@ -1115,6 +1121,14 @@ Signaling</source>
     <message>
         <source>Save</source>
         <translation>保存</translation>
+    </message>
+    <message>
+        <source>Yes to all</source>
+        <translation>全部是</translation>
+    </message>
+    <message>
+        <source>No to all</source>
+        <translation>全部否</translation>
     </message>
 </context>
 <context>
@@ -1704,6 +1718,12 @@ Delete files in Memory.</source>
         <translation>没有记录所需的空间。
 请在存储器中删除文件。</translation>
     </message>
+    <message>
+        <source>A recording begins with 50 MB free.
+Delete files in Memory.</source>
+        <translation>开始记录需要 50 MB 可用空间。
+请在存储器中删除文件。</translation>
+    </message>
 </context>
 <context>
     <name>RecordingStart</name>
@@ -1772,6 +1792,12 @@ Its data stands in Memory.</source>
     <message>
         <source>Restart: delete the data and restart logger.</source>
         <translation>重启：删除数据并重新启动记录仪。</translation>
+    </message>
+    <message>
+        <source>The storage takes no more data.
+Delete files in Memory.</source>
+        <translation>存储器不再接收数据。
+请在存储器中删除文件。</translation>
     </message>
 </context>
 <context>
@@ -2435,6 +2461,15 @@ Do you want to overwrite it?</source>
     <message>
         <source>Minutes</source>
         <translation>分</translation>
+    </message>
+</context>
+<context>
+    <name>SystemTray</name>
+    <message>
+        <source>Nothing is stored:
+storage full</source>
+        <translation>未在存储：
+存储器已满</translation>
     </message>
 </context>
 <context>

@@ -334,10 +334,16 @@ void MemoryPage::askAndCopy(const QList<QByteArray> &files, const QString &disk,
 {
     QList<QByteArray> chosen;
     QVector<CopyBatch::Job> jobs;
+    const Message::_TYPE type = standing.size() > 1 ? Message::EachOrAll : Message::YesNo;
+    int answer = Message::None;
     for (const QByteArray &file : files) {
         const QString question = shortName(file) + QLatin1Char('\n') + tr("File already exists,\nReplace the file?");
-        if (standing.contains(file) && Message::showMessage(Message::YesNo, question) != Message::Yes)
-            continue;
+        if (standing.contains(file)) {
+            if (answer != Message::YesToAll && answer != Message::NoToAll)
+                answer = Message::showMessage(type, question);
+            if (answer != Message::Yes && answer != Message::YesToAll)
+                continue;
+        }
         chosen << file;
         jobs << CopyBatch::Job { storedPath(file), targetPath(disk, file) };
     }

@@ -96,13 +96,15 @@ QString fileOfTimes(const QString &folder)
     return folder;
 }
 
-std::optional<InterruptedRun> lookAt(const QString &name, const QTimeZone &zone)
+/// \a mayHaveWaited: a run that holds no time may have waited for its start, and is none that was cut.
+std::optional<InterruptedRun> lookAt(const QString &name, const QTimeZone &zone, bool mayHaveWaited)
 {
     const QFileInfo item(Target::path(FileInfo::storagePath() + name));
     if (!item.exists() || !(item.isDir() || item.isFile()))
         return {};
     const QString path = item.isDir() ? fileOfTimes(item.filePath()) : item.filePath();
     qint64 last = 0;
+    bool isRead = true;
     QFile file(path);
     if (QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly)) {
         if (name.endsWith(WaveFile::suffix())) {
@@ -114,8 +116,12 @@ std::optional<InterruptedRun> lookAt(const QString &name, const QTimeZone &zone)
             if (times.ended)
                 return {};
             last = times.last;
+        } else {
+            isRead = false;
         }
     }
+    if (mayHaveWaited && isRead && last <= 0)
+        return {};
     const QDateTime at
         = last > 0 ? QDateTime::fromMSecsSinceEpoch(last, zone) : QFileInfo(path).lastModified().toTimeZone(zone);
     return InterruptedRun { name, at };
@@ -127,7 +133,7 @@ QVector<InterruptedRun> InterruptedRuns::find(RunJournal &journal, const QTimeZo
 {
     QVector<InterruptedRun> runs;
     for (const QString &name : journal.interrupted()) {
-        if (const std::optional<InterruptedRun> run = lookAt(name, zone))
+        if (const std::optional<InterruptedRun> run = lookAt(name, zone, !journal.missed().isEmpty()))
             runs << *run;
         else
             journal.forget(name);

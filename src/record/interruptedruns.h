@@ -19,7 +19,8 @@ namespace InterruptedRuns {
 
 constexpr qint64 kLargestRead = 64 << 20; // bytes; of a longer file the file system tells the time
 
-/// Those that are still there and lack their end; the others are forgotten. The last time in a file counts, else the
+/// Those that are still there and lack their end; the others are forgotten, also files that were opened for a run that
+/// the journal says waited for its start. The last time in a file counts, else the
 /// file's own. May take seconds: not on the main thread.
 QVector<InterruptedRun> find(RunJournal &journal, const QTimeZone &zone);
 

@@ -73,7 +73,7 @@ bool Pqa2FF::begin()
 {
     m_last.clear();
     m_end = 0;
-    m_full = false;
+    m_full = m_refuses = false;
     if (m_device->freeSize() < kRoomToOpen || !m_device->open(m_path))
         return false;
     m_open = true;
@@ -161,8 +161,9 @@ int Pqa2FF::addDataBlock(Pqa2DBType type, const QByteArray &data)
 int Pqa2FF::addDataBlock(const _pqa2_data_block &block)
 {
     const int result = appendBlock(block.type, block.data, block.size);
-    if (result < 0)
+    if (result < 0 && !m_logged)
         QV_TRACE("pqa2/pqa2ff") << "availableRoom" << m_device->freeSize();
+    m_logged = result < 0;
     return result;
 }
 
@@ -181,6 +182,13 @@ int Pqa2FF::appendBlock(quint32 type, const char *data, qint64 size)
 {
     if (!m_open)
         return 0;
+    const int result = tryBlock(type, data, size);
+    m_refuses = result < 0;
+    return result;
+}
+
+int Pqa2FF::tryBlock(quint32 type, const char *data, qint64 size)
+{
     if (size < 0 || size > kMostPayload || (size > 0 && !data) || m_device->freeSize() < kRoomToWrite)
         return -1;
     if (m_end + wholeBlock(size) >= qint64(kPqa2LastBlock)) { // no link could tell where the next block starts
@@ -224,7 +232,8 @@ int Pqa2FF::addDataBlocks(Pqa2DBType type, const QList<QByteArray> &payloads)
             const quint32 next = follows ? quint32(last + wholeBlock(payloads[i].size())) : kPqa2LastBlock;
             bufferBlock(next, type, payloads[i].constData(), payloads[i].size());
         }
-        if (storeBuffer(last) == 0)
+        m_refuses = storeBuffer(last) < 0;
+        if (!m_refuses)
             return 0;
     }
     int result = 0;

@@ -69,6 +69,8 @@ public:
     void continueInParts(std::function<void(Pqa2FF &)> begin = {});
     /// A block was refused because the file has reached its end just below 4 GiB, and no next part was begun.
     bool isFull() const { return m_full; }
+    /// The last block was refused, for whatever reason; the next one may succeed.
+    bool refuses() const { return m_refuses; }
     /// Part 2 of "Common.pqa2" is "Common_2.pqa2"; part 1 is the file itself.
     static QString partPath(const QString &path, int part);
     /// Has the system write out what was written so far: the point that a power cut cannot go behind.
@@ -83,7 +85,7 @@ public:
     /// Many blocks of one kind at once, for as little of the caller's time as one: they are linked when all of them are
     /// in the file. Where that fails they are stored one by one, as far as they go. -1: not all are stored.
     int addDataBlocks(Pqa2DBType type, const QList<QByteArray> &payloads);
-    /// The raw form tells the debug log when it is refused.
+    /// The raw form tells the debug log when it is refused, of several in a row with the first.
     int addDataBlock(const _pqa2_data_block &block);
     /// Text with the present time before it.
     int addSystemLog(const QByteArray &text);
@@ -99,6 +101,7 @@ public:
 private:
     bool initFileHeader();
     int appendBlock(quint32 type, const char *data, qint64 size);
+    int tryBlock(quint32 type, const char *data, qint64 size);
     int storeBlock(quint32 type, const char *data, qint64 size);
     void bufferBlock(quint32 oonb, quint32 type, const char *data, qint64 size);
     int storeBuffer(qint64 lastBlock);
@@ -115,6 +118,8 @@ private:
     int m_part = 1;
     bool m_open = false;
     bool m_full = false;
+    bool m_refuses = false;
+    bool m_logged = false; // that blocks are refused
     bool m_unflushed = false; // something was written that no flush was begun for
     bool m_continues = false; // in a next part
     std::function<void(Pqa2FF &)> m_beginPart;

@@ -11,7 +11,6 @@
 
 namespace {
 
-constexpr double kRoomToBegin = 50; // MB, below which no file is opened
 constexpr double kMegabyte = 1024 * 1024;
 constexpr double kLongest = 24000; // h: the longest life of a measurement
 const char kFile[] = "/mnt/userfs/config/record.conf";
@@ -37,8 +36,8 @@ int RecordInfo::m_storage_room = 0;
 
 void RecordInfo::readSelectedParam()
 {
-    m_recordItems
-        = withWhatIsNeeded(SettingText::toUnsigned(Config::readConfigFile(QLatin1String(kFile), QLatin1String(kKey))));
+    const QString stored = Config::readConfigFile(QLatin1String(kFile), QLatin1String(kKey));
+    m_recordItems = withWhatIsNeeded(stored.isEmpty() ? quint32(NewInstrument) : SettingText::toUnsigned(stored));
 }
 
 void RecordInfo::writeSelectedParam()
@@ -54,10 +53,13 @@ void RecordInfo::initHarmMaxNumb(double nominalFrequency)
 
 int RecordInfo::hoursInRoom(double room, quint32 items, int intervalSeconds, const ChannelSet &wiring)
 {
-    if (room < kRoomToBegin)
-        return 0;
+    return room < kRoomToBegin ? 0 : hoursLeft(room, items, intervalSeconds, wiring);
+}
+
+int RecordInfo::hoursLeft(double room, quint32 items, int intervalSeconds, const ChannelSet &wiring)
+{
     const double perHour = recordBytesPerHour(items, intervalSeconds, wiring);
-    return int(std::min((room - kRoomKept) * kMegabyte / perHour, kLongest));
+    return int(std::clamp((room - kRoomKept) * kMegabyte / perHour, 0.0, kLongest));
 }
 
 void RecordInfo::checkMaxDuration(const ChannelSet &wiring)

@@ -28,8 +28,11 @@ public:
         InterharmonicAmp50to99 = 0x4000,
         MainsSignaling = 0x8000,
         AllHarmonics = 0x7F80,
+        /// Chosen before anyone chose: what fits into the common file but for mains signals.
+        NewInstrument = FrequencyInterval | CommonRms | Power | Energy | Flicker | Unbalance,
     };
 
+    static constexpr double kRoomToBegin = 50; // MB free, below which no file is begun
     static constexpr double kRoomKept = 5; // MB free, below which nothing is stored any more
 
     static int m_in_recording; // 1: prepared or running
@@ -52,6 +55,8 @@ public:
     /// Hours that a recording of these items can go on for with so many MB free (docs/formats/recorder.md); 0 where the
     /// room is too small to begin one.
     static int hoursInRoom(double room, quint32 items, int intervalSeconds, const ChannelSet &wiring);
+    /// The same for a recording that has begun: it goes on until nothing is stored any more.
+    static int hoursLeft(double room, quint32 items, int intervalSeconds, const ChannelSet &wiring);
     /// Looks how much room is free: m_storage_room and m_max_duration follow for the items and the interval as they are
     /// chosen, and m_duration is lowered where it is longer, to no less than an
     /// hour.

@@ -16,6 +16,13 @@ QString InterruptedNote::text(const InterruptedRun &run)
         .arg(run.name, run.last.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss")));
 }
 
+QString InterruptedNote::text(const PlannedRun &run)
+{
+    const QDateTime start = LocalTime::toLocalDateTime(QDateTime::fromSecsSinceEpoch(run.start, Qt::UTC));
+    return tr("Recording %1, planned for %2,\nwas lost with the supply.")
+        .arg(run.name, start.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss")));
+}
+
 void InterruptedNote::tell(FileWork *work)
 {
     RunJournal::instance(); // what was left is read before anything new is recorded
@@ -27,6 +34,9 @@ void InterruptedNote::tell(FileWork *work)
                 Message::showMessage(Message::Info, text(run));
                 RunJournal::instance().forget(run.name);
             }
+            for (const PlannedRun &run : RunJournal::instance().missed())
+                Message::showMessage(Message::Info, text(run));
+            RunJournal::instance().forgetMissed();
         });
     };
     work->run(

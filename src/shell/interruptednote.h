@@ -4,8 +4,10 @@
 
 class FileWork;
 struct InterruptedRun;
+struct PlannedRun;
 
-/// Tells the user once, at a start, which recordings the end of the program before has cut. Main thread.
+/// Tells the user once, at a start, which recordings the end of the program before has cut, and which waited for their
+/// start. Main thread.
 class InterruptedNote : public QObject
 {
     Q_OBJECT
@@ -15,4 +17,5 @@ public:
     /// start waits for nothing; a recording is forgotten when its message is answered.
     static void tell(FileWork *work);
     static QString text(const InterruptedRun &run);
+    static QString text(const PlannedRun &run);
 };

@@ -141,10 +141,12 @@ bool Navigator::endRecordingAsAsked(_quvera_ui_type current)
         return true;
     case Message::Discard:
         m_tasks->disconnectDisplay(current);
-        m_tasks->exitTaskWithSave(false);
+        m_tasks->stopRecordWithSave(false);
+        m_tasks->exitTask();
         return true;
     case Message::Restart:
-        m_tasks->exitTaskWithSave(false);
+        m_tasks->stopRecordWithSave(false);
+        m_tasks->exitTask();
         startRecordTask();
         m_tasks->connectDisplay(current); // the user stays there
         return false;

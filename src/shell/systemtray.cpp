@@ -91,6 +91,18 @@ void SystemTray::usingBDS(quint32 word)
     setIcon(kBds, word != 0);
 }
 
+void SystemTray::tellStorage()
+{
+    const bool refuses = m_storageRefuses && m_storageRefuses();
+    const QString info = refuses ? tr("Nothing is stored:\nstorage full") : QString();
+    if (info == m_storageInfo)
+        return;
+    removeInfo(m_storageInfo); // of another language, perhaps
+    m_storageInfo = info;
+    if (refuses)
+        addInfo(info);
+}
+
 QString SystemTray::infoInTurn() const
 {
     const int turn = m_turn % (m_infos.size() + 1);
@@ -109,6 +121,8 @@ void SystemTray::collectSystemInfo()
     setIcon(kUsb, m_disks.hasMassStorage());
     setIcon(kWired, NetWork::checkNetwireStatus(QStringLiteral("eth0")));
     setIcon(kWireless, m_wirelessJoined && m_wirelessJoined());
+
+    tellStorage();
 
     emit refreshSystemInfo(infoInTurn());
     emit refreshSystemIcon(iconInTurn(), m_batteryIcon);

@@ -21,6 +21,9 @@ public:
     /// How to learn whether the wireless network is joined; the object graph gives the wireless service's answer.
     void setWirelessQuery(const std::function<bool()> &query) { m_wirelessJoined = query; }
 
+    /// How to learn whether something is being recorded that the storage refuses: then a text of its own says so.
+    void setStorageQuery(const std::function<bool()> &query) { m_storageRefuses = query; }
+
     /// Texts that stand in turn with the set-up line, one a cycle.
     void addInfo(const QString &info);
     void removeInfo(const QString &info);
@@ -45,6 +48,7 @@ signals:
 private:
     void setIcon(const char *icon, bool shown);
     void changeBatteryIcon(int status);
+    void tellStorage();
     QString infoInTurn() const;
     QString iconInTurn() const;
 
@@ -54,5 +58,7 @@ private:
     QStringList m_icons;
     QString m_batteryIcon;
     std::function<bool()> m_wirelessJoined;
+    std::function<bool()> m_storageRefuses;
+    QString m_storageInfo; // as it stands among the infos
     int m_turn = 0; // cycles, for taking turns
 };

@@ -129,6 +129,8 @@ void TaskManage::stopTaskWithSave(bool keep)
 void TaskManage::stopRecordWithSave(bool keep)
 {
     saveAndStopRecord(keep);
+    if (!keep && g_unitask)
+        g_unitask->removeEndedRecord(); // it was asked for while the recording ran
 }
 
 void TaskManage::exitTask()

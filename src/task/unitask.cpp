@@ -6,11 +6,13 @@
 #include "settings/harmdata.h"
 #include "settings/inrushinfo.h"
 #include "settings/recordinfo.h"
+#include "storage/runjournal.h"
 #include "device/datatypes.h"
 #include "model/livedata.h"
 #include "device/trace.h"
 #include "detect/flickerprocessor.h"
 #include "detect/powerevents.h"
+#include "platform/clock.h"
 #include "task/displayfeed.h"
 #include "task/functions/functionplan.h"
 #include "task/inverterfeed.h"
@@ -57,6 +59,15 @@ int recordSeconds(int hours)
 {
     constexpr int kHour = 3600;
     return hours > 0 && hours <= std::numeric_limits<int>::max() / kHour ? kHour * hours : -1;
+}
+
+/// A run that waits for a time that the user chose is told at the next start, should the supply be lost before.
+void keepPlan(const QString &name, quint32 start)
+{
+    if (start > Clock::seconds())
+        RunJournal::instance().plan({ name, start });
+    else
+        RunJournal::instance().endPlan();
 }
 
 } // namespace
@@ -114,6 +125,7 @@ void UniTask::initUniFunction(AbstractTask::UniFunction function)
         stopRecordTask(); // it runs inside one measurement
     endFunctions(Keep::Data);
     m_recorder.folder().release();
+    m_ended.release();
     m_data.events().clear();
     m_function = function;
     const std::optional<FunctionPlan> plan = functionPlan(function);
@@ -123,8 +135,10 @@ void UniTask::initUniFunction(AbstractTask::UniFunction function)
         // Its record is derived from the live ones: there is nothing to hold for it.
         QV_TRACE("task/unitask") << "initPowerInverterData";
     }
-    if (plan)
+    if (plan) {
         setTaskLifeCycle(plan->start, plan->life);
+        keepPlan(plan->name, plan->start);
+    }
     beginFunctions();
     if (isLive())
         tell([](TaskFunction &running) { running.measure(); });
@@ -183,6 +197,11 @@ void UniTask::end(TaskFunction *function, Keep keep)
     function->stop(keep);
 }
 
+bool UniTask::storageRefuses() const
+{
+    return std::any_of(m_running.begin(), m_running.end(), [](const TaskFunction *f) { return f->refused(); });
+}
+
 template <typename Hear> void UniTask::tell(const Hear &hear)
 {
     const std::vector<TaskFunction *> now = m_running;
@@ -201,6 +220,8 @@ void UniTask::storeEvents(EventChoice choice)
 void UniTask::startBaseTimer()
 {
     m_energy.resume();
+    if (m_function != UniBasic)
+        RunJournal::instance().endPlan();
     beginFunctions();
     tell([](TaskFunction &function) { function.measure(); });
     m_secondTimer.start();
@@ -209,6 +230,7 @@ void UniTask::startBaseTimer()
 void UniTask::stopBaseTimer()
 {
     m_secondTimer.stop();
+    RunJournal::instance().endPlan();
     endFunctions(Keep::Data);
     m_data.finish();
 }
@@ -237,8 +259,10 @@ RecorderSetUp UniTask::recorderSetUp() const
 void UniTask::initRecording()
 {
     m_recorder.folder().release();
+    m_ended.release();
     setTaskLifeCycle(RecordInfo::m_begain_time, -1);
     setRecordLifeCycle(RecordInfo::m_begain_time, recordSeconds(RecordInfo::m_duration));
+    keepPlan(*RecordInfo::m_record_file, RecordInfo::m_begain_time);
     RecordInfo::m_in_recording = 1;
 }
 
@@ -246,6 +270,7 @@ void UniTask::startRecording()
 {
     if (m_function != UniBasic)
         return;
+    RunJournal::instance().endPlan();
     begin(&m_recorder);
 }
 
@@ -260,6 +285,7 @@ void UniTask::stopRecording()
 
 void UniTask::clearRecording()
 {
+    RunJournal::instance().endPlan();
     RecordInfo::m_in_recording = 0;
 }
 
@@ -276,7 +302,12 @@ void UniTask::driveRecording()
     const bool recorded = isRecording();
     recordTimer(quint64(m_wave->time));
     if (recorded && !isRecording())
-        m_recorder.folder().release(); // it ended by itself: whatever is discarded later is not this recording
+        m_ended = std::exchange(m_recorder.folder(), RecordFolder()); // whatever is discarded later is not this one
+}
+
+void UniTask::removeEndedRecord()
+{
+    m_ended.remove();
 }
 
 // Live records

@@ -42,6 +42,9 @@ public:
     void initRecording();
     /// What becomes of the recording that ended: its folder stays, or goes with all that is in it.
     void saveRecord(bool keep);
+    /// Takes away the last recording when it ended by itself, and no other was planned since: one answers a question
+    /// about it that was asked while it ran.
+    void removeEndedRecord();
 
     /// Chooses the function and plans the run for it. Values out of 1 to 5 only clear the event list.
     void initUniFunction(AbstractTask::UniFunction function);
@@ -66,6 +69,8 @@ public:
     void begin(TaskFunction *function);
     /// Ends a function; harmless for one that does not run.
     void end(TaskFunction *function, Keep keep);
+    /// Whether what one of the functions is to store is refused.
+    bool storageRefuses() const;
     /// The events so far go to the files that are open.
     void storeEvents(EventChoice choice);
 
@@ -144,6 +149,7 @@ private:
     InverterFunction m_inverter;
     MonitorFunction m_monitor;
     RecorderFunction m_recorder;
+    RecordFolder m_ended; // of the recording that ended by itself
     WaveFunction m_capture;
     LoggerFunction m_logger;
     std::vector<TaskFunction *> m_running;

@@ -82,7 +82,7 @@ QVector<Page> recordingOfASite()
     return {
         fromMenu("site-recording", "logger",
                  { week, "Down Right Right: interval",
-                   "F2 F2 Down Down Down Right Enter Down Enter Down Enter Left Enter Down Enter Right Enter: params",
+                   "F2 F1 Down Down Down Right Enter Down Enter Down Enter Left Enter Down Enter Right Enter: params",
                    "F4 F5: running", "F5: question" },
                  "F1", true, false),
     };

@@ -28,11 +28,13 @@ std::optional<FunctionPlan> functionPlan(AbstractTask::UniFunction function)
     case AbstractTask::UniBasic:
         return FunctionPlan { 0, -1, true };
     case AbstractTask::UniWave:
-        return FunctionPlan { WaveInfo::m_begain_time, -1, false };
+        return FunctionPlan { WaveInfo::m_begain_time, -1, false, *WaveInfo::m_wave_file };
     case AbstractTask::UniMonitor:
-        return FunctionPlan { MonitorInfo::m_begain_time, lengthOf(MonitorInfo::m_duration, kMonitorHour), true };
+        return FunctionPlan { MonitorInfo::m_begain_time, lengthOf(MonitorInfo::m_duration, kMonitorHour), true,
+                              *MonitorInfo::m_monitor_file };
     case AbstractTask::UniLogger:
-        return FunctionPlan { LoggerInfo::m_begain_time, lengthOf(LoggerInfo::m_duration, kLoggerHour), false };
+        return FunctionPlan { LoggerInfo::m_begain_time, lengthOf(LoggerInfo::m_duration, kLoggerHour), false,
+                              *LoggerInfo::m_logger_file };
     case AbstractTask::UniPowerInverter:
         return FunctionPlan();
     }

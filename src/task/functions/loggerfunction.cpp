@@ -46,7 +46,7 @@ void LoggerFunction::initLoggerFile()
     m_measures = false;
     m_maxLines = m_fixedLines > 0 ? m_fixedLines : maxLines(LoggerInfo::m_param_numb);
     m_file = std::make_unique<LoggerFile>(LoggerInfo::m_logger_file);
-    writeLoggerHeader();
+    m_refused = !writeLoggerHeader();
 }
 
 /// Begins a file.
@@ -88,7 +88,8 @@ void LoggerFunction::writeLoggerData()
         writeLoggerHeader();
     }
     const QString time = LocalTime::currentDateTime().toString(QStringLiteral("yyyy/MM/dd  hh:mm:ss,"));
-    if (m_file->write(time.toLatin1() + values + '\n'))
+    m_refused = !m_file->write(time.toLatin1() + values + '\n');
+    if (!m_refused)
         ++m_lines;
     m_file->flush();
 }

@@ -30,6 +30,7 @@ public:
     void start() override { initLoggerFile(); }
     void measure() override;
     void aggregation(const __datagram_aggregation &record) override;
+    bool refused() const override { return m_file && m_refused; }
     /// What was measured is kept; the file of a run that never measured is not.
     void stop(Keep keep) override { saveLoggerData(keep == Keep::Data && m_measures); }
 
@@ -54,4 +55,5 @@ private:
     int m_maxLines = 0; // of a file, without its header
     int m_lines = 0; // in the file
     bool m_measures = false;
+    bool m_refused = false; // the last line, or the file
 };

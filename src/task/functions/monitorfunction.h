@@ -47,6 +47,7 @@ public:
     void flicker(const __datagram_flicker &record, const FlickerOutput &out) override;
     void transient(const __trans_data &record) override;
     void storeEvents(EventChoice choice) override;
+    bool refused() const override { return m_judge && (!m_file.isOpen() || m_monitorFile->refuses()); }
     /// The heads of all events, the flicker intervals that are nearly full and the time are the end of its file.
     void stop(Keep) override;
 

@@ -59,6 +59,7 @@ public:
     /// All: their heads. Else with curves; with the finished ones go the transients. They are as they stand now and
     /// come into the file a piece at a time.
     void storeEvents(EventChoice choice) override;
+    bool refused() const override { return m_files && m_files->refuses(); }
     /// Stores what is there of the interval, the events that go on, the severities of flicker intervals that are nearly
     /// full, and the end.
     void stop(Keep keep) override;

@@ -3,6 +3,8 @@
 #include "record/pqa2device.h"
 #include "task/recordfolder.h"
 
+#include <algorithm>
+
 namespace {
 
 void storeStart(Pqa2FF &file, quint32 start)
@@ -51,6 +53,12 @@ void RecordFiles::flushBehind()
         if (file)
             file->flushBehind();
     }
+}
+
+bool RecordFiles::refuses() const
+{
+    return !isOpen(CommonFile)
+        || std::any_of(m_files.begin(), m_files.end(), [](const auto &file) { return file && file->refuses(); });
 }
 
 void RecordFiles::close()

@@ -29,6 +29,8 @@ public:
     void log(const QByteArray &text);
     /// Sends everything that was written so far on its way to the card.
     void flushBehind();
+    /// Whether the common file could not be begun, or a file took less than it was given last.
+    bool refuses() const;
     void close();
 
 private:

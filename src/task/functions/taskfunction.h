@@ -48,6 +48,8 @@ public:
     virtual void eventWave(const EventWave &, const ChannelSet & /*wiring*/) { }
     /// The events so far go to its file, if one is open.
     virtual void storeEvents(EventChoice) { }
+    /// Whether the storage refuses what it is to store.
+    virtual bool refused() const { return false; }
     /// Its part of the run ends; once, and only after a start().
     virtual void stop(Keep) { }
 };

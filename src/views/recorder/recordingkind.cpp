@@ -36,13 +36,14 @@ QString loggerName()
     return {};
 }
 
-int recorderHours(float room)
+int recorderHours(float room, bool begun)
 {
-    return RecordInfo::hoursInRoom(double(room), RecordInfo::m_recordItems, RecordingKind::recorder().interval(),
-                                   ChannelLabels::channels());
+    const auto hours = begun ? RecordInfo::hoursLeft : RecordInfo::hoursInRoom;
+    return hours(double(room), RecordInfo::m_recordItems, RecordingKind::recorder().interval(),
+                 ChannelLabels::channels());
 }
 
-int loggerHours(float room)
+int loggerHours(float room, bool /*begun*/)
 {
     return LoggerInfo::maxDuration(room, LoggerInfo::m_param_numb, RecordingKind::logger().interval());
 }
@@ -67,6 +68,7 @@ const RecordingKind &RecordingKind::recorder()
         int(std::size(RecordInfo::m_record_interval)),
         [] { RecordInfo::checkMaxDuration(ChannelLabels::channels()); },
         recorderHours,
+        float(RecordInfo::kRoomToBegin),
         recorderName,
         RecordInfo::readSelectedParam,
         &RecordInfo::m_recordItems,
@@ -91,6 +93,7 @@ const RecordingKind &RecordingKind::logger()
             LoggerInfo::checkMaxDuration();
         },
         loggerHours,
+        0,
         loggerName,
         LoggerInfo::readSelectedParam,
         &LoggerInfo::m_paramselected,

@@ -17,8 +17,9 @@ struct RecordingKind
     int intervalCount;
     /// Takes the room of the storage and holds the duration to what it allows.
     void (*checkMaxDuration)();
-    /// Hours that \a room (MB) allows, by what is chosen now.
-    int (*hoursOf)(float room);
+    /// Hours that \a room (MB) allows, by what is chosen now, for one that begins or for one that has \a begun.
+    int (*hoursOf)(float room, bool begun);
+    float roomToBegin; // MB
     QString (*defaultName)();
     void (*readChoices)();
     quint32 *choices; // bits of what is written

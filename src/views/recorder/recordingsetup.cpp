@@ -135,7 +135,10 @@ void RecordingSetup::start()
         return;
     }
     if (*m_kind.maxDuration < 1) {
-        Message::showMessage(Message::Info, tr("There is no room for a recording.\nDelete files in Memory."));
+        const bool canBegin = MassStorage::storageFreeSize(FileInfo::storagePath()) >= m_kind.roomToBegin;
+        Message::showMessage(Message::Info,
+                             canBegin ? tr("There is no room for a recording.\nDelete files in Memory.")
+                                      : tr("A recording begins with 50 MB free.\nDelete files in Memory."));
         return;
     }
     initBegainTime();

@@ -108,13 +108,7 @@ RecordingStart::State RecordingStart::state() const
 
 void RecordingStart::showState()
 {
-    const char *const texts[] = {
-        QT_TR_NOOP("Logger waits for its start.\nSwith to other page to see real time data and details."),
-        QT_TR_NOOP("Logger is running.\nSwith to other page to see real time data and details."),
-        QT_TR_NOOP("Logger has ended.\nIts data stands in Memory."),
-    };
     setText(m_ui->title, tr("Logger"));
-    setText(m_ui->text, tr(texts[state()]));
     setKeyCaption(5, state() == Ended ? tr("Back") : tr("Stop"));
     const auto show = [this](Field field, const QString &text) { setText(m_rows[field].values[0], text); };
     show(Name, m_rows[Name].values[0]->fontMetrics().elidedText(*m_kind.name, Qt::ElideRight, kGrid.width));
@@ -124,15 +118,24 @@ void RecordingStart::showState()
     showRoom();
 }
 
-/// Free room, and how long it lasts; in red where the recording needs more.
+/// Free room, and how long it lasts; in red where the recording needs more. The text above says when it is used up.
 void RecordingStart::showRoom()
 {
+    const char *const texts[] = {
+        QT_TR_NOOP("Logger waits for its start.\nSwith to other page to see real time data and details."),
+        QT_TR_NOOP("Logger is running.\nSwith to other page to see real time data and details."),
+        QT_TR_NOOP("Logger has ended.\nIts data stands in Memory."),
+    };
     const float room = MassStorage::storageFreeSize(FileInfo::storagePath());
-    const int hours = m_kind.hoursOf(room);
+    const int hours = m_kind.hoursOf(room, state() == Running);
     const qint64 rest = m_end - qMax(m_begin, Clock::msecs());
     QLabel *label = m_rows[Memory].values[0];
     setText(label, QStringLiteral("%1, %2").arg(RecordingText::room(room), RecordingText::hours(hours).trimmed()));
-    const bool lasts = double(room) >= RecordInfo::kRoomKept && (hours + 1) * kHour >= rest;
+    const bool full = double(room) < RecordInfo::kRoomKept;
+    setText(m_ui->text,
+            full && state() == Running ? tr("The storage takes no more data.\nDelete files in Memory.")
+                                       : tr(texts[state()]));
+    const bool lasts = !full && (hours + 1) * kHour >= rest;
     LabelLook::setColor(label, QColor(state() != Ended && !lasts ? Qt::red : Qt::white));
 }
 

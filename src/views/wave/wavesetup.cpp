@@ -124,7 +124,12 @@ void WaveSetup::start()
     stopRepeat();
     WaveInfo::checkMaxDuration();
     showRows();
-    if (WaveInfo::m_max_duration < WaveInfo::m_min_duration || WaveInfo::m_wave_file->isEmpty()) {
+    if (WaveInfo::m_wave_file->isEmpty()) { // all 999 defaults are taken: one has to be typed first
+        editItem();
+        showRows();
+        return;
+    }
+    if (WaveInfo::m_max_duration < WaveInfo::m_min_duration) {
         Message::showMessage(Message::Info, tr("There is no room for a capture.\nDelete files in Memory."));
         return;
     }

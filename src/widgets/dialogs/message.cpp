@@ -21,6 +21,8 @@ struct MessageForm
 
 static constexpr MessageKey kNone { nullptr, Message::None };
 static constexpr MessageKey kOk { QT_TRANSLATE_NOOP("Message", "Ok"), Message::Ok };
+static constexpr MessageKey kYes { QT_TRANSLATE_NOOP("Message", "Yes"), Message::Yes };
+static constexpr MessageKey kNo { QT_TRANSLATE_NOOP("Message", "No"), Message::No };
 static constexpr MessageKey kCancel { QT_TRANSLATE_NOOP("Message", "Cancel"), Message::Cancel };
 
 // clang-format off
@@ -29,8 +31,7 @@ static const MessageForm kForms[] = {
     { ":/question", { kNone, kNone, kNone, { QT_TRANSLATE_NOOP("Message", "Quit"), Message::Quit }, kCancel } },
     { ":/warning",  { kNone, kNone, kNone, kOk, kCancel } },
     { ":/error",    { kNone, kNone, kNone, kNone, kOk } },
-    { ":/question", { kNone, kNone, kNone, { QT_TRANSLATE_NOOP("Message", "Yes"), Message::Yes },
-                                           { QT_TRANSLATE_NOOP("Message", "No"), Message::No } } },
+    { ":/question", { kNone, kNone, kNone, kYes, kNo } },
     { ":/info",     { kNone, kNone, { QT_TRANSLATE_NOOP("Message", "Save & Restart"), Message::Save },
                                     { QT_TRANSLATE_NOOP("Message", "Discard & Restart"), Message::Discard }, kCancel } },
     { ":/info",     { kNone, kNone, { QT_TRANSLATE_NOOP("Message", "Save & Exit"), Message::Save },
@@ -38,6 +39,9 @@ static const MessageForm kForms[] = {
     { ":/warning",  { { QT_TRANSLATE_NOOP("Message", "Exit"), Message::Discard },
                       { QT_TRANSLATE_NOOP("Message", "Restart"), Message::Restart }, kNone,
                       { QT_TRANSLATE_NOOP("Message", "Save"), Message::Save }, kCancel } },
+    { ":/question", { { QT_TRANSLATE_NOOP("Message", "Yes to all"), Message::YesToAll },
+                      { QT_TRANSLATE_NOOP("Message", "No to all"), Message::NoToAll }, kNone,
+                      kYes, kNo } },
 };
 // clang-format on
 

@@ -23,8 +23,21 @@ public:
         RestartChoice = 5, // Save & Restart, Discard & Restart, Cancel
         ExitChoice = 6, // Save & Exit, Discard & Exit, Cancel
         RecorderChoice = 7, // Exit, Restart, Save, Cancel
+        EachOrAll = 8, // Yes to all, No to all, Yes, No
     };
-    enum _RET { Ok = 0, Cancel = 1, Save = 2, Quit = 3, Yes = 4, No = 5, Discard = 6, Restart = 7, None = 8 };
+    enum _RET {
+        Ok = 0,
+        Cancel = 1,
+        Save = 2,
+        Quit = 3,
+        Yes = 4,
+        No = 5,
+        Discard = 6,
+        Restart = 7,
+        None = 8,
+        YesToAll = 9,
+        NoToAll = 10
+    };
 
     /// Asks and answers the `_RET` of the key. A dialog closed by other means answers 0, which is Ok. An unknown type
     /// shows as Info.

@@ -42,6 +42,7 @@ private slots:
     void aDiskMayComeAndGoWhileThePageIsShown();
     void theFirstDiskIsTheTarget();
     void eachFileThatExistsIsAskedAbout();
+    void oneAnswerMayHoldForAllThatFollow();
     void refusingAllCopiesNothing();
     void whatDoesNotFitIsSaidAndWhatFitsIsCopied();
     void aPulledDiskIsSaidAndLeavesNothing();
@@ -145,6 +146,28 @@ void TstMemoryCopy::eachFileThatExistsIsAskedAbout()
     QCOMPARE(read(kRecording + "/Common.pqa2"), QByteArray(300000, 'c'));
     QVERIFY(!RootFiles::exists(kDisk + "/" + QString::fromLatin1(kRecording) + "/old"));
     QCOMPARE(screen.marks(), QList<bool>({ false, true, false })); // what was left out stays marked
+}
+
+void TstMemoryCopy::oneAnswerMayHoldForAllThatFollow()
+{
+    const auto copied = [](const QByteArray &keys) {
+        storeThree();
+        RootFiles::write(kDisk + "/Vif1.png", "old");
+        RootFiles::write(kDisk + "/Scope1.pqa", "old");
+        RootFiles::write(kDisk + "/" + QString::fromLatin1(kRecording) + "/Common.pqa2", "old");
+        Screen screen;
+        screen.page->setMedias({ kDisk });
+        Answers answers(keys);
+        screen.press({ F2, F1, F4 });
+        QTRY_VERIFY_WITH_TIMEOUT(answers.isDone(), kPatienceMs);
+        screen.wait();
+        QVERIFY(!QApplication::activeModalWidget());
+    };
+    const auto isNew = [](const QByteArray &name) { return read(name) != "old"; };
+    copied("FLW"); // Ok, No, Yes to all
+    QVERIFY(!isNew("Vif1.png") && isNew("Scope1.pqa") && isNew(kRecording + "/Common.pqa2"));
+    copied("FFY"); // Ok, Yes, No to all
+    QVERIFY(isNew("Vif1.png") && !isNew("Scope1.pqa") && !isNew(kRecording + "/Common.pqa2"));
 }
 
 void TstMemoryCopy::refusingAllCopiesNothing()

@@ -76,6 +76,22 @@ private slots:
         QVERIFY(InterruptedRuns::find(journal, kWarsaw).isEmpty());
     }
 
+    void whatWaitedForItsStartWasNotCut()
+    {
+        RootFiles::write(kStorage + "Logger_1_00.csv", "TIME,FREQ AVG,\n"); // opened for a run that waits
+        storeBlocks("Monitor.pqa2", {});
+        RootFiles::write(kStorage + "Logger_2_00.csv", "TIME,FREQ AVG,\n2023/11/14  23:13:20,50.000,\n");
+        RootFiles::waitForDisks();
+        RootFiles::write(RunJournal::path(),
+                         ".planned 1800000000 Logger_1\nLogger_1_00.csv\nLogger_2_00.csv\n" + kRun.toUtf8() + '\n');
+        RunJournal journal;
+        const QVector<InterruptedRun> runs = InterruptedRuns::find(journal, kWarsaw);
+        QCOMPARE(runs.size(), 1);
+        QCOMPARE(runs[0].name, QStringLiteral("Logger_2_00.csv"));
+        QCOMPARE(journal.interrupted(), QStringList { "Logger_2_00.csv" });
+        QCOMPARE(journal.missed().size(), 1); // until it is told
+    }
+
     void theLastBlockWithATimeTellsIt_data()
     {
         QTest::addColumn<QString>("file");

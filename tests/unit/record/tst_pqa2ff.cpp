@@ -333,8 +333,10 @@ void TstPqa2FF::blockNeedsFiveMegabytes()
                          QRegularExpression(QStringLiteral("^F: pqa2/pqa2ff L: \\d+ > availableRoom 4\\.99$")));
     QCOMPARE(fake.file->addDataBlock(_pqa2_data_block { 0, 0x5000, 3, "abc" }), -1);
     QCOMPARE(fake.state.content.size(), before);
+    QVERIFY(fake.file->refuses());
     fake.state.free = 5.0f; // room again: the file has a gap in time and goes on
     QCOMPARE(fake.file->addDataBlock(_pqa2_data_block { 7, 0x5000, 0, nullptr }), 0);
+    QVERIFY(!fake.file->refuses());
     QVERIFY(isRun(readBlocks(fake.state.content), 1, 1));
 }
 

@@ -12,6 +12,7 @@ private slots:
     void blocksAreWrittenAtOnce();
     void blocksBeyondTheEndAreRefusedOneByOne();
     void withoutRoomNoneIsStored();
+    void refusedBlocksInARowAreLoggedOnce();
     void afterACutAtAnyByteAllOfThemAreThereOrNone();
     void everyFailureLeavesAWholeFile_data();
     void everyFailureLeavesAWholeFile();
@@ -77,6 +78,29 @@ void TstPqa2Many::withoutRoomNoneIsStored()
     fake.state.free = 5.0f;
     QCOMPARE(fake.file->addDataBlocks(Pqa2EventHead, payloads(5)), 0);
     QCOMPARE(stored(fake), payloads(5));
+}
+
+void TstPqa2Many::refusedBlocksInARowAreLoggedOnce()
+{
+    FakePqa2File fake;
+    QVERIFY(fake.open());
+    const _pqa2_data_block block { 0, 0x5000, 3, "abc" };
+    const auto store = [&](float room, int blocks) {
+        fake.state.free = room;
+        for (int i = 0; i < blocks; ++i)
+            fake.file->addDataBlock(block);
+    };
+    static QStringList logged;
+    logged.clear();
+    const QtMessageHandler before
+        = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) { logged << text; });
+    store(4.5f, 1000);
+    store(5.0f, 2);
+    store(4.25f, 1000);
+    qInstallMessageHandler(before);
+    QCOMPARE(logged.size(), 2);
+    QVERIFY(logged[0].endsWith("availableRoom 4.5"));
+    QVERIFY(logged[1].endsWith("availableRoom 4.25"));
 }
 
 void TstPqa2Many::afterACutAtAnyByteAllOfThemAreThereOrNone()

@@ -67,7 +67,9 @@ private slots:
     {
         QTest::addColumn<QByteArray>("file");
         QTest::addColumn<uint>("items");
-        QTest::newRow("no key") << QByteArray() << 1u;
+        QTest::newRow("no file: what a new instrument records") << QByteArray() << 0x7Fu;
+        QTest::newRow("no key") << QByteArray("OTHER=8\n") << 0x7Fu;
+        QTest::newRow("no value") << QByteArray("PARAMS=\n") << 0x7Fu;
         QTest::newRow("nothing chosen") << QByteArray("PARAMS=0\n") << 1u;
         QTest::newRow("power only") << QByteArray("PARAMS=8\n") << 9u;
         QTest::newRow("only voltage harmonics: the rms group comes along") << QByteArray("PARAMS=128\n") << 133u;
@@ -140,6 +142,16 @@ private slots:
         QCOMPARE(RecordInfo::hoursInRoom(1024, 4, 30, wiring), 3 * 3297 + 2);
         QCOMPARE(RecordInfo::hoursInRoom(49.9, 4, 10, wiring), 0); // no file can be begun
         QCOMPARE(RecordInfo::hoursInRoom(1e9, 1, 300, wiring), 24000);
+    }
+
+    void aRecordingThatHasBegunGoesOnBelowTheRoomThatOneBeginsWith()
+    {
+        const ChannelSet &wiring = *channelSet(1); // 324000 bytes an hour; nothing is stored below 5 MB
+        QCOMPARE(RecordInfo::hoursLeft(49.9, 4, 10, wiring), 145);
+        QCOMPARE(RecordInfo::hoursLeft(6, 4, 10, wiring), 3);
+        QCOMPARE(RecordInfo::hoursLeft(5, 4, 10, wiring), 0);
+        QCOMPARE(RecordInfo::hoursLeft(0, 4, 10, wiring), 0);
+        QCOMPARE(RecordInfo::hoursLeft(1e9, 1, 300, wiring), 24000);
     }
 
     void theDurationIsLoweredToWhatTheRoomAllows()

@@ -11,6 +11,7 @@
 namespace {
 
 constexpr auto kF5Letter = Qt::Key_L;
+const QByteArray kPlan(".planned 1700000000 Week 7\n");
 
 QByteArray journal()
 {
@@ -31,7 +32,8 @@ private slots:
         m_userConfig_g.setTimeZone(QStringLiteral("UTC"));
         RootFiles::write("/mnt/storage/Logger_1_00.csv", "TIME,\n2023/11/14  22:13:20,\n");
         RootFiles::write("/mnt/storage/Logger_2_00.csv", "TIME,\n2023/11/14  22:13:21,\n");
-        RootFiles::write(RunJournal::path(), "Logger_1_00.csv\ngone.wav\nLogger_2_00.csv\n");
+        RootFiles::write(RunJournal::path(),
+                         ".planned 1700000000 Week 7\nLogger_1_00.csv\ngone.wav\nLogger_2_00.csv\n");
         buildWholeGraph();
         QVERIFY(!QApplication::activeModalWidget()); // the start waits for no answer
         QStringList texts;
@@ -47,12 +49,14 @@ private slots:
             QTest::keyClick(dialog, kF5Letter);
         });
         answers.start(20);
-        QTRY_COMPARE(texts.size(), 2);
+        QTRY_COMPARE(texts.size(), 3);
         QCOMPARE(texts,
                  QStringList({ "Recording Logger_1_00.csv was interrupted at 2023-11-14 22:13:20",
-                               "Recording Logger_2_00.csv was interrupted at 2023-11-14 22:13:21" }));
+                               "Recording Logger_2_00.csv was interrupted at 2023-11-14 22:13:21",
+                               "Recording Week 7, planned for 2023-11-14 22:13:20,\nwas lost with the supply." }));
         // What was not answered stays.
-        QCOMPARE(journals, QByteArrayList({ "Logger_1_00.csv\nLogger_2_00.csv\n", "Logger_2_00.csv\n" }));
+        QCOMPARE(journals,
+                 QByteArrayList({ kPlan + "Logger_1_00.csv\nLogger_2_00.csv\n", kPlan + "Logger_2_00.csv\n", kPlan }));
         QTRY_VERIFY(!QApplication::activeModalWidget());
         QCOMPARE(journal(), QByteArray("(missing)"));
         QCOMPARE(FileInfo().getInfoFiles().size(), 2); // and the index was mended

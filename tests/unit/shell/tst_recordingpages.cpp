@@ -1,6 +1,10 @@
 // What the recorder's pages ask of the shell, and what they hear of the task.
 #include "shellcase.h"
 #include "unit/storage/rootfiles.h"
+#include "unit/widgets/dialogdriver.h"
+
+#include "device/datagramtypes.h"
+#include "platform/clock.h"
 
 #include "settings/loggerinfo.h"
 #include "shell/pagetable.h"
@@ -15,6 +19,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <cstring>
 #include <memory>
 
 class TstRecordingPages : public ShellCase
@@ -27,6 +32,8 @@ private slots:
     void planOnThePageIsTheTasks();
     void saveEndsTheRecordingAndNoMore();
     void restartPlansAnew();
+    void anAnswerCountsForARecordingThatEndedMeanwhile_data();
+    void anAnswerCountsForARecordingThatEndedMeanwhile();
     void comingBackShowsTheRecordingOrANewPlan();
     void recordingTimeReachesThePageInsteadOfTheRuns();
     void restartInTheQuestionOfAnotherPageKeepsThatPageLive();
@@ -46,6 +53,13 @@ private:
     static QString shown(const char *label)
     {
         return recorder()->currentPage()->findChild<QLabel *>(QLatin1String(label))->text();
+    }
+    /// A waveform of that moment, ms since 1970, comes from the processor.
+    static void hear(qint64 time)
+    {
+        QByteArray payload(Link::kWaveWords * 4, '\0');
+        std::memcpy(payload.data(), &time, sizeof time);
+        g_unitask->datagramWave(payload);
     }
     static void press(Qt::Key letter) { QTest::keyClick(recorder()->currentPage(), letter); }
 };
@@ -117,6 +131,48 @@ void TstRecordingPages::restartPlansAnew()
     QVERIFY(g_unitask->recordEnabled());
     QCOMPARE(recorder()->currentIndex(), int(RecordPqa2Page::Start));
     QVERIFY(shown("text").startsWith("Logger waits for its start."));
+}
+
+void TstRecordingPages::anAnswerCountsForARecordingThatEndedMeanwhile_data()
+{
+    QTest::addColumn<_quvera_ui_type>("target"); // whose key asks; the logger's own page: Stop
+    QTest::addColumn<Qt::Key>("answer");
+    QTest::addColumn<bool>("stays");
+    QTest::addRow("Stop, Save") << UI_LOGGER << kF4 << true;
+    QTest::addRow("Stop, Exit") << UI_LOGGER << kF1 << false;
+    QTest::addRow("Stop, Restart") << UI_LOGGER << Qt::Key_Y << false;
+    QTest::addRow("Setup, Save") << UI_SETUP << kF4 << true;
+    QTest::addRow("Setup, Exit") << UI_SETUP << kF1 << false;
+    QTest::addRow("Setup, Restart") << UI_SETUP << Qt::Key_Y << false;
+}
+
+void TstRecordingPages::anAnswerCountsForARecordingThatEndedMeanwhile()
+{
+    QFETCH(_quvera_ui_type, target);
+    QFETCH(Qt::Key, answer);
+    QFETCH(bool, stays);
+    RootFiles::clean();
+    enterLogger();
+    RecordInfo::m_begain_time = Clock::seconds() + 3600;
+    *RecordInfo::m_record_file = QStringLiteral("Ended");
+    emit m_taskmanage->links().recordWanted();
+    recorder()->enter();
+    hear(g_unitask->recordStart());
+    QVERIFY(g_unitask->isRecording());
+    const QString folder = g_unitask->recorder().folder().path();
+    QVERIFY(RootFiles::exists(folder));
+    DialogDriver ends({ [answer](QDialog *dialog) {
+        hear(g_unitask->recordEnd());
+        QVERIFY(!g_unitask->isRecording());
+        QTest::keyClick(dialog, answer);
+    } });
+    if (target == UI_LOGGER)
+        press(kF5);
+    else
+        m_basedialog->navigator().go(UI_LOGGER, target);
+    QVERIFY(ends.isDone());
+    QCOMPARE(RootFiles::exists(folder), stays);
+    RecordInfo::m_begain_time = 0;
 }
 
 void TstRecordingPages::comingBackShowsTheRecordingOrANewPlan()

@@ -5,6 +5,8 @@
 #include "platform/target.h"
 #include "shell/systemtray.h"
 
+#include "unit/markedlanguage.h"
+
 #include <QDir>
 #include <QSignalSpy>
 #include <QTest>
@@ -20,6 +22,7 @@ private slots:
     void eachCycleTellsTextAndIcons();
     void collectsByItself();
     void setUpLineIsShownAndAddedInfosTakeTurns();
+    void whatTheStorageRefusesIsToldInTurnWithTheSetUpLine();
     void recordingIsShown();
     void bdsIsShownAfterItsSignalAndStays();
     void wirelessComesFromTheQuery();
@@ -113,6 +116,27 @@ void TstSystemTray::setUpLineIsShownAndAddedInfosTakeTurns()
     QCOMPARE(shown, QStringList({ setUp, "one", "two", setUp, "one", "two" }));
     other.removeInfo(QStringLiteral("one"));
     QCOMPARE(other.infos(), QStringList { "two" });
+}
+
+void TstSystemTray::whatTheStorageRefusesIsToldInTurnWithTheSetUpLine()
+{
+    SystemTray tray;
+    bool refuses = false;
+    tray.setStorageQuery([&refuses] { return refuses; });
+    nextInfo(tray);
+    QVERIFY(tray.infos().isEmpty());
+    refuses = true;
+    QStringList seen { nextInfo(tray), nextInfo(tray), nextInfo(tray), nextInfo(tray) };
+    QCOMPARE(seen.count("Nothing is stored:\nstorage full"), 2);
+    QCOMPARE(seen.count(m_settingConfig_g.systemInfo()), 2);
+    MarkedLanguage language; // one that was chosen meanwhile
+    QVERIFY(QCoreApplication::installTranslator(&language));
+    nextInfo(tray);
+    QCOMPARE(tray.infos(), QStringList { "~Nothing is stored:\nstorage full" });
+    QCoreApplication::removeTranslator(&language);
+    refuses = false;
+    nextInfo(tray);
+    QVERIFY(tray.infos().isEmpty());
 }
 
 void TstSystemTray::recordingIsShown()

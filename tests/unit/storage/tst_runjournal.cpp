@@ -128,6 +128,55 @@ private slots:
         }
         QVERIFY(!RootFiles::exists(kJournal + ".bak"));
     }
+
+    void withoutRoomForAnotherFileANameThatEndedGoesAllTheSame()
+    {
+        RunJournal journal;
+        journal.begin("one");
+        journal.begin("two");
+        RootFiles::waitForDisks();
+        QVERIFY(QDir().mkpath(Target::path(kJournal + ".bak"))); // no staging copy can be made
+        journal.end("one");
+        RootFiles::waitForDisks();
+        QCOMPARE(RunJournal().interrupted(), QStringList { "two" });
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("open fail: RunJournal"));
+        journal.begin("three"); // what is longer needs room
+        RootFiles::waitForDisks();
+        QCOMPARE(RunJournal().interrupted(), QStringList { "two" });
+        journal.end("three");
+        journal.end("two");
+        QCOMPARE(stored(), QByteArray("(missing)"));
+    }
+
+    void aRunThatWaitsStandsThereUntilItBegins()
+    {
+        RunJournal journal;
+        journal.plan({ "My\nlog, 7", 1'700'000'000 });
+        QCOMPARE(stored(), QByteArray(".planned 1700000000 My log, 7\n"));
+        QVERIFY(journal.missed().isEmpty()); // the supply is there
+        journal.plan({ "Wave_1", 1'700'000'001 }); // in its place
+        journal.begin("231114_221320 Logger_1");
+        QCOMPARE(stored(), QByteArray(".planned 1700000001 Wave_1\n231114_221320 Logger_1\n"));
+        journal.endPlan();
+        QCOMPARE(stored(), QByteArray("231114_221320 Logger_1\n"));
+        journal.end("231114_221320 Logger_1");
+        QCOMPARE(stored(), QByteArray("(missing)"));
+    }
+
+    void theNextStartFindsWhatWaitedUntilItIsForgotten()
+    {
+        RootFiles::write(kJournal,
+                         ".planned 1700000000 My log\n.planned\n.planned x y\n.planned 5\n.planned -1 a\nWave_1.wav\n");
+        RunJournal next;
+        QCOMPARE(next.missed().size(), 1);
+        QCOMPARE(next.missed()[0].name, QStringLiteral("My log"));
+        QCOMPARE(next.missed()[0].start, 1'700'000'000u);
+        QCOMPARE(next.interrupted(), QStringList { "Wave_1.wav" });
+        next.plan({ "Later", 1'800'000'000 });
+        QCOMPARE(stored(), QByteArray(".planned 1700000000 My log\n.planned 1800000000 Later\nWave_1.wav\n"));
+        next.forgetMissed();
+        QCOMPARE(stored(), QByteArray(".planned 1800000000 Later\nWave_1.wav\n"));
+    }
 };
 
 QTEST_GUILESS_MAIN(TstRunJournal)

@@ -46,9 +46,12 @@ private slots:
     void aDeclinedRecordingIsDeletedEntirely();
     void aKeptRecordingStaysWhateverIsDiscardedLater();
     void aRecordingThatEndedByItselfIsNoLongerAtDisposal();
+    void oneThatEndedByItselfGoesWhenItsQuestionSaysSo();
+    void aNewPlanKeepsTheOneThatEndedByItself();
     void anotherFunctionEndsTheRecording();
     void aPlannedRecordingBeginsTheMeasurementThatWaits();
     void aRecordingThatNeverBeganLeavesNothing();
+    void aPlanThatIsEndedIsNotTold();
     void whatWaitsIsStoredByTheRecordersOwnTimer();
     void theRecordingGoesOnBehindAHold();
     void nothingIsRecordedBesideAnotherFunction();
@@ -148,7 +151,7 @@ void TstRecording::aRecordingIsPlannedByTheUsersChoice()
     prepare(RecordInfo::Power, 24'000);
     QCOMPARE(m_task->recordStart(), kNow + 86'400'000);
     QCOMPARE(m_task->recordLife(), qint64(86'400'000) * 1000);
-    QCOMPARE(storage(), QStringList());
+    QCOMPARE(storage(), QStringList(".running")); // the plan, and no folder
 }
 
 void TstRecording::itRunsForItsHoursByTheProcessorsTime()
@@ -278,6 +281,30 @@ void TstRecording::aRecordingThatEndedByItselfIsNoLongerAtDisposal()
     QCOMPARE(storage().size(), 2);
 }
 
+void TstRecording::oneThatEndedByItselfGoesWhenItsQuestionSaysSo()
+{
+    start();
+    prepare(1);
+    feed(3'609'000, 3'609'400);
+    feed(7'300'000, 7'300'400);
+    QVERIFY(!m_task->isRecording());
+    QCOMPARE(storage().size(), 2);
+    m_task->removeEndedRecord();
+    QCOMPARE(storage(), QStringList(".infomation"));
+}
+
+void TstRecording::aNewPlanKeepsTheOneThatEndedByItself()
+{
+    start();
+    prepare(1);
+    feed(3'609'000, 3'609'400);
+    feed(7'300'000, 7'300'400);
+    prepare(1);
+    m_task->removeEndedRecord();
+    QCOMPARE(storage().size(), 2);
+    m_task->stopRecordTask();
+}
+
 void TstRecording::anotherFunctionEndsTheRecording()
 {
     start();
@@ -300,11 +327,13 @@ void TstRecording::aPlannedRecordingBeginsTheMeasurementThatWaits()
     m_task->preStartTask();
     feed(3'598'000, 3'600'000);
     QVERIFY(!m_task->isTaskRunning());
-    QCOMPARE(storage(), QStringList());
+    QCOMPARE(storage(), QStringList(".running")); // which says that it waits
+    QCOMPARE(RootFiles::read("/mnt/storage/.running"), QByteArray(".planned 1700003600 Logger_1\n"));
     feed(3'600'000, 3'610'400);
     QVERIFY(m_task->isTaskRunning());
     QVERIFY(m_task->isRecording());
     QCOMPARE(blocks(0xA1000029).size(), 1);
+    QVERIFY(!RootFiles::read("/mnt/storage/.running").contains("planned"));
     m_task->stopRecordTask();
 }
 
@@ -328,6 +357,16 @@ void TstRecording::aRecordingThatNeverBeganLeavesNothing()
     m_task->saveRecord(false);
     QCOMPARE(storage(), QStringList());
     QCOMPARE(RecordInfo::m_in_recording, 0);
+}
+
+void TstRecording::aPlanThatIsEndedIsNotTold()
+{
+    start();
+    RecordInfo::m_begain_time = quint32(kNow / 1000) + 3600;
+    prepare(1);
+    QCOMPARE(storage(), QStringList(".running"));
+    m_task->stopTask(); // as when somebody switches the instrument off
+    QCOMPARE(storage(), QStringList());
 }
 
 void TstRecording::theRecordingGoesOnBehindAHold()

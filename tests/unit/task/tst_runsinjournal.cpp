@@ -5,7 +5,11 @@
 
 #include "monitorrun.h"
 #include "recorderrun.h"
+#include "settings/loggerinfo.h"
+#include "settings/monitorinfo.h"
+#include "settings/waveinfo.h"
 #include "storage/runjournal.h"
+#include "unitaskcase.h"
 
 namespace {
 
@@ -78,6 +82,46 @@ private slots:
             QCOMPARE(journal(), kNone);
         }
         MonitorCase::endCase();
+    }
+
+    void aRunThatWaitsForItsTimeIsPlannedThere_data()
+    {
+        QTest::addColumn<int>("function");
+        QTest::addColumn<QByteArray>("name");
+        QTest::newRow("wave") << int(AbstractTask::UniWave) << QByteArray("Wave_7");
+        QTest::newRow("logger") << int(AbstractTask::UniLogger) << QByteArray("Log_7");
+        QTest::newRow("monitor") << int(AbstractTask::UniMonitor) << QByteArray("Monitor_7");
+    }
+    void aRunThatWaitsForItsTimeIsPlannedThere()
+    {
+        QFETCH(int, function);
+        QFETCH(QByteArray, name);
+        RootFiles::clean();
+        renewRecords();
+        *WaveInfo::m_wave_file = QStringLiteral("Wave_7");
+        *LoggerInfo::m_logger_file = QStringLiteral("Log_7");
+        *MonitorInfo::m_monitor_file = QStringLiteral("Monitor_7");
+        const auto planned = [&](quint32 start) {
+            WaveInfo::m_begain_time = LoggerInfo::m_begain_time = MonitorInfo::m_begain_time = start;
+            auto task = std::make_unique<UniTask>(liveData());
+            task->initUniFunction(AbstractTask::UniFunction(function));
+            return task;
+        };
+        const QByteArray line = ".planned 1700003600 " + name + '\n';
+        const auto ended = planned(quint32(kNow / 1000) + 3600);
+        QVERIFY(journal().startsWith(line));
+        ended->stopTask();
+        QCOMPARE(journal(), kNone);
+        const auto begun = planned(quint32(kNow / 1000) + 3600);
+        QVERIFY(journal().startsWith(line));
+        begun->startTask();
+        QVERIFY(!journal().contains("planned"));
+        begun->stopTask();
+        const auto atOnce = planned(0);
+        QVERIFY(!journal().contains("planned"));
+        atOnce->stopTask();
+        WaveInfo::m_begain_time = LoggerInfo::m_begain_time = MonitorInfo::m_begain_time = 0;
+        dropRecords();
     }
 };
 

@@ -13,8 +13,8 @@
 
 #include <QAbstractButton>
 
-/// What the tests of the recorder's and the logger's pages share: an empty card, the choices of a new instrument, and
-/// both families by one name.
+/// What the tests of the recorder's and the logger's pages share: an empty card, choices with no box on, and both
+/// families by one name.
 namespace RecorderCase {
 
 using namespace PageTest;
@@ -22,9 +22,10 @@ using namespace PageTest;
 constexpr char kRecordFile[] = "/mnt/userfs/config/record.conf";
 constexpr char kLoggerFile[] = "/mnt/userfs/config/logger.conf";
 
-inline void newInstrument()
+inline void nothingChosen()
 {
     RootFiles::clean();
+    RootFiles::write(kRecordFile, "PARAMS=1\n");
     setUpMeasurement(1);
     RecordInfo::m_in_recording = LoggerInfo::m_in_logging = 0;
     RecordInfo::m_duration = LoggerInfo::m_duration = 2;

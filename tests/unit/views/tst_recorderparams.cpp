@@ -41,6 +41,17 @@ QAbstractButton *box(const QWidget *page, const char *name)
     return page->findChild<QAbstractButton *>(QString::fromUtf8(name));
 }
 
+/// Names of the boxes that are on.
+QStringList chosenIn(const QWidget *page)
+{
+    QStringList on;
+    for (const BoxRow &row : kBoxes) {
+        if (box(page, row.name)->isChecked())
+            on << row.name;
+    }
+    return on;
+}
+
 } // namespace
 
 /// Choice of what recorder and logger write.
@@ -49,11 +60,12 @@ class TstRecorderParams : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { newInstrument(); }
+    void init() { nothingChosen(); }
 
     void eachBoxIsOneItem_data();
     void eachBoxIsOneItem();
     void storedItemsAreShown();
+    void aNewInstrumentRecordsTheCommonQuantities();
     void f1ChoosesAllAndF2Inverts();
     void harmonicsBringTheRmsGroup();
     void f4StoresAndF5Drops_data() { addFamilies(); }
@@ -103,12 +115,15 @@ void TstRecorderParams::storedItemsAreShown()
     RootFiles::write(kRecordFile, "PARAMS=33048\n"); // 0x8118: mains signalling, I harmonics, energy, power
     auto page = openFamily(false);
     press(setupOf(*page), F2);
-    QStringList on;
-    for (const BoxRow &row : kBoxes) {
-        if (box(paramOf(*page), row.name)->isChecked())
-            on << row.name;
-    }
-    QCOMPARE(on, QStringList({ "rms", "power", "energy", "i_harmonics", "mains_signaling" }));
+    QCOMPARE(chosenIn(paramOf(*page)), QStringList({ "rms", "power", "energy", "i_harmonics", "mains_signaling" }));
+}
+
+void TstRecorderParams::aNewInstrumentRecordsTheCommonQuantities()
+{
+    QVERIFY(QFile::remove(Target::path(kRecordFile)));
+    auto page = openFamily(false);
+    press(setupOf(*page), F2);
+    QCOMPARE(chosenIn(paramOf(*page)), QStringList({ "rms", "frequency", "power", "energy", "flicker", "unbalance" }));
 }
 
 void TstRecorderParams::f1ChoosesAllAndF2Inverts()
@@ -150,6 +165,8 @@ void TstRecorderParams::f4StoresAndF5Drops()
     QFETCH(bool, logger);
     auto page = openFamily(logger);
     const quint32 before = *kindOf(logger).choices;
+    const QString file = QLatin1String(logger ? kLoggerFile : kRecordFile);
+    const QByteArray stored = RootFiles::read(file);
     press(setupOf(*page), F2);
     QCOMPARE(text(paramOf(*page), "btn_f1"), QStringLiteral("All"));
     QCOMPARE(text(paramOf(*page), "btn_f2"), QStringLiteral("Invert"));
@@ -159,7 +176,7 @@ void TstRecorderParams::f4StoresAndF5Drops()
     press(paramOf(*page), F5);
     QCOMPARE(page->currentPage(), static_cast<LivePage *>(setupOf(*page)));
     QCOMPARE(*kindOf(logger).choices, before);
-    QVERIFY(!RootFiles::exists(logger ? kLoggerFile : kRecordFile));
+    QCOMPARE(RootFiles::read(file), stored);
     press(setupOf(*page), F2);
     press(paramOf(*page), F4); // nothing of what was dropped
     QCOMPARE(*kindOf(logger).choices, before);
@@ -167,7 +184,7 @@ void TstRecorderParams::f4StoresAndF5Drops()
     press(paramOf(*page), F1);
     press(paramOf(*page), F4);
     QCOMPARE(*kindOf(logger).choices, logger ? 0x1fffffffu : 0xffffu);
-    QVERIFY(RootFiles::exists(logger ? kLoggerFile : kRecordFile));
+    QVERIFY(RootFiles::read(file) != stored);
 }
 
 void TstRecorderParams::tenSecondFrequencyIsAlwaysStored()

@@ -30,7 +30,7 @@ class TstRecorderStart : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { newInstrument(); }
+    void init() { nothingChosen(); }
 
     void waitsRunsAndEnds_data() { addFamilies(); }
     void waitsRunsAndEnds();
@@ -286,8 +286,16 @@ void TstRecorderStart::roomIsRedInTheLastHourOnceNothingIsStored()
     QVERIFY(QDir(storage).removeRecursively() && QFile::link("/proc", storage));
     page->showPlan(now, now + kHour / 2);
     const QColor none = startOf(*page)->findChild<QLabel *>("memory")->palette().color(QPalette::WindowText);
+    const QString waiting = text(startOf(*page), "text");
+    page->stopWatchChanged(QStringLiteral("00:00:01"));
+    const QString full = text(startOf(*page), "text");
     QVERIFY(QFile::remove(storage) && QDir().mkpath(storage));
     QCOMPARE(none, QColor(Qt::red));
+    QCOMPARE(waiting, kWaiting);
+    QCOMPARE(full, QStringLiteral("The storage takes no more data.\nDelete files in Memory."));
+    page->show();
+    startOf(*page)->updateDisplay(nullptr); // room again
+    QCOMPARE(text(startOf(*page), "text"), kRunning);
 }
 
 void TstRecorderStart::anotherLanguageReachesEveryText()

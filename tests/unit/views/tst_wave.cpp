@@ -48,6 +48,7 @@ private slots:
     void nameOfAStoredFileIsAskedFor();
     void aCaptureThatTheIndexForgotIsAskedFor();
     void withoutRoomNothingStarts();
+    void withoutAFreeNameStartAsksForOne();
     void downAndF1GoOnAndUpGoesBack();
     void enterChoosesATimedStart();
     void f5WorksOutTheCaptureAndStartsIt();
@@ -263,6 +264,24 @@ void TstWave::withoutRoomNothingStarts()
     QCOMPARE(WaveInfo::m_in_waving, 0);
     QCOMPARE(shown, QStringLiteral("0 MB"));
     QCOMPARE(WaveInfo::m_duration, 10); // the shortest stays
+}
+
+void TstWave::withoutAFreeNameStartAsksForOne()
+{
+    QByteArray index;
+    for (int n = 1; n <= 999; ++n)
+        index += "Wave_" + QByteArray::number(n) + ".wav,2024-01-18 16:15:09\n";
+    RootFiles::write(FileInfo::indexPath(), index);
+    m_page->enter();
+    QCOMPARE(text(setup(), "file_name"), QString());
+    QSignalSpy started(m_page.get(), &Wave::startWaveTask);
+    DialogDriver keyboard({ Typing::typed("Pump") });
+    press(setup(), F5);
+    QVERIFY(keyboard.isDone());
+    QCOMPARE(started.count(), 0);
+    QCOMPARE(text(setup(), "file_name"), QStringLiteral("Pump"));
+    press(setup(), F5);
+    QCOMPARE(started.count(), 1);
 }
 
 void TstWave::downAndF1GoOnAndUpGoesBack()

@@ -50,13 +50,14 @@ static const Form kForms[] = {
     { 5, ":/info",     { "", "", "Save & Restart", "Discard & Restart", "Cancel" },     { -1, -1, 2, 6, 1 } },
     { 6, ":/info",     { "", "", "Save & Exit", "Discard & Exit", "Cancel" },           { -1, -1, 2, 6, 1 } },
     { 7, ":/warning",  { "Exit", "Restart", "", "Save", "Cancel" },                     { 6, 7, -1, 2, 1 } },
+    { 8, ":/question", { "Yes to all", "No to all", "", "Yes", "No" },                  { 9, 10, -1, 4, 5 } },
 };
 // clang-format on
 
 void TstMessage::eachTypeHasItsIconAndKeys_data()
 {
     QTest::addColumn<int>("row");
-    for (int i = 0; i < 8; ++i)
+    for (int i = 0; i < int(std::size(kForms)); ++i)
         QTest::addRow("type %d", kForms[i].type) << i;
 }
 
@@ -128,7 +129,7 @@ void TstMessage::otherKeysDoNothing()
 
 void TstMessage::closedByOtherMeansItAnswersZero()
 {
-    for (int type = 0; type < 8; ++type) {
+    for (int type = 0; type < int(std::size(kForms)); ++type) {
         DialogDriver driver({ [](QDialog *dialog) { dialog->close(); } });
         QCOMPARE(Message::showMessage(type, QStringLiteral("text")), 0);
     }
@@ -164,7 +165,7 @@ void TstMessage::aConfirmedActionIsNamedOnItsKey()
 
 void TstMessage::anUnknownTypeShowsAsInformation()
 {
-    for (const int type : { 8, -1, 1000000 })
+    for (const int type : { 9, -1, 1000000 })
         QCOMPARE(keyTexts(std::make_unique<Message>(type, QString()).get()), QStringList({ "", "", "", "", "Ok" }));
 }
 
