@@ -13,6 +13,8 @@ Usage: ./run.sh [options]
   --speed N           let time run N times faster
   --modbus-port N     TCP port of the Modbus server (default 1502; the board's is 502)
   --remote-port N     UDP port of the remote control (default 3527)
+  --panel-port N      TCP port of the panel for browsers (default 8080)
+  --no-panel          without that panel
   --offscreen         no window, even with a display
   --build-only        install and build, start nothing
   -h, --help          this text
@@ -20,8 +22,8 @@ Other options (--seed N, --record FILE, --replay FILE, --log-frames FILE) go to 
 EOF
 }
 
-root=$top/build/desk fresh= offscreen= build_only=
-modbus_port=${QUVERA_MODBUS_PORT:-1502} remote_port=${QUVERA_REMOTE_PORT:-3527}
+root=$top/build/desk fresh= offscreen= build_only= no_panel=
+modbus_port=${QUVERA_MODBUS_PORT:-1502} remote_port=${QUVERA_REMOTE_PORT:-3527} panel_port=8080
 scenario= replay=
 processor_options=()
 value() { case "${2:-}" in ''|--*) die "option $1 needs a value" ;; esac; printf '%s' "$2"; }
@@ -31,6 +33,8 @@ while [ $# -gt 0 ]; do
     --fresh) fresh=yes ;;
     --offscreen) offscreen=yes ;;
     --build-only) build_only=yes ;;
+    --no-panel) no_panel=yes ;;
+    --panel-port) panel_port=$(value "$@") || exit; shift ;;
     --root) root=$(value "$@") || exit; shift ;;
     --scenario) scenario=$(value "$@") || exit; shift ;;
     --modbus-port) modbus_port=$(value "$@") || exit; shift ;;
@@ -42,7 +46,7 @@ while [ $# -gt 0 ]; do
     esac
     shift
 done
-for port in "$modbus_port" "$remote_port"; do
+for port in "$modbus_port" "$remote_port" "$panel_port"; do
     [[ $port =~ ^[1-9][0-9]{0,4}$ ]] && [ "$port" -le 65535 ] || die "ports are numbers from 1 to 65535, not \"$port\""
 done
 case "$root" in /*) ;; *) root=$PWD/$root ;; esac
@@ -73,14 +77,21 @@ take_root()
     [ -s "$mark" ] || [ -n "$(ls -A "$root" | grep -vx .quvera-desk)" ] || echo "desk root of the instrument" >&9
 }
 
-# Both ports, before anything starts: the instrument ends at once when its remote control finds no port.
+# served_by_tcp PORT: somebody listens there.
+served_by_tcp()
+{
+    awk -v p="$(printf ':%04X' "$1")" '$2 ~ p"$" && $4 == "0A" { found = 1 } END { exit !found }' \
+        /proc/net/tcp /proc/net/tcp6 2>/dev/null
+}
+
+# The ports, before anything starts: the instrument ends at once when its remote control finds no port.
 check_ports()
 {
-    hex() { printf ':%04X' "$1"; }
-    awk -v p="$(hex "$remote_port")" '$2 ~ p"$" { found = 1 } END { exit !found }' /proc/net/udp /proc/net/udp6 2>/dev/null &&
+    awk -v p="$(printf ':%04X' "$remote_port")" '$2 ~ p"$" { found = 1 } END { exit !found }' /proc/net/udp /proc/net/udp6 2>/dev/null &&
         die "UDP port $remote_port is in use; choose another with --remote-port"
-    awk -v p="$(hex "$modbus_port")" '$2 ~ p"$" && $4 == "0A" { found = 1 } END { exit !found }' \
-        /proc/net/tcp /proc/net/tcp6 2>/dev/null && die "TCP port $modbus_port is in use; choose another with --modbus-port"
+    served_by_tcp "$modbus_port" && die "TCP port $modbus_port is in use; choose another with --modbus-port"
+    [ -n "$no_panel" ] || ! served_by_tcp "$panel_port" ||
+        die "TCP port $panel_port is in use; choose another with --panel-port, or leave the panel out with --no-panel"
     if [ "$modbus_port" -lt "$(cat /proc/sys/net/ipv4/ip_unprivileged_port_start 2>/dev/null || echo 1024)" ] &&
         [ "$(id -u)" -ne 0 ]; then
         die "port $modbus_port needs root; choose one above 1023 with --modbus-port"
@@ -94,7 +105,7 @@ if [ -z "$build_only" ]; then
 fi
 install_packages
 configure release
-build "$top/build" quvera quvera-processor quvera-remote quvera-gallery
+build "$top/build" quvera quvera-processor quvera-remote quvera-gallery quvera-panel
 [ -z "$build_only" ] || exit 0
 
 export QUVERA_ROOT=$root QUVERA_MODBUS_PORT=$modbus_port QUVERA_REMOTE_PORT=$remote_port
@@ -102,10 +113,11 @@ if [ -n "$offscreen" ] || { [ -z "${QT_QPA_PLATFORM:-}" ] && [ -z "${DISPLAY:-}"
     export QT_QPA_PLATFORM=offscreen
 fi
 
-processor= instrument=
+processor= instrument= panel=
 finish()
 {
     trap '' INT TERM EXIT
+    [ -z "$panel" ] || kill "$panel" 2>/dev/null
     [ -z "$instrument" ] || kill "$instrument" 2>/dev/null
     [ -z "$processor" ] || kill "$processor" 2>/dev/null
     wait 2>/dev/null
@@ -156,6 +168,23 @@ if [ "${QT_QPA_PLATFORM:-}" = offscreen ]; then
 else
     say "The instrument's window is open. Its keys can also be pressed from another terminal, in $top:"
     say "  $remote key Menu Enter"
+fi
+if [ -z "$no_panel" ]; then
+    panel_address=$root/run/panel.address
+    rm -f "$panel_address"
+    setsid "$top/build/bin/quvera-panel" --port "$panel_port" 9>&- </dev/null >"$panel_address" &
+    panel=$!
+    for _ in $(seq 100); do
+        [ -s "$panel_address" ] && break
+        kill -0 "$panel" 2>/dev/null || break
+        sleep 0.1
+    done
+    if [ -s "$panel_address" ]; then
+        say "In a browser: $(cat "$panel_address")"
+    else
+        panel=
+        say "The panel for browsers did not start; the instrument runs without it."
+    fi
 fi
 say "Modbus: TCP port $modbus_port. Settings and files: $root. Ctrl-C ends."
 

@@ -47,7 +47,8 @@ public:
     /// so many percent of the gain and so many converter units in an hour of samples. Starts at none.
     void setDrift(double gainPercentPerHour, double offsetUnitsPerHour);
 
-    /// White noise of the converter, r.m.s. in steps of the converter. Starts at 0.4.
+    /// White noise of the converter, r.m.s. in steps of the converter. Starts at kNoise.
+    static constexpr double kNoise = 0.4;
     void setNoise(double steps);
 
     /// Converts n samples of each input, volts and amperes in the order U1, U2, U3, UN, I1, I2, I3, IN.
@@ -67,7 +68,7 @@ private:
     double m_neutralRatio = 1000.0;
     bool m_rogowski = false;
     double m_nominalFrequency = 50.0;
-    double m_noise = 0.4; // steps, r.m.s.
+    double m_noise = kNoise; // steps, r.m.s.
     double m_gainDrift = 0.0; // per hour
     double m_offsetDrift = 0.0; // steps per hour
     std::uint64_t m_seed;

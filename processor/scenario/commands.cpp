@@ -2,6 +2,7 @@
 
 #include "scenario/eventforms.h"
 #include "scenario/quantities.h"
+#include "scenario/scenariofile.h"
 #include "scenario/setcommand.h"
 
 #include <QDateTime>
@@ -142,6 +143,8 @@ const std::vector<Commands::Row> &Commands::table()
           "drop|repeat|torn|reorder|garbage COUNT | rate KIND 0..1 | late TIME | off | "
           "update announce|data|flash result N|code N|silent|late TIME|repeat COUNT | update off",
           "spoil the next packages, hold them back, or choose the firmware update's answers", &Commands::fault },
+        { "scenario", "NAME|FILE | list", "play another scenario from now on, or name those there are",
+          &Commands::scenario },
         { "clock", "+TIME|-TIME|YYYY-MM-DDThh:mm:ss|host|unset", "move or set the processor's clock (UTC)",
           &Commands::clock },
         { "bds", "on|off", "say that the time comes from the satellite receiver", &Commands::bds },
@@ -274,6 +277,21 @@ QString Commands::faultUpdate(const Words &words)
     else if (step < 0 || words.size() != 3 || !setAnswer(&firmware, FirmwareExchange::Step(step), words[1], words[2]))
         return error(QStringLiteral("expected fault update announce|data|flash "
                                     "result N|code N|silent|late TIME|repeat COUNT, or off"));
+    return ok();
+}
+
+QString Commands::scenario(const Words &words)
+{
+    if (words == Words { QStringLiteral("list") })
+        return ok(ScenarioFile::names().join(QLatin1Char(' ')));
+    if (!m_on.simulator)
+        return noSimulation();
+    QString problem = QStringLiteral("expected the name of a scenario; scenario list tells them");
+    if (words.size() != 1 || words[0].isEmpty())
+        return error(problem);
+    const auto scenario = ScenarioFile::load(words[0], &problem);
+    if (!scenario || !m_on.simulator->play(*scenario, &problem))
+        return error(problem);
     return ok();
 }
 

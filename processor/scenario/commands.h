@@ -49,6 +49,7 @@ private:
     QString fault(const Words &words);
     QString faultUpdate(const Words &words);
     QString clock(const Words &words);
+    QString scenario(const Words &words);
     QString bds(const Words &words);
     QString battery(const Words &words);
     QString charger(const Words &words);

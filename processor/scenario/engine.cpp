@@ -29,6 +29,15 @@ quint64 seedOf(const Options &options, const Scenario *scenario)
     return options.seed.value_or(scenario ? scenario->seed.value_or(1) : 1);
 }
 
+/// The steady values of four inputs, joined by commas.
+QString rmsOf(const processor::SignalSpec &signal, int first)
+{
+    QStringList values;
+    for (int input = first; input < first + 4; ++input)
+        values << QString::number(signal.inputs[std::size_t(input)].rms);
+    return values.join(QLatin1Char(','));
+}
+
 } // namespace
 
 QString Engine::nodePath(const QString &root)
@@ -277,7 +286,7 @@ QString Engine::status() const
 {
     const wire::ProcessorLink::Counters &counters = m_link.counters();
     QStringList text = {
-        QStringLiteral("scenario=%1").arg(m_scenarioName),
+        QStringLiteral("scenario=%1").arg(m_simulator ? m_simulator->scenario().name : m_scenarioName),
         QStringLiteral("t=%1").arg(seconds(), 0, 'f', 3),
         QStringLiteral("clock=%1").arg(wire::DeviceClock::text(m_link.clock().at(m_link.nowMs()))),
         QStringLiteral("speed=%1").arg(m_pacer.speed()),
@@ -306,7 +315,11 @@ QString Engine::status() const
     for (const wire::KindInfo &kind : wire::kKinds)
         text << QStringLiteral("%1=%2").arg(QLatin1String(kind.name)).arg(counters.datagrams[std::size_t(kind.kind)]);
     if (m_simulator) {
-        text << QStringLiteral("f=%1").arg(m_simulator->measuredFrequency(), 0, 'f', 4)
+        const processor::SignalSpec &signal = m_simulator->signal();
+        text << QStringLiteral("volts=%1").arg(rmsOf(signal, processor::U1))
+             << QStringLiteral("amps=%1").arg(rmsOf(signal, processor::I1))
+             << QStringLiteral("hertz=%1").arg(signal.frequencyHz)
+             << QStringLiteral("f=%1").arg(m_simulator->measuredFrequency(), 0, 'f', 4)
              << QStringLiteral("clipped=%1").arg(m_simulator->clipped() ? "yes" : "no");
     }
     return text.join(QLatin1Char(' '));

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace scenario {
 
@@ -37,15 +38,20 @@ Simulator::Simulator(const Scenario &scenario, quint64 seed, wire::ProcessorLink
       m_synthesiser(m_signal, seed), m_frontEnd(seed), m_chain(link->setup(), *link),
       m_setupSeen(link->setupCount() - 1), m_clockSeen(link->clockCount() - 1)
 {
-    const FrontEndSpec &given = scenario.frontEnd;
-    if (given.noise)
-        m_frontEnd.setNoise(*given.noise);
+    takeUp();
+}
+
+// What the scenario says about the input stage and the link.
+void Simulator::takeUp()
+{
+    const FrontEndSpec &given = m_scenario.frontEnd;
+    m_frontEnd.setNoise(given.noise.value_or(processor::FrontEnd::kNoise));
     m_frontEnd.setClampRatio(given.clamp.value_or(kDeliveredClamp), given.neutralClamp.value_or(kDeliveredClamp));
-    for (const wire::DatagramFault &fault : scenario.faults)
-        link->faults().schedule(fault);
+    for (const wire::DatagramFault &fault : m_scenario.faults)
+        m_link->faults().schedule(fault);
     for (int i = 0; i < wire::kFaultCount; ++i)
-        link->faults().random(wire::Fault(i), scenario.faultRates[std::size_t(i)]);
-    link->setBds(scenario.bds);
+        m_link->faults().random(wire::Fault(i), m_scenario.faultRates[std::size_t(i)]);
+    m_link->setBds(m_scenario.bds);
 }
 
 Simulator::~Simulator() = default;
@@ -57,6 +63,35 @@ bool Simulator::prepare(QString *error)
         return false;
     addHardwareErrors();
     m_frontEnd.setDrift(given.gainDrift, given.offsetDrift);
+    return true;
+}
+
+bool Simulator::play(const Scenario &scenario, QString *error)
+{
+    const Scenario before = std::exchange(m_scenario, scenario);
+    m_frontEnd.setCalibration({});
+    if (!prepare(error)) {
+        QString ignored; // it could be loaded before
+        m_scenario = before;
+        m_frontEnd.setCalibration({});
+        prepare(&ignored);
+        return false;
+    }
+    for (TimedEvent &timed : m_scenario.events)
+        timed.event.startSeconds += seconds();
+    for (Step &step : m_scenario.steps)
+        step.at += seconds();
+    m_link->faults().clear();
+    for (wire::DatagramFault &fault : m_scenario.faults)
+        fault.datagram += m_link->faults().datagrams();
+    takeUp();
+    if (m_scenario.clockStart >= 0)
+        m_link->setClock(m_scenario.clockStart);
+    clearEvents();
+    m_supply = withoutEvents(m_scenario.signal);
+    m_signal = m_supply;
+    applySignal();
+    m_setupSeen = m_link->setupCount() - 1; // clamps and wiring are taken up anew
     return true;
 }
 

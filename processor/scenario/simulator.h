@@ -33,6 +33,11 @@ public:
     /// Loads what the scenario names besides itself; false and one line in \a error.
     bool prepare(QString *error);
 
+    /// Plays another scenario from now on: its times count from this moment, and what was set by command is forgotten.
+    /// The clock goes on, unless the scenario gives one, and so do the instrument's set-up and the measurement. False
+    /// and one line in \a error when what it names cannot be loaded; then all stays as it was.
+    bool play(const Scenario &scenario, QString *error);
+
     /// Renders, measures and sends one block. \a commands, when not null, gets the commands that became due.
     void step(QStringList *commands);
 
@@ -64,6 +69,7 @@ public:
     bool clipped() const { return m_clipped; } // any sample of the last whole second
 
 private:
+    void takeUp();
     bool loadCalibration(const QString &path, QString *error);
     void addHardwareErrors();
     void followLink();

@@ -1,9 +1,9 @@
 // quvera-remote: identifies the instrument, presses its keys and fetches its screen from a shell.
+#include "remote/hostaddress.h"
 #include "remote/remoteclient.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QHostInfo>
 #include <QSaveFile>
 #include <QThread>
 #include <clocale>
@@ -24,19 +24,6 @@ bool parseNumber(const QString &text, int lowest, int highest, int *value)
     bool isNumber = false;
     *value = text.toInt(&isNumber);
     return isNumber && *value >= lowest && *value <= highest;
-}
-
-QHostAddress resolve(const QString &host)
-{
-    const QHostAddress literal(host);
-    if (!literal.isNull())
-        return literal;
-    const auto addresses = QHostInfo::fromName(host).addresses();
-    for (const QHostAddress &address : addresses) {
-        if (address.protocol() == QAbstractSocket::IPv4Protocol) // the instrument listens on IPv4
-            return address;
-    }
-    return {};
 }
 
 int identify(RemoteClient &client)
@@ -138,7 +125,7 @@ int main(int argc, char **argv)
     if (!misuse.isEmpty())
         return fail(Misused, misuse);
 
-    const QHostAddress address = resolve(parser.value(host));
+    const QHostAddress address = hostAddress(parser.value(host));
     if (address.isNull())
         return fail(Failed, QStringLiteral("no host is called \"%1\"").arg(parser.value(host)));
     RemoteClient client(address, quint16(portNumber));

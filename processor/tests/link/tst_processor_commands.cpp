@@ -26,6 +26,8 @@ private slots:
     void wrongSetChangesNothing();
     void faultsReachTheLink();
     void updateAnswersAreChosen();
+    void anotherScenarioIsPlayedFromNowOn();
+    void scenarioThatIsNoneChangesNothing();
     void clockMovesAndIsSet();
     void boardCommandsReachTheFiles();
     void usbDisksComeAndGo();
@@ -184,9 +186,10 @@ void TstProcessorCommands::wrongCommandsSayWhatWasExpected_data()
 {
     QTest::addColumn<QString>("line");
     QTest::addColumn<QString>("answer");
-    QTest::newRow("nothing") << ""
-                             << "error: unknown command , expected one of set, event, fault, clock, bds, battery, "
-                                "charger, mains, usb, net, speed, status, help, quit";
+    QTest::newRow("nothing")
+        << ""
+        << "error: unknown command , expected one of set, event, fault, scenario, clock, bds, battery, "
+           "charger, mains, usb, net, speed, status, help, quit";
     QTest::newRow("value") << "set u1 abc"
                            << "error: expected a voltage as 230 or 230V, 0 to 10000";
     QTest::newRow("too much") << "set u1 99999"
@@ -291,6 +294,40 @@ void TstProcessorCommands::updateAnswersAreChosen()
     QCOMPARE(m_link->firmware().announce(8)[2].delayMs, 5000);
     for (const char *wrong : { "late soon", "late -1s", "late 2h", "late", "repeat 101", "repeat -1", "silent 1" })
         QVERIFY2(tell(QStringLiteral("fault update data ") + wrong).startsWith("error: expected fault update"), wrong);
+}
+
+void TstProcessorCommands::anotherScenarioIsPlayedFromNowOn()
+{
+    QVERIFY(tell("scenario list").startsWith("ok bad-day "));
+    QVERIFY(tell("scenario list").split(' ').contains("dip"));
+    QTemporaryDir folder;
+    QFile file(folder.filePath("later.json"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("{\"signal\": {\"u\": 120, \"f\": 60},"
+               " \"steps\": [{\"at\": 1, \"tell\": \"battery 6\"}]}");
+    file.close();
+    QStringList commands;
+    for (int i = 0; i < 60; ++i) // 3 s
+        m_simulator->step(&commands);
+    QCOMPARE(tell("set u1 110"), QString("ok"));
+    QCOMPARE(tell("scenario " + file.fileName()), QString("ok"));
+    QCOMPARE(m_simulator->signal().inputs[processor::U1].rms, 120.0);
+    QCOMPARE(m_simulator->signal().frequencyHz, 60.0);
+    QCOMPARE(m_simulator->seconds(), 3.0); // time goes on
+    for (int i = 0; i < 18; ++i)
+        m_simulator->step(&commands);
+    QCOMPARE(commands, QStringList()); // the step's second counts from the change
+    for (int i = 0; i < 4; ++i)
+        m_simulator->step(&commands);
+    QCOMPARE(commands, QStringList { "battery 6" });
+}
+
+void TstProcessorCommands::scenarioThatIsNoneChangesNothing()
+{
+    QCOMPARE(tell("set u1 110"), QString("ok"));
+    for (const char *line : { "scenario", "scenario no-such-one", "scenario dip swell", "scenario /dev/null" })
+        QVERIFY2(tell(line).startsWith("error: "), line);
+    QCOMPARE(m_simulator->signal().inputs[processor::U1].rms, 110.0);
 }
 
 void TstProcessorCommands::clockMovesAndIsSet()

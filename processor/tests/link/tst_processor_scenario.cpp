@@ -223,7 +223,8 @@ void rowsOfWrongStepsAndSetUp()
                                        << "s.json: steps[0].tell: expected a command, or a \"signal\", found nothing";
     QTest::newRow("step with an unknown command")
         << QByteArray(R"({"steps": [{"at": 1, "tell": "dance"}]})")
-        << "s.json: steps[0].tell: expected a command that begins with one of set, event, fault, clock, bds, battery, "
+        << "s.json: steps[0].tell: expected a command that begins with one of set, event, fault, scenario, clock, bds, "
+           "battery, "
            "charger, mains, usb, net, speed, status, help, quit, found \"dance\"";
     QTest::newRow("signal of a step") << QByteArray(R"({"steps": [{"at": 1, "signal": {"f": 0}}]})")
                                       << "s.json: steps[0].signal.f: expected a number from 10 to 1000, found 0";

@@ -433,7 +433,7 @@ void TstArchitecture::packagesOfTheBuildAreInTheList()
         { "libmodbus", "libmodbus-dev" },   { "fftw3", "libfftw3-dev" },
         { "ZLIB", "zlib1g-dev" },           { "benchmark", "libbenchmark-dev" },
         { "rsvg-convert", "librsvg2-bin" }, { "sqlite3", "libsqlite3-dev" },
-        { "OpenSSL", "libssl-dev" },
+        { "OpenSSL", "libssl-dev" },        { "cpp-httplib", "libcpp-httplib-dev" },
     };
     const QStringList packages = read(kTop + QStringLiteral("/packaging/debian-packages.txt")).split(QLatin1Char('\n'));
     QString build;

@@ -1,0 +1,128 @@
+'use strict';
+// The front: shows what the instrument shows, and hands keys on in the order of their pressing.
+
+const byId = (id) => document.getElementById(id);
+const keysOfKeyboard = {
+  ArrowUp: 'Up', ArrowDown: 'Down', ArrowLeft: 'Left', ArrowRight: 'Right', Enter: 'Enter',
+  F1: 'F1', F2: 'F2', F3: 'F3', F4: 'F4', F5: 'F5', F6: 'Scope', F7: 'Menu', F8: 'Monitor', F9: 'Setup', F10: 'Memory',
+  F11: 'Save', F12: 'Light',
+};
+const repeated = new Set(['Up', 'Down', 'Left', 'Right']);
+const mostWaiting = 16;
+let waiting = 0;
+let lastKey = Promise.resolve();
+let notes = {};
+
+async function post(path, wish) {
+  const answer = await fetch(path, {
+    method: 'POST', headers: { 'Content-Type': 'application/json' }, body: JSON.stringify(wish),
+  });
+  if (!answer.ok) throw new Error((await answer.text()).trim() || answer.statusText);
+}
+
+// Each key waits until the one before it was taken, for requests of their own may overtake each other.
+function pressKey(key) {
+  if (waiting >= mostWaiting) return;
+  waiting += 1;
+  lastKey = lastKey.then(() => post('key', { key })).catch((error) => say(error.message)).finally(() => { waiting -= 1; });
+}
+
+function say(text) {
+  if (byId('state').textContent !== text) byId('state').textContent = text;
+}
+
+function buttonOf(key) {
+  return document.querySelector(`#front [data-key="${key}"]`);
+}
+
+// A key that is held counts once; the arrows come again.
+function hold(button) {
+  const key = button.dataset.key;
+  pressKey(key);
+  button.classList.add('pressed');
+  if (!repeated.has(key)) return;
+  button.repeat = setTimeout(function again() {
+    if (waiting === 0) pressKey(key);
+    button.repeat = setTimeout(again, 120);
+  }, 450);
+}
+
+function release(button) {
+  clearTimeout(button.repeat);
+  button.classList.remove('pressed');
+}
+
+for (const button of document.querySelectorAll('#front [data-key]')) {
+  button.addEventListener('pointerdown', (event) => {
+    if (event.button !== 0) return;
+    button.setPointerCapture(event.pointerId);
+    hold(button);
+  });
+  for (const end of ['pointerup', 'pointercancel', 'lostpointercapture']) button.addEventListener(end, () => release(button));
+  button.addEventListener('contextmenu', (event) => event.preventDefault());
+  // A click without a pointer before it: a keyboard or an assistive program.
+  button.addEventListener('click', (event) => { if (event.detail === 0) pressKey(button.dataset.key); });
+}
+
+function keyOf(event) {
+  if (event.ctrlKey || event.altKey || event.metaKey) return '';
+  if (event.key === 'Escape') return notes.Dialog ? 'F5' : 'Menu';
+  return keysOfKeyboard[event.key] || '';
+}
+
+document.addEventListener('keydown', (event) => {
+  const key = keyOf(event);
+  const target = event.target;
+  const own = target.closest('#supply, header, summary, a') !== null; // has a use of its own for arrows and Enter
+  if (!key || (own && !/^F\d/.test(event.key))) return;
+  if (event.key === 'Enter' && target.closest('[data-key]')) return; // a click follows
+  event.preventDefault();
+  if (event.repeat && (!repeated.has(key) || waiting > 0)) return;
+  pressKey(key);
+  buttonOf(key).classList.add('pressed');
+});
+document.addEventListener('keyup', (event) => {
+  for (const button of document.querySelectorAll('#front .pressed')) if (button.dataset.key === keyOf(event)) release(button);
+});
+window.addEventListener('blur', () => document.querySelectorAll('#front .pressed').forEach(release));
+
+function list(parent, texts) {
+  parent.replaceChildren(...texts.map((text) => Object.assign(document.createElement('li'), { textContent: text })));
+}
+
+function showScreen(screen) {
+  const image = byId('screen');
+  const spoken = (screen.Title || '') + (screen.Dialog ? `. ${screen.Dialog}` : '');
+  image.src = `data:image/png;base64,${screen.png}`;
+  image.dataset.count = Number(image.dataset.count) + 1;
+  image.alt = `Screen of the instrument${spoken ? `: ${spoken}` : ''}`;
+  if (byId('spoken').textContent !== spoken) byId('spoken').textContent = spoken;
+  byId('reading').hidden = !screen.Texts;
+  if (screen.Texts && byId('reading').open) list(byId('texts'), screen.Texts.split('\n'));
+  byId('help').href = `guide/${helpFor(screen.Page)}`;
+  notes = screen;
+}
+byId('reading').addEventListener('toggle', () => list(byId('texts'), (notes.Texts || '').split('\n')));
+
+function showInstrument(there, why) {
+  byId('gone').hidden = there;
+  document.body.classList.toggle('gone', !there);
+  say(there ? 'The instrument answers' : why);
+}
+
+function listen() {
+  const source = new EventSource('events');
+  source.addEventListener('screen', (event) => showScreen(JSON.parse(event.data)));
+  source.addEventListener('instrument', (event) => {
+    const state = JSON.parse(event.data);
+    showInstrument(state.there, 'The instrument does not answer');
+  });
+  source.addEventListener('supply', (event) => showSupply(JSON.parse(event.data)));
+  source.addEventListener('error', () => {
+    showInstrument(false, 'The panel does not answer');
+    // A browser tries again by itself while it was refused nothing.
+    if (source.readyState === EventSource.CLOSED) setTimeout(listen, 3000);
+  });
+}
+
+listen();

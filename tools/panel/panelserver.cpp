@@ -1,0 +1,245 @@
+#include "panel/panelserver.h"
+
+#include "panel/connection.h"
+#include "panel/connectionqueue.h"
+#include "remote/remoteclient.h"
+
+#include <QFile>
+#include <QJsonDocument>
+
+#include <sys/socket.h>
+#include <sys/time.h>
+
+namespace panel {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+constexpr milliseconds kNewsWait(2000); // then a look whether the viewer is still there
+constexpr int kBacklog = 128;
+
+struct PageFile
+{
+    const char *path;
+    const char *file; // of the resources
+    const char *type;
+};
+
+constexpr PageFile kPage[] = {
+    { "/", ":/panel/index.html", "text/html; charset=utf-8" },
+    { "/panel.css", ":/panel/panel.css", "text/css; charset=utf-8" },
+    { "/panel.js", ":/panel/panel.js", "text/javascript; charset=utf-8" },
+    { "/controls.js", ":/panel/controls.js", "text/javascript; charset=utf-8" },
+    { "/icon.svg", ":/panel/icon.svg", "image/svg+xml" },
+};
+
+void answer(httplib::Response &response, int status, const QString &why)
+{
+    response.status = status;
+    response.set_content(why.toStdString() + '\n', "text/plain; charset=utf-8");
+}
+
+void reuseAddress(int socket)
+{
+    // The address alone: a port that another program serves has to count as taken.
+    const int yes = 1;
+    ::setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
+}
+
+} // namespace
+
+PanelServer::PanelServer(Bulletin &bulletin, Actions actions, Guide guide)
+    : m_bulletin(bulletin), m_actions(std::move(actions)), m_guide(std::move(guide)), m_admission(0, {}, {})
+{
+    new_task_queue = [] { return new ConnectionQueue; };
+    set_socket_options(reuseAddress);
+    set_payload_max_length(Connection::kLongestBody);
+    set_default_headers(
+        { { "Content-Security-Policy",
+            "default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self' data:; connect-src 'self'; "
+            "base-uri 'none'; form-action 'none'; frame-ancestors 'none'" },
+          { "X-Content-Type-Options", "nosniff" },
+          { "X-Frame-Options", "DENY" },
+          { "Referrer-Policy", "no-referrer" },
+          { "Cross-Origin-Resource-Policy", "same-origin" },
+          { "Cross-Origin-Opener-Policy", "same-origin" },
+          { "Cache-Control", "no-store" } });
+    set_pre_routing_handler(
+        [this](const Request &request, Response &response) { return admitOrRefuse(request, response); });
+    Post("/key", [this](const Request &request, Response &response) { pressKey(request, response); });
+    Post("/control", [this](const Request &request, Response &response) { control(request, response); });
+}
+
+bool PanelServer::bind(const std::string &address, int port)
+{
+    m_port = port;
+    if (port == 0)
+        m_port = bind_to_any_port(address);
+    else if (!bind_to_port(address, port))
+        return false;
+    return m_port > 0 && ::listen(svr_sock_, kBacklog) == 0;
+}
+
+void PanelServer::admit(const std::string &token, const std::vector<std::string> &names)
+{
+    m_admission = Admission(m_port, token, names);
+}
+
+void PanelServer::serve()
+{
+    listen_after_bind();
+}
+
+void PanelServer::stop()
+{
+    m_bulletin.close();
+    httplib::Server::stop();
+}
+
+bool PanelServer::process_and_close_socket(socket_t socket)
+{
+    Connection connection(socket);
+    const int status = ConnectionQueue::isFull() ? 503 : connection.readRequest(ConnectionQueue::somebodyWaits);
+    if (status > 0)
+        connection.refuse(status);
+    if (status != 0)
+        return false;
+    connection.beginPiece();
+    bool closed = false;
+    return process_request(connection, true, closed, nullptr);
+}
+
+httplib::Server::HandlerResponse PanelServer::admitOrRefuse(const Request &request, Response &response)
+{
+    Admission::Request asked;
+    asked.host = request.get_header_value_count("Host") == 1 ? request.get_header_value("Host") : std::string();
+    asked.origin = request.get_header_value("Origin");
+    asked.site = request.get_header_value("Sec-Fetch-Site");
+    asked.mode = request.get_header_value("Sec-Fetch-Mode");
+    asked.cookie = request.get_header_value("Cookie");
+    asked.authorization = request.get_header_value("Authorization");
+    asked.token = request.get_param_value("token");
+    asked.changes = request.method != "GET" && request.method != "HEAD";
+    asked.contentType = request.get_header_value("Content-Type");
+    switch (m_admission.judge(asked)) {
+    case Admission::Answer::Welcome:
+        break;
+    case Admission::Answer::Enter:
+        response.set_header("Set-Cookie", m_admission.cookie() + "; Path=/; HttpOnly; SameSite=Strict");
+        response.set_redirect("/", 303);
+        return HandlerResponse::Handled;
+    case Admission::Answer::ForeignHost:
+        answer(response, 421, QStringLiteral("The panel does not go by that name."));
+        return HandlerResponse::Handled;
+    case Admission::Answer::ForeignPage:
+        answer(response, 403, QStringLiteral("Another page asks for this."));
+        return HandlerResponse::Handled;
+    case Admission::Answer::NoToken:
+        answer(response, 401, QStringLiteral("Open the address that the panel printed: it ends with a token."));
+        return HandlerResponse::Handled;
+    case Admission::Answer::NotJson:
+        answer(response, 415, QStringLiteral("application/json is expected."));
+        return HandlerResponse::Handled;
+    }
+    if (asked.changes)
+        return HandlerResponse::Unhandled;
+    if (!get(request, response))
+        answer(response, 404, QStringLiteral("There is no such page."));
+    return HandlerResponse::Handled;
+}
+
+bool PanelServer::sendPage(const std::string &path, Response &response) const
+{
+    for (const PageFile &page : kPage) {
+        if (path != page.path)
+            continue;
+        QFile file(QString::fromLatin1(page.file));
+        if (!file.open(QIODevice::ReadOnly))
+            return false;
+        response.status = 200;
+        response.set_content(file.readAll().toStdString(), page.type);
+        return true;
+    }
+    std::string type;
+    const QByteArray bytes = m_guide.read(path, &type);
+    if (bytes.isNull())
+        return false;
+    response.status = 200;
+    response.set_content(bytes.toStdString(), type);
+    return true;
+}
+
+// Paths are compared, not matched: a pattern costs what the peer wants it to.
+bool PanelServer::get(const Request &request, Response &response)
+{
+    if (request.path == "/events") {
+        stream(response);
+        return true;
+    }
+    if (request.path == "/controls") {
+        response.status = 200;
+        response.set_content(m_actions.controls().toStdString(), "application/json");
+        return true;
+    }
+    if (request.path == "/screen.png") {
+        const QByteArray png = m_actions.picture();
+        if (png.isEmpty())
+            return false;
+        response.status = 200;
+        response.set_content(png.toStdString(), "image/png");
+        return true;
+    }
+    return sendPage(request.path, response);
+}
+
+void PanelServer::stream(Response &response)
+{
+    if (++m_viewers > kMostViewers) {
+        --m_viewers;
+        response.set_header("Retry-After", "5");
+        answer(response, 503, QStringLiteral("Too many look already."));
+        return;
+    }
+    response.status = 200;
+    const auto reader = std::make_shared<Bulletin::Reader>(m_bulletin);
+    response.set_content_provider(
+        "text/event-stream",
+        [this, reader](size_t, httplib::DataSink &sink) {
+            const auto news = m_bulletin.news(*reader, kNewsWait);
+            if (m_bulletin.isClosed())
+                return false;
+            Connection::current()->beginPiece();
+            bool sent = true;
+            for (const Bulletin::Message &message : news)
+                sent = sent && sink.write(message->data(), message->size());
+            // A line that browsers pass over: who is gone is noticed.
+            return news.empty() ? sink.write(":\n\n", 3) : sent;
+        },
+        [this](bool) { --m_viewers; });
+}
+
+void PanelServer::pressKey(const Request &request, Response &response)
+{
+    const QJsonValue key
+        = QJsonDocument::fromJson(QByteArray::fromStdString(request.body)).object().value(QStringLiteral("key"));
+    const int code = RemoteClient::keyCode(key.toString());
+    if (!key.isString() || code < 0)
+        answer(response, 400, QStringLiteral("There is no such key."));
+    else if (!m_actions.pressKey(code))
+        answer(response, 429, QStringLiteral("Too many keys wait."));
+    else
+        response.status = 204;
+}
+
+void PanelServer::control(const Request &request, Response &response)
+{
+    const QJsonDocument wish = QJsonDocument::fromJson(QByteArray::fromStdString(request.body));
+    const QString why = wish.isObject() ? m_actions.control(wish.object()) : QStringLiteral("An object is expected.");
+    if (why.isEmpty())
+        response.status = 204;
+    else
+        answer(response, 400, why);
+}
+
+} // namespace panel
