@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr qint64 kWindow = 64 * 1024; // bytes
+constexpr qint64 kWindow = Pqa2Reader::kMostView; // bytes
 constexpr qint64 kHeadBytes = sizeof(Pqa2BlockHead);
 constexpr int kMostProbes = 200000; // a file made to mislead the search gets no further
 
@@ -164,4 +164,9 @@ QByteArray Pqa2Reader::payload(const Pqa2Block &block, qint64 at, qint64 most)
     if (at < 0 || wanted <= 0 || !m_device->seek(block.offset + kHeadBytes + at))
         return {};
     return m_device->read(wanted);
+}
+
+const char *Pqa2Reader::view(const Pqa2Block &block, qint64 most)
+{
+    return bytes(block.offset + kHeadBytes, std::min(most, qint64(block.size)));
 }

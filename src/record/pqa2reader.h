@@ -28,6 +28,7 @@ public:
         Unreadable // no file of this format
     };
 
+    static constexpr qint64 kMostView = 256 << 10; // bytes that view() gives
     static constexpr qint64 kMostPayload = 16 << 20; // bytes that payload() gives; far above every writer's
 
     explicit Pqa2Reader(QIODevice *device);
@@ -38,6 +39,9 @@ public:
     bool skipDamage();
     /// The payload from byte `at` on, at most `most` bytes of it; fewer when the file has become shorter meanwhile.
     QByteArray payload(const Pqa2Block &block, qint64 at = 0, qint64 most = kMostPayload);
+    /// The payload, or its first \a most bytes, where they lie: valid until the next call. Null where more is asked for
+    /// than kMostView, and when the file has become shorter meanwhile.
+    const char *view(const Pqa2Block &block, qint64 most = kMostView);
 
     State state() const { return m_state; }
     qint64 faultOffset() const { return m_faultOffset; } // of the first fault, -1 without one

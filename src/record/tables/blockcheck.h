@@ -1,0 +1,63 @@
+#pragma once
+
+#include "record/pqa2format.h"
+#include "record/pqa2reader.h"
+
+#include <array>
+
+/// What a block is to a reader.
+enum class BlockRole : quint8 {
+    Passed, // nothing is read from it
+    Opening, // what the file says of its instrument
+    Start,
+    End,
+    Values,
+    Log,
+    Transient,
+    EventWave,
+    EventHead,
+    EventCurves
+};
+
+/// Whether a block can be what its kind tells: its length in this wiring, its time. A file has no check sums, so this
+/// is all that there is to find damage inside a block by.
+class BlockCheck
+{
+public:
+    static constexpr qint64 kLastTime = 253402300799999; // ms since 1970: the end of the year 9999
+    static constexpr int kTransientSamples = 600;
+    static constexpr int kWaveSamples = 2048; // of each channel of an event's waveform
+    static constexpr int kShortestCurves = int(sizeof(EventHead)) + 8; // bytes, with two empty sections
+    static constexpr quint32 kLongestCurves = 4 << 20; // bytes, far above every writer's
+
+    explicit BlockCheck(int joinMode = 0) { setWiring(joinMode); }
+    void setWiring(int joinMode);
+
+    BlockRole role(quint32 type) const { return rule(type).role; }
+    /// Bytes of the payload that problem() and timeOf() look at.
+    static constexpr qint64 kLook = 32;
+    /// Null, or what is wrong. \a look: the first bytes of the payload, at most kLook, null when they cannot be read.
+    const char *problem(const Pqa2Block &block, const char *look) const;
+    /// ms since 1970 of a block without a problem, -1 for one that has none.
+    qint64 timeOf(const Pqa2Block &block, const char *look) const;
+
+    /// Whether this is a moment that a recording can have been made at.
+    static bool isTime(qint64 ms) { return ms >= 0 && ms <= kLastTime; }
+    static bool isTime(double ms) { return ms >= 0 && ms <= double(kLastTime); }
+
+private:
+    enum class Time : quint8 { None, Seconds, Milliseconds, Double, EventStart };
+    struct Rule
+    {
+        BlockRole role = BlockRole::Passed;
+        Time time = Time::None;
+        quint32 least = 0; // bytes of the payload
+        quint32 most = 0xFFFFFFFF;
+    };
+    static constexpr int kPage = 256; // types; those of the format lie in three stretches of this length
+    static int placeOf(quint32 type);
+    const Rule &rule(quint32 type) const { return m_rules[std::size_t(placeOf(type))]; }
+    void set(quint32 type, BlockRole role, Time time, quint32 least, quint32 most);
+
+    std::array<Rule, 3 * kPage + 1> m_rules; // the last one is of all other types
+};

@@ -1,0 +1,29 @@
+#include "record/tables/pqa2walk.h"
+
+#include "record/tables/inputfile.h"
+
+Pqa2Walk::Pqa2Walk(const QString &path)
+{
+    m_openError = openInput(&m_file, path);
+    m_reader = std::make_unique<Pqa2Reader>(&m_file);
+}
+
+bool Pqa2Walk::next(Pqa2Block *block)
+{
+    do {
+        if (m_reader->next(block))
+            return true;
+    } while (m_reader->skipDamage());
+    return false;
+}
+
+RecordState Pqa2Walk::state() const
+{
+    static_assert(int(Pqa2Reader::Unreadable) == int(RecordState::Unreadable), "the same states");
+    return RecordState(m_reader->state());
+}
+
+QString Pqa2Walk::reason() const
+{
+    return m_openError.isEmpty() ? QString::fromLatin1(m_reader->reason()) : m_openError;
+}

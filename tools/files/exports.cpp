@@ -1,0 +1,7 @@
+#include "files/exports.h"
+
+const std::vector<ExportFormat> &exportFormats()
+{
+    static const std::vector<ExportFormat> formats {};
+    return formats;
+}
