@@ -1,7 +1,24 @@
 #include "files/exports.h"
 
+#include "record/exports/csvexport.h"
+#include "record/exports/influxexport.h"
+#include "record/exports/sqliteexport.h"
+
+namespace {
+
+template <typename Sink> std::unique_ptr<RecordSink> make(const OutputPlace &place)
+{
+    return std::make_unique<Sink>(place);
+}
+
+} // namespace
+
 const std::vector<ExportFormat> &exportFormats()
 {
-    static const std::vector<ExportFormat> formats {};
+    static const std::vector<ExportFormat> formats {
+        { "--csv", "DIR", "tables and waveforms as comma-separated values", make<CsvExport> },
+        { "--sqlite", "FILE", "tables and waveforms as an SQLite database", make<SqliteExport> },
+        { "--influx", "FILE", "tables as line protocol for a time-series database", make<InfluxExport> },
+    };
     return formats;
 }

@@ -3,6 +3,7 @@
 #include "record/exports/celltext.h"
 #include "record/exports/wavetime.h"
 #include "record/tables/isotime.h"
+#include "record/tables/recordevents.h"
 
 namespace {
 
@@ -191,7 +192,7 @@ bool SqliteExport::waveformSamples(const qint16 *samples, int count)
 bool SqliteExport::makeEventsUnlessThere()
 {
     Part part;
-    return m_hasEvents || makePart("events", {}, &part);
+    return m_hasEvents || makePart(eventTable().name, eventTable().columns, &part);
 }
 
 bool SqliteExport::putInfo(const RecordFacts &facts)
