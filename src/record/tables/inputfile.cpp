@@ -6,15 +6,14 @@
 #include <cstring>
 #include <fcntl.h>
 
-QString openInput(QFile *file, const QString &path)
+QString openInput(QFile *file, const QString &path, QIODevice::OpenMode more)
 {
     const int fd = OrdinaryFile::open(path, O_RDONLY);
     if (fd < 0)
         return errno == EINVAL ? QStringLiteral("it is no ordinary file")
                                : QString::fromLocal8Bit(std::strerror(errno));
     file->setFileName(path);
-    // Whoever reads has windows of his own.
-    if (!file->open(fd, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle))
+    if (!file->open(fd, QIODevice::ReadOnly | more, QFileDevice::AutoCloseHandle))
         return QStringLiteral("it cannot be read");
     return {};
 }

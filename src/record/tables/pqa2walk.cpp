@@ -4,7 +4,7 @@
 
 Pqa2Walk::Pqa2Walk(const QString &path)
 {
-    m_openError = openInput(&m_file, path);
+    m_openError = openInput(&m_file, path, QIODevice::Unbuffered); // the reader has its window
     m_reader = std::make_unique<Pqa2Reader>(&m_file);
 }
 

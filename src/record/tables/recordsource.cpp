@@ -2,7 +2,11 @@
 
 #include "platform/ordinaryfile.h"
 #include "record/pqa2format.h"
+#include "record/pqafile.h"
+#include "record/tables/capturereading.h"
 #include "record/tables/inputfile.h"
+#include "record/tables/logreading.h"
+#include "record/tables/pagereading.h"
 #include "record/tables/partname.h"
 #include "record/tables/pqa2recording.h"
 
@@ -52,6 +56,14 @@ RecordSource::Format RecordSource::formatOf(const QString &path)
     const QByteArray start = OrdinaryFile::start(path, 40);
     if (start.startsWith(QByteArray(kPqa2FileHeader.magic, sizeof kPqa2FileHeader.magic)))
         return Format::Pqa2;
+    if (start.startsWith(QByteArray("WAV\x1A", 4)))
+        return Format::Capture;
+    if (start.startsWith("TIME,"))
+        return Format::Log;
+    constexpr int kMagicAt = int(offsetof(__pqa_file_header, magic));
+    const quint32 magic = PqaFile::kMagic;
+    if (start.mid(kMagicAt) == QByteArray(reinterpret_cast<const char *>(&magic), int(sizeof magic)))
+        return Format::Page;
     return Format::None;
 }
 

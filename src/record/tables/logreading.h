@@ -1,0 +1,27 @@
+#pragma once
+
+#include "record/tables/linereader.h"
+#include "record/tables/logcolumns.h"
+#include "record/tables/recordreading.h"
+
+class RecordOutput;
+
+/// A file of the logger: lines of text under a header. Its times are those of the user's clock, of a zone that it does
+/// not tell; they are handed on as they stand.
+class LogReading : public RecordReading
+{
+public:
+    explicit LogReading(const QString &path);
+
+    bool scan(const RecordProgress &progress) override;
+    bool read(RecordSink &sink, const RecordProgress &progress) override;
+
+    /// The time of a line, ms, or -1 for a line that is none of the logger's. \a cells: columns behind the time.
+    static qint64 timeOf(const QByteArray &line, int cells);
+
+private:
+    bool readLine(RecordOutput &out, const QByteArray &line, qint64 time);
+
+    LogColumns m_columns;
+    std::vector<std::vector<double>> m_cells; // of the tables
+};
