@@ -112,7 +112,7 @@ const Fields kHarmonicsU[] = { spectrum('U', false, 1), spectrum('U', false, 51)
 const Fields kHarmonicsI[] = { spectrum('I', false, 1), spectrum('I', false, 51) };
 const Fields kInterharmonicsU[] = { spectrum('U', true, 0), spectrum('U', true, 50) };
 const Fields kInterharmonicsI[] = { spectrum('I', true, 0), spectrum('I', true, 50) };
-const Fields kMonitorVoltage { volts("U_rms") };
+const Fields kMonitorVoltage = ranked({ volts("U_rms") });
 const Fields kMonitorUnbalance = ranked({ { "U_negative_ratio", "percent" }, { "U_zero_ratio", "percent" } });
 const Fields kMonitorHarmonicsU = monitorSpectrum('U', 0);
 const Fields kMonitorHarmonicsI = monitorSpectrum('I', kMonitorOrders);

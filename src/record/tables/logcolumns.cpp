@@ -165,7 +165,7 @@ LogColumns::LogColumns(const std::vector<QByteArray> &names)
         int &number = numbers[name.group->table];
         if (number < 0) {
             number = m_tables.size();
-            m_tables.append({ logTableNames().at(name.group->table), {} });
+            m_tables.append(RecordTable { logTableNames().at(name.group->table), {} });
         }
         m_places.push_back({ number, m_tables.at(number).columns.size(), name.factor });
         m_tables[number].columns.append(name.column);

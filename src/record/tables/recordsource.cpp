@@ -79,7 +79,16 @@ bool RecordSource::open(const QString &path, const RecordProgress &progress)
     case Format::Pqa2:
         m_reading = std::make_unique<Pqa2Recording>(QVector<Pqa2Recording::Parts> { { path } }, false);
         break;
-    default:
+    case Format::Capture:
+        m_reading = std::make_unique<CaptureReading>(path);
+        break;
+    case Format::Page:
+        m_reading = std::make_unique<PageReading>(path);
+        break;
+    case Format::Log:
+        m_reading = std::make_unique<LogReading>(path);
+        break;
+    case Format::None:
         break;
     }
     if (m_reading)
