@@ -11,7 +11,7 @@ case "${1:-}" in
 *) die "unknown option $1 (./test.sh --help)" ;;
 esac
 
-install_packages
+install_packages debian-test-packages.txt
 export QT_QPA_PLATFORM=offscreen
 jobs=${QUVERA_JOBS:-$(nproc)}
 

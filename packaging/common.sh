@@ -3,10 +3,10 @@
 say() { printf '%s\n' "$*" >&2; }
 die() { printf 'quvera: %s\n' "$*" >&2; exit 1; }
 
-# Names of the packages of the list that are not installed.
+# missing_packages <lists...>: names of their packages that are not installed.
 missing_packages()
 {
-    wanted=$(sed -e 's/#.*//' "$top/packaging/debian-packages.txt")
+    wanted=$(cd "$top/packaging" && sed -e 's/#.*//' "$@")
     # shellcheck disable=SC2086  # a list of names
     installed=$(dpkg-query -W -f='${Package} ${Status}\n' $wanted 2>/dev/null | sed -n 's/ install ok installed$//p')
     for package in $wanted; do
@@ -14,12 +14,13 @@ missing_packages()
     done
 }
 
-# Installs what is missing, by apt, and only then asks for rights.
+# install_packages [lists...]: installs what is missing of these and of the common list, by apt, and only then asks for
+# rights. No server is started by that.
 install_packages()
 {
     command -v dpkg-query >/dev/null && command -v apt-get >/dev/null ||
         die "this script installs by apt; on another system install the peers of packaging/debian-packages.txt by hand"
-    missing=$(missing_packages)
+    missing=$(missing_packages debian-packages.txt "$@")
     [ -n "$missing" ] || return 0
     as_root=
     if [ "$(id -u)" -ne 0 ]; then
@@ -32,8 +33,8 @@ install_packages()
     # Lists that are a little old are good enough when the network hiccups: only the installation decides.
     $as_root apt-get update >"$log" 2>&1 </dev/null || say "apt-get update failed; trying with the lists at hand"
     # shellcheck disable=SC2086  # a list of names
-    if ! $as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends $missing \
-        >>"$log" 2>&1 </dev/null; then
+    if ! $as_root env DEBIAN_FRONTEND=noninteractive SYSTEMD_OFFLINE=1 \
+        apt-get install -y --no-install-recommends $missing >>"$log" 2>&1 </dev/null; then
         die "apt-get could not install: $missing(what it said: $log)"
     fi
     rm -f "$log"
