@@ -3,8 +3,8 @@
 # Each folder is an OBJECT library, so that the program links the objects in one fixed order, and a SHARED library
 # that the folder's tests link. A folder sees the folders before it in this list and nothing else.
 
-set(QUVERA_FOLDER_ORDER platform model storage settings device board record detect task widgets pages views setup
-                        user memory services shell)
+set(QUVERA_FOLDER_ORDER platform model storage settings device board record detect task report widgets pages views
+                        setup user memory services shell)
 # Folders of equal rank do not see each other.
 set(QUVERA_NEIGHBOURS views setup user memory services)
 

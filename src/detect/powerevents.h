@@ -4,6 +4,7 @@
 #include "detect/eventsettings.h"
 #include "detect/eventtable.h"
 #include "detect/rvcfifo.h"
+#include "detect/slowchecks.h"
 
 #include <QByteArray>
 #include <QList>
@@ -18,7 +19,7 @@ class Pqa2FF;
 /// the one list of events, and completes each event with the r.m.s. curves around its start and its end
 /// (docs/events.md). What a change costs does not depend on how many events there are. Main thread only; all signals
 /// are direct.
-class PowerEvents : public QObject
+class PowerEvents : public QObject, public SlowChecks
 {
     Q_OBJECT
 
@@ -37,13 +38,11 @@ public:
     /// as far as they go; none does nothing. Any float and any time is welcome.
     void checkPowerEvents(const QList<_value_with_time> &values);
 
-    void checkEventFreq(const _value_with_time &frequency); // Hz
-    void checkEventVolt(int phase, const _value_with_time &voltage); // V; a phase beyond 0 to 2 is ignored
-    void checkEventUnbal(const _value_with_time &ratio); // percent, negative sequence
-    /// index 0 THD, k order k + 1; percent of the fundamental. Indices beyond 0 to 24 and phases beyond 0 to 2 are
-    /// ignored.
-    void checkEventHarm(int phase, int index, const _value_with_time &ratio);
-    void checkEventFlicker(int phase, const _value_with_time &plt);
+    void checkEventFreq(const _value_with_time &frequency) override;
+    void checkEventVolt(int phase, const _value_with_time &voltage) override;
+    void checkEventUnbal(const _value_with_time &ratio) override;
+    void checkEventHarm(int phase, int index, const _value_with_time &ratio) override;
+    void checkEventFlicker(int phase, const _value_with_time &plt) override;
 
     const EventList &getAllEvents() const { return m_events; }
     /// Copies of the events whose curves are complete, in the order of their completion.

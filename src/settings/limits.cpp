@@ -3,7 +3,6 @@
 #include <QDomDocument>
 
 #include "settings/limitbuiltins.h"
-#include "settings/limitsmanager.h"
 #include "storage/safefile.h"
 #include "settings/xmlguard.h"
 #include "settings/xmltext.h"
@@ -287,13 +286,13 @@ void MonitorLimits2::init()
 void MonitorLimits2::initEN50160()
 {
     m_limit = LimitBuiltins::en50160();
-    m_name = LimitsManager::builtin_en50160;
+    m_name = QLatin1String(LimitBuiltins::kEn50160Name);
 }
 
 void MonitorLimits2::initGOST32144()
 {
     m_limit = LimitBuiltins::gost32144();
-    m_name = LimitsManager::builtin_gost32144;
+    m_name = QLatin1String(LimitBuiltins::kGost32144Name);
 }
 
 bool MonitorLimits2::loadFile(const QString &path)

@@ -1,6 +1,7 @@
 #include "task/functions/monitorfunction.h"
 
 #include "detect/flickerprocessor.h"
+#include "detect/powerevents.h"
 #include "device/trace.h"
 #include "model/livedata.h"
 #include "platform/clock.h"

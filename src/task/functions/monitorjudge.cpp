@@ -1,6 +1,6 @@
 #include "task/functions/monitorjudge.h"
 
-#include "detect/powerevents.h"
+#include "detect/slowchecks.h"
 #include "device/datatypes.h"
 #include "model/monitorrecords.h"
 
@@ -35,7 +35,7 @@ void keepLargest(float ratio, float value, float &largest, float &worst)
 
 } // namespace
 
-MonitorJudge::MonitorJudge(const MonitorSetup &setup, __monitor_data &data, __monitor_trend &trend, PowerEvents &events)
+MonitorJudge::MonitorJudge(const MonitorSetup &setup, __monitor_data &data, __monitor_trend &trend, SlowChecks &events)
     : m_setup(setup), m_data(data), m_trend(trend), m_events(events),
       m_frequencyBand(setup.limits.frequency, setup.nominalFrequency),
       m_voltageBand(setup.limits.voltage, setup.nominalVolt)

@@ -6,7 +6,7 @@
 
 struct __monitor_data;
 struct __monitor_trend;
-class PowerEvents;
+class SlowChecks;
 
 /// Judges the values of a run of the monitor against its limits, keeps the records of its pages, and lets the event
 /// detection see them. Times are ms since 1970. The wording of each rule: docs/formats/monitor.md.
@@ -14,7 +14,7 @@ class MonitorJudge
 {
 public:
     /// \a data, \a trend and \a events outlive it.
-    MonitorJudge(const MonitorSetup &setup, __monitor_data &data, __monitor_trend &trend, PowerEvents &events);
+    MonitorJudge(const MonitorSetup &setup, __monitor_data &data, __monitor_trend &trend, SlowChecks &events);
 
     /// Mean of ten seconds.
     void frequency(float mean, qint64 time);
@@ -40,7 +40,7 @@ private:
     const MonitorSetup m_setup;
     __monitor_data &m_data;
     __monitor_trend &m_trend;
-    PowerEvents &m_events;
+    SlowChecks &m_events;
 
     const MonitorBand m_frequencyBand;
     const MonitorBand m_voltageBand;

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QtGlobal>
+
+#include <algorithm>
+
+/// The weeks in which a recording is judged. They begin with it. What is left behind the last whole week counts as one
+/// of its own from a day on; less belongs to the week before.
+struct Weeks
+{
+    static constexpr qint64 kDay = qint64(24) * 3600 * 1000; // ms
+    static constexpr qint64 kWeek = 7 * kDay;
+    static constexpr qint64 kLongest = qint64(100) * 366 * kDay; // what a damaged file says beyond is not believed
+
+    qint64 start = 0; // ms since 1970
+    qint64 length = 0; // of the recording, ms
+    int count = 1;
+
+    Weeks() = default;
+    Weeks(qint64 from, qint64 to)
+        : start(from), length(to > from && from >= 0 && to - from < kLongest ? to - from : 0),
+          count(int(std::max<qint64>(1, (length + 6 * kDay) / kWeek)))
+    { }
+
+    /// The week of a value whose interval ends at \a time.
+    int indexOf(qint64 time) const
+    {
+        if (time <= start)
+            return 0;
+        return int(std::min<qint64>((time - 1 - start) / kWeek, count - 1));
+    }
+    qint64 startOf(int week) const { return start + week * kWeek; }
+    /// The standards judge whole weeks; a recording that has none is an indication. A percent of it may be missing.
+    bool isWhole() const { return length >= kWeek / 100 * 99; }
+};

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "record/tables/recordsink.h"
+
+#include <functional>
+#include <vector>
+
+/// A recording that a test makes up: its tables and rows are handed to a taker as a file's would be.
+class FedRecording
+{
+public:
+    static constexpr qint64 kStart = 1700000000000 / 600000 * 600000; // ms since 1970, a whole ten minutes
+    static constexpr qint64 kSecond = 1000, kTenMinutes = 600000, kDay = 144 * kTenMinutes, kWeek = 7 * kDay;
+
+    RecordFacts facts;
+    QVector<RecordedEvent> events;
+
+    FedRecording()
+    {
+        facts.kind = RecordKind::Monitor;
+        facts.joinMode = 1;
+        facts.nominalVolt = 230;
+        facts.nominalFrequency = 50;
+        facts.start = kStart;
+        facts.end = kStart + kWeek;
+    }
+
+    /// Adds a table; answers its number.
+    int table(const QByteArray &name, const QVector<RecordColumn> &columns)
+    {
+        m_tables.append({ name, columns });
+        return m_tables.size() - 1;
+    }
+    void row(int table, qint64 time, const std::vector<double> &numbers) { m_rows.push_back({ table, time, numbers }); }
+
+    /// Rows at the end of each \a step over the recording.
+    void fill(int table, qint64 step, const std::function<std::vector<double>(int number)> &numbers)
+    {
+        int number = 0;
+        for (qint64 time = facts.start + step; time <= facts.end; time += step)
+            row(table, time, numbers(number++));
+    }
+
+    void event(qint32 type, qint64 start, qint64 end, float value, int channel = 0)
+    {
+        RecordedEvent event;
+        event.number = events.size() + 1;
+        event.item.type = type;
+        event.item.channel = channel;
+        event.item.finished = 1;
+        event.item.value = value;
+        event.item.startTime = start;
+        event.item.endTime = end;
+        events.append(event);
+    }
+
+    bool feed(RecordSink &sink) const
+    {
+        bool good = sink.begin(facts);
+        for (int i = 0; i < m_tables.size(); ++i)
+            good = good && sink.table(i, m_tables.at(i));
+        for (const Row &row : m_rows) {
+            RecordRow handed;
+            handed.table = row.table;
+            handed.time = row.time;
+            handed.numbers = row.numbers.data();
+            good = good && sink.row(handed);
+        }
+        for (const RecordedEvent &event : events)
+            good = good && sink.event(event);
+        return good && sink.end(facts);
+    }
+
+    static QVector<RecordColumn> voltages(int phases = 3)
+    {
+        QVector<RecordColumn> columns;
+        for (int phase = 0; phase < phases; ++phase)
+            columns.append({ "U_rms", Statistic::Mean, "L" + QByteArray::number(phase + 1), "V" });
+        return columns;
+    }
+
+private:
+    struct Row
+    {
+        int table;
+        qint64 time;
+        std::vector<double> numbers;
+    };
+    QVector<RecordTable> m_tables;
+    std::vector<Row> m_rows;
+};

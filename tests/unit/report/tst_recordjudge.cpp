@@ -1,0 +1,334 @@
+#include "report/recordjudge.h"
+#include "report/recordoverview.h"
+#include "unit/report/fedrecording.h"
+
+#include <QTest>
+
+namespace {
+
+constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+constexpr qint64 kStart = FedRecording::kStart;
+constexpr qint64 kStep = FedRecording::kTenMinutes;
+
+/// What two passes over a recording find.
+Judgement judged(const FedRecording &recording)
+{
+    MonitorLimits2 limits;
+    limits.initEN50160();
+    OverviewSink overview(double(limits.limit().interruptions.threshold));
+    recording.feed(overview);
+    RecordJudge judge(overview.overview(), limits);
+    recording.feed(judge);
+    return judge.judgement();
+}
+
+const QuantityKey kFrequency { Quantity::Frequency, -1, 0 };
+QuantityKey voltage(int phase)
+{
+    return { Quantity::Voltage, qint8(phase), 0 };
+}
+
+QVector<RecordColumn> monitorHarmonics()
+{
+    QVector<RecordColumn> columns { { "U_distortion", Statistic::Mean, "L1", "percent" } };
+    for (int order = 2; order <= 50; ++order)
+        columns.append(
+            { "Uh" + QByteArray::number(order), Statistic::Mean, "L1", "percent", CellType::Single, qint16(order) });
+    columns.append({ "I_distortion", Statistic::Mean, "L1", "percent" });
+    return columns;
+}
+
+} // namespace
+
+/// What a whole recording comes to. Expected results are worked out by hand.
+class TstRecordJudge : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void aCleanWeekPasses();
+    void theInstrumentAgreesAboutACleanWeek();
+    void aBadWeekFailsWhereTheInstrumentPasses();
+    void harmonicsAreJudgedOrderByOrder();
+    void anInterruptionTakesItsIntervalsOut();
+    void aDipFlagsItsInterval();
+    void timesWithoutAVoltageAreNotJudged();
+    void shortIntervalsMakeTenMinutes();
+    void intervalsThatAreTooLongAreNamed();
+    void harmonicsInVoltsAreTakenOfTheirFundamental();
+    void mainsSignalsNeedThreeSeconds();
+    void whatIsMissingIsNamed();
+    void eventsAreCountedByTheWeek();
+    void theWorstEventsGetTheirPicture();
+    void anEmptyRecordingIsNotJudged();
+    void wildTimesAndTablesAreHarmless();
+};
+
+void TstRecordJudge::aCleanWeekPasses()
+{
+    FedRecording r;
+    const int u = r.table("monitor_voltage", FedRecording::voltages());
+    const int f = r.table("monitor_frequency", { { "f", Statistic::Mean, "", "Hz" } });
+    r.fill(u, kStep, [](int) { return std::vector<double> { 230, 231, 229 }; });
+    r.fill(f, 10000, [](int) { return std::vector<double> { 50.01 }; });
+    const Judgement j = judged(r);
+    QCOMPARE(j.outcome(), Outcome::Pass);
+    QVERIFY(j.weeks.isWhole());
+    for (int phase = 0; phase < 3; ++phase) {
+        const QuantityVerdict *v = j.find(voltage(phase));
+        QVERIFY(v);
+        QCOMPARE(v->judged, 1008);
+        QCOMPARE(v->shareWithin, 100.0);
+    }
+    QCOMPARE(j.find(voltage(1))->atShare, 231.0);
+    QCOMPARE(j.find(kFrequency)->judged, 60480);
+    QCOMPARE(j.find(kFrequency)->covered(j.overview.length()), 100.0);
+    QCOMPARE(j.trends.size(), 4);
+}
+
+void TstRecordJudge::theInstrumentAgreesAboutACleanWeek()
+{
+    FedRecording r;
+    const int u = r.table("monitor_voltage", FedRecording::voltages(1));
+    r.fill(u, kStep, [](int) { return std::vector<double> { 230 }; });
+    const Judgement j = judged(r);
+    const InstrumentResult *own = j.instrumentOf(voltage(0));
+    QVERIFY(own && own->partialOk && own->wholeOk);
+    QVERIFY(!j.instrumentOf(kFrequency)); // nothing was stored
+}
+
+void TstRecordJudge::aBadWeekFailsWhereTheInstrumentPasses()
+{
+    // A tenth lies at 200 V. The instrument is content with one value within 0.1 V, since it compares hundred times the
+    // volts with ten percent.
+    FedRecording r;
+    const int u = r.table("monitor_voltage", FedRecording::voltages(1));
+    r.fill(u, kStep, [](int i) { return std::vector<double> { i % 10 ? 230.05 : 200 }; });
+    const Judgement bad = judged(r);
+    QCOMPARE(bad.find(voltage(0))->partial, Outcome::Fail);
+    QCOMPARE(bad.find(voltage(0))->whole, Outcome::Pass);
+    QVERIFY(bad.instrumentOf(voltage(0))->partialOk);
+    // And the other way round: always 231 V is within ten percent of 230 V, but not within 0.1 V.
+    FedRecording good;
+    const int table = good.table("monitor_voltage", FedRecording::voltages(1));
+    good.fill(table, kStep, [](int) { return std::vector<double> { 231 }; });
+    const Judgement well = judged(good);
+    QCOMPARE(well.find(voltage(0))->outcome(), Outcome::Pass);
+    QVERIFY(!well.instrumentOf(voltage(0))->partialOk);
+}
+
+void TstRecordJudge::harmonicsAreJudgedOrderByOrder()
+{
+    // Order 5 may have 6 percent: a twentieth of the week has 7, 50 of 1008 are allowed. Order 7 has 5.1 in six
+    // percent.
+    FedRecording r;
+    const int h = r.table("monitor_harmonics", monitorHarmonics());
+    r.fill(h, kStep, [](int i) {
+        std::vector<double> row(51, 0.1);
+        row[0] = 4; // distortion
+        row[4] = i < 50 ? 7 : 5.9; // order 5
+        row[6] = i < 60 ? 5.1 : 1; // order 7
+        row[50] = 90; // distortion of the current is not judged
+        return row;
+    });
+    const Judgement j = judged(r);
+    const auto of = [&j](int order) { return j.find({ Quantity::Harmonic, 0, qint16(order) }); };
+    QCOMPARE(j.find({ Quantity::Thd, 0, 0 })->partial, Outcome::Pass);
+    QCOMPARE(of(5)->partial, Outcome::Pass);
+    QVERIFY(std::abs(of(5)->atShare - 5.9) < 1e-6); // a float
+    QCOMPARE(of(7)->partial, Outcome::Fail);
+    QCOMPARE(of(26)->outcome(), Outcome::NotApplied);
+    QCOMPARE(j.outcome(), Outcome::Fail);
+    QVERIFY(!j.instrumentOf({ Quantity::Harmonic, 0, 5 })->partialOk); // one value outside is enough there
+    QVERIFY(!j.instrumentOf({ Quantity::Harmonic, 0, 26 }));
+}
+
+void TstRecordJudge::anInterruptionTakesItsIntervalsOut()
+{
+    FedRecording r;
+    const int u = r.table("monitor_voltage", FedRecording::voltages(1));
+    r.fill(u, kStep, [](int i) { return std::vector<double> { i == 10 || i == 11 ? 100.0 : 230.0 }; });
+    r.event(EventInterruption, kStart + 10 * kStep + 300000, kStart + 11 * kStep + 100000, 0);
+    const Judgement j = judged(r);
+    QCOMPARE(j.find(voltage(0))->leftOut, 2);
+    QCOMPARE(j.find(voltage(0))->judged, 1006);
+    QCOMPARE(j.find(voltage(0))->outcome(), Outcome::Pass);
+}
+
+void TstRecordJudge::aDipFlagsItsInterval()
+{
+    FedRecording r;
+    const int u = r.table("monitor_voltage", FedRecording::voltages(1));
+    r.fill(u, kStep, [](int) { return std::vector<double> { 230.0 }; });
+    r.event(EventDip, kStart + 5 * kStep + 1000, kStart + 5 * kStep + 1200, 150);
+    const Judgement j = judged(r);
+    QCOMPARE(j.find(voltage(0))->flagged, 1);
+    QCOMPARE(j.find(voltage(0))->judged, 1008);
+}
+
+void TstRecordJudge::timesWithoutAVoltageAreNotJudged()
+{
+    FedRecording r;
+    r.facts.end = kStart + 12 * kStep;
+    const int u = r.table("monitor_voltage", FedRecording::voltages());
+    const int f = r.table("monitor_frequency", { { "f", Statistic::Mean, "", "Hz" } });
+    r.fill(u, kStep, [](int) { return std::vector<double> { 0.3, 0.2, 0 }; }); // below 1 percent
+    r.fill(f, 10000, [](int) { return std::vector<double> { 0 }; });
+    const Judgement j = judged(r);
+    QVERIFY(j.overview.hasVoltage);
+    QVERIFY(!j.overview.hasLiveVoltage);
+    QCOMPARE(j.find(voltage(0))->leftOut, 12);
+    QCOMPARE(j.find(kFrequency)->leftOut, 720);
+    QCOMPARE(j.outcome(), Outcome::NotJudged);
+}
+
+void TstRecordJudge::shortIntervalsMakeTenMinutes()
+{
+    FedRecording r;
+    r.facts.kind = RecordKind::Recording;
+    r.facts.end = kStart + 2 * kStep;
+    QVector<RecordColumn> columns = FedRecording::voltages(1);
+    columns.append({ "U_rms", Statistic::Maximum, "L1", "V" });
+    columns.append({ "U_rms", Statistic::Mean, "N", "V" });
+    const int u = r.table("rms", columns);
+    r.fill(u, 1000, [](int i) { return std::vector<double> { i % 2 ? 220.0 : 240.0, 400, 900 }; });
+    const Judgement j = judged(r);
+    const QuantityVerdict *v = j.find(voltage(0));
+    QCOMPARE(v->judged, 2);
+    QVERIFY(std::abs(v->atShare - std::sqrt((220.0 * 220 + 240.0 * 240) / 2)) < 1e-4);
+    QVERIFY(j.instrument.isEmpty()); // the monitor alone has results
+    QVERIFY(!j.find({ Quantity::Voltage, -1, 0 })); // the neutral
+}
+
+void TstRecordJudge::intervalsThatAreTooLongAreNamed()
+{
+    FedRecording r;
+    r.facts.kind = RecordKind::Recording;
+    const int u = r.table("rms", FedRecording::voltages(1));
+    r.fill(u, 3 * kStep, [](int) { return std::vector<double> { 230 }; });
+    const Judgement j = judged(r);
+    QCOMPARE(j.find(voltage(0))->judged, 0);
+    const auto at = std::find_if(j.notJudged.begin(), j.notJudged.end(),
+                                 [](const NotJudged &rest) { return rest.quantity == Quantity::Voltage; });
+    QVERIFY(at != j.notJudged.end());
+    QCOMPARE(at->why, NotJudgedBecause::IntervalTooLong);
+}
+
+void TstRecordJudge::harmonicsInVoltsAreTakenOfTheirFundamental()
+{
+    FedRecording r;
+    r.facts.end = kStart + 3 * kStep;
+    QVector<RecordColumn> columns { { "U_distortion", Statistic::Mean, "L1", "V" },
+                                    { "U_fundamental", Statistic::Mean, "L1", "V" },
+                                    { "U_fundamental", Statistic::Minimum, "L1", "V" },
+                                    { "Uh05", Statistic::Mean, "L1", "V", CellType::Single, 5 } };
+    const int h = r.table("harmonics_u", columns);
+    r.fill(h, kStep, [](int i) { return std::vector<double> { 9.2, i == 2 ? 0.0 : 230.0, 1, 4.6 }; });
+    const Judgement j = judged(r);
+    QCOMPARE(j.find({ Quantity::Thd, 0, 0 })->atShare, 4.0);
+    QCOMPARE(j.find({ Quantity::Harmonic, 0, 5 })->atShare, 2.0);
+    QCOMPARE(j.find({ Quantity::Harmonic, 0, 5 })->withoutNumber, 1); // without a fundamental
+}
+
+void TstRecordJudge::mainsSignalsNeedThreeSeconds()
+{
+    const QVector<RecordColumn> columns { { "U_signal1_ratio", Statistic::Mean, "L1", "" } };
+    const QuantityKey key { Quantity::Signal1, 0, 0 };
+    for (const qint64 interval : { 3000, 10000 }) {
+        FedRecording r;
+        r.facts.end = kStart + 6 * kStep;
+        r.fill(r.table("signalling", columns), interval, [](int) { return std::vector<double> { 0.06 }; });
+        const Judgement j = judged(r);
+        if (interval == 3000) {
+            QCOMPARE(j.find(key)->judged, 1200);
+            QCOMPARE(j.find(key)->partial, Outcome::Fail); // 6 percent, 5 are allowed
+        } else {
+            QCOMPARE(j.find(key)->judged, 0);
+        }
+    }
+}
+
+void TstRecordJudge::whatIsMissingIsNamed()
+{
+    FedRecording r;
+    r.fill(r.table("monitor_voltage", FedRecording::voltages()), kStep, [](int) {
+        return std::vector<double> { 230, 230, 230 };
+    });
+    QVector<Quantity> missing;
+    for (const NotJudged &rest : judged(r).notJudged) {
+        QCOMPARE(rest.why, NotJudgedBecause::NotRecorded);
+        missing.append(rest.quantity);
+    }
+    QCOMPARE(missing,
+             (QVector<Quantity> { Quantity::Frequency, Quantity::Unbalance, Quantity::Thd, Quantity::Harmonic,
+                                  Quantity::Plt, Quantity::Signal1, Quantity::Signal2 }));
+}
+
+void TstRecordJudge::eventsAreCountedByTheWeek()
+{
+    FedRecording r;
+    r.facts.end = kStart + 2 * FedRecording::kWeek;
+    r.fill(r.table("monitor_voltage", FedRecording::voltages(1)), kStep,
+           [](int) { return std::vector<double> { 230 }; });
+    for (int i = 0; i < 42; ++i) // 21 in each week, 20 are allowed
+        r.event(EventDip, kStart + i * FedRecording::kDay / 3 + 5000, kStart + i * FedRecording::kDay / 3 + 5100, 180);
+    const Judgement j = judged(r);
+    QCOMPARE(j.eventCounts.first().type, qint32(EventDip));
+    QCOMPARE(j.eventCounts.first().all, 42);
+    QCOMPARE(j.eventCounts.first().count, 21);
+    QCOMPARE(j.eventCounts.first().outcome(), Outcome::Fail);
+    QCOMPARE(j.eventCounts.at(1).outcome(), Outcome::Pass);
+    QCOMPARE(j.outcome(), Outcome::Fail);
+}
+
+void TstRecordJudge::theWorstEventsGetTheirPicture()
+{
+    FedRecording r;
+    for (int i = 0; i < 30; ++i)
+        r.event(EventDip, kStart + i * 10000, kStart + i * 10000 + 100, float(190 - i));
+    r.event(EventInterruption, kStart + 900000, kStart + 905000, 0);
+    r.event(EventFrequency, kStart + 900000, kStart + 905000, 51);
+    r.events[29].item.startRms[0] = { { kStart, 230 }, { kStart + 10, 161 } };
+    const Judgement j = judged(r);
+    QCOMPARE(j.moments.size(), 12);
+    QCOMPARE(j.moments.at(0).event.item.type, qint32(EventInterruption));
+    QCOMPARE(j.moments.at(1).event.number, 30); // the deepest
+    QCOMPARE(j.moments.at(1).event.item.startRms[0].size(), 2);
+    QCOMPARE(j.overview.events.at(29).item.startRms[0].size(), 0); // the others take no memory
+}
+
+void TstRecordJudge::anEmptyRecordingIsNotJudged()
+{
+    FedRecording r;
+    r.facts = RecordFacts();
+    const Judgement j = judged(r);
+    QVERIFY(j.outcome() != Outcome::Pass && j.outcome() != Outcome::Fail);
+    QCOMPARE(j.overview.length(), 0);
+    QVERIFY(!j.overview.hasVoltage);
+}
+
+void TstRecordJudge::wildTimesAndTablesAreHarmless()
+{
+    FedRecording r;
+    r.facts.nominalVolt = kNone;
+    r.facts.nominalFrequency = std::numeric_limits<double>::infinity();
+    r.facts.joinMode = 99;
+    r.facts.start = std::numeric_limits<qint64>::min();
+    r.facts.end = std::numeric_limits<qint64>::max();
+    const int u = r.table("monitor_voltage", FedRecording::voltages());
+    const int odd = r.table("rms", { { "U_rms", Statistic::Mean, "Q", "V" }, { "Uh99", Statistic::Mean, "", "V" } });
+    for (const qint64 time : { std::numeric_limits<qint64>::min(), qint64(-1), qint64(0), qint64(1), kStart,
+                               std::numeric_limits<qint64>::max() }) {
+        r.row(u, time, { kNone, 1e300, -1e300 });
+        r.row(odd, time, { 1, 2 });
+    }
+    r.row(-1, kStart, { 1 });
+    r.row(77, kStart, { 1 });
+    r.event(EventDip, std::numeric_limits<qint64>::min(), std::numeric_limits<qint64>::max(), float(kNone), -5);
+    const Judgement j = judged(r);
+    QVERIFY(j.overview.start <= j.overview.end);
+    QCOMPARE(j.weeks.length >= 0, true);
+}
+
+QTEST_APPLESS_MAIN(TstRecordJudge)
+#include "tst_recordjudge.moc"
