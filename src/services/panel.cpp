@@ -1,6 +1,7 @@
 #include "services/panel.h"
 
 #include "board/screenshot.h"
+#include "services/screennotes.h"
 #include "widgets/text/keymap.h"
 
 #include <QApplication>
@@ -107,6 +108,7 @@ void Panel::deliverKey()
     }
     postKey(QEvent::KeyPress, code);
     postKey(QEvent::KeyRelease, code);
+    m_keyHandled = true;
     {
         // The next key waits until this one has done its work: it may have brought another page to the front.
         const std::lock_guard<std::mutex> guard(m_lock);
@@ -170,6 +172,13 @@ void Panel::requestPicture(int taker)
     emit pictureWanted();
 }
 
+// Who pressed a key waits for what it did. The early picture is one more in the time of a spacing, whatever is pressed.
+int Panel::spacing() const
+{
+    const bool early = m_keyHandled && (!m_lastEarly.isValid() || m_lastEarly.elapsed() >= kPictureSpacing);
+    return early ? kSpacingBehindKey : kPictureSpacing;
+}
+
 void Panel::takePicture()
 {
     {
@@ -180,7 +189,7 @@ void Panel::takePicture()
             QMetaObject::invokeMethod(this, "takePicture", Qt::QueuedConnection);
             return;
         }
-        const qint64 rest = m_lastPicture.isValid() ? kPictureSpacing - m_lastPicture.elapsed() : 0;
+        const qint64 rest = m_lastPicture.isValid() ? spacing() - m_lastPicture.elapsed() : 0;
         if (rest > 0) {
             m_spacing.start(int(rest));
             return;
@@ -205,8 +214,14 @@ void Panel::comeRound()
 
 void Panel::grabScreen()
 {
+    if (m_keyHandled && m_lastPicture.isValid() && m_lastPicture.elapsed() < kPictureSpacing)
+        m_lastEarly.start();
+    m_keyHandled = false;
     m_lastPicture.start();
     QImage picture = ScreenShot::getScreenPixmap().toImage();
+    const QMap<QString, QString> notes = picture.isNull() ? QMap<QString, QString>() : ScreenNotes::take();
+    for (auto note = notes.cbegin(); note != notes.cend(); ++note)
+        picture.setText(note.key(), note.value());
     {
         const std::lock_guard<std::mutex> guard(m_lock);
         m_picture = std::move(picture);
@@ -233,7 +248,8 @@ void Panel::makePictures()
             m_picture = QImage();
             takers = m_pictureFor;
         }
-        if (png.isEmpty() || picture != last) // a page on hold, or a menu, is made once
+        if (png.isEmpty() || picture != last
+            || picture.text() != last.text()) // a page on hold, or a menu, is made once
             png = ScreenShot::png(picture);
         last = std::move(picture);
         handOut(png, takers);

@@ -20,9 +20,9 @@
 ///
 /// Keys and the screen belong to the GUI thread: both are carried there in the order of their arrival, so that a
 /// picture asked for behind a key shows what the key did. However fast requests come, few keys wait at any time, and
-/// the event loop comes round between them. At most one picture is taken in 200 ms, whoever asks; requests that come
-/// before it is taken share it. The GUI thread only takes it: a thread of the panel's own makes the PNG and hands it
-/// out.
+/// the event loop comes round between them. At most one picture is taken in 200 ms, whoever asks, and one more soon
+/// behind a key; requests that come before it is taken share it. The GUI thread only takes it: a thread of the panel's
+/// own makes the PNG and hands it out.
 class Panel : public QObject
 {
     Q_OBJECT
@@ -32,6 +32,7 @@ public:
     using Taker = std::function<void(const QByteArray &png)>;
 
     static constexpr int kPictureSpacing = 200; // ms from picture to picture
+    static constexpr int kSpacingBehindKey = 40; // ms, once in a kPictureSpacing
     static constexpr int kKeysPerRound = 32; // more than anybody presses while the event loop comes round once
     static constexpr int kMostTakers = 8;
 
@@ -64,6 +65,7 @@ private:
     Q_INVOKABLE void deliverKey();
     void loopCameRound();
     Q_INVOKABLE void takePicture();
+    int spacing() const;
     void comeRound();
     void grabScreen();
     Q_INVOKABLE void pictureDone();
@@ -91,6 +93,8 @@ private:
     QTimer m_grab;
     int m_rounds = 0; // of the event loop since a picture was begun
     QElapsedTimer m_lastPicture;
+    QElapsedTimer m_lastEarly; // one that was taken early, behind a key
+    bool m_keyHandled = false; // since the last picture
 
     std::thread m_thread; // runs makePictures()
 };

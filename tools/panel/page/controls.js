@@ -18,11 +18,20 @@ const shown = [
   ['speed', 'Speed', (s) => s.speed],
 ];
 
-// The values that controls take over from how things stand.
+function phaseOf(values, phase) {
+  return (values || '').split(',')[phase === 'all' ? 0 : phase - 1];
+}
+
+// The values that controls take over from how things stand. The battery's gauge reads 2400 at 8.1 V.
 const standing = {
-  volts: (s, c) => { const all = s.volts.split(','); return all[c.phase.value === 'all' ? 0 : c.phase.value - 1]; },
-  amps: (s, c) => { const all = s.amps.split(','); return all[c.phase.value === 'all' ? 0 : c.phase.value - 1]; },
-  hertz: (s) => s.hertz,
+  volts: { volts: (s, c) => phaseOf(s.volts, c.phase.value) },
+  amps: { amps: (s, c) => phaseOf(s.amps, c.phase.value) },
+  frequency: { hertz: (s) => s.hertz },
+  scenario: { scenario: (s) => s.scenario },
+  battery: { volts: (s) => s.gauge && s.gauge * 8.1 / 2400 },
+  charger: { state: (s) => (s.charged === '1' ? 'full' : (s.charging === '1' ? 'on' : 'off')) },
+  cable: { state: (s) => (s.cable === '0' ? 'down' : 'up') },
+  speed: { factor: (s) => s.speed },
 };
 
 let built = false;
@@ -44,7 +53,9 @@ function makeField(control, field) {
   if (field.choices) {
     const select = element('select', { name: field.name });
     select.append(...field.choices.map((word) => element('option', { textContent: word })));
-    return { input: select, label: element('label', {}, element('span', { textContent: field.label }), select) };
+    const alone = control.fields.length === 1;
+    const name = element('span', { textContent: field.label, className: alone ? 'unseen' : '' });
+    return { input: select, label: element('label', {}, name, select) };
   }
   const input = element('input', {
     type: 'range', name: field.name, min: field.least, max: field.most, step: field.step, value: field.value,
@@ -53,7 +64,9 @@ function makeField(control, field) {
   input.show = () => { output.textContent = `${input.value} ${field.unit}`; input.setAttribute('aria-valuetext', output.textContent); };
   input.addEventListener('input', input.show);
   input.show();
-  const label = element('label', { className: 'wide' }, element('span', { textContent: field.label }), input, output);
+  const alone = control.fields.length === 1; // then the control's own name stands before it
+  const name = element('span', { textContent: field.label, className: alone ? 'unseen' : '' });
+  const label = element('label', { className: 'wide' }, name, input, output);
   return { input, label };
 }
 
@@ -93,12 +106,12 @@ function makeControl(control) {
       // With a slider beside it a choice says what the slider is for; the slider sends.
       if (input.type === 'range' || alone) input.addEventListener(input.type === 'range' ? 'input' : 'change', send);
     }
-    panels.push({ row, inputs: Object.fromEntries(inputs.map((input) => [input.name, input])) });
   } else {
     const button = element('button', { type: 'button', textContent: control.label });
     button.addEventListener('click', send);
     row.append(button);
   }
+  panels.push({ id: control.id, row, inputs: Object.fromEntries(inputs.map((input) => [input.name, input])) });
   row.append(element('div', { className: 'fields' }, ...fields.map((field) => field.label)));
   return row;
 }
@@ -116,13 +129,15 @@ async function buildControls() {
   document.getElementById('controls').replaceChildren(...groups.values());
 }
 
+// A control that somebody is at stays as it is.
 function follow(state) {
-  for (const { row, inputs } of panels) {
+  for (const { id, row, inputs } of panels) {
     if (row.contains(document.activeElement)) continue;
-    for (const [name, valueOf] of Object.entries(standing)) {
-      if (!inputs[name] || (name !== 'hertz' && !inputs.phase) || state[name] === undefined) continue;
-      inputs[name].value = valueOf(state, inputs);
-      inputs[name].show();
+    for (const [name, valueOf] of Object.entries(standing[id] || {})) {
+      const value = valueOf(state, inputs);
+      if (value === undefined || value === '') continue;
+      inputs[name].value = value;
+      if (inputs[name].show) inputs[name].show();
     }
   }
 }

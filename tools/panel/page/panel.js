@@ -90,6 +90,15 @@ function list(parent, texts) {
   parent.replaceChildren(...texts.map((text) => Object.assign(document.createElement('li'), { textContent: text })));
 }
 
+// What the screen says about its soft keys is said by the keys, too.
+function labelKeys(captions) {
+  const words = new Map(captions.split('\n').map((line) => [line.slice(0, 2), line.slice(3)]));
+  for (const key of ['F1', 'F2', 'F3', 'F4', 'F5']) {
+    const label = words.get(key) ? `${key}: ${words.get(key)}` : key;
+    if (buttonOf(key).ariaLabel !== label) buttonOf(key).ariaLabel = label;
+  }
+}
+
 function showScreen(screen) {
   const image = byId('screen');
   const spoken = (screen.Title || '') + (screen.Dialog ? `. ${screen.Dialog}` : '');
@@ -99,6 +108,7 @@ function showScreen(screen) {
   if (byId('spoken').textContent !== spoken) byId('spoken').textContent = spoken;
   byId('reading').hidden = !screen.Texts;
   if (screen.Texts && byId('reading').open) list(byId('texts'), screen.Texts.split('\n'));
+  labelKeys(screen.Keys || '');
   byId('help').href = `guide/${helpFor(screen.Page)}`;
   notes = screen;
 }

@@ -1,0 +1,159 @@
+#include "board/screenshot.h"
+#include "services/panel.h"
+#include "services/screennotes.h"
+
+#include <QApplication>
+#include <QBuffer>
+#include <QDialog>
+#include <QImageReader>
+#include <QLabel>
+#include <QListWidget>
+#include <QStackedWidget>
+#include <QTest>
+
+/// The texts that go with a picture of the screen.
+class TstScreenNotes : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup() { m_window.reset(); }
+
+    void nothingIsNotedWithoutAWindow();
+    void pageAndItsTitleAreNamed();
+    void textsStandInRowsAsTheyAreRead();
+    void hiddenTextsAreNotNoted();
+    void rowsOfAListAreNoted();
+    void captionsOfTheSoftKeysNameTheirKeys();
+    void openDialogIsInFront();
+    void longTextsAreCut();
+    void pictureCarriesItsNotes();
+
+private:
+    static QString note(const char *name) { return ScreenNotes::take().value(QLatin1String(name)); }
+    QLabel *addLabel(const QString &text, int x, int y, const QString &name = QString())
+    {
+        auto *label = new QLabel(text, m_page);
+        label->setObjectName(name);
+        label->setGeometry(x, y, 80, 20);
+        label->show();
+        return label;
+    }
+
+    std::unique_ptr<QWidget> m_window;
+    QWidget *m_page = nullptr;
+};
+
+// As the main window arranges it: a title bar, and the stack of pages.
+void TstScreenNotes::init()
+{
+    m_window = std::make_unique<QWidget>();
+    m_window->resize(640, 480);
+    auto *title = new QLabel(QStringLiteral("Volts/Amps/Hertz"), m_window.get());
+    title->setObjectName(QStringLiteral("name"));
+    auto *stack = new QStackedWidget(m_window.get());
+    stack->setObjectName(QStringLiteral("base_stackedWidget"));
+    stack->setGeometry(0, 32, 640, 448);
+    m_page = new QWidget;
+    stack->addWidget(m_page);
+    stack->addWidget(new QLabel(QStringLiteral("another page")));
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+}
+
+void TstScreenNotes::nothingIsNotedWithoutAWindow()
+{
+    m_window->hide();
+    QVERIFY(ScreenNotes::take().isEmpty());
+}
+
+void TstScreenNotes::pageAndItsTitleAreNamed()
+{
+    QCOMPARE(note("Page"), QStringLiteral("QWidget"));
+    QCOMPARE(note("Title"), QStringLiteral("Volts/Amps/Hertz"));
+    QVERIFY(!ScreenNotes::take().contains(QStringLiteral("Dialog")));
+}
+
+void TstScreenNotes::textsStandInRowsAsTheyAreRead()
+{
+    addLabel(QStringLiteral("229.4"), 200, 103);
+    addLabel(QStringLiteral("L1"), 100, 20);
+    addLabel(QStringLiteral("Urms(V)"), 10, 100);
+    addLabel(QStringLiteral("two\n lines"), 10, 60);
+    QCOMPARE(note("Texts"), QStringLiteral("L1\ntwo lines\nUrms(V) 229.4"));
+}
+
+void TstScreenNotes::hiddenTextsAreNotNoted()
+{
+    addLabel(QStringLiteral("shown"), 10, 100);
+    addLabel(QStringLiteral("hidden"), 100, 100)->hide();
+    QCOMPARE(note("Texts"), QStringLiteral("shown"));
+}
+
+void TstScreenNotes::rowsOfAListAreNoted()
+{
+    auto *list = new QListWidget(m_page);
+    list->setGeometry(0, 0, 300, 100);
+    for (int i = 0; i < 100; ++i)
+        list->addItem(QStringLiteral("file %1").arg(i));
+    list->show();
+    QCoreApplication::processEvents();
+    const QStringList rows = note("Texts").split(QLatin1Char('\n'));
+    QCOMPARE(rows.first(), QStringLiteral("file 0"));
+    QVERIFY(rows.size() > 2 && rows.size() < 20); // those in sight
+}
+
+void TstScreenNotes::captionsOfTheSoftKeysNameTheirKeys()
+{
+    addLabel(QStringLiteral("Hold"), 520, 420, QStringLiteral("btn_f5"));
+    addLabel(QStringLiteral("Trend"), 400, 420, QStringLiteral("btn_f4"));
+    addLabel(QString(), 10, 420, QStringLiteral("btn_f1"));
+    QCOMPARE(note("Keys"), QStringLiteral("F4 Trend\nF5 Hold"));
+}
+
+void TstScreenNotes::openDialogIsInFront()
+{
+    addLabel(QStringLiteral("behind"), 10, 100);
+    QDialog dialog(m_window.get());
+    QLabel question(QStringLiteral("Quit the\nmeasurement?"), &dialog);
+    dialog.open();
+    QCOMPARE(note("Dialog"), QStringLiteral("Quit the measurement?"));
+    QCOMPARE(note("Texts"), QStringLiteral("Quit the measurement?"));
+    QCOMPARE(note("Title"), QStringLiteral("Volts/Amps/Hertz"));
+}
+
+void TstScreenNotes::longTextsAreCut()
+{
+    addLabel(QString(3 * ScreenNotes::kLongest, QLatin1Char('x')), 10, 100);
+    QCOMPARE(note("Texts").size(), int(ScreenNotes::kLongest));
+}
+
+void TstScreenNotes::pictureCarriesItsNotes()
+{
+    ScreenShot::initScreenShot();
+    const auto panel = Panel::shared();
+    std::mutex lock;
+    QByteArray last;
+    const int number = panel->addTaker([&](const QByteArray &png) {
+        const std::lock_guard<std::mutex> guard(lock);
+        last = png;
+    });
+    const auto text = [&](const char *name) {
+        panel->requestPicture(number);
+        QTest::qWait(Panel::kPictureSpacing);
+        const std::lock_guard<std::mutex> guard(lock);
+        QBuffer buffer(&last);
+        return QImageReader(&buffer, "png").text(QLatin1String(name));
+    };
+    QLabel *label = addLabel(QStringLiteral("229.4"), 10, 100);
+    QTRY_COMPARE_WITH_TIMEOUT(text("Texts"), QStringLiteral("229.4"), 30000);
+    label->setText(QStringLiteral("\u00b0C"));
+    QTRY_COMPARE_WITH_TIMEOUT(text("Texts"), QStringLiteral("\u00b0C"), 30000);
+    QCOMPARE(text("Title"), QStringLiteral("Volts/Amps/Hertz"));
+    panel->removeTaker(number);
+}
+
+QTEST_MAIN(TstScreenNotes)
+
+#include "tst_screennotes.moc"
