@@ -180,6 +180,7 @@ void DeviceDSP::pauseReading(int milliseconds)
         m_notifier->setEnabled(false);
     if (!m_pauseTimer) {
         m_pauseTimer = new QTimer(this);
+        m_pauseTimer->setObjectName(QStringLiteral("pause"));
         connect(m_pauseTimer, &QTimer::timeout, this, &DeviceDSP::resumeReading);
     }
     if (!m_pauseTimer->isActive())

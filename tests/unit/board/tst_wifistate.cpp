@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
 
 #include <memory>
 
@@ -255,14 +256,19 @@ void TstWifiState::pageScansEverySecond()
 
 void TstWifiState::shellThatHangsStopsNoTimer()
 {
-    setStandIn(QStringLiteral("sync"), "sleep 0.5\necho sync >> \"${0%/bin/*}/var/log/commands\"\n");
+    setStandIn(QStringLiteral("sync"), kUntilLetGo + "echo sync >> \"${0%/bin/*}/var/log/commands\"\n");
     int turns = 0;
     QTimer screen;
-    connect(&screen, &QTimer::timeout, this, [&turns] { ++turns; });
+    connect(&screen, &QTimer::timeout, this, [&turns] {
+        if (++turns == 5)
+            RootFiles::write(kLetGo, "");
+    });
     screen.start(10);
     Wifi::saveConfig(this, [](bool) {});
-    QTRY_COMPARE(shellCommands(), QByteArrayList({ "sync" }));
+    QVERIFY(shellCommands().isEmpty());
+    QTRY_COMPARE_WITH_TIMEOUT(shellCommands(), QByteArrayList({ "sync" }), 30000);
     QVERIFY2(turns >= 5, qPrintable(QString::number(turns)));
+    QVERIFY(QFile::remove(Target::path(kLetGo)));
 }
 
 void TstWifiState::namesAreTurnedBackIntoText()
@@ -282,13 +288,15 @@ void TstWifiState::onlyTheAddressClientOfTheInterfaceIsEnded()
 
 void TstWifiState::addressClientDelaysNothing()
 {
-    setStandIn(QStringLiteral("udhcpc"), "sleep 3\n");
-    QElapsedTimer time;
-    time.start();
+    setStandIn(QStringLiteral("udhcpc"), kUntilLetGo + "echo late >> \"${0%/bin/*}/var/log/commands\"\n");
     m_daemon->event("<3>CTRL-EVENT-CONNECTED - Connection completed");
     m_daemon->event("<3>CTRL-EVENT-DISCONNECTED bssid=02:00:00:00:00:01 reason=3");
-    QTRY_VERIFY(shellCommands().contains("wlan0_del_route.sh"));
-    QVERIFY2(time.elapsed() < 2800, qPrintable(QString::number(time.elapsed())));
+    QByteArrayList seen;
+    QTRY_VERIFY_WITH_TIMEOUT((seen += shellCommands()).contains("wlan0_del_route.sh"), 30000);
+    QVERIFY(!seen.contains("late")); // it still waits
+    RootFiles::write(kLetGo, "");
+    QTRY_VERIFY_WITH_TIMEOUT(shellCommands().contains("late"), 30000);
+    QVERIFY(QFile::remove(Target::path(kLetGo)));
 }
 
 void TstWifiState::stateIsAskedForEveryThreeSeconds()
@@ -296,8 +304,12 @@ void TstWifiState::stateIsAskedForEveryThreeSeconds()
     QTRY_COMPARE_WITH_TIMEOUT(m_daemon->count("STATUS"), 1, 10000);
     QElapsedTimer time;
     time.start();
-    QTRY_COMPARE_WITH_TIMEOUT(m_daemon->count("STATUS"), 2, 10000);
-    QVERIFY2(time.elapsed() > 2000 && time.elapsed() < 4500, qPrintable(QString::number(time.elapsed())));
+    int seconds = 0;
+    QTimer second; // a busy machine holds it up as much as the other
+    connect(&second, &QTimer::timeout, this, [&seconds] { ++seconds; });
+    second.start(1000);
+    QTRY_COMPARE_WITH_TIMEOUT(m_daemon->count("STATUS"), 2, 60000);
+    QVERIFY2(time.elapsed() > 2000 && seconds <= 4, qPrintable(QString::number(seconds)));
 }
 
 void TstWifiState::answerAskedForBeforeTheCloseIsNotTaken()

@@ -3,14 +3,13 @@
 #include "memory/memorypage.h"
 #include "storage/fileinfo.h"
 #include "unit/storage/rootfiles.h"
+#include "unit/threadtime.h"
 #include "unit/views/pagetest.h"
 #include "unit/widgets/dialogdriver.h"
 #include "widgets/dialogs/filecopingprogressbar.h"
 #include "widgets/dialogs/message.h"
 
 #include <QImage>
-
-#include <ctime>
 
 // What the tests of the memory page share: a card with things on it, and the page in a window as the instrument has it.
 
@@ -168,26 +167,18 @@ public:
     Pulse()
     {
         QObject::connect(&m_timer, &QTimer::timeout, [this] {
-            const qint64 now = threadTime();
-            longestMs = turns > 0 ? qMax(longestMs, now - m_last) : 0;
-            m_last = now;
+            longestMs = turns > 0 ? qMax(longestMs, m_last.ms()) : 0;
+            m_last = ThreadTime();
             ++turns;
         });
         m_timer.start(1);
     }
     int turns = 0;
-    qint64 longestMs = 0; // between two turns
+    double longestMs = 0; // between two turns
 
 private:
-    static qint64 threadTime()
-    {
-        timespec time {};
-        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-        return qint64(time.tv_sec) * 1000 + time.tv_nsec / 1'000'000;
-    }
-
     QTimer m_timer;
-    qint64 m_last = 0;
+    ThreadTime m_last;
 };
 
 } // namespace MemoryCase

@@ -311,11 +311,19 @@ void TstMemoryCopy::theScreenGoesOnWhileALargeRecordingIsCopied()
     Screen screen;
     screen.page->setMedias({ kDisk });
     Pulse pulse;
+    QSet<int> seen; // percents that the bar showed on the way
+    QTimer look;
+    connect(&look, &QTimer::timeout, this, [&seen] {
+        const QWidget *dialog = QApplication::activeModalWidget();
+        if (const auto *bar = dialog ? dialog->findChild<QProgressBar *>() : nullptr)
+            seen << bar->value();
+    });
+    look.start(0);
     Answers answers("F");
     screen.press({ F2, F1, F4 });
     screen.wait();
     QCOMPARE(onDisk(), QStringList { QString::fromLatin1(kRecording) });
-    QVERIFY(pulse.turns > 20);
+    QVERIFY2(seen.size() > 2, qPrintable(QString::number(seen.size())));
     QVERIFY2(pulse.longestMs < 500, qPrintable(QString::number(pulse.longestMs)));
 }
 

@@ -1,32 +1,10 @@
 #include "recorderrun.h"
+#include "unit/threadtime.h"
 #include "unitaskcase.h"
 
 #include <QDir>
 #include <QSignalSpy>
 #include <QTest>
-
-#include <ctime>
-
-namespace {
-
-/// What the main thread itself has worked since this was made: a busy machine changes nothing of it.
-class MainThreadTime
-{
-public:
-    MainThreadTime() : m_begin(now()) { }
-    double ms() const { return now() - m_begin; }
-
-private:
-    static double now()
-    {
-        timespec time {};
-        ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-        return 1e3 * double(time.tv_sec) + 1e-6 * double(time.tv_nsec);
-    }
-    double m_begin;
-};
-
-} // namespace
 
 /// A recording inside a measurement, from its plan to what becomes of its folder.
 class TstRecording : public QObject
@@ -406,13 +384,13 @@ void TstRecording::eventsOfBeforeTheStartAreStoredWithoutAStall()
     start();
     addEvents(events, samples);
     prepare(1);
-    const MainThreadTime begin;
+    const ThreadTime begin;
     feed(10'000, 10'200);
     double longest = begin.ms();
     int beats = 0;
     for (; beats < 10'000 && blocks(0xA1010083).size() < events; ++beats) {
         for (int i = 0; i < 20; ++i) {
-            const MainThreadTime beat;
+            const ThreadTime beat;
             m_task->recorder().beat();
             longest = std::max(longest, beat.ms());
         }
@@ -440,7 +418,7 @@ void TstRecording::anEndInTheMiddleOfThemLosesNoneOfThem()
     running.value = 4711.0f;
     liveData().events().append(running);
     const QString folder = path();
-    const MainThreadTime end;
+    const ThreadTime end;
     m_task->stopRecordTask();
     QVERIFY2(end.ms() < 50, qPrintable(QString::number(end.ms())));
     liveData().events().clear(); // as the next measurement does
