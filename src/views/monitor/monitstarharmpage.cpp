@@ -34,6 +34,7 @@ MonitStarHarmPage::MonitStarHarmPage(const LiveData &data, QWidget *parent)
 
 void MonitStarHarmPage::init_parameter()
 {
+    m_phaseKey->offer(phases());
     setPhase(0);
     setCursor(0);
     MonitorBarsPage::init_parameter();
@@ -45,10 +46,15 @@ void MonitStarHarmPage::retranslateUi()
     m_histogram->update(); // its legends
 }
 
+/// Phases of the wiring.
+int MonitStarHarmPage::phases()
+{
+    return std::max(1, int(ChannelLabels::channels().taskPhases));
+}
+
 void MonitStarHarmPage::changeHarmPhase()
 {
-    const int phases = std::max(1, int(ChannelLabels::channels().taskPhases));
-    setPhase((m_phase + 1) % phases);
+    setPhase((m_phase + 1) % phases());
 }
 
 void MonitStarHarmPage::setPhase(int phase)

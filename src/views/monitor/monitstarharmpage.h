@@ -29,6 +29,7 @@ protected:
     MonitorReadout readout(const MonitorView &view) const override;
 
 private:
+    static int phases();
     void changeHarmPhase();
     void setPhase(int phase);
 

@@ -1,6 +1,7 @@
 #include "views/recorder/loggerparams.h"
 
 #include "model/channelset.h"
+#include "record/loggercolumns.h"
 
 #include <cstddef>
 
@@ -19,44 +20,24 @@ enum List : unsigned {
     All = Wired | logger_title_6,
 };
 
-struct Title
-{
-    const char *text;
-    unsigned lists; // that have it
-};
+constexpr int kFlicker = 28; // bit
 
-/// In the order of the bits.
-const Title kTitles[LoggerParams::kGroups] = {
-    { "VRMS", Wired },
-    { "VCF", Wired },
-    { "VTHD", Wired },
-    { "VNEG", ThreePhases },
-    { "VZERO", logger_title_1 },
-    { "VDC", Wired },
-    { "IRMS", Wired },
-    { "ICF", Wired },
-    { "ITHD", Wired },
-    { "INEG", ThreePhases },
-    { "IZERO", logger_title_1 },
-    { "IDC", Wired },
-    { "P", Wired },
-    { "S", Wired },
-    { "Q", Wired },
-    { "PF", Wired },
-    { "cosΦ", Wired },
-    { "tanΦ", Wired },
-    { "EnergyP", Wired },
-    { "EnergyS", Wired },
-    { "EnergyQ", Wired },
-    { "FREQ", All },
-    { "VHarmonic", Wired },
-    { "IHarmonic", Wired },
-    { "VInterHarmonic", Wired },
-    { "IInterHarmonic", Wired },
-    { "VHarmΦ", Wired },
-    { "IHarmΦ", Wired },
-    { "Pst Plt", Wired },
-};
+/// Lists that have a group.
+unsigned listsOf(const LoggerColumns::Group &group)
+{
+    switch (group.bit) {
+    case 0x8: // negative sequences
+    case 0x200:
+        return ThreePhases;
+    case 0x10: // zero sequences
+    case 0x400:
+        return logger_title_1;
+    case 0x200000: // frequency
+        return All;
+    default:
+        return Wired;
+    }
+}
 
 /// By the family of writers that a wiring has, from 1.
 constexpr List kLists[] = { logger_title_1, logger_title_2, logger_title_3, logger_title_4, logger_title_5 };
@@ -67,10 +48,10 @@ void LoggerParams::initCurTitle(const ChannelSet *wiring)
 {
     const List list = wiring ? kLists[wiring->writer - 1] : logger_title_6;
     for (std::size_t bit = 0; bit < m_titles.size(); ++bit)
-        m_titles[bit] = kTitles[bit].lists & list ? kTitles[bit].text : nullptr;
+        m_titles[bit] = listsOf(LoggerColumns::groups()[bit]) & list ? name(int(bit)) : nullptr;
 }
 
 const char *LoggerParams::name(int bit)
 {
-    return kTitles[bit].text;
+    return bit == kFlicker ? "Pst Plt" : LoggerColumns::groups()[std::size_t(bit)].name;
 }

@@ -1,9 +1,10 @@
 #include "widgets/charts/chartparts.h"
 
+#include <QDebug>
 #include <QFont>
 #include <QPainter>
 #include <QPolygonF>
-#include <QString>
+#include <QStringList>
 
 #include <algorithm>
 #include <cmath>
@@ -73,6 +74,16 @@ void drawFlagTag(QPainter &painter, int x, int y, const QColor &color, const QSt
     setFontPixels(painter, 12);
     painter.drawText(QPointF(2.0, 4.0), letter);
     painter.restore();
+}
+
+bool takeLabels(const QStringList &labels, QStringList *axis)
+{
+    if (labels.isEmpty()) {
+        qDebug() << "a wronge size of scales string list";
+        return false;
+    }
+    *axis = labels;
+    return true;
 }
 
 QPixmap scaledPicture(const QString &alias, const QSize &size)

@@ -4,6 +4,7 @@
 #include <QPainterPath>
 #include <QPen>
 #include <QPixmap>
+#include <QStringList>
 #include <QVector>
 
 class QPainter;
@@ -38,6 +39,9 @@ void drawTriangle(QPainter &painter, int x, int y, const QColor &color);
 
 /// Five-cornered tag with a letter in black, at the right end of a curve.
 void drawFlagTag(QPainter &painter, int x, int y, const QColor &color, const QString &letter);
+
+/// Puts \a labels in the place of those of an axis; false for none at all, which stay out and go to the debug log.
+bool takeLabels(const QStringList &labels, QStringList *axis);
 
 /// A picture of the resource tree in another size; null where the picture or the size is.
 QPixmap scaledPicture(const QString &alias, const QSize &size);

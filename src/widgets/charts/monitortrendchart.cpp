@@ -3,7 +3,6 @@
 #include "settings/phasecolor.h"
 #include "widgets/charts/chartparts.h"
 
-#include <QDebug>
 #include <QPainter>
 
 namespace {
@@ -60,12 +59,8 @@ void MonitorTrendChart::setFlags(int flags)
 
 void MonitorTrendChart::setFullScale(const QStringList &labels)
 {
-    if (labels.isEmpty()) {
-        qDebug() << "a wronge size of scales string list";
-        return;
-    }
-    m_labels = labels;
-    update();
+    if (ChartParts::takeLabels(labels, &m_labels))
+        update();
 }
 
 void MonitorTrendChart::setLimits(const QString &upper, const QString &lower)

@@ -3,7 +3,6 @@
 #include "settings/phasecolor.h"
 #include "widgets/charts/chartparts.h"
 
-#include <QDebug>
 #include <QPainter>
 
 // clang-format off
@@ -35,12 +34,8 @@ const TrendChart::Curve *TrendChart::curve(int bit)
 
 void TrendChart::setFullScale(const QStringList &labels)
 {
-    if (labels.isEmpty()) {
-        qDebug() << "a wronge size of scales string list";
-        return;
-    }
-    m_labels = labels;
-    update();
+    if (ChartParts::takeLabels(labels, &m_labels))
+        update();
 }
 
 void TrendChart::setLimits(const QString *upper, const QString *lower)

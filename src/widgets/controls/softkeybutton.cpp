@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 static const QColor kSelected(0, 0, 0);
 static const QColor kOther(0x40, 0x40, 0x40);
 
@@ -12,7 +14,7 @@ constexpr int kGap = 6; // pixels between two choices
 constexpr int kSmallestPixels = 9;
 
 SoftKeyButton::SoftKeyButton(const Choices &choices, QWidget *parent)
-    : QLabel(parent), m_choices(choices), m_flag(choices.initialFlag)
+    : QLabel(parent), m_choices(choices), m_flag(choices.initialFlag), m_offered(choices.list.size())
 {
     setFixedSize(124, 34); // the button picture, which would repeat on more
 }
@@ -25,11 +27,17 @@ void SoftKeyButton::setBtnFlag(int flag)
     update();
 }
 
+void SoftKeyButton::offer(int count)
+{
+    m_offered = std::clamp(count, 0, m_choices.list.size());
+    update();
+}
+
 QStringList SoftKeyButton::texts() const
 {
     QStringList texts;
-    for (const Choice &choice : m_choices.list)
-        texts << tr(choice.text);
+    for (int i = 0; i < m_offered; ++i)
+        texts << tr(m_choices.list.at(i).text);
     return texts;
 }
 

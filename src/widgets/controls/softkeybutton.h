@@ -28,6 +28,9 @@ public:
     void setBtnFlag(int flag);
     int btnFlag() const { return m_flag; }
 
+    /// Shows the first \a count choices alone; more than there are: all.
+    void offer(int count);
+
     /// The choices as shown, translated where they are words.
     QStringList texts() const;
     /// The selected text, empty if none is.
@@ -44,4 +47,5 @@ private:
 
     const Choices &m_choices;
     int m_flag;
+    int m_offered; // choices from the left
 };

@@ -462,6 +462,7 @@ void TstMonitor::harmonicsKeyStepsThroughThePhases()
     beginRun(*m_page);
     auto *button = named<MonitorHarmBtn1>(harmPage(), "btn_f1");
     QVERIFY(button);
+    QCOMPARE(button->texts(), QStringList({ "L1", "L2", "L3" }).mid(0, phases));
     for (int press = 0; press <= phases; ++press) {
         QCOMPARE(button->btnFlag(), press % phases);
         QCOMPARE(harmPage()->phase(), press % phases);
