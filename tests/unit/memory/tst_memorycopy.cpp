@@ -161,7 +161,7 @@ void TstMemoryCopy::oneAnswerMayHoldForAllThatFollow()
         screen.press({ F2, F1, F4 });
         QTRY_VERIFY_WITH_TIMEOUT(answers.isDone(), kPatienceMs);
         screen.wait();
-        QVERIFY(!QApplication::activeModalWidget());
+        QCOMPARE(answers.said.size(), 3); // whether to copy at all, and two of the three files
     };
     const auto isNew = [](const QByteArray &name) { return read(name) != "old"; };
     copied("FLW"); // Ok, No, Yes to all
