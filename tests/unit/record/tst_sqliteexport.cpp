@@ -133,7 +133,8 @@ void TstSqliteExport::recordingWithoutEventsHasAnEmptyTableOfThem()
 {
     SqliteExport sqlite({ out(), QString(), false });
     QVERIFY2(sqlite.begin(facts()) && sqlite.end(facts()), qPrintable(sqlite.error()));
-    QCOMPARE(ask("select count(*), count(time_utc), count(time_ms), count(kind), count(value) from events"), QByteArray("0|0|0|0|0\n"));
+    QCOMPARE(ask("select count(*), count(time_utc), count(time_ms), count(kind), count(value) from events"),
+             QByteArray("0|0|0|0|0\n"));
 }
 
 void TstSqliteExport::waveformsHaveTheirSamplesByNumber()
