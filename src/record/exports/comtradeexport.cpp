@@ -1,6 +1,7 @@
 #include "record/exports/comtradeexport.h"
 
 #include "record/exports/asciitext.h"
+#include "record/exports/waveformcheck.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -18,9 +19,7 @@ constexpr qint16 kMissing = -32768;
 constexpr double kMicroseconds = 1e6; // of a second
 // Readers that take the stamps with a sign come to their end at 2^31 us.
 constexpr double kMostStamp = 2147483647.0;
-constexpr double kLeastRate = 1, kMostRate = 1e9; // per second; what lies outside is no rate of this instrument
 constexpr int kMostChannels = (OutputFile::kMostRoom - 8) / 2;
-constexpr double kLastTime = 253402300799.0 * 1e3; // ms, end of the year 9999
 
 constexpr const char *kOrigins[] = { "event", "transient", "capture" };
 
@@ -30,15 +29,10 @@ QByteArray field(const QString &text)
     return AsciiText::of(text, kMostText).replace(',', ' ');
 }
 
-bool isTime(double ms)
-{
-    return std::isfinite(ms) && ms >= 0 && ms < kLastTime;
-}
-
 QByteArray timeLine(double ms)
 {
     // Whole microseconds first, so that rounding never shows a second of 60.
-    const qint64 time = isTime(ms) ? qint64(std::llround(ms * 1e3)) : 0;
+    const qint64 time = isCalendarTime(ms) ? qint64(std::llround(ms * 1e3)) : 0;
     const qint64 perSecond = qint64(kMicroseconds);
     const QDateTime second = QDateTime::fromSecsSinceEpoch(time / perSecond, Qt::UTC);
     return QLocale::c().toString(second, QStringLiteral("dd/MM/yyyy,HH:mm:ss")).toLatin1() + '.'
@@ -117,7 +111,7 @@ bool ComtradeExport::waveformBegin(const RecordedWaveform &waveform)
     m_now = {};
     const double rate = waveform.sampleRate;
     const int channels = waveform.channels.size();
-    m_isUsable = channels > 0 && channels <= kMostChannels && rate >= kLeastRate && rate <= kMostRate;
+    m_isUsable = channels > 0 && channels <= kMostChannels && hasUsableRate(waveform);
     if (m_isUsable)
         m_mostSamples = qint64(kMostStamp / kMicroseconds * rate) + 1;
     m_hasFactor.clear();
@@ -236,13 +230,13 @@ QByteArray ComtradeExport::configuration() const
     for (int i = 1; i <= channels; ++i)
         lines << channelLine(i);
     const double frequency = m_facts.nominalFrequency;
-    lines << number(frequency > 0 && frequency < kMostRate ? frequency : 50) << "1"
+    lines << number(frequency > 0 && frequency < 1e6 ? frequency : 50) << "1"
           << number(m_waveform.sampleRate) + ',' + QByteArray::number(m_now.samples) << timeLine(start)
           << timeLine(start + double(trigger) * period) << "BINARY"
           << "1"
           // The times are UTC; which zone the instrument stood in is not recorded.
           << "0,0"
           // The clock is set by hand or by a network: what it is good for is not known.
-          << (isTime(start) ? "B,3" : "F,3");
+          << (isCalendarTime(start) ? "B,3" : "F,3");
     return lines.join("\r\n") + "\r\n";
 }
