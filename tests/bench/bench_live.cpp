@@ -1,40 +1,17 @@
 #include "bench/benchapplication.h"
+#include "bench/processusage.h"
 #include "desk/deskinstrument.h"
 #include "testpaths.h"
 
 #include <QElapsedTimer>
-#include <QFile>
 #include <QThread>
 
 #include <cstdio>
-#include <unistd.h>
 
 // The whole instrument on the live stream: processor time with each page shown, resident memory and its growth.
 // Seconds behind each page: QUVERA_BENCH_SECONDS (default 10); for the growth over ten minutes set 60.
 
 namespace {
-
-struct Usage
-{
-    double seconds = 0; // of processor time, user and system
-    double mebibytes = 0; // resident
-};
-
-Usage usageOf(qint64 pid)
-{
-    Usage usage;
-    QFile stat(QStringLiteral("/proc/%1/stat").arg(pid));
-    if (!stat.open(QIODevice::ReadOnly))
-        return usage;
-    // The name in parentheses may hold blanks; what follows it does not.
-    const QByteArray line = stat.readAll();
-    const QList<QByteArray> fields = line.mid(line.lastIndexOf(')') + 2).split(' ');
-    if (fields.size() < 22)
-        return usage;
-    usage.seconds = (fields[11].toDouble() + fields[12].toDouble()) / double(sysconf(_SC_CLK_TCK));
-    usage.mebibytes = fields[21].toDouble() * double(sysconf(_SC_PAGESIZE)) / 1048576.0;
-    return usage;
-}
 
 struct PageKeys
 {
@@ -42,19 +19,12 @@ struct PageKeys
     QStringList keys; // from the page before
 };
 
-void printRatio(const char *what, double figure, double goal, const char *unit)
-{
-    std::printf("%s: %.2f %s (goal: at most %.2f)%s\n", what, figure, unit, goal, figure <= goal ? "" : " MISSED");
-}
-
 } // namespace
 
 int main(int argc, char **argv)
 {
     BenchApplication app(argc, argv);
-    const int seconds = qMax(
-        1,
-        qEnvironmentVariableIsSet("QUVERA_BENCH_SECONDS") ? qEnvironmentVariableIntValue("QUVERA_BENCH_SECONDS") : 10);
+    const int seconds = benchSeconds(10);
 
     DeskInstrument desk(QStringLiteral(QUVERA_BIN_DIR));
     QElapsedTimer clock;
@@ -92,10 +62,10 @@ int main(int argc, char **argv)
         const Usage before = usageOf(pid);
         QThread::sleep(quint32(seconds));
         const double share = (usageOf(pid).seconds - before.seconds) / seconds * 100.0;
-        printRatio(page.name, share, 3.0, "percent of a core");
+        printBeside(page.name, share, 3.0, "percent of a core");
     }
     const double last = usageOf(pid).mebibytes;
-    printRatio("resident memory", last, 64.0, "MiB");
+    printBeside("resident memory", last, 64.0, "MiB");
     std::printf("growth since the menu, trends filling included: %.2f MiB\n", last - first);
     desk.stop();
     return 0;
