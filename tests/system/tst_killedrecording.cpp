@@ -2,6 +2,7 @@
 #include "instrument.h"
 
 #include "record/pqa2reader.h"
+#include "record/wavefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -42,6 +43,7 @@ class TstKilledRecording : public QObject
     Q_OBJECT
 private slots:
     void everyFinishedIntervalStaysAndTheNextStartKnowsTheRecording();
+    void killedAtAnyMomentAgainAndAgainItSaysOnceWhatWasCut_data();
     void killedAtAnyMomentAgainAndAgainItSaysOnceWhatWasCut();
 
 private:
@@ -59,9 +61,11 @@ private:
         names.sort();
         return names;
     }
-    void checkFiles(const QString &folder);
+    void checkFiles(const QString &run);
     QDir storage() const { return QDir(m_desk.path(QStringLiteral("/mnt/storage/"))); }
     QStringList folders() const { return storage().entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name); }
+    /// Recordings in folders, and captures.
+    QStringList runs() const { return storage().entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name); }
 
     Instrument m_desk;
 };
@@ -107,22 +111,47 @@ void TstKilledRecording::everyFinishedIntervalStaysAndTheNextStartKnowsTheRecord
 }
 
 /// Every file opens and holds whole intervals, all but the last one in each.
-void TstKilledRecording::checkFiles(const QString &folder)
+void TstKilledRecording::checkFiles(const QString &run)
 {
-    const QDir files(storage().filePath(folder));
+    if (run.endsWith(WaveFile::suffix())) {
+        QFile file(storage().filePath(run));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        if (file.size() < qint64(sizeof(WaveFileHeader)))
+            return; // killed before its head was written
+        WaveFileReader reader(&file);
+        quint64 frames = 0;
+        for (WaveChunk chunk; reader.next(&chunk);)
+            frames += chunk.frames;
+        QVERIFY(reader.state() == WaveFileReader::Whole || reader.state() == WaveFileReader::Cut);
+        QVERIFY(frames >= reader.header().frames);
+        return;
+    }
+    const QDir files(storage().filePath(run));
     const int intervals = readFile(files.filePath(QStringLiteral("Common.pqa2"))).blocks.value(0xA1000020);
     for (const QString &name : files.entryList(QDir::Files)) {
         if (QFileInfo(files.filePath(name)).size() < 24)
             continue; // killed before its head was written
         const Found found = readFile(files.filePath(name));
-        QVERIFY2(found.isReadable, qPrintable(folder + QLatin1Char('/') + name));
+        QVERIFY2(found.isReadable, qPrintable(run + QLatin1Char('/') + name));
         if (name == QLatin1String("I inHarmonic(50-99).pqa2"))
             QVERIFY(intervals - found.blocks.value(0xA1000037) <= 1);
     }
 }
 
+void TstKilledRecording::killedAtAnyMomentAgainAndAgainItSaysOnceWhatWasCut_data()
+{
+    QTest::addColumn<QStringList>("first"); // keys from the menu to a run that begins at once
+    QTest::addColumn<QStringList>("next"); // the same for those that follow
+    const auto keys = [](const char *names) { return QString::fromLatin1(names).split(QLatin1Char(' ')); };
+    QTest::newRow("recorder") << startKeys() << keys("Down Down Right Enter F5"); // by the same choices
+    QTest::newRow("monitor") << keys("Monitor F5") << keys("Monitor F5");
+    QTest::newRow("capture") << keys("Down Down Enter F5") << keys("Down Down Enter F5");
+}
+
 void TstKilledRecording::killedAtAnyMomentAgainAndAgainItSaysOnceWhatWasCut()
 {
+    QFETCH(QStringList, first);
+    QFETCH(QStringList, next);
     // More of them by hand: QUVERA_KILLS=200.
     const int rounds = qMax(qEnvironmentVariableIntValue("QUVERA_KILLS"), 3);
     m_desk.stop();
@@ -130,18 +159,17 @@ void TstKilledRecording::killedAtAnyMomentAgainAndAgainItSaysOnceWhatWasCut()
     m_desk.setSpeed(4); // where it cannot, it takes longer
     VERIFY_DESK(m_desk.start(), m_desk);
     const QImage menu = page(m_desk.screen());
-    QStringList keys = startKeys();
     for (int round = 0; round < rounds; ++round) {
-        const QStringList before = folders();
-        VERIFY_DESK(m_desk.press(keys), m_desk);
-        keys = QStringLiteral("Down Down Right Enter F5").split(' '); // by the same choices
-        QTRY_COMPARE_WITH_TIMEOUT(folders().size(), before.size() + 1, kWaitMs);
+        const QStringList before = runs();
+        VERIFY_DESK(m_desk.press(round == 0 ? first : next), m_desk);
+        QTRY_COMPARE_WITH_TIMEOUT(runs().size(), before.size() + 1, kWaitMs);
+        QTRY_VERIFY_WITH_TIMEOUT(storage().exists(kJournal), kWaitMs); // a run that holds nothing yet need not be told
         QTest::qWait(int(QRandomGenerator::global()->bounded(1500)));
         m_desk.instrument().kill();
         QVERIFY(m_desk.instrument().waitForFinished());
-        for (const QString &folder : folders()) {
-            if (!before.contains(folder))
-                checkFiles(folder);
+        for (const QString &run : runs()) {
+            if (!before.contains(run))
+                checkFiles(run);
         }
 
         VERIFY_DESK(m_desk.startInstrument(), m_desk);
@@ -151,7 +179,7 @@ void TstKilledRecording::killedAtAnyMomentAgainAndAgainItSaysOnceWhatWasCut()
         VERIFY_DESK(m_desk.press({ QStringLiteral("F5") }), m_desk);
         QVERIFY(!m_desk.waitForScreen([&menu](const QImage &now) { return page(now) == menu; }).isNull());
         QTRY_VERIFY_WITH_TIMEOUT(!storage().exists(kJournal), kWaitMs); // it is not told again
-        QTRY_COMPARE_WITH_TIMEOUT(listed(), folders(), kWaitMs);
+        QTRY_COMPARE_WITH_TIMEOUT(listed(), runs(), kWaitMs);
     }
 }
 
