@@ -13,6 +13,11 @@ template <typename Sink> std::unique_ptr<RecordSink> make(const OutputPlace &pla
     return std::make_unique<Sink>(place);
 }
 
+std::unique_ptr<RecordSink> makeCompressedPqdif(const OutputPlace &place)
+{
+    return std::make_unique<PqdifExport>(place, true);
+}
+
 } // namespace
 
 const std::vector<ExportFormat> &exportFormats()
@@ -22,6 +27,7 @@ const std::vector<ExportFormat> &exportFormats()
         { "--sqlite", "FILE", "tables and waveforms as an SQLite database", make<SqliteExport> },
         { "--comtrade", "DIR", "waveforms as COMTRADE pairs", make<ComtradeExport> },
         { "--pqdif", "FILE", "trends, events and waveforms as a PQDIF file", make<PqdifExport> },
+        { "--pqdif-zlib", "FILE", "the same, its records compressed", makeCompressedPqdif },
         { "--influx", "FILE", "tables as line protocol for a time-series database", make<InfluxExport> },
     };
     return formats;

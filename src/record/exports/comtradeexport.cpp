@@ -4,6 +4,7 @@
 #include "record/exports/waveformcheck.h"
 
 #include <QDateTime>
+#include <QFileInfo>
 #include <QLocale>
 #include <QRegularExpression>
 #include <QSet>
@@ -88,7 +89,9 @@ QByteArray ratioOf(const QString &stored, bool isVoltage)
 
 } // namespace
 
-ComtradeExport::ComtradeExport(const OutputPlace &place) : m_output(Output::Folder, place, writes) { }
+ComtradeExport::ComtradeExport(const OutputPlace &place)
+    : m_output(Output::Folder, place, writes), m_input(QFileInfo(place.input).fileName())
+{ }
 
 bool ComtradeExport::writes(const QString &name)
 {
@@ -225,7 +228,9 @@ QByteArray ComtradeExport::configuration() const
     const double period = 1e3 / m_waveform.sampleRate; // ms
     const double start = m_waveform.start + double(m_now.first) * period;
     const qint64 trigger = qBound(qint64(0), m_waveform.trigger - m_now.first, m_now.samples - 1);
-    QList<QByteArray> lines { field(m_facts.model) + ',' + field(m_facts.serialNumber) + ",2013",
+    // A capture does not say what took it.
+    const QString station = m_facts.model.isEmpty() ? m_input : m_facts.model;
+    QList<QByteArray> lines { field(station) + ',' + field(m_facts.serialNumber) + ",2013",
                               QByteArray::number(channels) + ',' + QByteArray::number(channels) + "A,0D" };
     for (int i = 1; i <= channels; ++i)
         lines << channelLine(i);

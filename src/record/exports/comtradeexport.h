@@ -40,6 +40,7 @@ private:
     QByteArray channelLine(int number) const;
 
     Output m_output;
+    const QString m_input; // name of the file or folder that is read
     RecordFacts m_facts;
     RecordedWaveform m_waveform;
     bool m_isUsable = false; // the waveform has channels and a rate that the format can tell

@@ -87,6 +87,7 @@ public:
     }
     QString error() const override { return QStringLiteral("no more rows are wanted"); }
 
+    const QVector<RecordTable> &tables() const { return m_tables; }
     QStringList columns(const QByteArray &table) const
     {
         QStringList names;
