@@ -6,6 +6,7 @@
 #include "platform/deskkeys.h"
 #include "platform/deskroot.h"
 #include "platform/lineoutput.h"
+#include "platform/servicenotes.h"
 #include "widgets/text/keymap.h"
 
 #include <QApplication>
@@ -37,5 +38,6 @@ int main(int argc, char **argv)
     appInit();
     appConnection();
     langConnection();
+    ServiceNotes::begin();
     return app.exec();
 }
