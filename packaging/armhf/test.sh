@@ -6,8 +6,7 @@ top=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 . "$top/packaging/common.sh"
 here=$top/packaging/armhf
 export QUVERA_SYSROOT=${QUVERA_SYSROOT:-$top/build/armhf-sysroot}
-package_list=$here/debian-packages.txt
-install_packages
+install_packages armhf/debian-packages.txt
 "$here/make-sysroot"
 
 configure release
