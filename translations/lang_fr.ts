@@ -1820,6 +1820,417 @@ Supprimez des fichiers en mémoire.</translation>
     </message>
 </context>
 <context>
+    <name>Report</name>
+    <message>
+        <source>Half-cycle values of the currents</source>
+        <translation>Valeurs demi-période des courants</translation>
+    </message>
+    <message>
+        <source>Half-cycle values of the voltages</source>
+        <translation>Valeurs demi-période des tensions</translation>
+    </message>
+    <message>
+        <source>Waveform of the currents</source>
+        <translation>Forme d&apos;onde des courants</translation>
+    </message>
+    <message>
+        <source>Waveform of the voltages</source>
+        <translation>Forme d&apos;onde des tensions</translation>
+    </message>
+    <message>
+        <source>Harmonics of the voltage and their limits</source>
+        <translation>Harmoniques de tension et leurs limites</translation>
+    </message>
+    <message>
+        <source>Voltage left and duration of dips, swells and interruptions</source>
+        <translation>Tension résiduelle et durée des creux, surtensions et coupures</translation>
+    </message>
+    <message>
+        <source>Interruption</source>
+        <translation>Coupure</translation>
+    </message>
+    <message>
+        <source>Swell</source>
+        <translation>Surtension</translation>
+    </message>
+    <message>
+        <source>Dip</source>
+        <translation>Creux</translation>
+    </message>
+    <message>
+        <source>Trends</source>
+        <translation>Tendances</translation>
+    </message>
+    <message>
+        <source>Lowest and highest value of each moment; limits are dashed.</source>
+        <translation>Valeur la plus basse et la plus haute à chaque instant ; limites en pointillé.</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmoniques</translation>
+    </message>
+    <message>
+        <source>Reached in the share of time, percent of the fundamental</source>
+        <translation>Atteint dans la part de temps, pour cent du fondamental</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Rang</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Résultat</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Événements</translation>
+    </message>
+    <message>
+        <source>No event was recorded.</source>
+        <translation>Aucun événement enregistré.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N°</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Événement</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Phase</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>Of nominal</source>
+        <translation>Du nominal</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <translation>en cours</translation>
+    </message>
+    <message>
+        <source>Further events, not listed: %1.</source>
+        <translation>Autres événements non listés : %1.</translation>
+    </message>
+    <message>
+        <source>Worst moments</source>
+        <translation>Pires moments</translation>
+    </message>
+    <message>
+        <source>Transient</source>
+        <translation>Transitoire</translation>
+    </message>
+    <message>
+        <source>Instrument and settings</source>
+        <translation>Appareil et réglages</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modèle</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Numéro de série</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Logiciel</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Wiring</source>
+        <translation>Raccordement</translation>
+    </message>
+    <message>
+        <source>Nominal voltage</source>
+        <translation>Tension nominale</translation>
+    </message>
+    <message>
+        <source>Nominal frequency</source>
+        <translation>Fréquence nominale</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Pince</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Rapport</translation>
+    </message>
+    <message>
+        <source>Limit set</source>
+        <translation>Jeu de limites</translation>
+    </message>
+    <message>
+        <source>The limits are those of the set chosen for this report. A recording does not say which set was in use on the instrument.</source>
+        <translation>Les limites sont celles du jeu choisi pour ce rapport. Un enregistrement n&apos;indique pas le jeu utilisé par l&apos;appareil.</translation>
+    </message>
+    <message>
+        <source>Missing and not judged</source>
+        <translation>Manquant et non évalué</translation>
+    </message>
+    <message>
+        <source>%1 could not be judged: %2.</source>
+        <translation>%1 n&apos;a pas pu être évalué : %2.</translation>
+    </message>
+    <message>
+        <source>%1, intervals without a value: %2.</source>
+        <translation>%1, intervalles sans valeur : %2.</translation>
+    </message>
+    <message>
+        <source>Incomplete ten minutes: %1.</source>
+        <translation>Intervalles de dix minutes incomplets : %1.</translation>
+    </message>
+    <message>
+        <source>Nothing.</source>
+        <translation>Rien.</translation>
+    </message>
+    <message>
+        <source>All times are UTC.</source>
+        <translation>Toutes les heures sont en UTC.</translation>
+    </message>
+    <message>
+        <source>Mains signal %1 Hz</source>
+        <translation>Signal secteur %1 Hz</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Fréquence</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Tension</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Déséquilibre</translation>
+    </message>
+    <message>
+        <source>Unbalance, zero sequence</source>
+        <translation>Déséquilibre, homopolaire</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Harmonic %1</source>
+        <translation>Harmonique %1</translation>
+    </message>
+    <message>
+        <source>Rapid voltage change</source>
+        <translation>Variation rapide de tension</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>Courant d&apos;appel</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>conforme</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>non conforme</translation>
+    </message>
+    <message>
+        <source>not judged</source>
+        <translation>non évalué</translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation>sans limite</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than ten minutes</source>
+        <translation>intervalles de plus de dix minutes</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than three seconds</source>
+        <translation>intervalles de plus de trois secondes</translation>
+    </message>
+    <message>
+        <source>there is no complete value</source>
+        <translation>aucune valeur complète</translation>
+    </message>
+    <message>
+        <source>it was not recorded</source>
+        <translation>non enregistré</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>Surveillance</translation>
+    </message>
+    <message>
+        <source>Waveform capture</source>
+        <translation>Capture de forme d&apos;onde</translation>
+    </message>
+    <message>
+        <source>Saved page</source>
+        <translation>Page enregistrée</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>Enregistreur</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>Power quality report</source>
+        <translation>Rapport de qualité de l&apos;énergie</translation>
+    </message>
+    <message>
+        <source>The supply does not comply with %1.</source>
+        <translation>L&apos;alimentation n&apos;est pas conforme à %1.</translation>
+    </message>
+    <message>
+        <source>The supply complies with %1.</source>
+        <translation>L&apos;alimentation est conforme à %1.</translation>
+    </message>
+    <message>
+        <source>There was no voltage: nothing can be judged.</source>
+        <translation>Aucune tension : rien ne peut être évalué.</translation>
+    </message>
+    <message>
+        <source>The recording holds nothing that can be judged.</source>
+        <translation>L&apos;enregistrement ne contient rien d&apos;évaluable.</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>complet</translation>
+    </message>
+    <message>
+        <source>cut short</source>
+        <translation>tronqué</translation>
+    </message>
+    <message>
+        <source>damaged in the middle</source>
+        <translation>endommagé au milieu</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>illisible</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Quoi</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>%1 in a week</source>
+        <translation>%1 par semaine</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Verdict</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Grandeur</translation>
+    </message>
+    <message>
+        <source>Reached</source>
+        <translation>Atteint</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Pire</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Quand</translation>
+    </message>
+    <message>
+        <source>Within</source>
+        <translation>Dedans</translation>
+    </message>
+    <message>
+        <source>Judged</source>
+        <translation>Évalué</translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation>Appareil</translation>
+    </message>
+    <message>
+        <source>The recording is shorter than a week. The limits hold for weeks: the result is an indication.</source>
+        <translation>L&apos;enregistrement dure moins d&apos;une semaine. Les limites valent pour des semaines : le résultat est indicatif.</translation>
+    </message>
+    <message>
+        <source>Weeks judged, each by itself: %1. The table shows the worst.</source>
+        <translation>Semaines évaluées séparément : %1. Le tableau montre la pire.</translation>
+    </message>
+    <message>
+        <source>The recording is not whole. What could be read was judged.</source>
+        <translation>L&apos;enregistrement n&apos;est pas complet. Ce qui était lisible a été évalué.</translation>
+    </message>
+    <message>
+        <source>Reached: so far go the values in the share of time that the limit asks for. Within: the share that keeps to it. Judged: the share of the recording that has values.</source>
+        <translation>Atteint : valeur atteinte dans la part de temps exigée par la limite. Dedans : part qui la respecte. Évalué : part de l&apos;enregistrement qui a des valeurs.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with an interruption, not judged: %1.</source>
+        <translation>Intervalles de dix minutes avec coupure, non évalués : %1.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with a dip or a swell, flagged and judged like the others: %1.</source>
+        <translation>Intervalles de dix minutes avec creux ou surtension, marqués et évalués comme les autres : %1.</translation>
+    </message>
+    <message>
+        <source>Without them the result would be another one.</source>
+        <translation>Sans eux, le résultat serait différent.</translation>
+    </message>
+    <message>
+        <source>Without them the result is the same.</source>
+        <translation>Sans eux, le résultat est le même.</translation>
+    </message>
+    <message>
+        <source>The standard asks for the frequency in 99.5 % of a year; the limit set judges weeks.</source>
+        <translation>La norme exige la fréquence pendant 99,5 % d&apos;une année ; le jeu de limites évalue des semaines.</translation>
+    </message>
+    <message>
+        <source>Instrument, voltage and frequency: it compares a hundred times the deviation in V or Hz with the limit in percent, and one value inside is enough. Hence the other result.</source>
+        <translation>Appareil, tension et fréquence : il compare cent fois l&apos;écart en V ou Hz à la limite en pour cent, et une valeur à l&apos;intérieur suffit. D&apos;où l&apos;autre résultat.</translation>
+    </message>
+    <message>
+        <source>Instrument, harmonics: one value that is not below the limit fails, whatever the share. Hence the other result.</source>
+        <translation>Appareil, harmoniques : une seule valeur non inférieure à la limite suffit à l&apos;échec, quelle que soit la part. D&apos;où l&apos;autre résultat.</translation>
+    </message>
+    <message>
+        <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
+        <translation>Appareil, déséquilibre et flicker : une valeur sous la limite suffit. D&apos;où l&apos;autre résultat.</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>

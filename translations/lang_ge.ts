@@ -1751,13 +1751,13 @@ Bitte im Speicher Dateien löschen.</translation>
         <source>Logger waits for its start.
 Swith to other page to see real time data and details.</source>
         <translation>Der Logger wartet auf den Start.
-Aktuelle Werte und Einzelheiten stehen auf den anderen Seiten.</translation>
+Aktuelle Werte stehen auf den anderen Seiten.</translation>
     </message>
     <message>
         <source>Logger is running.
 Swith to other page to see real time data and details.</source>
         <translation>Der Logger läuft.
-Aktuelle Werte und Einzelheiten stehen auf den anderen Seiten.</translation>
+Aktuelle Werte stehen auf den anderen Seiten.</translation>
     </message>
     <message>
         <source>Logger has ended.
@@ -1817,6 +1817,417 @@ Bitte im Speicher Dateien löschen.</translation>
     <message>
         <source>%1 s</source>
         <translation>%1 s</translation>
+    </message>
+</context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>Half-cycle values of the currents</source>
+        <translation>Halbperiodenwerte der Ströme</translation>
+    </message>
+    <message>
+        <source>Half-cycle values of the voltages</source>
+        <translation>Halbperiodenwerte der Spannungen</translation>
+    </message>
+    <message>
+        <source>Waveform of the currents</source>
+        <translation>Kurvenform der Ströme</translation>
+    </message>
+    <message>
+        <source>Waveform of the voltages</source>
+        <translation>Kurvenform der Spannungen</translation>
+    </message>
+    <message>
+        <source>Harmonics of the voltage and their limits</source>
+        <translation>Spannungsoberschwingungen und ihre Grenzen</translation>
+    </message>
+    <message>
+        <source>Voltage left and duration of dips, swells and interruptions</source>
+        <translation>Restspannung und Dauer von Einbrüchen, Überhöhungen und Unterbrechungen</translation>
+    </message>
+    <message>
+        <source>Interruption</source>
+        <translation>Unterbrechung</translation>
+    </message>
+    <message>
+        <source>Swell</source>
+        <translation>Überhöhung</translation>
+    </message>
+    <message>
+        <source>Dip</source>
+        <translation>Einbruch</translation>
+    </message>
+    <message>
+        <source>Trends</source>
+        <translation>Verläufe</translation>
+    </message>
+    <message>
+        <source>Lowest and highest value of each moment; limits are dashed.</source>
+        <translation>Kleinster und größter Wert zu jedem Zeitpunkt; Grenzen gestrichelt.</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmonische</translation>
+    </message>
+    <message>
+        <source>Reached in the share of time, percent of the fundamental</source>
+        <translation>Erreicht im Zeitanteil, Prozent der Grundschwingung</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Ordnung</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Grenzwert</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Ereignisse</translation>
+    </message>
+    <message>
+        <source>No event was recorded.</source>
+        <translation>Es wurde kein Ereignis aufgezeichnet.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Ereignis</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Phase</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Beginn</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Of nominal</source>
+        <translation>Vom Nennwert</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <translation>dauert an</translation>
+    </message>
+    <message>
+        <source>Further events, not listed: %1.</source>
+        <translation>Weitere Ereignisse, nicht aufgeführt: %1.</translation>
+    </message>
+    <message>
+        <source>Worst moments</source>
+        <translation>Schlimmste Momente</translation>
+    </message>
+    <message>
+        <source>Transient</source>
+        <translation>Transiente</translation>
+    </message>
+    <message>
+        <source>Instrument and settings</source>
+        <translation>Gerät und Einstellungen</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modell</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Seriennummer</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Wiring</source>
+        <translation>Anschluss</translation>
+    </message>
+    <message>
+        <source>Nominal voltage</source>
+        <translation>Nennspannung</translation>
+    </message>
+    <message>
+        <source>Nominal frequency</source>
+        <translation>Nennfrequenz</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Zange</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Übersetzung</translation>
+    </message>
+    <message>
+        <source>Limit set</source>
+        <translation>Grenzwertsatz</translation>
+    </message>
+    <message>
+        <source>The limits are those of the set chosen for this report. A recording does not say which set was in use on the instrument.</source>
+        <translation>Die Grenzen sind die des für diesen Bericht gewählten Satzes. Eine Aufzeichnung sagt nicht, welcher Satz am Gerät galt.</translation>
+    </message>
+    <message>
+        <source>Missing and not judged</source>
+        <translation>Fehlendes und nicht Bewertetes</translation>
+    </message>
+    <message>
+        <source>%1 could not be judged: %2.</source>
+        <translation>%1 konnte nicht bewertet werden: %2.</translation>
+    </message>
+    <message>
+        <source>%1, intervals without a value: %2.</source>
+        <translation>%1, Intervalle ohne Wert: %2.</translation>
+    </message>
+    <message>
+        <source>Incomplete ten minutes: %1.</source>
+        <translation>Unvollständige Zehnminutenintervalle: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing.</source>
+        <translation>Nichts.</translation>
+    </message>
+    <message>
+        <source>All times are UTC.</source>
+        <translation>Alle Zeiten in UTC.</translation>
+    </message>
+    <message>
+        <source>Mains signal %1 Hz</source>
+        <translation>Netzsignal %1 Hz</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequenz</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Spannung</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Unsymmetrie</translation>
+    </message>
+    <message>
+        <source>Unbalance, zero sequence</source>
+        <translation>Unsymmetrie, Nullsystem</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Harmonic %1</source>
+        <translation>Oberschwingung %1</translation>
+    </message>
+    <message>
+        <source>Rapid voltage change</source>
+        <translation>Schnelle Spannungsänderung</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>Einschaltstrom</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>ok</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>nicht ok</translation>
+    </message>
+    <message>
+        <source>not judged</source>
+        <translation>unbewertet</translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation>keine Grenze</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than ten minutes</source>
+        <translation>Intervalle länger als zehn Minuten</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than three seconds</source>
+        <translation>Intervalle länger als drei Sekunden</translation>
+    </message>
+    <message>
+        <source>there is no complete value</source>
+        <translation>kein vollständiger Wert</translation>
+    </message>
+    <message>
+        <source>it was not recorded</source>
+        <translation>nicht aufgezeichnet</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+    <message>
+        <source>Waveform capture</source>
+        <translation>Kurvenformaufnahme</translation>
+    </message>
+    <message>
+        <source>Saved page</source>
+        <translation>Gespeicherte Seite</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>Logger</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Aufzeichnung</translation>
+    </message>
+    <message>
+        <source>Power quality report</source>
+        <translation>Bericht zur Spannungsqualität</translation>
+    </message>
+    <message>
+        <source>The supply does not comply with %1.</source>
+        <translation>Die Versorgung hält %1 nicht ein.</translation>
+    </message>
+    <message>
+        <source>The supply complies with %1.</source>
+        <translation>Die Versorgung hält %1 ein.</translation>
+    </message>
+    <message>
+        <source>There was no voltage: nothing can be judged.</source>
+        <translation>Es lag keine Spannung an: Nichts kann bewertet werden.</translation>
+    </message>
+    <message>
+        <source>The recording holds nothing that can be judged.</source>
+        <translation>Die Aufzeichnung enthält nichts, was bewertet werden kann.</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>vollständig</translation>
+    </message>
+    <message>
+        <source>cut short</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>damaged in the middle</source>
+        <translation>in der Mitte beschädigt</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>nicht lesbar</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Was</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <source>%1 in a week</source>
+        <translation>%1 je Woche</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Urteil</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Reached</source>
+        <translation>Erreicht</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Größte</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Wann</translation>
+    </message>
+    <message>
+        <source>Within</source>
+        <translation>Innerhalb</translation>
+    </message>
+    <message>
+        <source>Judged</source>
+        <translation>Bewertet</translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <source>The recording is shorter than a week. The limits hold for weeks: the result is an indication.</source>
+        <translation>Die Aufzeichnung ist kürzer als eine Woche. Die Grenzen gelten für Wochen: Das Ergebnis ist ein Anhalt.</translation>
+    </message>
+    <message>
+        <source>Weeks judged, each by itself: %1. The table shows the worst.</source>
+        <translation>Bewertete Wochen, jede für sich: %1. Die Tabelle zeigt die schlechteste.</translation>
+    </message>
+    <message>
+        <source>The recording is not whole. What could be read was judged.</source>
+        <translation>Die Aufzeichnung ist nicht vollständig. Bewertet wurde, was lesbar war.</translation>
+    </message>
+    <message>
+        <source>Reached: so far go the values in the share of time that the limit asks for. Within: the share that keeps to it. Judged: the share of the recording that has values.</source>
+        <translation>Erreicht: so weit gehen die Werte im Zeitanteil, den die Grenze verlangt. Innerhalb: der Anteil, der sie einhält. Bewertet: der Anteil der Aufzeichnung, der Werte hat.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with an interruption, not judged: %1.</source>
+        <translation>Zehnminutenintervalle mit Unterbrechung, nicht bewertet: %1.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with a dip or a swell, flagged and judged like the others: %1.</source>
+        <translation>Zehnminutenintervalle mit Einbruch oder Überhöhung, gekennzeichnet und wie die übrigen bewertet: %1.</translation>
+    </message>
+    <message>
+        <source>Without them the result would be another one.</source>
+        <translation>Ohne sie wäre das Ergebnis ein anderes.</translation>
+    </message>
+    <message>
+        <source>Without them the result is the same.</source>
+        <translation>Ohne sie ist das Ergebnis dasselbe.</translation>
+    </message>
+    <message>
+        <source>The standard asks for the frequency in 99.5 % of a year; the limit set judges weeks.</source>
+        <translation>Die Norm verlangt die Frequenz in 99,5 % eines Jahres; der Grenzwertsatz bewertet Wochen.</translation>
+    </message>
+    <message>
+        <source>Instrument, voltage and frequency: it compares a hundred times the deviation in V or Hz with the limit in percent, and one value inside is enough. Hence the other result.</source>
+        <translation>Gerät, Spannung und Frequenz: Es vergleicht das Hundertfache der Abweichung in V oder Hz mit der Grenze in Prozent, und ein Wert innerhalb genügt. Daher das andere Ergebnis.</translation>
+    </message>
+    <message>
+        <source>Instrument, harmonics: one value that is not below the limit fails, whatever the share. Hence the other result.</source>
+        <translation>Gerät, Oberschwingungen: Ein Wert, der nicht unter der Grenze liegt, genügt für „nicht bestanden“, gleich bei welchem Anteil. Daher das andere Ergebnis.</translation>
+    </message>
+    <message>
+        <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
+        <translation>Gerät, Unsymmetrie und Flicker: Ein Wert unter der Grenze genügt. Daher das andere Ergebnis.</translation>
     </message>
 </context>
 <context>

@@ -1820,6 +1820,417 @@ Eliminare file nella memoria.</translation>
     </message>
 </context>
 <context>
+    <name>Report</name>
+    <message>
+        <source>Half-cycle values of the currents</source>
+        <translation>Valori di semiperiodo delle correnti</translation>
+    </message>
+    <message>
+        <source>Half-cycle values of the voltages</source>
+        <translation>Valori di semiperiodo delle tensioni</translation>
+    </message>
+    <message>
+        <source>Waveform of the currents</source>
+        <translation>Forma d&apos;onda delle correnti</translation>
+    </message>
+    <message>
+        <source>Waveform of the voltages</source>
+        <translation>Forma d&apos;onda delle tensioni</translation>
+    </message>
+    <message>
+        <source>Harmonics of the voltage and their limits</source>
+        <translation>Armoniche di tensione e limiti</translation>
+    </message>
+    <message>
+        <source>Voltage left and duration of dips, swells and interruptions</source>
+        <translation>Tensione residua e durata di buchi, sovratensioni e interruzioni</translation>
+    </message>
+    <message>
+        <source>Interruption</source>
+        <translation>Interruzione</translation>
+    </message>
+    <message>
+        <source>Swell</source>
+        <translation>Sovratensione</translation>
+    </message>
+    <message>
+        <source>Dip</source>
+        <translation>Buco</translation>
+    </message>
+    <message>
+        <source>Trends</source>
+        <translation>Andamenti</translation>
+    </message>
+    <message>
+        <source>Lowest and highest value of each moment; limits are dashed.</source>
+        <translation>Valore minimo e massimo di ogni istante; limiti tratteggiati.</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Armoniche</translation>
+    </message>
+    <message>
+        <source>Reached in the share of time, percent of the fundamental</source>
+        <translation>Raggiunto nella quota di tempo, percento della fondamentale</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Ordine</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Risultato</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Eventi</translation>
+    </message>
+    <message>
+        <source>No event was recorded.</source>
+        <translation>Nessun evento registrato.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Evento</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Fase</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Inizio</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durata</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valore</translation>
+    </message>
+    <message>
+        <source>Of nominal</source>
+        <translation>Del nominale</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <translation>in corso</translation>
+    </message>
+    <message>
+        <source>Further events, not listed: %1.</source>
+        <translation>Altri eventi non elencati: %1.</translation>
+    </message>
+    <message>
+        <source>Worst moments</source>
+        <translation>Momenti peggiori</translation>
+    </message>
+    <message>
+        <source>Transient</source>
+        <translation>Transitorio</translation>
+    </message>
+    <message>
+        <source>Instrument and settings</source>
+        <translation>Strumento e impostazioni</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modello</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Numero di serie</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Wiring</source>
+        <translation>Collegamento</translation>
+    </message>
+    <message>
+        <source>Nominal voltage</source>
+        <translation>Tensione nominale</translation>
+    </message>
+    <message>
+        <source>Nominal frequency</source>
+        <translation>Frequenza nominale</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Pinza</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Rapporto</translation>
+    </message>
+    <message>
+        <source>Limit set</source>
+        <translation>Serie di limiti</translation>
+    </message>
+    <message>
+        <source>The limits are those of the set chosen for this report. A recording does not say which set was in use on the instrument.</source>
+        <translation>I limiti sono quelli della serie scelta per questo rapporto. La registrazione non dice quale serie era in uso sullo strumento.</translation>
+    </message>
+    <message>
+        <source>Missing and not judged</source>
+        <translation>Mancante e non valutato</translation>
+    </message>
+    <message>
+        <source>%1 could not be judged: %2.</source>
+        <translation>%1 non valutabile: %2.</translation>
+    </message>
+    <message>
+        <source>%1, intervals without a value: %2.</source>
+        <translation>%1, intervalli senza valore: %2.</translation>
+    </message>
+    <message>
+        <source>Incomplete ten minutes: %1.</source>
+        <translation>Intervalli di dieci minuti incompleti: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing.</source>
+        <translation>Niente.</translation>
+    </message>
+    <message>
+        <source>All times are UTC.</source>
+        <translation>Tutti gli orari sono in UTC.</translation>
+    </message>
+    <message>
+        <source>Mains signal %1 Hz</source>
+        <translation>Segnale di rete %1 Hz</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequenza</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Tensione</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Squilibrio</translation>
+    </message>
+    <message>
+        <source>Unbalance, zero sequence</source>
+        <translation>Squilibrio, sequenza zero</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Harmonic %1</source>
+        <translation>Armonica %1</translation>
+    </message>
+    <message>
+        <source>Rapid voltage change</source>
+        <translation>Variazione rapida di tensione</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>Corrente di spunto</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>sì</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>not judged</source>
+        <translation>non valutato</translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation>senza limite</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than ten minutes</source>
+        <translation>intervalli più lunghi di dieci minuti</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than three seconds</source>
+        <translation>intervalli più lunghi di tre secondi</translation>
+    </message>
+    <message>
+        <source>there is no complete value</source>
+        <translation>nessun valore completo</translation>
+    </message>
+    <message>
+        <source>it was not recorded</source>
+        <translation>non registrato</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+    <message>
+        <source>Waveform capture</source>
+        <translation>Cattura forma d&apos;onda</translation>
+    </message>
+    <message>
+        <source>Saved page</source>
+        <translation>Pagina salvata</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>Registratore</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Registrazione</translation>
+    </message>
+    <message>
+        <source>Power quality report</source>
+        <translation>Rapporto sulla qualità dell&apos;energia</translation>
+    </message>
+    <message>
+        <source>The supply does not comply with %1.</source>
+        <translation>L&apos;alimentazione non è conforme a %1.</translation>
+    </message>
+    <message>
+        <source>The supply complies with %1.</source>
+        <translation>L&apos;alimentazione è conforme a %1.</translation>
+    </message>
+    <message>
+        <source>There was no voltage: nothing can be judged.</source>
+        <translation>Nessuna tensione: nulla può essere valutato.</translation>
+    </message>
+    <message>
+        <source>The recording holds nothing that can be judged.</source>
+        <translation>La registrazione non contiene nulla di valutabile.</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>completa</translation>
+    </message>
+    <message>
+        <source>cut short</source>
+        <translation>troncata</translation>
+    </message>
+    <message>
+        <source>damaged in the middle</source>
+        <translation>danneggiata nel mezzo</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>illeggibile</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Cosa</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fine</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>%1 in a week</source>
+        <translation>%1 a settimana</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Giudizio</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Grandezza</translation>
+    </message>
+    <message>
+        <source>Reached</source>
+        <translation>Raggiunto</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Peggiore</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Quando</translation>
+    </message>
+    <message>
+        <source>Within</source>
+        <translation>Entro</translation>
+    </message>
+    <message>
+        <source>Judged</source>
+        <translation>Valutato</translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation>Strumento</translation>
+    </message>
+    <message>
+        <source>The recording is shorter than a week. The limits hold for weeks: the result is an indication.</source>
+        <translation>La registrazione è più breve di una settimana. I limiti valgono per settimane: il risultato è indicativo.</translation>
+    </message>
+    <message>
+        <source>Weeks judged, each by itself: %1. The table shows the worst.</source>
+        <translation>Settimane valutate singolarmente: %1. La tabella mostra la peggiore.</translation>
+    </message>
+    <message>
+        <source>The recording is not whole. What could be read was judged.</source>
+        <translation>La registrazione non è completa. È stato valutato ciò che era leggibile.</translation>
+    </message>
+    <message>
+        <source>Reached: so far go the values in the share of time that the limit asks for. Within: the share that keeps to it. Judged: the share of the recording that has values.</source>
+        <translation>Raggiunto: fin qui arrivano i valori nella quota di tempo richiesta dal limite. Entro: la quota che lo rispetta. Valutato: la quota della registrazione che ha valori.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with an interruption, not judged: %1.</source>
+        <translation>Intervalli di dieci minuti con interruzione, non valutati: %1.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with a dip or a swell, flagged and judged like the others: %1.</source>
+        <translation>Intervalli di dieci minuti con buco o sovratensione, marcati e valutati come gli altri: %1.</translation>
+    </message>
+    <message>
+        <source>Without them the result would be another one.</source>
+        <translation>Senza di essi il risultato sarebbe diverso.</translation>
+    </message>
+    <message>
+        <source>Without them the result is the same.</source>
+        <translation>Senza di essi il risultato è lo stesso.</translation>
+    </message>
+    <message>
+        <source>The standard asks for the frequency in 99.5 % of a year; the limit set judges weeks.</source>
+        <translation>La norma richiede la frequenza nel 99,5 % di un anno; la serie di limiti valuta settimane.</translation>
+    </message>
+    <message>
+        <source>Instrument, voltage and frequency: it compares a hundred times the deviation in V or Hz with the limit in percent, and one value inside is enough. Hence the other result.</source>
+        <translation>Strumento, tensione e frequenza: confronta cento volte lo scostamento in V o Hz con il limite in percento, e basta un valore entro il limite. Da qui il risultato diverso.</translation>
+    </message>
+    <message>
+        <source>Instrument, harmonics: one value that is not below the limit fails, whatever the share. Hence the other result.</source>
+        <translation>Strumento, armoniche: basta un valore non inferiore al limite per non essere conforme, qualunque sia la quota. Da qui il risultato diverso.</translation>
+    </message>
+    <message>
+        <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
+        <translation>Strumento, squilibrio e flicker: basta un valore sotto il limite. Da qui il risultato diverso.</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>

@@ -1820,6 +1820,417 @@ Delete files in Memory.</source>
     </message>
 </context>
 <context>
+    <name>Report</name>
+    <message>
+        <source>Half-cycle values of the currents</source>
+        <translation>電流の半サイクル値</translation>
+    </message>
+    <message>
+        <source>Half-cycle values of the voltages</source>
+        <translation>電圧の半サイクル値</translation>
+    </message>
+    <message>
+        <source>Waveform of the currents</source>
+        <translation>電流波形</translation>
+    </message>
+    <message>
+        <source>Waveform of the voltages</source>
+        <translation>電圧波形</translation>
+    </message>
+    <message>
+        <source>Harmonics of the voltage and their limits</source>
+        <translation>電圧高調波と限度値</translation>
+    </message>
+    <message>
+        <source>Voltage left and duration of dips, swells and interruptions</source>
+        <translation>ディップ・スウェル・停電の残留電圧と継続時間</translation>
+    </message>
+    <message>
+        <source>Interruption</source>
+        <translation>瞬停</translation>
+    </message>
+    <message>
+        <source>Swell</source>
+        <translation>スウェル</translation>
+    </message>
+    <message>
+        <source>Dip</source>
+        <translation>ディップ</translation>
+    </message>
+    <message>
+        <source>Trends</source>
+        <translation>トレンド</translation>
+    </message>
+    <message>
+        <source>Lowest and highest value of each moment; limits are dashed.</source>
+        <translation>各時点の最低値と最高値。破線は限度値。</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>高調波</translation>
+    </message>
+    <message>
+        <source>Reached in the share of time, percent of the fundamental</source>
+        <translation>規定時間割合での到達値、基本波に対する%</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>次数</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>限度値</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>結果</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>イベント</translation>
+    </message>
+    <message>
+        <source>No event was recorded.</source>
+        <translation>イベントの記録はありません。</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>番号</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>イベント</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>相</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>期間</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>Of nominal</source>
+        <translation>公称比</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <translation>継続中</translation>
+    </message>
+    <message>
+        <source>Further events, not listed: %1.</source>
+        <translation>記載していないその他のイベント：%1。</translation>
+    </message>
+    <message>
+        <source>Worst moments</source>
+        <translation>最悪の瞬間</translation>
+    </message>
+    <message>
+        <source>Transient</source>
+        <translation>トランジェント</translation>
+    </message>
+    <message>
+        <source>Instrument and settings</source>
+        <translation>測定器と設定</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型式</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>シリアル番号</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>ソフトウェア</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>ファームウェア</translation>
+    </message>
+    <message>
+        <source>Wiring</source>
+        <translation>結線</translation>
+    </message>
+    <message>
+        <source>Nominal voltage</source>
+        <translation>公称電圧</translation>
+    </message>
+    <message>
+        <source>Nominal frequency</source>
+        <translation>公称周波数</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>クランプ</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>変成比</translation>
+    </message>
+    <message>
+        <source>Limit set</source>
+        <translation>限度値セット</translation>
+    </message>
+    <message>
+        <source>The limits are those of the set chosen for this report. A recording does not say which set was in use on the instrument.</source>
+        <translation>限度値は本レポート用に選択したセットのものです。記録には測定器で使用されたセットは含まれません。</translation>
+    </message>
+    <message>
+        <source>Missing and not judged</source>
+        <translation>欠落と未判定</translation>
+    </message>
+    <message>
+        <source>%1 could not be judged: %2.</source>
+        <translation>%1は判定できません：%2。</translation>
+    </message>
+    <message>
+        <source>%1, intervals without a value: %2.</source>
+        <translation>%1、値のない区間：%2。</translation>
+    </message>
+    <message>
+        <source>Incomplete ten minutes: %1.</source>
+        <translation>不完全な10分区間：%1。</translation>
+    </message>
+    <message>
+        <source>Nothing.</source>
+        <translation>なし。</translation>
+    </message>
+    <message>
+        <source>All times are UTC.</source>
+        <translation>時刻はすべてUTCです。</translation>
+    </message>
+    <message>
+        <source>Mains signal %1 Hz</source>
+        <translation>商用信号 %1 Hz</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>周波数</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>電圧</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>不平衡</translation>
+    </message>
+    <message>
+        <source>Unbalance, zero sequence</source>
+        <translation>零相不平衡</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>フリッカ</translation>
+    </message>
+    <message>
+        <source>Harmonic %1</source>
+        <translation>第%1次高調波</translation>
+    </message>
+    <message>
+        <source>Rapid voltage change</source>
+        <translation>急速電圧変動</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>突入電流</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>合格</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>不合格</translation>
+    </message>
+    <message>
+        <source>not judged</source>
+        <translation>未判定</translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation>限度なし</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than ten minutes</source>
+        <translation>区間が10分を超えています</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than three seconds</source>
+        <translation>区間が3秒を超えています</translation>
+    </message>
+    <message>
+        <source>there is no complete value</source>
+        <translation>完全な値がありません</translation>
+    </message>
+    <message>
+        <source>it was not recorded</source>
+        <translation>記録されていません</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>モニタ</translation>
+    </message>
+    <message>
+        <source>Waveform capture</source>
+        <translation>波形記録</translation>
+    </message>
+    <message>
+        <source>Saved page</source>
+        <translation>保存ページ</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>ロガー</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>記録</translation>
+    </message>
+    <message>
+        <source>Power quality report</source>
+        <translation>電源品質レポート</translation>
+    </message>
+    <message>
+        <source>The supply does not comply with %1.</source>
+        <translation>電源は%1に適合していません。</translation>
+    </message>
+    <message>
+        <source>The supply complies with %1.</source>
+        <translation>電源は%1に適合しています。</translation>
+    </message>
+    <message>
+        <source>There was no voltage: nothing can be judged.</source>
+        <translation>電圧がないため、判定できません。</translation>
+    </message>
+    <message>
+        <source>The recording holds nothing that can be judged.</source>
+        <translation>判定できるデータが記録にありません。</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>完全</translation>
+    </message>
+    <message>
+        <source>cut short</source>
+        <translation>途中で切断</translation>
+    </message>
+    <message>
+        <source>damaged in the middle</source>
+        <translation>途中が破損</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>読み取れません</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>%1 in a week</source>
+        <translation>週に %1</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>判定</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>項目</translation>
+    </message>
+    <message>
+        <source>Reached</source>
+        <translation>到達値</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>最大</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>時刻</translation>
+    </message>
+    <message>
+        <source>Within</source>
+        <translation>範囲内</translation>
+    </message>
+    <message>
+        <source>Judged</source>
+        <translation>判定済</translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation>測定器</translation>
+    </message>
+    <message>
+        <source>The recording is shorter than a week. The limits hold for weeks: the result is an indication.</source>
+        <translation>記録は1週間未満です。限度値は週単位のため、結果は目安です。</translation>
+    </message>
+    <message>
+        <source>Weeks judged, each by itself: %1. The table shows the worst.</source>
+        <translation>個別に判定した週：%1。表は最悪の週です。</translation>
+    </message>
+    <message>
+        <source>The recording is not whole. What could be read was judged.</source>
+        <translation>記録は完全ではありません。読み取れた部分を判定しました。</translation>
+    </message>
+    <message>
+        <source>Reached: so far go the values in the share of time that the limit asks for. Within: the share that keeps to it. Judged: the share of the recording that has values.</source>
+        <translation>到達値：限度値が求める時間割合での値。範囲内：限度値を守る割合。判定済：値のある記録の割合。</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with an interruption, not judged: %1.</source>
+        <translation>停電を含む10分区間（判定対象外）：%1。</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with a dip or a swell, flagged and judged like the others: %1.</source>
+        <translation>ディップまたはスウェルを含む10分区間（フラグ付き、他と同様に判定）：%1。</translation>
+    </message>
+    <message>
+        <source>Without them the result would be another one.</source>
+        <translation>除くと結果が変わります。</translation>
+    </message>
+    <message>
+        <source>Without them the result is the same.</source>
+        <translation>除いても結果は同じです。</translation>
+    </message>
+    <message>
+        <source>The standard asks for the frequency in 99.5 % of a year; the limit set judges weeks.</source>
+        <translation>規格は周波数を1年の99.5 %で求めますが、限度値セットは週単位で判定します。</translation>
+    </message>
+    <message>
+        <source>Instrument, voltage and frequency: it compares a hundred times the deviation in V or Hz with the limit in percent, and one value inside is enough. Hence the other result.</source>
+        <translation>測定器、電圧と周波数：VまたはHzでの偏差の100倍をパーセントの限度値と比較し、範囲内の値が1つあれば合格となるため、結果が異なります。</translation>
+    </message>
+    <message>
+        <source>Instrument, harmonics: one value that is not below the limit fails, whatever the share. Hence the other result.</source>
+        <translation>測定器、高調波：割合に関係なく、限度値未満でない値が1つでもあれば不合格となるため、結果が異なります。</translation>
+    </message>
+    <message>
+        <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
+        <translation>測定器、不平衡とフリッカ：限度値未満の値が1つあれば合格となるため、結果が異なります。</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>

@@ -1820,6 +1820,417 @@ Delete files in Memory.</source>
     </message>
 </context>
 <context>
+    <name>Report</name>
+    <message>
+        <source>Half-cycle values of the currents</source>
+        <translation>전류의 반주기 값</translation>
+    </message>
+    <message>
+        <source>Half-cycle values of the voltages</source>
+        <translation>전압의 반주기 값</translation>
+    </message>
+    <message>
+        <source>Waveform of the currents</source>
+        <translation>전류 파형</translation>
+    </message>
+    <message>
+        <source>Waveform of the voltages</source>
+        <translation>전압 파형</translation>
+    </message>
+    <message>
+        <source>Harmonics of the voltage and their limits</source>
+        <translation>전압 고조파와 한계값</translation>
+    </message>
+    <message>
+        <source>Voltage left and duration of dips, swells and interruptions</source>
+        <translation>전압 강하·상승·정전의 잔류 전압과 지속 시간</translation>
+    </message>
+    <message>
+        <source>Interruption</source>
+        <translation>정전</translation>
+    </message>
+    <message>
+        <source>Swell</source>
+        <translation>전압 상승</translation>
+    </message>
+    <message>
+        <source>Dip</source>
+        <translation>전압 강하</translation>
+    </message>
+    <message>
+        <source>Trends</source>
+        <translation>트렌드</translation>
+    </message>
+    <message>
+        <source>Lowest and highest value of each moment; limits are dashed.</source>
+        <translation>각 시점의 최저값과 최고값. 점선은 한계값.</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>고조파</translation>
+    </message>
+    <message>
+        <source>Reached in the share of time, percent of the fundamental</source>
+        <translation>시간 비율 내 도달값, 기본파 대비 퍼센트</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>차수</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>한계값</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>결과</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>이벤트</translation>
+    </message>
+    <message>
+        <source>No event was recorded.</source>
+        <translation>기록된 이벤트가 없습니다.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>번호</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>이벤트</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>상</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>기간</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>값</translation>
+    </message>
+    <message>
+        <source>Of nominal</source>
+        <translation>공칭 대비</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <translation>진행 중</translation>
+    </message>
+    <message>
+        <source>Further events, not listed: %1.</source>
+        <translation>목록에 없는 이벤트: %1.</translation>
+    </message>
+    <message>
+        <source>Worst moments</source>
+        <translation>최악의 순간</translation>
+    </message>
+    <message>
+        <source>Transient</source>
+        <translation>과도</translation>
+    </message>
+    <message>
+        <source>Instrument and settings</source>
+        <translation>계측기와 설정</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>모델</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>일련번호</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>소프트웨어</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>펌웨어</translation>
+    </message>
+    <message>
+        <source>Wiring</source>
+        <translation>결선</translation>
+    </message>
+    <message>
+        <source>Nominal voltage</source>
+        <translation>공칭 전압</translation>
+    </message>
+    <message>
+        <source>Nominal frequency</source>
+        <translation>공칭 주파수</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>클램프</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>변성비</translation>
+    </message>
+    <message>
+        <source>Limit set</source>
+        <translation>한계값 세트</translation>
+    </message>
+    <message>
+        <source>The limits are those of the set chosen for this report. A recording does not say which set was in use on the instrument.</source>
+        <translation>한계값은 이 보고서에 선택한 세트의 값입니다. 기록에는 계측기에서 사용된 세트가 표시되지 않습니다.</translation>
+    </message>
+    <message>
+        <source>Missing and not judged</source>
+        <translation>누락 및 미판정</translation>
+    </message>
+    <message>
+        <source>%1 could not be judged: %2.</source>
+        <translation>%1: 판정할 수 없음(%2).</translation>
+    </message>
+    <message>
+        <source>%1, intervals without a value: %2.</source>
+        <translation>%1, 값이 없는 구간: %2.</translation>
+    </message>
+    <message>
+        <source>Incomplete ten minutes: %1.</source>
+        <translation>불완전한 10분 구간: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing.</source>
+        <translation>없음.</translation>
+    </message>
+    <message>
+        <source>All times are UTC.</source>
+        <translation>모든 시각은 UTC입니다.</translation>
+    </message>
+    <message>
+        <source>Mains signal %1 Hz</source>
+        <translation>전원 신호 %1 Hz</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>주파수</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>전압</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>불평형</translation>
+    </message>
+    <message>
+        <source>Unbalance, zero sequence</source>
+        <translation>영상 불평형</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>플리커</translation>
+    </message>
+    <message>
+        <source>Harmonic %1</source>
+        <translation>고조파 %1</translation>
+    </message>
+    <message>
+        <source>Rapid voltage change</source>
+        <translation>급격한 전압 변동</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>돌입전류</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>합격</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>불합격</translation>
+    </message>
+    <message>
+        <source>not judged</source>
+        <translation>미판정</translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation>한계 없음</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than ten minutes</source>
+        <translation>구간이 10분보다 김</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than three seconds</source>
+        <translation>구간이 3초보다 김</translation>
+    </message>
+    <message>
+        <source>there is no complete value</source>
+        <translation>완전한 값이 없음</translation>
+    </message>
+    <message>
+        <source>it was not recorded</source>
+        <translation>기록되지 않음</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>모니터</translation>
+    </message>
+    <message>
+        <source>Waveform capture</source>
+        <translation>파형 캡처</translation>
+    </message>
+    <message>
+        <source>Saved page</source>
+        <translation>저장된 페이지</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>로거</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>기록</translation>
+    </message>
+    <message>
+        <source>Power quality report</source>
+        <translation>전력 품질 보고서</translation>
+    </message>
+    <message>
+        <source>The supply does not comply with %1.</source>
+        <translation>전원이 %1에 적합하지 않습니다.</translation>
+    </message>
+    <message>
+        <source>The supply complies with %1.</source>
+        <translation>전원이 %1에 적합합니다.</translation>
+    </message>
+    <message>
+        <source>There was no voltage: nothing can be judged.</source>
+        <translation>전압이 없어 판정할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The recording holds nothing that can be judged.</source>
+        <translation>기록에 판정할 수 있는 내용이 없습니다.</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>완전</translation>
+    </message>
+    <message>
+        <source>cut short</source>
+        <translation>중간에 끊김</translation>
+    </message>
+    <message>
+        <source>damaged in the middle</source>
+        <translation>중간이 손상됨</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>읽을 수 없음</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>내용</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>종료</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>상태</translation>
+    </message>
+    <message>
+        <source>%1 in a week</source>
+        <translation>주당 %1</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>판정</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>항목</translation>
+    </message>
+    <message>
+        <source>Reached</source>
+        <translation>도달값</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>최대</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>시각</translation>
+    </message>
+    <message>
+        <source>Within</source>
+        <translation>범위 내</translation>
+    </message>
+    <message>
+        <source>Judged</source>
+        <translation>판정됨</translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation>계측기</translation>
+    </message>
+    <message>
+        <source>The recording is shorter than a week. The limits hold for weeks: the result is an indication.</source>
+        <translation>기록이 1주보다 짧습니다. 한계값은 주 단위이므로 결과는 참고용입니다.</translation>
+    </message>
+    <message>
+        <source>Weeks judged, each by itself: %1. The table shows the worst.</source>
+        <translation>개별 판정한 주: %1. 표는 가장 나쁜 주입니다.</translation>
+    </message>
+    <message>
+        <source>The recording is not whole. What could be read was judged.</source>
+        <translation>기록이 완전하지 않습니다. 읽을 수 있는 부분만 판정했습니다.</translation>
+    </message>
+    <message>
+        <source>Reached: so far go the values in the share of time that the limit asks for. Within: the share that keeps to it. Judged: the share of the recording that has values.</source>
+        <translation>도달값: 한계값이 요구하는 시간 비율에서의 값. 범위 내: 한계값을 지키는 비율. 판정됨: 값이 있는 기록의 비율.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with an interruption, not judged: %1.</source>
+        <translation>정전이 있는 10분 구간(판정 제외): %1.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with a dip or a swell, flagged and judged like the others: %1.</source>
+        <translation>전압 강하 또는 상승이 있는 10분 구간(표시 후 동일하게 판정): %1.</translation>
+    </message>
+    <message>
+        <source>Without them the result would be another one.</source>
+        <translation>제외하면 결과가 달라집니다.</translation>
+    </message>
+    <message>
+        <source>Without them the result is the same.</source>
+        <translation>제외해도 결과는 같습니다.</translation>
+    </message>
+    <message>
+        <source>The standard asks for the frequency in 99.5 % of a year; the limit set judges weeks.</source>
+        <translation>표준은 1년의 99.5 % 동안의 주파수를 요구하며, 한계값 세트는 주 단위로 판정합니다.</translation>
+    </message>
+    <message>
+        <source>Instrument, voltage and frequency: it compares a hundred times the deviation in V or Hz with the limit in percent, and one value inside is enough. Hence the other result.</source>
+        <translation>계측기, 전압과 주파수: V 또는 Hz 편차의 100배를 퍼센트 한계값과 비교하며 범위 안의 값이 하나면 충분하므로 결과가 다릅니다.</translation>
+    </message>
+    <message>
+        <source>Instrument, harmonics: one value that is not below the limit fails, whatever the share. Hence the other result.</source>
+        <translation>계측기, 고조파: 비율과 관계없이 한계값 미만이 아닌 값이 하나라도 있으면 불합격이므로 결과가 다릅니다.</translation>
+    </message>
+    <message>
+        <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
+        <translation>계측기, 불평형과 플리커: 한계값 미만인 값이 하나면 충분하므로 결과가 다릅니다.</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>

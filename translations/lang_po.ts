@@ -1820,6 +1820,417 @@ Usuń pliki w pamięci.</translation>
     </message>
 </context>
 <context>
+    <name>Report</name>
+    <message>
+        <source>Half-cycle values of the currents</source>
+        <translation>Wartości półokresowe prądów</translation>
+    </message>
+    <message>
+        <source>Half-cycle values of the voltages</source>
+        <translation>Wartości półokresowe napięć</translation>
+    </message>
+    <message>
+        <source>Waveform of the currents</source>
+        <translation>Przebieg prądów</translation>
+    </message>
+    <message>
+        <source>Waveform of the voltages</source>
+        <translation>Przebieg napięć</translation>
+    </message>
+    <message>
+        <source>Harmonics of the voltage and their limits</source>
+        <translation>Harmoniczne napięcia i ich granice</translation>
+    </message>
+    <message>
+        <source>Voltage left and duration of dips, swells and interruptions</source>
+        <translation>Napięcie resztkowe i czas zapadów, wzrostów i przerw</translation>
+    </message>
+    <message>
+        <source>Interruption</source>
+        <translation>Przerwa</translation>
+    </message>
+    <message>
+        <source>Swell</source>
+        <translation>Wzrost</translation>
+    </message>
+    <message>
+        <source>Dip</source>
+        <translation>Zapad</translation>
+    </message>
+    <message>
+        <source>Trends</source>
+        <translation>Trendy</translation>
+    </message>
+    <message>
+        <source>Lowest and highest value of each moment; limits are dashed.</source>
+        <translation>Najmniejsza i największa wartość w każdej chwili; granice kreskowane.</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmoniczne</translation>
+    </message>
+    <message>
+        <source>Reached in the share of time, percent of the fundamental</source>
+        <translation>Osiągnięte w udziale czasu, procent podstawowej</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Rząd</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limit</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Wynik</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Zdarzenia</translation>
+    </message>
+    <message>
+        <source>No event was recorded.</source>
+        <translation>Nie zapisano żadnego zdarzenia.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>Nr</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Zdarzenie</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Faza</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Początek</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Czas trwania</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wartość</translation>
+    </message>
+    <message>
+        <source>Of nominal</source>
+        <translation>Od znamionowego</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <translation>trwa</translation>
+    </message>
+    <message>
+        <source>Further events, not listed: %1.</source>
+        <translation>Dalsze zdarzenia, nieujęte: %1.</translation>
+    </message>
+    <message>
+        <source>Worst moments</source>
+        <translation>Najgorsze chwile</translation>
+    </message>
+    <message>
+        <source>Transient</source>
+        <translation>Przepięcie</translation>
+    </message>
+    <message>
+        <source>Instrument and settings</source>
+        <translation>Przyrząd i ustawienia</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Numer seryjny</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Program</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Wiring</source>
+        <translation>Układ</translation>
+    </message>
+    <message>
+        <source>Nominal voltage</source>
+        <translation>Napięcie znamionowe</translation>
+    </message>
+    <message>
+        <source>Nominal frequency</source>
+        <translation>Częstotliwość znamionowa</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Cęgi</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Przekładnia</translation>
+    </message>
+    <message>
+        <source>Limit set</source>
+        <translation>Zestaw granic</translation>
+    </message>
+    <message>
+        <source>The limits are those of the set chosen for this report. A recording does not say which set was in use on the instrument.</source>
+        <translation>Granice pochodzą z zestawu wybranego do tego raportu. Zapis nie mówi, jakiego zestawu używał przyrząd.</translation>
+    </message>
+    <message>
+        <source>Missing and not judged</source>
+        <translation>Braki i nieocenione</translation>
+    </message>
+    <message>
+        <source>%1 could not be judged: %2.</source>
+        <translation>Nie można ocenić: %1 (%2).</translation>
+    </message>
+    <message>
+        <source>%1, intervals without a value: %2.</source>
+        <translation>%1, przedziały bez wartości: %2.</translation>
+    </message>
+    <message>
+        <source>Incomplete ten minutes: %1.</source>
+        <translation>Niepełne przedziały dziesięciominutowe: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing.</source>
+        <translation>Nic.</translation>
+    </message>
+    <message>
+        <source>All times are UTC.</source>
+        <translation>Wszystkie czasy w UTC.</translation>
+    </message>
+    <message>
+        <source>Mains signal %1 Hz</source>
+        <translation>Sygnał sieciowy %1 Hz</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Częstotliwość</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Napięcie</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Asymetria</translation>
+    </message>
+    <message>
+        <source>Unbalance, zero sequence</source>
+        <translation>Asymetria, składowa zerowa</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Migotanie</translation>
+    </message>
+    <message>
+        <source>Harmonic %1</source>
+        <translation>Harmoniczna %1</translation>
+    </message>
+    <message>
+        <source>Rapid voltage change</source>
+        <translation>Szybka zmiana napięcia</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>Prąd rozruchu</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>tak</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>nie</translation>
+    </message>
+    <message>
+        <source>not judged</source>
+        <translation>nie oceniono</translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation>bez granicy</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than ten minutes</source>
+        <translation>przedziały dłuższe niż dziesięć minut</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than three seconds</source>
+        <translation>przedziały dłuższe niż trzy sekundy</translation>
+    </message>
+    <message>
+        <source>there is no complete value</source>
+        <translation>brak pełnej wartości</translation>
+    </message>
+    <message>
+        <source>it was not recorded</source>
+        <translation>nie zapisano</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+    <message>
+        <source>Waveform capture</source>
+        <translation>Zapis przebiegu</translation>
+    </message>
+    <message>
+        <source>Saved page</source>
+        <translation>Zapisana strona</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>Rejestrator</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Zapis</translation>
+    </message>
+    <message>
+        <source>Power quality report</source>
+        <translation>Raport jakości energii</translation>
+    </message>
+    <message>
+        <source>The supply does not comply with %1.</source>
+        <translation>Zasilanie nie spełnia %1.</translation>
+    </message>
+    <message>
+        <source>The supply complies with %1.</source>
+        <translation>Zasilanie spełnia %1.</translation>
+    </message>
+    <message>
+        <source>There was no voltage: nothing can be judged.</source>
+        <translation>Nie było napięcia: nie można nic ocenić.</translation>
+    </message>
+    <message>
+        <source>The recording holds nothing that can be judged.</source>
+        <translation>Zapis nie zawiera nic, co można ocenić.</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>pełny</translation>
+    </message>
+    <message>
+        <source>cut short</source>
+        <translation>ucięty</translation>
+    </message>
+    <message>
+        <source>damaged in the middle</source>
+        <translation>uszkodzony w środku</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>nieczytelny</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Co</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Koniec</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Stan</translation>
+    </message>
+    <message>
+        <source>%1 in a week</source>
+        <translation>%1 w tygodniu</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Ocena</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Wielkość</translation>
+    </message>
+    <message>
+        <source>Reached</source>
+        <translation>Osiągnięto</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Najgorsza</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Kiedy</translation>
+    </message>
+    <message>
+        <source>Within</source>
+        <translation>W granicach</translation>
+    </message>
+    <message>
+        <source>Judged</source>
+        <translation>Oceniono</translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation>Przyrząd</translation>
+    </message>
+    <message>
+        <source>The recording is shorter than a week. The limits hold for weeks: the result is an indication.</source>
+        <translation>Zapis jest krótszy niż tydzień. Granice dotyczą tygodni: wynik jest orientacyjny.</translation>
+    </message>
+    <message>
+        <source>Weeks judged, each by itself: %1. The table shows the worst.</source>
+        <translation>Ocenione tygodnie, każdy osobno: %1. Tabela pokazuje najgorszy.</translation>
+    </message>
+    <message>
+        <source>The recording is not whole. What could be read was judged.</source>
+        <translation>Zapis nie jest pełny. Oceniono to, co dało się odczytać.</translation>
+    </message>
+    <message>
+        <source>Reached: so far go the values in the share of time that the limit asks for. Within: the share that keeps to it. Judged: the share of the recording that has values.</source>
+        <translation>Osiągnięto: dotąd sięgają wartości w udziale czasu wymaganym przez granicę. W granicach: udział, który ją spełnia. Oceniono: część zapisu, która ma wartości.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with an interruption, not judged: %1.</source>
+        <translation>Przedziały dziesięciominutowe z przerwą, nieocenione: %1.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with a dip or a swell, flagged and judged like the others: %1.</source>
+        <translation>Przedziały dziesięciominutowe z zapadem lub wzrostem, oznaczone i ocenione jak pozostałe: %1.</translation>
+    </message>
+    <message>
+        <source>Without them the result would be another one.</source>
+        <translation>Bez nich wynik byłby inny.</translation>
+    </message>
+    <message>
+        <source>Without them the result is the same.</source>
+        <translation>Bez nich wynik jest taki sam.</translation>
+    </message>
+    <message>
+        <source>The standard asks for the frequency in 99.5 % of a year; the limit set judges weeks.</source>
+        <translation>Norma wymaga częstotliwości przez 99,5 % roku; zestaw granic ocenia tygodnie.</translation>
+    </message>
+    <message>
+        <source>Instrument, voltage and frequency: it compares a hundred times the deviation in V or Hz with the limit in percent, and one value inside is enough. Hence the other result.</source>
+        <translation>Przyrząd, napięcie i częstotliwość: porównuje stokrotność odchyłki w V lub Hz z granicą w procentach i wystarcza jedna wartość wewnątrz. Stąd inny wynik.</translation>
+    </message>
+    <message>
+        <source>Instrument, harmonics: one value that is not below the limit fails, whatever the share. Hence the other result.</source>
+        <translation>Przyrząd, harmoniczne: jedna wartość nie mniejsza od granicy oznacza niespełnienie, bez względu na udział. Stąd inny wynik.</translation>
+    </message>
+    <message>
+        <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
+        <translation>Przyrząd, asymetria i migotanie: wystarcza jedna wartość poniżej granicy. Stąd inny wynik.</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>

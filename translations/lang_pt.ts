@@ -1820,6 +1820,417 @@ Elimine ficheiros na memória.</translation>
     </message>
 </context>
 <context>
+    <name>Report</name>
+    <message>
+        <source>Half-cycle values of the currents</source>
+        <translation>Valores de meio ciclo das correntes</translation>
+    </message>
+    <message>
+        <source>Half-cycle values of the voltages</source>
+        <translation>Valores de meio ciclo das tensões</translation>
+    </message>
+    <message>
+        <source>Waveform of the currents</source>
+        <translation>Forma de onda das correntes</translation>
+    </message>
+    <message>
+        <source>Waveform of the voltages</source>
+        <translation>Forma de onda das tensões</translation>
+    </message>
+    <message>
+        <source>Harmonics of the voltage and their limits</source>
+        <translation>Harmónicas de tensão e limites</translation>
+    </message>
+    <message>
+        <source>Voltage left and duration of dips, swells and interruptions</source>
+        <translation>Tensão residual e duração de cavas, sobretensões e interrupções</translation>
+    </message>
+    <message>
+        <source>Interruption</source>
+        <translation>Interrupção</translation>
+    </message>
+    <message>
+        <source>Swell</source>
+        <translation>Sobretensão</translation>
+    </message>
+    <message>
+        <source>Dip</source>
+        <translation>Cava</translation>
+    </message>
+    <message>
+        <source>Trends</source>
+        <translation>Tendências</translation>
+    </message>
+    <message>
+        <source>Lowest and highest value of each moment; limits are dashed.</source>
+        <translation>Valor mínimo e máximo de cada momento; limites a tracejado.</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmónicas</translation>
+    </message>
+    <message>
+        <source>Reached in the share of time, percent of the fundamental</source>
+        <translation>Atingido na percentagem de tempo, percentagem da fundamental</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Ordem</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Limite</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Eventos</translation>
+    </message>
+    <message>
+        <source>No event was recorded.</source>
+        <translation>Nenhum evento registado.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Evento</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Fase</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Início</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duração</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Of nominal</source>
+        <translation>Do nominal</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <translation>continua</translation>
+    </message>
+    <message>
+        <source>Further events, not listed: %1.</source>
+        <translation>Outros eventos não listados: %1.</translation>
+    </message>
+    <message>
+        <source>Worst moments</source>
+        <translation>Piores momentos</translation>
+    </message>
+    <message>
+        <source>Transient</source>
+        <translation>Transitório</translation>
+    </message>
+    <message>
+        <source>Instrument and settings</source>
+        <translation>Aparelho e definições</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Número de série</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Wiring</source>
+        <translation>Ligação</translation>
+    </message>
+    <message>
+        <source>Nominal voltage</source>
+        <translation>Tensão nominal</translation>
+    </message>
+    <message>
+        <source>Nominal frequency</source>
+        <translation>Frequência nominal</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Pinça</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Relação</translation>
+    </message>
+    <message>
+        <source>Limit set</source>
+        <translation>Conjunto de limites</translation>
+    </message>
+    <message>
+        <source>The limits are those of the set chosen for this report. A recording does not say which set was in use on the instrument.</source>
+        <translation>Os limites são os do conjunto escolhido para este relatório. O registo não diz que conjunto estava em uso no aparelho.</translation>
+    </message>
+    <message>
+        <source>Missing and not judged</source>
+        <translation>Em falta e não avaliado</translation>
+    </message>
+    <message>
+        <source>%1 could not be judged: %2.</source>
+        <translation>Não foi possível avaliar %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1, intervals without a value: %2.</source>
+        <translation>%1, intervalos sem valor: %2.</translation>
+    </message>
+    <message>
+        <source>Incomplete ten minutes: %1.</source>
+        <translation>Intervalos de dez minutos incompletos: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing.</source>
+        <translation>Nada.</translation>
+    </message>
+    <message>
+        <source>All times are UTC.</source>
+        <translation>Todas as horas são UTC.</translation>
+    </message>
+    <message>
+        <source>Mains signal %1 Hz</source>
+        <translation>Sinal de rede %1 Hz</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frequência</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Tensão</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Desequilíbrio</translation>
+    </message>
+    <message>
+        <source>Unbalance, zero sequence</source>
+        <translation>Desequilíbrio, sequência zero</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Harmonic %1</source>
+        <translation>Harmónica %1</translation>
+    </message>
+    <message>
+        <source>Rapid voltage change</source>
+        <translation>Variação rápida de tensão</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>Corr. de arranque</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>cumpre</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>não cumpre</translation>
+    </message>
+    <message>
+        <source>not judged</source>
+        <translation>não avaliado</translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation>sem limite</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than ten minutes</source>
+        <translation>intervalos superiores a dez minutos</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than three seconds</source>
+        <translation>intervalos superiores a três segundos</translation>
+    </message>
+    <message>
+        <source>there is no complete value</source>
+        <translation>não há nenhum valor completo</translation>
+    </message>
+    <message>
+        <source>it was not recorded</source>
+        <translation>não foi registado</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+    <message>
+        <source>Waveform capture</source>
+        <translation>Captura de forma de onda</translation>
+    </message>
+    <message>
+        <source>Saved page</source>
+        <translation>Página guardada</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>Registador</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Registo</translation>
+    </message>
+    <message>
+        <source>Power quality report</source>
+        <translation>Relatório de qualidade da energia</translation>
+    </message>
+    <message>
+        <source>The supply does not comply with %1.</source>
+        <translation>A alimentação não cumpre %1.</translation>
+    </message>
+    <message>
+        <source>The supply complies with %1.</source>
+        <translation>A alimentação cumpre %1.</translation>
+    </message>
+    <message>
+        <source>There was no voltage: nothing can be judged.</source>
+        <translation>Não havia tensão: nada pode ser avaliado.</translation>
+    </message>
+    <message>
+        <source>The recording holds nothing that can be judged.</source>
+        <translation>O registo não contém nada que possa ser avaliado.</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>completo</translation>
+    </message>
+    <message>
+        <source>cut short</source>
+        <translation>cortado</translation>
+    </message>
+    <message>
+        <source>damaged in the middle</source>
+        <translation>danificado no meio</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>ilegível</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>O quê</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fim</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>%1 in a week</source>
+        <translation>%1 por semana</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Veredicto</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Grandeza</translation>
+    </message>
+    <message>
+        <source>Reached</source>
+        <translation>Atingido</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Pior</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Quando</translation>
+    </message>
+    <message>
+        <source>Within</source>
+        <translation>Dentro</translation>
+    </message>
+    <message>
+        <source>Judged</source>
+        <translation>Avaliado</translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation>Aparelho</translation>
+    </message>
+    <message>
+        <source>The recording is shorter than a week. The limits hold for weeks: the result is an indication.</source>
+        <translation>O registo é inferior a uma semana. Os limites valem para semanas: o resultado é indicativo.</translation>
+    </message>
+    <message>
+        <source>Weeks judged, each by itself: %1. The table shows the worst.</source>
+        <translation>Semanas avaliadas uma a uma: %1. A tabela mostra a pior.</translation>
+    </message>
+    <message>
+        <source>The recording is not whole. What could be read was judged.</source>
+        <translation>O registo não está completo. Foi avaliado o que se pôde ler.</translation>
+    </message>
+    <message>
+        <source>Reached: so far go the values in the share of time that the limit asks for. Within: the share that keeps to it. Judged: the share of the recording that has values.</source>
+        <translation>Atingido: até aí vão os valores na percentagem de tempo que o limite pede. Dentro: a percentagem que o cumpre. Avaliado: a parte do registo que tem valores.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with an interruption, not judged: %1.</source>
+        <translation>Intervalos de dez minutos com interrupção, não avaliados: %1.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with a dip or a swell, flagged and judged like the others: %1.</source>
+        <translation>Intervalos de dez minutos com cava ou sobretensão, marcados e avaliados como os outros: %1.</translation>
+    </message>
+    <message>
+        <source>Without them the result would be another one.</source>
+        <translation>Sem eles o resultado seria outro.</translation>
+    </message>
+    <message>
+        <source>Without them the result is the same.</source>
+        <translation>Sem eles o resultado é o mesmo.</translation>
+    </message>
+    <message>
+        <source>The standard asks for the frequency in 99.5 % of a year; the limit set judges weeks.</source>
+        <translation>A norma exige a frequência em 99,5 % de um ano; o conjunto de limites avalia semanas.</translation>
+    </message>
+    <message>
+        <source>Instrument, voltage and frequency: it compares a hundred times the deviation in V or Hz with the limit in percent, and one value inside is enough. Hence the other result.</source>
+        <translation>Aparelho, tensão e frequência: compara cem vezes o desvio em V ou Hz com o limite em percentagem, e basta um valor dentro. Daí o outro resultado.</translation>
+    </message>
+    <message>
+        <source>Instrument, harmonics: one value that is not below the limit fails, whatever the share. Hence the other result.</source>
+        <translation>Aparelho, harmónicas: basta um valor que não esteja abaixo do limite para não cumprir, seja qual for a percentagem. Daí o outro resultado.</translation>
+    </message>
+    <message>
+        <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
+        <translation>Aparelho, desequilíbrio e tremulação: basta um valor abaixo do limite. Daí o outro resultado.</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>

@@ -1820,6 +1820,417 @@ Delete files in Memory.</source>
     </message>
 </context>
 <context>
+    <name>Report</name>
+    <message>
+        <source>Half-cycle values of the currents</source>
+        <translation>Полупериодные значения токов</translation>
+    </message>
+    <message>
+        <source>Half-cycle values of the voltages</source>
+        <translation>Полупериодные значения напряжений</translation>
+    </message>
+    <message>
+        <source>Waveform of the currents</source>
+        <translation>Форма токов</translation>
+    </message>
+    <message>
+        <source>Waveform of the voltages</source>
+        <translation>Форма напряжений</translation>
+    </message>
+    <message>
+        <source>Harmonics of the voltage and their limits</source>
+        <translation>Гармоники напряжения и их нормы</translation>
+    </message>
+    <message>
+        <source>Voltage left and duration of dips, swells and interruptions</source>
+        <translation>Остаточное напряжение и длительность провалов, перенапряжений и прерываний</translation>
+    </message>
+    <message>
+        <source>Interruption</source>
+        <translation>Прерывание</translation>
+    </message>
+    <message>
+        <source>Swell</source>
+        <translation>Перенапряжение</translation>
+    </message>
+    <message>
+        <source>Dip</source>
+        <translation>Провал</translation>
+    </message>
+    <message>
+        <source>Trends</source>
+        <translation>Тренды</translation>
+    </message>
+    <message>
+        <source>Lowest and highest value of each moment; limits are dashed.</source>
+        <translation>Наименьшее и наибольшее значение в каждый момент; нормы показаны пунктиром.</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Гармоники</translation>
+    </message>
+    <message>
+        <source>Reached in the share of time, percent of the fundamental</source>
+        <translation>Достигнуто за долю времени, процент основной гармоники</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Порядок</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Предел</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Результат</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>События</translation>
+    </message>
+    <message>
+        <source>No event was recorded.</source>
+        <translation>Событий не записано.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>№</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Событие</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Фаза</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Начало</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Длительность</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Знач.</translation>
+    </message>
+    <message>
+        <source>Of nominal</source>
+        <translation>От номинала</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <translation>продолжается</translation>
+    </message>
+    <message>
+        <source>Further events, not listed: %1.</source>
+        <translation>Прочие события, не в списке: %1.</translation>
+    </message>
+    <message>
+        <source>Worst moments</source>
+        <translation>Худшие моменты</translation>
+    </message>
+    <message>
+        <source>Transient</source>
+        <translation>Переходный процесс</translation>
+    </message>
+    <message>
+        <source>Instrument and settings</source>
+        <translation>Прибор и настройки</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Модель</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Серийный номер</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>ПО прибора</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>ПО процессора</translation>
+    </message>
+    <message>
+        <source>Wiring</source>
+        <translation>Схема</translation>
+    </message>
+    <message>
+        <source>Nominal voltage</source>
+        <translation>Номинальное напряжение</translation>
+    </message>
+    <message>
+        <source>Nominal frequency</source>
+        <translation>Номинальная частота</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Клещи</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Коэффициент</translation>
+    </message>
+    <message>
+        <source>Limit set</source>
+        <translation>Набор норм</translation>
+    </message>
+    <message>
+        <source>The limits are those of the set chosen for this report. A recording does not say which set was in use on the instrument.</source>
+        <translation>Нормы взяты из набора, выбранного для этого отчёта. Запись не сообщает, какой набор действовал на приборе.</translation>
+    </message>
+    <message>
+        <source>Missing and not judged</source>
+        <translation>Отсутствует и не оценено</translation>
+    </message>
+    <message>
+        <source>%1 could not be judged: %2.</source>
+        <translation>Не удалось оценить: %1 (%2).</translation>
+    </message>
+    <message>
+        <source>%1, intervals without a value: %2.</source>
+        <translation>%1, интервалов без значения: %2.</translation>
+    </message>
+    <message>
+        <source>Incomplete ten minutes: %1.</source>
+        <translation>Неполных 10-минутных интервалов: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing.</source>
+        <translation>Ничего.</translation>
+    </message>
+    <message>
+        <source>All times are UTC.</source>
+        <translation>Все времена указаны в UTC.</translation>
+    </message>
+    <message>
+        <source>Mains signal %1 Hz</source>
+        <translation>Сигнал сети %1 Hz</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Частота</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Напряжение</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Несимметрия</translation>
+    </message>
+    <message>
+        <source>Unbalance, zero sequence</source>
+        <translation>Несимметрия, нулевая последовательность</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Фликер</translation>
+    </message>
+    <message>
+        <source>Harmonic %1</source>
+        <translation>Гармоника %1</translation>
+    </message>
+    <message>
+        <source>Rapid voltage change</source>
+        <translation>Быстрое изменение напряжения</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>Пусковой ток</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>да</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>not judged</source>
+        <translation>не оценено</translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation>без нормы</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than ten minutes</source>
+        <translation>интервалы длиннее десяти минут</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than three seconds</source>
+        <translation>интервалы длиннее трёх секунд</translation>
+    </message>
+    <message>
+        <source>there is no complete value</source>
+        <translation>нет полного значения</translation>
+    </message>
+    <message>
+        <source>it was not recorded</source>
+        <translation>не записано</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>Монитор</translation>
+    </message>
+    <message>
+        <source>Waveform capture</source>
+        <translation>Запись формы сигнала</translation>
+    </message>
+    <message>
+        <source>Saved page</source>
+        <translation>Сохранённая страница</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>Регистратор</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Запись</translation>
+    </message>
+    <message>
+        <source>Power quality report</source>
+        <translation>Отчёт о качестве электроэнергии</translation>
+    </message>
+    <message>
+        <source>The supply does not comply with %1.</source>
+        <translation>Питание не соответствует %1.</translation>
+    </message>
+    <message>
+        <source>The supply complies with %1.</source>
+        <translation>Питание соответствует %1.</translation>
+    </message>
+    <message>
+        <source>There was no voltage: nothing can be judged.</source>
+        <translation>Напряжения не было: оценивать нечего.</translation>
+    </message>
+    <message>
+        <source>The recording holds nothing that can be judged.</source>
+        <translation>В записи нет ничего, что можно оценить.</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>полная</translation>
+    </message>
+    <message>
+        <source>cut short</source>
+        <translation>обрезана</translation>
+    </message>
+    <message>
+        <source>damaged in the middle</source>
+        <translation>повреждена в середине</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>не читается</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Что</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Конец</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Состояние</translation>
+    </message>
+    <message>
+        <source>%1 in a week</source>
+        <translation>%1 за неделю</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Заключение</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Величина</translation>
+    </message>
+    <message>
+        <source>Reached</source>
+        <translation>Достигнуто</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Худшая</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Когда</translation>
+    </message>
+    <message>
+        <source>Within</source>
+        <translation>В норме</translation>
+    </message>
+    <message>
+        <source>Judged</source>
+        <translation>Оценено</translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation>Прибор</translation>
+    </message>
+    <message>
+        <source>The recording is shorter than a week. The limits hold for weeks: the result is an indication.</source>
+        <translation>Запись короче недели. Нормы действуют для недель: результат ориентировочный.</translation>
+    </message>
+    <message>
+        <source>Weeks judged, each by itself: %1. The table shows the worst.</source>
+        <translation>Оценено недель, каждая отдельно: %1. В таблице худшая.</translation>
+    </message>
+    <message>
+        <source>The recording is not whole. What could be read was judged.</source>
+        <translation>Запись неполная. Оценено то, что удалось прочитать.</translation>
+    </message>
+    <message>
+        <source>Reached: so far go the values in the share of time that the limit asks for. Within: the share that keeps to it. Judged: the share of the recording that has values.</source>
+        <translation>Достигнуто: до этого доходят значения за долю времени, которую требует норма. В норме: доля, которая её соблюдает. Оценено: доля записи, для которой есть значения.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with an interruption, not judged: %1.</source>
+        <translation>10-минутные интервалы с прерыванием, не оценены: %1.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with a dip or a swell, flagged and judged like the others: %1.</source>
+        <translation>10-минутные интервалы с провалом или перенапряжением, помечены и оценены как остальные: %1.</translation>
+    </message>
+    <message>
+        <source>Without them the result would be another one.</source>
+        <translation>Без них результат был бы другим.</translation>
+    </message>
+    <message>
+        <source>Without them the result is the same.</source>
+        <translation>Без них результат тот же.</translation>
+    </message>
+    <message>
+        <source>The standard asks for the frequency in 99.5 % of a year; the limit set judges weeks.</source>
+        <translation>Стандарт требует частоту в 99,5 % года; набор норм оценивает недели.</translation>
+    </message>
+    <message>
+        <source>Instrument, voltage and frequency: it compares a hundred times the deviation in V or Hz with the limit in percent, and one value inside is enough. Hence the other result.</source>
+        <translation>Прибор, напряжение и частота: сравнивается стократное отклонение в В или Гц с нормой в процентах, и достаточно одного значения внутри. Отсюда другой результат.</translation>
+    </message>
+    <message>
+        <source>Instrument, harmonics: one value that is not below the limit fails, whatever the share. Hence the other result.</source>
+        <translation>Прибор, гармоники: одного значения не ниже нормы достаточно для отказа при любой доле. Отсюда другой результат.</translation>
+    </message>
+    <message>
+        <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
+        <translation>Прибор, несимметрия и фликер: достаточно одного значения ниже нормы. Отсюда другой результат.</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>

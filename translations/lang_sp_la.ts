@@ -1820,6 +1820,417 @@ Borre archivos en la memoria.</translation>
     </message>
 </context>
 <context>
+    <name>Report</name>
+    <message>
+        <source>Half-cycle values of the currents</source>
+        <translation>Valores de semiciclo de las corrientes</translation>
+    </message>
+    <message>
+        <source>Half-cycle values of the voltages</source>
+        <translation>Valores de semiciclo de las tensiones</translation>
+    </message>
+    <message>
+        <source>Waveform of the currents</source>
+        <translation>Forma de onda de las corrientes</translation>
+    </message>
+    <message>
+        <source>Waveform of the voltages</source>
+        <translation>Forma de onda de las tensiones</translation>
+    </message>
+    <message>
+        <source>Harmonics of the voltage and their limits</source>
+        <translation>Armónicas de tensión y sus límites</translation>
+    </message>
+    <message>
+        <source>Voltage left and duration of dips, swells and interruptions</source>
+        <translation>Tensión residual y duración de huecos, sobretensiones e interrupciones</translation>
+    </message>
+    <message>
+        <source>Interruption</source>
+        <translation>Interrupción</translation>
+    </message>
+    <message>
+        <source>Swell</source>
+        <translation>Sobretensión</translation>
+    </message>
+    <message>
+        <source>Dip</source>
+        <translation>Hueco</translation>
+    </message>
+    <message>
+        <source>Trends</source>
+        <translation>Tendencias</translation>
+    </message>
+    <message>
+        <source>Lowest and highest value of each moment; limits are dashed.</source>
+        <translation>Valor mínimo y máximo de cada momento; límites en línea discontinua.</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Armónicos</translation>
+    </message>
+    <message>
+        <source>Reached in the share of time, percent of the fundamental</source>
+        <translation>Alcanzado en la proporción de tiempo, porcentaje de la fundamental</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Orden</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Límite</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Eventos</translation>
+    </message>
+    <message>
+        <source>No event was recorded.</source>
+        <translation>No se registró ningún evento.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Evento</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Fase</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Duración</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Of nominal</source>
+        <translation>Del nominal</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <translation>continúa</translation>
+    </message>
+    <message>
+        <source>Further events, not listed: %1.</source>
+        <translation>Otros eventos no incluidos: %1.</translation>
+    </message>
+    <message>
+        <source>Worst moments</source>
+        <translation>Peores momentos</translation>
+    </message>
+    <message>
+        <source>Transient</source>
+        <translation>Transitorio</translation>
+    </message>
+    <message>
+        <source>Instrument and settings</source>
+        <translation>Equipo y ajustes</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Modelo</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Número de serie</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Software</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Firmware</translation>
+    </message>
+    <message>
+        <source>Wiring</source>
+        <translation>Conexión</translation>
+    </message>
+    <message>
+        <source>Nominal voltage</source>
+        <translation>Tensión nominal</translation>
+    </message>
+    <message>
+        <source>Nominal frequency</source>
+        <translation>Frecuencia nominal</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Pinza</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Relación</translation>
+    </message>
+    <message>
+        <source>Limit set</source>
+        <translation>Juego de límites</translation>
+    </message>
+    <message>
+        <source>The limits are those of the set chosen for this report. A recording does not say which set was in use on the instrument.</source>
+        <translation>Los límites son los del juego elegido para este informe. El registro no indica qué juego usaba el equipo.</translation>
+    </message>
+    <message>
+        <source>Missing and not judged</source>
+        <translation>Faltante y no evaluado</translation>
+    </message>
+    <message>
+        <source>%1 could not be judged: %2.</source>
+        <translation>No se pudo evaluar %1: %2.</translation>
+    </message>
+    <message>
+        <source>%1, intervals without a value: %2.</source>
+        <translation>%1, intervalos sin valor: %2.</translation>
+    </message>
+    <message>
+        <source>Incomplete ten minutes: %1.</source>
+        <translation>Intervalos de diez minutos incompletos: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing.</source>
+        <translation>Nada.</translation>
+    </message>
+    <message>
+        <source>All times are UTC.</source>
+        <translation>Todas las horas son UTC.</translation>
+    </message>
+    <message>
+        <source>Mains signal %1 Hz</source>
+        <translation>Señal de red %1 Hz</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frecuencia</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Tensión</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Desbalance</translation>
+    </message>
+    <message>
+        <source>Unbalance, zero sequence</source>
+        <translation>Desequilibrio, secuencia cero</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Flicker</translation>
+    </message>
+    <message>
+        <source>Harmonic %1</source>
+        <translation>Armónica %1</translation>
+    </message>
+    <message>
+        <source>Rapid voltage change</source>
+        <translation>Variación rápida de tensión</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>Corr. de arranque</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>cumple</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>no cumple</translation>
+    </message>
+    <message>
+        <source>not judged</source>
+        <translation>no evaluado</translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation>sin límite</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than ten minutes</source>
+        <translation>intervalos de más de diez minutos</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than three seconds</source>
+        <translation>intervalos de más de tres segundos</translation>
+    </message>
+    <message>
+        <source>there is no complete value</source>
+        <translation>no hay ningún valor completo</translation>
+    </message>
+    <message>
+        <source>it was not recorded</source>
+        <translation>no se registró</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>Monitor</translation>
+    </message>
+    <message>
+        <source>Waveform capture</source>
+        <translation>Captura de forma de onda</translation>
+    </message>
+    <message>
+        <source>Saved page</source>
+        <translation>Página guardada</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>Registrador</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Power quality report</source>
+        <translation>Informe de calidad de la energía</translation>
+    </message>
+    <message>
+        <source>The supply does not comply with %1.</source>
+        <translation>El suministro no cumple %1.</translation>
+    </message>
+    <message>
+        <source>The supply complies with %1.</source>
+        <translation>El suministro cumple %1.</translation>
+    </message>
+    <message>
+        <source>There was no voltage: nothing can be judged.</source>
+        <translation>No había tensión: no se puede evaluar nada.</translation>
+    </message>
+    <message>
+        <source>The recording holds nothing that can be judged.</source>
+        <translation>El registro no contiene nada que se pueda evaluar.</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>completo</translation>
+    </message>
+    <message>
+        <source>cut short</source>
+        <translation>cortado</translation>
+    </message>
+    <message>
+        <source>damaged in the middle</source>
+        <translation>dañado en el medio</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>ilegible</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Qué</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Fin</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>%1 in a week</source>
+        <translation>%1 por semana</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Veredicto</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Magnitud</translation>
+    </message>
+    <message>
+        <source>Reached</source>
+        <translation>Alcanzado</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>Peor</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Cuándo</translation>
+    </message>
+    <message>
+        <source>Within</source>
+        <translation>Dentro</translation>
+    </message>
+    <message>
+        <source>Judged</source>
+        <translation>Evaluado</translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation>Equipo</translation>
+    </message>
+    <message>
+        <source>The recording is shorter than a week. The limits hold for weeks: the result is an indication.</source>
+        <translation>El registro dura menos de una semana. Los límites valen para semanas: el resultado es orientativo.</translation>
+    </message>
+    <message>
+        <source>Weeks judged, each by itself: %1. The table shows the worst.</source>
+        <translation>Semanas evaluadas por separado: %1. La tabla muestra la peor.</translation>
+    </message>
+    <message>
+        <source>The recording is not whole. What could be read was judged.</source>
+        <translation>El registro no está completo. Se evaluó lo que se pudo leer.</translation>
+    </message>
+    <message>
+        <source>Reached: so far go the values in the share of time that the limit asks for. Within: the share that keeps to it. Judged: the share of the recording that has values.</source>
+        <translation>Alcanzado: hasta ahí llegan los valores en la proporción de tiempo que pide el límite. Dentro: la proporción que lo cumple. Evaluado: la parte del registro que tiene valores.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with an interruption, not judged: %1.</source>
+        <translation>Intervalos de diez minutos con interrupción, no evaluados: %1.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with a dip or a swell, flagged and judged like the others: %1.</source>
+        <translation>Intervalos de diez minutos con hueco o sobretensión, marcados y evaluados como los demás: %1.</translation>
+    </message>
+    <message>
+        <source>Without them the result would be another one.</source>
+        <translation>Sin ellos el resultado sería otro.</translation>
+    </message>
+    <message>
+        <source>Without them the result is the same.</source>
+        <translation>Sin ellos el resultado es el mismo.</translation>
+    </message>
+    <message>
+        <source>The standard asks for the frequency in 99.5 % of a year; the limit set judges weeks.</source>
+        <translation>La norma exige la frecuencia en el 99,5 % de un año; el juego de límites evalúa semanas.</translation>
+    </message>
+    <message>
+        <source>Instrument, voltage and frequency: it compares a hundred times the deviation in V or Hz with the limit in percent, and one value inside is enough. Hence the other result.</source>
+        <translation>Equipo, tensión y frecuencia: compara cien veces la desviación en V o Hz con el límite en por ciento, y basta un valor dentro. De ahí el otro resultado.</translation>
+    </message>
+    <message>
+        <source>Instrument, harmonics: one value that is not below the limit fails, whatever the share. Hence the other result.</source>
+        <translation>Equipo, armónicas: basta un valor que no esté por debajo del límite para no cumplir, sea cual sea la proporción. De ahí el otro resultado.</translation>
+    </message>
+    <message>
+        <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
+        <translation>Equipo, desequilibrio y flicker: basta un valor por debajo del límite. De ahí el otro resultado.</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>

@@ -1820,6 +1820,417 @@ Bellekten dosya silin.</translation>
     </message>
 </context>
 <context>
+    <name>Report</name>
+    <message>
+        <source>Half-cycle values of the currents</source>
+        <translation>Akımların yarım periyot değerleri</translation>
+    </message>
+    <message>
+        <source>Half-cycle values of the voltages</source>
+        <translation>Gerilimlerin yarım periyot değerleri</translation>
+    </message>
+    <message>
+        <source>Waveform of the currents</source>
+        <translation>Akımların dalga şekli</translation>
+    </message>
+    <message>
+        <source>Waveform of the voltages</source>
+        <translation>Gerilimlerin dalga şekli</translation>
+    </message>
+    <message>
+        <source>Harmonics of the voltage and their limits</source>
+        <translation>Gerilim harmonikleri ve sınırları</translation>
+    </message>
+    <message>
+        <source>Voltage left and duration of dips, swells and interruptions</source>
+        <translation>Çukur, tepe ve kesintilerin kalan gerilimi ve süresi</translation>
+    </message>
+    <message>
+        <source>Interruption</source>
+        <translation>Kesinti</translation>
+    </message>
+    <message>
+        <source>Swell</source>
+        <translation>Tepe</translation>
+    </message>
+    <message>
+        <source>Dip</source>
+        <translation>Çukur</translation>
+    </message>
+    <message>
+        <source>Trends</source>
+        <translation>Eğilimler</translation>
+    </message>
+    <message>
+        <source>Lowest and highest value of each moment; limits are dashed.</source>
+        <translation>Her anın en düşük ve en yüksek değeri; sınırlar kesikli.</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>Harmonikler</translation>
+    </message>
+    <message>
+        <source>Reached in the share of time, percent of the fundamental</source>
+        <translation>Zaman oranında ulaşılan, temel bileşenin yüzdesi</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>Derece</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>Sınır</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Sonuç</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>Olaylar</translation>
+    </message>
+    <message>
+        <source>No event was recorded.</source>
+        <translation>Olay kaydedilmedi.</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>No.</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Olay</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>Faz</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>Başlangıç</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Süre</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Değer</translation>
+    </message>
+    <message>
+        <source>Of nominal</source>
+        <translation>Nominale göre</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <translation>sürüyor</translation>
+    </message>
+    <message>
+        <source>Further events, not listed: %1.</source>
+        <translation>Listelenmeyen diğer olaylar: %1.</translation>
+    </message>
+    <message>
+        <source>Worst moments</source>
+        <translation>En kötü anlar</translation>
+    </message>
+    <message>
+        <source>Transient</source>
+        <translation>Geçici olay</translation>
+    </message>
+    <message>
+        <source>Instrument and settings</source>
+        <translation>Cihaz ve ayarlar</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>Model</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>Seri numarası</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>Yazılım</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>Donanım yazılımı</translation>
+    </message>
+    <message>
+        <source>Wiring</source>
+        <translation>Bağlantı</translation>
+    </message>
+    <message>
+        <source>Nominal voltage</source>
+        <translation>Nominal gerilim</translation>
+    </message>
+    <message>
+        <source>Nominal frequency</source>
+        <translation>Nominal frekans</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>Pens</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>Oran</translation>
+    </message>
+    <message>
+        <source>Limit set</source>
+        <translation>Sınır seti</translation>
+    </message>
+    <message>
+        <source>The limits are those of the set chosen for this report. A recording does not say which set was in use on the instrument.</source>
+        <translation>Sınırlar bu rapor için seçilen setinkilerdir. Kayıt, cihazda hangi setin kullanıldığını söylemez.</translation>
+    </message>
+    <message>
+        <source>Missing and not judged</source>
+        <translation>Eksik ve değerlendirilmeyen</translation>
+    </message>
+    <message>
+        <source>%1 could not be judged: %2.</source>
+        <translation>%1 değerlendirilemedi: %2.</translation>
+    </message>
+    <message>
+        <source>%1, intervals without a value: %2.</source>
+        <translation>%1, değersiz aralıklar: %2.</translation>
+    </message>
+    <message>
+        <source>Incomplete ten minutes: %1.</source>
+        <translation>Eksik on dakikalık aralıklar: %1.</translation>
+    </message>
+    <message>
+        <source>Nothing.</source>
+        <translation>Yok.</translation>
+    </message>
+    <message>
+        <source>All times are UTC.</source>
+        <translation>Tüm saatler UTC&apos;dir.</translation>
+    </message>
+    <message>
+        <source>Mains signal %1 Hz</source>
+        <translation>Şebeke sinyali %1 Hz</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>Frekans</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>Gerilim</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>Dengesizlik</translation>
+    </message>
+    <message>
+        <source>Unbalance, zero sequence</source>
+        <translation>Dengesizlik, sıfır bileşen</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>Kırpışma</translation>
+    </message>
+    <message>
+        <source>Harmonic %1</source>
+        <translation>Harmonik %1</translation>
+    </message>
+    <message>
+        <source>Rapid voltage change</source>
+        <translation>Hızlı gerilim değişimi</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>Kalkış akımı</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>geçti</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>kaldı</translation>
+    </message>
+    <message>
+        <source>not judged</source>
+        <translation>yok</translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation>sınır yok</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than ten minutes</source>
+        <translation>aralıklar on dakikadan uzun</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than three seconds</source>
+        <translation>aralıklar üç saniyeden uzun</translation>
+    </message>
+    <message>
+        <source>there is no complete value</source>
+        <translation>tam değer yok</translation>
+    </message>
+    <message>
+        <source>it was not recorded</source>
+        <translation>kaydedilmedi</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>Monitör</translation>
+    </message>
+    <message>
+        <source>Waveform capture</source>
+        <translation>Dalga şekli kaydı</translation>
+    </message>
+    <message>
+        <source>Saved page</source>
+        <translation>Kayıtlı sayfa</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>Kaydedici</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Kayıt</translation>
+    </message>
+    <message>
+        <source>Power quality report</source>
+        <translation>Güç kalitesi raporu</translation>
+    </message>
+    <message>
+        <source>The supply does not comply with %1.</source>
+        <translation>Besleme %1 ile uyumlu değil.</translation>
+    </message>
+    <message>
+        <source>The supply complies with %1.</source>
+        <translation>Besleme %1 ile uyumlu.</translation>
+    </message>
+    <message>
+        <source>There was no voltage: nothing can be judged.</source>
+        <translation>Gerilim yoktu: değerlendirilecek bir şey yok.</translation>
+    </message>
+    <message>
+        <source>The recording holds nothing that can be judged.</source>
+        <translation>Kayıtta değerlendirilebilecek bir şey yok.</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>tam</translation>
+    </message>
+    <message>
+        <source>cut short</source>
+        <translation>kesilmiş</translation>
+    </message>
+    <message>
+        <source>damaged in the middle</source>
+        <translation>ortası hasarlı</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>okunamıyor</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Ne</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>Bitiş</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Durum</translation>
+    </message>
+    <message>
+        <source>%1 in a week</source>
+        <translation>haftada %1</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Karar</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Büyüklük</translation>
+    </message>
+    <message>
+        <source>Reached</source>
+        <translation>Ulaşılan</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>En kötü</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Ne zaman</translation>
+    </message>
+    <message>
+        <source>Within</source>
+        <translation>İçinde</translation>
+    </message>
+    <message>
+        <source>Judged</source>
+        <translation>Değerl.</translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation>Cihaz</translation>
+    </message>
+    <message>
+        <source>The recording is shorter than a week. The limits hold for weeks: the result is an indication.</source>
+        <translation>Kayıt bir haftadan kısa. Sınırlar haftalar içindir: sonuç yalnızca göstergedir.</translation>
+    </message>
+    <message>
+        <source>Weeks judged, each by itself: %1. The table shows the worst.</source>
+        <translation>Ayrı ayrı değerlendirilen haftalar: %1. Tablo en kötüsünü gösterir.</translation>
+    </message>
+    <message>
+        <source>The recording is not whole. What could be read was judged.</source>
+        <translation>Kayıt tam değil. Okunabilen kısım değerlendirildi.</translation>
+    </message>
+    <message>
+        <source>Reached: so far go the values in the share of time that the limit asks for. Within: the share that keeps to it. Judged: the share of the recording that has values.</source>
+        <translation>Ulaşılan: sınırın istediği zaman oranında değerlerin vardığı yer. İçinde: sınıra uyan oran. Değerl.: kaydın değeri olan bölümü.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with an interruption, not judged: %1.</source>
+        <translation>Kesinti içeren on dakikalık aralıklar, değerlendirilmedi: %1.</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with a dip or a swell, flagged and judged like the others: %1.</source>
+        <translation>Çukur veya tepe içeren on dakikalık aralıklar, işaretlendi ve diğerleri gibi değerlendirildi: %1.</translation>
+    </message>
+    <message>
+        <source>Without them the result would be another one.</source>
+        <translation>Onlarsız sonuç farklı olurdu.</translation>
+    </message>
+    <message>
+        <source>Without them the result is the same.</source>
+        <translation>Onlarsız sonuç aynıdır.</translation>
+    </message>
+    <message>
+        <source>The standard asks for the frequency in 99.5 % of a year; the limit set judges weeks.</source>
+        <translation>Standart frekansı yılın % 99,5&apos;i için ister; sınır seti haftaları değerlendirir.</translation>
+    </message>
+    <message>
+        <source>Instrument, voltage and frequency: it compares a hundred times the deviation in V or Hz with the limit in percent, and one value inside is enough. Hence the other result.</source>
+        <translation>Cihaz, gerilim ve frekans: V veya Hz sapmasının yüz katını yüzde sınırıyla karşılaştırır ve içeride tek değer yeterlidir. Farklı sonuç bundandır.</translation>
+    </message>
+    <message>
+        <source>Instrument, harmonics: one value that is not below the limit fails, whatever the share. Hence the other result.</source>
+        <translation>Cihaz, harmonikler: oran ne olursa olsun sınırın altında olmayan tek değer yeterlidir. Farklı sonuç bundandır.</translation>
+    </message>
+    <message>
+        <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
+        <translation>Cihaz, dengesizlik ve fliker: sınırın altında tek değer yeterlidir. Farklı sonuç bundandır.</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>

@@ -1820,6 +1820,417 @@ Delete files in Memory.</source>
     </message>
 </context>
 <context>
+    <name>Report</name>
+    <message>
+        <source>Half-cycle values of the currents</source>
+        <translation>电流半周波值</translation>
+    </message>
+    <message>
+        <source>Half-cycle values of the voltages</source>
+        <translation>电压半周波值</translation>
+    </message>
+    <message>
+        <source>Waveform of the currents</source>
+        <translation>电流波形</translation>
+    </message>
+    <message>
+        <source>Waveform of the voltages</source>
+        <translation>电压波形</translation>
+    </message>
+    <message>
+        <source>Harmonics of the voltage and their limits</source>
+        <translation>电压谐波及其限值</translation>
+    </message>
+    <message>
+        <source>Voltage left and duration of dips, swells and interruptions</source>
+        <translation>暂降、暂升和中断的残余电压与持续时间</translation>
+    </message>
+    <message>
+        <source>Interruption</source>
+        <translation>中断</translation>
+    </message>
+    <message>
+        <source>Swell</source>
+        <translation>暂升</translation>
+    </message>
+    <message>
+        <source>Dip</source>
+        <translation>暂降</translation>
+    </message>
+    <message>
+        <source>Trends</source>
+        <translation>趋势</translation>
+    </message>
+    <message>
+        <source>Lowest and highest value of each moment; limits are dashed.</source>
+        <translation>各时刻的最低值和最高值；限值为虚线。</translation>
+    </message>
+    <message>
+        <source>Harmonics</source>
+        <translation>谐波</translation>
+    </message>
+    <message>
+        <source>Reached in the share of time, percent of the fundamental</source>
+        <translation>规定时间占比内达到的值，占基波百分比</translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation>次数</translation>
+    </message>
+    <message>
+        <source>Limit</source>
+        <translation>限值</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>结果</translation>
+    </message>
+    <message>
+        <source>Events</source>
+        <translation>事件</translation>
+    </message>
+    <message>
+        <source>No event was recorded.</source>
+        <translation>没有记录到事件。</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>事件</translation>
+    </message>
+    <message>
+        <source>Phase</source>
+        <translation>相</translation>
+    </message>
+    <message>
+        <source>Begin</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>持续时间</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Of nominal</source>
+        <translation>占标称值</translation>
+    </message>
+    <message>
+        <source>goes on</source>
+        <translation>持续中</translation>
+    </message>
+    <message>
+        <source>Further events, not listed: %1.</source>
+        <translation>其余未列出的事件：%1。</translation>
+    </message>
+    <message>
+        <source>Worst moments</source>
+        <translation>最差时刻</translation>
+    </message>
+    <message>
+        <source>Transient</source>
+        <translation>瞬变</translation>
+    </message>
+    <message>
+        <source>Instrument and settings</source>
+        <translation>仪器与设置</translation>
+    </message>
+    <message>
+        <source>Model</source>
+        <translation>型号</translation>
+    </message>
+    <message>
+        <source>Serial number</source>
+        <translation>序列号</translation>
+    </message>
+    <message>
+        <source>Software</source>
+        <translation>软件</translation>
+    </message>
+    <message>
+        <source>Firmware</source>
+        <translation>固件</translation>
+    </message>
+    <message>
+        <source>Wiring</source>
+        <translation>接线</translation>
+    </message>
+    <message>
+        <source>Nominal voltage</source>
+        <translation>标称电压</translation>
+    </message>
+    <message>
+        <source>Nominal frequency</source>
+        <translation>标称频率</translation>
+    </message>
+    <message>
+        <source>Clamp</source>
+        <translation>电流钳</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation>变比</translation>
+    </message>
+    <message>
+        <source>Limit set</source>
+        <translation>限值组</translation>
+    </message>
+    <message>
+        <source>The limits are those of the set chosen for this report. A recording does not say which set was in use on the instrument.</source>
+        <translation>限值取自为本报告选择的限值组。记录中不含仪器当时使用的限值组。</translation>
+    </message>
+    <message>
+        <source>Missing and not judged</source>
+        <translation>缺失和未评定</translation>
+    </message>
+    <message>
+        <source>%1 could not be judged: %2.</source>
+        <translation>无法评定 %1：%2。</translation>
+    </message>
+    <message>
+        <source>%1, intervals without a value: %2.</source>
+        <translation>%1，无数值的时段：%2。</translation>
+    </message>
+    <message>
+        <source>Incomplete ten minutes: %1.</source>
+        <translation>不完整的十分钟时段：%1。</translation>
+    </message>
+    <message>
+        <source>Nothing.</source>
+        <translation>无。</translation>
+    </message>
+    <message>
+        <source>All times are UTC.</source>
+        <translation>所有时间均为 UTC。</translation>
+    </message>
+    <message>
+        <source>Mains signal %1 Hz</source>
+        <translation>电网信号 %1 Hz</translation>
+    </message>
+    <message>
+        <source>Frequency</source>
+        <translation>频率</translation>
+    </message>
+    <message>
+        <source>Voltage</source>
+        <translation>电压</translation>
+    </message>
+    <message>
+        <source>Unbalance</source>
+        <translation>不平衡</translation>
+    </message>
+    <message>
+        <source>Unbalance, zero sequence</source>
+        <translation>零序不平衡</translation>
+    </message>
+    <message>
+        <source>Flicker</source>
+        <translation>闪变</translation>
+    </message>
+    <message>
+        <source>Harmonic %1</source>
+        <translation>%1 次谐波</translation>
+    </message>
+    <message>
+        <source>Rapid voltage change</source>
+        <translation>快速电压变化</translation>
+    </message>
+    <message>
+        <source>Inrush</source>
+        <translation>浪涌电流</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>合格</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>不合格</translation>
+    </message>
+    <message>
+        <source>not judged</source>
+        <translation>未评定</translation>
+    </message>
+    <message>
+        <source>no limit</source>
+        <translation>无限值</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than ten minutes</source>
+        <translation>时段长于十分钟</translation>
+    </message>
+    <message>
+        <source>its intervals are longer than three seconds</source>
+        <translation>时段长于三秒</translation>
+    </message>
+    <message>
+        <source>there is no complete value</source>
+        <translation>没有完整的数值</translation>
+    </message>
+    <message>
+        <source>it was not recorded</source>
+        <translation>未记录</translation>
+    </message>
+    <message>
+        <source>Monitor</source>
+        <translation>监测</translation>
+    </message>
+    <message>
+        <source>Waveform capture</source>
+        <translation>波形采集</translation>
+    </message>
+    <message>
+        <source>Saved page</source>
+        <translation>已存页面</translation>
+    </message>
+    <message>
+        <source>Logger</source>
+        <translation>记录仪</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>记录</translation>
+    </message>
+    <message>
+        <source>Power quality report</source>
+        <translation>电能质量报告</translation>
+    </message>
+    <message>
+        <source>The supply does not comply with %1.</source>
+        <translation>供电不符合 %1。</translation>
+    </message>
+    <message>
+        <source>The supply complies with %1.</source>
+        <translation>供电符合 %1。</translation>
+    </message>
+    <message>
+        <source>There was no voltage: nothing can be judged.</source>
+        <translation>没有电压：无法评定。</translation>
+    </message>
+    <message>
+        <source>The recording holds nothing that can be judged.</source>
+        <translation>记录中没有可评定的内容。</translation>
+    </message>
+    <message>
+        <source>whole</source>
+        <translation>完整</translation>
+    </message>
+    <message>
+        <source>cut short</source>
+        <translation>被截断</translation>
+    </message>
+    <message>
+        <source>damaged in the middle</source>
+        <translation>中部损坏</translation>
+    </message>
+    <message>
+        <source>not readable</source>
+        <translation>不可读</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>内容</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>结束</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>状态</translation>
+    </message>
+    <message>
+        <source>%1 in a week</source>
+        <translation>每周 %1</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>评定</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>参量</translation>
+    </message>
+    <message>
+        <source>Reached</source>
+        <translation>达到值</translation>
+    </message>
+    <message>
+        <source>Worst</source>
+        <translation>最差</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>时间</translation>
+    </message>
+    <message>
+        <source>Within</source>
+        <translation>限内</translation>
+    </message>
+    <message>
+        <source>Judged</source>
+        <translation>已评定</translation>
+    </message>
+    <message>
+        <source>Instrument</source>
+        <translation>仪器</translation>
+    </message>
+    <message>
+        <source>The recording is shorter than a week. The limits hold for weeks: the result is an indication.</source>
+        <translation>记录不足一周。限值按周规定：结果仅供参考。</translation>
+    </message>
+    <message>
+        <source>Weeks judged, each by itself: %1. The table shows the worst.</source>
+        <translation>分别评定的周数：%1。表中为最差的一周。</translation>
+    </message>
+    <message>
+        <source>The recording is not whole. What could be read was judged.</source>
+        <translation>记录不完整。仅评定了可读取的部分。</translation>
+    </message>
+    <message>
+        <source>Reached: so far go the values in the share of time that the limit asks for. Within: the share that keeps to it. Judged: the share of the recording that has values.</source>
+        <translation>达到值：在限值所要求的时间占比内数值所达到的程度。限内：符合限值的占比。已评定：有数值的记录占比。</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with an interruption, not judged: %1.</source>
+        <translation>含中断的十分钟时段，未评定：%1。</translation>
+    </message>
+    <message>
+        <source>Intervals of ten minutes with a dip or a swell, flagged and judged like the others: %1.</source>
+        <translation>含暂降或暂升的十分钟时段，已标记并与其他时段同样评定：%1。</translation>
+    </message>
+    <message>
+        <source>Without them the result would be another one.</source>
+        <translation>剔除后结果会不同。</translation>
+    </message>
+    <message>
+        <source>Without them the result is the same.</source>
+        <translation>剔除后结果不变。</translation>
+    </message>
+    <message>
+        <source>The standard asks for the frequency in 99.5 % of a year; the limit set judges weeks.</source>
+        <translation>标准要求频率在一年的 99.5 % 内合格；限值组按周评定。</translation>
+    </message>
+    <message>
+        <source>Instrument, voltage and frequency: it compares a hundred times the deviation in V or Hz with the limit in percent, and one value inside is enough. Hence the other result.</source>
+        <translation>仪器，电压和频率：将偏差（V 或 Hz）的一百倍与百分比限值比较，且有一个值在限内即可，因此结果不同。</translation>
+    </message>
+    <message>
+        <source>Instrument, harmonics: one value that is not below the limit fails, whatever the share. Hence the other result.</source>
+        <translation>仪器，谐波：只要有一个值不低于限值即判不合格，与占比无关，因此结果不同。</translation>
+    </message>
+    <message>
+        <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
+        <translation>仪器，不平衡和闪变：有一个值低于限值即可，因此结果不同。</translation>
+    </message>
+</context>
+<context>
     <name>RmsTrendPage</name>
     <message>
         <source>Events</source>

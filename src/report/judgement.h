@@ -5,6 +5,8 @@
 #include "report/valuejudge.h"
 #include "task/functions/monitorsetup.h"
 
+#include <QSet>
+
 #include <optional>
 #include <vector>
 
@@ -37,7 +39,8 @@ struct QuantityTrend
 enum class NotJudgedBecause : quint8 {
     NotRecorded,
     IntervalTooLong, // ten minutes cannot be made of longer intervals
-    NotTheInterval // mains signals are judged by means of three seconds
+    NotTheInterval, // mains signals are judged by means of three seconds
+    NoValue // not one complete value, or none without an interruption
 };
 
 struct NotJudged
@@ -66,6 +69,7 @@ struct Judgement
     QVector<InstrumentResult> instrument; // of monitor files
     QVector<QuantityTrend> trends;
     QVector<Moment> moments;
+    QSet<int> listed; // numbers of the events that a table names: not all of very many
     QVector<NotJudged> notJudged;
     qint64 incompleteTenMinutes = 0;
 

@@ -7,6 +7,7 @@ namespace {
 
 constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
 constexpr int kMoments = 12; // with a picture
+constexpr int kListed = 200; // events in a table
 constexpr int kMostSamples = 65536; // of one picture, all inputs together
 constexpr int kMostCurve = 4096; // half cycles of one curve
 constexpr int kMostTables = 1000;
@@ -297,27 +298,36 @@ void RecordJudge::countEvents()
 
 void RecordJudge::listNotJudged()
 {
+    const MonitorSetup &setup = m_judgement.setup;
     for (const Quantity quantity : kAll) {
         const QuantityKey key { quantity, -1, qint16(quantity == Quantity::Harmonic ? 2 : 0) };
-        const MonitorSetup &setup = m_judgement.setup;
         const Bounds bounds = boundsOf(key, setup.limits, setup.nominalVolt, setup.nominalFrequency);
         if (!bounds.hasPartial() && !bounds.hasWhole())
             continue;
-        const auto lane = [this, quantity] {
-            for (const auto &feed : m_feeds) {
-                for (std::size_t i = 0; feed && i < feed->lanes.size(); ++i) {
-                    if (feed->lanes[i].key.quantity == quantity)
-                        return &feed->lanes[i];
-                }
-            }
-            return static_cast<Lane *>(nullptr);
-        }();
+        const Lane *lane = laneOf(quantity);
+        const auto isJudged
+            = [quantity](const QuantityVerdict &v) { return v.key.quantity == quantity && v.judged > 0; };
+        const auto &verdicts = m_judgement.verdicts;
         if (!lane)
             m_judgement.notJudged.append({ quantity, NotJudgedBecause::NotRecorded });
         else if (!lane->isJudged)
             m_judgement.notJudged.append(
                 { quantity, lane->tenMinutes ? NotJudgedBecause::IntervalTooLong : NotJudgedBecause::NotTheInterval });
+        else if (std::none_of(verdicts.begin(), verdicts.end(), isJudged))
+            m_judgement.notJudged.append({ quantity, NotJudgedBecause::NoValue });
     }
+}
+
+/// A value of that quantity in a row; null: no table has one.
+const RecordJudge::Lane *RecordJudge::laneOf(Quantity quantity) const
+{
+    for (const auto &feed : m_feeds) {
+        for (std::size_t i = 0; feed && i < feed->lanes.size(); ++i) {
+            if (feed->lanes[i].key.quantity == quantity)
+                return &feed->lanes[i];
+        }
+    }
+    return nullptr;
 }
 
 namespace {
@@ -356,8 +366,12 @@ void RecordJudge::chooseMoments()
                       [nominal](const RecordedEvent &one, const RecordedEvent &other) {
                           return weightOf(one.item, nominal) > weightOf(other.item, nominal);
                       });
-    for (int i = 0; i < count; ++i)
+    for (int i = 0; i < count; ++i) {
         m_judgement.moments.append({ chosen.at(i), {}, {} });
+        m_judgement.listed.insert(chosen.at(i).number);
+    }
+    for (int i = 0; i < m_judgement.overview.events.size() && m_judgement.listed.size() < kListed; ++i)
+        m_judgement.listed.insert(m_judgement.overview.events.at(i).number);
 }
 
 bool RecordJudge::event(const RecordedEvent &event)

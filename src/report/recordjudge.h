@@ -36,6 +36,7 @@ private:
     void chooseMoments();
     void countEvents();
     void listNotJudged();
+    const Lane *laneOf(Quantity quantity) const;
 
     Judgement m_judgement;
     std::vector<std::unique_ptr<Feed>> m_feeds; // by the table's number; null: nothing is judged of it

@@ -1,6 +1,7 @@
 #include "files/commandline.h"
 #include "files/exports.h"
 #include "files/infotext.h"
+#include "files/reportcommand.h"
 #include "files/terminal.h"
 
 #include <cstdio>
@@ -120,6 +121,7 @@ const std::vector<Command> &commands()
         { "verify", "PATH...", "whether files are whole", 1, std::numeric_limits<int>::max(), {}, runVerify },
         { "export", "PATH FORMAT [--force]", "hand a recording on in another format", 1, 1, exportOptions(),
           runExport },
+        reportCommand(),
     };
     return rows;
 }

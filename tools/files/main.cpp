@@ -1,5 +1,6 @@
 // quvera-files: reads what the instrument recorded, whole, cut or broken, and hands it on.
 #include "files/commandline.h"
+#include "files/reportcommand.h"
 #include "files/terminal.h"
 
 #include <QCoreApplication>
@@ -26,7 +27,8 @@ QString helpText()
         "Examples:\n"
         "  quvera-files info \"/media/usb/240118_161500 Record 1\"\n"
         "  quvera-files verify /media/usb/*\n"
-        "  quvera-files export \"/media/usb/240118_161500 Record 1\" --csv week\n");
+        "  quvera-files export \"/media/usb/240118_161500 Record 1\" --csv week\n"
+        "  quvera-files report \"/media/usb/240118_161500 Monitor-1\" --pdf week.pdf --language GE\n");
     return text;
 }
 
@@ -66,7 +68,7 @@ int run(const QStringList &words)
 
 int main(int argc, char *argv[])
 {
-    QCoreApplication application(argc, argv);
+    const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
     Terminal::catchSignals();
     return run(QCoreApplication::arguments().mid(1));

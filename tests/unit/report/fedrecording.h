@@ -1,6 +1,6 @@
 #pragma once
 
-#include "record/tables/recordsink.h"
+#include "report/recordjudge.h"
 
 #include <functional>
 #include <vector>
@@ -54,6 +54,8 @@ public:
         events.append(event);
     }
 
+    void wave(const RecordedWaveform &wave, const QVector<qint16> &samples) { m_waves.push_back({ wave, samples }); }
+
     bool feed(RecordSink &sink) const
     {
         bool good = sink.begin(facts);
@@ -68,6 +70,10 @@ public:
         }
         for (const RecordedEvent &event : events)
             good = good && sink.event(event);
+        for (const auto &wave : m_waves)
+            good = good && sink.waveformBegin(wave.first)
+                && sink.waveformSamples(wave.second.constData(), wave.second.size() / wave.first.channels.size())
+                && sink.waveformEnd();
         return good && sink.end(facts);
     }
 
@@ -88,4 +94,17 @@ private:
     };
     QVector<RecordTable> m_tables;
     std::vector<Row> m_rows;
+    std::vector<std::pair<RecordedWaveform, QVector<qint16>>> m_waves;
 };
+
+/// What two passes over a recording find, by the limits of EN 50160.
+inline Judgement judged(const FedRecording &recording)
+{
+    MonitorLimits2 limits;
+    limits.initEN50160();
+    OverviewSink overview(double(limits.limit().interruptions.threshold));
+    recording.feed(overview);
+    RecordJudge judge(overview.overview(), limits);
+    recording.feed(judge);
+    return judge.judgement();
+}

@@ -1,5 +1,3 @@
-#include "report/recordjudge.h"
-#include "report/recordoverview.h"
 #include "unit/report/fedrecording.h"
 
 #include <QTest>
@@ -9,18 +7,6 @@ namespace {
 constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
 constexpr qint64 kStart = FedRecording::kStart;
 constexpr qint64 kStep = FedRecording::kTenMinutes;
-
-/// What two passes over a recording find.
-Judgement judged(const FedRecording &recording)
-{
-    MonitorLimits2 limits;
-    limits.initEN50160();
-    OverviewSink overview(double(limits.limit().interruptions.threshold));
-    recording.feed(overview);
-    RecordJudge judge(overview.overview(), limits);
-    recording.feed(judge);
-    return judge.judgement();
-}
 
 const QuantityKey kFrequency { Quantity::Frequency, -1, 0 };
 QuantityKey voltage(int phase)

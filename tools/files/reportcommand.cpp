@@ -1,0 +1,115 @@
+#include "files/reportcommand.h"
+
+#include "files/terminal.h"
+#include "record/exports/output.h"
+#include "report/htmlreport.h"
+#include "report/judgerecord.h"
+#include "report/pdfreport.h"
+#include "report/reportlanguage.h"
+
+#include <QFile>
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <cstring>
+
+namespace {
+
+const QString kHtml = QStringLiteral("--html");
+const QString kPdf = QStringLiteral("--pdf");
+
+int misuse(const QString &reason)
+{
+    Terminal::complain(reason);
+    return ExitMisuse;
+}
+
+bool write(Output *output, const ReportContent &content, bool isPdf)
+{
+    if (!output->begin())
+        return false;
+    QFile file(output->path());
+    if (!file.open(QIODevice::WriteOnly))
+        return output->fail({}, file.errorString());
+    const QByteArray html = isPdf ? QByteArray() : htmlReport(content);
+    const bool good = isPdf ? pdfReport(content, &file) : file.write(html) == html.size();
+    if (!good || !file.flush() || file.error() != QFileDevice::NoError)
+        return output->fail({}, file.errorString());
+    file.close();
+    return output->finish();
+}
+
+int runReport(const CommandLine &line)
+{
+    qunsetenv("QUVERA_ROOT"); // paths are those of this system
+    const bool isPdf = line.has(kPdf);
+    if (isPdf == line.has(kHtml))
+        return misuse(QStringLiteral("report: either --html or --pdf"));
+    MonitorLimits2 limits;
+    const QString limitsName = line.value(QStringLiteral("--limits"));
+    if (!findReportLimits(limitsName, &limits))
+        return misuse(QStringLiteral("report: \"%1\" is no limit set; EN50160, GOST32144 or a set's file")
+                          .arg(Terminal::printable(limitsName)));
+    ReportLanguage language;
+    if (line.has(QStringLiteral("--language"))) {
+        const QString folder = QCoreApplication::applicationDirPath() + QStringLiteral("/language");
+        if (!language.choose(line.value(QStringLiteral("--language")), folder))
+            return misuse(QStringLiteral("report: languages are %1").arg(ReportLanguage::keys()));
+        if (!language.isThere())
+            Terminal::complain(QStringLiteral("%1: no file of this language, the report is in English")
+                                   .arg(Terminal::printable(folder)));
+    }
+
+    RecordSource source;
+    const QString path = line.paths.constFirst();
+    Progress progress(path);
+    const auto interrupted = [] {
+        Terminal::complain(QStringLiteral("interrupted"));
+        return int(ExitNoOutput);
+    };
+    if (!source.open(path, progress.callback()))
+        return interrupted();
+    Terminal::complainOf(source);
+    if (source.state() == RecordState::Unreadable)
+        return ExitUnreadable;
+    const auto judgement = judgeRecord(source, limits, progress.callback());
+    if (!judgement)
+        return interrupted();
+    const ReportSource about = reportSourceOf(source);
+    const Report text(language.word());
+    Output output(Output::File, { line.value(isPdf ? kPdf : kHtml), path, line.has(QStringLiteral("--force")) });
+    if (!write(&output, ReportWriter(*judgement, about, text).content(), isPdf)) {
+        Terminal::complain(Terminal::printable(output.error()));
+        return ExitNoOutput;
+    }
+    return int(source.state());
+}
+
+} // namespace
+
+std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv)
+{
+    const bool paints
+        = std::any_of(argv, argv + argc, [](const char *word) { return std::strncmp(word, "--pdf", 5) == 0; });
+    if (!paints)
+        return std::make_unique<QCoreApplication>(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // no screen is needed, and none may be there
+    // What the toolkit misses of a desktop is nothing to the user.
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
+Command reportCommand()
+{
+    return { "report",
+             "PATH (--html FILE | --pdf FILE)",
+             "what the recording says about the supply, by the limits of a standard",
+             1,
+             1,
+             { { kHtml, "FILE", "one self-contained page" },
+               { kPdf, "FILE", "pages of A4" },
+               { "--limits", "NAME", "EN50160 (without this), GOST32144 or the file of a limit set" },
+               { "--language", "KEY", ReportLanguage::keys() },
+               { "--force", "", "replace an output that exists" } },
+             runReport };
+}
