@@ -14,10 +14,12 @@ void LiveData::empty(float nominalFrequency)
     m_live.harmonics.reference = kFundamental;
     m_events.clear();
     m_transients.clear();
+    m_storageRefuses = false;
 }
 
 void LiveData::finish()
 {
+    m_storageRefuses = false;
     m_events.finish();
     m_transients.clear();
 }

@@ -49,6 +49,10 @@ public:
     TransientList &transients() { return m_transients; }
     const TransientList &transients() const { return m_transients; }
 
+    /// Whether something is being recorded that the storage refuses; of this moment also while held.
+    bool storageRefuses() const { return m_storageRefuses; }
+    void setStorageRefuses(bool refuses) { m_storageRefuses = refuses; }
+
     /// A measurement begins: all records and lists become empty, nothing is held. \a nominalFrequency in Hz stands for
     /// the frequency until the first one is measured.
     void empty(float nominalFrequency);
@@ -70,4 +74,5 @@ private:
     std::optional<DisplayRecords> m_held;
     EventList m_events;
     TransientList m_transients;
+    bool m_storageRefuses = false;
 };

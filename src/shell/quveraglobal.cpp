@@ -10,7 +10,6 @@
 #include "settings/userconfig.h"
 #include "board/backlight.h"
 #include "task/recordopening.h"
-#include "task/unitask.h"
 #include "device/deviceinit.h"
 #include "board/screenshot.h"
 #include "board/wifi.h"
@@ -79,7 +78,7 @@ void appInit()
     m_remote_ctrl = new IRemote(nullptr);
     systemTray = new SystemTray;
     systemTray->setWirelessQuery(&Wifi::isWifiConnected);
-    systemTray->setStorageQuery([] { return g_unitask && g_unitask->storageRefuses(); });
+    systemTray->setStorageQuery([data] { return data->storageRefuses(); });
     udisk = new uDiskStorage;
     mendStorage();
 }

@@ -197,11 +197,6 @@ void UniTask::end(TaskFunction *function, Keep keep)
     function->stop(keep);
 }
 
-bool UniTask::storageRefuses() const
-{
-    return std::any_of(m_running.begin(), m_running.end(), [](const TaskFunction *f) { return f->refused(); });
-}
-
 template <typename Hear> void UniTask::tell(const Hear &hear)
 {
     const std::vector<TaskFunction *> now = m_running;
@@ -344,6 +339,8 @@ void UniTask::feedDisplayRecords(float signedFrequency)
 void UniTask::updatedata()
 {
     const Call call(this);
+    m_data.setStorageRefuses(
+        std::any_of(m_running.begin(), m_running.end(), [](const TaskFunction *f) { return f->refused(); }));
     if (!isTaskRunning())
         return;
     copyScope();

@@ -69,8 +69,6 @@ public:
     void begin(TaskFunction *function);
     /// Ends a function; harmless for one that does not run.
     void end(TaskFunction *function, Keep keep);
-    /// Whether what one of the functions is to store is refused.
-    bool storageRefuses() const;
     /// The events so far go to the files that are open.
     void storeEvents(EventChoice choice);
 

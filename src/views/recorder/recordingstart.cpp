@@ -1,6 +1,7 @@
 #include "views/recorder/recordingstart.h"
 #include "ui_recordingstart.h"
 
+#include "model/livedata.h"
 #include "platform/clock.h"
 #include "settings/recordinfo.h"
 #include "storage/fileinfo.h"
@@ -32,8 +33,8 @@ const struct
 
 } // namespace
 
-RecordingStart::RecordingStart(const RecordingKind &kind, QWidget *parent)
-    : LivePage(UI_LOGGER, parent), m_kind(kind), m_ui(new Ui::RecordingStart)
+RecordingStart::RecordingStart(const LiveData &data, const RecordingKind &kind, QWidget *parent)
+    : LivePage(UI_LOGGER, parent), m_data(data), m_kind(kind), m_ui(new Ui::RecordingStart)
 {
     static const KeyRow<RecordingStart> keys[] = {
         { Qt::Key_F5, nullptr, &RecordingStart::stopOrBack },
@@ -127,11 +128,11 @@ void RecordingStart::showRoom()
         QT_TR_NOOP("Logger has ended.\nIts data stands in Memory."),
     };
     const float room = MassStorage::storageFreeSize(FileInfo::storagePath());
-    const int hours = m_kind.hoursOf(room, state() == Running);
+    const bool full = m_data.storageRefuses() || double(room) < RecordInfo::kRoomKept;
+    const int hours = m_kind.hoursOf(room, state() == Running && !full);
     const qint64 rest = m_end - qMax(m_begin, Clock::msecs());
     QLabel *label = m_rows[Memory].values[0];
     setText(label, QStringLiteral("%1, %2").arg(RecordingText::room(room), RecordingText::hours(hours).trimmed()));
-    const bool full = double(room) < RecordInfo::kRoomKept;
     setText(m_ui->text,
             full && state() == Running ? tr("The storage takes no more data.\nDelete files in Memory.")
                                        : tr(texts[state()]));

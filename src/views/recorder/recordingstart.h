@@ -7,6 +7,8 @@
 #include <memory>
 #include <vector>
 
+class LiveData;
+
 namespace Ui {
 class RecordingStart;
 }
@@ -37,8 +39,8 @@ signals:
     void restartRecord();
 
 protected:
-    /// \a kind outlives the page.
-    RecordingStart(const RecordingKind &kind, QWidget *parent);
+    /// \a data and \a kind outlive the page.
+    RecordingStart(const LiveData &data, const RecordingKind &kind, QWidget *parent);
 
     void showEvent(QShowEvent *event) override;
 
@@ -50,6 +52,7 @@ private:
     void showState();
     void showRoom();
 
+    const LiveData &m_data;
     const RecordingKind &m_kind;
     std::unique_ptr<Ui::RecordingStart> m_ui;
     std::vector<LabelGrid::Row> m_rows;
@@ -64,7 +67,9 @@ class RecordPqa2Start : public RecordingStart
     Q_OBJECT
 
 public:
-    explicit RecordPqa2Start(QWidget *parent = nullptr) : RecordingStart(RecordingKind::recorder(), parent) { }
+    explicit RecordPqa2Start(const LiveData &data, QWidget *parent = nullptr)
+        : RecordingStart(data, RecordingKind::recorder(), parent)
+    { }
 };
 
 /// The logger of text files under way.
@@ -73,5 +78,7 @@ class LoggerStarPage : public RecordingStart
     Q_OBJECT
 
 public:
-    explicit LoggerStarPage(QWidget *parent = nullptr) : RecordingStart(RecordingKind::logger(), parent) { }
+    explicit LoggerStarPage(const LiveData &data, QWidget *parent = nullptr)
+        : RecordingStart(data, RecordingKind::logger(), parent)
+    { }
 };

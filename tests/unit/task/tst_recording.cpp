@@ -1,4 +1,5 @@
 #include "recorderrun.h"
+#include "unit/storage/filelimit.h"
 #include "unit/threadtime.h"
 #include "unitaskcase.h"
 
@@ -31,6 +32,7 @@ private slots:
     void aRecordingThatNeverBeganLeavesNothing();
     void aPlanThatIsEndedIsNotTold();
     void whatWaitsIsStoredByTheRecordersOwnTimer();
+    void whatTheStorageRefusesIsKnownToThePages();
     void theRecordingGoesOnBehindAHold();
     void nothingIsRecordedBesideAnotherFunction();
     void eventsOfBeforeTheStartAreStoredWithoutAStall_data();
@@ -345,6 +347,27 @@ void TstRecording::aPlanThatIsEndedIsNotTold()
     QCOMPARE(storage(), QStringList(".running"));
     m_task->stopTask(); // as when somebody switches the instrument off
     QCOMPARE(storage(), QStringList());
+}
+
+void TstRecording::whatTheStorageRefusesIsKnownToThePages()
+{
+    start();
+    prepare(1);
+    m_task->updatedata();
+    QVERIFY(!liveData().storageRefuses());
+    {
+        const FileLimit full(0);
+        feed(10'000, 10'400);
+        QVERIFY(m_task->isRecording());
+        m_task->updatedata();
+        QVERIFY(liveData().storageRefuses());
+        m_task->pauseTask();
+        m_task->updatedata();
+        QVERIFY(liveData().storageRefuses());
+        m_task->stopTask();
+        RootFiles::waitForDisks();
+    }
+    QVERIFY(!liveData().storageRefuses());
 }
 
 void TstRecording::theRecordingGoesOnBehindAHold()

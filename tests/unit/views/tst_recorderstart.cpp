@@ -50,6 +50,7 @@ private slots:
     void leavesByTheFunctionKeysWhileItRuns();
     void roomIsRedWhereItDoesNotLast();
     void roomIsRedInTheLastHourOnceNothingIsStored();
+    void whatIsRefusedWithRoomLeftIsToldToo();
     void anotherLanguageReachesEveryText();
     void randomKeysNeverStoreAWrongChoice_data() { addFamilies(); }
     void randomKeysNeverStoreAWrongChoice();
@@ -295,6 +296,21 @@ void TstRecorderStart::roomIsRedInTheLastHourOnceNothingIsStored()
     QCOMPARE(full, QStringLiteral("The storage takes no more data.\nDelete files in Memory."));
     page->show();
     startOf(*page)->updateDisplay(nullptr); // room again
+    QCOMPARE(text(startOf(*page), "text"), kRunning);
+}
+
+void TstRecorderStart::whatIsRefusedWithRoomLeftIsToldToo()
+{
+    auto page = prepared(false);
+    page->stopWatchChanged(QStringLiteral("00:00:01"));
+    page->show();
+    QCOMPARE(text(startOf(*page), "text"), kRunning);
+    liveData().setStorageRefuses(true); // a card that takes no more, or a file that could not be begun
+    startOf(*page)->updateDisplay(nullptr);
+    QCOMPARE(text(startOf(*page), "text"), QStringLiteral("The storage takes no more data.\nDelete files in Memory."));
+    QCOMPARE(startOf(*page)->findChild<QLabel *>("memory")->palette().color(QPalette::WindowText), QColor(Qt::red));
+    liveData().setStorageRefuses(false);
+    startOf(*page)->updateDisplay(nullptr);
     QCOMPARE(text(startOf(*page), "text"), kRunning);
 }
 
