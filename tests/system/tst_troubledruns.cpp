@@ -1,0 +1,179 @@
+// What happens to a clock and to the processor while the whole instrument records: the run goes on, and all of its file
+// can be read.
+#include "instrument.h"
+
+#include "record/pqa2reader.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <cstring>
+
+using namespace SystemTest;
+
+namespace {
+
+constexpr int kWaitMs = 120000; // for what takes seconds on a quiet machine
+constexpr int kSpeed = 10;
+constexpr quint32 kLog = 0xA1000009, kEnd = 0xA1000019;
+
+struct Block
+{
+    quint32 type;
+    QByteArray payload;
+};
+
+/// \a whole: the chain of the file comes to a proper end.
+QList<Block> blocksOf(const QString &path, bool *whole)
+{
+    QList<Block> blocks;
+    QFile file(path);
+    *whole = false;
+    if (!file.open(QIODevice::ReadOnly))
+        return blocks;
+    Pqa2Reader reader(&file);
+    for (Pqa2Block block; reader.next(&block);)
+        blocks.append({ block.type, reader.payload(block) });
+    *whole = reader.state() == Pqa2Reader::Whole;
+    return blocks;
+}
+
+} // namespace
+
+class TstTroubledRuns : public QObject
+{
+    Q_OBJECT
+private slots:
+    void goesOnThroughClocksThatAreSetAndAMinuteOfSilence_data();
+    void goesOnThroughClocksThatAreSetAndAMinuteOfSilence();
+
+private:
+    QString file() const
+    {
+        const QDir storage(m_desk->path(QStringLiteral("/mnt/storage/")));
+        const QStringList runs = storage.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        return runs.isEmpty() ? QString() : storage.filePath(runs.first() + QLatin1Char('/') + m_name);
+    }
+    /// Times of the intervals, in ms since 1970, as they stand in the file now.
+    QList<qint64> intervals() const;
+    /// So many more intervals than there are now; false: they did not come.
+    bool waitForIntervals(int more) const
+    {
+        const int before = intervals().size();
+        return QTest::qWaitFor([this, before, more] { return intervals().size() >= before + more; }, kWaitMs);
+    }
+    bool tell(const QString &command) const
+    {
+        QProcess process;
+        process.start(QStringLiteral(QUVERA_BIN_DIR "/quvera-processor"),
+                      { QStringLiteral("--root"), m_desk->root(), QStringLiteral("--tell"), command });
+        return process.waitForFinished(kWaitMs) && process.exitCode() == 0;
+    }
+    void setClocks();
+    void beSilent();
+
+    std::unique_ptr<Instrument> m_desk;
+    QString m_name; // of the file
+    quint32 m_type = 0; // of the block of an interval
+};
+
+QList<qint64> TstTroubledRuns::intervals() const
+{
+    bool whole = false;
+    QList<qint64> times;
+    for (const Block &block : blocksOf(file(), &whole)) {
+        if (block.type != m_type)
+            continue;
+        // The recorder stores milliseconds in eight bytes, the monitor seconds in four.
+        qint64 time = 0;
+        const bool isSeconds = block.payload.size() == 8;
+        std::memcpy(&time, block.payload.constData(), isSeconds ? 4 : 8);
+        times << (isSeconds ? 1000 * time : time);
+    }
+    return times;
+}
+
+void TstTroubledRuns::goesOnThroughClocksThatAreSetAndAMinuteOfSilence_data()
+{
+    QTest::addColumn<QString>("start");
+    QTest::addColumn<QString>("end");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<quint32>("type");
+    QTest::newRow("recorder") << "Down Down Right Enter F2 F1 F4 Down Down Left Left Left F5"
+                              << "F5 F4" // Stop: Save
+                              << "Common.pqa2" << 0xA1000020u;
+    QTest::newRow("monitor") << "Monitor F5"
+                             << "Menu F4" // Quit
+                             << "Monitor.pqa2" << 0xA1010000u;
+}
+
+/// The processor's clock is set on and back; the times of the intervals follow it.
+void TstTroubledRuns::setClocks()
+{
+    constexpr qint64 kHourMs = 3600 * 1000, kNearMs = kHourMs / 4;
+    for (const qint64 hours : { 1, -1 }) {
+        const qint64 before = intervals().last();
+        QVERIFY(tell(QStringLiteral("clock %1%2s").arg(QLatin1String(hours > 0 ? "+" : "")).arg(hours * 3600)));
+        QVERIFY(waitForIntervals(3));
+        const qint64 moved = intervals().last() - before - hours * kHourMs;
+        QVERIFY2(qAbs(moved) < kNearMs, qPrintable(QString::number(moved)));
+    }
+    const QDateTime now = QDateTime::fromMSecsSinceEpoch(intervals().last(), Qt::UTC);
+    for (const QDateTime &time : { now.addYears(10), now.addYears(-10), now }) {
+        QVERIFY(tell(QStringLiteral("clock ") + time.toString(QStringLiteral("yyyy-MM-ddThh:mm:ss"))));
+        QVERIFY(waitForIntervals(3));
+        const qint64 moved = intervals().last() - time.toMSecsSinceEpoch();
+        QVERIFY2(qAbs(moved) < kNearMs, qPrintable(QString::number(moved)));
+    }
+}
+
+void TstTroubledRuns::beSilent()
+{
+    const qint64 before = intervals().last();
+    QVERIFY(tell(QStringLiteral("fault rate drop 1")));
+    QTest::qWait(60000 / kSpeed + 2000);
+    QVERIFY(m_desk->isInstrumentRunning() && !m_desk->screen().isNull());
+    QVERIFY(tell(QStringLiteral("fault off")));
+    QVERIFY(waitForIntervals(3));
+    QVERIFY(intervals().last() > before + 60000);
+}
+
+void TstTroubledRuns::goesOnThroughClocksThatAreSetAndAMinuteOfSilence()
+{
+    QFETCH(QString, start);
+    QFETCH(QString, end);
+    QFETCH(QString, name);
+    QFETCH(quint32, type);
+    m_name = name;
+    m_type = type;
+    m_desk = std::make_unique<Instrument>();
+    m_desk->setSpeed(kSpeed); // where the machine cannot, it takes longer
+    VERIFY_DESK(m_desk->start(), *m_desk);
+    VERIFY_DESK(m_desk->press(start.split(QLatin1Char(' '))), *m_desk);
+    QVERIFY(waitForIntervals(2));
+    setClocks();
+    beSilent();
+
+    VERIFY_DESK(m_desk->press(end.split(QLatin1Char(' '))), *m_desk);
+    const auto count = [this](quint32 of, bool *whole) {
+        int found = 0;
+        for (const Block &block : blocksOf(file(), whole))
+            found += block.type == of;
+        return found;
+    };
+    bool whole = false;
+    QTRY_COMPARE_WITH_TIMEOUT(count(kEnd, &whole), 1, kWaitMs);
+    QVERIFY(whole);
+    if (type == 0xA1000020u) { // ten times "Lost some data!" and once "Communication Interrupted!"
+        int interrupted = 0;
+        for (const Block &block : blocksOf(file(), &whole))
+            interrupted += block.type == kLog && block.payload.mid(8) == "Communication Interrupted!";
+        QCOMPARE(interrupted, 1);
+        QVERIFY(count(kLog, &whole) >= 11);
+    }
+    // Nothing of it is told at the next start.
+    QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(m_desk->path(QStringLiteral("/mnt/storage/.running"))), kWaitMs);
+}
+
+QTEST_MAIN(TstTroubledRuns)
+#include "tst_troubledruns.moc"
