@@ -1,0 +1,128 @@
+// Loaded in front of the instrument: while the file "card-gone" lies in its root, every call for what is on its card
+// fails as it does when somebody has taken the card out.
+#include <cerrno>
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/vfs.h>
+#include <unistd.h>
+
+namespace {
+
+constexpr std::size_t kPath = 4096;
+
+template <typename Function> Function next(const char *name)
+{
+    return reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name));
+}
+
+bool isOnCard(const char *path)
+{
+    const char *root = std::getenv("QUVERA_ROOT");
+    char card[kPath];
+    const int length = root ? std::snprintf(card, sizeof card, "%s/mnt/storage", root) : 0;
+    return length > 0 && std::strncmp(path, card, std::size_t(length)) == 0;
+}
+
+bool isOut()
+{
+    const char *root = std::getenv("QUVERA_ROOT");
+    char mark[kPath];
+    return root && std::snprintf(mark, sizeof mark, "%s/card-gone", root) > 0 && ::access(mark, F_OK) == 0;
+}
+
+/// Whether a call for this file fails; errno says so then.
+bool fails(const char *path)
+{
+    if (!isOnCard(path) || !isOut())
+        return false;
+    errno = EIO;
+    return true;
+}
+
+bool fails(int descriptor)
+{
+    char link[64], path[kPath] = {};
+    std::snprintf(link, sizeof link, "/proc/self/fd/%d", descriptor);
+    return ::readlink(link, path, sizeof path - 1) > 0 && fails(path);
+}
+
+int openUnlessGone(const char *path, int flags, mode_t mode)
+{
+    static const auto real = next<int (*)(const char *, int, ...)>("open64");
+    return fails(path) ? -1 : real(path, flags, mode);
+}
+
+mode_t modeOf(int flags, va_list arguments)
+{
+    return flags & O_CREAT ? mode_t(va_arg(arguments, unsigned)) : 0;
+}
+
+} // namespace
+
+extern "C" {
+
+int open(const char *path, int flags, ...)
+{
+    va_list arguments;
+    va_start(arguments, flags);
+    const mode_t mode = modeOf(flags, arguments);
+    va_end(arguments);
+    return openUnlessGone(path, flags, mode);
+}
+
+int open64(const char *path, int flags, ...)
+{
+    va_list arguments;
+    va_start(arguments, flags);
+    const mode_t mode = modeOf(flags, arguments);
+    va_end(arguments);
+    return openUnlessGone(path, flags, mode);
+}
+
+ssize_t write(int descriptor, const void *data, size_t size)
+{
+    static const auto real = next<ssize_t (*)(int, const void *, size_t)>("write");
+    return fails(descriptor) ? -1 : real(descriptor, data, size);
+}
+
+int ftruncate64(int descriptor, off64_t size) noexcept
+{
+    static const auto real = next<int (*)(int, off64_t)>("ftruncate64");
+    return fails(descriptor) ? -1 : real(descriptor, size);
+}
+
+int fsync(int descriptor)
+{
+    static const auto real = next<int (*)(int)>("fsync");
+    return fails(descriptor) ? -1 : real(descriptor);
+}
+
+int rename(const char *from, const char *to) noexcept
+{
+    static const auto real = next<int (*)(const char *, const char *)>("rename");
+    return fails(from) || fails(to) ? -1 : real(from, to);
+}
+
+int unlink(const char *path) noexcept
+{
+    static const auto real = next<int (*)(const char *)>("unlink");
+    return fails(path) ? -1 : real(path);
+}
+
+int mkdir(const char *path, mode_t mode) noexcept
+{
+    static const auto real = next<int (*)(const char *, mode_t)>("mkdir");
+    return fails(path) ? -1 : real(path, mode);
+}
+
+int statfs(const char *path, struct statfs *info) noexcept
+{
+    static const auto real = next<int (*)(const char *, struct statfs *)>("statfs");
+    return fails(path) ? -1 : real(path, info);
+}
+}

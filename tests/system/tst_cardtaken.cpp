@@ -1,0 +1,130 @@
+// Somebody takes the card out of an instrument that records, and puts it back.
+#include "instrument.h"
+
+#include "record/pqa2reader.h"
+
+#include <QDir>
+#include <QFile>
+
+using namespace SystemTest;
+
+namespace {
+
+constexpr int kWaitMs = 60000; // for what takes ten seconds on a quiet machine
+constexpr quint32 kInterval = 0xA1000020, kEnd = 0xA1000019;
+
+QStringList keys(const char *names)
+{
+    return QString::fromLatin1(names).split(QLatin1Char(' '));
+}
+
+} // namespace
+
+class TstCardTaken : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init();
+    void recordingGoesOnWhenItIsBack();
+    void whatIsOnItIsReadAndToldAfterAStartWithTheCardBack();
+
+private:
+    QDir storage() const { return QDir(m_desk->path(QStringLiteral("/mnt/storage/"))); }
+    QString folder() const { return storage().entryList(QDir::Dirs | QDir::NoDotAndDotDot).value(0); }
+    QByteArray content(const char *name) const
+    {
+        QFile file(storage().filePath(QLatin1String(name)));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+    /// How many blocks of a type the common file has; -1: nothing but the last link may be missing, and more is.
+    int blocks(quint32 type) const;
+    void takeCard(bool out) const;
+    /// Everything every second; some intervals of it are there.
+    void record();
+
+    std::unique_ptr<Instrument> m_desk;
+};
+
+void TstCardTaken::init()
+{
+    m_desk = std::make_unique<Instrument>();
+    VERIFY_DESK(m_desk->start(), *m_desk);
+}
+
+int TstCardTaken::blocks(quint32 type) const
+{
+    QFile file(storage().filePath(folder() + QStringLiteral("/Common.pqa2")));
+    if (!file.open(QIODevice::ReadOnly))
+        return -1;
+    Pqa2Reader reader(&file);
+    int found = 0;
+    for (Pqa2Block block; reader.next(&block);)
+        found += block.type == type;
+    return reader.state() == Pqa2Reader::Whole || (reader.state() == Pqa2Reader::Cut && !reader.skipDamage()) ? found
+                                                                                                              : -1;
+}
+
+void TstCardTaken::takeCard(bool out) const
+{
+    QFile mark(m_desk->path(QStringLiteral("/card-gone")));
+    if (out)
+        QVERIFY(mark.open(QIODevice::WriteOnly));
+    else
+        QVERIFY(mark.remove());
+}
+
+void TstCardTaken::record()
+{
+    VERIFY_DESK(m_desk->press(keys("Down Down Right Enter F2 F1 F4 Down Down Left Left Left F5")), *m_desk);
+    QTRY_VERIFY_WITH_TIMEOUT(blocks(kInterval) >= 3, kWaitMs);
+}
+
+void TstCardTaken::recordingGoesOnWhenItIsBack()
+{
+    record();
+    const QImage tray = m_desk->screen().copy(0, 0, 400, 32); // title and set-up, without the clock
+    takeCard(true);
+    // "Nothing is stored" stands in the title bar.
+    QVERIFY(
+        !m_desk->waitForScreen([&](const QImage &now) { return now.copy(0, 0, 400, 32) != tray; }, kWaitMs).isNull());
+    const int before = blocks(kInterval);
+    VERIFY_DESK(m_desk->press(keys("Menu Up Up Left Enter")), *m_desk);
+    const QImage values = m_desk->screen();
+    QVERIFY(!m_desk->waitForScreen([&](const QImage &now) { return page(now) != page(values); }).isNull()); // it lives
+    QCOMPARE(blocks(kInterval), before);
+    takeCard(false);
+    QTRY_VERIFY_WITH_TIMEOUT(blocks(kInterval) >= before + 3, kWaitMs);
+    VERIFY_DESK(m_desk->press(keys("Menu Down Down Right Enter F5 F4")), *m_desk); // Stop: Save
+    QTRY_COMPARE_WITH_TIMEOUT(blocks(kEnd), 1, kWaitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(content(".infomation").count("Logger_1,"), 1, kWaitMs);
+    QTRY_VERIFY_WITH_TIMEOUT(content(".running").isEmpty(), kWaitMs);
+}
+
+void TstCardTaken::whatIsOnItIsReadAndToldAfterAStartWithTheCardBack()
+{
+    const QImage menu = page(m_desk->screen());
+    record();
+    takeCard(true);
+    const int before = blocks(kInterval);
+    QTest::qWait(2000);
+    m_desk->instrument().kill();
+    QVERIFY(m_desk->instrument().waitForFinished());
+    takeCard(false);
+    QCOMPARE(blocks(kInterval), before);
+    VERIFY_DESK(m_desk->startInstrument(), *m_desk);
+    QVERIFY(!m_desk->waitForScreen([&menu](const QImage &now) { return page(now) != menu; }).isNull()); // it is told
+    VERIFY_DESK(m_desk->press(keys("F5")), *m_desk);
+    QTRY_VERIFY_WITH_TIMEOUT(content(".running").isEmpty(), kWaitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(content(".infomation").count("Logger_1,"), 1, kWaitMs);
+    QCOMPARE(blocks(kInterval), before);
+}
+
+int main(int argc, char **argv)
+{
+    qputenv("LD_PRELOAD", QUVERA_CARD_GONE); // for what is started from here
+    QTEST_SET_MAIN_SOURCE_PATH
+    QGuiApplication application(argc, argv);
+    TstCardTaken test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_cardtaken.moc"
