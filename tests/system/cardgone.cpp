@@ -51,38 +51,24 @@ bool fails(int descriptor)
     return ::readlink(link, path, sizeof path - 1) > 0 && fails(path);
 }
 
-int openUnlessGone(const char *path, int flags, mode_t mode)
-{
-    static const auto real = next<int (*)(const char *, int, ...)>("open64");
-    return fails(path) ? -1 : real(path, flags, mode);
-}
-
-mode_t modeOf(int flags, va_list arguments)
-{
-    return flags & O_CREAT ? mode_t(va_arg(arguments, unsigned)) : 0;
-}
-
 } // namespace
 
 extern "C" {
 
-int open(const char *path, int flags, ...)
-{
-    va_list arguments;
-    va_start(arguments, flags);
-    const mode_t mode = modeOf(flags, arguments);
-    va_end(arguments);
-    return openUnlessGone(path, flags, mode);
-}
-
 int open64(const char *path, int flags, ...)
 {
-    va_list arguments;
-    va_start(arguments, flags);
-    const mode_t mode = modeOf(flags, arguments);
-    va_end(arguments);
-    return openUnlessGone(path, flags, mode);
+    static const auto real = next<int (*)(const char *, int, ...)>("open64");
+    unsigned mode = 0;
+    if (flags & O_CREAT) {
+        va_list rest;
+        va_start(rest, flags);
+        mode = va_arg(rest, unsigned);
+        va_end(rest);
+    }
+    return fails(path) ? -1 : real(path, flags, mode);
 }
+
+int open(const char *path, int flags, ...) __attribute__((alias("open64")));
 
 ssize_t write(int descriptor, const void *data, size_t size)
 {

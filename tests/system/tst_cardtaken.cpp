@@ -1,10 +1,12 @@
-// Somebody takes the card out of an instrument that records, and puts it back.
+// Somebody takes the card out of an instrument that records, and puts it back; or pulls a disk out of a copy.
 #include "instrument.h"
 
 #include "record/pqa2reader.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QThread>
 
 using namespace SystemTest;
 
@@ -27,6 +29,7 @@ private slots:
     void init();
     void recordingGoesOnWhenItIsBack();
     void whatIsOnItIsReadAndToldAfterAStartWithTheCardBack();
+    void aDiskPulledOutOfACopyLeavesCardAndRecordingAlone();
 
 private:
     QDir storage() const { return QDir(m_desk->path(QStringLiteral("/mnt/storage/"))); }
@@ -82,11 +85,11 @@ void TstCardTaken::record()
 void TstCardTaken::recordingGoesOnWhenItIsBack()
 {
     record();
-    const QImage tray = m_desk->screen().copy(0, 0, 400, 32); // title and set-up, without the clock
+    const auto state = [](const QImage &screen) { return screen.copy(0, 100, 640, 80); };
+    const QImage running = state(m_desk->screen());
     takeCard(true);
-    // "Nothing is stored" stands in the title bar.
-    QVERIFY(
-        !m_desk->waitForScreen([&](const QImage &now) { return now.copy(0, 0, 400, 32) != tray; }, kWaitMs).isNull());
+    // "The storage takes no more data."
+    QVERIFY(!m_desk->waitForScreen([&](const QImage &now) { return state(now) != running; }, kWaitMs).isNull());
     const int before = blocks(kInterval);
     VERIFY_DESK(m_desk->press(keys("Menu Up Up Left Enter")), *m_desk);
     const QImage values = m_desk->screen();
@@ -117,6 +120,40 @@ void TstCardTaken::whatIsOnItIsReadAndToldAfterAStartWithTheCardBack()
     QTRY_VERIFY_WITH_TIMEOUT(content(".running").isEmpty(), kWaitMs);
     QTRY_COMPARE_WITH_TIMEOUT(content(".infomation").count("Logger_1,"), 1, kWaitMs);
     QCOMPARE(blocks(kInterval), before);
+}
+
+void TstCardTaken::aDiskPulledOutOfACopyLeavesCardAndRecordingAlone()
+{
+    constexpr qint64 kLarge = 200'000'000;
+    const QString name = QStringLiteral("large.pqa");
+    QFile large(storage().filePath(name));
+    QVERIFY(large.open(QIODevice::WriteOnly) && large.resize(kLarge));
+    large.close();
+    record();
+    const QDir media(m_desk->path(QStringLiteral("/run/media")));
+    QVERIFY(media.mkpath(QStringLiteral("sda1")));
+    QDir disk(media.filePath(QStringLiteral("sda1")));
+    VERIFY_DESK(m_desk->press(keys("Memory F2 F1 F4")), *m_desk); // all but what runs
+    VERIFY_DESK(m_desk->press(keys("F4")), *m_desk); // it may be copied
+    const QString pulled = m_desk->path(QStringLiteral("/pulled"));
+    QElapsedTimer time;
+    time.start();
+    while (disk.isEmpty() && time.elapsed() < kWaitMs)
+        QThread::msleep(1);
+    QVERIFY(QFile::rename(disk.path(), pulled));
+    QVERIFY(!QFile::exists(pulled + QLatin1Char('/') + name)); // the copy had begun, and was not through
+    QCOMPARE(QFileInfo(large.fileName()).size(), kLarge);
+    int before = blocks(kInterval);
+    QTRY_VERIFY_WITH_TIMEOUT(blocks(kInterval) >= before + 3, kWaitMs);
+
+    // Another disk gets it whole, behind "Error!!!".
+    VERIFY_DESK(m_desk->press(keys("F5")), *m_desk);
+    QVERIFY(media.mkpath(QStringLiteral("sdb1")));
+    VERIFY_DESK(m_desk->press(keys("F4 F4")), *m_desk);
+    QTRY_COMPARE_WITH_TIMEOUT(QFileInfo(media.filePath(QStringLiteral("sdb1/") + name)).size(), kLarge, kWaitMs);
+    QVERIFY(!QFile::exists(pulled + QLatin1Char('/') + name));
+    before = blocks(kInterval);
+    QTRY_VERIFY_WITH_TIMEOUT(blocks(kInterval) >= before + 3, kWaitMs);
 }
 
 int main(int argc, char **argv)
