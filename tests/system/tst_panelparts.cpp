@@ -1,0 +1,205 @@
+#include "desk/deskinstrument.h"
+#include "panel/admission.h"
+#include "panel/bulletin.h"
+#include "panel/controltable.h"
+#include "panel/processorline.h"
+#include "testpaths.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QSet>
+#include <QTest>
+
+#include <thread>
+
+using namespace panel;
+
+/// The panel's own parts: who is let in, what is shown to all, which commands its controls are.
+class TstPanelParts : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void sameTextIsNoNews();
+    void slowReaderGetsTheNewestOnly();
+    void readersAreCountedWhileTheyLive();
+    void closedBulletinLetsEveryoneGo();
+    void portEightyNeedsNoNumber();
+    void cookieIsFoundAmongOthersOnly();
+    void everyControlIsObeyedByTheProcessor();
+    void controlsHaveNamesOfTheirOwn();
+    void wishesBeyondTheBoundsMakeNoCommand_data();
+    void wishesBeyondTheBoundsMakeNoCommand();
+    void processorThatIsNotThereIsNotWaitedFor();
+};
+
+void TstPanelParts::sameTextIsNoNews()
+{
+    Bulletin bulletin;
+    Bulletin::Reader reader(bulletin);
+    bulletin.publish(Bulletin::Screen, "one");
+    QCOMPARE(bulletin.news(reader, std::chrono::milliseconds(0)).size(), size_t(1));
+    bulletin.publish(Bulletin::Screen, "one");
+    QCOMPARE(bulletin.news(reader, std::chrono::milliseconds(0)).size(), size_t(0));
+}
+
+void TstPanelParts::slowReaderGetsTheNewestOnly()
+{
+    Bulletin bulletin;
+    Bulletin::Reader reader(bulletin);
+    for (const char *text : { "one", "two", "three" })
+        bulletin.publish(Bulletin::Screen, text);
+    bulletin.publish(Bulletin::Instrument, "there");
+    const auto news = bulletin.news(reader, std::chrono::milliseconds(0));
+    QCOMPARE(news.size(), size_t(2));
+    QCOMPARE(*news[0], std::string("there"));
+    QCOMPARE(*news[1], std::string("three"));
+    Bulletin::Reader late(bulletin);
+    QCOMPARE(bulletin.news(late, std::chrono::milliseconds(0))[1].get(), news[1].get()); // shared, not made again
+}
+
+void TstPanelParts::readersAreCountedWhileTheyLive()
+{
+    Bulletin bulletin;
+    QCOMPARE(bulletin.readers(), 0);
+    {
+        Bulletin::Reader one(bulletin), two(bulletin);
+        QCOMPARE(bulletin.readers(), 2);
+    }
+    QCOMPARE(bulletin.readers(), 0);
+}
+
+void TstPanelParts::closedBulletinLetsEveryoneGo()
+{
+    Bulletin bulletin;
+    std::thread waits([&bulletin] {
+        Bulletin::Reader reader(bulletin);
+        bulletin.news(reader, std::chrono::hours(1));
+    });
+    while (bulletin.readers() == 0)
+        std::this_thread::yield();
+    bulletin.close();
+    waits.join();
+    QVERIFY(bulletin.isClosed());
+}
+
+void TstPanelParts::portEightyNeedsNoNumber()
+{
+    Admission::Request request;
+    request.host = "127.0.0.1";
+    QVERIFY(Admission(80, {}, {}).judge(request) == Admission::Answer::Welcome);
+    QVERIFY(Admission(8080, {}, {}).judge(request) == Admission::Answer::ForeignHost);
+    request.host = "evil.example";
+    QVERIFY(Admission(80, {}, {}).judge(request) == Admission::Answer::ForeignHost);
+}
+
+void TstPanelParts::cookieIsFoundAmongOthersOnly()
+{
+    const Admission admission(8080, "secret0123456789", {});
+    const auto judged = [&admission](const char *cookie) {
+        Admission::Request request;
+        request.host = "localhost:8080";
+        request.cookie = cookie;
+        return admission.judge(request) == Admission::Answer::Welcome;
+    };
+    QVERIFY(judged("quvera-panel-8080=secret0123456789"));
+    QVERIFY(judged("a=1; quvera-panel-8080=secret0123456789; b=2"));
+    for (const char *cookie : { "", ";", "; ;", "quvera-panel-8080=", "quvera-panel-8080=secret", "secret0123456789",
+                                "quvera-panel-8080=secret0123456789x", "quvera-panel-8081=secret0123456789",
+                                "xquvera-panel-8080=secret0123456789" })
+        QVERIFY2(!judged(cookie), cookie);
+}
+
+/// A wish with the first, or the last, value of each field.
+static QJsonObject wishOf(const Control &control, bool last)
+{
+    QJsonObject wish { { "control", control.id } };
+    for (const Field &field : control.fields) {
+        const QStringList words = QString(field.choices).split(' ', Qt::SkipEmptyParts);
+        if (!field.choices)
+            wish.insert(field.name, last ? field.most : field.least);
+        else
+            wish.insert(field.name,
+                        words.isEmpty() ? QString(last ? "swell" : "dip")
+                            : last      ? words.last()
+                                        : words.first());
+    }
+    return wish;
+}
+
+void TstPanelParts::everyControlIsObeyedByTheProcessor()
+{
+    DeskInstrument desk(QStringLiteral(QUVERA_BIN_DIR));
+    QVERIFY2(desk.startProcessor(), qPrintable(desk.error()));
+    const ProcessorLine line(desk.root());
+    QString answer;
+    for (bool last : { false, true }) {
+        for (const Control &control : controlTable()) {
+            QString why;
+            const QString command = commandFor(wishOf(control, last), { "dip", "swell" }, &why);
+            QVERIFY2(!command.isEmpty(), qPrintable(control.id + why));
+            QVERIFY2(!command.contains('%') || QRegularExpression("\\d%").match(command).hasMatch(),
+                     qPrintable(command));
+            QVERIFY(line.tell(command, &answer));
+            QVERIFY2(answer.startsWith("ok"), qPrintable(command + ": " + answer));
+        }
+    }
+    QVERIFY(line.tell("status", &answer));
+    QVERIFY2(answer.contains("scenario=swell") && answer.contains("speed=50"), qPrintable(answer));
+    QVERIFY2(answer.contains("usb= "), qPrintable(answer)); // pulled again
+    QVERIFY(line.tell("help", &answer)); // more lines than one
+    QVERIFY(answer.count('\n') > 10 && answer.endsWith("ok"));
+}
+
+void TstPanelParts::controlsHaveNamesOfTheirOwn()
+{
+    QSet<QString> ids;
+    for (const Control &control : controlTable())
+        ids.insert(control.id);
+    QCOMPARE(size_t(ids.size()), controlTable().size());
+    const QJsonArray rows = QJsonDocument::fromJson(controlsAsJson({ "dip" })).array();
+    QCOMPARE(size_t(rows.size()), controlTable().size());
+    QCOMPARE(rows[0].toObject()["fields"].toArray()[0].toObject()["choices"].toArray(), QJsonArray { "dip" });
+}
+
+void TstPanelParts::wishesBeyondTheBoundsMakeNoCommand_data()
+{
+    QTest::addColumn<QByteArray>("wish");
+    QTest::newRow("nothing") << QByteArray("{}");
+    QTest::newRow("unknown control") << QByteArray("{\"control\":\"quit\"}");
+    QTest::newRow("value missing") << QByteArray("{\"control\":\"frequency\"}");
+    QTest::newRow("too high") << QByteArray("{\"control\":\"frequency\",\"hertz\":70.1}");
+    QTest::newRow("too low") << QByteArray("{\"control\":\"frequency\",\"hertz\":-1e300}");
+    QTest::newRow("text for a number") << QByteArray("{\"control\":\"frequency\",\"hertz\":\"50\"}");
+    QTest::newRow("command in a word") << QByteArray("{\"control\":\"scenario\",\"scenario\":\"dip\\nquit\"}");
+    QTest::newRow("file for a name") << QByteArray("{\"control\":\"scenario\",\"scenario\":\"/etc/passwd\"}");
+    QTest::newRow("word of another field") << QByteArray("{\"control\":\"charger\",\"state\":\"l1\"}");
+    QTest::newRow("empty word") << QByteArray("{\"control\":\"charger\",\"state\":\"\"}");
+    QTest::newRow("number for a word") << QByteArray("{\"control\":\"charger\",\"state\":1}");
+}
+
+void TstPanelParts::wishesBeyondTheBoundsMakeNoCommand()
+{
+    QFETCH(QByteArray, wish);
+    QString why;
+    QCOMPARE(commandFor(QJsonDocument::fromJson(wish).object(), { "dip" }, &why), QString());
+    QVERIFY(!why.isEmpty());
+}
+
+void TstPanelParts::processorThatIsNotThereIsNotWaitedFor()
+{
+    QTemporaryDir root;
+    QString answer;
+    QVERIFY(!ProcessorLine(root.path()).tell("status", &answer));
+    QVERIFY(!ProcessorLine("/no/such/root").tell("status", &answer));
+    // A path longer than a socket's name holds.
+    const QString deep = root.path() + '/' + QString(180, 'd');
+    QVERIFY(QDir().mkpath(deep));
+    DeskInstrument desk(QStringLiteral(QUVERA_BIN_DIR), deep);
+    QVERIFY2(desk.startProcessor(), qPrintable(desk.error()));
+    QVERIFY(ProcessorLine(deep).tell("status", &answer));
+}
+
+QTEST_GUILESS_MAIN(TstPanelParts)
+
+#include "tst_panelparts.moc"

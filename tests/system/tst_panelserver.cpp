@@ -1,0 +1,322 @@
+#include "panelprocess.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+#include <QTcpServer>
+#include <QTemporaryFile>
+
+#include <csignal>
+
+using namespace PanelTest;
+
+/// quvera-panel as browsers see it, before an instrument that counts what it is asked.
+class TstPanelServer : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void wrongUseIsOneLine_data();
+    void wrongUseIsOneLine();
+    void usedPortIsOneLine();
+    void pageAndAllThatItNeedsComeFromThePanel();
+    void everyAnswerCarriesTheContentPolicy();
+    void keysReachTheInstrumentInTheirOrder();
+    void keysThatAreNoneAreRefused();
+    void nobodyLooksNothingIsAsked();
+    void unchangedScreenIsSentOnce();
+    void viewersShareThePictures();
+    void whatTheInstrumentSaysAboutAPictureGoesWithIt();
+    void instrumentThatGoesAndComesIsToldOf();
+    void beyondItsNumberViewersAreRefused();
+    void withoutADeskThereAreNoControls();
+    void tokenIsAskedForBeyondThisMachine();
+    void tokenOfAFileHoldsOnThisMachineToo();
+    void tokenThatIsTooShortIsRefused();
+    void signalEndsItWithViewersWatching();
+
+private:
+    std::unique_ptr<FakeInstrument> m_instrument;
+    std::unique_ptr<PanelProcess> m_panel;
+    quint16 m_port = 0;
+};
+
+void TstPanelServer::init()
+{
+    m_panel.reset();
+    m_instrument = std::make_unique<FakeInstrument>();
+    m_instrument->begin();
+    m_panel = std::make_unique<PanelProcess>();
+    QVERIFY(m_panel->startFor(*m_instrument));
+    m_port = m_panel->port();
+}
+
+void TstPanelServer::wrongUseIsOneLine_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("error");
+    QTest::newRow("port") << QStringList { "--port", "http" } << QByteArray("\"http\" is no port");
+    QTest::newRow("instrument's port") << QStringList { "--instrument-port", "0" } << QByteArray("\"0\" is no port");
+    QTest::newRow("address") << QStringList { "--listen", "here" } << QByteArray("\"here\" is no address to listen at");
+    QTest::newRow("word") << QStringList { "loudly" } << QByteArray("\"loudly\" is no option");
+    QTest::newRow("token") << QStringList { "--token-file", "/no/such/file" } << QByteArray("/no/such/file");
+}
+
+void TstPanelServer::wrongUseIsOneLine()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, error);
+    PanelProcess panel;
+    QVERIFY(!panel.start(arguments));
+    QCOMPARE(panel.process().exitCode(), 2);
+    const QByteArray told = panel.process().readAllStandardError();
+    QVERIFY2(told.contains(error), told);
+    QCOMPARE(told.count('\n'), 1);
+}
+
+void TstPanelServer::usedPortIsOneLine()
+{
+    PanelProcess second;
+    QVERIFY(!second.startFor(*m_instrument, { "--port", QString::number(m_port) }));
+    QCOMPARE(second.process().exitCode(), 1);
+    const QByteArray told = second.process().readAllStandardError();
+    QCOMPARE(told,
+             "quvera-panel: TCP port " + QByteArray::number(m_port)
+                 + " of 127.0.0.1 is in use or not allowed; choose another with --port\n");
+}
+
+void TstPanelServer::pageAndAllThatItNeedsComeFromThePanel()
+{
+    const Answer page = get(m_port, "/");
+    QCOMPARE(page.status, 200);
+    QCOMPARE(page.field("Content-Type"), QByteArray("text/html; charset=utf-8"));
+    QVERIFY(!page.body.contains("://"));
+    // Nothing that the policy would forbid: scripts and styles in files, no handlers in attributes.
+    QVERIFY(!QRegularExpression(" on[a-z]+=|<style|style=|<script>").match(page.body).hasMatch());
+    int needed = 0;
+    auto links = QRegularExpression("(?:src|href)=\"([^\"#]+\\.(?:js|css|svg))\"").globalMatch(page.body);
+    while (links.hasNext()) {
+        const QByteArray path = '/' + links.next().captured(1).toLatin1();
+        const Answer part = get(m_port, path);
+        QVERIFY2(part.status == 200 && !part.body.isEmpty(), path);
+        QVERIFY2(!QString(part.body).remove("http://www.w3.org/2000/svg").contains("://"), path);
+        ++needed;
+    }
+    QVERIFY(needed >= 4);
+    for (const char *none : { "/nothing", "/panel.js/", "/guide/", "/guide/../panel.css",
+                              "/guide/%2e%2e/%2e%2e/README.md", "//etc/passwd", "/:/panel/index.html" })
+        QVERIFY2(get(m_port, none).status == 404, none);
+}
+
+void TstPanelServer::everyAnswerCarriesTheContentPolicy()
+{
+    const QByteArray policy = "default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self' data:; "
+                              "connect-src 'self'; base-uri 'none'; form-action 'none'; frame-ancestors 'none'";
+    for (const Answer &answer :
+         { get(m_port, "/"), get(m_port, "/nothing"), post(m_port, "/key", "{}"), post(m_port, "/key", "x", "") }) {
+        QCOMPARE(answer.field("Content-Security-Policy"), policy);
+        QCOMPARE(answer.field("X-Content-Type-Options"), QByteArray("nosniff"));
+        QCOMPARE(answer.field("Access-Control-Allow-Origin"), QByteArray());
+    }
+}
+
+void TstPanelServer::keysReachTheInstrumentInTheirOrder()
+{
+    for (const char *key : { "F1", "Down", "Enter", "Menu", "light", "17" })
+        QCOMPARE(post(m_port, "/key", "{\"key\":\"" + QByteArray(key) + "\"}").status, 204);
+    QTRY_COMPARE_WITH_TIMEOUT(m_instrument->keys(), (QVector<quint32> { 40, 19, 13, 46, 51, 17 }), kPatience);
+}
+
+void TstPanelServer::keysThatAreNoneAreRefused()
+{
+    for (const char *wish : { "", "{", "[]", "{}", "{\"key\":13}", "{\"key\":\"F13\"}", "{\"key\":null}", "\"F1\"",
+                              "{\"key\":[\"F1\"]}", "{\"kex\":\"F1\"}" })
+        QVERIFY2(post(m_port, "/key", wish).status == 400, wish);
+    QCOMPARE(get(m_port, "/key").status, 404);
+    QCOMPARE(say(m_port, "PUT /key HTTP/1.1\r\n" + host(m_port) + "Content-Type: application/json\r\n\r\n").status,
+             404);
+    QCOMPARE(m_instrument->keys().size(), 0);
+}
+
+void TstPanelServer::nobodyLooksNothingIsAsked()
+{
+    QTest::qWait(1000);
+    QCOMPARE(m_instrument->picturesAsked.load(), 0);
+    {
+        Viewer viewer(m_port);
+        QTRY_VERIFY_WITH_TIMEOUT(viewer.count("screen") == 1, kPatience);
+    }
+    // Who is gone is noticed; then the count stands still.
+    int before = -1;
+    QVERIFY(eventually([&] {
+        const int last = before;
+        QTest::qWait(1500);
+        before = m_instrument->picturesAsked;
+        return before == last;
+    }));
+}
+
+void TstPanelServer::unchangedScreenIsSentOnce()
+{
+    Viewer viewer(m_port);
+    QTRY_VERIFY_WITH_TIMEOUT(viewer.count("screen") == 1, kPatience);
+    const int asked = m_instrument->picturesAsked;
+    QTRY_VERIFY_WITH_TIMEOUT(m_instrument->picturesAsked > asked + 4, kPatience);
+    QCOMPARE(viewer.count("screen"), 1);
+    QCOMPARE(viewer.count("instrument"), 1);
+    QVERIFY(viewer.read().contains(m_instrument->png().toBase64()));
+    m_instrument->show(Qt::red);
+    QTRY_COMPARE_WITH_TIMEOUT(viewer.count("screen"), 2, kPatience);
+    QVERIFY(viewer.read().contains(m_instrument->png().toBase64()));
+    QCOMPARE(get(m_port, "/screen.png").body, m_instrument->png());
+}
+
+void TstPanelServer::viewersShareThePictures()
+{
+    const auto askedInTwentyLooks = [this](int viewers) {
+        QVector<QSharedPointer<Viewer>> all;
+        for (int i = 0; i < viewers; ++i)
+            all << QSharedPointer<Viewer>::create(m_port);
+        for (const auto &viewer : all) {
+            while (viewer->count("screen") < 1)
+                QTest::qWait(10);
+        }
+        // Twelve changes, each seen by all before the next.
+        const int before = m_instrument->picturesAsked;
+        for (int change = 0; change < 12; ++change) {
+            m_instrument->show(QColor(10 * change + viewers, 0, 100));
+            for (const auto &viewer : all) {
+                while (viewer->count("screen") < change + 2)
+                    QTest::qWait(10);
+            }
+        }
+        return m_instrument->picturesAsked - before;
+    };
+    const int alone = askedInTwentyLooks(1), together = askedInTwentyLooks(20);
+    QVERIFY2(together <= 2 * alone, qPrintable(QStringLiteral("%1 and %2").arg(alone).arg(together)));
+}
+
+void TstPanelServer::whatTheInstrumentSaysAboutAPictureGoesWithIt()
+{
+    m_instrument->show(Qt::darkGreen, QStringLiteral("Volts/Amps/Hertz"));
+    Viewer viewer(m_port);
+    QTRY_VERIFY_WITH_TIMEOUT(viewer.count("screen") == 1 && viewer.read().endsWith("\n\n"), kPatience);
+    const QByteArray data = viewer.read().mid(viewer.read().indexOf("event: screen\ndata: ") + 20);
+    const QJsonObject screen = QJsonDocument::fromJson(data.left(data.indexOf('\n'))).object();
+    QCOMPARE(screen.value("Title").toString(), QStringLiteral("Volts/Amps/Hertz"));
+}
+
+void TstPanelServer::instrumentThatGoesAndComesIsToldOf()
+{
+    Viewer viewer(m_port);
+    QTRY_VERIFY_WITH_TIMEOUT(viewer.count("screen") == 1, kPatience);
+    QVERIFY(viewer.read().contains("{\"there\":true}"));
+    const quint16 port = m_instrument->port();
+    m_instrument.reset();
+    QTRY_VERIFY_WITH_TIMEOUT(viewer.count("instrument") == 2, kPatience);
+    QVERIFY(viewer.read().contains("\"there\":false"));
+    // Another program takes its port and answers in its place.
+    QUdpSocket socket;
+    QVERIFY(socket.bind(QHostAddress(QHostAddress::LocalHost), port));
+    QTRY_VERIFY_WITH_TIMEOUT(socket.hasPendingDatagrams(), kPatience);
+    QCOMPARE(get(m_port, "/").status, 200);
+}
+
+void TstPanelServer::beyondItsNumberViewersAreRefused()
+{
+    QVector<QSharedPointer<Viewer>> viewers;
+    for (int i = 0; i < 40; ++i) {
+        viewers << QSharedPointer<Viewer>::create(m_port);
+        QTRY_VERIFY_WITH_TIMEOUT(viewers.last()->count("screen") == 1, kPatience);
+    }
+    const Answer refused = get(m_port, "/events");
+    QCOMPARE(refused.status, 503);
+    QCOMPARE(refused.field("Retry-After"), QByteArray("5"));
+    QCOMPARE(get(m_port, "/").status, 200); // keys and the page are there for all
+    viewers.removeLast();
+    QVERIFY(eventually([&] {
+        Viewer another(m_port);
+        while (another.socket().state() == QAbstractSocket::ConnectedState && another.count("screen") == 0)
+            QTest::qWait(10);
+        another.count("screen");
+        return another.read().startsWith("HTTP/1.1 200");
+    }));
+}
+
+void TstPanelServer::withoutADeskThereAreNoControls()
+{
+    QCOMPARE(get(m_port, "/controls").body, QByteArray("[]"));
+    QCOMPARE(post(m_port, "/control", "{\"control\":\"clear\"}").status, 400);
+    Viewer viewer(m_port);
+    QTRY_VERIFY_WITH_TIMEOUT(viewer.count("screen") == 1, kPatience);
+    QCOMPARE(viewer.count("supply"), 0);
+}
+
+void TstPanelServer::tokenIsAskedForBeyondThisMachine()
+{
+    PanelProcess panel;
+    QVERIFY(panel.startFor(*m_instrument, { "--listen", "0.0.0.0" }));
+    const quint16 port = panel.port();
+    const QByteArray token = panel.address().query().toLatin1().mid(6);
+    QVERIFY2(token.size() == 32, token);
+    for (const char *path : { "/", "/events", "/controls", "/screen.png", "/panel.js" })
+        QVERIFY2(get(port, path).status == 401, path);
+    QCOMPARE(post(port, "/key", "{\"key\":\"F1\"}").status, 401);
+    QCOMPARE(get(port, "/?token=" + QByteArray(32, '0')).status, 401);
+    QCOMPARE(post(port, "/key?token=" + token, "{\"key\":\"F1\"}").status, 401); // never in an address that acts
+    const Answer entry = get(port, "/?token=" + token);
+    QCOMPARE(entry.status, 303);
+    QCOMPARE(entry.field("Location"), QByteArray("/"));
+    const QByteArray cookie = entry.field("Set-Cookie");
+    QVERIFY2(cookie.endsWith("; Path=/; HttpOnly; SameSite=Strict"), cookie);
+    const QByteArray shown = "Cookie: other=1; " + cookie.left(cookie.indexOf(';')) + "; more=2\r\n";
+    QCOMPARE(get(port, "/", shown).status, 200);
+    QCOMPARE(post(port, "/key", "{\"key\":\"F1\"}", shown + "Content-Type: application/json\r\n").status, 204);
+    QCOMPARE(get(port, "/", "Authorization: Bearer " + token + "\r\n").status, 200);
+    QCOMPARE(get(port, "/", "Authorization: Bearer " + token.left(31) + "\r\n").status, 401);
+    QTRY_COMPARE_WITH_TIMEOUT(m_instrument->keys().size(), 1, kPatience);
+    PanelProcess other;
+    QVERIFY(other.startFor(*m_instrument, { "--listen", "0.0.0.0" }));
+    QVERIFY(other.address().query() != panel.address().query());
+}
+
+void TstPanelServer::tokenOfAFileHoldsOnThisMachineToo()
+{
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    file.write("abcdef0123456789XYZ\nnothing else\n");
+    file.close();
+    PanelProcess panel;
+    QVERIFY(panel.startFor(*m_instrument, { "--token-file", file.fileName() }));
+    QCOMPARE(panel.address().query(), QStringLiteral("token=abcdef0123456789XYZ"));
+    QCOMPARE(get(panel.port(), "/").status, 401);
+    QCOMPARE(get(panel.port(), "/", "Authorization: Bearer abcdef0123456789XYZ\r\n").status, 200);
+}
+
+void TstPanelServer::tokenThatIsTooShortIsRefused()
+{
+    for (const char *token : { "short", "abcdef0123456789;Path=/", "" }) {
+        QTemporaryFile file;
+        QVERIFY(file.open());
+        file.write(token);
+        file.close();
+        PanelProcess panel;
+        QVERIFY2(!panel.startFor(*m_instrument, { "--token-file", file.fileName() }), token);
+        QCOMPARE(panel.process().exitCode(), 2);
+    }
+}
+
+void TstPanelServer::signalEndsItWithViewersWatching()
+{
+    Viewer viewer(m_port);
+    QTRY_VERIFY_WITH_TIMEOUT(viewer.count("screen") == 1, kPatience);
+    m_panel->process().terminate();
+    QVERIFY(m_panel->process().waitForFinished(kPatience));
+    QCOMPARE(m_panel->process().exitStatus(), QProcess::NormalExit);
+    QCOMPARE(m_panel->process().exitCode(), 0);
+}
+
+QTEST_GUILESS_MAIN(TstPanelServer)
+
+#include "tst_panelserver.moc"
