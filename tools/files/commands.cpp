@@ -3,6 +3,7 @@
 #include "files/infotext.h"
 #include "files/reportcommand.h"
 #include "files/terminal.h"
+#include "record/exports/recovery.h"
 
 #include <cstdio>
 #include <limits>
@@ -63,6 +64,38 @@ int runVerify(const CommandLine &line)
     return worst;
 }
 
+int runRecover(const CommandLine &line)
+{
+    const QString input = line.paths.constFirst();
+    if (!line.has(QStringLiteral("--out")))
+        return misuse(QStringLiteral("recover: no --out is given"));
+    RecordSource source;
+    if (!openSource(&source, input))
+        return interrupted();
+    Terminal::complainOf(source);
+    if (source.state() == RecordState::Unreadable)
+        return ExitUnreadable;
+    OutputPlace place;
+    place.target = line.value(QStringLiteral("--out"));
+    place.input = input;
+    place.force = line.has(QStringLiteral("--force"));
+    Progress progress(place.target);
+    Recovery recovery(place);
+    switch (recovery.run(source, progress.callback())) {
+    case Recovery::Done:
+        return statusOf(source);
+    case Recovery::Nothing:
+        Terminal::complain(QStringLiteral("%1: nothing of it can be recovered").arg(Terminal::printable(input)));
+        return ExitUnreadable;
+    case Recovery::Failed:
+        Terminal::complain(Terminal::printable(recovery.error()));
+        break;
+    case Recovery::Ended:
+        return interrupted();
+    }
+    return ExitNoOutput;
+}
+
 int runExport(const CommandLine &line)
 {
     const ExportFormat *chosen = nullptr;
@@ -119,6 +152,14 @@ const std::vector<Command> &commands()
           { { "--json", "", "as one JSON object" } },
           runInfo },
         { "verify", "PATH...", "whether files are whole", 1, std::numeric_limits<int>::max(), {}, runVerify },
+        { "recover",
+          "PATH --out TARGET [--force]",
+          "a sound copy of what can be read",
+          1,
+          1,
+          { { "--out", "TARGET", "the copy: a file, or a folder for a folder" },
+            { "--force", "", "replace an output that exists" } },
+          runRecover },
         { "export", "PATH FORMAT [--force]", "hand a recording on in another format", 1, 1, exportOptions(),
           runExport },
         reportCommand(),

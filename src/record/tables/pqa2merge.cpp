@@ -72,7 +72,7 @@ bool Pqa2Merge::readEvents(RecordOutput &out)
             walk = std::make_unique<Pqa2Walk>(m_parts.at(part = place.part).path);
         RecordedEvent event;
         event.number = ++number;
-        event.item = eventOf(walk->copy(place.block, place.block.size), curveMask(m_facts.joinMode));
+        event.item = eventOf(walk->copy(place.block, 0, place.block.size), curveMask(m_facts.joinMode));
         // Without its bytes, which are gone since, what was seen of it has to do.
         if (event.item.startTime != place.head.startTime)
             event.item = eventOf(QByteArray(reinterpret_cast<const char *>(&place.head), sizeof place.head), 0);

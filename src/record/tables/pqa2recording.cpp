@@ -155,7 +155,7 @@ void Pqa2Recording::takeBlock(int index, const Pqa2Block &block, Pqa2Walk &walk)
     }
     switch (role) {
     case BlockRole::Opening:
-        takeOpening(index, block, walk.copy(block, kLongestOpening));
+        takeOpening(index, block, walk.copy(block, 0, kLongestOpening));
         break;
     case BlockRole::Start:
         m_parts[index].hasStart = true;
@@ -252,7 +252,8 @@ void Pqa2Recording::findEnds()
         last = qMax(last, report.end);
         const bool isFirst = i == 0 || m_parts.at(i - 1).file != m_parts.at(i).file;
         hasStart = (!isFirst && hasStart) || m_parts.at(i).hasStart;
-        if (hasStart && !m_parts.at(i).hasEnd && !goesOn(i) && !hasSpectra(report))
+        report.lacksEnd = hasStart && !m_parts.at(i).hasEnd && !goesOn(i) && !hasSpectra(report);
+        if (report.lacksEnd)
             report.fault(RecordState::Cut, report.size, QStringLiteral("the recording has no end"));
     }
     m_facts.end = qMax(m_facts.end, last);

@@ -17,8 +17,8 @@ public:
     bool next(Pqa2Block *block);
     /// The payload of the block that next() gave last, or its first \a most bytes. Valid until the next call.
     const char *payload(const Pqa2Block &block, qint64 most) { return m_reader->view(block, most); }
-    /// Another block of the file.
-    QByteArray copy(const Pqa2Block &block, qint64 most) { return m_reader->payload(block, 0, most); }
+    /// Bytes of the payload of any block that next() gave, at most \a most from \a at on.
+    QByteArray copy(const Pqa2Block &block, qint64 at, qint64 most) { return m_reader->payload(block, at, most); }
 
     qint64 size() const { return m_file.size(); }
     RecordState state() const;
