@@ -1,15 +1,30 @@
 #include "record/pqa2reader.h"
 
-#include <QIODevice>
+#include <QFileDevice>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
+#include <unistd.h>
 
 namespace {
 
 constexpr qint64 kWindow = Pqa2Reader::kMostView; // bytes
 constexpr qint64 kHeadBytes = sizeof(Pqa2BlockHead);
 constexpr int kMostProbes = 200000; // a file made to mislead the search gets no further
+
+/// Where something is stored from \a offset on, as the file system tells it: a hole reads as zeros, gigabytes of them
+/// at times. \a size where nothing is.
+qint64 behindHole(QIODevice *device, qint64 offset, qint64 size)
+{
+    const auto *file = qobject_cast<QFileDevice *>(device);
+    if (!file || file->handle() < 0)
+        return offset;
+    const off_t data = ::lseek(file->handle(), offset, SEEK_DATA);
+    if (data < 0)
+        return errno == ENXIO ? size : offset;
+    return std::clamp<qint64>(data, offset, size);
+}
 
 /// Where the next block stands when nothing lies between.
 qint64 endOf(qint64 offset, const Pqa2BlockHead &head)
@@ -141,13 +156,33 @@ bool Pqa2Reader::startsChain(qint64 offset)
     return starts;
 }
 
+/// The first place from \a offset on whose link may be that of a block; a quick look that leaves most places out.
+qint64 Pqa2Reader::nextCandidate(qint64 offset)
+{
+    while (offset + kHeadBytes <= m_size) {
+        if (offset < m_windowOffset || offset + kHeadBytes > m_windowOffset + m_window.size())
+            offset = std::max(offset, (behindHole(m_device, offset, m_size) & ~qint64(3)) - kHeadBytes);
+        if (!bytes(offset, kHeadBytes))
+            break;
+        const char *place = m_window.constData() + (offset - m_windowOffset);
+        const qint64 end = m_windowOffset + m_window.size() - kHeadBytes;
+        for (; offset <= end; offset += 4, place += 4) {
+            quint32 link;
+            std::memcpy(&link, place, sizeof link);
+            if (link % 4 == 0 && link >= offset + kHeadBytes && link < m_size)
+                return offset;
+        }
+    }
+    return m_size;
+}
+
 bool Pqa2Reader::skipDamage()
 {
     if (m_searchFrom < 0)
         return false;
-    qint64 offset = (m_searchFrom + 3) & ~qint64(3);
+    qint64 offset = nextCandidate((m_searchFrom + 3) & ~qint64(3));
     m_searchFrom = -1;
-    for (; offset + kHeadBytes <= m_size && m_probes < kMostProbes; offset += 4) {
+    for (; offset + kHeadBytes <= m_size && m_probes < kMostProbes; offset = nextCandidate(offset + 4)) {
         if (!startsChain(offset))
             continue;
         m_next = offset;

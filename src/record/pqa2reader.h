@@ -52,6 +52,7 @@ private:
     bool isGapWithoutBlock(const Pqa2BlockHead &head, qint64 end) const;
     bool isPlausible(qint64 offset, Pqa2BlockHead *head);
     bool startsChain(qint64 offset);
+    qint64 nextCandidate(qint64 offset);
     bool readHeader();
     bool fail(qint64 offset, qint64 searchFrom, const char *reason);
     const char *bytes(qint64 offset, qint64 count);

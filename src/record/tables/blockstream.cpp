@@ -28,7 +28,7 @@ bool BlockStream::readOn()
     if (m_part >= m_parts.size())
         return false;
     if (!m_walk)
-        m_walk = std::make_unique<Pqa2Walk>(m_parts[m_part].path);
+        m_walk = std::make_unique<Pqa2Walk>(m_parts[m_part].path, m_parts[m_part].isBroken);
     Pqa2Block block;
     if (m_walk->next(&block)) {
         m_at = block.offset;

@@ -49,7 +49,7 @@ Pqa2Merge::Pqa2Merge(const RecordFacts &facts, const QVector<Pqa2Part> &parts, c
     for (int i = 0; i < parts.size(); ++i) {
         if (i == 0 || parts.at(i - 1).file != parts.at(i).file)
             files_.emplace_back();
-        files_.back().push_back({ i, parts.at(i).path });
+        files_.back().push_back({ i, parts.at(i).path, files.at(i).state == RecordState::Broken });
     }
     for (auto &file : files_)
         m_streams.push_back(std::make_unique<BlockStream>(std::move(file), m_columns, m_check));

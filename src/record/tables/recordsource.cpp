@@ -140,7 +140,7 @@ bool RecordSource::openFolder(const RecordProgress &progress)
 
 bool RecordSource::read(RecordSink &sink, const RecordProgress &progress)
 {
-    return m_reading && m_reading->read(sink, progress);
+    return state() != RecordState::Unreadable && m_reading->read(sink, progress);
 }
 
 const RecordFacts &RecordSource::facts() const
