@@ -17,23 +17,8 @@ namespace {
 
 using P = Pqa2Bytes;
 
-constexpr qint64 kTime = 1700000000000;
-constexpr qint64 kSeconds = kTime / 1000;
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-P recording(int rows)
-{
-    P file;
-    file.opening().start(kSeconds);
-    for (int i = 1; i <= rows; ++i)
-        file.timed(0xA1000029, kTime + i * 1000, P::f32(float(i)));
-    return file;
-}
+constexpr qint64 kTime = P::kTime;
+constexpr qint64 kSeconds = P::kSeconds;
 
 QByteArray overwritten(QByteArray bytes, int at, const QByteArray &with)
 {
@@ -108,32 +93,32 @@ void TstRecordStates::faultIsNamedWithPlaceAndState_data()
     QTest::addColumn<RecordState>("state");
     QTest::addColumn<qint64>("offset");
     QTest::addColumn<int>("rows");
-    const P whole = recording(9).end(kSeconds + 9);
+    const P whole = P::recording(9).end(kSeconds + 9);
     const QByteArray bytes = whole.bytes();
     const int fifth = whole.offsetOf(8);
     QTest::newRow("whole") << bytes << RecordState::Whole << qint64(0) << 9;
     QTest::newRow("cut inside a block") << bytes.left(fifth + 15) << RecordState::Cut << qint64(fifth) << 4;
     QTest::newRow("cut inside a head") << bytes.left(fifth + 7) << RecordState::Cut << qint64(fifth) << 4;
-    QTest::newRow("without its end") << recording(9).bytes() << RecordState::Cut << qint64(recording(9).bytes().size())
-                                     << 9;
+    QTest::newRow("without its end") << P::recording(9).bytes() << RecordState::Cut
+                                     << qint64(P::recording(9).bytes().size()) << 9;
     QTest::newRow("a head destroyed") << overwritten(bytes, fifth, QByteArray(12, '\xEE')) << RecordState::Broken
                                       << qint64(fifth) << 8;
     QTest::newRow("zeros in the middle") << overwritten(bytes, fifth, QByteArray(48, '\0')) << RecordState::Broken
                                          << qint64(fifth) << 7;
-    QTest::newRow("a block of another length") << recording(2)
+    QTest::newRow("a block of another length") << P::recording(2)
                                                       .timed(0xA1000029, kTime, P::f64(1))
                                                       .timed(0xA1000029, kTime + 3000, P::f32(1))
                                                       .end(kSeconds)
                                                       .bytes()
-                                               << RecordState::Broken << qint64(recording(2).bytes().size()) << 3;
-    QTest::newRow("a time before 1970") << recording(2).timed(0xA1000029, -1, P::f32(1)).end(kSeconds).bytes()
-                                        << RecordState::Broken << qint64(recording(2).bytes().size()) << 2;
+                                               << RecordState::Broken << qint64(P::recording(2).bytes().size()) << 3;
+    QTest::newRow("a time before 1970") << P::recording(2).timed(0xA1000029, -1, P::f32(1)).end(kSeconds).bytes()
+                                        << RecordState::Broken << qint64(P::recording(2).bytes().size()) << 2;
     QTest::newRow("a time behind the year 9999")
-        << recording(2).timed(0xA1000029, 253402300800000, P::f32(1)).end(kSeconds).bytes() << RecordState::Broken
-        << qint64(recording(2).bytes().size()) << 2;
+        << P::recording(2).timed(0xA1000029, 253402300800000, P::f32(1)).end(kSeconds).bytes() << RecordState::Broken
+        << qint64(P::recording(2).bytes().size()) << 2;
     QTest::newRow("a time that is no number")
-        << recording(2).add(0xA1000025, P::f64(std::nan("")) + QByteArray(1208, '\0')).end(kSeconds).bytes()
-        << RecordState::Broken << qint64(recording(2).bytes().size()) << 2;
+        << P::recording(2).add(0xA1000025, P::f64(std::nan("")) + QByteArray(1208, '\0')).end(kSeconds).bytes()
+        << RecordState::Broken << qint64(P::recording(2).bytes().size()) << 2;
     QTest::newRow("foreign") << QByteArray("%PDF-1.4 and more than twenty-four bytes of it") << RecordState::Unreadable
                              << qint64(0) << 0;
     QTest::newRow("another version") << overwritten(bytes, 4, P::le(0x10002010, 4)) << RecordState::Unreadable
@@ -168,7 +153,7 @@ void TstRecordStates::everyPrefixGivesTheBeginningOfTheWhole()
 {
     QFETCH(QString, name);
     QFETCH(QByteArray, table);
-    const QByteArray bytes = bytesOf(QStringLiteral(QUVERA_SOURCE_DIR "/tests/data/") + name);
+    const QByteArray bytes = P::bytesOf(QStringLiteral(QUVERA_SOURCE_DIR "/tests/data/") + name);
     readBytes(bytes);
     QCOMPARE(source.state(), RecordState::Whole);
     const QVector<qint64> whole = kept->times(table);
@@ -208,7 +193,7 @@ void TstRecordStates::everyFlippedBitOfHeadsEndsInAState()
 
 void TstRecordStates::linksInACircleEnd()
 {
-    const P whole = recording(9).end(kSeconds);
+    const P whole = P::recording(9).end(kSeconds);
     for (const int target : { 0, 24, whole.offsetOf(2), whole.offsetOf(5), whole.offsetOf(6) }) {
         readBytes(overwritten(whole.bytes(), whole.offsetOf(6), P::le(quint64(target), 4)));
         QVERIFY(source.state() == RecordState::Broken);
@@ -219,7 +204,7 @@ void TstRecordStates::linksInACircleEnd()
 
 void TstRecordStates::lengthsBeyondTheFileEnd()
 {
-    const P whole = recording(9).end(kSeconds);
+    const P whole = P::recording(9).end(kSeconds);
     for (const quint32 size : { 0xFFFFFFFFU, 0x7FFFFFFFU, 0x80000000U, 0U, 1U, 25U, 4096U }) {
         readBytes(overwritten(whole.bytes(), whole.offsetOf(6) + 8, P::le(size, 4)));
         QVERIFY(source.state() == RecordState::Broken);
@@ -284,7 +269,7 @@ void TstRecordStates::folderWithoutPermissionIsUnreadable()
 void TstRecordStates::folderTakesNoOtherFilesThanItsOwn()
 {
     QVERIFY(QDir().mkpath(path("own")));
-    QVERIFY(recording(2).end(kSeconds).save(path("own/Common.pqa2")));
+    QVERIFY(P::recording(2).end(kSeconds).save(path("own/Common.pqa2")));
     for (const char *name : { "Common_02.pqa2", "Common_1.pqa2", "Common_x.pqa2", "common.pqa2", "Common.pqa2.bak",
                               "Other.pqa2", "Common_-2.pqa2", "Common_1000.pqa2", "Common_99999999999.pqa2" })
         QVERIFY(P::save(path(QStringLiteral("own/") + QLatin1String(name)), "no record"));
@@ -296,7 +281,7 @@ void TstRecordStates::folderTakesNoOtherFilesThanItsOwn()
 void TstRecordStates::emptyFileAmongOthersIsACut()
 {
     QVERIFY(QDir().mkpath(path("empty")));
-    QVERIFY(recording(2).end(kSeconds).save(path("empty/Common.pqa2")));
+    QVERIFY(P::recording(2).end(kSeconds).save(path("empty/Common.pqa2")));
     QVERIFY(P::save(path("empty/U Harmonic(1-50).pqa2"), P::fileHead().left(23)));
     read(path("empty"));
     QCOMPARE(source.state(), RecordState::Cut);
@@ -307,7 +292,7 @@ void TstRecordStates::emptyFileAmongOthersIsACut()
 void TstRecordStates::foreignFileAmongOthersIsDamage()
 {
     QVERIFY(QDir().mkpath(path("foreign")));
-    QVERIFY(recording(2).end(kSeconds).save(path("foreign/Common.pqa2")));
+    QVERIFY(P::recording(2).end(kSeconds).save(path("foreign/Common.pqa2")));
     QVERIFY(P::save(path("foreign/Monitor.pqa2"), QByteArray(100, 'x')));
     read(path("foreign"));
     QCOMPARE(source.state(), RecordState::Broken);
@@ -317,8 +302,8 @@ void TstRecordStates::foreignFileAmongOthersIsDamage()
 void TstRecordStates::missingPartIsDamage()
 {
     QVERIFY(QDir().mkpath(path("missing")));
-    QVERIFY(recording(2).save(path("missing/Common.pqa2")));
-    QVERIFY(recording(3).end(kSeconds).save(path("missing/Common_3.pqa2")));
+    QVERIFY(P::recording(2).save(path("missing/Common.pqa2")));
+    QVERIFY(P::recording(3).end(kSeconds).save(path("missing/Common_3.pqa2")));
     read(path("missing"));
     QCOMPARE(source.state(), RecordState::Broken);
     QCOMPARE(kept->times("frequency").size(), 5);
@@ -329,7 +314,7 @@ void TstRecordStates::fileThatGrowsIsCutUpToItsLastBlock()
 {
     for (int rows = 1; rows <= 4; ++rows) {
         // As the writer leaves it at each of its steps: the block, not yet linked; then linked.
-        const P now = recording(rows);
+        const P now = P::recording(rows);
         const QByteArray linked = now.bytes();
         const int before = now.offsetOf(2 + rows); // the block in front of the last one
         for (const QByteArray &bytes : { overwritten(linked, before, P::le(0xFFFFFFFF, 4)), linked }) {
@@ -339,9 +324,9 @@ void TstRecordStates::fileThatGrowsIsCutUpToItsLastBlock()
         }
     }
     // It goes on between the look and the reading, with kinds of blocks that were not there.
-    QVERIFY(recording(2).save(path("grows.pqa2")));
+    QVERIFY(P::recording(2).save(path("grows.pqa2")));
     QVERIFY(source.open(path("grows.pqa2")));
-    QVERIFY(recording(3).timed(0xA1000064, kTime, P::f32(1)).end(kSeconds).save(path("grows.pqa2")));
+    QVERIFY(P::recording(3).timed(0xA1000064, kTime, P::f32(1)).end(kSeconds).save(path("grows.pqa2")));
     kept = std::make_unique<KeptRecord>();
     QVERIFY(source.read(*kept));
     QCOMPARE(kept->complaints, QStringList());
@@ -351,7 +336,7 @@ void TstRecordStates::fileThatGrowsIsCutUpToItsLastBlock()
 
 void TstRecordStates::fileThatShrinksWhileItIsReadEnds()
 {
-    const QByteArray bytes = bytesOf(QStringLiteral(QUVERA_SOURCE_DIR "/tests/data/monitor.pqa2"));
+    const QByteArray bytes = P::bytesOf(QStringLiteral(QUVERA_SOURCE_DIR "/tests/data/monitor.pqa2"));
     for (int length = 0; length < bytes.size(); length += 37) {
         QVERIFY(P::save(path("shrinks.pqa2"), bytes));
         QVERIFY(source.open(path("shrinks.pqa2")));
@@ -365,7 +350,7 @@ void TstRecordStates::fileThatShrinksWhileItIsReadEnds()
 
 void TstRecordStates::sparseFileOfFourGigabytesEnds()
 {
-    const QByteArray bytes = recording(3).bytes();
+    const QByteArray bytes = P::recording(3).bytes();
     QVERIFY(P::save(path("sparse.pqa2"), bytes));
     QVERIFY(::truncate(QFile::encodeName(path("sparse.pqa2")).constData(), 0x100001000) == 0);
     read(path("sparse.pqa2"));
@@ -384,7 +369,7 @@ void TstRecordStates::folderOfAHundredThousandFilesEnds()
         QVERIFY(fd >= 0);
         ::close(fd);
     }
-    QVERIFY(recording(2).save(path("many/Common.pqa2")));
+    QVERIFY(P::recording(2).save(path("many/Common.pqa2")));
     read(path("many"));
     QCOMPARE(source.state(), RecordState::Cut);
     QCOMPARE(kept->times("frequency").size(), 2);
@@ -393,8 +378,8 @@ void TstRecordStates::folderOfAHundredThousandFilesEnds()
 
 void TstRecordStates::moreEventsThanAnyRecordingHasAreTold()
 {
-    QByteArray bytes = recording(1).bytes();
-    const int last = recording(1).offsetOf(4);
+    QByteArray bytes = P::recording(1).bytes();
+    const int last = P::recording(1).offsetOf(4);
     bytes = overwritten(bytes, last, P::le(quint64(bytes.size()), 4));
     constexpr int kEvents = 70000;
     for (int i = 0; i < kEvents; ++i)
@@ -410,7 +395,7 @@ void TstRecordStates::damagedCaptureHasAState_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     QTest::addColumn<RecordState>("state");
-    const QByteArray bytes = bytesOf(QStringLiteral(QUVERA_SOURCE_DIR "/tests/data/capture.wav"));
+    const QByteArray bytes = P::bytesOf(QStringLiteral(QUVERA_SOURCE_DIR "/tests/data/capture.wav"));
     QTest::newRow("whole") << bytes << RecordState::Whole;
     QTest::newRow("torn chunk") << bytes.left(bytes.size() - 3) << RecordState::Cut;
     QTest::newRow("head alone") << bytes.left(88) << RecordState::Cut;

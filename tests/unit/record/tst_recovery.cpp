@@ -12,24 +12,8 @@ namespace {
 
 using P = Pqa2Bytes;
 
-constexpr qint64 kTime = 1700000000000;
-constexpr qint64 kSeconds = kTime / 1000;
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// An hour of one-second intervals in short.
-P recording(int rows)
-{
-    P file;
-    file.opening().start(kSeconds);
-    for (int i = 1; i <= rows; ++i)
-        file.timed(0xA1000029, kTime + i * 1000, P::f32(float(i)));
-    return file;
-}
+constexpr qint64 kTime = P::kTime;
+constexpr qint64 kSeconds = P::kSeconds;
 
 } // namespace
 
@@ -85,13 +69,13 @@ private slots:
 
 void TstRecovery::everyCutGivesAWholeRecordingOfTheBlocksBefore()
 {
-    const P file = recording(4).end(kSeconds + 4);
+    const P file = P::recording(4).end(kSeconds + 4);
     const QByteArray bytes = file.bytes();
     const int firstRow = file.offsetOf(4);
     for (int length = firstRow; length < bytes.size(); ++length) {
         QVERIFY(P::save(path("cut.pqa2"), bytes.left(length)));
         QCOMPARE(recover("cut.pqa2", "sound.pqa2"), Recovery::Done);
-        QCOMPARE(bytesOf(path("cut.pqa2")), bytes.left(length));
+        QCOMPARE(P::bytesOf(path("cut.pqa2")), bytes.left(length));
         QVector<qint64> expected;
         for (int row = 1; row <= (length - firstRow) / 24 && row <= 4; ++row)
             expected << kTime + row * 1000;
@@ -104,7 +88,7 @@ void TstRecovery::everyCutGivesAWholeRecordingOfTheBlocksBefore()
 
 void TstRecovery::damageInTheMiddleIsLeftOut()
 {
-    const P file = recording(9).end(kSeconds + 9);
+    const P file = P::recording(9).end(kSeconds + 9);
     QByteArray bytes = file.bytes();
     bytes.replace(file.offsetOf(8), 12, QByteArray(12, '\xEE')); // the head of the fifth row
     QVERIFY(P::save(path("broken.pqa2"), bytes));
@@ -114,7 +98,7 @@ void TstRecovery::damageInTheMiddleIsLeftOut()
 
 void TstRecovery::blockThatCannotBeRightIsLeftOut()
 {
-    QVERIFY(recording(1)
+    QVERIFY(P::recording(1)
                 .timed(0xA1000029, -5, P::f32(1))
                 .timed(0xA1000020, kTime + 2000, P::f32(1)) // 13 values for each of four inputs belong there
                 .timed(0xA1000029, kTime + 3000, P::f32(3))
@@ -134,17 +118,17 @@ void TstRecovery::wholeFileComesOutTheSame_data()
 void TstRecovery::wholeFileComesOutTheSame()
 {
     QFETCH(QString, name);
-    const QByteArray bytes = bytesOf(QStringLiteral(QUVERA_SOURCE_DIR "/tests/data/") + name);
+    const QByteArray bytes = P::bytesOf(QStringLiteral(QUVERA_SOURCE_DIR "/tests/data/") + name);
     QVERIFY(!bytes.isEmpty());
     QVERIFY(P::save(path("same"), bytes));
     QCOMPARE(recover("same", "copy"), Recovery::Done);
-    QCOMPARE(bytesOf(path("copy")), bytes);
+    QCOMPARE(P::bytesOf(path("copy")), bytes);
 }
 
 void TstRecovery::folderIsRecoveredFileByFile()
 {
     QVERIFY(QDir().mkpath(path("record")));
-    const QByteArray common = recording(3).bytes();
+    const QByteArray common = P::recording(3).bytes();
     QVERIFY(P::save(path("record/Common.pqa2"), common));
     QVERIFY(P().opening().timed(0xA1000030, kTime, P::countUp(0, 208)).save(path("record/U Harmonic(1-50).pqa2")));
     QVERIFY(P::save(path("record/I Harmonic(1-50).pqa2"), {}));
@@ -153,14 +137,14 @@ void TstRecovery::folderIsRecoveredFileByFile()
              QStringList({ "Common.pqa2", "U Harmonic(1-50).pqa2" })); // of the empty one there is nothing
     QCOMPARE(wholeTimes("sound", "frequency").size(), 3);
     QCOMPARE(wholeTimes("sound", "harmonics_u").size(), 1);
-    QCOMPARE(bytesOf(path("record/Common.pqa2")), common);
+    QCOMPARE(P::bytesOf(path("record/Common.pqa2")), common);
 }
 
 void TstRecovery::missingPartsAreClosedUp()
 {
     QVERIFY(QDir().mkpath(path("gap")));
-    QVERIFY(recording(2).save(path("gap/Common.pqa2")));
-    QVERIFY(recording(3).end(kSeconds + 9).save(path("gap/Common_3.pqa2")));
+    QVERIFY(P::recording(2).save(path("gap/Common.pqa2")));
+    QVERIFY(P::recording(3).end(kSeconds + 9).save(path("gap/Common_3.pqa2")));
     QCOMPARE(recover("gap", "closed"), Recovery::Done);
     QCOMPARE(QDir(path("closed")).entryList(QDir::Files), QStringList({ "Common.pqa2", "Common_2.pqa2" }));
     QCOMPARE(wholeTimes("closed", "frequency").size(), 5);
@@ -168,7 +152,7 @@ void TstRecovery::missingPartsAreClosedUp()
 
 void TstRecovery::tornCaptureKeepsItsWholeFrames()
 {
-    const QByteArray bytes = bytesOf(QStringLiteral(QUVERA_SOURCE_DIR "/tests/data/capture.wav"));
+    const QByteArray bytes = P::bytesOf(QStringLiteral(QUVERA_SOURCE_DIR "/tests/data/capture.wav"));
     QVERIFY(P::save(path("torn.wav"), bytes.left(bytes.size() - 5)));
     QCOMPARE(recover("torn.wav", "sound.wav"), Recovery::Done);
     RecordSource source;
@@ -191,7 +175,7 @@ void TstRecovery::pageWithATornRecordKeepsItsPicture()
     const QByteArray rest = P::le(0x02020006, 4) + P::le(0xCC33C3C3, 4);
     QVERIFY(P::save(path("torn.pqa"), head + P::le(1000, 4) + rest + image + "only a little"));
     QCOMPARE(recover("torn.pqa", "sound.pqa"), Recovery::Done);
-    QCOMPARE(bytesOf(path("sound.pqa")), head + P::le(0, 4) + rest + image + QByteArray::fromHex("AA55"));
+    QCOMPARE(P::bytesOf(path("sound.pqa")), head + P::le(0, 4) + rest + image + QByteArray::fromHex("AA55"));
 }
 
 void TstRecovery::pageWithATornPictureHasNothing()
@@ -211,12 +195,12 @@ void TstRecovery::logKeepsItsWholeLines()
     QVERIFY(P::save(path("torn.csv"),
                     head + first + QByteArray(30, '\0') + "\n2023/11/14  22:13:21,1,\n" + last + "2023/11/14  22:1"));
     QCOMPARE(recover("torn.csv", "sound.csv"), Recovery::Done);
-    QCOMPARE(bytesOf(path("sound.csv")), head + first + last);
+    QCOMPARE(P::bytesOf(path("sound.csv")), head + first + last);
 }
 
 void TstRecovery::interruptedRecoveryLeavesNothing()
 {
-    QVERIFY(recording(3).save(path("long.pqa2")));
+    QVERIFY(P::recording(3).save(path("long.pqa2")));
     QCOMPARE(recover("long.pqa2", "half.pqa2", [](qint64, qint64) { return false; }), Recovery::Ended);
     QVERIFY(!QFile::exists(path("half.pqa2")));
     const QStringList hidden
@@ -227,7 +211,7 @@ void TstRecovery::interruptedRecoveryLeavesNothing()
 void TstRecovery::outputInsideTheInputIsRefused()
 {
     QVERIFY(QDir().mkpath(path("input")));
-    QVERIFY(recording(3).save(path("input/Common.pqa2")));
+    QVERIFY(P::recording(3).save(path("input/Common.pqa2")));
     QCOMPARE(recover("input", "input/sound"), Recovery::Failed);
     QVERIFY(!error.isEmpty());
     QCOMPARE(QDir(path("input")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
