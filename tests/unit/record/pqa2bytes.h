@@ -111,6 +111,7 @@ public:
     bool save(const QString &path) const { return save(path, bytes()); }
     static bool save(const QString &path, const QByteArray &bytes)
     {
+        QFile::remove(path); // some file systems wait for the disk when a file is written anew
         QFile file(path);
         return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
     }
