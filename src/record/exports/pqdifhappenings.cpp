@@ -1,6 +1,5 @@
 #include "record/exports/pqdifhappenings.h"
 
-#include "record/exports/asciitext.h"
 #include "record/exports/pqdifobservation.h"
 #include "record/exports/waveformcheck.h"
 #include "record/tables/blockcolumns.h"
@@ -139,8 +138,7 @@ bool PqdifHappenings::event(const RecordedEvent &event)
     if (m_categories.size() < kMostNamed)
         m_categories.insert(event.number, categoryOf(kind, seconds, m_facts.nominalFrequency));
     const QByteArray channel = channelOf(event, m_facts.joinMode);
-    const QByteArray name
-        = AsciiText::of(QString::fromUtf8(eventKindName(kind)), 100) + (channel.isEmpty() ? "" : " ") + channel;
+    const QByteArray name = eventKindName(kind) + (channel.isEmpty() ? "" : " ") + channel;
     return listEvent(event, kind, seconds) && keepCurves(event, name, seconds);
 }
 
@@ -245,7 +243,7 @@ bool PqdifHappenings::waveformBegin(const RecordedWaveform &waveform)
         if (!std::isfinite(input.factor))
             continue;
         PqdifChannel channel
-            = valueChannel(AsciiText::of(QString::fromUtf8(input.name), 100) + " (waveform)", input.channel,
+            = valueChannel(input.name + " (waveform)", input.channel,
                            input.unit == "A" ? PqdifMeasured::Current : PqdifMeasured::Voltage,
                            { kSeriesVal, pqdifUnit(input.unit), kQcInstantaneous, PqdifStorage::Scaled, 0 });
         channel.type = kWaveform;
