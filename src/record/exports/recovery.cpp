@@ -96,7 +96,7 @@ Recovery::Result Recovery::copyBlocks(const RecordSource &source, const RecordFi
     Pqa2Copy copy(&walk, &to);
     Pqa2Block block;
     for (qint64 count = 0; walk.next(&block); ++count) {
-        if (!check.problem(block, walk.payload(block, BlockCheck::kLook)))
+        if (!check.inspect(block, walk.payload(block, BlockCheck::kLook)).problem)
             copy.add(block);
         if (to.hasFailed())
             return Failed;
