@@ -1664,6 +1664,17 @@ réseau</translation>
     </message>
 </context>
 <context>
+    <name>RecordView</name>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>Lecture...</translation>
+    </message>
+</context>
+<context>
     <name>RecordingParam</name>
     <message>
         <source>All</source>

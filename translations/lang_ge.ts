@@ -1664,6 +1664,17 @@ signale</translation>
     </message>
 </context>
 <context>
+    <name>RecordView</name>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>Lesen...</translation>
+    </message>
+</context>
+<context>
     <name>RecordingParam</name>
     <message>
         <source>All</source>

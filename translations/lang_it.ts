@@ -1664,6 +1664,17 @@ in rete</translation>
     </message>
 </context>
 <context>
+    <name>RecordView</name>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>Lettura...</translation>
+    </message>
+</context>
+<context>
     <name>RecordingParam</name>
     <message>
         <source>All</source>
