@@ -2240,6 +2240,10 @@ Supprimez des fichiers en mémoire.</translation>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>Appareil, déséquilibre et flicker : une valeur sous la limite suffit. D&apos;où l&apos;autre résultat.</translation>
     </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>valeur nominale inconnue</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2240,6 +2240,10 @@ Eliminare file nella memoria.</translation>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>Strumento, squilibrio e flicker: basta un valore sotto il limite. Da qui il risultato diverso.</translation>
     </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>valore nominale sconosciuto</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

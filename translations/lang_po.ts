@@ -2240,6 +2240,10 @@ Usuń pliki w pamięci.</translation>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>Przyrząd, asymetria i migotanie: wystarcza jedna wartość poniżej granicy. Stąd inny wynik.</translation>
     </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>wartość znamionowa nieznana</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2240,6 +2240,10 @@ Elimine ficheiros na memória.</translation>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>Aparelho, desequilíbrio e tremulação: basta um valor abaixo do limite. Daí o outro resultado.</translation>
     </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>o valor nominal não é conhecido</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

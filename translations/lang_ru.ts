@@ -2174,7 +2174,7 @@ Delete files in Memory.</source>
     </message>
     <message>
         <source>Worst</source>
-        <translation>Худшая</translation>
+        <translation>Худшее</translation>
     </message>
     <message>
         <source>When</source>
@@ -2239,6 +2239,10 @@ Delete files in Memory.</source>
     <message>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>Прибор, несимметрия и фликер: достаточно одного значения ниже нормы. Отсюда другой результат.</translation>
+    </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>номинальное значение неизвестно</translation>
     </message>
 </context>
 <context>

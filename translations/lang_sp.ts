@@ -2240,6 +2240,10 @@ Borre archivos en la memoria.</translation>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>Equipo, desequilibrio y flicker: basta un valor por debajo del límite. De ahí el otro resultado.</translation>
     </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>se desconoce el valor nominal</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

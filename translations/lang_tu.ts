@@ -2240,6 +2240,10 @@ Bellekten dosya silin.</translation>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>Cihaz, dengesizlik ve fliker: sınırın altında tek değer yeterlidir. Farklı sonuç bundandır.</translation>
     </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>nominal değer bilinmiyor</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2240,6 +2240,10 @@ Delete files in Memory.</source>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>仪器，不平衡和闪变：有一个值低于限值即可，因此结果不同。</translation>
     </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>标称值未知</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

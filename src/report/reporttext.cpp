@@ -253,6 +253,8 @@ QString Report::reason(NotJudgedBecause why)
         return tr("its intervals are longer than ten minutes");
     case NotJudgedBecause::NotTheInterval:
         return tr("its intervals are longer than three seconds");
+    case NotJudgedBecause::NoNominal:
+        return tr("its nominal value is not known");
     case NotJudgedBecause::NoValue:
         return tr("there is no complete value");
     case NotJudgedBecause::NotRecorded:
