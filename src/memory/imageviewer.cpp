@@ -1,9 +1,12 @@
 #include "memory/imageviewer.h"
 
 #include "storage/wholefile.h"
+#include "widgets/controls/frontkeys.h"
+#include "widgets/text/keymap.h"
 
 #include <QBuffer>
 #include <QImageReader>
+#include <QKeyEvent>
 #include <QPainter>
 
 namespace {
@@ -32,11 +35,25 @@ QImage ImageViewer::read(const QString &path)
 ImageViewer *ImageViewer::viewImage(const QImage &image, QWidget *page)
 {
     auto *viewer = new ImageViewer(image, page);
-    viewer->cover();
+    viewer->show();
+    viewer->raise();
+    viewer->setFocus();
     return viewer;
 }
 
-ImageViewer::ImageViewer(const QImage &image, QWidget *page) : CoverView(page), m_image(image) { }
+ImageViewer::ImageViewer(const QImage &image, QWidget *page) : QWidget(page->window()), m_page(page), m_image(image)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setFocusPolicy(Qt::StrongFocus);
+    setGeometry(page->window()->rect());
+}
+
+void ImageViewer::leave()
+{
+    QWidget *const page = m_page;
+    close();
+    page->setFocus();
+}
 
 void ImageViewer::paintEvent(QPaintEvent *)
 {
@@ -44,4 +61,19 @@ void ImageViewer::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), Qt::black);
     painter.drawImage(QRect(QPoint((width() - m_image.width()) / 2, (height() - m_image.height()) / 2), m_image.size()),
                       m_image);
+}
+
+void ImageViewer::keyPressEvent(QKeyEvent *event)
+{
+    event->setAccepted(FrontKeys::press(*event, [this](int key) {
+        if (key == Qt::Key_F5)
+            leave();
+        return key == Qt::Key_F5;
+    }));
+}
+
+void ImageViewer::keyReleaseEvent(QKeyEvent *event)
+{
+    keyMap::keyReleaseMap(event->key());
+    event->ignore();
 }

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "memory/coverview.h"
-
 #include <QImage>
+#include <QWidget>
 
-/// A picture over the whole screen.
-class ImageViewer : public CoverView
+/// A picture over the whole screen. Soft key 5 leaves it; other keys rise to the window below, which knows light and
+/// power.
+class ImageViewer : public QWidget
 {
     Q_OBJECT
 
@@ -20,7 +20,12 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
+    void leave();
+
+    QWidget *const m_page;
     const QImage m_image;
 };

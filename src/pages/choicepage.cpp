@@ -66,8 +66,6 @@ void ChoicePage::finishChoices()
 void ChoicePage::init_parameter()
 {
     LivePage::init_parameter();
-    if (m_kind == AnyOf)
-        m_cursor = 0;
     load();
     showCursor();
 }

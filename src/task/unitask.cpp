@@ -389,6 +389,9 @@ void UniTask::datagramAggregation(const QByteArray &bytes)
     const Call call(this);
     if (!DataTypes::fits(DatagramAggregation, bytes))
         return;
+    // Above the nominal frequency its cycles are shorter than the waveforms: at times two come between two of these.
+    if (m_aggregationFresh && isLive())
+        tellAggregation();
     DataTypes::datagramAggregation(m_aggregation.get(), bytes.constData(), { m_scales, m_settingConfig_g.derived() });
 
     if (!isLive()) {
@@ -408,6 +411,7 @@ void UniTask::datagramAggregation(const QByteArray &bytes)
 
 void UniTask::tellAggregation()
 {
+    m_aggregationFresh = false; // used up, however many ask for a new one
     tell([this](TaskFunction &function) { function.aggregation(*m_aggregation); });
     if (m_toldSecond == m_energy.seconds())
         return;
@@ -457,8 +461,7 @@ void UniTask::datagramWave(const QByteArray &bytes)
     driveRecording();
     if (!isLive())
         return;
-    // Used up by this datagram, however many ask for a new aggregation.
-    if (std::exchange(m_aggregationFresh, false))
+    if (m_aggregationFresh)
         tellAggregation();
     captureTransient();
     const QList<EventWave> complete = m_eventWaves.take(*m_wave);

@@ -28,7 +28,6 @@ public:
     {
         int number; // among the parts of the recording
         QString path;
-        bool isBroken; // there are blocks behind damage
     };
 
     BlockStream(std::vector<Part> parts, const BlockColumns &columns, const BlockCheck &check);

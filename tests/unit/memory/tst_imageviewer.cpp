@@ -89,13 +89,17 @@ void TstImageViewer::aDarkScreenIsOnlyWoken()
 
 void TstImageViewer::whatIsNoPictureIsNotOpened()
 {
-    store("a.txt");
+    store("a.pqa");
+    QVERIFY(QDir().mkpath(Target::path(kStorage + "folder.png")));
     Screen screen;
-    Answers answers("L");
-    screen.press({ F4 });
-    screen.wait();
-    QVERIFY(!screen.window.findChild<ImageViewer *>());
-    QVERIFY(answers.said.isEmpty());
+    for (int row = 0; row < 2; ++row) {
+        Answers answers("L");
+        screen.press({ F4 });
+        screen.wait();
+        QVERIFY(!screen.window.findChild<ImageViewer *>());
+        QVERIFY(answers.said.isEmpty());
+        screen.press({ Down });
+    }
 }
 
 void TstImageViewer::aBrokenPictureIsSaid_data()

@@ -18,6 +18,7 @@ private slots:
 
     void aRecordingIsPlannedByTheUsersChoice();
     void itRunsForItsHoursByTheProcessorsTime();
+    void ofTwoAggregationsBetweenTwoWaveformsBothCount();
     void onlyHarmonicItemsRecordTheRmsGroupAnyway();
     void stoppingWritesAFinalPartialInterval();
     void theWaveformThatEndsItStillBringsTheLastAggregation();
@@ -132,6 +133,29 @@ void TstRecording::aRecordingIsPlannedByTheUsersChoice()
     QCOMPARE(m_task->recordStart(), kNow + 86'400'000);
     QCOMPARE(m_task->recordLife(), qint64(86'400'000) * 1000);
     QCOMPARE(storage(), QStringList(".running")); // the plan, and no folder
+}
+
+void TstRecording::ofTwoAggregationsBetweenTwoWaveformsBothCount()
+{
+    start();
+    prepare(RecordInfo::FrequencyInterval);
+    feed(0, 10'200);
+    QVERIFY(m_task->isRecording());
+    const auto take = [this](float hertz, qint64 at) {
+        Payload payload = aggregation(hertz);
+        payload.set(0, quint32(kNow + at)).set(1, quint32(quint64(kNow + at) >> 32));
+        m_task->datagramAggregation(payload.bytes());
+    };
+    take(51.5f, 10'200);
+    take(48.5f, 10'390);
+    m_task->datagramWave(wave(0, kNow + 10'400).bytes());
+    feed(10'600, 20'400);
+    QCOMPARE(blocks(0xA1000064).size(), 1);
+    float highest, lowest;
+    std::memcpy(&highest, blocks(0xA1000064)[0].payload.constData() + 8, sizeof highest);
+    std::memcpy(&lowest, blocks(0xA10000A4)[0].payload.constData() + 8, sizeof lowest);
+    QCOMPARE(highest, 51.5f);
+    QCOMPARE(lowest, 48.5f);
 }
 
 void TstRecording::itRunsForItsHoursByTheProcessorsTime()
