@@ -19,6 +19,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <algorithm>
 #include <clocale>
 #include <cmath>
 #include <cstdio>
@@ -164,8 +165,10 @@ public:
         constexpr qint64 kFarBehindMs = 20000;
         constexpr qint64 kCaughtUpMs = 1500;
         constexpr int kLookMs = 300;
-        const auto behind
-            = [] { return startMs() + qint64(1000 * status(QStringLiteral("t")).toDouble()) - measuredUntil(); };
+        const auto behind = [] {
+            const qint64 taken = std::max(measuredUntil(), startMs()); // the start before the first
+            return startMs() + qint64(1000 * status(QStringLiteral("t")).toDouble()) - taken;
+        };
         QElapsedTimer timer;
         timer.start();
         bool goesOn = setSpeed(speed);

@@ -56,6 +56,13 @@ struct Expected
     double value; // V or A
 };
 
+/// The three phases at one half cycle.
+struct Series
+{
+    double time; // s
+    double value[3];
+};
+
 class Model
 {
 public:
@@ -125,14 +132,82 @@ public:
         return seconds + 0.1;
     }
 
-private:
-    /// The three phases at one half cycle.
-    struct Series
-    {
-        double time; // s
-        double value[3];
-    };
+    // Events of a series of half cycles. Levels of voltages are shares of \a nominal.
 
+    static void findDips(const QVector<Series> &series, QVector<Expected> *list, double nominal = kVolts)
+    {
+        double start = -1, worst[3] = {};
+        bool interrupted = false;
+        bool armed = true; // behind an event a half cycle without a dip must come before the next
+        for (const Series &entry : series) {
+            const double low = *std::min_element(entry.value, entry.value + 3);
+            const double high = *std::max_element(entry.value, entry.value + 3);
+            if (start < 0 && !armed) {
+                armed = low >= 0.9 * nominal;
+                continue;
+            }
+            if (start < 0 && low < 0.9 * nominal) {
+                start = entry.time;
+                std::fill_n(worst, 3, 1e9);
+            }
+            if (start < 0)
+                continue;
+            for (int phase = 0; phase < 3; ++phase)
+                worst[phase] = std::min(worst[phase], entry.value[phase]);
+            if (!interrupted && high < 0.01 * nominal) {
+                interrupted = true;
+                start = entry.time; // the dip that led here is part of the interruption, which counts from now
+            }
+            if (interrupted ? high < 0.03 * nominal : low < 0.92 * nominal)
+                continue;
+            const double value = *std::min_element(worst, worst + 3);
+            list->append({ interrupted ? EventInterruption : EventDip, alike(worst, value, nominal), start,
+                           entry.time - start, value });
+            start = -1;
+            interrupted = false;
+            armed = false;
+        }
+    }
+
+    static void findSwells(const QVector<Series> &series, QVector<Expected> *list, double nominal = kVolts)
+    {
+        double start = -1, worst[3] = {};
+        for (const Series &entry : series) {
+            const double high = *std::max_element(entry.value, entry.value + 3);
+            if (start < 0 && high > 1.1 * nominal) {
+                start = entry.time;
+                std::fill_n(worst, 3, 0.0);
+            }
+            if (start < 0)
+                continue;
+            for (int phase = 0; phase < 3; ++phase)
+                worst[phase] = std::max(worst[phase], entry.value[phase]);
+            if (high > 1.08 * nominal)
+                continue;
+            const double value = *std::max_element(worst, worst + 3);
+            list->append({ EventSwell, alike(worst, value, nominal), start, entry.time - start, value });
+            start = -1;
+        }
+    }
+
+    static void findInrush(const QVector<Series> &series, int phase, QVector<Expected> *list)
+    {
+        double start = -1, worst = 0;
+        for (const Series &entry : series) {
+            if (start < 0 && entry.value[phase] >= 2.5)
+                start = entry.time;
+            if (start < 0)
+                continue;
+            worst = std::max(worst, entry.value[phase]);
+            if (entry.value[phase] > 2.475)
+                continue;
+            list->append({ EventInrush, 1u << phase, start, entry.time - start, worst });
+            start = -1;
+            worst = 0;
+        }
+    }
+
+private:
     static double factorAt(const Part &part, double t)
     {
         if (t < 0)
@@ -156,85 +231,12 @@ private:
     }
 
     /// The phases whose worst value is within 0.3 % of the worst of all.
-    static quint32 alike(const double (&worst)[3], double value)
+    static quint32 alike(const double (&worst)[3], double value, double nominal)
     {
         quint32 bits = 0;
         for (int phase = 0; phase < 3; ++phase)
-            bits |= std::fabs(worst[phase] - value) <= 0.003 * kVolts ? 1u << phase : 0u;
+            bits |= std::fabs(worst[phase] - value) <= 0.003 * nominal ? 1u << phase : 0u;
         return bits;
-    }
-
-    static void findDips(const QVector<Series> &series, QVector<Expected> *list)
-    {
-        double start = -1, worst[3] = {};
-        bool interrupted = false;
-        bool armed = true; // behind an event a half cycle without a dip must come before the next
-        for (const Series &entry : series) {
-            const double low = *std::min_element(entry.value, entry.value + 3);
-            const double high = *std::max_element(entry.value, entry.value + 3);
-            if (start < 0 && !armed) {
-                armed = low >= 0.9 * kVolts;
-                continue;
-            }
-            if (start < 0 && low < 0.9 * kVolts) {
-                start = entry.time;
-                std::fill_n(worst, 3, 1e9);
-            }
-            if (start < 0)
-                continue;
-            for (int phase = 0; phase < 3; ++phase)
-                worst[phase] = std::min(worst[phase], entry.value[phase]);
-            if (!interrupted && high < 0.01 * kVolts) {
-                interrupted = true;
-                start = entry.time; // the dip that led here is part of the interruption, which counts from now
-            }
-            if (interrupted ? high < 0.03 * kVolts : low < 0.92 * kVolts)
-                continue;
-            const double value = *std::min_element(worst, worst + 3);
-            list->append(
-                { interrupted ? EventInterruption : EventDip, alike(worst, value), start, entry.time - start, value });
-            start = -1;
-            interrupted = false;
-            armed = false;
-        }
-    }
-
-    static void findSwells(const QVector<Series> &series, QVector<Expected> *list)
-    {
-        double start = -1, worst[3] = {};
-        for (const Series &entry : series) {
-            const double high = *std::max_element(entry.value, entry.value + 3);
-            if (start < 0 && high > 1.1 * kVolts) {
-                start = entry.time;
-                std::fill_n(worst, 3, 0.0);
-            }
-            if (start < 0)
-                continue;
-            for (int phase = 0; phase < 3; ++phase)
-                worst[phase] = std::max(worst[phase], entry.value[phase]);
-            if (high > 1.08 * kVolts)
-                continue;
-            const double value = *std::max_element(worst, worst + 3);
-            list->append({ EventSwell, alike(worst, value), start, entry.time - start, value });
-            start = -1;
-        }
-    }
-
-    static void findInrush(const QVector<Series> &series, int phase, QVector<Expected> *list)
-    {
-        double start = -1, worst = 0;
-        for (const Series &entry : series) {
-            if (start < 0 && entry.value[phase] >= 2.5)
-                start = entry.time;
-            if (start < 0)
-                continue;
-            worst = std::max(worst, entry.value[phase]);
-            if (entry.value[phase] > 2.475)
-                continue;
-            list->append({ EventInrush, 1u << phase, start, entry.time - start, worst });
-            start = -1;
-            worst = 0;
-        }
     }
 
     static constexpr double kPhase[3] = { 0, -120, 120 }; // degrees at time 0

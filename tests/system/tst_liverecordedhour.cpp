@@ -1,14 +1,9 @@
 // An hour of the recorder in the processor's time: every interval of its files beside the true signal.
-#include "livegraph.h"
+#include "recordedrun.h"
 #include "model/channelset.h"
-#include "platform/diskworker.h"
-#include "platform/target.h"
 #include "settings/config_data.h"
-#include "settings/recordgroups.h"
 #include "settings/recordinfo.h"
-#include "unit/record/readblocks.h"
 
-#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -70,14 +65,6 @@ double watts(const Supply &supply, int phase)
     return supply.volts[phase] * supply.amps[phase] * kPowerFactor;
 }
 
-template <typename T> T valueAt(const ReadBlock &block, int offset)
-{
-    T value {};
-    if (offset + int(sizeof value) <= block.payload.size())
-        std::memcpy(&value, block.payload.constData() + offset, sizeof value);
-    return value;
-}
-
 } // namespace
 
 /// Volts, amperes, hertz, powers, energies, unbalance, spectra and flicker of a recording.
@@ -98,10 +85,10 @@ private:
     void readFiles();
     /// Mean of a quantity in the time of an interval, as the signal has it.
     template <typename Quantity> double meanOf(int interval, Quantity quantity) const;
-    QList<ReadBlock> of(quint32 type) const { return m_blocks.value(type); }
+    QList<QByteArray> of(quint32 type) const { return m_run.of(type); }
 
     std::unique_ptr<LiveGraph> m_live;
-    QMap<quint32, QList<ReadBlock>> m_blocks;
+    RecordedRun m_run;
     QVector<double> m_ends; // of the start and the intervals, s of the signal
 };
 
@@ -121,15 +108,7 @@ void TstLiveRecordedHour::initTestCase()
     QVERIFY2(m_live->start({ QStringLiteral("--scenario"), path }), qPrintable(m_live->desk().error()));
     QVERIFY(LiveGraph::open(QStringLiteral("power")));
 
-    // The instrument's clock goes with the processor's: energies are counted by it.
-    connect(g_unitask, &UniTask::aggregationTaken, this,
-            [last = qint64(0)](const __datagram_aggregation *record) mutable {
-                if (last == 0)
-                    Clock::setForTest(record->time);
-                else
-                    Clock::advance(record->time - last);
-                last = record->time;
-            });
+    RecordedRun::followProcessor(this);
     QVERIFY(LiveGraph::runUntil([] { return g_unitask->aggregation().time > 0; }, 1));
 }
 
@@ -165,20 +144,11 @@ void TstLiveRecordedHour::anHourIsRecorded()
 
 void TstLiveRecordedHour::readFiles()
 {
-    DiskWorker::slow().wait();
-    const QDir storage(Target::path(QStringLiteral("/mnt/storage")));
-    const QStringList folders = storage.entryList({ QStringLiteral("* Hour") }, QDir::Dirs);
-    QCOMPARE(folders.size(), 1);
-    for (const RecordFileRow &row : recordFiles()) {
-        QFile file(storage.filePath(folders[0] + QLatin1Char('/') + QLatin1String(row.name)));
-        QVERIFY2(file.open(QIODevice::ReadOnly), row.name);
-        for (const ReadBlock &block : readBlocks(file.readAll()))
-            m_blocks[block.type] << block;
-    }
-    const QList<ReadBlock> intervals = of(0xA1000029);
+    QVERIFY(m_run.read(QStringLiteral("Hour")));
+    const QList<QByteArray> intervals = of(0xA1000029);
     QVERIFY(!intervals.isEmpty());
-    for (const ReadBlock &block : intervals)
-        m_ends << double(valueAt<qint64>(block, 0) - LiveGraph::startMs()) / 1000;
+    for (const QByteArray &block : intervals)
+        m_ends << RecordedRun::secondsOf(block);
     m_ends.prepend(m_ends.first() - 3000 / 50.02);
 }
 
@@ -227,7 +197,7 @@ void TstLiveRecordedHour::everyIntervalHoldsTheSignal()
             return unbalance(supply);
         }
     };
-    const QList<ReadBlock> blocks = of(type);
+    const QList<QByteArray> blocks = of(type);
     QCOMPARE(blocks.size(), m_ends.size() - 1);
     const double change = std::fabs(truth(kSupplies[1]) - truth(kSupplies[0]));
     for (int i = 0; i < blocks.size(); ++i) {
@@ -243,10 +213,10 @@ void TstLiveRecordedHour::everyIntervalHoldsTheSignal()
 void TstLiveRecordedHour::spectraHoldTheHarmonics()
 {
     // Of each channel: distortion, fundamental, 50 lines.
-    const QList<ReadBlock> volts = of(0xA1000030), amps = of(0xA1000031);
+    const QList<QByteArray> volts = of(0xA1000030), amps = of(0xA1000031);
     QCOMPARE(volts.size(), m_ends.size() - 1);
     QCOMPARE(amps.size(), m_ends.size() - 1);
-    const auto line = [](const ReadBlock &block, int phase, int order) {
+    const auto line = [](const QByteArray &block, int phase, int order) {
         return double(valueAt<float>(block, 8 + 208 * phase + 8 + 4 * (order - 1)));
     };
     for (int i = 0; i < volts.size(); ++i) {
@@ -267,7 +237,7 @@ void TstLiveRecordedHour::spectraHoldTheHarmonics()
 
 void TstLiveRecordedHour::energiesAreThoseOfTheHour()
 {
-    const QList<ReadBlock> blocks = of(0xA1000022);
+    const QList<QByteArray> blocks = of(0xA1000022);
     QCOMPARE(blocks.size(), m_ends.size() - 1);
     for (int phase = 0; phase < 4; ++phase) {
         double expected = 0; // Wh
@@ -285,10 +255,10 @@ void TstLiveRecordedHour::energiesAreThoseOfTheHour()
 
 void TstLiveRecordedHour::severitiesAreThoseOfTheTable()
 {
-    const QList<ReadBlock> severities = of(0xA1000026);
+    const QList<QByteArray> severities = of(0xA1000026);
     QVERIFY(severities.size() >= 5);
-    for (const ReadBlock &block : severities) {
-        const double end = double(valueAt<qint64>(block, 0) - LiveGraph::startMs()) / 1000;
+    for (const QByteArray &block : severities) {
+        const double end = RecordedRun::secondsOf(block);
         if (end > kChange && end < kChange + 620)
             continue; // the voltage itself has changed
         for (int phase = 0; phase < 3; ++phase)

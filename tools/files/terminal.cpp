@@ -78,11 +78,10 @@ Progress::Progress(const QString &what) : m_what(what), m_isShown(::isatty(STDER
     m_time.start();
 }
 
-void Progress::clear()
+Progress::~Progress()
 {
     if (m_hasShown)
         std::fputs("\r\033[K", stderr);
-    m_hasShown = false;
 }
 
 RecordProgress Progress::callback()
