@@ -1664,6 +1664,17 @@ réseau</translation>
     </message>
 </context>
 <context>
+    <name>RecordView</name>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>Lecture...</translation>
+    </message>
+</context>
+<context>
     <name>RecordingParam</name>
     <message>
         <source>All</source>
@@ -2228,6 +2239,10 @@ Supprimez des fichiers en mémoire.</translation>
     <message>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>Appareil, déséquilibre et flicker : une valeur sous la limite suffit. D&apos;où l&apos;autre résultat.</translation>
+    </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>valeur nominale inconnue</translation>
     </message>
 </context>
 <context>

@@ -1664,6 +1664,17 @@ signale</translation>
     </message>
 </context>
 <context>
+    <name>RecordView</name>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>Lesen...</translation>
+    </message>
+</context>
+<context>
     <name>RecordingParam</name>
     <message>
         <source>All</source>
@@ -2163,7 +2174,7 @@ Bitte im Speicher Dateien löschen.</translation>
     </message>
     <message>
         <source>Worst</source>
-        <translation>Größte</translation>
+        <translation>Schlechtester</translation>
     </message>
     <message>
         <source>When</source>
@@ -2228,6 +2239,10 @@ Bitte im Speicher Dateien löschen.</translation>
     <message>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>Gerät, Unsymmetrie und Flicker: Ein Wert unter der Grenze genügt. Daher das andere Ergebnis.</translation>
+    </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>Nennwert nicht bekannt</translation>
     </message>
 </context>
 <context>

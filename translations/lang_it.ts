@@ -1664,6 +1664,17 @@ in rete</translation>
     </message>
 </context>
 <context>
+    <name>RecordView</name>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>Lettura...</translation>
+    </message>
+</context>
+<context>
     <name>RecordingParam</name>
     <message>
         <source>All</source>
@@ -2228,6 +2239,10 @@ Eliminare file nella memoria.</translation>
     <message>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>Strumento, squilibrio e flicker: basta un valore sotto il limite. Da qui il risultato diverso.</translation>
+    </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>valore nominale sconosciuto</translation>
     </message>
 </context>
 <context>

@@ -1664,6 +1664,17 @@ Signaling</source>
     </message>
 </context>
 <context>
+    <name>RecordView</name>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>読み取り中...</translation>
+    </message>
+</context>
+<context>
     <name>RecordingParam</name>
     <message>
         <source>All</source>
@@ -2163,7 +2174,7 @@ Delete files in Memory.</source>
     </message>
     <message>
         <source>Worst</source>
-        <translation>最大</translation>
+        <translation>最悪</translation>
     </message>
     <message>
         <source>When</source>
@@ -2228,6 +2239,10 @@ Delete files in Memory.</source>
     <message>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>測定器、不平衡とフリッカ：限度値未満の値が1つあれば合格となるため、結果が異なります。</translation>
+    </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>公称値が不明です</translation>
     </message>
 </context>
 <context>

@@ -1664,6 +1664,17 @@ Signaling</source>
     </message>
 </context>
 <context>
+    <name>RecordView</name>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>읽는 중...</translation>
+    </message>
+</context>
+<context>
     <name>RecordingParam</name>
     <message>
         <source>All</source>
@@ -2163,7 +2174,7 @@ Delete files in Memory.</source>
     </message>
     <message>
         <source>Worst</source>
-        <translation>최대</translation>
+        <translation>최악</translation>
     </message>
     <message>
         <source>When</source>
@@ -2228,6 +2239,10 @@ Delete files in Memory.</source>
     <message>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>계측기, 불평형과 플리커: 한계값 미만인 값이 하나면 충분하므로 결과가 다릅니다.</translation>
+    </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>공칭값을 알 수 없음</translation>
     </message>
 </context>
 <context>

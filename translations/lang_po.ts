@@ -1664,6 +1664,17 @@ w sieci</translation>
     </message>
 </context>
 <context>
+    <name>RecordView</name>
+    <message>
+        <source>Back</source>
+        <translation>Wstecz</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>Odczyt...</translation>
+    </message>
+</context>
+<context>
     <name>RecordingParam</name>
     <message>
         <source>All</source>
@@ -2228,6 +2239,10 @@ Usuń pliki w pamięci.</translation>
     <message>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>Przyrząd, asymetria i migotanie: wystarcza jedna wartość poniżej granicy. Stąd inny wynik.</translation>
+    </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>wartość znamionowa nieznana</translation>
     </message>
 </context>
 <context>

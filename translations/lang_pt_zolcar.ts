@@ -1664,6 +1664,17 @@ na rede</translation>
     </message>
 </context>
 <context>
+    <name>RecordView</name>
+    <message>
+        <source>Back</source>
+        <translation>Voltar</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>Lendo...</translation>
+    </message>
+</context>
+<context>
     <name>RecordingParam</name>
     <message>
         <source>All</source>
@@ -2228,6 +2239,10 @@ Exclua arquivos na memória.</translation>
     <message>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>Aparelho, desequilíbrio e tremulação: basta um valor abaixo do limite. Daí o outro resultado.</translation>
+    </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>o valor nominal não é conhecido</translation>
     </message>
 </context>
 <context>

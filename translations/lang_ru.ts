@@ -1664,6 +1664,17 @@ Signaling</source>
     </message>
 </context>
 <context>
+    <name>RecordView</name>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>Чтение...</translation>
+    </message>
+</context>
+<context>
     <name>RecordingParam</name>
     <message>
         <source>All</source>
@@ -2163,7 +2174,7 @@ Delete files in Memory.</source>
     </message>
     <message>
         <source>Worst</source>
-        <translation>Худшая</translation>
+        <translation>Худшее</translation>
     </message>
     <message>
         <source>When</source>
@@ -2228,6 +2239,10 @@ Delete files in Memory.</source>
     <message>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>Прибор, несимметрия и фликер: достаточно одного значения ниже нормы. Отсюда другой результат.</translation>
+    </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>номинальное значение неизвестно</translation>
     </message>
 </context>
 <context>

@@ -1664,6 +1664,17 @@ en la red</translation>
     </message>
 </context>
 <context>
+    <name>RecordView</name>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>Leyendo...</translation>
+    </message>
+</context>
+<context>
     <name>RecordingParam</name>
     <message>
         <source>All</source>
@@ -2228,6 +2239,10 @@ Borre archivos en la memoria.</translation>
     <message>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>Equipo, desequilibrio y flicker: basta un valor por debajo del límite. De ahí el otro resultado.</translation>
+    </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>se desconoce el valor nominal</translation>
     </message>
 </context>
 <context>

@@ -1664,6 +1664,17 @@ sinyalleri</translation>
     </message>
 </context>
 <context>
+    <name>RecordView</name>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>Okunuyor...</translation>
+    </message>
+</context>
+<context>
     <name>RecordingParam</name>
     <message>
         <source>All</source>
@@ -2228,6 +2239,10 @@ Bellekten dosya silin.</translation>
     <message>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>Cihaz, dengesizlik ve fliker: sınırın altında tek değer yeterlidir. Farklı sonuç bundandır.</translation>
+    </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>nominal değer bilinmiyor</translation>
     </message>
 </context>
 <context>

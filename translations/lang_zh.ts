@@ -1664,6 +1664,17 @@ Signaling</source>
     </message>
 </context>
 <context>
+    <name>RecordView</name>
+    <message>
+        <source>Back</source>
+        <translation>返回</translation>
+    </message>
+    <message>
+        <source>Reading...</source>
+        <translation>正在读取...</translation>
+    </message>
+</context>
+<context>
     <name>RecordingParam</name>
     <message>
         <source>All</source>
@@ -2228,6 +2239,10 @@ Delete files in Memory.</source>
     <message>
         <source>Instrument, unbalance and flicker: one value below the limit is enough. Hence the other result.</source>
         <translation>仪器，不平衡和闪变：有一个值低于限值即可，因此结果不同。</translation>
+    </message>
+    <message>
+        <source>its nominal value is not known</source>
+        <translation>标称值未知</translation>
     </message>
 </context>
 <context>

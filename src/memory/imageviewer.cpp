@@ -1,12 +1,9 @@
 #include "memory/imageviewer.h"
 
 #include "storage/wholefile.h"
-#include "widgets/controls/frontkeys.h"
-#include "widgets/text/keymap.h"
 
 #include <QBuffer>
 #include <QImageReader>
-#include <QKeyEvent>
 #include <QPainter>
 
 namespace {
@@ -35,25 +32,11 @@ QImage ImageViewer::read(const QString &path)
 ImageViewer *ImageViewer::viewImage(const QImage &image, QWidget *page)
 {
     auto *viewer = new ImageViewer(image, page);
-    viewer->show();
-    viewer->raise();
-    viewer->setFocus();
+    viewer->cover();
     return viewer;
 }
 
-ImageViewer::ImageViewer(const QImage &image, QWidget *page) : QWidget(page->window()), m_page(page), m_image(image)
-{
-    setAttribute(Qt::WA_DeleteOnClose);
-    setFocusPolicy(Qt::StrongFocus);
-    setGeometry(page->window()->rect());
-}
-
-void ImageViewer::leave()
-{
-    QWidget *const page = m_page;
-    close();
-    page->setFocus();
-}
+ImageViewer::ImageViewer(const QImage &image, QWidget *page) : CoverView(page), m_image(image) { }
 
 void ImageViewer::paintEvent(QPaintEvent *)
 {
@@ -61,19 +44,4 @@ void ImageViewer::paintEvent(QPaintEvent *)
     painter.fillRect(rect(), Qt::black);
     painter.drawImage(QRect(QPoint((width() - m_image.width()) / 2, (height() - m_image.height()) / 2), m_image.size()),
                       m_image);
-}
-
-void ImageViewer::keyPressEvent(QKeyEvent *event)
-{
-    event->setAccepted(FrontKeys::press(*event, [this](int key) {
-        if (key == Qt::Key_F5)
-            leave();
-        return key == Qt::Key_F5;
-    }));
-}
-
-void ImageViewer::keyReleaseEvent(QKeyEvent *event)
-{
-    keyMap::keyReleaseMap(event->key());
-    event->ignore();
 }

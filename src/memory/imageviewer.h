@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QImage>
-#include <QWidget>
+#include "memory/coverview.h"
 
-/// A picture over the whole screen. Soft key 5 leaves it; other keys rise to the window below, which knows light and
-/// power.
-class ImageViewer : public QWidget
+#include <QImage>
+
+/// A picture over the whole screen.
+class ImageViewer : public CoverView
 {
     Q_OBJECT
 
@@ -20,12 +20,7 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void keyPressEvent(QKeyEvent *event) override;
-    void keyReleaseEvent(QKeyEvent *event) override;
 
 private:
-    void leave();
-
-    QWidget *const m_page;
     const QImage m_image;
 };

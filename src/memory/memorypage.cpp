@@ -1,7 +1,9 @@
 #include "memory/memorypage.h"
 
 #include "memory/imageviewer.h"
+#include "memory/recordview.h"
 #include "platform/target.h"
+#include "settings/config_data.h"
 #include "settings/localtime.h"
 #include "storage/fileinfo.h"
 #include "storage/filesinuse.h"
@@ -69,7 +71,7 @@ void MemoryPage::setModeKeys()
         { Qt::Key_F1, QT_TRANSLATE_NOOP("MemoryPage", "Format"), &MemoryPage::deleteAllFile },
         { Qt::Key_F2, QT_TRANSLATE_NOOP("MemoryPage", "To USB"), &MemoryPage::toUsb },
         { Qt::Key_F3, QT_TRANSLATE_NOOP("MemoryPage", "Delete"), &MemoryPage::toDelete },
-        { Qt::Key_F4, QT_TRANSLATE_NOOP("MemoryPage", "View"), &MemoryPage::viewPicture },
+        { Qt::Key_F4, QT_TRANSLATE_NOOP("MemoryPage", "View"), &MemoryPage::view },
         { Qt::Key_F5, QT_TRANSLATE_NOOP("MemoryPage", "Back"), &MemoryPage::goBack },
         { Qt::Key_Enter, nullptr, &MemoryPage::checkPW },
     };
@@ -211,7 +213,7 @@ void MemoryPage::showPlace()
 void MemoryPage::highLightF4()
 {
     const FileListItem *item = m_list->current();
-    const bool acts = m_mode != Browsing || (item && item->isPicture());
+    const bool acts = m_mode != Browsing || (item && (item->isPicture() || RecordView::canShow(item->item)));
     LabelLook::setColor(m_ui->btn_f4, acts ? QColor(Qt::black) : QColor(144, 144, 144));
 }
 
@@ -261,13 +263,18 @@ void MemoryPage::deleteAllFile()
         });
 }
 
-void MemoryPage::viewPicture()
+void MemoryPage::view()
 {
     const FileListItem *item = m_list->current();
-    if (!item || !item->isPicture())
-        return;
+    if (item && item->isPicture())
+        viewPicture(storedPath(item->item.file));
+    else if (item && RecordView::canShow(item->item))
+        viewRecord(storedPath(item->item.file));
+}
+
+void MemoryPage::viewPicture(const QString &path)
+{
     const auto image = std::make_shared<QImage>();
-    const QString path = storedPath(item->item.file);
     work(
         QString(), [image, path] { *image = ImageViewer::read(path); },
         [this, image] {
@@ -277,6 +284,28 @@ void MemoryPage::viewPicture()
                 Message::showMessage(Message::Error, tr("Error!!!"));
             else
                 m_viewer = ImageViewer::viewImage(*image, this);
+        });
+}
+
+void MemoryPage::viewRecord(const QString &path)
+{
+    const auto reading = std::make_shared<RecordView::Reading>();
+    const QPointer<RecordView> view = new RecordView(reading, this);
+    m_viewer = view;
+    view->cover();
+    const MonitorLimits2 limits(m_limits_g.activeLimitsName(), *m_limits_g.getLimitsInUsed());
+    work(
+        QString(), [reading, path = Target::path(path), limits] { RecordView::read(reading.get(), path, limits); },
+        [this, reading, view] {
+            if (!view)
+                return; // left before it was through
+            const bool good = reading->judgement && reading->source.state != RecordState::Unreadable;
+            if (good)
+                return view->showReading();
+            view->close();
+            setFocus();
+            if (isVisible())
+                Message::showMessage(Message::Error, tr("Error!!!"));
         });
 }
 

@@ -10,7 +10,7 @@
 
 #include <memory>
 
-class ImageViewer;
+class CoverView;
 namespace Ui {
 class MemoryPage;
 }
@@ -68,7 +68,9 @@ private:
     void move(int rows);
     void checkPW();
     void deleteAllFile();
-    void viewPicture();
+    void view();
+    void viewPicture(const QString &path);
+    void viewRecord(const QString &path);
     void actOnChosen();
     void delMultiFiles();
     void copyMultiFiles();
@@ -89,6 +91,6 @@ private:
     bool m_acting = false; // a key that begins something has not returned
     bool m_atTop = false; // since the page was entered the list was read and shown from its top
     float m_used = 0, m_free = 0; // MB
-    QPointer<ImageViewer> m_viewer;
+    QPointer<CoverView> m_viewer;
     FileWork m_work; // ends first
 };

@@ -66,6 +66,8 @@ void ChoicePage::finishChoices()
 void ChoicePage::init_parameter()
 {
     LivePage::init_parameter();
+    if (m_kind == AnyOf)
+        m_cursor = 0;
     load();
     showCursor();
 }

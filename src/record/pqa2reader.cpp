@@ -1,15 +1,30 @@
 #include "record/pqa2reader.h"
 
-#include <QIODevice>
+#include <QFileDevice>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstring>
+#include <unistd.h>
 
 namespace {
 
 constexpr qint64 kWindow = Pqa2Reader::kMostView; // bytes
 constexpr qint64 kHeadBytes = sizeof(Pqa2BlockHead);
 constexpr int kMostProbes = 200000; // a file made to mislead the search gets no further
+
+/// Where something is stored from \a offset on, as the file system tells it: a hole reads as zeros, gigabytes of them
+/// at times. \a size where nothing is.
+qint64 behindHole(QIODevice *device, qint64 offset, qint64 size)
+{
+    const auto *file = qobject_cast<QFileDevice *>(device);
+    if (!file || file->handle() < 0)
+        return offset;
+    const off_t data = ::lseek(file->handle(), offset, SEEK_DATA);
+    if (data < 0)
+        return errno == ENXIO ? size : offset;
+    return std::clamp<qint64>(data, offset, size);
+}
 
 /// Where the next block stands when nothing lies between.
 qint64 endOf(qint64 offset, const Pqa2BlockHead &head)
@@ -52,19 +67,19 @@ bool Pqa2Reader::fail(qint64 offset, qint64 searchFrom, const char *reason)
     return false;
 }
 
-/// So many bytes of the file, valid until the next call; null when they are not all there.
-const char *Pqa2Reader::bytes(qint64 offset, qint64 count)
+/// The same from a window that begins there.
+const char *Pqa2Reader::load(qint64 offset, qint64 count)
 {
-    if (offset < 0 || count > kWindow || offset > m_size - count)
+    if (offset < 0 || count < 0 || count > kWindow || offset > m_size - count)
         return nullptr;
-    if (offset < m_windowOffset || offset + count > m_windowOffset + m_window.size()) {
-        m_window.resize(int(std::min(kWindow, m_size - offset)));
-        m_windowOffset = offset;
-        const qint64 got = m_device->seek(offset) ? m_device->read(m_window.data(), m_window.size()) : -1;
-        m_window.resize(int(std::max<qint64>(got, 0)));
-    }
-    const qint64 at = offset - m_windowOffset;
-    return at + count <= m_window.size() ? m_window.constData() + at : nullptr;
+    const int wanted = int(std::min(kWindow, m_size - offset));
+    if (m_window.size() < wanted || !m_window.isDetached())
+        m_window = QByteArray(int(std::min(kWindow, m_size)), Qt::Uninitialized);
+    const qint64 got = m_device->seek(offset) ? m_device->read(m_window.data(), wanted) : -1;
+    m_windowOffset = offset;
+    m_windowBytes = m_window.constData();
+    m_windowSize = std::max<qint64>(got, 0);
+    return count <= m_windowSize ? m_windowBytes : nullptr;
 }
 
 bool Pqa2Reader::head(qint64 offset, Pqa2BlockHead *head)
@@ -130,24 +145,46 @@ bool Pqa2Reader::startsChain(qint64 offset)
     Pqa2BlockHead first, second;
     if (!isPlausible(offset, &first) || first.oonb == kPqa2LastBlock)
         return false;
-    const qint64 windowOffset = m_windowOffset;
-    const QByteArray window = m_window;
+    const qint64 windowOffset = m_windowOffset, windowSize = m_windowSize;
+    const QByteArray window = m_window; // shared: another one is loaded beside it
     const bool starts = isPlausible(first.oonb, &second);
     if (m_windowOffset != windowOffset) { // the search goes on where it was
-        m_windowOffset = windowOffset;
         m_window = window;
+        m_windowOffset = windowOffset;
+        m_windowBytes = m_window.constData();
+        m_windowSize = windowSize;
         ++m_probes;
     }
     return starts;
+}
+
+/// The first place from \a offset on whose link may be that of a block; a quick look that leaves most places out.
+qint64 Pqa2Reader::nextCandidate(qint64 offset)
+{
+    while (offset + kHeadBytes <= m_size) {
+        if (offset < m_windowOffset || offset + kHeadBytes > m_windowOffset + m_windowSize)
+            offset = std::max(offset, (behindHole(m_device, offset, m_size) & ~qint64(3)) - kHeadBytes);
+        if (!bytes(offset, kHeadBytes))
+            break;
+        const char *place = m_windowBytes + (offset - m_windowOffset);
+        const qint64 end = m_windowOffset + m_windowSize - kHeadBytes;
+        for (; offset <= end; offset += 4, place += 4) {
+            quint32 link;
+            std::memcpy(&link, place, sizeof link);
+            if (link % 4 == 0 && link >= offset + kHeadBytes && link < m_size)
+                return offset;
+        }
+    }
+    return m_size;
 }
 
 bool Pqa2Reader::skipDamage()
 {
     if (m_searchFrom < 0)
         return false;
-    qint64 offset = (m_searchFrom + 3) & ~qint64(3);
+    qint64 offset = nextCandidate((m_searchFrom + 3) & ~qint64(3));
     m_searchFrom = -1;
-    for (; offset + kHeadBytes <= m_size && m_probes < kMostProbes; offset += 4) {
+    for (; offset + kHeadBytes <= m_size && m_probes < kMostProbes; offset = nextCandidate(offset + 4)) {
         if (!startsChain(offset))
             continue;
         m_next = offset;
@@ -164,9 +201,4 @@ QByteArray Pqa2Reader::payload(const Pqa2Block &block, qint64 at, qint64 most)
     if (at < 0 || wanted <= 0 || !m_device->seek(block.offset + kHeadBytes + at))
         return {};
     return m_device->read(wanted);
-}
-
-const char *Pqa2Reader::view(const Pqa2Block &block, qint64 most)
-{
-    return bytes(block.offset + kHeadBytes, std::min(most, qint64(block.size)));
 }

@@ -41,7 +41,10 @@ public:
     QByteArray payload(const Pqa2Block &block, qint64 at = 0, qint64 most = kMostPayload);
     /// The payload, or its first \a most bytes, where they lie: valid until the next call. Null where more is asked for
     /// than kMostView, and when the file has become shorter meanwhile.
-    const char *view(const Pqa2Block &block, qint64 most = kMostView);
+    const char *view(const Pqa2Block &block, qint64 most = kMostView)
+    {
+        return bytes(block.offset + qint64(sizeof(Pqa2BlockHead)), qMin(most, qint64(block.size)));
+    }
 
     State state() const { return m_state; }
     qint64 faultOffset() const { return m_faultOffset; } // of the first fault, -1 without one
@@ -52,14 +55,24 @@ private:
     bool isGapWithoutBlock(const Pqa2BlockHead &head, qint64 end) const;
     bool isPlausible(qint64 offset, Pqa2BlockHead *head);
     bool startsChain(qint64 offset);
+    qint64 nextCandidate(qint64 offset);
     bool readHeader();
     bool fail(qint64 offset, qint64 searchFrom, const char *reason);
-    const char *bytes(qint64 offset, qint64 count);
+    /// So many bytes of the file, valid until the next call; null when they are not all there.
+    const char *bytes(qint64 offset, qint64 count)
+    {
+        const qint64 at = offset - m_windowOffset;
+        const bool isInWindow = at >= 0 && count >= 0 && at + count <= m_windowSize;
+        return isInWindow ? m_windowBytes + at : load(offset, count);
+    }
+    const char *load(qint64 offset, qint64 count);
 
     QIODevice *m_device;
     qint64 m_size = 0; // of the file, as it was found
     QByteArray m_window; // piece of the file
     qint64 m_windowOffset = 0;
+    const char *m_windowBytes = nullptr; // those of m_window
+    qint64 m_windowSize = 0;
     qint64 m_next = -1; // offset of the next block; -1: none, or a fault
     qint64 m_gapFrom = -1; // end of the block before, where its link leads further than there
     int m_probes = 0; // places looked at far from the search

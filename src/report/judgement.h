@@ -40,6 +40,7 @@ enum class NotJudgedBecause : quint8 {
     NotRecorded,
     IntervalTooLong, // ten minutes cannot be made of longer intervals
     NotTheInterval, // mains signals are judged by means of three seconds
+    NoNominal, // the recording does not say what its values are to be compared with
     NoValue // not one complete value, or none without an interruption
 };
 

@@ -302,9 +302,14 @@ void RecordJudge::listNotJudged()
     for (const Quantity quantity : kAll) {
         const QuantityKey key { quantity, -1, qint16(quantity == Quantity::Harmonic ? 2 : 0) };
         const Bounds bounds = boundsOf(key, setup.limits, setup.nominalVolt, setup.nominalFrequency);
+        const Lane *lane = laneOf(quantity);
+        const bool isBand = quantity == Quantity::Frequency || quantity == Quantity::Voltage;
+        if (lane && isBand && !(bounds.nominal > 0)) {
+            m_judgement.notJudged.append({ quantity, NotJudgedBecause::NoNominal });
+            continue;
+        }
         if (!bounds.hasPartial() && !bounds.hasWhole())
             continue;
-        const Lane *lane = laneOf(quantity);
         const auto isJudged
             = [quantity](const QuantityVerdict &v) { return v.key.quantity == quantity && v.judged > 0; };
         const auto &verdicts = m_judgement.verdicts;

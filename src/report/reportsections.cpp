@@ -115,7 +115,7 @@ void ReportWriter::events()
               plain(Report::eventName(item.type)),
               plain(item.channel >= 0 && item.channel < kMonitorPhases ? Report::phaseName(item.channel, m_judgement)
                                                                        : kDash),
-              plain(Report::time(item.startTime)),
+              plain(m_text.time(item.startTime)),
               plain(!item.finished ? Report::tr("goes on")
                         : sane     ? m_text.duration(item.endTime - item.startTime)
                                    : kDash),
@@ -143,11 +143,11 @@ void ReportWriter::moments()
         const bool isEvent = moment.event.number != 0;
         const QString title = isEvent
             ? QStringLiteral("%1. ").arg(moment.event.number) + Report::eventName(moment.event.item.type)
-                + QStringLiteral(", ") + Report::time(moment.event.item.startTime)
+                + QStringLiteral(", ") + m_text.time(moment.event.item.startTime)
             : Report::tr("Transient") + QStringLiteral(", ")
-                + Report::time(std::isfinite(moment.wave.start) && std::abs(moment.wave.start) < 1e15
-                                   ? qint64(moment.wave.start)
-                                   : 0);
+                + m_text.time(std::isfinite(moment.wave.start) && std::abs(moment.wave.start) < 1e15
+                                  ? qint64(moment.wave.start)
+                                  : 0);
         m_content.add(ReportBlock::SubHeading, title, Tone::Plain,
                       isEvent ? momentAnchor(moment.event.number) : QString());
         for (const Drawing &drawing : drawings) {

@@ -60,7 +60,7 @@ QLocale localeOf(const QString &fileWord)
 
 } // namespace
 
-Report::Report(const QString &fileWord) : m_locale(localeOf(fileWord))
+Report::Report(const QString &fileWord, const QTimeZone &zone) : m_locale(localeOf(fileWord)), m_zone(zone)
 {
     m_locale.setNumberOptions(QLocale::OmitGroupSeparator);
 }
@@ -83,11 +83,16 @@ QString Report::percent(double value, int decimals) const
     return std::isfinite(value) ? number(value, decimals) + QStringLiteral(" %") : kDash;
 }
 
-QString Report::time(qint64 ms)
+QString Report::time(qint64 ms) const
 {
     if (!isPlausibleTime(ms))
         return kDash;
-    return QDateTime::fromMSecsSinceEpoch(ms, Qt::UTC).toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    return QDateTime::fromMSecsSinceEpoch(ms, m_zone).toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+}
+
+QString Report::zoneMark() const
+{
+    return m_zone == QTimeZone::utc() ? QStringLiteral(" UTC") : QString();
 }
 
 QString Report::duration(qint64 ms) const
@@ -248,6 +253,8 @@ QString Report::reason(NotJudgedBecause why)
         return tr("its intervals are longer than ten minutes");
     case NotJudgedBecause::NotTheInterval:
         return tr("its intervals are longer than three seconds");
+    case NotJudgedBecause::NoNominal:
+        return tr("its nominal value is not known");
     case NotJudgedBecause::NoValue:
         return tr("there is no complete value");
     case NotJudgedBecause::NotRecorded:

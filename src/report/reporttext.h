@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QLocale>
 #include <QString>
+#include <QTimeZone>
 
 /// The words and numbers of a report, in the language that is installed as the program's. Symbols of quantities and
 /// units are the same in all of them.
@@ -14,7 +15,7 @@ class Report
 
 public:
     /// \a fileWord: of the language, as in "lang_<word>.qm"; empty for English.
-    explicit Report(const QString &fileWord);
+    explicit Report(const QString &fileWord, const QTimeZone &zone = QTimeZone::utc());
 
     const QLocale &locale() const { return m_locale; }
     /// "de", as an HTML page says its language.
@@ -22,8 +23,10 @@ public:
     /// Rounded to \a decimals; a dash for what is no number.
     QString number(double value, int decimals) const;
     QString percent(double value, int decimals = 1) const;
-    /// "2026-11-22 12:00:00"; all times are UTC, and the report says so once. A dash for none.
-    static QString time(qint64 ms);
+    /// "2026-11-22 12:00:00"; a dash for none.
+    QString time(qint64 ms) const;
+    /// " UTC" where times are that; nothing where they are those of the user.
+    QString zoneMark() const;
     /// "7 d 00:02:48", "0:10:00", "0.08 s".
     QString duration(qint64 ms) const;
     /// A value in its unit, with the decimals that its quantity deserves.
@@ -45,4 +48,5 @@ public:
 
 private:
     QLocale m_locale;
+    QTimeZone m_zone;
 };

@@ -57,6 +57,13 @@ QString ReportWriter::headline(Tone *tone) const
         : Report::tr("The recording holds nothing that can be judged.");
 }
 
+QString ReportWriter::reservation() const
+{
+    return m_judgement.weeks.isWhole()
+        ? QString()
+        : Report::tr("The recording is shorter than a week. The limits hold for weeks: the result is an indication.");
+}
+
 QVector<QPair<QString, QString>> ReportWriter::facts() const
 {
     static const char *const kStates[]
@@ -64,8 +71,8 @@ QVector<QPair<QString, QString>> ReportWriter::facts() const
             QT_TRANSLATE_NOOP("Report", "damaged in the middle"), QT_TRANSLATE_NOOP("Report", "not readable") };
     const RecordOverview &o = m_judgement.overview;
     return { { Report::tr("What"), Report::kindName(m_source.kind) + QStringLiteral(" ") + m_source.name.simplified() },
-             { Report::tr("Begin"), Report::time(o.start) + QStringLiteral(" UTC") },
-             { Report::tr("End"), Report::time(o.end) + QStringLiteral(" UTC") },
+             { Report::tr("Begin"), m_text.time(o.start) + m_text.zoneMark() },
+             { Report::tr("End"), m_text.time(o.end) + m_text.zoneMark() },
              { Report::tr("Duration"), m_text.duration(o.length()) },
              { Report::tr("State"), Report::tr(kStates[int(m_source.state)]) } };
 }
@@ -99,7 +106,7 @@ QString ReportWriter::limitText(const QuantityVerdict &verdict) const
 /// When the worst value was, and the picture of what happened then.
 ReportCell ReportWriter::momentOf(const QuantityVerdict &verdict) const
 {
-    ReportCell cell { Report::time(verdict.worstTime), Tone::Plain, {} };
+    ReportCell cell { m_text.time(verdict.worstTime), Tone::Plain, {} };
     const qint64 from = verdict.worstTime - intervalOf(verdict.key.quantity);
     for (const RecordedEvent &event : m_judgement.overview.events) {
         const __event_item &item = event.item;
@@ -200,8 +207,7 @@ void ReportWriter::notes()
     const Weeks &weeks = m_judgement.weeks;
     const auto note = [this](const QString &text) { m_content.add(ReportBlock::Item, text); };
     if (!weeks.isWhole())
-        note(Report::tr(
-            "The recording is shorter than a week. The limits hold for weeks: the result is an indication."));
+        note(reservation());
     else if (weeks.count > 1)
         note(Report::tr("Weeks judged, each by itself: %1. The table shows the worst.").arg(weeks.count));
     if (m_source.state == RecordState::Cut || m_source.state == RecordState::Broken)

@@ -25,6 +25,8 @@ public:
     ReportTable verdictTable() const;
     /// "The supply complies with EN50160." and its tone.
     QString headline(Tone *tone) const;
+    /// What the verdict is worth when the recording has no whole week; empty otherwise.
+    QString reservation() const;
     /// Name and value of what, when, how long and in which state.
     QVector<QPair<QString, QString>> facts() const;
 

@@ -56,6 +56,7 @@ void appInit()
     qRegisterMetaType<_quvera_ui_type>("QuveraUiType");
 
     wifi = new Wifi;
+    Pqa2FF::setOpening(recordOpening); // before anything can be recorded
     auto *data = new LiveData; // like all of this graph never deleted
     m_taskmanage = new TaskManage(*data);
     m_idevice = new IDevice;

@@ -1,8 +1,10 @@
 // A recording into tables, as the tool exports it, beside a plain loop that reads the same blocks and prints the same
 // numbers. Behind the ratios stands what exports of a recording of 1 GB take of memory.
+#include "bench/memoryof.h"
 #include "bench/ratios.h"
 #include "record/exports/csvexport.h"
 #include "record/exports/influxexport.h"
+#include "record/exports/pqdifexport.h"
 #include "record/exports/sqliteexport.h"
 #include "record/tables/recordsource.h"
 #include "unit/record/largerecording.h"
@@ -10,9 +12,6 @@
 #include <QTemporaryDir>
 
 #include <charconv>
-#include <sys/resource.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace {
 
@@ -60,6 +59,11 @@ void influx(benchmark::State &state)
     exportOf<InfluxExport>(state);
 }
 
+void pqdif(benchmark::State &state)
+{
+    exportOf<PqdifExport>(state);
+}
+
 /// Follows the links and prints each block as a line.
 bool printedPlainly()
 {
@@ -104,20 +108,8 @@ void plainLoop(benchmark::State &state)
 BENCHMARK(csv)->Iterations(1);
 BENCHMARK(sqlite)->Iterations(1);
 BENCHMARK(influx)->Iterations(1);
+BENCHMARK(pqdif)->Iterations(1);
 BENCHMARK(plainLoop)->Iterations(1);
-
-/// What a child that exports takes at most, in MiB; 0: it failed.
-double memoryOf(bool (*work)())
-{
-    const pid_t child = ::fork();
-    if (child == 0)
-        ::_exit(work() ? 0 : 1);
-    int status = 1;
-    struct rusage usage;
-    if (child < 0 || ::wait4(child, &status, 0, &usage) != child || status != 0)
-        return 0;
-    return double(usage.ru_maxrss) / 1024;
-}
 
 } // namespace
 
@@ -132,13 +124,15 @@ int main(int argc, char **argv)
         bool (*work)();
     } formats[] = { { "CSV", exported<CsvExport> },
                     { "SQLite", exported<SqliteExport> },
-                    { "line protocol", exported<InfluxExport> } };
+                    { "line protocol", exported<InfluxExport> },
+                    { "PQDIF", exported<PqdifExport> } };
     if (!LargeRecording().write(recording, kMeasured))
         return 1;
     const int status = Ratios::run(argc, argv, Ratios::ProcessorTime,
                                    { { "CSV export / plain loop", "csv", "plainLoop", 2.0 },
                                      { "SQLite export / plain loop", "sqlite", "plainLoop", 0 },
-                                     { "line protocol / plain loop", "influx", "plainLoop", 0 } });
+                                     { "line protocol / plain loop", "influx", "plainLoop", 0 },
+                                     { "PQDIF export / plain loop", "pqdif", "plainLoop", 0 } });
     if (!LargeRecording().write(recording, kLarge))
         return 1;
     for (const auto &format : formats) {

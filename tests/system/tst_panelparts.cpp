@@ -2,13 +2,17 @@
 #include "panel/admission.h"
 #include "panel/bulletin.h"
 #include "panel/controltable.h"
+#include "panel/picturenotes.h"
 #include "panel/processorline.h"
 #include "testpaths.h"
 
+#include <QBuffer>
+#include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSet>
 #include <QTest>
+#include <QtEndian>
 
 #include <thread>
 
@@ -31,6 +35,8 @@ private slots:
     void wishesBeyondTheBoundsMakeNoCommand_data();
     void wishesBeyondTheBoundsMakeNoCommand();
     void processorThatIsNotThereIsNotWaitedFor();
+    void notesOfAPictureAreReadAsTheyWereWritten();
+    void damagedPicturesHaveFewerNotes();
 };
 
 void TstPanelParts::sameTextIsNoNews()
@@ -198,6 +204,50 @@ void TstPanelParts::processorThatIsNotThereIsNotWaitedFor()
     DeskInstrument desk(QStringLiteral(QUVERA_BIN_DIR), deep);
     QVERIFY2(desk.startProcessor(), qPrintable(desk.error()));
     QVERIFY(ProcessorLine(deep).tell("status", &answer));
+}
+
+/// A picture with notes of each kind: short, long enough to be packed, beyond Latin.
+static QByteArray notedPicture()
+{
+    QImage image(64, 48, QImage::Format_RGB32);
+    image.fill(Qt::darkBlue);
+    image.setText("Title", "Menu");
+    image.setText("Texts", QString("Urms(V) 229.4\n").repeated(20));
+    image.setText("Dialog", QString::fromUtf8("\u7535\u538b\n230 V"));
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, "png");
+    return buffer.data();
+}
+
+void TstPanelParts::notesOfAPictureAreReadAsTheyWereWritten()
+{
+    const QJsonObject notes = notesOf(notedPicture());
+    QCOMPARE(notes.value("Title").toString(), QString("Menu"));
+    QCOMPARE(notes.value("Texts").toString(), QString("Urms(V) 229.4\n").repeated(20));
+    QCOMPARE(notes.value("Dialog").toString(), QString::fromUtf8("\u7535\u538b\n230 V"));
+    QCOMPARE(notes.size(), 3);
+}
+
+void TstPanelParts::damagedPicturesHaveFewerNotes()
+{
+    const QByteArray png = notedPicture();
+    for (int size = 0; size < png.size(); ++size)
+        QVERIFY(notesOf(png.left(size)).size() <= 3);
+    for (int at = 0; at < png.size(); ++at) {
+        QByteArray damaged = png;
+        for (const char sign : { '\0', '\xff', '\x7f' }) {
+            damaged[at] = sign;
+            QVERIFY(notesOf(damaged).size() <= 4); // of an image's bytes no more than one becomes a note
+        }
+    }
+    // A note that unpacks to more than anybody writes.
+    const QByteArray bomb = qCompress(QByteArray(10'000'000, 'x'), 9).mid(4);
+    QByteArray length(4, '\0');
+    qToBigEndian<quint32>(quint32(bomb.size() + 6), length.data());
+    const QJsonObject notes
+        = notesOf("\x89PNG\r\n\x1a\n" + length + "zTXt" + QByteArray("Long\0\0", 6) + bomb + "abcd");
+    QCOMPARE(notes.value("Long").toString(), QString());
 }
 
 QTEST_GUILESS_MAIN(TstPanelParts)

@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kWaitMs = 120000; // for what takes seconds on a quiet machine
 constexpr int kSpeed = 10;
+constexpr char kStartRecorder[] = "Down Down Right Enter F2 F1 F4 Down Down Left Left Left F5"; // all, every second
 constexpr quint32 kLog = 0xA1000009, kEnd = 0xA1000019;
 
 struct Block
@@ -29,7 +30,7 @@ QList<Block> blocksOf(const QString &path, bool *whole)
     QList<Block> blocks;
     QFile file(path);
     *whole = false;
-    if (!file.open(QIODevice::ReadOnly))
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
         return blocks;
     Pqa2Reader reader(&file);
     for (Pqa2Block block; reader.next(&block);)
@@ -46,6 +47,7 @@ class TstTroubledRuns : public QObject
 private slots:
     void goesOnThroughClocksThatAreSetAndAMinuteOfSilence_data();
     void goesOnThroughClocksThatAreSetAndAMinuteOfSilence();
+    void recordingGoesOnWhenTheInstrumentsOwnClockIsSet();
 
 private:
     QString file() const
@@ -68,6 +70,13 @@ private:
         process.start(QStringLiteral(QUVERA_BIN_DIR "/quvera-processor"),
                       { QStringLiteral("--root"), m_desk->root(), QStringLiteral("--tell"), command });
         return process.waitForFinished(kWaitMs) && process.exitCode() == 0;
+    }
+    int count(quint32 type, bool *whole) const
+    {
+        int found = 0;
+        for (const Block &block : blocksOf(file(), whole))
+            found += block.type == type;
+        return found;
     }
     void setClocks();
     void beSilent();
@@ -99,8 +108,7 @@ void TstTroubledRuns::goesOnThroughClocksThatAreSetAndAMinuteOfSilence_data()
     QTest::addColumn<QString>("end");
     QTest::addColumn<QString>("name");
     QTest::addColumn<quint32>("type");
-    QTest::newRow("recorder") << "Down Down Right Enter F2 F1 F4 Down Down Left Left Left F5"
-                              << "F5 F4" // Stop: Save
+    QTest::newRow("recorder") << kStartRecorder << "F5 F4" // Stop: Save
                               << "Common.pqa2" << 0xA1000020u;
     QTest::newRow("monitor") << "Monitor F5"
                              << "Menu F4" // Quit
@@ -155,12 +163,6 @@ void TstTroubledRuns::goesOnThroughClocksThatAreSetAndAMinuteOfSilence()
     beSilent();
 
     VERIFY_DESK(m_desk->press(end.split(QLatin1Char(' '))), *m_desk);
-    const auto count = [this](quint32 of, bool *whole) {
-        int found = 0;
-        for (const Block &block : blocksOf(file(), whole))
-            found += block.type == of;
-        return found;
-    };
     bool whole = false;
     QTRY_COMPARE_WITH_TIMEOUT(count(kEnd, &whole), 1, kWaitMs);
     QVERIFY(whole);
@@ -173,6 +175,48 @@ void TstTroubledRuns::goesOnThroughClocksThatAreSetAndAMinuteOfSilence()
     }
     // Nothing of it is told at the next start.
     QTRY_VERIFY_WITH_TIMEOUT(!QFile::exists(m_desk->path(QStringLiteral("/mnt/storage/.running"))), kWaitMs);
+}
+
+void TstTroubledRuns::recordingGoesOnWhenTheInstrumentsOwnClockIsSet()
+{
+    m_name = QStringLiteral("Common.pqa2");
+    m_type = 0xA1000020;
+    m_desk = std::make_unique<Instrument>();
+    const QString set = m_desk->path(QStringLiteral("/clock"));
+    const auto setClock = [&set](const char *by) {
+        QFile file(set);
+        return file.open(QIODevice::WriteOnly) && file.write(by) > 0;
+    };
+    QVERIFY(setClock("+0"));
+    qputenv("FAKETIME_TIMESTAMP_FILE", set.toLocal8Bit());
+    qputenv("FAKETIME_NO_CACHE", "1");
+    qputenv("FAKETIME_DONT_FAKE_MONOTONIC", "1");
+    VERIFY_DESK(m_desk->startProcessor(), *m_desk);
+    QVERIFY2(m_desk->setSpeed(1), qPrintable(m_desk->error()));
+    qputenv("LD_PRELOAD", m_desk->clockLibrary().toLocal8Bit()); // for the instrument alone
+    const bool started = m_desk->startInstrument();
+    for (const char *name :
+         { "LD_PRELOAD", "FAKETIME_TIMESTAMP_FILE", "FAKETIME_NO_CACHE", "FAKETIME_DONT_FAKE_MONOTONIC" })
+        qunsetenv(name);
+    VERIFY_DESK(started, *m_desk);
+    VERIFY_DESK(m_desk->press(QString(QLatin1String(kStartRecorder)).split(QLatin1Char(' '))), *m_desk);
+    QVERIFY(waitForIntervals(2));
+    for (const char *by : { "+1h", "-1h", "+10y", "-10y", "+1h" }) {
+        QVERIFY(setClock(by));
+        QVERIFY2(waitForIntervals(3), by);
+        QVERIFY(m_desk->isInstrumentRunning() && !m_desk->screen().isNull());
+    }
+    VERIFY_DESK(m_desk->press({ QStringLiteral("F5"), QStringLiteral("F4") }), *m_desk); // Stop: Save
+    bool whole = false;
+    QTRY_COMPARE_WITH_TIMEOUT(count(kEnd, &whole), 1, kWaitMs);
+    QVERIFY(whole);
+    quint32 end = 0; // by the clock as it stands now
+    for (const Block &block : blocksOf(file(), &whole)) {
+        if (block.type == kEnd)
+            std::memcpy(&end, block.payload.constData(), sizeof end);
+    }
+    const qint64 ahead = qint64(end) - QDateTime::currentSecsSinceEpoch();
+    QVERIFY2(ahead > 3000 && ahead <= 3600, qPrintable(QString::number(ahead)));
 }
 
 QTEST_MAIN(TstTroubledRuns)

@@ -36,6 +36,9 @@ public:
     /// without it.
     bool setSpeed(int times);
 
+    /// That library, once a speed was set.
+    const QString &clockLibrary() const { return m_clock; }
+
     /// Starts the stand-in and waits until its node stands. Arguments come behind "--root".
     bool startProcessor(const QStringList &arguments = {});
     /// Starts the instrument and waits until its remote control answers.

@@ -1,44 +1,20 @@
-#include "files/commandline.h"
+#include "files/delivery.h"
 #include "files/exports.h"
 #include "files/infotext.h"
 #include "files/reportcommand.h"
 #include "files/terminal.h"
+#include "record/exports/recovery.h"
 
 #include <cstdio>
 #include <limits>
 
 namespace {
 
-int statusOf(const RecordSource &source)
-{
-    return int(source.state());
-}
-
-/// Looks through a path, says what is wrong with it. False: the user ended it.
-bool openSource(RecordSource *source, const QString &path)
-{
-    Progress progress(path);
-    return source->open(path, progress.callback());
-}
-
-int interrupted()
-{
-    Terminal::complain(QStringLiteral("interrupted"));
-    return ExitNoOutput;
-}
-
-int misuse(const QString &reason)
-{
-    Terminal::complain(reason);
-    return ExitMisuse;
-}
-
 int runInfo(const CommandLine &line)
 {
     RecordSource source;
     if (!openSource(&source, line.paths.constFirst()))
         return interrupted();
-    Terminal::complainOf(source);
     if (source.state() == RecordState::Unreadable)
         return ExitUnreadable;
     const QByteArray text = line.has(QStringLiteral("--json")) ? InfoText::json(source) : InfoText::text(source);
@@ -57,44 +33,51 @@ int runVerify(const CommandLine &line)
         std::printf("%s: %s\n", Terminal::printable(path).toUtf8().constData(), kStates[statusOf(source)]);
         if (!Terminal::finishOutput())
             return ExitNoOutput;
-        Terminal::complainOf(source);
         worst = qMax(worst, statusOf(source));
     }
     return worst;
 }
 
+int recover(RecordSource &source, const OutputPlace &place, const RecordProgress &progress)
+{
+    Recovery recovery(place);
+    switch (recovery.run(source, progress)) {
+    case Recovery::Done:
+        return statusOf(source);
+    case Recovery::Failed:
+        return noOutput(recovery.error());
+    case Recovery::Ended:
+        return interrupted();
+    case Recovery::Nothing:
+        break;
+    }
+    Terminal::complain(QStringLiteral("%1: nothing of it can be recovered").arg(Terminal::printable(place.input)));
+    return ExitUnreadable;
+}
+
+int runRecover(const CommandLine &line)
+{
+    const QString out = QStringLiteral("--out");
+    return line.has(out) ? makeOutput(line, out, recover) : misuse(QStringLiteral("recover: no --out is given"));
+}
+
 int runExport(const CommandLine &line)
 {
-    const ExportFormat *chosen = nullptr;
+    std::vector<const ExportFormat *> chosen;
     for (const ExportFormat &format : exportFormats()) {
-        if (!line.has(format.option))
-            continue;
-        if (chosen)
-            return misuse(QStringLiteral("%1 and %2: one format at a time").arg(chosen->option, format.option));
-        chosen = &format;
+        if (line.has(format.option))
+            chosen.push_back(&format);
     }
-    if (!chosen)
+    if (chosen.empty())
         return misuse(QStringLiteral("export: no format is given"));
-    const QString input = line.paths.constFirst();
-    RecordSource source;
-    if (!openSource(&source, input))
-        return interrupted();
-    Terminal::complainOf(source);
-    if (source.state() == RecordState::Unreadable)
-        return ExitUnreadable;
-    OutputPlace place;
-    place.target = line.value(chosen->option);
-    place.input = input;
-    place.force = line.has(QStringLiteral("--force"));
-    Progress progress(place.target);
-    const std::unique_ptr<RecordSink> sink = chosen->make(place);
-    if (!source.read(*sink, progress.callback())) {
-        if (Terminal::isInterrupted())
-            return interrupted();
-        Terminal::complain(Terminal::printable(sink->error()));
-        return ExitNoOutput;
-    }
-    return statusOf(source);
+    if (chosen.size() > 1)
+        return misuse(
+            QStringLiteral("export: %1 and %2: one format at a time").arg(chosen[0]->option, chosen[1]->option));
+    return makeOutput(line, chosen[0]->option,
+                      [&](RecordSource &source, const OutputPlace &place, const RecordProgress &progress) {
+                          const std::unique_ptr<RecordSink> sink = chosen[0]->make(place);
+                          return deliver(source, *sink, progress);
+                      });
 }
 
 std::vector<CommandOption> exportOptions()
@@ -119,6 +102,14 @@ const std::vector<Command> &commands()
           { { "--json", "", "as one JSON object" } },
           runInfo },
         { "verify", "PATH...", "whether files are whole", 1, std::numeric_limits<int>::max(), {}, runVerify },
+        { "recover",
+          "PATH --out TARGET [--force]",
+          "a sound copy of what can be read",
+          1,
+          1,
+          { { "--out", "TARGET", "the copy: a file, or a folder for a folder" },
+            { "--force", "", "replace an output that exists" } },
+          runRecover },
         { "export", "PATH FORMAT [--force]", "hand a recording on in another format", 1, 1, exportOptions(),
           runExport },
         reportCommand(),

@@ -1,5 +1,5 @@
 // quvera-files: reads what the instrument recorded, whole, cut or broken, and hands it on.
-#include "files/commandline.h"
+#include "files/delivery.h"
 #include "files/reportcommand.h"
 #include "files/terminal.h"
 
@@ -30,12 +30,6 @@ QString helpText()
         "  quvera-files export \"/media/usb/240118_161500 Record 1\" --csv week\n"
         "  quvera-files report \"/media/usb/240118_161500 Monitor-1\" --pdf week.pdf --language GE\n");
     return text;
-}
-
-int misuse(const QString &reason)
-{
-    Terminal::complain(reason + QStringLiteral(" (quvera-files --help)"));
-    return ExitMisuse;
 }
 
 int run(const QStringList &words)

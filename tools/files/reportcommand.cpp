@@ -1,7 +1,7 @@
 #include "files/reportcommand.h"
 
+#include "files/delivery.h"
 #include "files/terminal.h"
-#include "record/exports/output.h"
 #include "report/htmlreport.h"
 #include "report/judgerecord.h"
 #include "report/pdfreport.h"
@@ -17,12 +17,6 @@ namespace {
 
 const QString kHtml = QStringLiteral("--html");
 const QString kPdf = QStringLiteral("--pdf");
-
-int misuse(const QString &reason)
-{
-    Terminal::complain(reason);
-    return ExitMisuse;
-}
 
 bool write(Output *output, const ReportContent &content, bool isPdf)
 {
@@ -60,29 +54,17 @@ int runReport(const CommandLine &line)
                                    .arg(Terminal::printable(folder)));
     }
 
-    RecordSource source;
-    const QString path = line.paths.constFirst();
-    Progress progress(path);
-    const auto interrupted = [] {
-        Terminal::complain(QStringLiteral("interrupted"));
-        return int(ExitNoOutput);
-    };
-    if (!source.open(path, progress.callback()))
-        return interrupted();
-    Terminal::complainOf(source);
-    if (source.state() == RecordState::Unreadable)
-        return ExitUnreadable;
-    const auto judgement = judgeRecord(source, limits, progress.callback());
-    if (!judgement)
-        return interrupted();
-    const ReportSource about = reportSourceOf(source);
-    const Report text(language.word());
-    Output output(Output::File, { line.value(isPdf ? kPdf : kHtml), path, line.has(QStringLiteral("--force")) });
-    if (!write(&output, ReportWriter(*judgement, about, text).content(), isPdf)) {
-        Terminal::complain(Terminal::printable(output.error()));
-        return ExitNoOutput;
-    }
-    return int(source.state());
+    return makeOutput(line, isPdf ? kPdf : kHtml,
+                      [&](RecordSource &source, const OutputPlace &place, const RecordProgress &progress) {
+                          const auto judgement = judgeRecord(source, limits, progress);
+                          if (!judgement)
+                              return interrupted();
+                          const ReportSource about = reportSourceOf(source);
+                          const Report text(language.word());
+                          Output output(Output::File, place);
+                          const bool isThere = write(&output, ReportWriter(*judgement, about, text).content(), isPdf);
+                          return isThere ? statusOf(source) : noOutput(output.error());
+                      });
 }
 
 } // namespace

@@ -78,10 +78,11 @@ Progress::Progress(const QString &what) : m_what(what), m_isShown(::isatty(STDER
     m_time.start();
 }
 
-Progress::~Progress()
+void Progress::clear()
 {
     if (m_hasShown)
         std::fputs("\r\033[K", stderr);
+    m_hasShown = false;
 }
 
 RecordProgress Progress::callback()

@@ -29,12 +29,14 @@ class Progress
 {
 public:
     explicit Progress(const QString &what);
-    ~Progress();
+    ~Progress() { clear(); }
     Progress(const Progress &) = delete;
     Progress &operator=(const Progress &) = delete;
 
     /// To be handed to the work, for which it is asked from time to time.
     RecordProgress callback();
+    /// Takes what is shown away.
+    void clear();
 
 private:
     bool take(qint64 done, qint64 total);

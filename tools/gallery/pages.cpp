@@ -54,7 +54,7 @@ Page monitorOfASite()
 {
     Page page = byKey("site-monitor", "F8",
                       { "setup", "F5 Left Left Left Wait7260: overview", "F2 Right Right Right Right: harmonics",
-                        "F5 F4: dips", "F3: trend" },
+                        "F5 F4: dips", "F3: trend", "F10 F4: recorded" },
                       "", false, false);
     page.onRequest = true;
     return page;

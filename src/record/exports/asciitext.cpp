@@ -16,3 +16,8 @@ QByteArray AsciiText::of(const QString &text, int most)
     }
     return ascii.trimmed().left(most).trimmed();
 }
+
+QByteArray AsciiText::of(const QByteArray &text, int most)
+{
+    return of(QString::fromUtf8(text), most);
+}

@@ -117,12 +117,16 @@ bool ComtradeExport::waveformBegin(const RecordedWaveform &waveform)
     m_isUsable = channels > 0 && channels <= kMostChannels && hasUsableRate(waveform);
     if (m_isUsable)
         m_mostSamples = qint64(kMostStamp / kMicroseconds * rate) + 1;
-    m_hasFactor.clear();
+    m_raw.clear();
     for (RecordedWaveform::Channel &channel : m_waveform.channels) {
-        m_hasFactor << std::isfinite(channel.factor);
-        // The factor must not be 0, whatever it turns the samples into.
-        if (!std::isfinite(channel.factor))
-            channel.factor = 1;
+        // A factor is never 0 in the file, whatever it turns the samples into.
+        const bool isFactor = std::isfinite(channel.factor);
+        if (isFactor && channel.factor != 0) {
+            m_raw.append(Raw());
+            continue;
+        }
+        m_raw.append({ 0, isFactor ? qint16(0) : kMissing });
+        channel.factor = 1;
     }
     return true;
 }
@@ -146,12 +150,9 @@ void ComtradeExport::writeSample(const qint16 *sample)
     const double stamp = double(m_now.samples) * kMicroseconds / m_waveform.sampleRate;
     qToLittleEndian(quint32(std::llround(stamp)), at + 4);
     at += 8;
-    for (int i = 0; i < channels; ++i, at += 2) {
-        qint16 value = m_hasFactor[i] ? qMax(sample[i], qint16(-kMost)) : kMissing;
-        if (m_waveform.channels[i].factor == 0)
-            value = 0;
-        qToLittleEndian(value, at);
-    }
+    const Raw *raw = m_raw.constData();
+    for (int i = 0; i < channels; ++i, at += 2)
+        qToLittleEndian(qint16((qMax(sample[i], qint16(-kMost)) & raw[i].kept) | raw[i].set), at);
     m_data.wrote(at);
     ++m_now.samples;
     ++m_taken;
@@ -217,8 +218,8 @@ QByteArray ComtradeExport::channelLine(int number) const
     const bool isVoltage = channel.unit == "V";
     const QString &ratio = isVoltage && channel.channel == "N" ? m_facts.ratioN : m_facts.ratio;
     const QByteArray line = QByteArray::number(number) + ',' + name + ',' + phaseOf(channel.channel) + ",,"
-        + unitOf(channel.unit) + ',' + factor(channel.factor == 0 ? 1 : channel.factor) + ",0,0,"
-        + QByteArray::number(-kMost) + ',' + QByteArray::number(kMost) + ',' + ratioOf(ratio, isVoltage) + ",P";
+        + unitOf(channel.unit) + ',' + factor(channel.factor) + ",0,0," + QByteArray::number(-kMost) + ','
+        + QByteArray::number(kMost) + ',' + ratioOf(ratio, isVoltage) + ",P";
     return line;
 }
 

@@ -1,5 +1,7 @@
 #include "record/exports/pqdifchannels.h"
 
+#include "record/exports/asciitext.h"
+
 namespace {
 
 struct Numbered
@@ -55,14 +57,16 @@ bool PqdifChannel::operator==(const PqdifChannel &other) const
 
 int PqdifChannels::numberOf(const PqdifChannel &channel)
 {
-    QByteArray name = channel.name;
+    constexpr int kMostName = 200; // characters
+    const QByteArray wanted = AsciiText::of(channel.name, kMostName);
+    QByteArray name = wanted;
     for (int i = 2; m_numbers.contains(name); ++i) {
         const int number = m_numbers.value(name);
         PqdifChannel known = m_channels[number];
         known.name = channel.name;
         if (known == channel)
             return number;
-        name = channel.name + " #" + QByteArray::number(i);
+        name = wanted + " #" + QByteArray::number(i);
     }
     m_numbers.insert(name, m_channels.size());
     m_channels.append(channel);

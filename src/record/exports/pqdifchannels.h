@@ -32,7 +32,7 @@ struct PqdifSeries
 /// What a channel of the files is, without its values.
 struct PqdifChannel
 {
-    QByteArray name; // ASCII
+    QByteArray name;
     quint32 phase = 0;
     PqdifId type = PqdifValue::kValueLog;
     PqdifMeasured measured = PqdifMeasured::None;

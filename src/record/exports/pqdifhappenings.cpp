@@ -1,6 +1,5 @@
 #include "record/exports/pqdifhappenings.h"
 
-#include "record/exports/asciitext.h"
 #include "record/exports/pqdifobservation.h"
 #include "record/exports/waveformcheck.h"
 #include "record/tables/blockcolumns.h"
@@ -139,8 +138,7 @@ bool PqdifHappenings::event(const RecordedEvent &event)
     if (m_categories.size() < kMostNamed)
         m_categories.insert(event.number, categoryOf(kind, seconds, m_facts.nominalFrequency));
     const QByteArray channel = channelOf(event, m_facts.joinMode);
-    const QByteArray name
-        = AsciiText::of(QString::fromUtf8(eventKindName(kind)), 100) + (channel.isEmpty() ? "" : " ") + channel;
+    const QByteArray name = eventKindName(kind) + (channel.isEmpty() ? "" : " ") + channel;
     return listEvent(event, kind, seconds) && keepCurves(event, name, seconds);
 }
 
@@ -245,7 +243,7 @@ bool PqdifHappenings::waveformBegin(const RecordedWaveform &waveform)
         if (!std::isfinite(input.factor))
             continue;
         PqdifChannel channel
-            = valueChannel(AsciiText::of(QString::fromUtf8(input.name), 100) + " (waveform)", input.channel,
+            = valueChannel(input.name + " (waveform)", input.channel,
                            input.unit == "A" ? PqdifMeasured::Current : PqdifMeasured::Voltage,
                            { kSeriesVal, pqdifUnit(input.unit), kQcInstantaneous, PqdifStorage::Scaled, 0 });
         channel.type = kWaveform;
@@ -258,11 +256,19 @@ bool PqdifHappenings::waveformBegin(const RecordedWaveform &waveform)
 
 bool PqdifHappenings::waveformSamples(const qint16 *samples, int count)
 {
-    const int most = kMostSamples / qMax(1, m_places.size());
-    for (int n = 0; n < count && !m_places.isEmpty(); ++n) {
-        for (int c = 0; c < m_places.size(); ++c)
-            m_samples[c].append(samples[qint64(n) * m_inputs + m_places[c]]);
-        if (m_samples[0].size() >= most && !keepSamples())
+    if (m_places.isEmpty())
+        return true;
+    const int most = kMostSamples / m_places.size();
+    for (int done = 0; done < count;) {
+        const int before = m_samples[0].size(), piece = qMin(count - done, most - before);
+        for (int c = 0; c < m_places.size(); ++c) {
+            m_samples[c].resize(before + piece);
+            const qint16 *from = samples + qint64(done) * m_inputs + m_places[c];
+            for (qint16 *to = m_samples[c].data() + before, *end = to + piece; to != end; ++to, from += m_inputs)
+                *to = *from;
+        }
+        done += piece;
+        if (before + piece == most && !keepSamples())
             return false;
     }
     return true;
@@ -307,7 +313,7 @@ bool PqdifHappenings::keepSamples()
         observation.beginChannel(m_definitions[c]);
         observation.addClock(count, rate);
         observation.addScaled(m_samples[c], double(m_waveform.channels[m_places[c]].factor));
-        m_samples[c].clear();
+        m_samples[c].resize(0);
     }
     m_first += count;
     return m_keep(observation.body(), observation.start());

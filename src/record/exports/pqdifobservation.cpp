@@ -1,11 +1,13 @@
 #include "record/exports/pqdifobservation.h"
 
+#include "record/exports/asciitext.h"
 #include "record/exports/pqdiftags.h"
 
 PqdifObservation::PqdifObservation(const QByteArray &name, qint64 start, qint64 created, PqdifTrigger trigger)
     : m_start(start)
 {
-    m_root.addText(PqdifTag::kObservationName, name);
+    constexpr int kMostName = 200; // characters
+    m_root.addText(PqdifTag::kObservationName, AsciiText::of(name, kMostName));
     m_root.addTime(PqdifTag::kTimeCreate, PqdifTime::ofMicroseconds(created));
     m_root.addTime(PqdifTag::kTimeStart, PqdifTime::ofMicroseconds(start));
     m_root.addNumber(PqdifTag::kTriggerMethodID, quint32(trigger));

@@ -29,21 +29,6 @@ int inputsOf(const ChannelSet *wiring)
 
 } // namespace
 
-int BlockCheck::placeOf(quint32 type)
-{
-    const int low = int(type & 0xFF);
-    switch (type >> 8) {
-    case 0xA10000:
-        return low;
-    case 0xA10010:
-        return kPage + low;
-    case 0xA10100:
-        return 2 * kPage + low;
-    default:
-        return 3 * kPage;
-    }
-}
-
 void BlockCheck::set(quint32 type, BlockRole role, Time time, quint32 least, quint32 most)
 {
     m_rules[std::size_t(placeOf(type))] = { role, time, least, most };
@@ -71,37 +56,32 @@ void BlockCheck::setWiring(int joinMode)
     }
 }
 
-const char *BlockCheck::problem(const Pqa2Block &block, const char *look) const
+BlockCheck::Finding BlockCheck::timed(BlockRole role, Time time, const Pqa2Block &block, const char *look) const
 {
-    const Rule &rule = this->rule(block.type);
-    if (block.size < rule.least || block.size > rule.most)
-        return "a block has another length than its kind";
-    if (rule.time == Time::None || block.size == 0)
-        return nullptr;
-    if (rule.role == BlockRole::EventCurves && block.size < quint32(kShortestCurves))
-        return "a block has another length than its kind";
+    if (role == BlockRole::EventCurves && block.size < quint32(kShortestCurves))
+        return { role, "a block has another length than its kind", -1 };
     if (!look)
-        return "a block cannot be read";
-    const bool isTime = rule.time == Time::Double ? BlockCheck::isTime(valueAt<double>(look))
-                                                  : BlockCheck::isTime(timeOf(block, look));
-    return isTime ? nullptr : "the time of a block is none";
-}
-
-qint64 BlockCheck::timeOf(const Pqa2Block &block, const char *look) const
-{
-    if (!look || block.size < 4)
-        return -1;
-    switch (rule(block.type).time) {
+        return { role, "a block cannot be read", -1 };
+    qint64 ms = -1;
+    switch (time) {
     case Time::None:
-        return -1;
+        break;
     case Time::Seconds:
-        return qint64(valueAt<quint32>(look)) * 1000;
+        ms = qint64(valueAt<quint32>(look)) * 1000;
+        break;
     case Time::Milliseconds:
-        return valueAt<qint64>(look);
-    case Time::Double:
-        return qint64(valueAt<double>(look));
-    case Time::EventStart:
-        return valueAt<qint64>(look + offsetof(EventHead, startTime));
+        ms = valueAt<qint64>(look);
+        break;
+    case Time::Double: {
+        const double moment = valueAt<double>(look);
+        ms = isTime(moment) ? qint64(moment) : -1;
+        break;
     }
-    return -1;
+    case Time::EventStart:
+        ms = valueAt<qint64>(look + offsetof(EventHead, startTime));
+        break;
+    }
+    if (!isTime(ms))
+        return { role, "the time of a block is none", -1 };
+    return { role, nullptr, ms };
 }

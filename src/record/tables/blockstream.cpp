@@ -28,7 +28,7 @@ bool BlockStream::readOn()
     if (m_part >= m_parts.size())
         return false;
     if (!m_walk)
-        m_walk = std::make_unique<Pqa2Walk>(m_parts[m_part].path);
+        m_walk = std::make_unique<Pqa2Walk>(m_parts[m_part].path, m_parts[m_part].isBroken);
     Pqa2Block block;
     if (m_walk->next(&block)) {
         m_at = block.offset;
@@ -48,14 +48,13 @@ void BlockStream::takeBlock(const Pqa2Block &block)
     const BlockRole role = m_check.role(block.type);
     if (role < BlockRole::Values || role > BlockRole::EventWave)
         return;
-    const char *look = m_walk->payload(block, BlockCheck::kLook);
-    if (m_check.problem(block, look))
+    const BlockCheck::Finding finding = m_check.inspect(block, m_walk->payload(block, BlockCheck::kLook));
+    if (finding.problem)
         return;
-    const qint64 time = m_check.timeOf(block, look);
     if (role == BlockRole::Values)
-        takeValues(block, time);
+        takeValues(block, finding.time);
     else
-        takeOther(StreamItem::Kind(int(StreamItem::Log) + int(role) - int(BlockRole::Log)), block, time);
+        takeOther(StreamItem::Kind(int(StreamItem::Log) + int(role) - int(BlockRole::Log)), block, finding.time);
 }
 
 void BlockStream::takeValues(const Pqa2Block &block, qint64 time)

@@ -28,6 +28,7 @@ public:
     {
         int number; // among the parts of the recording
         QString path;
+        bool isBroken; // there are blocks behind damage
     };
 
     BlockStream(std::vector<Part> parts, const BlockColumns &columns, const BlockCheck &check);

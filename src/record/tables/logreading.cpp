@@ -14,7 +14,7 @@ constexpr int kTimeBytes = 20; // "2023/11/14  22:13:20"
 constexpr int kProgressStep = 1000; // lines
 
 /// The cells of a header behind the time. The last comma has nothing behind it.
-std::vector<QByteArray> headerCells(const QByteArray &line)
+std::vector<QByteArray> cellsOf(const QByteArray &line)
 {
     QList<QByteArray> cells = line.split(',');
     if (!cells.isEmpty() && cells.constLast().isEmpty())
@@ -29,6 +29,11 @@ LogReading::LogReading(const QString &path)
     m_facts.kind = RecordKind::Log;
     m_files.append(RecordFileReport());
     m_files[0].path = path;
+}
+
+int LogReading::headerCells(const QByteArray &line)
+{
+    return int(cellsOf(line).size());
 }
 
 qint64 LogReading::timeOf(const QByteArray &line, int cells)
@@ -54,7 +59,7 @@ bool LogReading::scan(const RecordProgress &progress)
         report.fault(RecordState::Unreadable, 0, reason.isEmpty() ? QStringLiteral("no header of the logger") : reason);
         return true;
     }
-    m_columns = LogColumns(headerCells(line));
+    m_columns = LogColumns(cellsOf(line));
     const int cells = int(m_columns.places().size());
     if (!lines.isWhole())
         report.fault(RecordState::Cut, 0, QStringLiteral("the file ends inside its header"));

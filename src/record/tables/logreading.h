@@ -19,6 +19,9 @@ public:
     /// The time of a line, ms, or -1 for a line that is none of the logger's. \a cells: columns behind the time.
     static qint64 timeOf(const QByteArray &line, int cells);
 
+    /// Columns behind the time that a header tells.
+    static int headerCells(const QByteArray &line);
+
 private:
     bool readLine(RecordOutput &out, const QByteArray &line, qint64 time);
 

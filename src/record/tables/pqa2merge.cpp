@@ -49,7 +49,7 @@ Pqa2Merge::Pqa2Merge(const RecordFacts &facts, const QVector<Pqa2Part> &parts, c
     for (int i = 0; i < parts.size(); ++i) {
         if (i == 0 || parts.at(i - 1).file != parts.at(i).file)
             files_.emplace_back();
-        files_.back().push_back({ i, parts.at(i).path });
+        files_.back().push_back({ i, parts.at(i).path, files.at(i).state == RecordState::Broken });
     }
     for (auto &file : files_)
         m_streams.push_back(std::make_unique<BlockStream>(std::move(file), m_columns, m_check));
@@ -72,7 +72,7 @@ bool Pqa2Merge::readEvents(RecordOutput &out)
             walk = std::make_unique<Pqa2Walk>(m_parts.at(part = place.part).path);
         RecordedEvent event;
         event.number = ++number;
-        event.item = eventOf(walk->copy(place.block, place.block.size), curveMask(m_facts.joinMode));
+        event.item = eventOf(walk->copy(place.block, 0, place.block.size), curveMask(m_facts.joinMode));
         // Without its bytes, which are gone since, what was seen of it has to do.
         if (event.item.startTime != place.head.startTime)
             event.item = eventOf(QByteArray(reinterpret_cast<const char *>(&place.head), sizeof place.head), 0);

@@ -10,6 +10,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
 #include <map>
@@ -18,7 +19,7 @@ namespace {
 
 constexpr qint64 kProgressStep = 4 << 20; // bytes
 constexpr qint64 kLongestOpening = 64 << 10; // bytes; the instrument's are some hundred
-constexpr int kMostKinds = 256; // kinds of blocks that are counted apart; the format has some seventy
+constexpr int kMostKinds = 256; // foreign kinds of blocks that are counted
 
 /// Value of a line "KEY: value".
 QString lineOf(const QByteArray &text, const char *key)
@@ -62,28 +63,37 @@ class Pqa2Recording::Counts
 public:
     void add(const Pqa2Block &block)
     {
-        RecordBlockCount *count = m_last;
-        if (!count || count->type != block.type) {
-            if (m_counts.size() >= std::size_t(kMostKinds) && m_counts.find(block.type) == m_counts.end())
-                return;
-            count = &m_counts[block.type];
-        }
+        const int place = BlockCheck::placeOf(block.type);
+        RecordBlockCount *count = place == BlockCheck::kOtherPlace ? other(block.type) : &m_counts[std::size_t(place)];
+        if (!count)
+            return;
         count->type = block.type;
         ++count->count;
         count->bytes += block.size;
-        m_last = count;
     }
+    /// By type.
     QVector<RecordBlockCount> list() const
     {
         QVector<RecordBlockCount> list;
-        for (const auto &entry : m_counts)
+        for (const auto &entry : m_others)
             list.append(entry.second);
+        for (const RecordBlockCount &count : m_counts) {
+            if (count.count > 0)
+                list.append(count);
+        }
+        std::sort(list.begin(), list.end(), [](const auto &a, const auto &b) { return a.type < b.type; });
         return list;
     }
 
 private:
-    std::map<quint32, RecordBlockCount> m_counts;
-    RecordBlockCount *m_last = nullptr;
+    RecordBlockCount *other(quint32 type)
+    {
+        const bool isFull = m_others.size() >= std::size_t(kMostKinds) && m_others.find(type) == m_others.end();
+        return isFull ? nullptr : &m_others[type];
+    }
+
+    std::array<RecordBlockCount, BlockCheck::kPlaces> m_counts {};
+    std::map<quint32, RecordBlockCount> m_others; // of no kind of the format
 };
 
 Pqa2Recording::Pqa2Recording(const QVector<Parts> &files, bool isComplete) : m_isComplete(isComplete)
@@ -116,17 +126,17 @@ bool Pqa2Recording::scanPart(int index, const RecordProgress &progress)
 {
     Pqa2Walk walk(m_parts.at(index).path);
     Counts counts;
+    RecordFileReport &report = m_files[index];
     qint64 told = 0;
     for (Pqa2Block block; walk.next(&block);) {
         counts.add(block);
-        takeBlock(index, block, walk);
+        takeBlock(index, block, walk, report);
         if (progress && block.offset >= told) {
             told = block.offset + kProgressStep;
             if (!progress(m_done + block.offset, m_total))
                 return false;
         }
     }
-    RecordFileReport &report = m_files[index];
     report.blocks = counts.list();
     report.size = walk.size();
     m_done += walk.size();
@@ -137,25 +147,26 @@ bool Pqa2Recording::scanPart(int index, const RecordProgress &progress)
     return true;
 }
 
-void Pqa2Recording::takeBlock(int index, const Pqa2Block &block, Pqa2Walk &walk)
+void Pqa2Recording::takeBlock(int index, const Pqa2Block &block, Pqa2Walk &walk, RecordFileReport &report)
 {
-    const BlockRole role = m_check.role(block.type);
-    if (role == BlockRole::Passed)
+    const BlockCheck::Finding finding = m_check.inspect(block, walk.payload(block, BlockCheck::kLook));
+    if (finding.role == BlockRole::Passed)
         return;
-    const char *look = walk.payload(block, BlockCheck::kLook);
-    RecordFileReport &report = m_files[index];
-    if (const char *problem = m_check.problem(block, look)) {
-        report.fault(RecordState::Broken, block.offset, QString::fromLatin1(problem));
+    if (finding.problem) {
+        report.fault(RecordState::Broken, block.offset, QString::fromLatin1(finding.problem));
         return;
     }
-    const qint64 time = m_check.timeOf(block, look);
-    if (time >= 0 && role != BlockRole::EventHead && role != BlockRole::EventCurves) {
+    const qint64 time = finding.time;
+    const bool isEvent = finding.role == BlockRole::EventHead || finding.role == BlockRole::EventCurves;
+    if (time >= 0 && !isEvent) {
         report.start = report.start ? qMin(report.start, time) : time;
         report.end = qMax(report.end, time);
     }
-    switch (role) {
+    if (finding.role == BlockRole::Values)
+        return;
+    switch (finding.role) {
     case BlockRole::Opening:
-        takeOpening(index, block, walk.copy(block, kLongestOpening));
+        takeOpening(index, block, walk.copy(block, 0, kLongestOpening));
         break;
     case BlockRole::Start:
         m_parts[index].hasStart = true;
@@ -168,7 +179,7 @@ void Pqa2Recording::takeBlock(int index, const Pqa2Block &block, Pqa2Walk &walk)
         break;
     case BlockRole::EventHead:
     case BlockRole::EventCurves:
-        takeEvent(index, block, look);
+        takeEvent(index, block, walk.payload(block, BlockCheck::kLook));
         break;
     default:
         break;
@@ -252,7 +263,8 @@ void Pqa2Recording::findEnds()
         last = qMax(last, report.end);
         const bool isFirst = i == 0 || m_parts.at(i - 1).file != m_parts.at(i).file;
         hasStart = (!isFirst && hasStart) || m_parts.at(i).hasStart;
-        if (hasStart && !m_parts.at(i).hasEnd && !goesOn(i) && !hasSpectra(report))
+        report.lacksEnd = hasStart && !m_parts.at(i).hasEnd && !goesOn(i) && !hasSpectra(report);
+        if (report.lacksEnd)
             report.fault(RecordState::Cut, report.size, QStringLiteral("the recording has no end"));
     }
     m_facts.end = qMax(m_facts.end, last);

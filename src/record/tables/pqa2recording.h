@@ -41,7 +41,7 @@ private:
     class Counts;
 
     bool scanPart(int index, const RecordProgress &progress);
-    void takeBlock(int index, const Pqa2Block &block, Pqa2Walk &walk);
+    void takeBlock(int index, const Pqa2Block &block, Pqa2Walk &walk, RecordFileReport &report);
     void takeEvent(int index, const Pqa2Block &block, const char *look);
     void takeOpening(int index, const Pqa2Block &block, const QByteArray &payload);
     void findKind();

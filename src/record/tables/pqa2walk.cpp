@@ -2,7 +2,7 @@
 
 #include "record/tables/inputfile.h"
 
-Pqa2Walk::Pqa2Walk(const QString &path)
+Pqa2Walk::Pqa2Walk(const QString &path, bool skipsDamage) : m_skipsDamage(skipsDamage)
 {
     m_openError = openInput(&m_file, path, QIODevice::Unbuffered); // the reader has its window
     m_reader = std::make_unique<Pqa2Reader>(&m_file);
@@ -13,7 +13,7 @@ bool Pqa2Walk::next(Pqa2Block *block)
     do {
         if (m_reader->next(block))
             return true;
-    } while (m_reader->skipDamage());
+    } while (m_skipsDamage && m_reader->skipDamage());
     return false;
 }
 

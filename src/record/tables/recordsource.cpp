@@ -17,6 +17,7 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <fcntl.h>
 #include <map>
 #include <unistd.h>
 
@@ -102,7 +103,7 @@ bool RecordSource::open(const QString &path, const RecordProgress &progress)
 
 bool RecordSource::openFolder(const RecordProgress &progress)
 {
-    if (::access(QFile::encodeName(m_path).constData(), R_OK | X_OK) != 0) {
+    if (::faccessat(AT_FDCWD, QFile::encodeName(m_path).constData(), R_OK | X_OK, AT_EACCESS) != 0) {
         fault(m_path, QString::fromLocal8Bit(std::strerror(errno)));
         return true;
     }
@@ -140,7 +141,7 @@ bool RecordSource::openFolder(const RecordProgress &progress)
 
 bool RecordSource::read(RecordSink &sink, const RecordProgress &progress)
 {
-    return m_reading && m_reading->read(sink, progress);
+    return state() != RecordState::Unreadable && m_reading->read(sink, progress);
 }
 
 const RecordFacts &RecordSource::facts() const

@@ -45,7 +45,7 @@ private slots:
     void aHeldArrowGoesOn();
     void enterSetsAndTakesTheMark();
     void allAndNone();
-    void viewIsBlackOnPicturesOnly();
+    void viewIsBlackOnWhatItCanShow();
     void theDeleteKeyAsksAndDeletesWhatIsChecked();
     void aNoDeletesNothing();
     void withoutAMarkNothingIsAsked();
@@ -235,19 +235,24 @@ void TstMemoryPage::allAndNone()
     }
 }
 
-void TstMemoryPage::viewIsBlackOnPicturesOnly()
+void TstMemoryPage::viewIsBlackOnWhatItCanShow()
 {
+    const QString black = "color: #000000;", grey = "color: #909090;";
     storeThree();
+    store("notes.txt"); // the newest
     Screen screen;
-    QCOMPARE(sheet(screen.page, "btn_f4"), QStringLiteral("color: #000000;"));
-    screen.press({ Down });
-    QCOMPARE(sheet(screen.page, "btn_f4"), QStringLiteral("color: #909090;"));
+    QCOMPARE(screen.names().first(), QStringLiteral("notes.txt"));
+    QCOMPARE(sheet(screen.page, "btn_f4"), grey);
     screen.press({ F3 });
-    QCOMPARE(sheet(screen.page, "btn_f4"), QStringLiteral("color: #000000;"));
+    QCOMPARE(sheet(screen.page, "btn_f4"), black);
     screen.press({ F5 });
-    QCOMPARE(sheet(screen.page, "btn_f4"), QStringLiteral("color: #909090;"));
-    screen.press({ Up });
-    QCOMPARE(sheet(screen.page, "btn_f4"), QStringLiteral("color: #000000;"));
+    QCOMPARE(sheet(screen.page, "btn_f4"), grey);
+    for (int row = 1; row < 4; ++row) { // a picture, a saved page, a recording
+        screen.press({ Down });
+        QCOMPARE(sheet(screen.page, "btn_f4"), black);
+    }
+    screen.press({ Up, Up, Up });
+    QCOMPARE(sheet(screen.page, "btn_f4"), grey);
 }
 
 void TstMemoryPage::theDeleteKeyAsksAndDeletesWhatIsChecked()

@@ -72,6 +72,18 @@ public:
     Pqa2Bytes &start(qint64 s) { return add(0xA1000018, le(quint64(s), 4)); }
     Pqa2Bytes &end(qint64 s) { return add(0xA1000019, le(quint64(s), 4)); }
 
+    static constexpr qint64 kTime = 1700000000000; // ms: 2023-11-14 22:13:20 UTC
+    static constexpr qint64 kSeconds = kTime / 1000;
+    /// The beginning of a recording: four blocks, then a frequency each second, counted from 1 Hz and kTime + 1 s on.
+    static Pqa2Bytes recording(int rows)
+    {
+        Pqa2Bytes file;
+        file.opening().start(kSeconds);
+        for (int i = 1; i <= rows; ++i)
+            file.timed(0xA1000029, kTime + i * 1000, f32(float(i)));
+        return file;
+    }
+
     QByteArray bytes() const
     {
         QByteArray out = fileHead();
@@ -91,9 +103,15 @@ public:
         before.m_blocks = m_blocks.mid(0, index);
         return before.bytes().size();
     }
+    static QByteArray bytesOf(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
     bool save(const QString &path) const { return save(path, bytes()); }
     static bool save(const QString &path, const QByteArray &bytes)
     {
+        QFile::remove(path); // some file systems wait for the disk when a file is written anew
         QFile file(path);
         return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
     }

@@ -11,8 +11,8 @@ namespace {
 
 using P = Pqa2Bytes;
 
-constexpr qint64 kTime = 1700000000000; // 2023-11-14 22:13:20 UTC
-constexpr qint64 kSeconds = kTime / 1000;
+constexpr qint64 kTime = P::kTime;
+constexpr qint64 kSeconds = P::kSeconds;
 
 /// A file of spectra of one channel (wiring 6): distortion, fundamental, then lines that count up.
 QByteArray lines(float distortion, float fundamental, float first)

@@ -44,6 +44,7 @@ private slots:
     void harmonicsInVoltsAreTakenOfTheirFundamental();
     void mainsSignalsNeedThreeSeconds();
     void whatIsMissingIsNamed();
+    void withoutANominalValueNothingIsHidden();
     void eventsAreCountedByTheWeek();
     void theWorstEventsGetTheirPicture();
     void anEmptyRecordingIsNotJudged();
@@ -248,6 +249,19 @@ void TstRecordJudge::whatIsMissingIsNamed()
     QCOMPARE(missing,
              (QVector<Quantity> { Quantity::Frequency, Quantity::Unbalance, Quantity::Thd, Quantity::Harmonic,
                                   Quantity::Plt, Quantity::Signal1, Quantity::Signal2 }));
+}
+
+void TstRecordJudge::withoutANominalValueNothingIsHidden()
+{
+    FedRecording r;
+    r.facts.nominalVolt = 0;
+    r.fill(r.table("monitor_voltage", FedRecording::voltages()), kStep, [](int) {
+        return std::vector<double> { 230, 230, 230 };
+    });
+    const Judgement j = judged(r);
+    QCOMPARE(j.notJudged.at(1).quantity, Quantity::Voltage); // behind the frequency, which was not recorded
+    QCOMPARE(j.notJudged.at(1).why, NotJudgedBecause::NoNominal);
+    QVERIFY(j.outcome() != Outcome::Pass);
 }
 
 void TstRecordJudge::eventsAreCountedByTheWeek()

@@ -139,8 +139,8 @@ void TstReportWriter::durationsAreReadable()
     QCOMPARE(text.duration(600000), QStringLiteral("00:10:00"));
     QCOMPARE(text.duration(FedRecording::kWeek + 168000), QStringLiteral("7 d 00:02:48"));
     QCOMPARE(text.duration(-1), QStringLiteral("–"));
-    QCOMPARE(Report::time(0), QStringLiteral("–"));
-    QCOMPARE(Report::time(1700000000000), QStringLiteral("2023-11-14 22:13:20"));
+    QCOMPARE(text.time(0), QStringLiteral("–"));
+    QCOMPARE(text.time(1700000000000), QStringLiteral("2023-11-14 22:13:20"));
 }
 
 void TstReportWriter::everyAnchorThatIsLinkedIsThere()

@@ -107,7 +107,9 @@ private:
     {
         if (m_supply != Bad)
             return;
-        const auto event = [this](int type, int phase, qint64 start, qint64 end, float value) {
+        const auto event = [this, seconds](int type, int phase, qint64 start, qint64 end, float value) {
+            if (end > qint64(seconds) * 1000)
+                return;
             QByteArray head(32, '\0');
             const qint32 words[] = { phase, type, 1 };
             const qint64 times[] = { kStart * 1000 + start, kStart * 1000 + end };

@@ -3,6 +3,7 @@
 #include "memory/imageviewer.h"
 #include "memory/memorypage.h"
 #include "platform/target.h"
+#include "record/pqa2ff.h"
 #include "shell/pagetable.h"
 #include "shell/systemtray.h"
 #include "task/unitask.h"
@@ -22,6 +23,7 @@ class TstShell : public ShellCase
 
 private slots:
     void startsInTheMenu();
+    void aRecordedFileSaysWhichInstrumentWroteIt();
     void menuIsATorus_data();
     void menuIsATorus();
     void currentTileIsHighlighted();
@@ -65,6 +67,20 @@ void TstShell::startsInTheMenu()
              QStringLiteral("Press F1-F5 to show more infomation"));
     QCOMPARE(m_basedialog->menu()->findChild<QLabel *>("mainssignaling_t")->text(), QStringLiteral("Mains\nSignaling"));
     QCOMPARE(m_basedialog->menu()->findChild<QLabel *>("power_t")->text(), QStringLiteral("Power&Energy\n"));
+}
+
+void TstShell::aRecordedFileSaysWhichInstrumentWroteIt()
+{
+    const QString path = "/mnt/storage/opening.pqa2";
+    Pqa2FF file;
+    QVERIFY(file.open(path));
+    file.close();
+    QFile written(Target::path(path));
+    QVERIFY(written.open(QIODevice::ReadOnly));
+    const QByteArray content = written.readAll();
+    QVERIFY(written.remove());
+    for (const char *line : { "MODEL: ", "SN: ", "Fnom: 50Hz\n", "Unom: 230V\n", "Join: " })
+        QVERIFY2(content.contains(line), line);
 }
 
 void TstShell::menuIsATorus_data()

@@ -324,15 +324,18 @@ void TstLoggerFunction::refusedLineIsMissingAndTheNextIsThere()
     run(kFrequency);
     take(50.0f);
     m_task->logger().writeLoggerData();
+    QVERIFY(!m_task->logger().refused());
     const QByteArray before = RootFiles::read(kFirst);
     {
         const FileLimit full(rlim_t(before.size()) + 10);
         take(51.0f);
         m_task->logger().writeLoggerData();
         QCOMPARE(RootFiles::read(kFirst), before);
+        QVERIFY(m_task->logger().refused());
     }
     take(52.0f);
     m_task->logger().writeLoggerData();
+    QVERIFY(!m_task->logger().refused());
     QCOMPARE(lines(kFirst).size(), 3);
     QCOMPARE(cells(lines(kFirst).value(2)), QByteArray("52.000,52.000,52.000,"));
 }

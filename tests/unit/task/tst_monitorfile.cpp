@@ -1,4 +1,5 @@
 #include "monitorrun.h"
+#include "unit/storage/filelimit.h"
 #include "unit/documentpage.h"
 
 #include <QMap>
@@ -96,6 +97,7 @@ private slots:
     void blocksAreThoseOfThePage();
     void exampleHoldsWhatItsSupplyWas();
     void runWritesTheBlocksOfTheExample();
+    void whatTheStorageRefusesIsKnown();
 
 private:
     const DocumentPage m_page { QStringLiteral("formats/monitor.md") };
@@ -198,6 +200,33 @@ void TstMonitorFile::runWritesTheBlocksOfTheExample()
         QCOMPARE(written[i].type, example[i].type);
         QCOMPARE(written[i].payload, example[i].payload);
     }
+}
+
+void TstMonitorFile::whatTheStorageRefusesIsKnown()
+{
+    Run run;
+    QVERIFY(!run.m_function->refused()); // nothing runs
+    run.begin();
+    const auto supply = distortedSupply();
+    run.pass(10, supply.get());
+    QVERIFY(!run.m_function->refused());
+    {
+        const FileLimit full(0);
+        run.pass(10, supply.get());
+        QVERIFY(run.m_function->refused());
+    }
+    run.pass(10, supply.get());
+    QVERIFY(!run.m_function->refused());
+    run.end();
+    Run without;
+    {
+        const FileLimit full(0);
+        without.begin(); // no file can be begun
+    }
+    without.pass(10, supply.get());
+    QVERIFY(without.m_function->refused());
+    without.end();
+    QVERIFY(!without.m_function->refused());
 }
 
 QTEST_GUILESS_MAIN(TstMonitorFile)

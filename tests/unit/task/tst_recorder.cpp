@@ -77,6 +77,7 @@ private slots:
     void nothingIsStoredInAnUnknownWiring();
     void at400HzTwelveHarmonicsAreStored();
     void anyAggregationIsTaken();
+    void hoursTakeTheRoomThatWasForetold_data();
     void hoursTakeTheRoomThatWasForetold();
 };
 
@@ -509,24 +510,50 @@ void TstRecorder::anyAggregationIsTaken()
     QCOMPARE(run.blocks().last().type, 0xA1000019u);
 }
 
+void TstRecorder::hoursTakeTheRoomThatWasForetold_data()
+{
+    QTest::addColumn<int>("joinMode");
+    QTest::addColumn<int>("interval"); // index
+    // Each writer, and each interval.
+    for (const int joinMode : { 1, 2, 3, 5, 6 })
+        QTest::addRow("wiring %d", joinMode) << joinMode << 4;
+    for (int index = 0; index < int(std::size(RecordInfo::m_record_interval)); ++index)
+        QTest::addRow("every %d s", RecordInfo::m_record_interval[index]) << 1 << index;
+}
+
 void TstRecorder::hoursTakeTheRoomThatWasForetold()
 {
-    constexpr int kHours = 6;
-    for (const int joinMode : { 1, 6 }) {
-        RecorderRun run;
-        run.setUp.wiring = channelSet(joinMode);
-        RecordInfo::m_recordItems = 0xFFFF & ~RecordInfo::Flicker; // of which none comes here
-        RecordInfo::m_interval_index = 5; // 60 s
-        run.recorder().start();
-        run.take(kHours * 18'000 + 1, 200);
-        run.recorder().stop(Keep::Data);
-        qint64 bytes = 0;
+    QFETCH(int, joinMode);
+    QFETCH(int, interval);
+    constexpr int kTenMinutes = 600; // s
+    constexpr int kShortTerms = 6; // in an hour
+    RecorderRun run;
+    run.setUp.wiring = channelSet(joinMode);
+    RecordInfo::m_recordItems = 0xFFFF;
+    RecordInfo::m_interval_index = interval;
+    const auto bytes = [&run] {
+        qint64 sum = 0;
         for (const QFileInfo &file : QDir(Target::path(run.recorder().folder().path())).entryInfoList(QDir::Files))
-            bytes += file.size();
-        const double foretold = kHours * recordBytesPerHour(RecordInfo::m_recordItems, 60, *channelSet(joinMode));
-        QVERIFY2(std::fabs(double(bytes) - foretold) < 0.003 * foretold,
-                 qPrintable(QStringLiteral("%1 instead of %2").arg(bytes).arg(foretold)));
+            sum += file.size();
+        return sum;
+    };
+    run.recorder().start();
+    run.take();
+    const qint64 begun = bytes(); // a file begins only once
+    for (int shortTerm = 1; shortTerm <= 2 * kShortTerms; ++shortTerm) {
+        run.take(kTenMinutes, 1000);
+        FlickerOutput out;
+        out.shortTerm = 7;
+        out.longTerm = shortTerm % 12 == 0 ? 7 : 0;
+        out.shortBlock = out.longBlock = QByteArray(12, '\1');
+        run.recorder().flicker(__datagram_flicker(), out);
     }
+    const int seconds = RecordInfo::m_record_interval[interval];
+    const double foretold = 2 * recordBytesPerHour(RecordInfo::m_recordItems, seconds, *channelSet(joinMode));
+    const double taken = double(bytes() - begun);
+    QVERIFY2(std::fabs(taken - foretold) < 0.001 * foretold,
+             qPrintable(QStringLiteral("%1 instead of %2").arg(taken).arg(foretold)));
+    run.recorder().stop(Keep::Data);
 }
 
 QTEST_GUILESS_MAIN(TstRecorder)

@@ -74,6 +74,7 @@ private slots:
     void at400HzHighOrdersAndFlickerAreGreyAndStayAsTheyWere();
     void harmonicsThatStayGreyBringTheRmsGroup();
     void cursorWalksThroughLinesAndColumns();
+    void cursorBeginsAtTheTop();
     void captionsOfTheLines();
     void documentTellsTheBoxes();
     void otherKeysDoNothing_data() { addFamilies(); }
@@ -252,6 +253,17 @@ void TstRecorderParams::cursorWalksThroughLinesAndColumns()
     QVERIFY(bar.contains(box(params, "mains_signaling")->geometry()));
     press(params, Up, 20);
     QCOMPARE(params->cursor(), 0);
+}
+
+void TstRecorderParams::cursorBeginsAtTheTop()
+{
+    auto page = openFamily(false);
+    press(setupOf(*page), F2);
+    press(paramOf(*page), Down, 3);
+    press(paramOf(*page), F5);
+    press(setupOf(*page), F2);
+    press(paramOf(*page), Enter);
+    QVERIFY(box(paramOf(*page), "rms")->isChecked());
 }
 
 void TstRecorderParams::captionsOfTheLines()

@@ -59,6 +59,11 @@ for (const button of document.querySelectorAll('#front [data-key]')) {
     hold(button);
   });
   for (const end of ['pointerup', 'pointercancel', 'lostpointercapture']) button.addEventListener(end, () => release(button));
+  // The keyboard stays with the screen: Enter is the instrument's, not once more the key that was clicked.
+  button.addEventListener('mousedown', (event) => {
+    event.preventDefault();
+    byId('screen').focus({ preventScroll: true });
+  });
   button.addEventListener('contextmenu', (event) => event.preventDefault());
   // A click without a pointer before it: a keyboard or an assistive program.
   button.addEventListener('click', (event) => { if (event.detail === 0) pressKey(button.dataset.key); });
@@ -73,9 +78,9 @@ function keyOf(event) {
 document.addEventListener('keydown', (event) => {
   const key = keyOf(event);
   const target = event.target;
-  const own = target.closest('#supply, header, summary, a') !== null; // has a use of its own for arrows and Enter
-  if (!key || (own && !/^F\d/.test(event.key))) return;
-  if (event.key === 'Enter' && target.closest('[data-key]')) return; // a click follows
+  // What has a use of its own for a key keeps it.
+  const own = event.key === 'Enter' ? 'a, summary, button, input, select' : 'input, select';
+  if (!key || (target.closest(own) && !/^F\d/.test(event.key))) return;
   event.preventDefault();
   if (event.repeat && (!repeated.has(key) || waiting > 0)) return;
   pressKey(key);

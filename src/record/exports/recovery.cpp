@@ -1,0 +1,190 @@
+#include "record/exports/recovery.h"
+
+#include "record/exports/outputfile.h"
+#include "record/exports/pqa2copy.h"
+#include "record/pqafile.h"
+#include "record/tables/blockcheck.h"
+#include "record/tables/inputfile.h"
+#include "record/tables/logreading.h"
+#include "record/tables/partname.h"
+#include "record/tables/recordsource.h"
+#include "record/wavefile.h"
+
+#include <QFileInfo>
+#include <QMap>
+
+namespace {
+
+constexpr int kProgressStep = 1000; // blocks or lines
+const QString kSuffix = QStringLiteral(".pqa2");
+
+/// Names that a recovered folder has.
+bool writes(const QString &name)
+{
+    return name.endsWith(kSuffix);
+}
+
+} // namespace
+
+Recovery::Recovery(const OutputPlace &place) : m_place(place) { }
+
+Recovery::Result Recovery::run(const RecordSource &source, const RecordProgress &progress)
+{
+    m_progress = progress;
+    Output output(source.isFolder() ? Output::Folder : Output::File, m_place, writes);
+    Result result = output.begin() ? Done : Failed;
+    if (result == Done)
+        result = source.isFolder() ? copyFolder(source, output)
+                                   : copyFile(source, source.files().constFirst(), output.path());
+    if (result == Done && !output.finish())
+        result = Failed;
+    if (m_error.isEmpty())
+        m_error = output.error();
+    return result;
+}
+
+/// Parts are numbered anew, without the missing ones.
+Recovery::Result Recovery::copyFolder(const RecordSource &source, Output &output)
+{
+    QMap<QString, int> parts;
+    Result result = Nothing;
+    for (const RecordFileReport &file : source.files()) {
+        if (file.state == RecordState::Unreadable)
+            continue;
+        const QString base = PartName::of(QFileInfo(file.path).fileName().chopped(kSuffix.size())).base;
+        const int part = ++parts[base];
+        const QString name = part == 1 ? base : base + QLatin1Char('_') + QString::number(part);
+        result = copyFile(source, file, output.path() + QLatin1Char('/') + name + kSuffix);
+        if (result != Done)
+            break;
+    }
+    return result;
+}
+
+Recovery::Result Recovery::copyFile(const RecordSource &source, const RecordFileReport &file, const QString &to)
+{
+    OutputFile out;
+    Result result = out.open(to) ? Done : Failed;
+    if (result == Done) {
+        switch (source.facts().kind) {
+        case RecordKind::Recording:
+        case RecordKind::Monitor:
+            result = copyBlocks(source, file, out);
+            break;
+        case RecordKind::Waveform:
+            result = copyCapture(file, out);
+            break;
+        case RecordKind::Page:
+            result = copyPage(file, out);
+            break;
+        case RecordKind::Log:
+            result = copyLines(file, out);
+            break;
+        }
+    }
+    if (result == Done && !out.close())
+        result = Failed;
+    if (result == Failed)
+        m_error = m_place.target + QStringLiteral(": ") + out.reason();
+    return result;
+}
+
+Recovery::Result Recovery::copyBlocks(const RecordSource &source, const RecordFileReport &file, OutputFile &to)
+{
+    const BlockCheck check(source.facts().joinMode);
+    Pqa2Walk walk(file.path);
+    Pqa2Copy copy(&walk, &to);
+    Pqa2Block block;
+    for (qint64 count = 0; walk.next(&block); ++count) {
+        if (!check.inspect(block, walk.payload(block, BlockCheck::kLook)).problem)
+            copy.add(block);
+        if (to.hasFailed())
+            return Failed;
+        if (count % kProgressStep == 0 && !goesOn(block.offset, file.size))
+            return Ended;
+    }
+    if (file.lacksEnd)
+        copy.addEnd(quint32(qMax<qint64>(source.facts().end, 0) / 1000));
+    return copy.finish() ? Done : Nothing;
+}
+
+Recovery::Result Recovery::copyCapture(const RecordFileReport &file, OutputFile &to)
+{
+    QFile in;
+    openInput(&in, file.path);
+    WaveFileReader counting(&in);
+    WaveFileHeader header = counting.header();
+    if (!header.isValid() || header.sampleRate == 0)
+        return Nothing;
+    header.frames = 0;
+    for (WaveChunk chunk; counting.next(&chunk);)
+        header.frames += quint64(chunk.frames);
+    to.write(reinterpret_cast<const char *>(&header), sizeof header);
+    WaveFileReader reader(&in);
+    for (WaveChunk chunk; reader.next(&chunk);) {
+        const quint32 length = quint32(chunk.frames * kWaveFrameBytes);
+        to.write(reinterpret_cast<const char *>(&length), sizeof length);
+        for (qint64 at = 0; at < chunk.frames;) {
+            const QByteArray frames = reader.frames(chunk, at);
+            if (frames.isEmpty())
+                return Nothing; // the file has become shorter
+            to.write(frames);
+            at += frames.size() / kWaveFrameBytes;
+        }
+        if (to.hasFailed())
+            return Failed;
+        if (!goesOn(chunk.offset, file.size))
+            return Ended;
+    }
+    return Done;
+}
+
+/// A picture and a record are of use only as a whole; one that is not is left out.
+Recovery::Result Recovery::copyPage(const RecordFileReport &file, OutputFile &to)
+{
+    QFile in;
+    openInput(&in, file.path);
+    __pqa_file_header header {};
+    if (in.read(reinterpret_cast<char *>(&header), sizeof header) != qint64(sizeof header))
+        return Nothing;
+    const qint64 data = qint64(sizeof header) + header.imageSize;
+    if (file.size < data)
+        return Nothing;
+    if (file.size < data + header.dataSize)
+        header.dataSize = 0;
+    if (header.imageSize == 0 && header.dataSize == 0)
+        return Nothing;
+    to.write(reinterpret_cast<const char *>(&header), sizeof header);
+    for (qint64 left = qint64(header.imageSize) + header.dataSize; left > 0;) {
+        const QByteArray piece = in.read(qMin<qint64>(left, 1 << 20));
+        if (piece.isEmpty())
+            return Nothing;
+        to.write(piece);
+        left -= piece.size();
+        if (to.hasFailed())
+            return Failed;
+    }
+    to.write(QByteArrayLiteral("\xAA\x55"));
+    return Done;
+}
+
+Recovery::Result Recovery::copyLines(const RecordFileReport &file, OutputFile &to)
+{
+    QFile in;
+    openInput(&in, file.path);
+    LineReader lines(&in);
+    QByteArray line;
+    if (!lines.next(&line) || !lines.isWhole())
+        return Nothing;
+    to.write(line + '\n');
+    const int cells = LogReading::headerCells(line);
+    for (qint64 count = 0; lines.next(&line); ++count) {
+        if (lines.isWhole() && LogReading::timeOf(line, cells) >= 0)
+            to.write(line + '\n');
+        if (to.hasFailed())
+            return Failed;
+        if (count % kProgressStep == 0 && !goesOn(lines.offset(), file.size))
+            return Ended;
+    }
+    return Done;
+}

@@ -1,0 +1,343 @@
+#!/usr/bin/python3
+"""The panel in a real browser: an instrument, its processor and quvera-panel are started, and a person's way through
+the page is gone: keys, pictures, controls, a narrow window, two viewers, an instrument that ends and comes back."""
+import json
+import os
+import pathlib
+import re
+import signal
+import socket
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+from selenium import webdriver
+from selenium.webdriver.chrome.service import Service
+from selenium.webdriver.common.action_chains import ActionChains
+from selenium.webdriver.common.by import By
+from selenium.webdriver.common.keys import Keys
+
+BIN = sys.argv.pop(1)
+PATIENCE = 120  # s, ends a hang only
+KEYS = {"Scope": "F6", "Menu": "F7", "Monitor": "F8", "Setup": "F9", "Memory": "F10", "Save": "F11", "Light": "F12"}
+
+
+def eventually(condition, what):
+    end = time.monotonic() + PATIENCE
+    while time.monotonic() < end:
+        value = condition()
+        if value:
+            return value
+        time.sleep(0.05)
+    raise AssertionError(what() if callable(what) else what)
+
+
+def free_port(kind):
+    with socket.socket(socket.AF_INET, kind) as one:
+        one.bind(("127.0.0.1", 0))
+        return one.getsockname()[1]
+
+
+class Desk:
+    """The three programs under a root of their own."""
+
+    def __init__(self, root):
+        self.root = root
+        self.environment = dict(
+            os.environ, QUVERA_ROOT=root, QUVERA_REMOTE_PORT=str(free_port(socket.SOCK_DGRAM)),
+            QUVERA_MODBUS_PORT=str(free_port(socket.SOCK_STREAM)), QT_QPA_PLATFORM="offscreen")
+        self.processor = self.begin("quvera-processor", "--scenario", "nominal")
+        eventually(lambda: os.path.exists(root + "/dev/mcasp"), "the processor does not start")
+        self.instrument = self.begin("quvera")
+        self.panel = self.begin("quvera-panel", "--port", "0", output=subprocess.PIPE)
+        self.address = self.panel.stdout.readline().decode().strip()
+
+    def begin(self, name, *arguments, output=None):
+        log = open(os.path.join(self.root, name + ".log"), "ab")
+        with log:
+            return subprocess.Popen([os.path.join(BIN, name), *arguments], env=self.environment,
+                                    stdin=subprocess.DEVNULL, stdout=output or log, stderr=log)
+
+    def restart_instrument(self):
+        self.stop(self.instrument)
+        return lambda: setattr(self, "instrument", self.begin("quvera"))
+
+    @staticmethod
+    def stop(process):
+        process.send_signal(signal.SIGTERM)
+        try:
+            process.wait(PATIENCE)
+        except subprocess.TimeoutExpired:
+            process.kill()
+            process.wait()
+
+    def end(self):
+        for process in (self.panel, self.instrument, self.processor):
+            self.stop(process)
+        self.panel.stdout.close()
+
+
+def browser(profile):
+    options = webdriver.ChromeOptions()
+    options.binary_location = "/usr/bin/chromium"
+    for argument in ("--headless=new", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage",
+                     "--window-size=1400,1000", "--user-data-dir=" + profile):
+        options.add_argument(argument)
+    options.set_capability("goog:loggingPrefs", {"browser": "ALL", "performance": "ALL"})
+    return webdriver.Chrome(service=Service("/usr/bin/chromedriver"), options=options)
+
+
+class PanelInABrowser(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.folder = tempfile.TemporaryDirectory(prefix="quvera-browser.")
+        cls.addClassCleanup(cls.folder.cleanup)
+        root = os.path.join(cls.folder.name, "root")
+        os.mkdir(root)
+        cls.desk = Desk(root)
+        cls.addClassCleanup(cls.desk.end)
+        cls.one = browser(os.path.join(cls.folder.name, "one"))
+        cls.addClassCleanup(cls.one.quit)
+        cls.one.get(cls.desk.address)
+        eventually(lambda: cls.count(cls.one) > 0, "no picture comes")
+
+    def setUp(self):
+        self.page = self.one
+        self.go_to("Setup", "Setup")  # which ends a measurement that runs
+        self.go_to("Menu", "Menu")
+
+    def go_to(self, title, key):
+        """By the key; a question on the way is answered with Quit, and Memory, which knows no such key, is left."""
+        def step():
+            seen = self.screen().get_attribute("alt").partition(": ")[2]
+            if seen == title:
+                return True
+            before = self.count(self.page)
+            self.press("F4" if "Quit" in seen else "F5" if seen.startswith("Memory") else key)
+            end = time.monotonic() + 1
+            while self.count(self.page) == before and time.monotonic() < end:
+                time.sleep(0.05)
+            return False
+        eventually(step, f"there is no way to {title}")
+
+    @staticmethod
+    def count(page):
+        return int(page.find_element(By.ID, "screen").get_attribute("data-count"))
+
+    def screen(self, page=None):
+        return (page or self.page).find_element(By.ID, "screen")
+
+    def key(self, name):
+        return self.page.find_element(By.CSS_SELECTOR, f'#front [data-key="{name}"]')
+
+    def press(self, *names):
+        for name in names:
+            self.key(name).click()
+
+    def type(self, *keys):
+        for key in keys:
+            ActionChains(self.page).send_keys(key).perform()
+
+    def title_becomes(self, title, page=None):
+        text = "Screen of the instrument: " + title
+        eventually(lambda: (self.screen(page).get_attribute("alt") or "").startswith(text),
+                   lambda: f"{title} is not shown, but {self.screen(page).get_attribute('alt')}")
+
+    def texts(self):
+        details = self.page.find_element(By.ID, "reading")
+        if not details.get_attribute("open"):
+            details.find_element(By.TAG_NAME, "summary").click()
+        return details.find_element(By.ID, "texts").get_property("textContent")
+
+    def control(self, name):
+        return eventually(lambda: self.page.find_elements(By.CSS_SELECTOR, f'[data-control="{name}"]'),
+                          f"no control {name}")[0]
+
+    def put(self, name, field, value):
+        """Moves a slider, or chooses a word, as a person's hand does: with its events."""
+        self.page.execute_script(
+            "arguments[0].value = arguments[1];"
+            "for (const kind of ['input', 'change']) arguments[0].dispatchEvent(new Event(kind, {bubbles: true}));",
+            self.control(name).find_element(By.NAME, field), value)
+
+    def stands(self, name, text):
+        def found():
+            shown = self.page.execute_script(
+                "return [...document.querySelectorAll('#standing div')].map((row) => [...row.children].map("
+                "(part) => part.textContent))")
+            return any(row[0] == name and text in row[1] for row in shown)
+        eventually(found, f"{name} does not become {text}")
+
+    def test_keys_lead_to_the_pages_they_should(self):
+        for key, title in (("Scope", "Scope"), ("Setup", "Setup"), ("Menu", "Menu"), ("Monitor", "Monitor"),
+                           ("Memory", "Memory"), ("F5", "Monitor")):
+            self.press(key)
+            self.title_becomes(title)
+
+    def test_keys_of_a_keyboard_are_those_of_the_window(self):
+        self.type(Keys.F9)
+        self.title_becomes("Setup")
+        self.type(Keys.ESCAPE)
+        self.title_becomes("Menu")
+        self.type(Keys.F6)
+        self.title_becomes("Scope")
+        self.type(Keys.F7)
+        self.title_becomes("Menu")
+        first = self.screen().get_attribute("src")
+        self.type(Keys.ARROW_DOWN)
+        eventually(lambda: self.screen().get_attribute("src") != first, "the arrow moves nothing")
+        self.type(Keys.ENTER)
+        eventually(lambda: "Menu" not in self.screen().get_attribute("alt"), "Enter opens nothing")
+
+    def test_every_key_is_reached_by_the_keyboard_alone(self):
+        wanted = {element.get_attribute("data-key") for element in
+                  self.page.find_elements(By.CSS_SELECTOR, "#front [data-key]")}
+        self.assertEqual(len(wanted), 17)
+        reached = set()
+        for _ in range(400):
+            self.type(Keys.TAB)
+            reached.add(self.page.execute_script("return document.activeElement.dataset.key || ''"))
+            if wanted <= reached:
+                break
+        self.assertEqual(wanted - reached, set())
+        self.page.execute_script("document.querySelector('[data-key=Setup]').focus()")
+        self.type(Keys.SPACE)
+        self.title_becomes("Setup")
+
+    def test_held_arrow_comes_again_and_a_held_key_once(self):
+        self.page.execute_script(
+            "window.sent = []; const real = window.fetch;"
+            "window.fetch = (path, wish) => { if (path === 'key') window.sent.push(JSON.parse(wish.body).key);"
+            "  return real(path, wish); }")
+        for name in ("Light", "Right"):
+            ActionChains(self.page).click_and_hold(self.key(name)).perform()
+            if name == "Right":
+                eventually(lambda: self.page.execute_script("return window.sent.length") > 4, "the arrow does not come again")
+            else:
+                time.sleep(1.5)  # longer than an arrow waits before it comes again
+            ActionChains(self.page).release().perform()
+        sent = self.page.execute_script("return window.sent")
+        self.assertEqual(sent.count("Light"), 1)
+        self.assertEqual(set(sent[1:]), {"Right"})
+        self.page.refresh()
+        self.title_becomes("Menu")
+
+    def test_picture_changes_by_itself(self):
+        self.press("Scope")
+        self.title_becomes("Scope")
+        before = self.count(self.page)
+        eventually(lambda: self.count(self.page) > before + 3, "the picture stands still")
+        size = self.page.execute_script(
+            "const image = document.getElementById('screen'); return [image.naturalWidth, image.naturalHeight]")
+        self.assertEqual(size, [640, 480])
+
+    def test_soft_keys_say_what_the_screen_says(self):
+        self.press("Setup")
+        eventually(lambda: self.key("F4").get_attribute("aria-label") == "F4: Clamp", "F4 is not Clamp")
+        self.assertEqual(self.key("F1").accessible_name, "F1: Config")
+
+    def test_button_makes_a_dip_that_the_event_list_shows(self):
+        self.desk.restart_instrument()()  # its menu begins at Volts/Amps/Hertz, above Dips&Swells
+        self.title_becomes("Menu")
+        eventually(lambda: not self.page.find_element(By.ID, "gone").is_displayed(), "the start goes unnoticed")
+        self.press("Down", "Enter")
+        self.title_becomes("Dips&Swells")
+        # The first ten seconds of a measurement measure nothing.
+        eventually(lambda: re.search(r"(?<![-:\d])00:00:0[2-9]", self.texts()), "the measurement does not begin")
+        self.press("F2")
+        eventually(lambda: "EVENTS : 0/0" in self.texts(), "the list is not empty")
+        self.put("dip", "on", "l2")
+        self.put("dip", "level", 55)
+        self.put("dip", "ms", 300)
+        self.control("dip").find_element(By.TAG_NAME, "button").click()
+        eventually(lambda: self.page.find_element(By.ID, "said").text == "Dip: done", "the dip is refused")
+        eventually(lambda: "1/1" in self.texts(), lambda: "no dip in the list: " + self.texts())
+
+    def test_sliders_change_what_stands_at_the_inputs(self):
+        self.put("volts", "volts", 221.5)
+        self.stands("Voltages", "221.5 / 221.5 / 221.5 V")
+        self.put("volts", "phase", "2")
+        self.put("volts", "volts", 210)
+        self.stands("Voltages", "221.5 / 210.0 / 221.5 V")
+        self.put("frequency", "hertz", 50.5)
+        self.stands("Frequency", "50.5")
+
+    def test_scenarios_are_played_by_name(self):
+        self.put("scenario", "scenario", "unbalance")
+        self.control("scenario").find_element(By.TAG_NAME, "button").click()
+        self.stands("Scenario", "unbalance")
+
+    def test_board_is_at_hand(self):
+        self.control("usbIn").find_element(By.TAG_NAME, "button").click()
+        self.stands("USB disk", "STICK")
+        self.assertTrue(os.path.isdir(self.desk.root + "/run/media/STICK"))
+        self.control("usbOut").find_element(By.TAG_NAME, "button").click()
+        self.stands("USB disk", "none")
+        self.put("charger", "state", "on")
+        gpio = self.desk.root + "/sys/class/gpio/gpio105/value"
+        eventually(lambda: pathlib.Path(gpio).read_text(encoding="ascii").strip() == "1", "the charger stays off")
+        self.put("charger", "state", "off")
+
+    def test_controls_have_names(self):
+        self.control("dip")
+        nameless = [element.get_attribute("outerHTML")[:80] for element in
+                    self.page.find_elements(By.CSS_SELECTOR, "button, input, select, img, a, summary")
+                    if not element.accessible_name]
+        self.assertEqual(nameless, [])
+
+    def test_narrow_window_keeps_everything_in_reach(self):
+        self.addCleanup(self.page.execute_cdp_cmd, "Emulation.clearDeviceMetricsOverride", {})
+        self.page.execute_cdp_cmd("Emulation.setDeviceMetricsOverride",
+                                  {"width": 360, "height": 740, "deviceScaleFactor": 2, "mobile": True})
+        eventually(lambda: self.page.execute_script("return innerWidth") == 360, "the window stays wide")
+        self.assertLessEqual(self.page.execute_script("return document.documentElement.scrollWidth"), 360)
+        for element in self.page.find_elements(By.CSS_SELECTOR, "#front button, #screen, #supply button, #supply input"):
+            box = element.rect
+            self.assertGreaterEqual(box["x"], 0, element.get_attribute("outerHTML"))
+            self.assertLessEqual(box["x"] + box["width"], 360, element.get_attribute("outerHTML"))
+        for element in self.page.find_elements(By.CSS_SELECTOR, "#front button"):
+            self.assertGreaterEqual(element.rect["height"], 44)
+        self.press("Setup")
+        self.title_becomes("Setup")
+
+    def test_two_viewers_see_the_same(self):
+        two = browser(os.path.join(self.folder.name, "two"))
+        self.addCleanup(two.quit)
+        two.get(self.desk.address)
+        self.title_becomes("Menu", two)
+        two.find_element(By.CSS_SELECTOR, '[data-key="Memory"]').click()
+        self.title_becomes("Memory")
+        self.title_becomes("Memory", two)
+
+    def test_instrument_ends_and_starts_behind_it(self):
+        start_again = self.desk.restart_instrument()
+        gone = self.page.find_element(By.ID, "gone")
+        eventually(gone.is_displayed, "the end goes unnoticed")
+        self.assertIn("does not answer", self.page.find_element(By.ID, "state").text)
+        start_again()
+        eventually(lambda: not gone.is_displayed(), "the start goes unnoticed")
+        self.press("Setup")
+        self.title_becomes("Setup")
+
+    def test_help_opens_the_guide(self):
+        address = self.page.find_element(By.ID, "help").get_attribute("href")
+        self.assertTrue(address.startswith(self.desk.address + "guide/user-guide.html"), address)
+
+    def test_zz_nothing_was_asked_elsewhere_and_no_script_failed(self):
+        """Last by its name: reads what the browser noted during all the others."""
+        asked = []
+        for entry in self.page.get_log("performance"):
+            message = json.loads(entry["message"])["message"]
+            if message["method"] == "Network.requestWillBeSent":
+                asked.append(message["params"]["request"]["url"])
+        self.assertGreater(len(asked), 50)
+        foreign = [url for url in asked if not url.startswith((self.desk.address, "data:", "blob:", "chrome:"))]
+        self.assertEqual(foreign, [])
+        noted = [entry["message"] for entry in self.page.get_log("browser") if entry["level"] == "SEVERE"]
+        self.assertEqual(noted, [])
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)

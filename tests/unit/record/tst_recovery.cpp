@@ -1,0 +1,222 @@
+#include "keptrecord.h"
+#include "pqa2bytes.h"
+#include "record/exports/recovery.h"
+#include "record/tables/recordsource.h"
+#include "testpaths.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace {
+
+using P = Pqa2Bytes;
+
+constexpr qint64 kTime = P::kTime;
+constexpr qint64 kSeconds = P::kSeconds;
+
+} // namespace
+
+/// Sound copies of damaged records.
+class TstRecovery : public QObject
+{
+    Q_OBJECT
+
+private:
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+    Recovery::Result recover(const QString &from, const QString &to, const RecordProgress &progress = {})
+    {
+        RecordSource source;
+        if (!source.open(path(from)))
+            return Recovery::Ended;
+        OutputPlace place;
+        place.target = path(to);
+        place.input = path(from);
+        place.force = true;
+        Recovery recovery(place);
+        const Recovery::Result result = recovery.run(source, progress);
+        error = recovery.error();
+        return result;
+    }
+    /// The times of a table of a whole record; none when it is not whole.
+    QVector<qint64> wholeTimes(const QString &name, const QByteArray &table)
+    {
+        RecordSource source;
+        KeptRecord kept;
+        if (!source.open(path(name)) || source.state() != RecordState::Whole || !source.read(kept))
+            return {};
+        return kept.times(table);
+    }
+
+    QTemporaryDir m_folder;
+    QString error;
+
+private slots:
+    void everyCutGivesAWholeRecordingOfTheBlocksBefore();
+    void damageInTheMiddleIsLeftOut();
+    void blockThatCannotBeRightIsLeftOut();
+    void wholeFileComesOutTheSame_data();
+    void wholeFileComesOutTheSame();
+    void folderIsRecoveredFileByFile();
+    void missingPartsAreClosedUp();
+    void tornCaptureKeepsItsWholeFrames();
+    void pageWithATornRecordKeepsItsPicture();
+    void pageWithATornPictureHasNothing();
+    void logKeepsItsWholeLines();
+    void interruptedRecoveryLeavesNothing();
+    void outputInsideTheInputIsRefused();
+};
+
+void TstRecovery::everyCutGivesAWholeRecordingOfTheBlocksBefore()
+{
+    const P file = P::recording(4).end(kSeconds + 4);
+    const QByteArray bytes = file.bytes();
+    const int firstRow = file.offsetOf(4);
+    for (int length = firstRow; length < bytes.size(); ++length) {
+        QVERIFY(P::save(path("cut.pqa2"), bytes.left(length)));
+        QCOMPARE(recover("cut.pqa2", "sound.pqa2"), Recovery::Done);
+        QCOMPARE(P::bytesOf(path("cut.pqa2")), bytes.left(length));
+        QVector<qint64> expected;
+        for (int row = 1; row <= (length - firstRow) / 24 && row <= 4; ++row)
+            expected << kTime + row * 1000;
+        QCOMPARE(wholeTimes("sound.pqa2", "frequency"), expected);
+        RecordSource source;
+        QVERIFY(source.open(path("sound.pqa2")));
+        QCOMPARE(source.state(), RecordState::Whole);
+    }
+}
+
+void TstRecovery::damageInTheMiddleIsLeftOut()
+{
+    const P file = P::recording(9).end(kSeconds + 9);
+    QByteArray bytes = file.bytes();
+    bytes.replace(file.offsetOf(8), 12, QByteArray(12, '\xEE')); // the head of the fifth row
+    QVERIFY(P::save(path("broken.pqa2"), bytes));
+    QCOMPARE(recover("broken.pqa2", "sound.pqa2"), Recovery::Done);
+    QCOMPARE(wholeTimes("sound.pqa2", "frequency").size(), 8);
+}
+
+void TstRecovery::blockThatCannotBeRightIsLeftOut()
+{
+    QVERIFY(P::recording(1)
+                .timed(0xA1000029, -5, P::f32(1))
+                .timed(0xA1000020, kTime + 2000, P::f32(1)) // 13 values for each of four inputs belong there
+                .timed(0xA1000029, kTime + 3000, P::f32(3))
+                .end(kSeconds + 3)
+                .save(path("odd.pqa2")));
+    QCOMPARE(recover("odd.pqa2", "sound.pqa2"), Recovery::Done);
+    QCOMPARE(wholeTimes("sound.pqa2", "frequency"), QVector<qint64>({ kTime + 1000, kTime + 3000 }));
+}
+
+void TstRecovery::wholeFileComesOutTheSame_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const char *name : { "monitor.pqa2", "capture.wav", "recorder/Common.pqa2", "recorder/U Harmonic(1-50).pqa2" })
+        QTest::newRow(name) << QString::fromLatin1(name);
+}
+
+void TstRecovery::wholeFileComesOutTheSame()
+{
+    QFETCH(QString, name);
+    const QByteArray bytes = P::bytesOf(QStringLiteral(QUVERA_SOURCE_DIR "/tests/data/") + name);
+    QVERIFY(!bytes.isEmpty());
+    QVERIFY(P::save(path("same"), bytes));
+    QCOMPARE(recover("same", "copy"), Recovery::Done);
+    QCOMPARE(P::bytesOf(path("copy")), bytes);
+}
+
+void TstRecovery::folderIsRecoveredFileByFile()
+{
+    QVERIFY(QDir().mkpath(path("record")));
+    const QByteArray common = P::recording(3).bytes();
+    QVERIFY(P::save(path("record/Common.pqa2"), common));
+    QVERIFY(P().opening().timed(0xA1000030, kTime, P::countUp(0, 208)).save(path("record/U Harmonic(1-50).pqa2")));
+    QVERIFY(P::save(path("record/I Harmonic(1-50).pqa2"), {}));
+    QCOMPARE(recover("record", "sound"), Recovery::Done);
+    QCOMPARE(QDir(path("sound")).entryList(QDir::Files),
+             QStringList({ "Common.pqa2", "U Harmonic(1-50).pqa2" })); // of the empty one there is nothing
+    QCOMPARE(wholeTimes("sound", "frequency").size(), 3);
+    QCOMPARE(wholeTimes("sound", "harmonics_u").size(), 1);
+    QCOMPARE(P::bytesOf(path("record/Common.pqa2")), common);
+}
+
+void TstRecovery::missingPartsAreClosedUp()
+{
+    QVERIFY(QDir().mkpath(path("gap")));
+    QVERIFY(P::recording(2).save(path("gap/Common.pqa2")));
+    QVERIFY(P::recording(3).end(kSeconds + 9).save(path("gap/Common_3.pqa2")));
+    QCOMPARE(recover("gap", "closed"), Recovery::Done);
+    QCOMPARE(QDir(path("closed")).entryList(QDir::Files), QStringList({ "Common.pqa2", "Common_2.pqa2" }));
+    QCOMPARE(wholeTimes("closed", "frequency").size(), 5);
+}
+
+void TstRecovery::tornCaptureKeepsItsWholeFrames()
+{
+    const QByteArray bytes = P::bytesOf(QStringLiteral(QUVERA_SOURCE_DIR "/tests/data/capture.wav"));
+    QVERIFY(P::save(path("torn.wav"), bytes.left(bytes.size() - 5)));
+    QCOMPARE(recover("torn.wav", "sound.wav"), Recovery::Done);
+    RecordSource source;
+    KeptRecord torn, sound;
+    QVERIFY(source.open(path("torn.wav")));
+    QCOMPARE(source.state(), RecordState::Cut);
+    QVERIFY(source.read(torn));
+    QVERIFY(source.open(path("sound.wav")));
+    QCOMPARE(source.state(), RecordState::Whole);
+    QVERIFY(source.read(sound));
+    QVERIFY(torn.waveforms.at(0).samples.size() > 0);
+    QCOMPARE(sound.waveforms.at(0).samples, torn.waveforms.at(0).samples);
+}
+
+void TstRecovery::pageWithATornRecordKeepsItsPicture()
+{
+    const QByteArray image = QByteArray::fromHex("89504E470D0A1A0A") + "picture";
+    const QByteArray head = P::le(4, 4) + P::le(quint64(kSeconds), 4) + P::le(230, 4) + P::le(50, 4) + P::le(1, 4)
+        + P::le(10000, 4) + P::le(quint64(image.size()), 4);
+    const QByteArray rest = P::le(0x02020006, 4) + P::le(0xCC33C3C3, 4);
+    QVERIFY(P::save(path("torn.pqa"), head + P::le(1000, 4) + rest + image + "only a little"));
+    QCOMPARE(recover("torn.pqa", "sound.pqa"), Recovery::Done);
+    QCOMPARE(P::bytesOf(path("sound.pqa")), head + P::le(0, 4) + rest + image + QByteArray::fromHex("AA55"));
+}
+
+void TstRecovery::pageWithATornPictureHasNothing()
+{
+    const QByteArray head = P::le(4, 4) + P::le(quint64(kSeconds), 4) + P::le(230, 4) + P::le(50, 4) + P::le(1, 4)
+        + P::le(10000, 4) + P::le(1000, 4) + P::le(0, 4) + P::le(0x02020006, 4) + P::le(0xCC33C3C3, 4);
+    QVERIFY(P::save(path("none.pqa"), head + QByteArray::fromHex("89504E470D0A1A0A")));
+    QCOMPARE(recover("none.pqa", "never.pqa"), Recovery::Nothing);
+    QVERIFY(!QFile::exists(path("never.pqa")));
+}
+
+void TstRecovery::logKeepsItsWholeLines()
+{
+    const QByteArray head = "TIME,VRMS(V) L1 AVG,FREQ AVG,\n";
+    const QByteArray first = "2023/11/14  22:13:20,230.000,50.000,\n";
+    const QByteArray last = "2023/11/14  22:13:22,231.000,50.000,\n";
+    QVERIFY(P::save(path("torn.csv"),
+                    head + first + QByteArray(30, '\0') + "\n2023/11/14  22:13:21,1,\n" + last + "2023/11/14  22:1"));
+    QCOMPARE(recover("torn.csv", "sound.csv"), Recovery::Done);
+    QCOMPARE(P::bytesOf(path("sound.csv")), head + first + last);
+}
+
+void TstRecovery::interruptedRecoveryLeavesNothing()
+{
+    QVERIFY(P::recording(3).save(path("long.pqa2")));
+    QCOMPARE(recover("long.pqa2", "half.pqa2", [](qint64, qint64) { return false; }), Recovery::Ended);
+    QVERIFY(!QFile::exists(path("half.pqa2")));
+    const QStringList hidden
+        = QDir(m_folder.path()).entryList({ ".*half*", "*half*" }, QDir::AllEntries | QDir::Hidden);
+    QCOMPARE(hidden, QStringList());
+}
+
+void TstRecovery::outputInsideTheInputIsRefused()
+{
+    QVERIFY(QDir().mkpath(path("input")));
+    QVERIFY(P::recording(3).save(path("input/Common.pqa2")));
+    QCOMPARE(recover("input", "input/sound"), Recovery::Failed);
+    QVERIFY(!error.isEmpty());
+    QCOMPARE(QDir(path("input")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             QStringList({ "Common.pqa2" }));
+}
+
+QTEST_APPLESS_MAIN(TstRecovery)
+#include "tst_recovery.moc"

@@ -1,0 +1,58 @@
+#include "files/delivery.h"
+
+#include "files/terminal.h"
+
+bool openSource(RecordSource *source, const QString &path)
+{
+    Progress progress(path);
+    if (!source->open(path, progress.callback()))
+        return false;
+    progress.clear();
+    Terminal::complainOf(*source);
+    return true;
+}
+
+int statusOf(const RecordSource &source)
+{
+    static_assert(ExitWhole == int(RecordState::Whole) && ExitUnreadable == int(RecordState::Unreadable));
+    return int(source.state());
+}
+
+int interrupted()
+{
+    return noOutput(QStringLiteral("interrupted"));
+}
+
+int misuse(const QString &reason)
+{
+    Terminal::complain(reason + QStringLiteral(" (quvera-files --help)"));
+    return ExitMisuse;
+}
+
+int noOutput(const QString &reason)
+{
+    Terminal::complain(Terminal::printable(reason));
+    return ExitNoOutput;
+}
+
+int makeOutput(const CommandLine &line, const QString &option, const OutputWork &work)
+{
+    OutputPlace place;
+    place.target = line.value(option);
+    place.input = line.paths.constFirst();
+    place.force = line.has(QStringLiteral("--force"));
+    RecordSource source;
+    if (!openSource(&source, place.input))
+        return interrupted();
+    if (source.state() == RecordState::Unreadable)
+        return ExitUnreadable;
+    Progress progress(place.target);
+    return work(source, place, progress.callback());
+}
+
+int deliver(RecordSource &source, RecordSink &sink, const RecordProgress &progress)
+{
+    if (source.read(sink, progress))
+        return statusOf(source);
+    return Terminal::isInterrupted() ? interrupted() : noOutput(sink.error());
+}
