@@ -569,6 +569,21 @@ a été perdu avec l&apos;alimentation.</translation>
     </message>
 </context>
 <context>
+    <name>LimitDraft</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
+    </message>
+</context>
+<context>
     <name>LimitHarmPage</name>
     <message>
         <source>Harmonics: time in limits</source>
@@ -586,33 +601,9 @@ a été perdu avec l&apos;alimentation.</translation>
         <source>Column</source>
         <translation>Colonne</translation>
     </message>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Retour</translation>
-    </message>
 </context>
 <context>
     <name>LimitItemsPage</name>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Retour</translation>
-    </message>
     <message>
         <source>Enter: values</source>
         <translation>Enter : valeurs</translation>
@@ -791,18 +782,6 @@ a été perdu avec l&apos;alimentation.</translation>
     <message>
         <source>lamp</source>
         <translation>lampe</translation>
-    </message>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annuler</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Retour</translation>
     </message>
 </context>
 <context>

@@ -569,6 +569,21 @@ ging mit der Versorgung verloren.</translation>
     </message>
 </context>
 <context>
+    <name>LimitDraft</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+</context>
+<context>
     <name>LimitHarmPage</name>
     <message>
         <source>Harmonics: time in limits</source>
@@ -586,33 +601,9 @@ ging mit der Versorgung verloren.</translation>
         <source>Column</source>
         <translation>Spalte</translation>
     </message>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Zurück</translation>
-    </message>
 </context>
 <context>
     <name>LimitItemsPage</name>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Zurück</translation>
-    </message>
     <message>
         <source>Enter: values</source>
         <translation>Enter: Werte</translation>
@@ -791,18 +782,6 @@ ging mit der Versorgung verloren.</translation>
     <message>
         <source>lamp</source>
         <translation>Lampe</translation>
-    </message>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Abbrechen</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Zurück</translation>
     </message>
 </context>
 <context>

@@ -569,6 +569,21 @@ was lost with the supply.</source>
     </message>
 </context>
 <context>
+    <name>LimitDraft</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+</context>
+<context>
     <name>LimitHarmPage</name>
     <message>
         <source>Harmonics: time in limits</source>
@@ -586,33 +601,9 @@ was lost with the supply.</source>
         <source>Column</source>
         <translation>Colonna</translation>
     </message>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Indietro</translation>
-    </message>
 </context>
 <context>
     <name>LimitItemsPage</name>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Indietro</translation>
-    </message>
     <message>
         <source>Enter: values</source>
         <translation>Enter: valori</translation>
@@ -791,18 +782,6 @@ was lost with the supply.</source>
     <message>
         <source>lamp</source>
         <translation>lampada</translation>
-    </message>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Annulla</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Indietro</translation>
     </message>
 </context>
 <context>

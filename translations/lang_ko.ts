@@ -569,6 +569,21 @@ was lost with the supply.</source>
     </message>
 </context>
 <context>
+    <name>LimitDraft</name>
+    <message>
+        <source>Ok</source>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>취소</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
+    </message>
+</context>
+<context>
     <name>LimitHarmPage</name>
     <message>
         <source>Harmonics: time in limits</source>
@@ -586,33 +601,9 @@ was lost with the supply.</source>
         <source>Column</source>
         <translation>열</translation>
     </message>
-    <message>
-        <source>Ok</source>
-        <translation>확인</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>취소</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>뒤로</translation>
-    </message>
 </context>
 <context>
     <name>LimitItemsPage</name>
-    <message>
-        <source>Ok</source>
-        <translation>확인</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>취소</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>뒤로</translation>
-    </message>
     <message>
         <source>Enter: values</source>
         <translation>Enter: 값</translation>
@@ -791,18 +782,6 @@ was lost with the supply.</source>
     <message>
         <source>lamp</source>
         <translation>램프</translation>
-    </message>
-    <message>
-        <source>Ok</source>
-        <translation>확인</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>취소</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>뒤로</translation>
     </message>
 </context>
 <context>

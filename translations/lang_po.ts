@@ -569,6 +569,21 @@ przepadł po zaniku zasilania.</translation>
     </message>
 </context>
 <context>
+    <name>LimitDraft</name>
+    <message>
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Anuluj</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Wstecz</translation>
+    </message>
+</context>
+<context>
     <name>LimitHarmPage</name>
     <message>
         <source>Harmonics: time in limits</source>
@@ -586,33 +601,9 @@ przepadł po zaniku zasilania.</translation>
         <source>Column</source>
         <translation>Kolumna</translation>
     </message>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Anuluj</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Wstecz</translation>
-    </message>
 </context>
 <context>
     <name>LimitItemsPage</name>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Anuluj</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Wstecz</translation>
-    </message>
     <message>
         <source>Enter: values</source>
         <translation>Enter: wartości</translation>
@@ -791,18 +782,6 @@ przepadł po zaniku zasilania.</translation>
     <message>
         <source>lamp</source>
         <translation>lampa</translation>
-    </message>
-    <message>
-        <source>Ok</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>Anuluj</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Wstecz</translation>
     </message>
 </context>
 <context>

@@ -569,6 +569,21 @@ besleme kesilince iptal oldu.</translation>
     </message>
 </context>
 <context>
+    <name>LimitDraft</name>
+    <message>
+        <source>Ok</source>
+        <translation>Tamam</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+</context>
+<context>
     <name>LimitHarmPage</name>
     <message>
         <source>Harmonics: time in limits</source>
@@ -586,33 +601,9 @@ besleme kesilince iptal oldu.</translation>
         <source>Column</source>
         <translation>Sütun</translation>
     </message>
-    <message>
-        <source>Ok</source>
-        <translation>Tamam</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>İptal</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Geri</translation>
-    </message>
 </context>
 <context>
     <name>LimitItemsPage</name>
-    <message>
-        <source>Ok</source>
-        <translation>Tamam</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>İptal</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Geri</translation>
-    </message>
     <message>
         <source>Enter: values</source>
         <translation>Enter: değerler</translation>
@@ -791,18 +782,6 @@ besleme kesilince iptal oldu.</translation>
     <message>
         <source>lamp</source>
         <translation>lamba</translation>
-    </message>
-    <message>
-        <source>Ok</source>
-        <translation>Tamam</translation>
-    </message>
-    <message>
-        <source>Cancel</source>
-        <translation>İptal</translation>
-    </message>
-    <message>
-        <source>Back</source>
-        <translation>Geri</translation>
     </message>
 </context>
 <context>

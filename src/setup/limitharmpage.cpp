@@ -55,8 +55,8 @@ LineList::Line LimitHarmPage::line(int index) const
 void LimitHarmPage::lineChosen()
 {
     setKeyCaption(1, tr("Column"));
-    setKeyCaption(4, m_draft.editable ? tr("Ok") : QString());
-    setKeyCaption(5, m_draft.editable ? tr("Cancel") : tr("Back"));
+    setKeyCaption(4, m_draft.okKey());
+    setKeyCaption(5, m_draft.leaveKey());
 }
 
 void LimitHarmPage::nextColumn()

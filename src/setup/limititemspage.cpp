@@ -44,8 +44,8 @@ LineList::Line LimitItemsPage::line(int index) const
 
 void LimitItemsPage::lineChosen()
 {
-    setKeyCaption(4, m_draft.editable ? tr("Ok") : QString());
-    setKeyCaption(5, m_draft.editable ? tr("Cancel") : tr("Back"));
+    setKeyCaption(4, m_draft.okKey());
+    setKeyCaption(5, m_draft.leaveKey());
 }
 
 void LimitItemsPage::init_parameter()

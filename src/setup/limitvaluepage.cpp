@@ -82,8 +82,8 @@ void LimitValuePage::retranslateUi()
 
 void LimitValuePage::showKeys()
 {
-    setKeyCaption(4, m_draft.editable ? tr("Ok") : QString());
-    setKeyCaption(5, m_draft.editable ? tr("Cancel") : tr("Back"));
+    setKeyCaption(4, m_draft.okKey());
+    setKeyCaption(5, m_draft.leaveKey());
 }
 
 void LimitValuePage::finish()

@@ -169,8 +169,10 @@ void TstLanguages::aChangeOfTheLanguageReachesEveryText()
     const auto shown = texts(page.get());
     const auto expected = texts(make().get()); // of a page that never knew another language
     QVERIFY(expected != english);
-    for (const QString &name : expected.keys())
-        QCOMPARE(name + shown[name], name + expected[name]);
+    for (const QString &name : expected.keys()) {
+        if (!name.endsWith(QStringLiteral("/memory"))) // no words; others on this machine use its disk meanwhile
+            QCOMPARE(name + shown[name], name + expected[name]);
+    }
 }
 
 void TstLanguages::look(QWidget *widget, const QString &where)
