@@ -15,8 +15,7 @@
 namespace {
 
 constexpr int kMostText = 64; // characters of a name
-constexpr qint16 kMost = 32767; // its negative is the least: -32768 stands for a missing sample
-constexpr qint16 kMissing = -32768;
+constexpr qint16 kLeast = -32767, kMost = 32767; // -32768 stands for a missing sample
 constexpr double kMicroseconds = 1e6; // of a second
 // Readers that take the stamps with a sign come to their end at 2^31 us.
 constexpr double kMostStamp = 2147483647.0;
@@ -117,16 +116,11 @@ bool ComtradeExport::waveformBegin(const RecordedWaveform &waveform)
     m_isUsable = channels > 0 && channels <= kMostChannels && hasUsableRate(waveform);
     if (m_isUsable)
         m_mostSamples = qint64(kMostStamp / kMicroseconds * rate) + 1;
-    m_raw.clear();
     for (RecordedWaveform::Channel &channel : m_waveform.channels) {
-        // A factor is never 0 in the file, whatever it turns the samples into.
-        const bool isFactor = std::isfinite(channel.factor);
-        if (isFactor && channel.factor != 0) {
-            m_raw.append(Raw());
-            continue;
+        if (!hasFactor(channel)) {
+            channel.factor = 1;
+            channel.unit.clear();
         }
-        m_raw.append({ 0, isFactor ? qint16(0) : kMissing });
-        channel.factor = 1;
     }
     return true;
 }
@@ -150,9 +144,8 @@ void ComtradeExport::writeSample(const qint16 *sample)
     const double stamp = double(m_now.samples) * kMicroseconds / m_waveform.sampleRate;
     qToLittleEndian(quint32(std::llround(stamp)), at + 4);
     at += 8;
-    const Raw *raw = m_raw.constData();
     for (int i = 0; i < channels; ++i, at += 2)
-        qToLittleEndian(qint16((qMax(sample[i], qint16(-kMost)) & raw[i].kept) | raw[i].set), at);
+        qToLittleEndian(qMax(sample[i], kLeast), at);
     m_data.wrote(at);
     ++m_now.samples;
     ++m_taken;
@@ -215,10 +208,10 @@ QByteArray ComtradeExport::channelLine(int number) const
             name = name.left(kMostText - 8) + '#' + QByteArray::number(i + 1);
         taken << name;
     }
-    const bool isVoltage = channel.unit == "V";
+    const bool isVoltage = channel.name.startsWith('U');
     const QString &ratio = isVoltage && channel.channel == "N" ? m_facts.ratioN : m_facts.ratio;
     const QByteArray line = QByteArray::number(number) + ',' + name + ',' + phaseOf(channel.channel) + ",,"
-        + unitOf(channel.unit) + ',' + factor(channel.factor) + ",0,0," + QByteArray::number(-kMost) + ','
+        + unitOf(channel.unit) + ',' + factor(channel.factor) + ",0,0," + QByteArray::number(kLeast) + ','
         + QByteArray::number(kMost) + ',' + ratioOf(ratio, isVoltage) + ",P";
     return line;
 }

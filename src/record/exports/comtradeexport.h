@@ -44,12 +44,6 @@ private:
     RecordFacts m_facts;
     RecordedWaveform m_waveform;
     bool m_isUsable = false; // the waveform has channels and a rate that the format can tell
-    struct Raw
-    {
-        qint16 kept = -1; // bits of the sample that are written
-        qint16 set = 0; // bits that are written whatever the sample is
-    };
-    QVector<Raw> m_raw; // of the channels
     OutputFile m_data;
     int m_part = 0; // of the waveform, from 1
     Part m_now;

@@ -234,37 +234,36 @@ bool PqdifHappenings::keepCurves(const RecordedEvent &event, const QByteArray &n
 bool PqdifHappenings::waveformBegin(const RecordedWaveform &waveform)
 {
     m_waveform = waveform;
-    m_inputs = waveform.channels.size();
-    m_places.clear();
     m_definitions.clear();
     m_first = 0;
-    for (int i = 0; i < m_inputs && hasUsableRate(waveform); ++i) {
-        const RecordedWaveform::Channel &input = waveform.channels[i];
-        if (!std::isfinite(input.factor))
-            continue;
-        PqdifChannel channel
-            = valueChannel(input.name + " (waveform)", input.channel,
-                           input.unit == "A" ? PqdifMeasured::Current : PqdifMeasured::Voltage,
-                           { kSeriesVal, pqdifUnit(input.unit), kQcInstantaneous, PqdifStorage::Scaled, 0 });
+    for (int i = 0; i < waveform.channels.size() && hasUsableRate(waveform); ++i) {
+        RecordedWaveform::Channel &input = m_waveform.channels[i];
+        const bool isValue = hasFactor(input);
+        if (!isValue)
+            input.factor = 1;
+        PqdifChannel channel = valueChannel(
+            input.name + (isValue ? " (waveform)" : " (waveform, steps)"), input.channel,
+            input.name.startsWith('I') ? PqdifMeasured::Current : PqdifMeasured::Voltage,
+            { kSeriesVal, isValue ? pqdifUnit(input.unit) : 0, kQcInstantaneous, PqdifStorage::Scaled, 0 });
         channel.type = kWaveform;
-        m_places << i;
         m_definitions << m_channels->numberOf(channel);
     }
-    m_samples = QVector<QVector<qint16>>(m_places.size());
+    m_samples = QVector<QVector<qint16>>(m_definitions.size());
     return true;
 }
 
 bool PqdifHappenings::waveformSamples(const qint16 *samples, int count)
 {
-    if (m_places.isEmpty())
+    const int inputs = m_definitions.size();
+    if (inputs == 0)
         return true;
-    const int most = kMostSamples / m_places.size();
+    const int most = kMostSamples / inputs;
     for (int done = 0; done < count;) {
         const int before = m_samples[0].size(), piece = qMin(count - done, most - before);
-        for (int c = 0; c < m_places.size(); ++c) {
+        for (int c = 0; c < inputs; ++c) {
             m_samples[c].resize(before + piece);
-            const qint16 *from = samples + qint64(done) * m_inputs + m_places[c];
-            for (qint16 *to = m_samples[c].data() + before, *end = to + piece; to != end; ++to, from += m_inputs)
+            const qint16 *from = samples + qint64(done) * inputs + c;
+            for (qint16 *to = m_samples[c].data() + before, *end = to + piece; to != end; ++to, from += inputs)
                 *to = *from;
         }
         done += piece;
@@ -309,10 +308,10 @@ bool PqdifHappenings::keepSamples()
         root.addId(PqdifTag::kDisturbanceCategoryID,
                    isTransient ? kDisturbTransient : m_categories.value(m_waveform.event, kDisturbNone));
     }
-    for (int c = 0; c < m_places.size(); ++c) {
+    for (int c = 0; c < m_definitions.size(); ++c) {
         observation.beginChannel(m_definitions[c]);
         observation.addClock(count, rate);
-        observation.addScaled(m_samples[c], double(m_waveform.channels[m_places[c]].factor));
+        observation.addScaled(m_samples[c], double(m_waveform.channels[c].factor));
         m_samples[c].resize(0);
     }
     m_first += count;

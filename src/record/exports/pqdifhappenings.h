@@ -41,10 +41,8 @@ private:
     int m_listed = 0;
     QMap<int, PqdifId> m_categories; // of events, by number
 
-    RecordedWaveform m_waveform; // the one that goes on; without channels when it cannot be told
-    QVector<int> m_places; // of its usable channels among all
-    QVector<int> m_definitions; // of the usable channels
-    int m_inputs = 0; // all channels
-    QVector<QVector<qint16>> m_samples; // of the usable channels, not yet kept
+    RecordedWaveform m_waveform; // the one that goes on
+    QVector<int> m_definitions; // of its channels; none when its clock cannot be told
+    QVector<QVector<qint16>> m_samples; // of its channels, not yet kept
     qint64 m_first = 0; // sample of the waveform that stands first among them
 };

@@ -19,3 +19,9 @@ inline bool hasUsableRate(const RecordedWaveform &waveform)
     constexpr double kLeast = 1, kMost = 1e9; // per second; no instrument's rate lies outside
     return waveform.sampleRate >= kLeast && waveform.sampleRate <= kMost;
 }
+
+/// Whether samples of this input can be turned into values; otherwise they are handed on as they are, without a unit.
+inline bool hasFactor(const RecordedWaveform::Channel &channel)
+{
+    return std::isfinite(channel.factor) && channel.factor != 0;
+}

@@ -69,8 +69,8 @@ private slots:
     void piecesOfAWaveformBecomeOnePair();
     void stampsDoNotDrift();
     void lowestSampleDoesNotCountAsMissing();
-    void factorThatIsNoNumberMakesAChannelMissing();
-    void factorOfZeroMakesZeros();
+    void withoutAFactorSamplesHaveNoUnit();
+    void smallestFactorIsKept();
     void longWaveformIsSplitBeforeItsStampsOverflow();
     void triggerStaysInItsPart();
     void timesAreRoundedToMicroseconds();
@@ -209,29 +209,29 @@ void TstComtradeExport::lowestSampleDoesNotCountAsMissing()
     QCOMPARE(pair("0001_event").raw.value(0), QVector<qint16>({ -32767, -32767, 32767 }));
 }
 
-void TstComtradeExport::factorThatIsNoNumberMakesAChannelMissing()
+void TstComtradeExport::withoutAFactorSamplesHaveNoUnit()
 {
-    for (float factor : { std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity() }) {
+    for (float factor : { std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(), 0.0f }) {
         RecordedWaveform waveform = waveformOf({ "U_L1", "U_L2" }, 10240);
         waveform.channels[0].factor = factor;
         QVERIFY(write({ waveform }, counted(2, 2)));
         const Pair read = pair("0001_event");
         QCOMPARE(read.fault, QString());
-        QCOMPARE(read.raw[0], QVector<qint16>({ -32768, -32768 }));
-        QCOMPARE(read.raw[1], QVector<qint16>({ 1, 101 }));
+        QCOMPARE(read.raw[0], QVector<qint16>({ 0, 100 }));
+        QCOMPARE(read.channels[0].unit, QByteArray("NONE"));
+        QCOMPARE(read.channels[0].a, 1.0);
+        QCOMPARE(read.channels[1].unit, QByteArray("V"));
     }
 }
 
-void TstComtradeExport::factorOfZeroMakesZeros()
+void TstComtradeExport::smallestFactorIsKept()
 {
-    RecordedWaveform waveform = waveformOf({ "U_L1", "U_L2" }, 10240);
-    waveform.channels[0].factor = 0;
-    waveform.channels[1].factor = std::numeric_limits<float>::denorm_min();
-    QVERIFY(write({ waveform }, { 5, 5 }));
+    RecordedWaveform waveform = waveformOf({ "U_L1" }, 10240);
+    waveform.channels[0].factor = std::numeric_limits<float>::denorm_min();
+    QVERIFY(write({ waveform }, { 5 }));
     const Pair read = pair("0001_event");
     QCOMPARE(read.fault, QString());
-    QCOMPARE(read.value(0, 0), 0.0);
-    QCOMPARE(float(read.value(1, 0)), 5 * std::numeric_limits<float>::denorm_min());
+    QCOMPARE(float(read.value(0, 0)), 5 * std::numeric_limits<float>::denorm_min());
 }
 
 void TstComtradeExport::longWaveformIsSplitBeforeItsStampsOverflow()

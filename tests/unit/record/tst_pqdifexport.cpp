@@ -415,7 +415,9 @@ void TstPqdifExport::hostileInputIsLeftOut()
     QCOMPARE(file.fault, QString());
     QCOMPARE(file.observations().size(), size_t(2));
     QString fault;
-    QCOMPARE(channels(file, *file.observations()[0], &fault).size(), 1); // of the odd waveform, in 1970
+    QCOMPARE(channels(file, *file.observations()[0], &fault).size(), 2); // of the odd waveform, in 1970
+    QVERIFY(file.definitionIndex("U_L1 (waveform, steps)") >= 0);
+    QCOMPARE(file.definition("U_L1 (waveform)").kind, 0);
     QCOMPARE(channels(file, *file.observations()[1], &fault).size(), 2);
     QCOMPARE(fault, QString());
 }
