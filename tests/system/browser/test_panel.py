@@ -109,14 +109,15 @@ class PanelInABrowser(unittest.TestCase):
         self.go_to("Menu", "Menu")
 
     def go_to(self, title, key):
-        """By the key; a question on the way is answered with Quit, and Memory, which knows no such key, is left."""
+        """By the key. A question on the way is answered with Quit; another dialog, and Memory, know no such key and are
+        left by F5."""
         def step():
             seen = self.screen().get_attribute("alt").partition(": ")[2]
             if seen == title:
                 return True
             before = self.count(self.page)
-            self.press("F4" if "Quit" in seen else "F5" if seen.startswith("Memory") else key)
-            end = time.monotonic() + 1
+            self.press("F4" if "Quit" in seen else "F5" if ". " in seen or seen.startswith("Memory") else key)
+            end = time.monotonic() + 3
             while self.count(self.page) == before and time.monotonic() < end:
                 time.sleep(0.05)
             return False
