@@ -40,7 +40,7 @@ void BlockCheck::setWiring(int joinMode)
     const ChannelSet *wiring = channelSet(joinMode);
     for (quint32 type : { Pqa2InstrumentInfo, Pqa2SystemSetting })
         set(type, BlockRole::Opening, Time::None, 0, kNoBound);
-    set(Pqa2ChannelFactor, BlockRole::Opening, Time::None, 48, 48);
+    set(Pqa2ChannelFactor, BlockRole::Opening, Time::None, 0, 48); // empty where the writer was not told of them
     set(Pqa2StartTime, BlockRole::Start, Time::Seconds, 4, 4);
     set(Pqa2EndTime, BlockRole::End, Time::Seconds, 4, 4);
     set(Pqa2SystemLog, BlockRole::Log, Time::Milliseconds, 8, kNoBound);

@@ -66,6 +66,7 @@ private:
 private slots:
     void meanMaximumAndMinimumOfOneTimeAreOneRow();
     void openingBlocksTellTheInstrument();
+    void openingThatTellsNothingIsNoDamage();
     void tenSecondsAndIntervalsAreTablesOfTheirOwn();
     void gapIsMissingRows();
     void clockThatWasSetBackGivesRowsAsTheyStand();
@@ -129,6 +130,19 @@ void TstRecordSource::openingBlocksTellTheInstrument()
     QCOMPARE(kept->facts.start, kTime);
     QCOMPARE(kept->facts.end, kTime + 60000);
     QVERIFY(kept->rows.isEmpty());
+}
+
+void TstRecordSource::openingThatTellsNothingIsNoDamage()
+{
+    QVERIFY(P().add(0xA1000001, {})
+                .add(0xA1000010, {})
+                .add(0xA1000011, {})
+                .timed(0xA1000020, kTime, P::countUp(0, 52)) // a wiring that is not told has all channels
+                .save(path("Common.pqa2")));
+    read(QStringLiteral("Common.pqa2"));
+    QCOMPARE(source.state(), RecordState::Whole);
+    QCOMPARE(kept->facts.joinMode, 0);
+    QCOMPARE(kept->number("rms", 0, QStringLiteral("U_rms_mean_N_V")), 39.0);
 }
 
 void TstRecordSource::tenSecondsAndIntervalsAreTablesOfTheirOwn()
