@@ -63,17 +63,26 @@ constexpr Row kRows[] = {
     { "U_signal2_ratio", kU, kQcSpectra, 0, kPerUnit },
     { "U_distortion", kU, kQcHrms },
     { "I_distortion", kI, kQcHrms },
+    { "U_THD", kU, kQcTotalThd },
+    { "I_THD", kI, kQcTotalThd },
+    { "Uh_angle", kU, kQcSpectraHgroup },
+    { "Ih_angle", kI, kQcSpectraHgroup },
     { "Uh", kU, kQcSpectraHgroup },
     { "Ih", kI, kQcSpectraHgroup },
     { "Uih", kU, kQcSpectraIgroup },
     { "Iih", kI, kQcSpectraIgroup },
 };
 
+/// Without the order, wherever it stands: "Uh_angle" of "Uh05_angle".
 QByteArray stemOf(const RecordColumn &column)
 {
-    QByteArray stem = column.quantity;
-    while (column.order >= 0 && !stem.isEmpty() && stem.back() >= '0' && stem.back() <= '9')
-        stem.chop(1);
+    if (column.order < 0)
+        return column.quantity;
+    QByteArray stem;
+    for (const char letter : column.quantity) {
+        if (letter < '0' || letter > '9')
+            stem += letter;
+    }
     return stem;
 }
 

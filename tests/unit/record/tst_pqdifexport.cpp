@@ -193,13 +193,12 @@ void TstPqdifExport::quantitiesHaveTheirMarks_data()
     row("something", "else", "furlong", { 0, 0, 0 }, "NONE");
 }
 
-/// The order at the end of "Uh05", -1 where there is none.
+/// The order in "Uh05", -1 where there is none.
 int orderOf(const QByteArray &quantity)
 {
-    const int digits = quantity.lastIndexOf('h') + 1;
-    bool isOrder = false;
-    const int order = quantity.mid(digits).toInt(&isOrder);
-    return isOrder && digits > 0 ? order : -1;
+    static const QRegularExpression order(QStringLiteral("h(\\d\\d)"));
+    const QRegularExpressionMatch match = order.match(QString::fromLatin1(quantity));
+    return match.hasMatch() ? match.captured(1).toInt() : -1;
 }
 
 void TstPqdifExport::quantitiesHaveTheirMarks()
