@@ -3,6 +3,7 @@
 
 #include <QTest>
 
+#include <array>
 #include <cmath>
 #include <cstring>
 
@@ -79,6 +80,7 @@ private slots:
     void energiesAreThoseOfTheLastAggregation();
     void longIntervalsLoseNoDigits();
     void anIntervalOfNothingIsZero();
+    void whatIsNoNumberIsAnExtremeWhereItCameFirst();
     void anyFloatIsTaken();
 };
 
@@ -242,6 +244,29 @@ void TstRecordStatistics::anIntervalOfNothingIsZero()
     statistics.finish();
     for (int word = 0; word < kWords; ++word)
         QCOMPARE(wordOf(statistics.mean(), word), 0.0f);
+}
+
+void TstRecordStatistics::whatIsNoNumberIsAnExtremeWhereItCameFirst()
+{
+    const float none = std::nanf("");
+    const auto extremes = [](std::initializer_list<float> values) {
+        RecordStatistics statistics;
+        const auto record = makeRecord();
+        for (const float value : values) {
+            record->channel[0].voltage = value;
+            statistics.take(*record, kNoEnergy);
+        }
+        statistics.finish();
+        const auto voltage = [](const Record &of) { return of.channel[0].voltage; };
+        return std::array<float, 3> { voltage(statistics.mean()), voltage(statistics.maximum()),
+                                      voltage(statistics.minimum()) };
+    };
+    const auto first = extremes({ none, 1, 2 });
+    QVERIFY(std::isnan(first[0]) && std::isnan(first[1]) && std::isnan(first[2]));
+    const auto later = extremes({ 1, none, 2, none });
+    QVERIFY(std::isnan(later[0]));
+    QCOMPARE(later[1], 2.0f);
+    QCOMPARE(later[2], 1.0f);
 }
 
 void TstRecordStatistics::anyFloatIsTaken()
