@@ -49,6 +49,7 @@ record_one()
 }
 
 failed=0
+trap 'kill $(jobs -p) 2>/dev/null; wait; exit 1' INT TERM
 for ((n = 1; n <= count; ++n)); do
     (record_one "$n") >"$out/log-$n" 2>&1 &
     pids[n]=$!
