@@ -144,8 +144,8 @@ QVector<ReportCell> ReportWriter::countRow(const EventCount &count) const
     const QString limit = QStringLiteral("≤ %1").arg(count.allowed);
     return { { Report::eventName(count.type), Tone::Plain, count.all > 0 ? QStringLiteral("events") : QString() },
              { Report::tr("%1 in a week").arg(limit), Tone::Plain, {} },
-             { kDash, Tone::Plain, {} },
              { QString::number(count.count), Tone::Plain, {} },
+             { kDash, Tone::Plain, {} },
              { kDash, Tone::Plain, {} },
              { kDash, Tone::Plain, {} },
              { kDash, Tone::Plain, {} },
