@@ -102,18 +102,31 @@ void addLine(QByteArray *text, const char *name, const QString &value)
         *text += QByteArray(name).leftJustified(12) + Terminal::printable(value).toUtf8() + '\n';
 }
 
+/// "10 min 10 s"
+QString lengthText(qint64 ms)
+{
+    if (ms < 1000)
+        return QStringLiteral("%1 ms").arg(ms);
+    const qint64 seconds = ms / 1000;
+    const std::pair<qint64, const char *> pieces[] = {
+        { seconds / 86400, "d" }, { seconds / 3600 % 24, "h" }, { seconds / 60 % 60, "min" }, { seconds % 60, "s" }
+    };
+    QStringList words;
+    for (const auto &piece : pieces) {
+        if (piece.first > 0)
+            words << QString::number(piece.first) + QLatin1Char(' ') + QLatin1String(piece.second);
+    }
+    return words.join(QLatin1Char(' '));
+}
+
 QString span(qint64 start, qint64 end)
 {
     if (start == 0 && end == 0)
         return {};
     const auto time = [](qint64 ms) { return ms ? QString::fromLatin1(IsoTime::text(ms)) : QStringLiteral("unknown"); };
-    const qint64 seconds = (end - start) / 1000;
-    const QString length = start == 0 || end < start ? QString()
-                                                     : QStringLiteral(", %1 d %2 h %3 min %4 s")
-                                                           .arg(seconds / 86400)
-                                                           .arg(seconds / 3600 % 24)
-                                                           .arg(seconds / 60 % 60)
-                                                           .arg(seconds % 60);
+    if (start == end)
+        return time(start);
+    const QString length = start == 0 || end < start ? QString() : QStringLiteral(", ") + lengthText(end - start);
     return QStringLiteral("%1 to %2%3").arg(time(start), time(end), length);
 }
 
@@ -135,6 +148,8 @@ QByteArray text(const RecordSource &source)
         addLine(&text, "nominal", QStringLiteral("%1 V, %2 Hz").arg(facts.nominalVolt).arg(facts.nominalFrequency));
     addLine(&text, "clamp", facts.clamp);
     addLine(&text, "ratio", facts.ratio);
+    for (const auto &detail : source.details())
+        addLine(&text, detail.first.toLatin1().constData(), detail.second);
     addLine(&text, "events", QString::number(source.events()));
     if (source.isFolder()) {
         for (const RecordFileReport &file : source.files())

@@ -33,6 +33,14 @@ bool write(Output *output, const ReportContent &content, bool isPdf)
     return output->finish();
 }
 
+/// Beside the program where it was built, in a folder of its package where it was installed.
+QString languageFolder()
+{
+    const QString programs = QCoreApplication::applicationDirPath();
+    const QString installed = programs + QStringLiteral("/../lib/quvera-tools/bin/language");
+    return QFile::exists(installed) ? installed : programs + QStringLiteral("/language");
+}
+
 int runReport(const CommandLine &line)
 {
     qunsetenv("QUVERA_ROOT"); // paths are those of this system
@@ -46,7 +54,7 @@ int runReport(const CommandLine &line)
                           .arg(Terminal::printable(limitsName)));
     ReportLanguage language;
     if (line.has(QStringLiteral("--language"))) {
-        const QString folder = QCoreApplication::applicationDirPath() + QStringLiteral("/language");
+        const QString folder = languageFolder();
         if (!language.choose(line.value(QStringLiteral("--language")), folder))
             return misuse(QStringLiteral("report: languages are %1").arg(ReportLanguage::keys()));
         if (!language.isThere())

@@ -56,6 +56,7 @@ bool CaptureReading::scan(const RecordProgress &progress)
     if (reader.state() != WaveFileReader::Whole)
         report.fault(RecordState(reader.state()), reader.faultOffset(),
                      reason.isEmpty() ? QString::fromLatin1(reader.reason()) : reason);
+    m_rate = header.sampleRate;
     m_hasRate = header.sampleRate > 0 && header.sampleRate <= kHighestRate;
     if (!m_hasRate && reader.state() != WaveFileReader::Unreadable)
         report.fault(RecordState::Broken, offsetof(WaveFileHeader, sampleRate),
@@ -64,6 +65,15 @@ bool CaptureReading::scan(const RecordProgress &progress)
     report.start = m_facts.start;
     report.end = m_facts.end;
     return true;
+}
+
+QVector<std::pair<QString, QString>> CaptureReading::details() const
+{
+    return { { QStringLiteral("samples"),
+               QStringLiteral("%1 of each of %2 inputs, %3 a second")
+                   .arg(m_frames)
+                   .arg(inputsOf(m_facts.joinMode).size())
+                   .arg(m_rate) } };
 }
 
 bool CaptureReading::read(RecordSink &sink, const RecordProgress &progress)

@@ -72,6 +72,7 @@ bool LogReading::scan(const RecordProgress &progress)
         } else if (time < 0) {
             report.fault(RecordState::Broken, lines.offset(), QStringLiteral("a line is none of the logger's"));
         } else {
+            ++m_lines;
             report.start = report.start ? qMin(report.start, time) : time;
             report.end = qMax(report.end, time);
         }
@@ -81,6 +82,12 @@ bool LogReading::scan(const RecordProgress &progress)
     m_facts.start = report.start;
     m_facts.end = report.end;
     return true;
+}
+
+QVector<std::pair<QString, QString>> LogReading::details() const
+{
+    return { { QStringLiteral("lines"),
+               QStringLiteral("%1 of %2 columns").arg(m_lines).arg(m_columns.places().size()) } };
 }
 
 bool LogReading::read(RecordSink &sink, const RecordProgress &progress)

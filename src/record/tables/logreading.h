@@ -15,6 +15,7 @@ public:
 
     bool scan(const RecordProgress &progress) override;
     bool read(RecordSink &sink, const RecordProgress &progress) override;
+    QVector<std::pair<QString, QString>> details() const override;
 
     /// The time of a line, ms, or -1 for a line that is none of the logger's. \a cells: columns behind the time.
     static qint64 timeOf(const QByteArray &line, int cells);
@@ -26,5 +27,6 @@ private:
     bool readLine(RecordOutput &out, const QByteArray &line, qint64 time);
 
     LogColumns m_columns;
+    qint64 m_lines = 0; // that are right
     std::vector<std::vector<double>> m_cells; // of the tables
 };

@@ -6,6 +6,9 @@
 
 #include <QFile>
 
+#include <algorithm>
+#include <iterator>
+
 namespace {
 
 const QByteArray kPngStart = QByteArrayLiteral("\x89PNG\r\n\x1A\n");
@@ -15,6 +18,20 @@ QByteArray bytesAt(QFile *file, qint64 at, int count)
 {
     return file->seek(at) ? file->read(count) : QByteArray();
 }
+
+/// Functions whose pages can be saved as data.
+struct PageName
+{
+    qint32 page;
+    const char *name;
+};
+constexpr PageName kPages[] = {
+    { 2, "Volts/Amps/Hertz" }, { 3, "Dips and swells" },   { 4, "Harmonics" },
+    { 5, "Transients" },       { 6, "Power and energy" },  { 7, "Inrush" },
+    { 8, "Unbalance" },        { 9, "Flicker" },           { 10, "Wave" },
+    { 11, "Scope" },           { 12, "Mains signalling" }, { 20, "Monitor" },
+    { 26, "Logger" },          { 30, "Set-up" },
+};
 
 } // namespace
 
@@ -45,6 +62,9 @@ bool PageReading::scan(const RecordProgress &)
                                   .arg(header.version >> 24)
                                   .arg(header.version >> 16 & 0xFF)
                                   .arg(header.version & 0xFFFF);
+    m_page = header.page;
+    m_image = header.imageSize;
+    m_data = header.dataSize;
     const qint64 image = sizeof header;
     const qint64 trailer = image + header.imageSize + header.dataSize;
     if (header.imageSize > 0 && bytesAt(&file, image, kPngStart.size()) != kPngStart)
@@ -57,6 +77,16 @@ bool PageReading::scan(const RecordProgress &)
     else if (report.size > trailer + kTrailer.size())
         report.fault(RecordState::Broken, trailer + kTrailer.size(), QStringLiteral("bytes stand behind the end"));
     return true;
+}
+
+QVector<std::pair<QString, QString>> PageReading::details() const
+{
+    const auto row = std::find_if(std::begin(kPages), std::end(kPages),
+                                  [this](const PageName &page) { return page.page == m_page; });
+    return {
+        { QStringLiteral("page"), row == std::end(kPages) ? QString::number(m_page) : QString::fromLatin1(row->name) },
+        { QStringLiteral("content"), QStringLiteral("picture of %1 bytes, record of %2").arg(m_image).arg(m_data) }
+    };
 }
 
 bool PageReading::read(RecordSink &sink, const RecordProgress &)

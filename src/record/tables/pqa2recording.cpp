@@ -19,7 +19,7 @@ namespace {
 
 constexpr qint64 kProgressStep = 4 << 20; // bytes
 constexpr qint64 kLongestOpening = 64 << 10; // bytes; the instrument's are some hundred
-constexpr int kMostKinds = 256; // foreign kinds of blocks that are counted
+constexpr int kMostKinds = 64; // foreign kinds of blocks that are counted
 
 /// Value of a line "KEY: value".
 QString lineOf(const QByteArray &text, const char *key)

@@ -3,6 +3,8 @@
 #include "record/tables/recordreport.h"
 #include "record/tables/recordsink.h"
 
+#include <utility>
+
 /// What is read of one kind of record; RecordSource picks the one that fits.
 class RecordReading
 {
@@ -17,6 +19,8 @@ public:
     const RecordFacts &facts() const { return m_facts; }
     const QVector<RecordFileReport> &files() const { return m_files; }
     virtual int events() const { return 0; }
+    /// What this kind of record tells besides, for people: names with values.
+    virtual QVector<std::pair<QString, QString>> details() const { return {}; }
 
 protected:
     RecordFacts m_facts;

@@ -154,6 +154,11 @@ const QVector<RecordFileReport> &RecordSource::files() const
     return m_reading ? m_reading->files() : m_noFiles;
 }
 
+QVector<std::pair<QString, QString>> RecordSource::details() const
+{
+    return m_reading ? m_reading->details() : QVector<std::pair<QString, QString>>();
+}
+
 RecordState RecordSource::state() const
 {
     if (!m_reading)

@@ -27,6 +27,7 @@ public:
     const RecordFacts &facts() const;
     const QVector<RecordFileReport> &files() const;
     int events() const { return m_reading ? m_reading->events() : 0; }
+    QVector<std::pair<QString, QString>> details() const;
     /// The worst of all files; a file that cannot be read beside others that can leaves the whole one broken.
     RecordState state() const;
     /// The first ones of each file, the worst file's first.

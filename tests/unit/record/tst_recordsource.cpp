@@ -2,6 +2,7 @@
 #include "pqa2bytes.h"
 #include "record/tables/recordsource.h"
 #include "testpaths.h"
+#include "unit/documentpage.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -87,6 +88,7 @@ private slots:
     void captureIsOneWaveform();
     void linesOfTheLoggerAreRows();
     void savedPageTellsWhenAndWithWhat();
+    void pagesAreCalledAsOnTheFormatPage();
     void takerThatRefusesEndsTheReading();
     void readingEndsWhenTheProgressSaysSo();
     void recordingOfTheTestData();
@@ -325,7 +327,7 @@ void TstRecordSource::curvesEndWhereTheTimeGoesBack()
         QVERIFY(event.startRms[input].isEmpty() && event.endRms[input].isEmpty());
     QCOMPARE(event.startRms[4].at(3).value, 13.0F);
     QCOMPARE(event.startRms[1].at(0).value, 231.0F);
-    QCOMPARE(event.startRms[5].at(3).time, kTime + 30);
+    QCOMPARE(qint64(event.startRms[5].at(3).time), kTime + 30); // packed: no reference to it
     QCOMPARE(event.endRms[5].at(1).value, 9.0F);
 }
 
@@ -462,6 +464,8 @@ void TstRecordSource::captureIsOneWaveform()
     QCOMPARE(kept.facts.nominalVolt, 120.0);
     QCOMPARE(kept.waveforms.size(), 1);
     const auto &waveform = kept.waveforms.at(0);
+    QCOMPARE(source.details().at(0).second,
+             QStringLiteral("%1 of each of 4 inputs, 5120 a second").arg(waveform.facts.samples));
     QCOMPARE(waveform.facts.sampleRate, 5120.0);
     QCOMPARE(waveform.facts.channels.size(), 4);
     QCOMPARE(waveform.facts.channels.at(1).name, QByteArray("U_N"));
@@ -480,6 +484,7 @@ void TstRecordSource::linesOfTheLoggerAreRows()
     read(QStringLiteral("Logger_1_00.csv"));
     QCOMPARE(source.state(), RecordState::Whole);
     QCOMPARE(kept->facts.kind, RecordKind::Log);
+    QCOMPARE(source.details().at(0).second, QStringLiteral("2 of 8 columns"));
     QCOMPARE(kept->times("log"), QVector<qint64>({ kTime, kTime + 1000 }));
     QCOMPARE(kept->number("log", 0, QStringLiteral("U_rms_mean_L1_V")), 230.0);
     QCOMPARE(kept->number("log", 0, QStringLiteral("P_min_total_W")), -1.5e6);
@@ -504,7 +509,29 @@ void TstRecordSource::savedPageTellsWhenAndWithWhat()
     QCOMPARE(kept->facts.start, kTime);
     QCOMPARE(kept->facts.softwareVersion, QStringLiteral("2.2.6"));
     QCOMPARE(kept->facts.joinMode, 1);
+    QCOMPARE(source.details().at(0).second, QStringLiteral("Harmonics"));
+    QCOMPARE(source.details().at(1).second, QStringLiteral("picture of 15 bytes, record of 3"));
     QVERIFY(kept->rows.isEmpty());
+}
+
+void TstRecordSource::pagesAreCalledAsOnTheFormatPage()
+{
+    const auto sections
+        = DocumentPage(QStringLiteral("formats/pqa.md")).text().split(QStringLiteral("| page | function |"));
+    QCOMPARE(sections.size(), 2);
+    int pages = 0;
+    for (const QString &line : sections.at(1).split(QLatin1Char('\n'))) {
+        const QStringList cells = line.split(QLatin1Char('|'));
+        if (cells.size() < 4 || cells.at(1).trimmed().toInt() == 0)
+            continue;
+        ++pages;
+        QVERIFY(P::save(path("page.pqa"),
+                        P::le(quint64(cells.at(1).trimmed().toInt()), 4) + QByteArray(32, '\0') + P::le(0xCC33C3C3, 4)
+                            + QByteArray::fromHex("AA55")));
+        QVERIFY(source.open(path("page.pqa")));
+        QCOMPARE(source.details().at(0).second, cells.at(2).trimmed());
+    }
+    QCOMPARE(pages, 14);
 }
 
 void TstRecordSource::takerThatRefusesEndsTheReading()
