@@ -21,6 +21,7 @@ private slots:
     void wrongUseIsOneLine();
     void usedPortIsOneLine();
     void pageAndAllThatItNeedsComeFromThePanel();
+    void helpLeadsToSectionsThatThereAre();
     void everyAnswerCarriesTheContentPolicy();
     void keysReachTheInstrumentInTheirOrder();
     void keysThatAreNoneAreRefused();
@@ -107,6 +108,25 @@ void TstPanelServer::pageAndAllThatItNeedsComeFromThePanel()
     for (const char *none : { "/nothing", "/panel.js/", "/guide/", "/guide/../panel.css",
                               "/guide/%2e%2e/%2e%2e/README.md", "//etc/passwd", "/:/panel/index.html" })
         QVERIFY2(get(m_port, none).status == 404, none);
+}
+
+void TstPanelServer::helpLeadsToSectionsThatThereAre()
+{
+    const QByteArray table = get(m_port, "/help.js").body;
+    int followed = 0;
+    auto links = QRegularExpression("'([a-z-]+\\.html)(?:#([a-z0-9-]+))?'").globalMatch(table);
+    while (links.hasNext()) {
+        const auto link = links.next();
+        const Answer page = get(m_port, "/guide/" + link.captured(1).toLatin1());
+        QVERIFY2(page.status == 200, qPrintable(link.captured()));
+        QCOMPARE(page.field("Content-Type"), QByteArray("text/html; charset=utf-8"));
+        QVERIFY2(link.captured(2).isEmpty() || page.body.contains("id=\"" + link.captured(2).toLatin1() + '"'),
+                 qPrintable(link.captured()));
+        ++followed;
+    }
+    QVERIFY(followed > 15);
+    QCOMPARE(get(m_port, "/guide/guide.css").field("Content-Type"), QByteArray("text/css; charset=utf-8"));
+    QCOMPARE(get(m_port, "/guide/pictures/site-values-measuring.png").field("Content-Type"), QByteArray("image/png"));
 }
 
 void TstPanelServer::everyAnswerCarriesTheContentPolicy()

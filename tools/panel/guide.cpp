@@ -19,6 +19,8 @@ constexpr FileType kTypes[] = {
     { ".css", "text/css; charset=utf-8" },
     { ".png", "image/png" },
     { ".svg", "image/svg+xml" },
+    { ".sql", "text/plain; charset=utf-8" },
+    { ".py", "text/plain; charset=utf-8" },
 };
 
 } // namespace

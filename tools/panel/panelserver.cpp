@@ -31,6 +31,7 @@ constexpr PageFile kPage[] = {
     { "/panel.css", ":/panel/panel.css", "text/css; charset=utf-8" },
     { "/panel.js", ":/panel/panel.js", "text/javascript; charset=utf-8" },
     { "/controls.js", ":/panel/controls.js", "text/javascript; charset=utf-8" },
+    { "/help.js", ":/panel/help.js", "text/javascript; charset=utf-8" },
     { "/icon.svg", ":/panel/icon.svg", "image/svg+xml" },
 };
 

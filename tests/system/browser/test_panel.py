@@ -323,8 +323,21 @@ class PanelInABrowser(unittest.TestCase):
         self.title_becomes("Setup")
 
     def test_help_opens_the_guide(self):
-        address = self.page.find_element(By.ID, "help").get_attribute("href")
-        self.assertTrue(address.startswith(self.desk.address + "guide/user-guide.html"), address)
+        self.press("Setup")
+        self.title_becomes("Setup")
+        guide = self.desk.address + "guide/"
+        link = self.page.find_element(By.ID, "help")
+        eventually(lambda: link.get_attribute("href") == guide + "setup-pages.html", "help is that of another page")
+        link.click()
+        eventually(lambda: len(self.page.window_handles) == 2, "help opens nothing")
+        panel = self.page.current_window_handle
+        self.page.switch_to.window(next(handle for handle in self.page.window_handles if handle != panel))
+        try:
+            self.assertEqual(self.page.current_url, guide + "setup-pages.html")
+            self.assertEqual(self.page.find_element(By.TAG_NAME, "h1").text, "Set-up pages")
+        finally:
+            self.page.close()
+            self.page.switch_to.window(panel)
 
     def test_zz_nothing_was_asked_elsewhere_and_no_script_failed(self):
         """Last by its name: reads what the browser noted during all the others."""

@@ -432,11 +432,17 @@ void TstArchitecture::packagesOfTheBuildAreInTheList()
         const char *wanted;
         const char *package;
     } rows[] = {
-        { "Qt5", "qtbase5-dev" },           { "LinguistTools", "qttools5-dev" },
-        { "libmodbus", "libmodbus-dev" },   { "fftw3", "libfftw3-dev" },
-        { "ZLIB", "zlib1g-dev" },           { "benchmark", "libbenchmark-dev" },
-        { "rsvg-convert", "librsvg2-bin" }, { "sqlite3", "libsqlite3-dev" },
-        { "OpenSSL", "libssl-dev" },        { "cpp-httplib", "libcpp-httplib-dev" },
+        { "Qt5", "qtbase5-dev" },
+        { "LinguistTools", "qttools5-dev" },
+        { "libmodbus", "libmodbus-dev" },
+        { "fftw3", "libfftw3-dev" },
+        { "ZLIB", "zlib1g-dev" },
+        { "benchmark", "libbenchmark-dev" },
+        { "rsvg-convert", "librsvg2-bin" },
+        { "sqlite3", "libsqlite3-dev" },
+        { "cmark-gfm", "cmark-gfm" },
+        { "OpenSSL", "libssl-dev" },
+        { "cpp-httplib", "libcpp-httplib-dev" },
     };
     const QStringList packages = read(kTop + QStringLiteral("/packaging/debian-packages.txt")).split(QLatin1Char('\n'));
     QString build;

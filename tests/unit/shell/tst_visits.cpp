@@ -20,6 +20,9 @@
 #include "views/unbalance/unbalan.h"
 #include "views/unbalance/unbalvectorpage.h"
 
+#include "testpaths.h"
+
+#include <QFile>
 #include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTranslator>
@@ -45,6 +48,7 @@ private slots:
     void setupShowsNoTimeOfAMeasurement();
     void whatSetupChangedIsOnTheNextPage();
     void aCommandedPageIsEnteredOnceItIsInFront();
+    void panelHasHelpForEveryPage(); // makes them all, so it is the last
 
 private:
     static constexpr int kVisits = 4;
@@ -129,6 +133,19 @@ void TstVisits::aPageIsMadeWhenItIsFirstEntered()
     QTest::keyClick(page->currentPage(), kF4);
     QVERIFY(page->findChild<FlickerPage *>());
     QCOMPARE(static_cast<QWidget *>(page->currentPage()), page->findChild<QWidget *>("FlickerPage"));
+}
+
+void TstVisits::panelHasHelpForEveryPage()
+{
+    QFile table(QStringLiteral(QUVERA_SOURCE_DIR "/tools/panel/page/help.js"));
+    QVERIFY(table.open(QIODevice::ReadOnly));
+    const QByteArray text = table.readAll();
+    for (int type = 0; type < kUiTypes; ++type) {
+        const QObject *page = m_basedialog->navigator().page(_quvera_ui_type(type));
+        if (page)
+            QVERIFY2(text.contains(QByteArray("  ") + page->metaObject()->className() + ": '"),
+                     page->metaObject()->className());
+    }
 }
 
 void TstVisits::pagesStandInTheOrderOfTheTable()

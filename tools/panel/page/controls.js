@@ -1,12 +1,6 @@
 'use strict';
 // What stands beside the instrument on a desk: controls from the server's table, and how things stand.
 
-// Where the guide speaks of a page.
-const helpOfPage = {};
-function helpFor(page) {
-  return `user-guide.html${helpOfPage[page] || ''}`;
-}
-
 const shown = [
   ['scenario', 'Scenario', (s) => s.scenario],
   ['f', 'Frequency', (s) => s.f && `${Number(s.f).toFixed(3)} Hz`],
