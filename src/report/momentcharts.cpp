@@ -1,6 +1,9 @@
 #include "report/plot.h"
 #include "report/reportcharts.h"
 
+#include <QList>
+#include <QPair>
+
 #include <algorithm>
 #include <cmath>
 
@@ -89,6 +92,7 @@ Drawing waveChart(const Moment &moment, bool currents, const Report &text)
     Plot plot(&drawing, kHeight,
               currents ? Report::tr("Waveform of the currents") : Report::tr("Waveform of the voltages"));
     frameMoment(&plot, count / wave.sampleRate, -most, most, QLatin1String(unit), text);
+    QList<QPair<Ink, QString>> legend;
     constexpr int kPoints = 1000; // more than are seen
     const int step = std::max(1, count / kPoints);
     for (int c = 0; c < channels; ++c) {
@@ -101,7 +105,9 @@ Drawing waveChart(const Moment &moment, bool currents, const Report &text)
         for (int i = 0; i < count; i += step)
             points.append(plot.at(i / wave.sampleRate, double(moment.samples.at(i * channels + c) * channel.factor)));
         drawing.line(ink, points);
-        plot.legend(ink, QString::fromLatin1(channel.channel));
+        legend.prepend({ ink, QString::fromLatin1(channel.channel) });
     }
+    for (const auto &word : legend) // the first one stands rightmost
+        plot.legend(word.first, word.second);
     return drawing;
 }

@@ -216,21 +216,27 @@ void ReportWriter::notes()
         Report::tr("Reached: so far go the values in the share of time that the limit asks for. Within: the share that "
                    "keeps to it. Judged: the share of the recording that has values."));
     qint64 flagged = 0, leftOut = 0;
-    bool changes = false;
+    bool changes = false, same = true;
     for (const QuantityVerdict &v : m_judgement.verdicts) {
         const bool tenMinutes = intervalOf(v.key.quantity) == TenMinutes::kLength;
         flagged = std::max(flagged, tenMinutes ? v.flagged : 0);
         leftOut = std::max(leftOut, tenMinutes ? v.leftOut : 0);
-        changes = changes || (v.flagged > 0 && v.partialUnflagged != v.partial);
+        const bool known = v.partialUnflagged == Outcome::Pass || v.partialUnflagged == Outcome::Fail;
+        same = same && (known || v.flagged == 0);
+        changes = changes || (known && v.flagged > 0 && v.partialUnflagged != v.partial);
     }
     if (leftOut > 0)
         note(Report::tr("Intervals of ten minutes with an interruption, not judged: %1.").arg(leftOut));
-    if (flagged > 0)
-        note(Report::tr("Intervals of ten minutes with a dip or a swell, flagged and judged like the others: %1.")
-                 .arg(flagged)
-             + QLatin1Char(' ')
-             + (changes ? Report::tr("Without them the result would be another one.")
-                        : Report::tr("Without them the result is the same.")));
+    if (flagged > 0) {
+        QString text
+            = Report::tr("Intervals of ten minutes with a dip or a swell, flagged and judged like the others: %1.")
+                  .arg(flagged);
+        if (changes)
+            text += QLatin1Char(' ') + Report::tr("Without them the result would be another one.");
+        else if (same)
+            text += QLatin1Char(' ') + Report::tr("Without them the result is the same.");
+        note(text);
+    }
     const QuantityVerdict *frequency = m_judgement.find({ Quantity::Frequency, -1, 0 });
     if (frequency && frequency->judged > 0 && m_judgement.limitsName == QLatin1String("EN50160"))
         note(Report::tr("The standard asks for the frequency in 99.5 % of a year; the limit set judges weeks."));

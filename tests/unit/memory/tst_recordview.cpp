@@ -163,6 +163,13 @@ void TstRecordView::leavingEndsTheReading()
     screen.wait();
     QVERIFY(!screen.page->isBusy());
     QVERIFY(opened(screen)); // and once more, to its end
+    // What nobody wants any more is not read further.
+    RecordView::Reading reading;
+    reading.given = true;
+    MonitorLimits2 limits;
+    limits.initEN50160();
+    RecordView::read(&reading, Target::path(kStorage + kFolder), limits);
+    QVERIFY(!reading.judgement);
 }
 
 void TstRecordView::whatCannotBeReadIsSaid_data()
