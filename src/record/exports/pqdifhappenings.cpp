@@ -195,8 +195,10 @@ bool PqdifHappenings::keepCurves(const RecordedEvent &event, const QByteArray &n
     for (int i = 0; i < 2 * kInputs; ++i) {
         curves[i] = joined(event.item.startRms[i], event.item.endRms[i]);
         if (!curves[i].isEmpty()) {
-            first = qMin(first, curves[i].constFirst().time);
-            last = qMax(last, curves[i].constLast().time);
+            // Samples are packed: no reference to their times.
+            const qint64 begin = curves[i].constFirst().time, end = curves[i].constLast().time;
+            first = qMin(first, begin);
+            last = qMax(last, end);
         }
     }
     if (first > last)
