@@ -76,8 +76,9 @@ constexpr KindName kKindNames[] = {
 
 const KindName *kindName(int kind)
 {
-    const int row = kind - EventRms;
-    return row >= 0 && row < int(std::size(kKindNames)) ? &kKindNames[row] : nullptr;
+    if (kind < EventRms || kind >= EventRms + int(std::size(kKindNames)))
+        return nullptr;
+    return &kKindNames[kind - EventRms];
 }
 
 } // namespace

@@ -29,7 +29,7 @@ protected:
         event.item.finished = 1;
         event.item.value = 150.5f;
         event.item.startTime = start;
-        event.item.endTime = start + duration;
+        event.item.endTime = qMin(start, std::numeric_limits<qint64>::max() - duration) + duration;
         return event;
     }
 
