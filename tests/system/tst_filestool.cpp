@@ -60,14 +60,30 @@ class TstFilesTool : public QObject
 
 private:
     QString path(const QString &name) const { return m_folder->filePath(name); }
-    bool makeLarge() const { return LargeRecording().write(path("large.pqa2"), 48 << 20); }
-    /// The tool at work on a large recording, once its output has begun to grow.
-    bool beginExport(QProcess *process)
+    bool makeLarge(qint64 megabytes = 48) const { return LargeRecording().write(path("large.pqa2"), megabytes << 20); }
+    /// Has the tool at work and calls \a meddle once its output has begun to grow. On a machine that is through before,
+    /// with a larger recording. False: it cannot be caught.
+    template <typename Meddle> bool catchAtWork(QProcess *process, const Meddle &meddle)
     {
-        if (!makeLarge())
-            return false;
-        process->start(kTool, { "export", path("large.pqa2"), "--csv", path("out/csv") });
-        return QTest::qWaitFor([&] { return !entries(path("out")).isEmpty(); }, kPatience);
+        for (const int megabytes : { 48, 192, 768 }) {
+            QDir(path("out/csv")).removeRecursively();
+            if (!makeLarge(megabytes))
+                return false;
+            process->start(kTool, { "export", path("large.pqa2"), "--csv", path("out/csv") });
+            if (!QTest::qWaitFor([&] { return !entries(path("out")).isEmpty(); }, kPatience))
+                return false;
+            if (::kill(pid_t(process->processId()), SIGSTOP) != 0)
+                return false;
+            const bool isCaught = !QFile::exists(path("out/csv"));
+            if (isCaught)
+                meddle(pid_t(process->processId()));
+            ::kill(pid_t(process->processId()), SIGCONT);
+            if (!process->waitForFinished(kPatience))
+                return false;
+            if (isCaught)
+                return true;
+        }
+        return false;
     }
 
     std::unique_ptr<QTemporaryDir> m_folder;
@@ -319,9 +335,7 @@ void TstFilesTool::interruptLeavesNoHalfOutput()
 {
     for (const int signal : { SIGTERM, SIGINT, SIGHUP }) {
         QProcess process;
-        QVERIFY(beginExport(&process));
-        QVERIFY(::kill(pid_t(process.processId()), signal) == 0);
-        QVERIFY(process.waitForFinished(kPatience));
+        QVERIFY(catchAtWork(&process, [signal](pid_t tool) { ::kill(tool, signal); }));
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
         QCOMPARE(process.exitCode(), 73);
         QCOMPARE(entries(path("out")), QStringList());
@@ -334,10 +348,13 @@ void TstFilesTool::progressIsShownOnATerminalAfterASecond()
     QVERIFY(master >= 0 && ::grantpt(master) == 0 && ::unlockpt(master) == 0);
     const QString terminal = QString::fromLocal8Bit(::ptsname(master));
     const auto shown = [master] {
-        QByteArray bytes(65536, '\0');
-        const ssize_t got = ::read(master, bytes.data(), std::size_t(bytes.size()));
-        return bytes.left(int(qMax<ssize_t>(got, 0)));
+        QByteArray all, piece(4096, '\0');
+        for (ssize_t got; (got = ::read(master, piece.data(), std::size_t(piece.size()))) > 0;)
+            all += piece.left(int(got));
+        return all;
     };
+    // Held up, so that it takes longer than a second however fast the machine is.
+    const auto holdUp = [](pid_t) { QTest::qWait(1200); };
     QProcess quick;
     quick.setStandardErrorFile(terminal);
     quick.start(kTool, { "verify", kData + QStringLiteral("monitor.pqa2") });
@@ -346,26 +363,17 @@ void TstFilesTool::progressIsShownOnATerminalAfterASecond()
 
     QProcess slow;
     slow.setStandardErrorFile(terminal);
-    QVERIFY(beginExport(&slow));
-    // Held up, so that it takes longer than a second however fast the machine is.
-    QVERIFY(::kill(pid_t(slow.processId()), SIGSTOP) == 0);
-    QTest::qWait(1200);
-    QVERIFY(::kill(pid_t(slow.processId()), SIGCONT) == 0);
-    QVERIFY(slow.waitForFinished(kPatience));
+    QVERIFY(catchAtWork(&slow, holdUp));
     QCOMPARE(slow.exitCode(), 0);
     const QByteArray text = shown();
     QVERIFY2(text.contains(" %"), text);
-    QVERIFY2(text.endsWith("\r\033[K") || text.contains("\r\033[K"), text); // and taken away
+    QVERIFY2(text.endsWith("\r\033[K"), text); // and taken away
     ::close(master);
 
     QProcess piped;
-    QVERIFY(QDir(path("out/csv")).removeRecursively());
-    QVERIFY(beginExport(&piped));
-    QVERIFY(::kill(pid_t(piped.processId()), SIGSTOP) == 0);
-    QTest::qWait(1200);
-    QVERIFY(::kill(pid_t(piped.processId()), SIGCONT) == 0);
-    QVERIFY(piped.waitForFinished(kPatience));
-    QCOMPARE(piped.readAllStandardError().count('%'), 0);
+    QVERIFY(catchAtWork(&piped, holdUp));
+    QCOMPARE(piped.exitCode(), 0);
+    QCOMPARE(piped.readAllStandardError(), QByteArray());
 }
 
 void TstFilesTool::memoryStaysBelowItsBound()
