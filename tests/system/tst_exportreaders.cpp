@@ -4,7 +4,7 @@
 #include "record/exports/csvexport.h"
 #include "record/exports/influxexport.h"
 #include "record/exports/sqliteexport.h"
-#include "unit/record/exportfeed.h"
+#include "unit/record/wildrecording.h"
 
 #include <cmath>
 #include <cstring>
@@ -58,6 +58,7 @@ private slots:
     void pythonsModulesFindEveryTextAndNumber();
     void pandasOpensTheDatabaseAndTheTables();
     void timeSeriesDatabaseTakesEveryLine();
+    void timeSeriesDatabaseTakesWildContent();
 
 private:
     template <typename Sink> void feed(const QString &target)
@@ -204,6 +205,28 @@ void TstExportReaders::timeSeriesDatabaseTakesEveryLine()
     QCOMPARE(server.load("site", contentOf(at("out.line"))), 204);
     QCOMPARE(server.value("site", "SELECT count(f_mean) FROM frequency").toInt(), kFloats);
     QCOMPARE(server.value("site", "SELECT count(number) FROM events").toInt(), 3);
+}
+
+// Whatever stands in names and texts, the server finds nothing wrong with any line. It also takes what it can of a
+// request with bad ones, and says so.
+void TstExportReaders::timeSeriesDatabaseTakesWildContent()
+{
+    InfluxServer server;
+    const QByteArray problem = server.start();
+    QVERIFY2(problem.isEmpty(), problem);
+    int values = 0;
+    for (quint32 seed = 1; seed <= 40; ++seed) {
+        const WildRecording wild(seed);
+        InfluxExport influx({ at("wild.line"), QString(), true });
+        QVERIFY2(wild.feed(&influx), qPrintable(influx.error()));
+        const QString base = QStringLiteral("wild%1").arg(seed);
+        QCOMPARE(server.create(base), 200);
+        const QByteArray lines = contentOf(at("wild.line"));
+        const int status = server.load(base, lines);
+        QVERIFY2(status == 204, server.said() + '\n' + lines);
+        values += server.query(base, "SELECT * FROM log").at(0).toObject()["values"].toArray().size();
+    }
+    QVERIFY(values > 100);
 }
 
 QTEST_GUILESS_MAIN(TstExportReaders)

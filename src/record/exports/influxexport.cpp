@@ -69,7 +69,8 @@ bool InfluxExport::table(int number, const RecordTable &table)
             continue;
         }
         const QByteArray key = RecordColumn { column.quantity, column.statistic, {}, {}, column.type, -1 }.name();
-        lineOf(&made, column.channel, table.name).fields.push_back({ tag(key) + '=', column.type, cell });
+        const QByteArray named = key.isEmpty() ? QByteArray("value") : tag(key);
+        lineOf(&made, column.channel, table.name).fields.push_back({ named + '=', column.type, cell });
     }
     m_tables[std::size_t(number)] = std::move(made);
     return true;
@@ -78,7 +79,7 @@ bool InfluxExport::table(int number, const RecordTable &table)
 void InfluxExport::putLine(const Line &line, const QByteArray &channel, const RecordRow &row, qint64 nanoseconds)
 {
     m_line = line.start;
-    if (!channel.isEmpty())
+    if (line.channel.isEmpty() && !channel.isEmpty())
         m_line += ",channel=" + tag(channel);
     char separator = ' ';
     char number[CellText::kMost];

@@ -86,5 +86,5 @@ bool SqliteBase::keepReason()
 
 QByteArray SqliteBase::quoted(QByteArray name)
 {
-    return '"' + name.replace('"', "\"\"") + '"';
+    return '"' + name.replace('"', "\"\"").replace('\0', '?') + '"'; // a statement ends at a zero
 }

@@ -5,6 +5,8 @@
 #include "record/tables/isotime.h"
 #include "record/tables/recordevents.h"
 
+#include <QSet>
+
 namespace {
 
 constexpr int kTimeColumns = 2;
@@ -40,6 +42,17 @@ void bindNumber(SqliteStatement *statement, double value, CellType type)
         statement->bind(qint64(value));
     else
         statement->bind(value);
+}
+
+/// The quoted name of a column. A database does not tell capitals from small letters; names that a foreign file gives
+/// twice get numbers.
+QByteArray uniqueName(const QByteArray &name, QSet<QByteArray> *taken)
+{
+    QByteArray unique = SqliteBase::quoted(name);
+    for (int i = 2; taken->contains(unique.toLower()); ++i)
+        unique = SqliteBase::quoted(name + '_' + QByteArray::number(i));
+    taken->insert(unique.toLower());
+    return unique;
 }
 
 const char *kindName(RecordKind kind)
@@ -92,9 +105,10 @@ bool SqliteExport::table(int number, const RecordTable &table)
 bool SqliteExport::makePart(const QByteArray &name, const QVector<RecordColumn> &columns, Part *part)
 {
     QByteArray sql = "CREATE TABLE " + SqliteBase::quoted(name) + '(' + kTimes;
+    QSet<QByteArray> taken { SqliteBase::quoted("time_utc"), SqliteBase::quoted("time_ms") };
     for (const RecordColumn &column : columns) {
         part->cells.push_back(column.type);
-        sql += ", " + SqliteBase::quoted(column.name()) + ' ' + sqlType(column.type);
+        sql += ", " + uniqueName(column.name(), &taken) + ' ' + sqlType(column.type);
     }
     // Made before the rows, which come in the order of their times: they are put at its end, and nothing has to be
     // sorted later in files of its own.
