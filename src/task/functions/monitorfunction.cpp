@@ -194,6 +194,8 @@ void MonitorFunction::closeFlicker()
         m_file.add(Pqa2MonitorFlickerShort, out.shortBlock);
     if (out.longBlock.size() > kShortClosing)
         m_file.add(Pqa2MonitorFlickerLong, out.longBlock);
+    if (out.longTerm)
+        m_links.refresh(); // of two hours this is the only one, and no other refresh follows
 }
 
 void MonitorFunction::transient(const __trans_data &record)

@@ -400,6 +400,7 @@ void TstMonitorFunction::nearlyFullIntervalsAreJudgedAtTheEnd()
     QVERIFY(std::fabs(floatOf(block, 2) - float(std::sqrt(0.5096))) < 1e-5f); // equal values
     QCOMPARE(run.m_data.live().flicker.pstTrend[0].size(), 1);
     QCOMPARE(run.results().flickerReady, 0);
+    QCOMPARE(run.refreshed, 0); // no page shows it
 }
 
 void TstMonitorFunction::closingValueOfTwelveIntervalsIsHeldToTwenty()
@@ -412,6 +413,7 @@ void TstMonitorFunction::closingValueOfTwelveIntervalsIsHeldToTwenty()
     }
     fillFlicker(run, 29900, 3000); // root of 0.5096 x 3000 is 39.1
     run.end();
+    QCOMPARE(run.refreshed, 1);
     QCOMPARE(Run::kinds(), QList<quint32>({ 0xA1000018, 0xA1010002, 0xA1010003, 0xA1000019 }));
     QCOMPARE(Run::blocks()[2].payload.size(), 16);
     QCOMPARE(floatOf(Run::blocks()[2], 0), 20.0f);

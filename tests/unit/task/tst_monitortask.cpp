@@ -26,6 +26,7 @@ private slots:
     void aggregationsReachTheMonitorWithTheWaveBehindThem();
     void tenMinutesRefreshThePages();
     void enoughValuesEndTheRun();
+    void runOfTwoHoursShowsItsLongTermFlicker();
     void taskMayBeDroppedWhenItHasEnough();
     void onHoldNoSecondsPassAndTheSumsGoOn();
     void fileIsWholeWhenTheEndIsHeardOf();
@@ -109,6 +110,29 @@ void TstMonitorTask::enoughValuesEndTheRun()
     QCOMPARE(Run::kinds(), QList<quint32>({ 0xA1000018, 0xA1000019 }));
     pass(30); // and nothing more
     QCOMPARE(Run::kinds().size(), 2);
+}
+
+void TstMonitorTask::runOfTwoHoursShowsItsLongTermFlicker()
+{
+    constexpr int kPerSecond = 4; // flicker datagrams
+    Payload steady(Link::kFlickerWords);
+    for (int word = 2; word < Link::kFlickerWords; ++word)
+        steady.set(word, 1.0f);
+    const QByteArray bytes = steady.bytes();
+    start();
+    int shown = 0;
+    connect(m_task.get(), &UniTask::updateDisplay, this, [&shown] { shown = live().monitor.flickerReady; });
+    for (int i = 1; !m_task->isTaskStoped(); ++i) {
+        m_task->datagramFlicker(bytes);
+        if (i % kPerSecond == 1)
+            m_task->tick();
+    }
+    // The last interval lacks three datagrams: it is judged because it is nearly full.
+    const QList<quint32> kinds = Run::kinds();
+    QCOMPARE(kinds.count(0xA1010002), kValuesOfTwoHours);
+    QCOMPARE(kinds.mid(kinds.size() - 3), QList<quint32>({ 0xA1010002, 0xA1010003, 0xA1000019 }));
+    QCOMPARE(live().monitorTrend.row[MonitorTrendPlt].size(), 1);
+    QCOMPARE(shown, 1);
 }
 
 void TstMonitorTask::taskMayBeDroppedWhenItHasEnough()
