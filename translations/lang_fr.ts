@@ -2041,7 +2041,7 @@ Supprimez des fichiers en mémoire.</translation>
     </message>
     <message>
         <source>fail</source>
-        <translation>non conforme</translation>
+        <translation>échec</translation>
     </message>
     <message>
         <source>not judged</source>

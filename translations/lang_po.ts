@@ -2161,7 +2161,7 @@ Usuń pliki w pamięci.</translation>
     </message>
     <message>
         <source>Within</source>
-        <translation>W granicach</translation>
+        <translation>W normie</translation>
     </message>
     <message>
         <source>Judged</source>
@@ -2185,7 +2185,7 @@ Usuń pliki w pamięci.</translation>
     </message>
     <message>
         <source>Reached: so far go the values in the share of time that the limit asks for. Within: the share that keeps to it. Judged: the share of the recording that has values.</source>
-        <translation>Osiągnięto: dotąd sięgają wartości w udziale czasu wymaganym przez granicę. W granicach: udział, który ją spełnia. Oceniono: część zapisu, która ma wartości.</translation>
+        <translation>Osiągnięto: dotąd sięgają wartości w udziale czasu wymaganym przez granicę. W normie: udział, który ją spełnia. Oceniono: część zapisu, która ma wartości.</translation>
     </message>
     <message>
         <source>Intervals of ten minutes with an interruption, not judged: %1.</source>

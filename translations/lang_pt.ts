@@ -2041,7 +2041,7 @@ Elimine ficheiros na memória.</translation>
     </message>
     <message>
         <source>fail</source>
-        <translation>não cumpre</translation>
+        <translation>falha</translation>
     </message>
     <message>
         <source>not judged</source>

@@ -2041,7 +2041,7 @@ Exclua arquivos na memória.</translation>
     </message>
     <message>
         <source>fail</source>
-        <translation>não atende</translation>
+        <translation>falha</translation>
     </message>
     <message>
         <source>not judged</source>

@@ -24,7 +24,7 @@ struct Column
     int left, width;
 };
 constexpr Column kColumns[]
-    = { { 0, kLeft, 146 }, { 1, 160, 174 }, { 2, 338, 80 }, { 5, 420, 68 }, { 7, 490, 72 }, { 8, 564, 70 } };
+    = { { 0, kLeft, 142 }, { 1, 156, 172 }, { 2, 330, 80 }, { 5, 412, 64 }, { 7, 478, 86 }, { 8, 566, 68 } };
 
 QColor colorOf(Tone tone)
 {

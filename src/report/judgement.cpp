@@ -7,12 +7,19 @@ Outcome Judgement::outcome() const
     Outcome outcome = Outcome::NotApplied;
     for (const QuantityVerdict &verdict : verdicts)
         outcome = worseOf(outcome, verdict.outcome());
-    // That nothing happened says nothing about a supply of which nothing else is known.
-    for (const EventCount &count : eventCounts) {
-        if (outcome == Outcome::Pass || count.outcome() == Outcome::Fail)
-            outcome = worseOf(outcome, count.outcome());
-    }
+    for (const EventCount &count : eventCounts)
+        outcome = worseOf(outcome, outcomeOf(count));
     return outcome;
+}
+
+Outcome Judgement::outcomeOf(const EventCount &count) const
+{
+    if (!count.holds())
+        return Outcome::Fail;
+    const bool anyJudged = std::any_of(verdicts.begin(), verdicts.end(), [](const QuantityVerdict &v) {
+        return v.outcome() == Outcome::Pass || v.outcome() == Outcome::Fail;
+    });
+    return anyJudged ? Outcome::Pass : Outcome::NotJudged;
 }
 
 const QuantityVerdict *Judgement::find(const QuantityKey &key) const

@@ -17,7 +17,7 @@ struct EventCount
     int count = 0; // in the week that has most
     qint64 all = 0; // in the recording
     int allowed = 0;
-    Outcome outcome() const { return count <= allowed ? Outcome::Pass : Outcome::Fail; }
+    bool holds() const { return count <= allowed; }
 };
 
 /// What the instrument itself finds for a quantity of one phase, by the arithmetic of its monitor.
@@ -75,6 +75,8 @@ struct Judgement
     qint64 incompleteTenMinutes = 0;
 
     Outcome outcome() const;
+    /// That nothing happened says nothing about a supply of which nothing else is known.
+    Outcome outcomeOf(const EventCount &count) const;
     const QuantityVerdict *find(const QuantityKey &key) const;
     const InstrumentResult *instrumentOf(const QuantityKey &key) const;
 };

@@ -142,6 +142,7 @@ QVector<ReportCell> ReportWriter::verdictRow(const QuantityVerdict &v) const
 QVector<ReportCell> ReportWriter::countRow(const EventCount &count) const
 {
     const QString limit = QStringLiteral("≤ %1").arg(count.allowed);
+    const Outcome outcome = m_judgement.outcomeOf(count);
     return { { Report::eventName(count.type), Tone::Plain, count.all > 0 ? QStringLiteral("events") : QString() },
              { Report::tr("%1 in a week").arg(limit), Tone::Plain, {} },
              { QString::number(count.count), Tone::Plain, {} },
@@ -149,7 +150,7 @@ QVector<ReportCell> ReportWriter::countRow(const EventCount &count) const
              { kDash, Tone::Plain, {} },
              { kDash, Tone::Plain, {} },
              { kDash, Tone::Plain, {} },
-             { Report::outcome(count.outcome()), toneOf(count.outcome()), {} },
+             { Report::outcome(outcome), toneOf(outcome), {} },
              { kDash, Tone::Weak, {} } };
 }
 

@@ -276,8 +276,8 @@ void TstRecordJudge::eventsAreCountedByTheWeek()
     QCOMPARE(j.eventCounts.first().type, qint32(EventDip));
     QCOMPARE(j.eventCounts.first().all, 42);
     QCOMPARE(j.eventCounts.first().count, 21);
-    QCOMPARE(j.eventCounts.first().outcome(), Outcome::Fail);
-    QCOMPARE(j.eventCounts.at(1).outcome(), Outcome::Pass);
+    QCOMPARE(j.outcomeOf(j.eventCounts.first()), Outcome::Fail);
+    QCOMPARE(j.outcomeOf(j.eventCounts.at(1)), Outcome::Pass);
     QCOMPARE(j.outcome(), Outcome::Fail);
 }
 
@@ -304,6 +304,7 @@ void TstRecordJudge::anEmptyRecordingIsNotJudged()
     const Judgement j = judged(r);
     QVERIFY(j.outcome() != Outcome::Pass && j.outcome() != Outcome::Fail);
     QCOMPARE(j.overview.length(), 0);
+    QCOMPARE(j.outcomeOf(j.eventCounts.first()), Outcome::NotJudged); // no dips, but nothing else either
     QVERIFY(!j.overview.hasVoltage);
 }
 
