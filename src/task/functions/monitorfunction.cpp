@@ -65,13 +65,16 @@ void MonitorFunction::openFile()
     m_run = folder.name();
     m_monitorFile = m_links.device ? std::make_unique<Pqa2FF>(m_links.device()) : std::make_unique<Pqa2FF>();
     m_monitorFile->open(folder.file(QStringLiteral("Monitor.pqa2")));
+    // A month of transients can be more than one file holds.
+    m_monitorFile->continueInParts([this](Pqa2FF &part) { part.addDataBlock(Pqa2StartTime, timed(m_start)); });
     m_file.set(m_monitorFile.get());
 }
 
 void MonitorFunction::measure()
 {
     m_ticks = m_minuteTicks = 0;
-    m_file.add(Pqa2StartTime, timed(Clock::seconds()));
+    m_start = Clock::seconds();
+    m_file.add(Pqa2StartTime, timed(m_start));
 }
 
 void MonitorFunction::aggregation(const __datagram_aggregation &record)

@@ -69,6 +69,7 @@ private:
     QString m_run; // name of its folder
     std::optional<MonitorJudge> m_judge; // while it runs
     MonitorSums m_sums;
+    quint32 m_start = 0; // s since 1970, of measuring
     qint64 m_time = 0; // ms since 1970, of the newest datagram
     int m_ticks = 0; // of the running ten seconds
     int m_minuteTicks = 0; // of the running ten minutes

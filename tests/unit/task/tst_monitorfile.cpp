@@ -1,3 +1,4 @@
+#include "longdevice.h"
 #include "monitorrun.h"
 #include "unit/storage/filelimit.h"
 #include "unit/documentpage.h"
@@ -98,6 +99,7 @@ private slots:
     void exampleHoldsWhatItsSupplyWas();
     void runWritesTheBlocksOfTheExample();
     void whatTheStorageRefusesIsKnown();
+    void aFileThatIsFullGoesOnInItsNextPart();
 
 private:
     const DocumentPage m_page { QStringLiteral("formats/monitor.md") };
@@ -227,6 +229,26 @@ void TstMonitorFile::whatTheStorageRefusesIsKnown()
     QVERIFY(without.m_function->refused());
     without.end();
     QVERIFY(!without.m_function->refused());
+}
+
+void TstMonitorFile::aFileThatIsFullGoesOnInItsNextPart()
+{
+    LongDevice::s_parts.clear();
+    Run run(1, [] { return std::make_unique<LongDevice>(); });
+    run.begin();
+    const auto record = distortedSupply();
+    run.pass(600, record.get());
+    run.end();
+    QCOMPARE(LongDevice::s_parts.keys(), (QStringList { "Monitor.pqa2", "Monitor_2.pqa2" }));
+    int frequencies = 0;
+    for (const auto &part : qAsConst(LongDevice::s_parts))
+        frequencies += part->content.count(QByteArray::fromHex("000001A108000000")); // type and size
+    QCOMPARE(frequencies, 60);
+    const QList<ReadBlock> blocks = readBlocks(LongDevice::s_parts["Monitor_2.pqa2"]->content).mid(3);
+    QVERIFY(blocks.size() > 3);
+    QCOMPARE(blocks.first().type, 0xA1000018u);
+    QCOMPARE(secondsOf(blocks.first()), quint32(kBegin / 1000)); // of the run
+    QCOMPARE(blocks.last().type, 0xA1000019u);
 }
 
 QTEST_GUILESS_MAIN(TstMonitorFile)
