@@ -21,8 +21,14 @@ public:
     {
         table.name = "log";
         const int columns = below(9);
-        for (int i = 0; i < columns; ++i)
-            table.columns.append({ text(5), Statistic(below(4)), text(3), text(2), CellType(below(4)), -1 });
+        for (int i = 0; i < columns; ++i) {
+            RecordColumn column { text(5), Statistic(below(4)), text(3), text(2), CellType(below(4)), -1 };
+            if (i > 0 && below(3) == 0) { // a name that is there already, as far as the case of letters goes
+                column = table.columns.constLast();
+                column.quantity.replace('a', 'A');
+            }
+            table.columns.append(column);
+        }
         if (below(2))
             table.columns.append(ExportFeed::column("channel", Statistic::None, "", "", CellType::Text));
         facts.serialNumber = QString::fromUtf8(text(8));
