@@ -59,7 +59,9 @@ void addOptions(QCommandLineParser &parser)
         { "scenario", "Scenario file of the processor stand-in.", "file", "" },
         { "settle", "Wait before each picture (default: 1200).", "ms", "1200" },
         { "warm-up", "Live values before the first picture (default: 8000); 0: none.", "ms", "8000" },
-        { "speed", "Let time run so many times faster, with faketime (default: 1).", "times", "1" },
+        { "speed",
+          "Let time run so many times faster, with faketime (default: 1); what a busy machine loses is missing.",
+          "times", "1" },
     };
     for (const auto &option : kOptions)
         parser.addOption({ QString::fromLatin1(option.name), QString::fromLatin1(option.text),
