@@ -256,17 +256,21 @@ bool Pqa2Recording::goesOn(int index) const
 /// What began and has no end was cut, or is being written. The files of spectra tell neither.
 void Pqa2Recording::findEnds()
 {
-    qint64 last = 0;
+    qint64 first = 0, last = 0;
     bool hasStart = false;
     for (int i = 0; i < m_parts.size(); ++i) {
         RecordFileReport &report = m_files[i];
         last = qMax(last, report.end);
+        if (report.start > 0)
+            first = first > 0 ? qMin(first, report.start) : report.start;
         const bool isFirst = i == 0 || m_parts.at(i - 1).file != m_parts.at(i).file;
         hasStart = (!isFirst && hasStart) || m_parts.at(i).hasStart;
         report.lacksEnd = hasStart && !m_parts.at(i).hasEnd && !goesOn(i) && !hasSpectra(report);
         if (report.lacksEnd)
             report.fault(RecordState::Cut, report.size, QStringLiteral("the recording has no end"));
     }
+    if (m_facts.start == 0)
+        m_facts.start = first; // the files of spectra tell no start
     m_facts.end = qMax(m_facts.end, last);
 }
 

@@ -25,7 +25,7 @@ struct RecordFacts
     double nominalVolt = 0; // V
     double nominalFrequency = 0; // Hz
     QString clamp, clampN, ratio, ratioN; // as stored
-    qint64 start = 0; // ms since 1970, 0: not known
+    qint64 start = 0; // ms since 1970, of the first thing where none is stored; 0: not known
     qint64 end = 0; // of the last thing that was read, when no end is stored; known to RecordSink::end() only
 };
 

@@ -217,6 +217,8 @@ void TstRecordSource::harmonicsOfTwoFilesMeetByTime()
     QCOMPARE(kept->number("harmonics_u", 0, QStringLiteral("Uh51_mean_L12_V")), 3000.0);
     QCOMPARE(kept->number("harmonics_u", 0, QStringLiteral("Uh100_mean_L12_V")), 3049.0);
     QVERIFY(!kept->columns("harmonics_u").contains(QStringLiteral("Uh51_max_L12_V")));
+    QCOMPARE(kept->facts.start, kTime); // of the first row, as these files tell no start
+    QCOMPARE(kept->facts.end, kTime);
 }
 
 void TstRecordSource::intervalThatOneFileLacksHasItsOtherHalf()
