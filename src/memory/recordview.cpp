@@ -23,8 +23,9 @@ struct Column
     int of;
     int left, width;
 };
+constexpr int kResult = 7;
 constexpr Column kColumns[]
-    = { { 0, kLeft, 142 }, { 1, 156, 172 }, { 2, 330, 80 }, { 5, 412, 64 }, { 7, 478, 86 }, { 8, 566, 68 } };
+    = { { 0, kLeft, 142 }, { 1, 156, 172 }, { 2, 330, 80 }, { 5, 412, 64 }, { kResult, 478, 86 }, { 8, 566, 68 } };
 
 QColor colorOf(Tone tone)
 {
@@ -107,6 +108,9 @@ void RecordView::showReading()
             m_headline = writer.headline(&m_tone);
             m_note = writer.reservation();
             m_table = writer.verdictTable();
+            // What made the verdict is seen without a key.
+            std::stable_partition(m_table.rows.begin(), m_table.rows.end(),
+                                  [](const QVector<ReportCell> &row) { return row.value(kResult).tone == Tone::Bad; });
         }
     }
     update();

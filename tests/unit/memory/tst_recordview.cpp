@@ -78,6 +78,8 @@ void TstRecordView::aMonitorsRunShowsItsVerdict()
     }
     QVERIFY2(failed.contains("Voltage L2"), qPrintable(failed.join(',')));
     QVERIFY(!failed.contains("Voltage L1"));
+    for (int row = 0; row < failed.size(); ++row) // first what made the verdict
+        QCOMPARE(view->table().rows.at(row).at(0).text, failed.at(row));
 }
 
 void TstRecordView::theLimitsInUseJudge()
