@@ -17,6 +17,7 @@ class TstPanelServer : public QObject
 
 private slots:
     void init();
+    void everyOptionIsInTheDocument();
     void wrongUseIsOneLine_data();
     void wrongUseIsOneLine();
     void usedPortIsOneLine();
@@ -51,6 +52,27 @@ void TstPanelServer::init()
     m_panel = std::make_unique<PanelProcess>();
     QVERIFY(m_panel->startFor(*m_instrument));
     m_port = m_panel->port();
+}
+
+void TstPanelServer::everyOptionIsInTheDocument()
+{
+    QProcess help;
+    help.start(QStringLiteral(QUVERA_BIN_DIR "/quvera-panel"), { "--help" });
+    QVERIFY(help.waitForFinished(kPatience));
+    QFile page(QStringLiteral(QUVERA_SOURCE_DIR "/docs/panel.md"));
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    const auto options = [](const QByteArray &text, const char *pattern) {
+        QStringList found;
+        auto matches = QRegularExpression(pattern, QRegularExpression::MultilineOption).globalMatch(text);
+        while (matches.hasNext())
+            found << matches.next().captured(1);
+        found.sort();
+        return found;
+    };
+    QStringList known = options(help.readAllStandardOutput(), "^  (?:-h, )?(--[a-z-]+)");
+    known.removeAll(QStringLiteral("--help-all")); // the toolkit's own
+    QVERIFY(known.size() > 8);
+    QCOMPARE(options(page.readAll(), "^\\| `(--[a-z-]+)"), known);
 }
 
 void TstPanelServer::wrongUseIsOneLine_data()

@@ -281,6 +281,18 @@ class PanelInABrowser(unittest.TestCase):
         eventually(lambda: pathlib.Path(gpio).read_text(encoding="ascii").strip() == "1", "the charger stays off")
         self.put("charger", "state", "off")
 
+    def test_light_dims_the_screen(self):
+        self.press("Light")
+        eventually(lambda: self.screen().get_attribute("data-light") not in (None, "7"), "the light stays")
+        self.assertIn("brightness", self.screen().value_of_css_property("filter"))
+        for _ in range(8):  # around to the brightest
+            if self.screen().get_attribute("data-light") == "7":
+                break
+            before = self.screen().get_attribute("data-light")
+            self.press("Light")
+            eventually(lambda: self.screen().get_attribute("data-light") != before, "the light stays")
+        self.assertEqual(self.screen().get_attribute("data-light"), "7")
+
     def test_controls_have_names(self):
         self.control("dip")
         nameless = [element.get_attribute("outerHTML")[:80] for element in

@@ -143,5 +143,6 @@ function showSupply(state) {
     element('dt', { textContent: name }), element('dd', { textContent: text(state) || '–' }))));
   document.getElementById('standing').dataset.there = state.there;
   if (!state.there) answer('The processor stand-in does not answer', true);
+  document.getElementById('screen').dataset.light = state.light; // pictures are as bright as ever
   follow(state);
 }
