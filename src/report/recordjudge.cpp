@@ -125,7 +125,10 @@ bool RecordJudge::begin(const RecordFacts &)
 void RecordJudge::addLane(Feed &feed, const QuantityKey &key, int cell, int fundamental)
 {
     const Judgement &j = m_judgement;
-    m_judges.emplace_back(key, boundsOf(key, j.setup.limits, j.setup.nominalVolt, j.setup.nominalFrequency), j.weeks);
+    // Mains signals have to keep to their limit in each day, everything else in each week.
+    const bool daily = key.quantity == Quantity::Signal1 || key.quantity == Quantity::Signal2;
+    m_judges.emplace_back(key, boundsOf(key, j.setup.limits, j.setup.nominalVolt, j.setup.nominalFrequency),
+                          daily ? Weeks(j.overview.start, j.overview.end, Weeks::kDay) : j.weeks);
     Lane lane { cell, fundamental, 1, false, key, m_judges.size() - 1, -1, true };
     if (hasTrend(key.quantity)) {
         lane.trend = m_judgement.trends.size();

@@ -173,11 +173,18 @@ QString Report::nameOf(const QuantityKey &key, const Judgement &judgement) const
 
 QString Report::range(const QuantityKey &key, double low, double high) const
 {
+    // Limits are round numbers, as a rule; thousandths of a hertz are shown where they count.
+    const auto isRound
+        = [](double limit) { return !std::isfinite(limit) || std::abs(limit * 100 - std::round(limit * 100)) < 1e-3; };
+    const bool coarse = key.quantity == Quantity::Frequency && isRound(low) && isRound(high);
+    const int decimals = decimalsOf(key.quantity) - (coarse ? 1 : 0);
+    const QString unit = unitOf(key.quantity);
+    const QString behind = unit.isEmpty() ? QString() : QLatin1Char(' ') + unit;
     if (std::isfinite(low) && std::isfinite(high))
-        return number(low, decimalsOf(key.quantity)) + QStringLiteral(" … ") + value(key, high);
+        return number(low, decimals) + QStringLiteral(" … ") + number(high, decimals) + behind;
     if (std::isfinite(high))
-        return QStringLiteral("≤ ") + value(key, high);
-    return std::isfinite(low) ? QStringLiteral("≥ ") + value(key, low) : kDash;
+        return QStringLiteral("≤ ") + number(high, decimals) + behind;
+    return std::isfinite(low) ? QStringLiteral("≥ ") + number(low, decimals) + behind : kDash;
 }
 
 QString Report::eventName(qint32 type)

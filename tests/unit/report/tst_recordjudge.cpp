@@ -43,6 +43,7 @@ private slots:
     void intervalsThatAreTooLongAreNamed();
     void harmonicsInVoltsAreTakenOfTheirFundamental();
     void mainsSignalsNeedThreeSeconds();
+    void mainsSignalsAreJudgedDayByDay();
     void whatIsMissingIsNamed();
     void withoutANominalValueNothingIsHidden();
     void eventsAreCountedByTheWeek();
@@ -233,6 +234,22 @@ void TstRecordJudge::mainsSignalsNeedThreeSeconds()
             QCOMPARE(j.find(key)->judged, 0);
         }
     }
+}
+
+void TstRecordJudge::mainsSignalsAreJudgedDayByDay()
+{
+    // One percent of a day are 288 values. 400 lie outside, all on the second day: seven in a thousand of both days.
+    FedRecording r;
+    r.facts.end = kStart + 2 * FedRecording::kDay;
+    const int table = r.table("signalling", { { "U_signal1_ratio", Statistic::Mean, "L1", "" } });
+    r.fill(table, 3000, [](int i) { return std::vector<double> { i >= 30000 && i < 30400 ? 0.06 : 0.04 }; });
+    const Judgement j = judged(r);
+    const QuantityVerdict *v = j.find({ Quantity::Signal1, 0, 0 });
+    QCOMPARE(v->judged, 57600);
+    QCOMPARE(v->weeks, 2);
+    QCOMPARE(v->weeksFailed, 1);
+    QCOMPARE(v->partial, Outcome::Fail);
+    QCOMPARE(v->worstWeek, kStart + FedRecording::kDay);
 }
 
 void TstRecordJudge::whatIsMissingIsNamed()

@@ -126,6 +126,8 @@ void TstReportWriter::numbersAreThoseOfTheLanguage()
     QCOMPARE(Report("ge").languageTag(), QStringLiteral("de"));
     QCOMPARE(Report("pt_zolcar").languageTag().left(2), QStringLiteral("pt"));
     QCOMPARE(Report(QString()).range(voltage, 207, 253), QStringLiteral("207.0 … 253.0 V"));
+    QCOMPARE(Report(QString()).range(frequency, 49.5, 50.5), QStringLiteral("49.50 … 50.50 Hz"));
+    QCOMPARE(Report(QString()).range(frequency, 49.935, 50.5), QStringLiteral("49.935 … 50.500 Hz"));
     QCOMPARE(Report(QString()).range(voltage, -Bounds::kNone, 253), QStringLiteral("≤ 253.0 V"));
     QCOMPARE(Report(QString()).value(voltage, std::numeric_limits<double>::quiet_NaN()), QStringLiteral("–"));
     QCOMPARE(Report(QString()).number(1e300, 1), QStringLiteral("1.000e+300"));
