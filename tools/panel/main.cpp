@@ -115,6 +115,14 @@ QString readToken(const QString &fileName, QString *token)
         : QStringLiteral("%1: a token has at least %2 signs").arg(fileName).arg(kShortestToken);
 }
 
+/// Where the build puts the guide, or the package.
+QString usualGuide()
+{
+    const QString top = QCoreApplication::applicationDirPath() + QStringLiteral("/..");
+    const QString built = top + QStringLiteral("/guide");
+    return QFile::exists(built) ? built : top + QStringLiteral("/share/quvera-tools/guide");
+}
+
 /// Empty, or one line that says what is wrong.
 QString readOptions(const QCommandLineParser &parser, const Definitions &given, Options *options)
 {
@@ -128,8 +136,7 @@ QString readOptions(const QCommandLineParser &parser, const Definitions &given, 
     if (!options->listen.setAddress(parser.value(given.listen)))
         return QStringLiteral("\"%1\" is no address to listen at").arg(parser.value(given.listen));
     options->root = parser.isSet(given.instrument) && !parser.isSet(given.root) ? QString() : parser.value(given.root);
-    options->guide = parser.isSet(given.guide) ? parser.value(given.guide)
-                                               : QCoreApplication::applicationDirPath() + QStringLiteral("/../guide");
+    options->guide = parser.isSet(given.guide) ? parser.value(given.guide) : usualGuide();
     const QStringList names = parser.values(given.name);
     for (const QString &name : names)
         options->names.push_back(name.toStdString());
