@@ -2223,6 +2223,10 @@ Supprimez des fichiers en mémoire.</translation>
         <source>its nominal value is not known</source>
         <translation>valeur nominale inconnue</translation>
     </message>
+    <message>
+        <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
+        <translation>Tension, harmoniques, déséquilibre, fréquence et flicker : événements trouvés par l&apos;appareil selon ses propres seuils. Le verdict ne repose pas sur eux.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2223,6 +2223,10 @@ Bitte im Speicher Dateien löschen.</translation>
         <source>its nominal value is not known</source>
         <translation>Nennwert nicht bekannt</translation>
     </message>
+    <message>
+        <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
+        <translation>Spannung, Oberschwingungen, Unsymmetrie, Frequenz und Flicker: Ereignisse, wie das Gerät sie nach eigenen Schwellen fand. Das Urteil beruht nicht auf ihnen.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

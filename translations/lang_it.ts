@@ -2223,6 +2223,10 @@ Eliminare file nella memoria.</translation>
         <source>its nominal value is not known</source>
         <translation>valore nominale sconosciuto</translation>
     </message>
+    <message>
+        <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
+        <translation>Tensione, armoniche, squilibrio, frequenza e flicker: eventi rilevati dallo strumento secondo le proprie soglie. Il giudizio non si basa su di essi.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

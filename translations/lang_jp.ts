@@ -2223,6 +2223,10 @@ Delete files in Memory.</source>
         <source>its nominal value is not known</source>
         <translation>公称値が不明です</translation>
     </message>
+    <message>
+        <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
+        <translation>電圧・高調波・不平衡・周波数・フリッカ：測定器が独自のしきい値で検出したイベントです。判定には使用していません。</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2223,6 +2223,10 @@ Usuń pliki w pamięci.</translation>
         <source>its nominal value is not known</source>
         <translation>wartość znamionowa nieznana</translation>
     </message>
+    <message>
+        <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
+        <translation>Napięcie, harmoniczne, asymetria, częstotliwość i migotanie: zdarzenia znalezione przez przyrząd według jego progów. Ocena na nich nie polega.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2223,6 +2223,10 @@ Exclua arquivos na memória.</translation>
         <source>its nominal value is not known</source>
         <translation>o valor nominal não é conhecido</translation>
     </message>
+    <message>
+        <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
+        <translation>Tensão, harmônicas, desequilíbrio, frequência e tremulação: eventos encontrados pelo aparelho segundo os seus limiares. O veredicto não se baseia neles.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

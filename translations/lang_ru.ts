@@ -2223,6 +2223,10 @@ Delete files in Memory.</source>
         <source>its nominal value is not known</source>
         <translation>номинальное значение неизвестно</translation>
     </message>
+    <message>
+        <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
+        <translation>Напряжение, гармоники, несимметрия, частота и фликер: события, найденные прибором по его порогам. Заключение на них не основано.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

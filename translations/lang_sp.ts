@@ -2223,6 +2223,10 @@ Borre archivos en la memoria.</translation>
         <source>its nominal value is not known</source>
         <translation>se desconoce el valor nominal</translation>
     </message>
+    <message>
+        <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
+        <translation>Tensión, armónicos, desequilibrio, frecuencia y flicker: eventos hallados por el equipo según sus propios umbrales. El veredicto no se basa en ellos.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

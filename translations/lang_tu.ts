@@ -2223,6 +2223,10 @@ Bellekten dosya silin.</translation>
         <source>its nominal value is not known</source>
         <translation>nominal değer bilinmiyor</translation>
     </message>
+    <message>
+        <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
+        <translation>Gerilim, harmonikler, dengesizlik, frekans ve fliker: cihazın kendi eşiklerine göre bulduğu olaylar. Karar bunlara dayanmaz.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

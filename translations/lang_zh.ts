@@ -2223,6 +2223,10 @@ Delete files in Memory.</source>
         <source>its nominal value is not known</source>
         <translation>标称值未知</translation>
     </message>
+    <message>
+        <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
+        <translation>电压、谐波、不平衡、频率和闪变：仪器按自身阈值得出的事件，评定不以此为依据。</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

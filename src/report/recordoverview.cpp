@@ -115,7 +115,12 @@ bool OverviewSink::end(const RecordFacts &facts)
         first = first == 0 ? table.look.first : std::min(first, table.look.first);
         last = std::max(last, table.look.last);
     }
+    // The start is told by the instrument's clock, values by the processor's: the two may be apart. A value of days
+    // before has a damaged time.
+    constexpr qint64 kApart = qint64(24) * 3600 * 1000;
     o.start = isPlausibleTime(facts.start) ? facts.start : first;
+    if (first > 0 && first < o.start && o.start - first <= kApart)
+        o.start = first;
     o.end = std::max({ isPlausibleTime(facts.end) ? facts.end : last, o.start, last });
     for (const RecordedEvent &event : qAsConst(o.events)) {
         const __event_item &item = event.item;

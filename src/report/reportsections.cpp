@@ -123,6 +123,15 @@ void ReportWriter::events()
               plain(volts && nominal > 0 ? m_text.percent(double(item.value) * 100 / nominal) : kDash) });
     }
     m_content.add(table);
+    const bool anySlow = std::any_of(o.events.begin(), o.events.end(), [](const RecordedEvent &event) {
+        const qint32 type = event.item.type;
+        return type < EventDip || type == EventUnbalance || type == EventFrequency;
+    });
+    if (anySlow)
+        m_content.add(ReportBlock::Paragraph,
+                      Report::tr("Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found "
+                                 "them, by thresholds of its own. The verdict does not rest on them."),
+                      Tone::Weak);
     const qint64 more = o.events.size() - table.rows.size() + o.eventsBeyond;
     if (more > 0)
         m_content.add(ReportBlock::Paragraph, Report::tr("Further events, not listed: %1.").arg(more), Tone::Weak);

@@ -48,6 +48,7 @@ private slots:
     void withoutANominalValueNothingIsHidden();
     void eventsAreCountedByTheWeek();
     void theWorstEventsGetTheirPicture();
+    void clocksThatAreApartLoseNoTime();
     void anEmptyRecordingIsNotJudged();
     void wildTimesAndTablesAreHarmless();
 };
@@ -312,6 +313,19 @@ void TstRecordJudge::theWorstEventsGetTheirPicture()
     QCOMPARE(j.moments.at(1).event.number, 30); // the deepest
     QCOMPARE(j.moments.at(1).event.item.startRms[0].size(), 2);
     QCOMPARE(j.overview.events.at(29).item.startRms[0].size(), 0); // the others take no memory
+}
+
+void TstRecordJudge::clocksThatAreApartLoseNoTime()
+{
+    FedRecording r;
+    r.facts.end = kStart + 6 * kStep;
+    const int u = r.table("monitor_voltage", FedRecording::voltages(1));
+    r.fill(u, kStep, [](int) { return std::vector<double> { 230 }; });
+    r.facts.start = kStart + 12 * kStep; // behind all values
+    r.facts.end = kStart + 12 * kStep;
+    QCOMPARE(judged(r).overview.start, kStart + kStep);
+    r.row(u, 1000, { 230 }); // in 1970
+    QCOMPARE(judged(r).overview.start, kStart + 12 * kStep);
 }
 
 void TstRecordJudge::anEmptyRecordingIsNotJudged()

@@ -78,6 +78,7 @@ void TstReportWriter::theWorstMomentLeadsToItsEventAndItsWaveform()
         QFile pdf(wanted + "/dip.pdf");
         QVERIFY(pdf.open(QIODevice::WriteOnly) && pdfReport(contentOf(withDip(), {}), &pdf));
     }
+    QVERIFY(!html.contains("by thresholds of its own"));
     QVERIFY(html.contains("<a href=\"#event-1\">"));
     QVERIFY(html.contains("<tr id=\"event-1\">"));
     QVERIFY(html.contains("<a href=\"#moment-1\">1</a>"));
@@ -160,6 +161,8 @@ void TstReportWriter::everyAnchorThatIsLinkedIsThere()
     }
     QVERIFY(links > 100);
     QVERIFY(html.contains("Further events, not listed: 101."));
+    r.event(EventRms, kStart, kStart + 1000, 231);
+    QVERIFY(htmlReport(contentOf(r, {})).contains("by thresholds of its own"));
 }
 
 void TstReportWriter::longTablesGoOnOnTheNextPage()
