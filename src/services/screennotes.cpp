@@ -23,7 +23,8 @@ void addCells(const QAbstractItemView *view, const QWidget *window, QVector<Text
     const QAbstractItemModel *model = view->model();
     const int rows = model ? model->rowCount() : 0, columns = model ? model->columnCount() : 0;
     const QRect shown = view->viewport()->rect();
-    for (int cell = 0; cell < std::min(rows * columns, kMostCells); ++cell) {
+    const int first = std::max(0, view->indexAt(shown.topLeft()).row()) * columns; // a long list stands anywhere
+    for (int cell = first; cell < std::min(rows * columns, first + kMostCells); ++cell) {
         const QModelIndex index = model->index(cell / columns, cell % columns);
         const QRect place = view->visualRect(index);
         const QString text = index.data().toString().simplified();

@@ -95,13 +95,15 @@ void TstScreenNotes::rowsOfAListAreNoted()
 {
     auto *list = new QListWidget(m_page);
     list->setGeometry(0, 0, 300, 100);
-    for (int i = 0; i < 100; ++i)
+    for (int i = 0; i < 2000; ++i)
         list->addItem(QStringLiteral("file %1").arg(i));
     list->show();
     QCoreApplication::processEvents();
     const QStringList rows = note("Texts").split(QLatin1Char('\n'));
     QCOMPARE(rows.first(), QStringLiteral("file 0"));
     QVERIFY(rows.size() > 2 && rows.size() < 20); // those in sight
+    list->scrollToBottom();
+    QVERIFY(note("Texts").endsWith(QStringLiteral("\nfile 1999")));
 }
 
 void TstScreenNotes::captionsOfTheSoftKeysNameTheirKeys()
