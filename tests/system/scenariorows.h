@@ -92,15 +92,28 @@ const Row kRows[] = {
     { "pst-120v-4800", "pst-120v-4800", Star120V, 14, None },
 };
 
-/// The row of this run, "-dip" for that of "dip"; by hand that of "nominal".
-inline const Row &thisRow()
+constexpr double kTwoIntervals = 1230; // s: long enough for two short-term severities
+
+/// The row of this run: "-dip" is that of "dip", "-long-dip" the same for so long that severities of flicker are
+/// recorded, nothing that of "nominal".
+inline Row thisRow()
 {
-    const QByteArray variant = qgetenv("QUVERA_TEST_VARIANT");
-    for (const Row &row : kRows) {
-        if (variant == QByteArray("-") + row.name || (variant.isEmpty() && &row == kRows))
-            return row;
+    QByteArray variant = qgetenv("QUVERA_TEST_VARIANT");
+    const bool isLong = variant.startsWith("-long");
+    variant.remove(0, isLong ? 6 : 1);
+    for (Row row : kRows) {
+        if (variant != row.name && !variant.isEmpty())
+            continue;
+        row.seconds = isLong ? kTwoIntervals : row.seconds;
+        return row;
     }
     qFatal("no row for the supply \"%s\"", variant.constData());
+}
+
+/// Short-term severity of a supply; 0 where none is published for it.
+inline double severityOf(const QByteArray &scenario)
+{
+    return scenario.startsWith("pst-") || scenario == "test-state-2" ? 1 : scenario == "test-state-3" ? 4 : 0;
 }
 
 /// The instrument of a row.
@@ -122,7 +135,8 @@ inline Setting settingOf(SetUp setUp)
     const QPair<QString, QString> volts120 { QStringLiteral("NOM_VOLT_SELECT"), QStringLiteral("3") };
     switch (setUp) {
     case Star120V:
-        return { 1, 120, 60, 0, 39.8, { sixty, volts120 } };
+        return { 1, 120,  60,
+                 0, 39.8, { sixty, volts120, { QStringLiteral("FLICKER_WEIGHTING_CURVE"), QStringLiteral("120") } } };
     case OnBoard:
         return { 1,
                  115,

@@ -1,10 +1,7 @@
 // What the monitor finds and stores of a supply that breaks some limits and keeps others, beside the true signal.
-#include "livegraph.h"
-#include "platform/target.h"
+#include "monitoredrun.h"
 #include "record/pqa2format.h"
-#include "unit/record/readblocks.h"
 
-#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -66,7 +63,6 @@ private:
     const __monitor_trend &trend() { return m_taskmanage->data().live().monitorTrend; }
 
     std::unique_ptr<LiveGraph> m_live;
-    qint64 m_second = 0; // of the processor's time
 };
 
 void TstLiveMonitor::initTestCase()
@@ -90,19 +86,7 @@ void TstLiveMonitor::initTestCase()
     QVERIFY2(m_live->start({ QStringLiteral("--scenario"), path }), qPrintable(m_live->desk().error()));
     LiveGraph::key(Qt::Key_U); // Monitor
     QTRY_COMPARE(LiveGraph::text("name"), QStringLiteral("Monitor"));
-    LiveGraph::key(Qt::Key_L); // Start, at once: in ten seconds
-    QTRY_VERIFY(g_unitask != nullptr);
-    Clock::advance(11000);
-    QTRY_VERIFY_WITH_TIMEOUT(g_unitask->isTaskRunning(), kPatienceMs);
-    Clock::useSystem();
-
-    // The run counts the seconds of the processor's time instead of this machine's.
-    g_unitask->secondTimer().stop();
-    connect(g_unitask, &UniTask::aggregationTaken, this, [this](const __datagram_aggregation *record) {
-        const qint64 second = record->time / 1000;
-        for (m_second = m_second ? m_second : second; m_second < second; ++m_second)
-            g_unitask->tick();
-    });
+    QVERIFY(MonitoredRun::begin(this, 1000));
 }
 
 void TstLiveMonitor::cleanupTestCase()
@@ -176,15 +160,7 @@ void TstLiveMonitor::supplyThatBecomesGoodMendsWhatOneValueMends()
 
 void TstLiveMonitor::fileHoldsTheSameValues()
 {
-    g_unitask->stopTask();
-    const QDir storage(Target::path(QStringLiteral("/mnt/storage")));
-    const QStringList folders = storage.entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-    QCOMPARE(folders.size(), 1);
-    QFile file(storage.filePath(folders[0] + QStringLiteral("/Monitor.pqa2")));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QMap<quint32, QList<ReadBlock>> blocks;
-    for (const ReadBlock &block : readBlocks(file.readAll()))
-        blocks[block.type] << block;
+    QMap<quint32, QList<ReadBlock>> blocks = MonitoredRun::endAndRead();
     QVERIFY(blocks[Pqa2MonitorFrequency].size() >= 60);
     QVERIFY(isAbout(double(floatsOf(blocks[Pqa2MonitorFrequency].first())[0]), kHertz, 0.0001));
     QCOMPARE(floatsOf(blocks[Pqa2MonitorVoltage].first()),

@@ -1,5 +1,5 @@
 // What the monitor says of supplies that just keep each limit of EN 50160, and of such that just break it.
-#include "livegraph.h"
+#include "monitoredrun.h"
 
 #include "model/channelset.h"
 #include "settings/config_data.h"
@@ -142,7 +142,6 @@ private:
 
     QMap<QString, Judged> m_judged; // by the name of the supply
     std::unique_ptr<LiveGraph> m_live;
-    qint64 m_second = 0; // of the processor's time
 };
 
 void TstLiveVerdicts::initTestCase()
@@ -183,24 +182,13 @@ void TstLiveVerdicts::judge(const Supply &supply, Judged *judged)
         if (!one.startsWith(QLatin1String("event")))
             QVERIFY2(!LiveGraph::tell(one).isNull(), qPrintable(one));
     }
-    LiveGraph::key(Qt::Key_L); // Start, at once: in ten seconds
-    QTRY_VERIFY(g_unitask != nullptr);
     letPass(3); // until nothing of the supply before is under way
-    Clock::advance(11000);
-    QTRY_VERIFY_WITH_TIMEOUT(g_unitask->isTaskRunning(), kPatienceMs);
-    Clock::useSystem();
+    QVERIFY(MonitoredRun::begin(this, 100));
     for (const QString &one : supply.commands) {
         if (one.startsWith(QLatin1String("event")))
             QVERIFY2(!LiveGraph::tell(one).isNull(), qPrintable(one));
     }
 
-    g_unitask->secondTimer().stop();
-    m_second = 0;
-    connect(g_unitask, &UniTask::aggregationTaken, this, [this](const __datagram_aggregation *record) {
-        const qint64 second = record->time / 100;
-        for (m_second = m_second ? m_second : second; m_second < second; ++m_second)
-            g_unitask->tick();
-    });
     const DisplayRecords &live = m_taskmanage->data().live();
     QVERIFY(LiveGraph::runUntil(
         [&] { return supply.tenSeconds ? live.monitor.freqReady != 0 : live.monitor.voltReady != 0; }, 60));
