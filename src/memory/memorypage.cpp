@@ -15,6 +15,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QHideEvent>
 #include <QScopedValueRollback>
 
 namespace {
