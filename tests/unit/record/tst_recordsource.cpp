@@ -573,6 +573,18 @@ void TstRecordSource::recordingOfTheTestData()
     for (const char *table :
          { "frequency", "rms", "angles", "power", "energy", "unbalance", "signalling", "harmonics_u" })
         QCOMPARE(kept.times(table), times);
+    // As a hexadecimal editor shows them: 00 00 B0 40 behind the time of the first mean is 5.5.
+    const double means[] = { 5.5, 11, 14.5 }, maxima[] = { 8, 13, 15 }, minima[] = { 3, 9, 14 };
+    for (int row = 0; row < 3; ++row) {
+        QCOMPARE(kept.number("rms", row, QStringLiteral("U_rms_mean_L1_V")), means[row]);
+        QCOMPARE(kept.number("rms", row, QStringLiteral("U_rms_max_L1_V")), maxima[row]);
+        QCOMPARE(kept.number("rms", row, QStringLiteral("U_rms_min_L1_V")), minima[row]);
+    }
+    QCOMPARE(kept.number("frequency", 0, QStringLiteral("f_max_Hz")), 50.5);
+    QCOMPARE(kept.number("harmonics_u", 0, QStringLiteral("U_distortion_mean_L1_V")), 106.5);
+    QCOMPARE(kept.number("harmonics_u", 0, QStringLiteral("U_fundamental_mean_L1_V")), 408.5);
+    QCOMPARE(kept.number("harmonics_u", 0, QStringLiteral("Uh01_mean_L1_V")), 408.5);
+    QCOMPARE(kept.number("harmonics_u", 0, QStringLiteral("Uh02_mean_L1_V")), 411.5);
 }
 
 QTEST_APPLESS_MAIN(TstRecordSource)
