@@ -10,7 +10,7 @@ Usage: ./run.sh [options]
   --fresh             start with a new desk root: factory settings, empty storage
   --root DIR          the folder that stands for the board's "/" (default: build/desk, kept between runs)
   --scenario NAME     what stands at the inputs: a file, or a name of processor/scenarios (default: living)
-  --speed N           let time run N times faster
+  --speed N           let the supply's time run N times faster; the instrument's own clock stays as it is
   --modbus-port N     TCP port of the Modbus server (default 1502; the board's is 502)
   --remote-port N     UDP port of the remote control (default 3527)
   --panel-port N      TCP port of the panel for browsers (default 8080)

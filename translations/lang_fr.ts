@@ -2227,6 +2227,10 @@ Supprimez des fichiers en mémoire.</translation>
         <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
         <translation>Tension, harmoniques, déséquilibre, fréquence et flicker : événements trouvés par l&apos;appareil selon ses propres seuils. Le verdict ne repose pas sur eux.</translation>
     </message>
+    <message>
+        <source>As far as it was judged, the supply complies with %1.</source>
+        <translation>Pour ce qui a été évalué, l&apos;alimentation est conforme à %1.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2227,6 +2227,10 @@ Bitte im Speicher Dateien löschen.</translation>
         <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
         <translation>Spannung, Oberschwingungen, Unsymmetrie, Frequenz und Flicker: Ereignisse, wie das Gerät sie nach eigenen Schwellen fand. Das Urteil beruht nicht auf ihnen.</translation>
     </message>
+    <message>
+        <source>As far as it was judged, the supply complies with %1.</source>
+        <translation>Soweit bewertet, hält die Versorgung %1 ein.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2227,6 +2227,10 @@ Eliminare file nella memoria.</translation>
         <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
         <translation>Tensione, armoniche, squilibrio, frequenza e flicker: eventi rilevati dallo strumento secondo le proprie soglie. Il giudizio non si basa su di essi.</translation>
     </message>
+    <message>
+        <source>As far as it was judged, the supply complies with %1.</source>
+        <translation>Per quanto valutato, l&apos;alimentazione è conforme a %1.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

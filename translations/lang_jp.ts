@@ -2227,6 +2227,10 @@ Delete files in Memory.</source>
         <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
         <translation>電圧・高調波・不平衡・周波数・フリッカ：測定器が独自のしきい値で検出したイベントです。判定には使用していません。</translation>
     </message>
+    <message>
+        <source>As far as it was judged, the supply complies with %1.</source>
+        <translation>判定した範囲では、電源は%1に適合しています。</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

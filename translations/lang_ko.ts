@@ -2227,6 +2227,10 @@ Delete files in Memory.</source>
         <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
         <translation>전압, 고조파, 불평형, 주파수, 플리커: 계측기가 자체 임계값으로 찾은 이벤트이며 판정의 근거가 아닙니다.</translation>
     </message>
+    <message>
+        <source>As far as it was judged, the supply complies with %1.</source>
+        <translation>판정한 범위에서 전원이 %1에 적합합니다.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2227,6 +2227,10 @@ Usuń pliki w pamięci.</translation>
         <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
         <translation>Napięcie, harmoniczne, asymetria, częstotliwość i migotanie: zdarzenia znalezione przez przyrząd według jego progów. Ocena na nich nie polega.</translation>
     </message>
+    <message>
+        <source>As far as it was judged, the supply complies with %1.</source>
+        <translation>W ocenionym zakresie zasilanie spełnia %1.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

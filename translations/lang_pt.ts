@@ -2227,6 +2227,10 @@ Elimine ficheiros na memória.</translation>
         <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
         <translation>Tensão, harmónicas, desequilíbrio, frequência e tremulação: eventos encontrados pelo aparelho segundo os seus limiares. O veredicto não se baseia neles.</translation>
     </message>
+    <message>
+        <source>As far as it was judged, the supply complies with %1.</source>
+        <translation>No que foi avaliado, a alimentação cumpre %1.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

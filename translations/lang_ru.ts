@@ -2227,6 +2227,10 @@ Delete files in Memory.</source>
         <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
         <translation>Напряжение, гармоники, несимметрия, частота и фликер: события, найденные прибором по его порогам. Заключение на них не основано.</translation>
     </message>
+    <message>
+        <source>As far as it was judged, the supply complies with %1.</source>
+        <translation>В оценённой части питание соответствует %1.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2227,6 +2227,10 @@ Borre archivos en la memoria.</translation>
         <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
         <translation>Tensión, armónicos, desequilibrio, frecuencia y flicker: eventos hallados por el equipo según sus propios umbrales. El veredicto no se basa en ellos.</translation>
     </message>
+    <message>
+        <source>As far as it was judged, the supply complies with %1.</source>
+        <translation>En lo evaluado, el suministro cumple %1.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

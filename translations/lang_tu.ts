@@ -2227,6 +2227,10 @@ Bellekten dosya silin.</translation>
         <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
         <translation>Gerilim, harmonikler, dengesizlik, frekans ve fliker: cihazın kendi eşiklerine göre bulduğu olaylar. Karar bunlara dayanmaz.</translation>
     </message>
+    <message>
+        <source>As far as it was judged, the supply complies with %1.</source>
+        <translation>Değerlendirilen kısmıyla besleme %1 ile uyumlu.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2227,6 +2227,10 @@ Delete files in Memory.</source>
         <source>Voltage, harmonics, unbalance, frequency and flicker: events as the instrument found them, by thresholds of its own. The verdict does not rest on them.</source>
         <translation>电压、谐波、不平衡、频率和闪变：仪器按自身阈值得出的事件，评定不以此为依据。</translation>
     </message>
+    <message>
+        <source>As far as it was judged, the supply complies with %1.</source>
+        <translation>在已评定的范围内，供电符合 %1。</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -22,6 +22,13 @@ Outcome Judgement::outcomeOf(const EventCount &count) const
     return anyJudged ? Outcome::Pass : Outcome::NotJudged;
 }
 
+bool Judgement::leavesOut() const
+{
+    return std::any_of(notJudged.begin(), notJudged.end(), [](const NotJudged &rest) {
+        return rest.quantity != Quantity::Signal1 && rest.quantity != Quantity::Signal2;
+    });
+}
+
 const QuantityVerdict *Judgement::find(const QuantityKey &key) const
 {
     const auto at = std::find_if(verdicts.begin(), verdicts.end(),

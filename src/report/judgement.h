@@ -77,6 +77,8 @@ struct Judgement
     Outcome outcome() const;
     /// That nothing happened says nothing about a supply of which nothing else is known.
     Outcome outcomeOf(const EventCount &count) const;
+    /// That a quantity of the set was judged by nothing. Mains signals do not count: hardly a recording has them.
+    bool leavesOut() const;
     const QuantityVerdict *find(const QuantityKey &key) const;
     const InstrumentResult *instrumentOf(const QuantityKey &key) const;
 };

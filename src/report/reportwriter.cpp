@@ -50,6 +50,10 @@ QString ReportWriter::headline(Tone *tone) const
     *tone = toneOf(outcome);
     if (outcome == Outcome::Fail)
         return Report::tr("The supply does not comply with %1.").arg(name);
+    if (outcome == Outcome::Pass && m_judgement.leavesOut()) {
+        *tone = Tone::Plain;
+        return Report::tr("As far as it was judged, the supply complies with %1.").arg(name);
+    }
     if (outcome == Outcome::Pass)
         return Report::tr("The supply complies with %1.").arg(name);
     return m_judgement.overview.hasVoltage && !m_judgement.overview.hasLiveVoltage

@@ -422,6 +422,10 @@ void TstPqa2Reader::pageAndProgramNameTheSameKinds()
     QVERIFY(pqa2KindName(0) != nullptr);
     for (quint32 type = 0xA1000000; type < 0xA1020000; ++type)
         QVERIFY2((pqa2KindName(type) != nullptr) == documented.contains(type), qPrintable(QString::number(type, 16)));
+    QSet<QByteArray> names;
+    for (const quint32 type : documented)
+        names << pqa2KindName(type);
+    QCOMPARE(names.size(), documented.size()); // a list of blocks does not say one name for two kinds
     for (const quint32 type : { 1u, 0xA0FFFFFFu, 0xA1020000u, 0xFFFFFFFFu })
         QVERIFY(!pqa2KindName(type));
 }

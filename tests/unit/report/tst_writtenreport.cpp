@@ -129,7 +129,8 @@ void TstWrittenReport::aBadWeekDoesNot()
 void TstWrittenReport::tenMinutesAreAnIndication()
 {
     const Case &made = report("short.pqa2");
-    QCOMPARE(verdictOf(made.content), QStringLiteral("The supply complies with EN50160."));
+    // Nobody takes ten minutes for all of the standard: two hours make the first long-term flicker.
+    QCOMPARE(verdictOf(made.content), QStringLiteral("As far as it was judged, the supply complies with EN50160."));
     QVERIFY(says(made.content, "shorter than a week"));
     QCOMPARE(made.judgement->find({ Quantity::Voltage, 0, 0 })->judged, 1);
     QVERIFY(!made.judgement->find({ Quantity::Plt, 0, 0 }));
