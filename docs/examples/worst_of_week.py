@@ -29,11 +29,12 @@ QUANTITIES = [
     ("unbalance", "%", [("monitor_unbalance", r"U_negative_ratio()_percent"),
                         ("unbalance", r"U_negative_ratio_max()_percent"),
                         ("log", r"U_negative_ratio_max()_percent")], max),
-    ("flicker, short-term", "", [("monitor_flicker_pst", r"Pst_(.+)"), ("flicker_pst", r"Pst_(.+)")], max),
+    ("flicker, short-term", "", [("monitor_flicker_pst", r"Pst_(.+)"), ("flicker_pst", r"Pst_(.+)"),
+                                ("log", r"Pst_(.+)")], max),
     ("flicker, long-term", "", [("monitor_flicker_plt", r"Plt_(.+)"), ("flicker_plt", r"Plt_(.+)")], max),
     ("current, highest", "A", [("rms", r"I_rms_max_(.+)_A"), ("rms", r"I_rms_mean_(.+)_A"),
                                ("log", r"I_rms_max_(.+)_A")], max),
-    ("active power, highest", "W", [("power", r"P_max_total()_W"), ("log", r"P_max_ALL()_W")], max),
+    ("active power, highest", "W", [("power", r"P_max_total()_W"), ("log", r"P_max_total()_W")], max),
 ]
 
 WEEK = datetime.timedelta(days=7)

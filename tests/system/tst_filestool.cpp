@@ -176,6 +176,7 @@ void TstFilesTool::wrongUseIsTold_data()
     QTest::newRow("no path") << QStringList { "info" };
     QTest::newRow("two paths") << QStringList { "info", file, file };
     QTest::newRow("no such option") << QStringList { "info", file, "--xml" };
+    QTest::newRow("no such letter") << QStringList { "info", file, "-j" };
     QTest::newRow("value of a flag") << QStringList { "info", file, "--json=1" };
     QTest::newRow("option twice") << QStringList { "info", file, "--json", "--json" };
     QTest::newRow("no target") << QStringList { "recover", file };
@@ -184,6 +185,14 @@ void TstFilesTool::wrongUseIsTold_data()
     QTest::newRow("no format") << QStringList { "export", file };
     QTest::newRow("two formats") << QStringList { "export", file, "--csv", "a", "--sqlite", "b" };
     QTest::newRow("no kind of report") << QStringList { "report", file };
+    const QString there = kData + QStringLiteral("capture.wav"); // an output that exists
+    for (const char *option : { "--csv", "--sqlite", "--comtrade", "--pqdif", "--pqdif-zlib", "--influx" })
+        QTest::addRow("%s over a file", option) << QStringList { "export", file, option, there };
+    for (const char *option : { "--html", "--pdf" })
+        QTest::addRow("%s over a file", option) << QStringList { "report", file, option, there };
+    QTest::newRow("--out over a file") << QStringList { "recover", file, "--out", there };
+    QTest::newRow("folder of the output is missing")
+        << QStringList { "export", file, "--csv", QStringLiteral("/no/such/folder") };
 }
 
 void TstFilesTool::wrongUseIsTold()
@@ -251,7 +260,7 @@ void TstFilesTool::outputThatExistsIsRefusedWithoutForce()
     QCOMPARE(run(call).code, 0);
     QVERIFY(Pqa2Bytes::save(path("out/sound.pqa2"), Pqa2Bytes::fileHead()));
     const Result refused = run(call);
-    QCOMPARE(refused.code, 73);
+    QCOMPARE(refused.code, 64);
     QCOMPARE(refused.error.count('\n'), 1);
     QCOMPARE(Pqa2Bytes::bytesOf(path("out/sound.pqa2")), Pqa2Bytes::fileHead());
     QCOMPARE(run(call + QStringList("--force")).code, 0);
@@ -267,7 +276,7 @@ void TstFilesTool::nothingIsWrittenBesideTheInput()
     for (const char *command : { "info", "verify" })
         QCOMPARE(run({ command, path("stick/record") }).code, 1);
     QCOMPARE(run({ "export", path("stick/record"), "--csv", path("out/csv") }).code, 1);
-    QCOMPARE(run({ "export", path("stick/record"), "--csv", path("stick/record/csv") }).code, 73);
+    QCOMPARE(run({ "export", path("stick/record"), "--csv", path("stick/record/csv") }).code, 64);
     QCOMPARE(entries(path("stick")), QStringList("record"));
     QCOMPARE(entries(path("stick/record")), QStringList("Common.pqa2"));
     QCOMPARE(Pqa2Bytes::bytesOf(path("stick/record/Common.pqa2")), bytes);

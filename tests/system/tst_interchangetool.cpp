@@ -12,7 +12,7 @@
 
 namespace {
 
-enum Status { Whole = 0, Cut = 1, NoOutput = 73 };
+enum Status { Whole = 0, Cut = 1, WrongUse = 64 };
 
 QString data(const char *name)
 {
@@ -114,7 +114,7 @@ void TstInterchangeTool::anotherFileIsReplacedOnlyWhenAsked()
     QVERIFY(other.open(QIODevice::WriteOnly));
     other.write("mine");
     other.close();
-    QCOMPARE(exported(data("recorder"), { "--pqdif", at("r.pqd") }), int(NoOutput));
+    QCOMPARE(exported(data("recorder"), { "--pqdif", at("r.pqd") }), int(WrongUse));
     QVERIFY2(m_said.contains("r.pqd"), m_said.constData());
     QCOMPARE(contentOf(at("r.pqd")), QByteArray("mine"));
     QCOMPARE(exported(data("recorder"), { "--pqdif", at("r.pqd"), "--force" }), int(Whole));
@@ -129,7 +129,7 @@ void TstInterchangeTool::recordingWithoutWaveformsHasNoPairs()
 
 void TstInterchangeTool::unwritableOutputLeavesNothing()
 {
-    QCOMPARE(exported(data("recorder"), { "--pqdif", at("missing/r.pqd") }), int(NoOutput));
+    QCOMPARE(exported(data("recorder"), { "--pqdif", at("missing/r.pqd") }), int(WrongUse));
     QCOMPARE(exported(at("nothing"), { "--pqdif", at("r.pqd") }), 3);
     QCOMPARE(left(), QStringList());
 }

@@ -2,6 +2,7 @@
 #include "record/exports/csvexport.h"
 #include "record/exports/sqliteexport.h"
 #include "record/tables/recordevents.h"
+#include "record/tables/recordsource.h"
 #include "testpaths.h"
 #include "unit/record/exportfeed.h"
 
@@ -125,6 +126,7 @@ private slots:
     void questionsOfATableThatIsMissingDoNotStopTheOthers();
     void worstValuesOfEachWeekAreFound();
     void worstValuesOfAMonitorComeFromItsOwnTables();
+    void worstValuesOfALoggersFile();
     void folderWithoutTablesIsSaidToBeOne();
 
 private:
@@ -251,6 +253,25 @@ void TstTableExamples::worstValuesOfAMonitorComeFromItsOwnTables()
                         "  voltage, highest           L1             231 V   2024-01-18 16:00:00\n"
                         "  distortion of the voltage  L1             3.5 %   2024-01-18 16:00:00\n"
                         "  flicker, long-term         L1            0.75     2024-01-18 16:00:00\n"));
+}
+
+void TstTableExamples::worstValuesOfALoggersFile()
+{
+    QFile lines(at("Logger_1_00.csv"));
+    QVERIFY(lines.open(QIODevice::WriteOnly));
+    lines.write(
+        "TIME,VRMS(kV) L1 AVG,VRMS(kV) L1 MAX,VRMS(kV) L1 MIN,P(kW) ALL AVG,P(kW) ALL MAX,P(kW) ALL MIN,PST L1,\n"
+        "2024/01/18  16:00:00,0.230,0.2315,0.229,1.000,1.500,0.500,0.75,\n");
+    lines.close();
+    RecordSource source;
+    CsvExport csv({ at("log"), lines.fileName(), false });
+    QVERIFY(source.open(lines.fileName()) && source.read(csv));
+    QCOMPARE(worstOf(at("log")),
+             QByteArray("Week from 2024-01-18 16:00\n"
+                        "  voltage, lowest            L1             229 V   2024-01-18 16:00:00\n"
+                        "  voltage, highest           L1           231.5 V   2024-01-18 16:00:00\n"
+                        "  flicker, short-term        L1            0.75     2024-01-18 16:00:00\n"
+                        "  active power, highest                    1500 W   2024-01-18 16:00:00\n"));
 }
 
 void TstTableExamples::folderWithoutTablesIsSaidToBeOne()

@@ -7,7 +7,7 @@ bool CommandLine::parse(const QStringList &words, const std::vector<CommandOptio
     bool onlyPaths = false;
     for (int i = 0; i < words.size(); ++i) {
         const QString &word = words.at(i);
-        if (onlyPaths || !word.startsWith(QLatin1String("--"))) {
+        if (onlyPaths || word.size() < 2 || !word.startsWith(QLatin1Char('-'))) {
             paths.append(word);
             continue;
         }

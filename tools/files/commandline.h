@@ -13,7 +13,7 @@ enum ExitStatus {
     ExitBroken = 2,
     ExitUnreadable = 3,
     ExitMisuse = 64,
-    ExitNoOutput = 73, // an output that could not be written
+    ExitNoOutput = 73, // the system took no output, or the user ended the work
 };
 
 /// An option of a command.

@@ -45,7 +45,7 @@ int recover(RecordSource &source, const OutputPlace &place, const RecordProgress
     case Recovery::Done:
         return statusOf(source);
     case Recovery::Failed:
-        return noOutput(recovery.error());
+        return noOutput(recovery.error(), recovery.isRefused());
     case Recovery::Ended:
         return interrupted();
     case Recovery::Nothing:

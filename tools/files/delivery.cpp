@@ -29,10 +29,10 @@ int misuse(const QString &reason)
     return ExitMisuse;
 }
 
-int noOutput(const QString &reason)
+int noOutput(const QString &reason, bool isRefused)
 {
     Terminal::complain(Terminal::printable(reason));
-    return ExitNoOutput;
+    return isRefused ? ExitMisuse : ExitNoOutput;
 }
 
 int makeOutput(const CommandLine &line, const QString &option, const OutputWork &work)
@@ -54,5 +54,5 @@ int deliver(RecordSource &source, RecordSink &sink, const RecordProgress &progre
 {
     if (source.read(sink, progress))
         return statusOf(source);
-    return Terminal::isInterrupted() ? interrupted() : noOutput(sink.error());
+    return Terminal::isInterrupted() ? interrupted() : noOutput(sink.error(), sink.isRefused());
 }

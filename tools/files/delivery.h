@@ -15,7 +15,7 @@ int statusOf(const RecordSource &source);
 /// A line on standard error, and the status of the case.
 int interrupted();
 int misuse(const QString &reason);
-int noOutput(const QString &reason);
+int noOutput(const QString &reason, bool isRefused = false); // what is refused is a wrong use
 
 /// Opens the path of the call and lets \a work make what the option names. Whoever asks for an unreadable one gets its
 /// status.

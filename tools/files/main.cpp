@@ -23,7 +23,8 @@ QString helpText()
                         .arg((option.name + QLatin1Char(' ') + option.value).leftJustified(18), option.help);
     }
     text += QStringLiteral(
-        "\nExit: 0 whole, 1 cut short, 2 broken in the middle, 3 not readable, 64 wrong use, 73 no output.\n\n"
+        "\nExit: 0 whole, 1 cut short, 2 broken in the middle, 3 not readable, 64 wrong use or an output that\n"
+        "exists, 73 the output could not be written.\n\n"
         "Examples:\n"
         "  quvera-files info \"/media/usb/240118_161500 Record 1\"\n"
         "  quvera-files verify /media/usb/*\n"

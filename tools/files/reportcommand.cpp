@@ -71,7 +71,7 @@ int runReport(const CommandLine &line)
                           const Report text(language.word());
                           Output output(Output::File, place);
                           const bool isThere = write(&output, ReportWriter(*judgement, about, text).content(), isPdf);
-                          return isThere ? statusOf(source) : noOutput(output.error());
+                          return isThere ? statusOf(source) : noOutput(output.error(), output.isRefused());
                       });
 }
 

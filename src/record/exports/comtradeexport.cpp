@@ -4,6 +4,7 @@
 #include "record/exports/waveformcheck.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QFileInfo>
 #include <QLocale>
 #include <QRegularExpression>
@@ -89,7 +90,7 @@ QByteArray ratioOf(const QString &stored, bool isVoltage)
 } // namespace
 
 ComtradeExport::ComtradeExport(const OutputPlace &place)
-    : m_output(Output::Folder, place, writes), m_input(QFileInfo(place.input).fileName())
+    : m_output(Output::Folder, place, writes), m_input(QFileInfo(QDir::cleanPath(place.input)).fileName())
 { }
 
 bool ComtradeExport::writes(const QString &name)

@@ -22,6 +22,7 @@ public:
     bool waveformEnd() override;
     bool end(const RecordFacts &facts) override;
     QString error() const override { return m_output.error(); }
+    bool isRefused() const override { return m_output.isRefused(); }
 
     /// Whether an export writes files of that name: "0012_event_3.cfg".
     static bool writes(const QString &name);

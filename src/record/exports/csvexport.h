@@ -19,6 +19,7 @@ public:
     bool begin(const RecordFacts &facts) override;
     bool end(const RecordFacts &facts) override;
     QString error() const override { return m_output.error(); }
+    bool isRefused() const override { return m_output.isRefused(); }
     bool table(int number, const RecordTable &table) override;
     bool row(const RecordRow &row) override;
     bool waveformBegin(const RecordedWaveform &waveform) override;

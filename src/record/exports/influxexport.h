@@ -19,6 +19,7 @@ public:
     bool row(const RecordRow &row) override;
     bool end(const RecordFacts &facts) override;
     QString error() const override { return m_output.error(); }
+    bool isRefused() const override { return m_output.isRefused(); }
 
 private:
     struct Field

@@ -68,6 +68,12 @@ bool Output::fail(const QString &name, const QString &reason)
     return false;
 }
 
+bool Output::refuse(const QString &reason)
+{
+    m_isRefused = m_isRefused || m_error.isEmpty();
+    return fail({}, reason);
+}
+
 bool Output::failBySystem()
 {
     return fail({}, qt_error_string(errno));
@@ -76,17 +82,18 @@ bool Output::failBySystem()
 bool Output::begin()
 {
     m_error.clear();
+    m_isRefused = false;
     return isFree() && isApartFromInput() && make();
 }
 
 bool Output::isFree()
 {
     if (m_target.isEmpty())
-        return fail({}, QStringLiteral("a name is missing"));
+        return refuse(QStringLiteral("a name is missing"));
     if (!exists(m_target))
         return errno == ENOENT || failBySystem();
     if (!m_place.force)
-        return fail({}, QStringLiteral("is there already (--force replaces it)"));
+        return refuse(QStringLiteral("is there already (--force replaces it)"));
     return isReplaceable();
 }
 
@@ -97,9 +104,9 @@ bool Output::isReplaceable()
     if (!exists(m_target, &info))
         return failBySystem();
     if (m_kind == File)
-        return S_ISREG(info.st_mode) || fail({}, QStringLiteral("is no ordinary file and is not replaced"));
+        return S_ISREG(info.st_mode) || refuse(QStringLiteral("is no ordinary file and is not replaced"));
     if (!S_ISDIR(info.st_mode))
-        return fail({}, QStringLiteral("is no folder and is not replaced"));
+        return refuse(QStringLiteral("is no folder and is not replaced"));
     return holdsNothingElse();
 }
 
@@ -113,7 +120,7 @@ bool Output::holdsNothingElse()
         const bool isFolder = info.isDir() && !info.isSymLink();
         // A folder is looked into; it counts by the files in it.
         if (!isFolder && (!info.isFile() || !m_writes || !m_writes(name)))
-            return fail({}, QStringLiteral("holds \"%1\", which is no export, and is not replaced").arg(name));
+            return refuse(QStringLiteral("holds \"%1\", which is no export, and is not replaced").arg(name));
     }
     return true;
 }
@@ -123,13 +130,13 @@ bool Output::isApartFromInput()
     const QFileInfo target(m_target);
     const QString folder = QFileInfo(target.path()).canonicalFilePath();
     if (folder.isEmpty())
-        return fail({}, QStringLiteral("there is no folder \"%1\"").arg(target.path()));
+        return refuse(QStringLiteral("there is no folder \"%1\"").arg(target.path()));
     const QString whole = QDir(folder).filePath(target.fileName());
     const QString input = QFileInfo(m_place.input).canonicalFilePath();
     if (input.isEmpty())
         return true;
     if (isInside(whole, input) || isInside(input, whole))
-        return fail({}, QStringLiteral("lies in what is read, where nothing is written"));
+        return refuse(QStringLiteral("lies in what is read, where nothing is written"));
     return true;
 }
 

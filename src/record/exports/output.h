@@ -40,6 +40,8 @@ public:
     bool fail(const QString &name, const QString &reason);
     /// The first thing that went wrong, with the name that the user knows.
     QString error() const { return m_error; }
+    /// Whether that is the user's choice of a target, and no trouble of the disk.
+    bool isRefused() const { return m_isRefused; }
 
 private:
     bool isFree();
@@ -50,6 +52,7 @@ private:
     bool sync();
     bool putInPlace();
     bool exchangeFolders();
+    bool refuse(const QString &reason);
     bool failBySystem();
 
     const Kind m_kind;
@@ -58,4 +61,5 @@ private:
     const Writes m_writes;
     QString m_path;
     QString m_error;
+    bool m_isRefused = false;
 };

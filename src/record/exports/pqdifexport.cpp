@@ -6,6 +6,7 @@
 #include "record/exports/outputfile.h"
 #include "record/exports/waveformcheck.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace {
@@ -75,12 +76,13 @@ bool PqdifExport::row(const RecordRow &row)
         return true;
     // The interval that ends at midnight belongs to the day before.
     const qint64 day = (row.time - 1) / kDay;
-    if (day > m_day) {
+    qint64 &latest = m_trends.has(row.table) ? m_day : m_happeningsDay;
+    if (day > latest) {
         if (!flush())
             return false;
         if (m_spool->size() > m_limits.atDay && !(endFile() && beginFile()))
             return false;
-        m_day = day;
+        latest = day;
     }
     return m_trends.row(row);
 }
@@ -168,7 +170,7 @@ QByteArray PqdifExport::container() const
 
 QByteArray PqdifExport::dataSource() const
 {
-    const QString input = QFileInfo(m_place.input).fileName();
+    const QString input = QFileInfo(QDir::cleanPath(m_place.input)).fileName(); // a folder's may end with a slash
     PqdifCollection root;
     root.addId(PqdifTag::kDataSourceTypeID, PqdifValue::kDataSourceMeasure);
     root.addId(PqdifTag::kVendorID, PqdifValue::kVendorNone);

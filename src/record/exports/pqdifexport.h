@@ -36,6 +36,7 @@ public:
     bool waveformEnd() override { return m_happenings.waveformEnd(); }
     bool end(const RecordFacts &facts) override;
     QString error() const override { return m_error; }
+    bool isRefused() const override { return !m_files.empty() && m_files.back()->isRefused(); }
 
 private:
     bool fail(const QString &error);
@@ -57,6 +58,7 @@ private:
     PqdifHappenings m_happenings;
     std::vector<std::unique_ptr<Output>> m_files; // in the order of their times; the last one goes on
     std::unique_ptr<PqdifSpool> m_spool; // of the last one
-    qint64 m_day = -1; // since 1970, of the latest row
+    qint64 m_day = -1; // since 1970, of the latest row of a trend
+    qint64 m_happeningsDay = -1; // of the latest of the others: a recording tells its events first
     QString m_error;
 };

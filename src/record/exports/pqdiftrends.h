@@ -22,6 +22,7 @@ public:
 
     /// Tables of happenings are no trends; their rows are passed over.
     void table(int number, const RecordTable &table, const RecordFacts &facts);
+    bool has(int table) const { return m_trends.contains(table); }
     bool row(const RecordRow &row);
     bool flush();
 

@@ -40,25 +40,34 @@ Recovery::Result Recovery::run(const RecordSource &source, const RecordProgress 
         result = Failed;
     if (m_error.isEmpty())
         m_error = output.error();
+    m_isRefused = output.isRefused();
     return result;
 }
 
-/// Parts are numbered anew, without the missing ones.
+/// Parts are numbered anew, without the missing ones and those that hold nothing: what a lost supply leaves of a file
+/// that was just begun takes nothing from the others.
 Recovery::Result Recovery::copyFolder(const RecordSource &source, Output &output)
 {
     QMap<QString, int> parts;
-    Result result = Nothing;
+    Result all = Nothing;
     for (const RecordFileReport &file : source.files()) {
         if (file.state == RecordState::Unreadable)
             continue;
         const QString base = PartName::of(QFileInfo(file.path).fileName().chopped(kSuffix.size())).base;
-        const int part = ++parts[base];
+        const int part = parts.value(base) + 1;
         const QString name = part == 1 ? base : base + QLatin1Char('_') + QString::number(part);
-        result = copyFile(source, file, output.path() + QLatin1Char('/') + name + kSuffix);
+        const QString to = output.path() + QLatin1Char('/') + name + kSuffix;
+        const Result result = copyFile(source, file, to);
+        if (result == Nothing) {
+            QFile::remove(to);
+            continue;
+        }
         if (result != Done)
-            break;
+            return result;
+        parts[base] = part;
+        all = Done;
     }
-    return result;
+    return all;
 }
 
 Recovery::Result Recovery::copyFile(const RecordSource &source, const RecordFileReport &file, const QString &to)

@@ -23,6 +23,8 @@ public:
     /// Of a source that was opened. Nothing is written into it.
     Result run(const RecordSource &source, const RecordProgress &progress = {});
     QString error() const { return m_error; }
+    /// As Output::isRefused().
+    bool isRefused() const { return m_isRefused; }
 
 private:
     Result copyFolder(const RecordSource &source, Output &output);
@@ -36,4 +38,5 @@ private:
     const OutputPlace m_place;
     RecordProgress m_progress;
     QString m_error;
+    bool m_isRefused = false;
 };

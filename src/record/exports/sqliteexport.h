@@ -21,6 +21,7 @@ public:
     bool row(const RecordRow &row) override;
     bool end(const RecordFacts &facts) override;
     QString error() const override { return m_output.error(); }
+    bool isRefused() const override { return m_output.isRefused(); }
 
 private:
     /// A table in the database. One of more columns than a database takes goes on in another one.

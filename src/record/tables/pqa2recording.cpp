@@ -139,6 +139,7 @@ bool Pqa2Recording::scanPart(int index, const RecordProgress &progress)
     }
     report.blocks = counts.list();
     report.size = walk.size();
+    report.isOpen = walk.isOpen();
     m_done += walk.size();
     if (walk.state() != RecordState::Whole) {
         report.state = qMax(report.state, walk.state());

@@ -21,6 +21,7 @@ public:
     /// Bytes of the payload of any block that next() gave, at most \a most from \a at on.
     QByteArray copy(const Pqa2Block &block, qint64 at, qint64 most) { return m_reader->payload(block, at, most); }
 
+    bool isOpen() const { return m_openError.isEmpty(); }
     qint64 size() const { return m_file.size(); }
     RecordState state() const;
     qint64 faultOffset() const { return m_reader->faultOffset(); }

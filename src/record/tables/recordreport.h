@@ -40,6 +40,7 @@ struct RecordFileReport
     qint64 start = 0; // ms since 1970, of the first thing with a time, 0: none
     qint64 end = 0; // of the last one
     qint64 events = 0;
+    bool isOpen = true; // its bytes could be read
     bool lacksEnd = false; // of a recording that began
 
     void fault(RecordState worst, qint64 offset, const QString &reason)

@@ -84,4 +84,6 @@ public:
 
     /// Why a member returned false, for people: "/mnt/usb/rms.csv: no room".
     virtual QString error() const = 0;
+    /// Whether that is a wrong choice of the user's: an output that exists, or lies in what is read.
+    virtual bool isRefused() const { return false; }
 };

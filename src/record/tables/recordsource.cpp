@@ -43,7 +43,8 @@ RecordState joined(RecordState worst, const RecordFileReport &file, bool isAlone
 {
     if (file.state != RecordState::Unreadable || isAlone)
         return qMax(worst, file.state);
-    const bool isTornHead = file.size < qint64(sizeof(Pqa2FileHeader)); // what a lost supply leaves of a new file
+    // What a lost supply leaves of a new file; one that is no file or may not be read could hold anything.
+    const bool isTornHead = file.isOpen && file.size < qint64(sizeof(Pqa2FileHeader));
     return qMax(worst, isTornHead ? RecordState::Cut : RecordState::Broken);
 }
 

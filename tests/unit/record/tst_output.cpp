@@ -160,6 +160,7 @@ void TstOutput::existingTargetIsRefusedWithoutForce()
     Output output(Output::Kind(kind), { m_folder->filePath(name), QString(), false }, isTableName);
     QVERIFY(!output.begin());
     QVERIFY2(output.error().contains("is there already (--force replaces it)"), qPrintable(output.error()));
+    QVERIFY(output.isRefused());
     QCOMPARE(names(), before);
     QCOMPARE(contentOf(at("file")), QByteArray("mine"));
 }

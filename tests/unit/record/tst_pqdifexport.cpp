@@ -51,6 +51,7 @@ private slots:
     void rowsBackInTimeAreBroughtIntoOrder();
     void onlyIntervalBeganWithTheRecording();
     void dayEndsAnObservationAndMidnightBelongsToIt();
+    void eventsInFrontLeaveTrendsTheirDays();
     void fullMemoryEndsAnObservation();
     void compressedFileHoldsTheSame();
     void largeRecordingIsSplit();
@@ -278,6 +279,19 @@ void TstPqdifExport::dayEndsAnObservationAndMidnightBelongsToIt()
     QCOMPARE(first[0].series[1], QVector<double>({ 23, 24 }));
     QCOMPARE(second[0].series[1], QVector<double>({ 25, 26 }));
     QCOMPARE((*file.observations()[1])["tagTimeStart"].time(), (kStart + kDay) * 1000);
+}
+
+void TstPqdifExport::eventsInFrontLeaveTrendsTheirDays()
+{
+    QVERIFY(begin());
+    QVERIFY(m_sink->table(0, { "events", { column("number", Statistic::None, "", "", CellType::Integer) } }));
+    QVERIFY(ExportFeed::row(m_sink.data(), 0, kStart + 2 * kDay + 5000, { 1 })); // of the last day
+    QVERIFY(m_sink->table(1, voltages()));
+    for (int day = 0; day < 3; ++day)
+        QVERIFY(ExportFeed::row(m_sink.data(), 1, kStart + day * kDay + 600000, { 230, 231, 240, 241, 220, 221 }));
+    const File file = finish();
+    QCOMPARE(file.fault, QString());
+    QCOMPARE(file.observations().size(), 3);
 }
 
 void TstPqdifExport::fullMemoryEndsAnObservation()

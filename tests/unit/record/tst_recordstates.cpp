@@ -73,6 +73,7 @@ private slots:
     void folderTakesNoOtherFilesThanItsOwn();
     void emptyFileAmongOthersIsACut();
     void foreignFileAmongOthersIsDamage();
+    void fileAmongOthersThatCannotBeOpenedIsDamage();
     void missingPartIsDamage();
     void fileThatGrowsIsCutUpToItsLastBlock();
     void fileThatShrinksWhileItIsReadEnds();
@@ -289,6 +290,17 @@ void TstRecordStates::emptyFileAmongOthersIsACut()
     QCOMPARE(source.state(), RecordState::Cut);
     QCOMPARE(kept->times("frequency").size(), 2);
     QCOMPARE(source.faults().constFirst().path, path("empty/U Harmonic(1-50).pqa2"));
+}
+
+void TstRecordStates::fileAmongOthersThatCannotBeOpenedIsDamage()
+{
+    QVERIFY(QDir().mkpath(path("gone")));
+    QVERIFY(P::recording(2).end(kSeconds).save(path("gone/Common.pqa2")));
+    QVERIFY(
+        QFile::link(path("gone/nowhere"), path("gone/I Harmonic(1-50).pqa2"))); // nothing tells that it held nothing
+    read(path("gone"));
+    QCOMPARE(source.state(), RecordState::Broken);
+    QCOMPARE(kept->times("frequency").size(), 2);
 }
 
 void TstRecordStates::foreignFileAmongOthersIsDamage()

@@ -58,6 +58,7 @@ private slots:
     void wholeFileComesOutTheSame_data();
     void wholeFileComesOutTheSame();
     void folderIsRecoveredFileByFile();
+    void fileThatWasJustBegunTakesNothingFromTheOthers();
     void missingPartsAreClosedUp();
     void tornCaptureKeepsItsWholeFrames();
     void pageWithATornRecordKeepsItsPicture();
@@ -138,6 +139,18 @@ void TstRecovery::folderIsRecoveredFileByFile()
     QCOMPARE(wholeTimes("sound", "frequency").size(), 3);
     QCOMPARE(wholeTimes("sound", "harmonics_u").size(), 1);
     QCOMPARE(P::bytesOf(path("record/Common.pqa2")), common);
+}
+
+void TstRecovery::fileThatWasJustBegunTakesNothingFromTheOthers()
+{
+    QVERIFY(QDir().mkpath(path("begun")));
+    QVERIFY(P::recording(3).save(path("begun/Common.pqa2")));
+    QVERIFY(P::save(path("begun/Common_2.pqa2"), P::fileHead()));
+    QVERIFY(P::recording(2).end(kSeconds + 9).save(path("begun/Common_3.pqa2")));
+    QVERIFY(P::save(path("begun/I Harmonic(1-50).pqa2"), P::fileHead())); // its first block is missing
+    QCOMPARE(recover("begun", "kept"), Recovery::Done);
+    QCOMPARE(QDir(path("kept")).entryList(QDir::Files), QStringList({ "Common.pqa2", "Common_2.pqa2" }));
+    QCOMPARE(wholeTimes("kept", "frequency").size(), 5);
 }
 
 void TstRecovery::missingPartsAreClosedUp()
