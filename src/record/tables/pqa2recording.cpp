@@ -117,6 +117,8 @@ bool Pqa2Recording::scan(const RecordProgress &progress)
             return false;
     }
     m_events.sort();
+    for (const RecordEvents::Place &place : m_events.places())
+        ++m_files[place.part].events;
     findKind();
     findEnds();
     return true;
@@ -195,9 +197,7 @@ void Pqa2Recording::takeEvent(int index, const Pqa2Block &block, const char *loo
     place.part = index;
     place.block = block;
     std::memcpy(&place.head, look, sizeof place.head);
-    if (m_events.add(place))
-        ++m_files[index].events;
-    else
+    if (!m_events.add(place))
         m_files[index].fault(RecordState::Broken, block.offset,
                              QStringLiteral("there are more events than a recording has"));
 }
@@ -242,11 +242,13 @@ void Pqa2Recording::findKind()
     m_facts.kind = isMonitor && !isOther ? RecordKind::Monitor : RecordKind::Recording;
 }
 
-/// Whether what this part tells is told by a further one: it stands beside it, although it is not read.
+/// Whether what this part tells is told on by a further one that can be read, or stands beside it without being read.
 bool Pqa2Recording::goesOn(int index) const
 {
-    if (index + 1 < m_parts.size() && m_parts.at(index + 1).file == m_parts.at(index).file)
-        return true;
+    for (int next = index + 1; next < m_parts.size() && m_parts.at(next).file == m_parts.at(index).file; ++next) {
+        if (m_files.at(next).state != RecordState::Unreadable)
+            return true;
+    }
     const QString &path = m_parts.at(index).path;
     const PartName name = PartName::of(QFileInfo(path).completeBaseName());
     const QString next = name.base + QLatin1Char('_') + QString::number(name.number + 1);
@@ -266,7 +268,8 @@ void Pqa2Recording::findEnds()
             first = first > 0 ? qMin(first, report.start) : report.start;
         const bool isFirst = i == 0 || m_parts.at(i - 1).file != m_parts.at(i).file;
         hasStart = (!isFirst && hasStart) || m_parts.at(i).hasStart;
-        report.lacksEnd = hasStart && !m_parts.at(i).hasEnd && !goesOn(i) && !hasSpectra(report);
+        const bool isThere = report.state != RecordState::Unreadable;
+        report.lacksEnd = isThere && hasStart && !m_parts.at(i).hasEnd && !goesOn(i) && !hasSpectra(report);
         if (report.lacksEnd)
             report.fault(RecordState::Cut, report.size, QStringLiteral("the recording has no end"));
     }

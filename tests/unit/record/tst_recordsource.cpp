@@ -306,6 +306,8 @@ void TstRecordSource::longerOfTwoBlocksOfOneEventWins()
                     .save(path("Common.pqa2")));
         read(QStringLiteral("Common.pqa2"));
         QCOMPARE(kept->events.size(), 2); // one of another kind began at the same time
+        QCOMPARE(source.events(), 2);
+        QCOMPARE(source.files().at(0).events, qint64(2));
         QCOMPARE(kept->events.at(0).item.startRms[0].size(), 5);
         QCOMPARE(kept->events.at(1).item.type, 28);
     }

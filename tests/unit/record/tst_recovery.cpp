@@ -59,6 +59,7 @@ private slots:
     void wholeFileComesOutTheSame();
     void folderIsRecoveredFileByFile();
     void fileThatWasJustBegunTakesNothingFromTheOthers();
+    void partThatWasJustBegunLeavesTheEndToTheOneBefore();
     void missingPartsAreClosedUp();
     void tornCaptureKeepsItsWholeFrames();
     void pageWithATornRecordKeepsItsPicture();
@@ -151,6 +152,16 @@ void TstRecovery::fileThatWasJustBegunTakesNothingFromTheOthers()
     QCOMPARE(recover("begun", "kept"), Recovery::Done);
     QCOMPARE(QDir(path("kept")).entryList(QDir::Files), QStringList({ "Common.pqa2", "Common_2.pqa2" }));
     QCOMPARE(wholeTimes("kept", "frequency").size(), 5);
+}
+
+void TstRecovery::partThatWasJustBegunLeavesTheEndToTheOneBefore()
+{
+    QVERIFY(QDir().mkpath(path("change")));
+    QVERIFY(P::recording(3).save(path("change/Common.pqa2")));
+    QVERIFY(P::save(path("change/Common_2.pqa2"), P::fileHead().left(23)));
+    QCOMPARE(recover("change", "ended"), Recovery::Done);
+    QCOMPARE(QDir(path("ended")).entryList(QDir::Files), QStringList({ "Common.pqa2" }));
+    QCOMPARE(wholeTimes("ended", "frequency").size(), 3);
 }
 
 void TstRecovery::missingPartsAreClosedUp()
