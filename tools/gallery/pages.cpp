@@ -74,6 +74,18 @@ QVector<Page> setUpOfASite()
     };
 }
 
+/// Where leads and clamps belong, for each wiring in the order of the choice, as docs/guide/connecting.md shows it.
+Page connections()
+{
+    Page page
+        = byKey("wiring", "F9",
+                { "F1 Enter: 3p-wye", "F5 Right Enter: 3p-it", "F5 Right Enter: 1p-neutral", "F5 Right Enter: 3p-delta",
+                  "F5 Right Enter: 1p-split", "F5 Right Enter: 1p-it", "F5 Right Enter: 3p-high-leg",
+                  "F5 Right Enter: 3p-open-leg", "F5 Right Enter: 2-5-element", "F5 Right Enter: 2-element" },
+                "F5 F5", true, false);
+    return endingMeasurement(page);
+}
+
 /// A week is recorded, as docs/user-guide.md does it.
 QVector<Page> recordingOfASite()
 {
@@ -225,7 +237,7 @@ const QVector<Page> &galleryPages()
                 "F5 Left Left Right Right Left Right Left Right: calibration", "F1 F2: calibration-l1",
                 "F3: calibration-runs", "F5: calibration-question", "F4: left" },
               "", true, kOneWiring)),
-    } + memory() + setupEditors() + setUpOfASite() + recordingOfASite() + motorOfASite();
+    } + memory() + QVector<Page> { connections() } + setupEditors() + setUpOfASite() + recordingOfASite() + motorOfASite();
     return pages;
 }
 
