@@ -62,7 +62,7 @@ void RecordView::read(Reading *reading, const QString &path, const MonitorLimits
 {
     const RecordProgress progress = [reading](qint64 done, qint64 total) {
         reading->percent = total > 0 ? int(qBound(0.0, double(done) * 100 / double(total), 100.0)) : 0;
-        return !reading->given;
+        return !reading->givenUp;
     };
     RecordSource source;
     if (!source.open(path, progress))
@@ -93,7 +93,7 @@ RecordView::RecordView(const std::shared_ptr<Reading> &reading, QWidget *page) :
 
 RecordView::~RecordView()
 {
-    m_reading->given = true;
+    m_reading->givenUp = true;
 }
 
 void RecordView::showReading()

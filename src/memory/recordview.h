@@ -20,7 +20,7 @@ public:
     /// What is read, by another thread than the one that shows it.
     struct Reading
     {
-        std::atomic<bool> given { false }; // nobody wants it any more
+        std::atomic<bool> givenUp { false }; // nobody wants it any more
         std::atomic<int> percent { 0 };
         // From here on once the reading is through.
         std::unique_ptr<Judgement> judgement; // null: given up

@@ -173,7 +173,7 @@ void Panel::requestPicture(int taker)
 }
 
 // Who pressed a key waits for what it did. The early picture is one more in the time of a spacing, whatever is pressed.
-int Panel::spacing() const
+int Panel::spacingNow() const
 {
     const bool early = m_keyHandled && (!m_lastEarly.isValid() || m_lastEarly.elapsed() >= kPictureSpacing);
     return early ? kSpacingBehindKey : kPictureSpacing;
@@ -189,7 +189,7 @@ void Panel::takePicture()
             QMetaObject::invokeMethod(this, "takePicture", Qt::QueuedConnection);
             return;
         }
-        const qint64 rest = m_lastPicture.isValid() ? spacing() - m_lastPicture.elapsed() : 0;
+        const qint64 rest = m_lastPicture.isValid() ? spacingNow() - m_lastPicture.elapsed() : 0;
         if (rest > 0) {
             m_spacing.start(int(rest));
             return;

@@ -65,7 +65,7 @@ private:
     Q_INVOKABLE void deliverKey();
     void loopCameRound();
     Q_INVOKABLE void takePicture();
-    int spacing() const;
+    int spacingNow() const;
     void comeRound();
     void grabScreen();
     Q_INVOKABLE void pictureDone();

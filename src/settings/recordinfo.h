@@ -58,7 +58,6 @@ public:
     /// The same for a recording that has begun: it goes on until nothing is stored any more.
     static int hoursLeft(double room, quint32 items, int intervalSeconds, const ChannelSet &wiring);
     /// Looks how much room is free: m_storage_room and m_max_duration follow for the items and the interval as they are
-    /// chosen, and m_duration is lowered where it is longer, to no less than an
-    /// hour.
+    /// chosen, and m_duration is lowered where it is longer, to no less than an hour.
     static void checkMaxDuration(const ChannelSet &wiring);
 };

@@ -14,8 +14,7 @@ struct PlannedRun
 };
 
 /// Names what is being recorded or waits for its start, in "/mnt/storage/.running", so that the next start knows what a
-/// lost supply cut or dropped
-/// (docs/formats/run-journal.md). It is written behind, on the disk thread. Any thread.
+/// lost supply cut or dropped (docs/formats/run-journal.md). It is written behind, on the disk thread. Any thread.
 class RunJournal
 {
 public:

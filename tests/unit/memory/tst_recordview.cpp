@@ -167,7 +167,7 @@ void TstRecordView::leavingEndsTheReading()
     QVERIFY(opened(screen)); // and once more, to its end
     // What nobody wants any more is not read further.
     RecordView::Reading reading;
-    reading.given = true;
+    reading.givenUp = true;
     MonitorLimits2 limits;
     limits.initEN50160();
     RecordView::read(&reading, Target::path(kStorage + kFolder), limits);

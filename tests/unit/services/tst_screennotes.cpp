@@ -23,6 +23,7 @@ private slots:
     void nothingIsNotedWithoutAWindow();
     void pageAndItsTitleAreNamed();
     void textsStandInRowsAsTheyAreRead();
+    void rowsAreNoNarrowerThanTheirLetters();
     void hiddenTextsAreNotNoted();
     void rowsOfAListAreNoted();
     void captionsOfTheSoftKeysNameTheirKeys();
@@ -50,7 +51,7 @@ void TstScreenNotes::init()
 {
     m_window = std::make_unique<QWidget>();
     m_window->resize(640, 480);
-    auto *title = new QLabel(QStringLiteral("Volts/Amps/Hertz"), m_window.get());
+    auto *title = new QLabel(QStringLiteral("Volts/Amps/\n Hertz"), m_window.get());
     title->setObjectName(QStringLiteral("name"));
     auto *stack = new QStackedWidget(m_window.get());
     stack->setObjectName(QStringLiteral("base_stackedWidget"));
@@ -71,7 +72,7 @@ void TstScreenNotes::nothingIsNotedWithoutAWindow()
 void TstScreenNotes::pageAndItsTitleAreNamed()
 {
     QCOMPARE(note("Page"), QStringLiteral("QWidget"));
-    QCOMPARE(note("Title"), QStringLiteral("Volts/Amps/Hertz"));
+    QCOMPARE(note("Title"), QStringLiteral("Volts/Amps/ Hertz"));
     QVERIFY(!ScreenNotes::take().contains(QStringLiteral("Dialog")));
 }
 
@@ -82,6 +83,14 @@ void TstScreenNotes::textsStandInRowsAsTheyAreRead()
     addLabel(QStringLiteral("Urms(V)"), 10, 100);
     addLabel(QStringLiteral("two\n lines"), 10, 60);
     QCOMPARE(note("Texts"), QStringLiteral("L1\ntwo lines\nUrms(V) 229.4"));
+}
+
+void TstScreenNotes::rowsAreNoNarrowerThanTheirLetters()
+{
+    addLabel(QStringLiteral("Urms"), 10, 100);
+    addLabel(QStringLiteral("229.4"), 100, 108); // of another size
+    addLabel(QStringLiteral("Irms"), 10, 124);
+    QCOMPARE(note("Texts"), QStringLiteral("Urms 229.4\nIrms"));
 }
 
 void TstScreenNotes::hiddenTextsAreNotNoted()
@@ -102,6 +111,8 @@ void TstScreenNotes::rowsOfAListAreNoted()
     const QStringList rows = note("Texts").split(QLatin1Char('\n'));
     QCOMPARE(rows.first(), QStringLiteral("file 0"));
     QVERIFY(rows.size() > 2 && rows.size() < 20); // those in sight
+    list->item(0)->setText(QStringLiteral("two\n lines"));
+    QVERIFY(note("Texts").startsWith(QStringLiteral("two lines\n")));
     list->scrollToBottom();
     QVERIFY(note("Texts").endsWith(QStringLiteral("\nfile 1999")));
 }
@@ -110,8 +121,10 @@ void TstScreenNotes::captionsOfTheSoftKeysNameTheirKeys()
 {
     addLabel(QStringLiteral("Hold"), 520, 420, QStringLiteral("btn_f5"));
     addLabel(QStringLiteral("Trend"), 400, 420, QStringLiteral("btn_f4"));
+    addLabel(QStringLiteral("Scope\n(all)"), 300, 420, QStringLiteral("btn_f3"));
+    addLabel(QStringLiteral("of another mode"), 200, 420, QStringLiteral("btn_f2"))->hide();
     addLabel(QString(), 10, 420, QStringLiteral("btn_f1"));
-    QCOMPARE(note("Keys"), QStringLiteral("F4 Trend\nF5 Hold"));
+    QCOMPARE(note("Keys"), QStringLiteral("F3 Scope (all)\nF4 Trend\nF5 Hold"));
 }
 
 void TstScreenNotes::openDialogIsInFront()
@@ -119,10 +132,15 @@ void TstScreenNotes::openDialogIsInFront()
     addLabel(QStringLiteral("behind"), 10, 100);
     QDialog dialog(m_window.get());
     QLabel question(QStringLiteral("Quit the\nmeasurement?"), &dialog);
+    QLabel answers(QStringLiteral("Yes / No"), &dialog);
+    question.setGeometry(10, 10, 80, 40);
+    answers.setGeometry(10, 60, 80, 20);
+    answers.setObjectName(QStringLiteral("btn_f5"));
     dialog.open();
-    QCOMPARE(note("Dialog"), QStringLiteral("Quit the measurement?"));
-    QCOMPARE(note("Texts"), QStringLiteral("Quit the measurement?"));
-    QCOMPARE(note("Title"), QStringLiteral("Volts/Amps/Hertz"));
+    QCOMPARE(note("Dialog"), QStringLiteral("Quit the measurement? Yes / No"));
+    QCOMPARE(note("Texts"), QStringLiteral("Quit the measurement?\nYes / No"));
+    QCOMPARE(note("Keys"), QStringLiteral("F5 Yes / No"));
+    QCOMPARE(note("Title"), QStringLiteral("Volts/Amps/ Hertz"));
 }
 
 void TstScreenNotes::longTextsAreCut()
@@ -152,7 +170,12 @@ void TstScreenNotes::pictureCarriesItsNotes()
     QTRY_COMPARE_WITH_TIMEOUT(text("Texts"), QStringLiteral("229.4"), 30000);
     label->setText(QStringLiteral("\u00b0C"));
     QTRY_COMPARE_WITH_TIMEOUT(text("Texts"), QStringLiteral("\u00b0C"), 30000);
-    QCOMPARE(text("Title"), QStringLiteral("Volts/Amps/Hertz"));
+    QCOMPARE(text("Title"), QStringLiteral("Volts/Amps/ Hertz"));
+    const auto setCut = [label](char end) { label->setText(QString(100, QLatin1Char('x')) + QLatin1Char(end)); };
+    setCut('1');
+    QTRY_VERIFY_WITH_TIMEOUT(text("Texts").endsWith(QLatin1Char('1')), 30000);
+    setCut('2'); // no dot of the screen changes
+    QTRY_VERIFY_WITH_TIMEOUT(text("Texts").endsWith(QLatin1Char('2')), 30000);
     panel->removeTaker(number);
 }
 

@@ -68,6 +68,27 @@ private slots:
         QCOMPARE(next.interrupted(), QStringList { QStringLiteral("Ж.wav") });
     }
 
+    void whatGoesOnFromAnotherTakesItsPlace()
+    {
+        RunJournal journal;
+        journal.begin("Logger_1_00.csv");
+        journal.begin("Wave_1.wav");
+        journal.begin("Logger_1_01.csv", "Logger_1_00.csv");
+        QCOMPARE(stored(), QByteArray("Wave_1.wav\nLogger_1_01.csv\n"));
+    }
+
+    void aJournalThatSomebodyTookAwayIsWrittenAnew()
+    {
+        RunJournal journal;
+        journal.begin("one");
+        QCOMPARE(stored(), QByteArray("one\n"));
+        QVERIFY(QFile::remove(Target::path(kJournal)));
+        journal.end("one");
+        QCOMPARE(stored(), QByteArray("(missing)"));
+        journal.begin("one");
+        QCOMPARE(stored(), QByteArray("one\n"));
+    }
+
     void aNewRunTakesThePlaceOfACutOneOfItsName()
     {
         RootFiles::write(kJournal, "Wave_1.wav\n");
@@ -148,6 +169,16 @@ private slots:
         QCOMPARE(stored(), QByteArray("(missing)"));
     }
 
+    void whatAStartForgetsNeedsNoRoomAndLeavesNothingBehind()
+    {
+        RootFiles::write(kJournal, "a long name.wav\nb\n");
+        QVERIFY(QDir().mkpath(Target::path(kJournal + ".bak"))); // no staging copy can be made
+        RunJournal journal;
+        journal.forget("a long name.wav");
+        RootFiles::waitForDisks();
+        QCOMPARE(RunJournal().interrupted(), QStringList { "b" });
+    }
+
     void aRunThatWaitsStandsThereUntilItBegins()
     {
         RunJournal journal;
@@ -176,6 +207,12 @@ private slots:
         QCOMPARE(stored(), QByteArray(".planned 1700000000 My log\n.planned 1800000000 Later\nWave_1.wav\n"));
         next.forgetMissed();
         QCOMPARE(stored(), QByteArray(".planned 1800000000 Later\nWave_1.wav\n"));
+    }
+
+    void ofManyPlansTheFirstFewAreTakenIn()
+    {
+        RootFiles::write(kJournal, QByteArray(".planned 5 a\n").repeated(1000));
+        QCOMPARE(RunJournal().missed().size(), 4);
     }
 };
 
