@@ -144,7 +144,8 @@ void TstPanel::loneRequestIsAnsweredAtOnceWithAPng()
     m_panel->removeTaker(number);
 }
 
-// By the time between two pictures as the panel itself sees it, not by this machine's: a loaded one takes them late.
+// A loaded machine takes pictures late: one that comes early of several tries is enough. That none comes early without
+// a key is seen by the storm's test.
 void TstPanel::keyGetsItsPictureBeforeTheSpacingIsOver()
 {
     m_page->asks = false;
@@ -155,23 +156,20 @@ void TstPanel::keyGetsItsPictureBeforeTheSpacingIsOver()
     connect(
         m_panel.get(), &Panel::pictureTaken, this, [&] { taken << timer.elapsed(); }, Qt::DirectConnection);
     const int number = m_panel->addTaker(counter.taker());
-    qint64 shortest = Panel::kPictureSpacing, shortestWithoutKey = 10 * Panel::kPictureSpacing;
-    for (int i = 0; i < 20 && shortest >= Panel::kPictureSpacing; ++i) {
+    qint64 shortest = Panel::kPictureSpacing;
+    constexpr int kEarly = Panel::kPictureSpacing / 2; // what is merely late before the other comes nowhere near
+    for (int i = 0; i < 100 && shortest >= kEarly; ++i) {
         QTest::qWait(2 * Panel::kPictureSpacing);
-        for (bool key : { false, false, true }) {
+        for (bool key : { false, true }) {
             const int had = counter.pictures;
             if (key)
                 m_panel->pressKey(1); // nobody's
             m_panel->requestPicture(number);
             QTRY_VERIFY_WITH_TIMEOUT(counter.pictures.load() > had, kPatience);
-            if (taken.size() < 2 || taken.size() % 3 == 1)
-                continue;
-            qint64 &gap = key ? shortest : shortestWithoutKey;
-            gap = qMin(gap, taken.last() - taken.at(taken.size() - 2));
         }
+        shortest = qMin(shortest, taken.last() - taken.at(taken.size() - 2));
     }
-    QVERIFY2(shortest < Panel::kPictureSpacing, qPrintable(QString::number(shortest)));
-    QVERIFY2(shortestWithoutKey >= Panel::kPictureSpacing - 1, qPrintable(QString::number(shortestWithoutKey)));
+    QVERIFY2(shortest < kEarly, qPrintable(QString::number(shortest)));
     m_panel->removeTaker(number);
 }
 
@@ -195,9 +193,13 @@ void TstPanel::stormOfKeysGetsTwoPicturesIn200Ms()
 
 void TstPanel::stormGetsOnePictureIn200Ms()
 {
+    m_page->asks = false;
     Counter counter;
-    QSignalSpy taken(m_panel.get(), &Panel::pictureTaken);
     const int number = m_panel->addTaker(counter.taker());
+    m_panel->pressKey(1); // its picture is taken before, and makes none early any more
+    m_panel->requestPicture(number);
+    QTRY_COMPARE_WITH_TIMEOUT(counter.pictures.load(), 1, kPatience);
+    QSignalSpy taken(m_panel.get(), &Panel::pictureTaken);
     std::atomic<bool> ends { false };
     std::atomic<int> requests { 0 };
     std::thread storm([&] {
@@ -216,7 +218,7 @@ void TstPanel::stormGetsOnePictureIn200Ms()
     const int most = int(timer.elapsed() / 200) + 1;
     QVERIFY2(taken.size() >= 2 && taken.size() <= most, qPrintable(QString::number(taken.size())));
     QVERIFY(requests > 10 * most);
-    QTRY_COMPARE_WITH_TIMEOUT(counter.pictures.load(), taken.size(), kPatience);
+    QTRY_COMPARE_WITH_TIMEOUT(counter.pictures.load(), 1 + taken.size(), kPatience);
     QVERIFY(counter.inOtherThread);
     m_panel->removeTaker(number);
 }
