@@ -136,7 +136,7 @@ void TstPanelServer::helpLeadsToSectionsThatThereAre()
 {
     const QByteArray table = get(m_port, "/help.js").body;
     int followed = 0;
-    auto links = QRegularExpression("'([a-z-]+\\.html)(?:#([a-z0-9-]+))?'").globalMatch(table);
+    auto links = QRegularExpression("'([a-z/-]+\\.html)(?:#([a-z0-9-]+))?'").globalMatch(table);
     while (links.hasNext()) {
         const auto link = links.next();
         const Answer page = get(m_port, "/guide/" + link.captured(1).toLatin1());

@@ -78,6 +78,8 @@ private slots:
     void everyPictureIsShown();
     void picturesOfTheGuideAreTakenByTheGallery();
     void picturesAreWholeScreens();
+    void everyPageHasItsSectionInTheGuide();
+    void everyToolHasItsSectionInTheGuide();
 };
 
 void TstDocuments::everyLinkLeadsSomewhere()
@@ -158,6 +160,38 @@ void TstDocuments::picturesAreWholeScreens()
     QVERIFY(pictures.removeOne(QStringLiteral("panel.png"))); // of a browser
     for (const QString &picture : qAsConst(pictures))
         QVERIFY2(QImageReader(folder.filePath(picture)).size() == QSize(640, 480), qPrintable(picture));
+}
+
+void TstDocuments::everyPageHasItsSectionInTheGuide()
+{
+    const QString guide = QStringLiteral("docs/guide/pages.md");
+    const QStringList sections = caught(read(kTop + QLatin1Char('/') + guide), "\n## ([^\n]+)");
+    const QStringList titles
+        = caught(read(kTop + QStringLiteral("/src/shell/pagetable.cpp")), "NOOP\\(\"BaseDialog\", \"([^\"]+)\"\\)");
+    QVERIFY2(titles.size() >= 18, qPrintable(QString::number(titles.size())));
+    for (const QString &title : titles)
+        QVERIFY2(sections.contains(title), qPrintable(title));
+    // And no page that is not there.
+    for (const QString &section : sections)
+        QVERIFY2(titles.contains(section), qPrintable(section));
+}
+
+void TstDocuments::everyToolHasItsSectionInTheGuide()
+{
+    const QStringList sections = caught(read(kTop + QStringLiteral("/docs/guide/tools.md")), "\n## ([^\n]+)");
+    QSet<QString> tools;
+    for (const QFileInfo &manual : QDir(kTop + QStringLiteral("/docs/man")).entryInfoList(QDir::Files))
+        tools << manual.completeBaseName();
+    for (const char *folder : { "tools", "processor", "packaging/update" }) {
+        const QString path = kTop + QLatin1Char('/') + QLatin1String(folder) + QStringLiteral("/CMakeLists.txt");
+        for (const QString &names : caught(read(path), "install\\(TARGETS ([a-z -]+[a-z]) RUNTIME")) {
+            for (const QString &name : names.split(QLatin1Char(' ')))
+                tools << name;
+        }
+    }
+    QVERIFY2(tools.size() >= 7, qPrintable(QString::number(tools.size())));
+    for (const QString &tool : qAsConst(tools))
+        QVERIFY2(sections.contains(tool), qPrintable(tool));
 }
 
 QTEST_GUILESS_MAIN(TstDocuments)

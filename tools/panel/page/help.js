@@ -1,24 +1,24 @@
 'use strict';
 // Where the guide speaks of a page: by the name of its class, which comes with its picture.
 const helpOfPage = {
-  MenuPage: 'user-guide.html',
-  VifPage: 'user-guide.html#does-it-look-right',
-  dswell: 'scope-and-trend-pages.html#half-cycle-trends',
-  harm: 'user-guide.html#does-it-look-right',
-  powen: 'user-guide.html#does-it-look-right',
-  flicker: 'user-guide.html#judge-a-supply',
-  unbalan: 'user-guide.html#does-it-look-right',
-  trans: 'scope-and-trend-pages.html#transients',
-  InrushPage: 'user-guide.html#catch-an-inrush',
+  MenuPage: 'guide/pages.html#menu',
+  VifPage: 'guide/pages.html#voltsampshertz',
+  dswell: 'guide/pages.html#dipsswells',
+  harm: 'guide/pages.html#harmonics',
+  powen: 'guide/pages.html#powerenergy',
+  flicker: 'guide/pages.html#flicker',
+  unbalan: 'guide/pages.html#unbalance',
+  trans: 'guide/pages.html#transients',
+  InrushPage: 'guide/pages.html#inrush',
   MonitorPage: 'user-guide.html#judge-a-supply',
-  ScopePage: 'scope-and-trend-pages.html#values-of-samples',
+  ScopePage: 'guide/pages.html#scope',
   SetupPage: 'setup-pages.html',
   MemoryPage: 'user-guide.html#what-was-saved-onto-a-usb-disk',
   Wave: 'user-guide.html#capture-waveforms',
-  MainsSignaling: 'user-guide.html',
+  MainsSignaling: 'guide/pages.html#mains-signaling',
   PowerInverter: 'power-inverter.html',
   RecordPqa2Page: 'user-guide.html#record-a-week',
-  UserPage: 'user-guide.html#language-colours-clock-network',
+  UserPage: 'guide/pages.html#user',
 };
 
 function helpFor(page) {
