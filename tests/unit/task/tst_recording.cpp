@@ -28,6 +28,7 @@ private slots:
     void aRecordingThatEndedByItselfIsNoLongerAtDisposal();
     void oneThatEndedByItselfGoesWhenItsQuestionSaysSo();
     void aNewPlanKeepsTheOneThatEndedByItself();
+    void anotherFunctionKeepsTheOneThatEndedByItself();
     void anotherFunctionEndsTheRecording();
     void aPlannedRecordingBeginsTheMeasurementThatWaits();
     void aRecordingThatNeverBeganLeavesNothing();
@@ -307,6 +308,17 @@ void TstRecording::aNewPlanKeepsTheOneThatEndedByItself()
     m_task->removeEndedRecord();
     QCOMPARE(storage().size(), 2);
     m_task->stopRecordTask();
+}
+
+void TstRecording::anotherFunctionKeepsTheOneThatEndedByItself()
+{
+    start();
+    prepare(1);
+    feed(3'609'000, 3'609'400);
+    feed(7'300'000, 7'300'400);
+    m_task->initUniFunction(AbstractTask::UniPowerInverter);
+    m_task->removeEndedRecord();
+    QCOMPARE(storage().size(), 2);
 }
 
 void TstRecording::anotherFunctionEndsTheRecording()
