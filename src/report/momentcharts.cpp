@@ -35,8 +35,9 @@ struct Extent
         for (const _value_with_time &sample : curve) {
             if (!isPlausibleTime(sample.time) || !std::isfinite(sample.value))
                 continue;
-            first = std::min(first, sample.time);
-            last = std::max(last, sample.time);
+            const qint64 time = sample.time; // a packed field, to which there is no reference
+            first = std::min(first, time);
+            last = std::max(last, time);
             high = std::max(high, double(sample.value));
         }
     }

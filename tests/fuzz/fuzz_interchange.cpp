@@ -29,7 +29,8 @@ public:
     {
         T value {};
         const size_t size = qMin(m_left, sizeof value);
-        std::memcpy(&value, m_data, size);
+        if (size > 0)
+            std::memcpy(&value, m_data, size);
         m_data += size;
         m_left -= size;
         return value;
