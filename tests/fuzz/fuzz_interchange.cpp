@@ -38,7 +38,8 @@ public:
     /// Up to \a most bytes.
     QByteArray text(int most)
     {
-        const int size = qMin(int(take<quint8>()) % (most + 1), int(m_left));
+        const int wanted = int(take<quint8>()) % (most + 1); // first, for it takes a byte of what is left
+        const int size = qMin(wanted, int(m_left));
         const QByteArray text(reinterpret_cast<const char *>(m_data), size);
         m_data += size;
         m_left -= size_t(size);
