@@ -49,6 +49,8 @@ private slots:
     void droppedRunLeavesNoFile();
     void runThatNeverMeasuredLeavesNoFile();
     void refusedLineIsMissingAndTheNextIsThere();
+    void refusedLineTakesNoPlaceInTheFile();
+    void refusedHeaderIsKnown();
     void withoutANameNothingIsStored();
     void loggingIsKnownWhileItIsPreparedOrRuns();
     void secondRunBeginsAnew();
@@ -338,6 +340,30 @@ void TstLoggerFunction::refusedLineIsMissingAndTheNextIsThere()
     QVERIFY(!m_task->logger().refused());
     QCOMPARE(lines(kFirst).size(), 3);
     QCOMPARE(cells(lines(kFirst).value(2)), QByteArray("52.000,52.000,52.000,"));
+}
+
+void TstLoggerFunction::refusedLineTakesNoPlaceInTheFile()
+{
+    m_task->logger().setMaxLines(2);
+    run(kFrequency);
+    {
+        const FileLimit full(rlim_t(RootFiles::read(kFirst).size()) + 10);
+        take(50.0f);
+        m_task->logger().writeLoggerData();
+    }
+    for (int i = 1; i < 4; ++i) {
+        take(float(50 + i));
+        m_task->logger().writeLoggerData();
+    }
+    QCOMPARE(lines(kFirst).size(), 3); // with its header
+    QCOMPARE(cells(lines(kSecond).value(1)), QByteArray("53.000,53.000,53.000,"));
+}
+
+void TstLoggerFunction::refusedHeaderIsKnown()
+{
+    const FileLimit full(4);
+    run(kFrequency);
+    QVERIFY(m_task->logger().refused());
 }
 
 void TstLoggerFunction::withoutANameNothingIsStored()
