@@ -18,6 +18,13 @@ constexpr int kLookMs = 20;
 constexpr char kInstrumentLog[] = "/instrument.log";
 constexpr char kProcessorLog[] = "/processor.log";
 
+/// The instrument's program: beside the tools in a build; its package keeps it off the search path.
+QString instrumentProgram(const QString &binDir)
+{
+    const QString built = binDir + QStringLiteral("/quvera");
+    return QFileInfo(built).isFile() ? built : binDir + QStringLiteral("/../lib/quvera/bin/quvera");
+}
+
 bool waitUntil(const std::function<bool()> &condition, int waitMs)
 {
     QElapsedTimer timer;
@@ -167,7 +174,12 @@ bool DeskInstrument::startInstrument()
     m_instrument.setProcessChannelMode(QProcess::MergedChannels);
     m_instrument.setStandardOutputFile(m_root + QLatin1String(kInstrumentLog), QIODevice::Append);
     m_instrument.setStandardInputFile(QProcess::nullDevice());
-    m_instrument.start(m_binDir + QStringLiteral("/quvera"), QStringList());
+    const QString program = instrumentProgram(m_binDir);
+    if (!QFileInfo(program).isFile()) {
+        m_error = QStringLiteral("the instrument is missing: ") + program;
+        return false;
+    }
+    m_instrument.start(program, QStringList());
     RemoteClient client(QHostAddress(QHostAddress::LocalHost), m_remotePort);
     client.setPatience(100, 1);
     const bool answers = m_instrument.waitForStarted(kStartMs)

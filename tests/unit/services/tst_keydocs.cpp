@@ -23,10 +23,11 @@ protected:
     void keyPressEvent(QKeyEvent *event) override { last = event->key(); }
 };
 
-/// "F1 to F5" and "Left, Up" as single names.
-QStringList keyNames(const QString &cell)
+/// "F1 to F5", "soft keys 1 to 5" and "Left, Up" as single names.
+QStringList keyNames(QString cell)
 {
-    const QStringList ends = cell.split(QStringLiteral(" to "));
+    const QStringList ends
+        = cell.replace(QLatin1String("soft keys 1 to "), QLatin1String("F1 to F")).split(QStringLiteral(" to "));
     if (ends.size() != 2)
         return cell.split(QStringLiteral(", "));
     QStringList names;
@@ -43,6 +44,7 @@ class TstKeyDocs : public QObject
 private slots:
     void numbersOfTheRemoteControl();
     void keysOfAPcOnADesk();
+    void scanCodesOfTheBoard();
 };
 
 void TstKeyDocs::numbersOfTheRemoteControl()
@@ -85,6 +87,51 @@ void TstKeyDocs::keysOfAPcOnADesk()
         dialog.close();
     }
     QCOMPARE(listed, 12 + 4 + 2 + 2);
+}
+
+void TstKeyDocs::scanCodesOfTheBoard()
+{
+    const QHash<QString, int> keys {
+        { "F1", Qt::Key_F1 },      { "F2", Qt::Key_F2 },       { "F3", Qt::Key_F3 },
+        { "F4", Qt::Key_F4 },      { "F5", Qt::Key_F5 },       { "Scope", Qt::Key_F6 },
+        { "Menu", Qt::Key_F7 },    { "Monitor", Qt::Key_F8 },  { "Setup", Qt::Key_F9 },
+        { "Memory", Qt::Key_F10 }, { "Save", Qt::Key_F11 },    { "Light", Qt::Key_F12 },
+        { "Left", Qt::Key_Left },  { "Up", Qt::Key_Up },       { "Right", Qt::Key_Right },
+        { "Down", Qt::Key_Down },  { "Enter", Qt::Key_Enter }, { "Power", Qt::Key_PowerOff },
+    };
+    // What the system makes of the scan codes of the panel's driver.
+    const DocumentPage map(QStringLiteral("../packaging/board/60-quvera-keys.hwdb"));
+    QVERIFY(map.text().contains(QLatin1String("\nevdev:name:quvera-panel:*\n")));
+    QMap<int, QString> letters;
+    auto lines
+        = QRegularExpression(QStringLiteral("\n KEYBOARD_KEY_([0-9a-f]+)=([a-z])(?=\n)")).globalMatch(map.text());
+    while (lines.hasNext()) {
+        const auto line = lines.next();
+        const int code = line.captured(1).toInt(nullptr, 16);
+        QVERIFY2(!letters.contains(code), qPrintable(line.captured(1)));
+        letters.insert(code, line.captured(2));
+    }
+    QCOMPARE(letters.size(), keys.size());
+
+    // The page says the same, and the program takes each letter for the key that the page names.
+    const DocumentPage page(QStringLiteral("board.md"));
+    QVERIFY(page.text().contains(QLatin1String("is to be called `quvera-panel`")));
+    QSet<QString> documented;
+    const auto rows = page.table(QStringLiteral("## Screen and keys"));
+    for (const QStringList &row : rows) {
+        const QStringList range = row[0].split(QStringLiteral(" to ")), spoken = row[1].split(QLatin1Char(' '));
+        const QStringList names = keyNames(row[2]);
+        const int first = range.first().mid(2).toInt(nullptr, 16);
+        QCOMPARE(range.last().mid(2).toInt(nullptr, 16), first + int(spoken.size()) - 1);
+        QCOMPARE(names.size(), spoken.size());
+        for (int i = 0; i < names.size(); ++i) {
+            QCOMPARE(letters.value(first + i), spoken[i]);
+            QVERIFY2(keys.contains(names[i]), qPrintable(names[i]));
+            QCOMPARE(keyMap::keyMapping(spoken[i].toUpper().at(0).unicode()), keys.value(names[i]));
+            documented << names[i];
+        }
+    }
+    QCOMPARE(documented.size(), keys.size());
 }
 
 int main(int argc, char **argv)

@@ -1,0 +1,345 @@
+// What the packages name is there, and is called by the names that the program has for it. Nothing is packed here:
+// packaging/debian/test.sh does that.
+#include "unit/architecture/sourcetext.h"
+
+#include <QFileInfo>
+#include <QLibraryInfo>
+#include <QSet>
+#include <QTest>
+
+namespace {
+
+using SourceText::kTop;
+using SourceText::read;
+
+const QString kDebian = QStringLiteral("packaging/debian/debian/");
+const QString kUnit = kDebian + QStringLiteral("quvera.service");
+const QString kUdev = kDebian + QStringLiteral("quvera.udev");
+
+/// A file of the repository; a test that finds none fails by its content.
+QString text(const QString &path)
+{
+    return read(kTop + QLatin1Char('/') + path);
+}
+
+/// Everything in a text that a pattern's bracket catches.
+QStringList caught(const QString &all, const QString &pattern)
+{
+    QStringList found;
+    auto matches = QRegularExpression(
+                       pattern, QRegularExpression::MultilineOption | QRegularExpression::DotMatchesEverythingOption)
+                       .globalMatch(all);
+    while (matches.hasNext())
+        found << matches.next().captured(1);
+    return found;
+}
+
+/// Lines of a list, without its comments, as words.
+QVector<QStringList> rows(const QString &path)
+{
+    QVector<QStringList> found;
+    const QStringList lines = text(path).split(QLatin1Char('\n'));
+    for (const QString &line : lines) {
+        const QString bare = line.section(QLatin1Char('#'), 0, 0).simplified();
+        if (!bare.isEmpty())
+            found << bare.split(QLatin1Char(' '));
+    }
+    return found;
+}
+
+/// The install commands of the build.
+QStringList installs()
+{
+    QString all;
+    QDirIterator files(kTop, { QStringLiteral("CMakeLists.txt"), QStringLiteral("*.cmake") }, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        if (!path.startsWith(kTop + QStringLiteral("/build/")))
+            all += read(path);
+    }
+    return caught(all, QStringLiteral("^install\\(([^)]*)\\)"));
+}
+
+/// Programs that are installed, those of a component alone when one is named.
+QStringList programs(const QString &component = {})
+{
+    QStringList names;
+    const QStringList all = installs();
+    for (const QString &install : all) {
+        const QStringList targets = caught(install, QStringLiteral("^TARGETS (.*) RUNTIME DESTINATION bin COMPONENT"));
+        if (!targets.isEmpty() && (component.isEmpty() || install.endsWith(QLatin1Char(' ') + component)))
+            names << targets.first().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    }
+    return names;
+}
+
+/// Packages that a list of the scripts names.
+QStringList packages(const QString &path)
+{
+    QStringList names;
+    for (const QStringList &row : rows(path))
+        names << row.first();
+    return names;
+}
+
+/// Values of a setting of the service unit.
+QStringList unit(const QString &key)
+{
+    return caught(text(kUnit), QStringLiteral("^%1=([^\n]*)$").arg(key));
+}
+
+} // namespace
+
+class TstPackaging : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void everyProgramHasItsManualPage();
+    void whatThePackagesNameIsThere();
+    void componentsArePackedWhole();
+    void versionsAgree();
+    void librariesAreListedEverywhere();
+    void serviceNamesWhatTheProgramReads();
+    void serviceStartsWhatUpdatesInstall();
+    void rulesNameTheFilesOfTheBoard();
+    void userIsTheSameEverywhere();
+    void scriptsThatTheProgramCallsAreOnItsPath();
+    void boardSettingsAreKnown();
+};
+
+void TstPackaging::everyProgramHasItsManualPage()
+{
+    const QStringList tools = programs(QStringLiteral("tools")), all = programs();
+    QVERIFY2(tools.size() >= 6 && all.size() >= tools.size() + 2, qPrintable(all.join(QLatin1Char(' '))));
+    const QString ofTools = text(kDebian + QStringLiteral("quvera-tools.manpages"));
+    QVERIFY(ofTools.contains(QLatin1String("docs/man/*.1")));
+    const QString ofInstrument = text(kDebian + QStringLiteral("quvera.manpages"));
+    for (const QString &name : all) {
+        const QString page = QStringLiteral("docs/man/%1.%2").arg(name, tools.contains(name) ? "1" : "8");
+        const QString manual = text(page);
+        QVERIFY2(manual.contains(QStringLiteral(".TH %1 ").arg(name.toUpper())), qPrintable(page));
+        QVERIFY2(manual.contains(QStringLiteral(".SH NAME\n") + name + QLatin1String(" \\- ")), qPrintable(page));
+        QVERIFY2(tools.contains(name) || ofInstrument.contains(page), qPrintable(page));
+    }
+    // And no page of a program that is gone.
+    const QStringList pages = QDir(kTop + QStringLiteral("/docs/man")).entryList(QDir::Files);
+    for (const QString &page : pages)
+        QVERIFY2(all.contains(QFileInfo(page).completeBaseName()), qPrintable(page));
+}
+
+void TstPackaging::whatThePackagesNameIsThere()
+{
+    int seen = 0;
+    const QDir debian(kTop + QLatin1Char('/') + kDebian);
+    const QStringList lists = debian.entryList({ QStringLiteral("*.install"), QStringLiteral("*.manpages") });
+    QVERIFY(lists.size() >= 3);
+    for (const QString &list : lists) {
+        for (const QStringList &row : rows(kDebian + list)) {
+            const QFileInfo file(kTop + QLatin1Char('/') + row.first());
+            QVERIFY2(!QDir(file.path()).entryList({ file.fileName() }, QDir::Files).isEmpty(), qPrintable(row.first()));
+            ++seen;
+        }
+    }
+    QVERIFY2(seen >= 8, qPrintable(QString::number(seen)));
+    // Links to files of the package lead to programs that are installed.
+    for (const QStringList &row : rows(kDebian + QStringLiteral("quvera.links"))) {
+        QCOMPARE(row.size(), 2);
+        if (row.first().startsWith(QLatin1String("usr/lib/quvera/bin/")))
+            QVERIFY2(programs(QStringLiteral("instrument")).contains(QFileInfo(row.first()).fileName()),
+                     qPrintable(row.first()));
+    }
+}
+
+void TstPackaging::componentsArePackedWhole()
+{
+    const QStringList packed = caught(text(kDebian + QStringLiteral("rules")), QStringLiteral("--component ([a-z]+)$"));
+    QSet<QString> given;
+    const QStringList all = installs();
+    for (const QString &install : all) {
+        const QStringList component = caught(install, QStringLiteral("COMPONENT ([a-z]+)$"));
+        QVERIFY2(component.size() == 1, qPrintable(install));
+        given << component.first();
+    }
+    QVERIFY(given.size() >= 3);
+    QCOMPARE(QSet<QString>(packed.cbegin(), packed.cend()), given);
+}
+
+void TstPackaging::versionsAgree()
+{
+    const QString version
+        = caught(text(QStringLiteral("CMakeLists.txt")), QStringLiteral("^project\\(quvera VERSION ([0-9.]+) "))
+              .value(0);
+    const QStringList parts = version.split(QLatin1Char('.'));
+    QCOMPARE(parts.size(), 3);
+    const int number = (parts[0].toInt() * 100 + parts[1].toInt()) * 100 + parts[2].toInt();
+    QCOMPARE(caught(text(kDebian + QStringLiteral("changelog")), QStringLiteral("\\A[a-z]+ \\(([0-9.]+)\\)")),
+             QStringList { version });
+    QCOMPARE(caught(text(kDebian + QStringLiteral("quvera.postinst")), QStringLiteral("^version=([0-9]+)$")),
+             QStringList { QString::number(number) });
+    QVERIFY(text(QStringLiteral("docs/board.md"))
+                .contains(QStringLiteral("quvera_%1_armhf.deb update.key %2 ").arg(version).arg(number)));
+}
+
+void TstPackaging::librariesAreListedEverywhere()
+{
+    const QStringList here = packages(QStringLiteral("packaging/debian-packages.txt"));
+    const QStringList sysroot
+        = caught(text(QStringLiteral("packaging/armhf/debian-packages.txt")), QStringLiteral("^#sysroot: ([^\n]*)"))
+              .join(QLatin1Char(' '))
+              .split(QLatin1Char(' '));
+    QStringList needed
+        = caught(text(kDebian + QStringLiteral("control")), QStringLiteral("^Build-Depends: (.*?)\n[A-Z]"))
+              .value(0)
+              .simplified()
+              .split(QStringLiteral(", "));
+    QVERIFY(needed.removeOne(QStringLiteral("debhelper-compat (= 13)")));
+    QVERIFY(needed.size() >= 15);
+    for (const QString &name : qAsConst(needed))
+        QVERIFY2(here.contains(name), qPrintable(QStringLiteral("packaging/debian-packages.txt lacks ") + name));
+    for (const QString &name : here) {
+        if (!name.endsWith(QLatin1String("-dev")) && !name.endsWith(QLatin1String("-dev-tools")))
+            continue;
+        QVERIFY2(sysroot.contains(name), qPrintable(QStringLiteral("the sysroot lacks ") + name));
+        QVERIFY2(needed.contains(name) || name == QLatin1String("libbenchmark-dev"), qPrintable(name));
+    }
+}
+
+void TstPackaging::serviceNamesWhatTheProgramReads()
+{
+    const QString notes = text(QStringLiteral("src/platform/servicenotes.cpp"));
+    QCOMPARE(unit(QStringLiteral("Type")), QStringList { QStringLiteral("notify") });
+    QVERIFY(notes.contains(QLatin1String("READY=1")));
+    QCOMPARE(unit(QStringLiteral("WatchdogSec")).size(), 1);
+    QVERIFY(notes.contains(QLatin1String("WATCHDOG_USEC")));
+    // Its folders are those that the package makes, and the settings of screen and keys lie where the package puts
+    // them.
+    const QString made = text(kDebian + QStringLiteral("quvera.tmpfiles"));
+    const QStringList mounts = unit(QStringLiteral("RequiresMountsFor")).value(0).split(QLatin1Char(' '));
+    QVERIFY(mounts.size() >= 4);
+    for (const QString &folder : mounts)
+        QVERIFY2(made.contains(QStringLiteral("\nd %1 0755 quvera quvera -\n").arg(folder)), qPrintable(folder));
+    const QStringList settings = unit(QStringLiteral("EnvironmentFile"));
+    QCOMPARE(settings, QStringList { QStringLiteral("-/etc/quvera/board.conf") });
+    QVERIFY(text(kDebian + QStringLiteral("quvera.postinst"))
+                .contains(QStringLiteral("cp /usr/share/quvera/board.conf ") + settings.first().mid(1)));
+}
+
+void TstPackaging::serviceStartsWhatUpdatesInstall()
+{
+    const QString folder = caught(text(QStringLiteral("packaging/update/board.h")),
+                                  QStringLiteral("kSoftwareFolder\\[\\] = \"([^\"]+)\""))
+                               .value(0);
+    QVERIFY(folder.startsWith(QLatin1Char('/')));
+    QCOMPARE(unit(QStringLiteral("ExecStart")), QStringList { folder + QStringLiteral("/current/bin/quvera") });
+    QVERIFY(unit(QStringLiteral("ReadWritePaths")).value(0).split(QLatin1Char(' ')).contains(folder));
+    const QString postinst = text(kDebian + QStringLiteral("quvera.postinst"));
+    QVERIFY(postinst.contains(QStringLiteral("\nsoftware=%1\n").arg(folder)));
+    QVERIFY(postinst.contains(QStringLiteral("\ncd %1\n").arg(folder)));
+    QVERIFY(postinst.contains(QLatin1String("mv -fT .current current")));
+}
+
+void TstPackaging::rulesNameTheFilesOfTheBoard()
+{
+    QString code;
+    for (const char *folder : { "src/board", "src/device", "src/platform/target.cpp" }) {
+        const QString path = QLatin1String(folder);
+        const QStringList files
+            = path.endsWith(QLatin1String(".cpp")) ? QStringList { path } : SourceText::sources(path);
+        for (const QString &file : files)
+            code += SourceText::code(file);
+    }
+    const QString rules = text(kUdev);
+    // The processor's node.
+    const QStringList nodes = caught(code, QStringLiteral("path\\(QStringLiteral\\(\"/dev/([^\"]+)\""));
+    QCOMPARE(nodes.size(), 1);
+    QVERIFY2(rules.contains(QStringLiteral("KERNEL==\"%1\", GROUP=").arg(nodes.first())), qPrintable(nodes.first()));
+    QVERIFY(text(kUnit).contains(QStringLiteral("\nDeviceAllow=/dev/%1 rw\n").arg(nodes.first())));
+    // The kernel's files of lines and light: a rule has their subsystem and their name.
+    int files = 0;
+    for (const QString &file : caught(code, QStringLiteral("\"/sys/class/([a-z]+/[^\"]+/?[a-z]+)\""))) {
+        const QString subsystem = file.section(QLatin1Char('/'), 0, 0), name = file.section(QLatin1Char('/'), -1);
+        if (subsystem == QLatin1String("net") || name == subsystem) // read only; a part of a path
+            continue;
+        const QStringList lines = rules.split(QLatin1Char('\n'))
+                                      .filter(QStringLiteral("SUBSYSTEM==\"%1\"").arg(subsystem))
+                                      .filter(QRegularExpression(QStringLiteral("/%1\\b").arg(name)));
+        QVERIFY2(!lines.isEmpty(), qPrintable(file));
+        ++files;
+    }
+    QVERIFY2(files >= 4, qPrintable(QString::number(files)));
+}
+
+void TstPackaging::userIsTheSameEverywhere()
+{
+    const QString user = unit(QStringLiteral("User")).value(0);
+    QVERIFY(!user.isEmpty());
+    QVERIFY(text(kDebian + QStringLiteral("quvera.sysusers")).contains(QStringLiteral("\nu %1 - ").arg(user)));
+    QVERIFY(text(QStringLiteral("packaging/board/50-quvera.rules"))
+                .contains(QStringLiteral("subject.user === \"%1\"").arg(user)));
+    QVERIFY(text(kDebian + QStringLiteral("quvera.postinst")).contains(QStringLiteral("runuser -u %1 --").arg(user)));
+    const QStringList groups = caught(text(kUdev), QStringLiteral("(?:GROUP=\"|chgrp (?:-R )?)([a-z]+)"));
+    QVERIFY(groups.size() >= 4);
+    QCOMPARE(QSet<QString>(groups.cbegin(), groups.cend()), QSet<QString> { user });
+    const QString page = text(QStringLiteral("docs/board.md"));
+    QVERIFY(page.contains(QStringLiteral("as the user `%1`").arg(user)));
+    // Its rights are those that the page lists, and the commands that it calls get no others.
+    const QStringList rights = unit(QStringLiteral("AmbientCapabilities")).value(0).split(QLatin1Char(' '));
+    QCOMPARE(rights.size(), 4);
+    for (const QString &right : rights)
+        QVERIFY2(page.contains(QLatin1Char('`') + right + QLatin1Char('`')), qPrintable(right));
+    QCOMPARE(unit(QStringLiteral("CapabilityBoundingSet")), unit(QStringLiteral("AmbientCapabilities")));
+}
+
+void TstPackaging::scriptsThatTheProgramCallsAreOnItsPath()
+{
+    QSet<QString> called;
+    const QStringList sources = SourceText::sources(QStringLiteral("src"));
+    for (const QString &source : sources) {
+        for (const QString &name : caught(SourceText::code(source), QStringLiteral("[\" ;]([a-z0-9_]+\\.sh)[\" ;]")))
+            called << name;
+    }
+    QSet<QString> installed;
+    QString folder;
+    for (const QStringList &row : rows(kDebian + QStringLiteral("quvera.install"))) {
+        if (!row.first().endsWith(QLatin1String(".sh")))
+            continue;
+        installed << QFileInfo(row.first()).fileName();
+        folder = QLatin1Char('/') + row.at(1);
+        QVERIFY2(QFileInfo(kTop + QLatin1Char('/') + row.first()).isExecutable(), qPrintable(row.first()));
+    }
+    QVERIFY(called.size() >= 2);
+    QCOMPARE(installed, called);
+    QVERIFY(text(kUnit).contains(QStringLiteral("\nEnvironment=PATH=%1:").arg(folder)));
+}
+
+void TstPackaging::boardSettingsAreKnown()
+{
+    // Settings of screen and keys are the toolkit's: its frame buffer knows their names and options.
+    const QString frameBuffer
+        = QLibraryInfo::location(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms/libqlinuxfb.so");
+    QFile plugin(frameBuffer);
+    QVERIFY2(plugin.open(QIODevice::ReadOnly), qPrintable(frameBuffer));
+    const QByteArray known = plugin.readAll();
+    QSet<QString> set;
+    for (const QStringList &row : rows(QStringLiteral("packaging/board/board.conf"))) {
+        QCOMPARE(row.size(), 1);
+        const QString name = row.first().section(QLatin1Char('='), 0, 0);
+        const QString value = row.first().section(QLatin1Char('='), 1);
+        QVERIFY2(!set.contains(name), qPrintable(name));
+        set << name;
+        if (name == QLatin1String("QT_QPA_PLATFORM")) {
+            QCOMPARE(value.section(QLatin1Char(':'), 0, 0), QString("linuxfb"));
+            for (const QString &option : value.split(QLatin1Char(':')).mid(1))
+                QVERIFY2(known.contains(option.section(QLatin1Char('='), 0, 0).toLatin1()), qPrintable(option));
+        } else {
+            QVERIFY2(known.contains(name.toLatin1()), qPrintable(name));
+        }
+    }
+    QVERIFY(set.contains(QStringLiteral("QT_QPA_PLATFORM")));
+    QVERIFY(set.size() >= 3);
+}
+
+QTEST_GUILESS_MAIN(TstPackaging)
+#include "tst_packaging.moc"
