@@ -49,6 +49,14 @@ Page endingMeasurement(Page page)
     return page;
 }
 
+/// Flicker after two hours, when its last value has come.
+Page flickerOfASite()
+{
+    Page page = fromMenu("site-flicker", "flicker", { "Wait7260: table", "F4: trend" }, "", false, false);
+    page.onRequest = true;
+    return page;
+}
+
 /// Two hours of a monitor, as docs/user-guide.md does it.
 Page monitorOfASite()
 {
@@ -71,6 +79,7 @@ QVector<Page> setUpOfASite()
                                 "", true, false)),
         fromMenu("site-values", "vif", { "measuring" }, "", true, false),
         endingMeasurement(monitorOfASite()),
+        endingMeasurement(flickerOfASite()),
     };
 }
 
