@@ -49,10 +49,10 @@ Page endingMeasurement(Page page)
     return page;
 }
 
-/// Flicker after two hours, when its last value has come.
+/// Flicker when twelve times ten minutes of the clock are over.
 Page flickerOfASite()
 {
-    Page page = fromMenu("site-flicker", "flicker", { "Wait7260: table", "F4: trend" }, "", false, false);
+    Page page = fromMenu("site-flicker", "flicker", { "Wait7920: table", "F4: trend" }, "", false, false);
     page.onRequest = true;
     return page;
 }
