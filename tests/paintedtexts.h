@@ -1,87 +1,8 @@
 #pragma once
 
-#include <QFontMetricsF>
-#include <QPaintDevice>
-#include <QPaintEngine>
-#include <QPainter>
-#include <QVector>
+#include "widgets/text/textrecorder.h"
+
 #include <QWidget>
-
-/// A text as a widget painted it: labels, buttons, keys and charts alike.
-struct PaintedText
-{
-    QString text;
-    QRectF ink; // what the signs cover, on the page
-    QRectF room; // of the widget that painted it, on the page
-};
-
-/// Takes down the texts that are painted on it, and nothing else.
-class TextRecorder : public QPaintDevice
-{
-public:
-    explicit TextRecorder(QSize size) : m_size(size) { }
-    QPaintEngine *paintEngine() const override { return &m_engine; }
-    const QVector<PaintedText> &texts() const { return m_engine.texts; }
-
-protected:
-    int metric(PaintDeviceMetric metric) const override
-    {
-        switch (metric) {
-        case PdmWidth:
-            return m_size.width();
-        case PdmHeight:
-            return m_size.height();
-        case PdmDepth:
-            return 32;
-        case PdmDpiX:
-        case PdmDpiY:
-        case PdmPhysicalDpiX:
-        case PdmPhysicalDpiY:
-            return 96;
-        case PdmDevicePixelRatio:
-            return 1;
-        case PdmDevicePixelRatioScaled:
-            return int(devicePixelRatioFScale());
-        default:
-            return QPaintDevice::metric(metric);
-        }
-    }
-
-private:
-    class Engine : public QPaintEngine
-    {
-    public:
-        Engine() : QPaintEngine(AllFeatures) { }
-        bool begin(QPaintDevice *) override { return true; }
-        bool end() override { return true; }
-        Type type() const override { return User; }
-        void updateState(const QPaintEngineState &state) override
-        {
-            if (state.state() & DirtyTransform)
-                m_transform = state.transform();
-        }
-        void drawPixmap(const QRectF &, const QPixmap &, const QRectF &) override { }
-        void drawPath(const QPainterPath &) override { }
-        void drawPolygon(const QPointF *, int, PolygonDrawMode) override { }
-        void drawTextItem(const QPointF &place, const QTextItem &item) override
-        {
-            // Across, as it was laid out; upright, what the signs cover: lines stand closer than their fonts are high.
-            QRectF ink = QFontMetricsF(item.font()).tightBoundingRect(item.text());
-            ink.setLeft(0);
-            ink.setWidth(item.width());
-            if (!ink.isEmpty())
-                texts.append({ item.text(), m_transform.mapRect(ink.translated(place)), {} });
-        }
-
-        QVector<PaintedText> texts;
-
-    private:
-        QTransform m_transform;
-    };
-
-    const QSize m_size;
-    mutable Engine m_engine;
-};
 
 /// Whether what \a widget paints at a point of \a top is hidden by something opaque that lies over it.
 inline bool isCovered(const QWidget &widget, const QWidget &top, QPoint at)
@@ -101,14 +22,12 @@ inline QVector<PaintedText> paintedTexts(QWidget &top)
     QList<QWidget *> widgets = top.findChildren<QWidget *>();
     widgets.prepend(&top);
     for (QWidget *widget : widgets) {
-        if ((widget != &top && !widget->isVisibleTo(&top)) || widget->size().isEmpty())
+        if (widget != &top && !widget->isVisibleTo(&top))
             continue;
-        TextRecorder recorder(widget->size());
-        widget->render(&recorder, QPoint(), QRegion(), QWidget::RenderFlags());
         const QPoint place = widget->mapTo(&top, QPoint());
-        for (PaintedText text : recorder.texts()) {
+        for (PaintedText text : textsPaintedBy(widget)) {
             text.ink.translate(place);
-            text.room = QRectF(place, widget->size());
+            text.room.translate(place);
             if (!isCovered(*widget, top, text.ink.center().toPoint()))
                 found.append(text);
         }

@@ -1,5 +1,7 @@
 #include "services/screennotes.h"
 
+#include "widgets/text/textrecorder.h"
+
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QLabel>
@@ -33,23 +35,36 @@ void addCells(const QAbstractItemView *view, const QWidget *window, QVector<Text
     }
 }
 
-void addTexts(const QWidget *widget, const QWidget *window, QVector<Text> *texts)
+/// For charts, and tables that paint what they say.
+void addPainted(QWidget *widget, const QWidget *window, QVector<Text> *texts)
+{
+    const auto painted = textsPaintedBy(widget);
+    for (const PaintedText &part : painted) {
+        const QString text = part.text.simplified();
+        if (!text.isEmpty())
+            texts->append({ widget->mapTo(window, part.ink.center().toPoint()), text });
+    }
+}
+
+void addTexts(QWidget *widget, const QWidget *window, QVector<Text> *texts)
 {
     if (!widget->isVisible())
         return;
     const QString text = widget->property("text").toString().simplified();
     if (!text.isEmpty())
         texts->append({ widget->mapTo(window, widget->rect().center()), text });
-    if (const auto *view = qobject_cast<const QAbstractItemView *>(widget))
+    else if (const auto *view = qobject_cast<const QAbstractItemView *>(widget))
         addCells(view, window, texts);
-    for (const QObject *child : widget->children()) {
+    else if (!qobject_cast<const QLabel *>(widget) && !qobject_cast<const QAbstractItemView *>(widget->parent()))
+        addPainted(widget, window, texts);
+    for (QObject *child : widget->children()) {
         if (child->isWidgetType())
-            addTexts(static_cast<const QWidget *>(child), window, texts);
+            addTexts(static_cast<QWidget *>(child), window, texts);
     }
 }
 
 /// Row by row as a person reads them.
-QString rowsOf(const QWidget *part, const QWidget *window)
+QString rowsOf(QWidget *part, const QWidget *window)
 {
     QVector<Text> texts;
     addTexts(part, window, &texts);
@@ -84,7 +99,7 @@ QString softKeysOf(const QWidget *part)
     return keys.join(QLatin1Char('\n'));
 }
 
-void addNotes(const QWidget *part, const QWidget *window, QMap<QString, QString> *notes)
+void addNotes(QWidget *part, const QWidget *window, QMap<QString, QString> *notes)
 {
     notes->insert(QStringLiteral("Texts"), rowsOf(part, window));
     notes->insert(QStringLiteral("Keys"), softKeysOf(part));
@@ -97,7 +112,7 @@ QMap<QString, QString> ScreenNotes::take()
     QMap<QString, QString> notes;
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (const QWidget *window : windows) {
-        const auto *pages = window->findChild<QStackedWidget *>(QStringLiteral("base_stackedWidget"));
+        auto *pages = window->findChild<QStackedWidget *>(QStringLiteral("base_stackedWidget"));
         if (!window->isVisible() || !pages || !pages->currentWidget())
             continue;
         notes.insert(QStringLiteral("Page"), QString::fromLatin1(pages->currentWidget()->metaObject()->className()));
@@ -105,7 +120,7 @@ QMap<QString, QString> ScreenNotes::take()
             notes.insert(QStringLiteral("Title"), title->text().simplified());
         addNotes(pages, window, &notes);
     }
-    if (const QWidget *dialog = QApplication::activeModalWidget()) {
+    if (QWidget *dialog = QApplication::activeModalWidget()) {
         addNotes(dialog, dialog, &notes);
         QString texts = notes.value(QStringLiteral("Texts"));
         notes.insert(QStringLiteral("Dialog"), texts.replace(QLatin1Char('\n'), QLatin1Char(' ')));

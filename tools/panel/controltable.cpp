@@ -15,14 +15,15 @@ Field number(const char *name, const char *label, double least, double most, dou
     return { name, label, least, most, step, value, unit, nullptr };
 }
 
-Field choice(const char *name, const char *label, const char *choices)
+/// @param unit how a choice is shown, % standing for it; empty: as it is.
+Field choice(const char *name, const char *label, const char *choices, const char *unit = "")
 {
-    return { name, label, 0, 0, 0, 0, "", choices };
+    return { name, label, 0, 0, 0, 0, unit, choices };
 }
 
 Field where()
 {
-    return choice("on", "On", "all l1 l2 l3 l1+l2 l2+l3 l1+l3");
+    return choice("on", "On", "all l1 l2 l3 l1+l2 l2+l3 l1+l3", "%");
 }
 
 Field length(double value)
@@ -39,7 +40,7 @@ const std::vector<Control> kTable = {
       "Voltage",
       true,
       "set u%phase %volts",
-      { choice("phase", "Phase", "all 1 2 3"), number("volts", "Voltage", 0, 300, 0.5, 230, "V") } },
+      { choice("phase", "Phase", "all 1 2 3", "L%"), number("volts", "Voltage", 0, 300, 0.5, 230, "V") } },
     { "frequency",
       "Supply",
       "Frequency",
@@ -51,7 +52,7 @@ const std::vector<Control> kTable = {
       "Load",
       true,
       "set i%phase %amps",
-      { choice("phase", "Phase", "all 1 2 3"), number("amps", "Load", 0, 20, 0.1, 3, "A") } },
+      { choice("phase", "Phase", "all 1 2 3", "L%"), number("amps", "Load", 0, 20, 0.1, 3, "A") } },
     { "factor",
       "Supply",
       "Power factor",
@@ -60,22 +61,24 @@ const std::vector<Control> kTable = {
       { number("factor", "Power factor", -1, 1, 0.01, 0.9) } },
     { "harmonic",
       "Supply",
-      "Harmonic of the voltage",
+      "Voltage harmonic",
       true,
       "set harmonic u %order %percent",
-      { choice("order", "Order", "3 5 7 9 11 13 17 19 23 25 49"), number("percent", "Share", 0, 30, 0.1, 0, "%") } },
+      { choice("order", "Order", "3 5 7 9 11 13 17 19 23 25 49", "H%"),
+        number("percent", "Share", 0, 30, 0.1, 0, "%") } },
     { "harmonicAmps",
       "Supply",
-      "Harmonic of the current",
+      "Current harmonic",
       true,
       "set harmonic i %order %percent",
-      { choice("order", "Order", "3 5 7 9 11 13 17 19 23 25 49"), number("percent", "Share", 0, 100, 1, 0, "%") } },
+      { choice("order", "Order", "3 5 7 9 11 13 17 19 23 25 49", "H%"),
+        number("percent", "Share", 0, 100, 1, 0, "%") } },
     { "flicker",
       "Supply",
       "Flicker",
       true,
       "set flicker u %changes %percent",
-      { choice("changes", "Changes a minute", "1 7 39 110 1056 1620"),
+      { choice("changes", "Changes a minute", "1 7 39 110 1056 1620", "% / min"),
         number("percent", "Depth", 0, 20, 0.1, 0, "%") } },
     { "dip",
       "Events",
@@ -114,12 +117,17 @@ const std::vector<Control> kTable = {
       "Plug in the USB disk",
       false,
       "usb insert STICK %size",
-      { choice("size", "Size", "16M 64k 1G") } },
+      { choice("size", "Size", "16M 64k 1G", "%B") } },
     { "usbOut", "Board", "Pull the USB disk", false, "usb pull STICK", {} },
     { "battery", "Board", "Battery", true, "battery %volts", { number("volts", "Battery", 5.5, 8.4, 0.1, 8.1, "V") } },
     { "charger", "Board", "Charger", true, "charger %state", { choice("state", "Charger", "off on full") } },
     { "cable", "Board", "Network cable", true, "net %state", { choice("state", "Network cable", "up down") } },
-    { "speed", "Time", "Speed", true, "speed %factor", { choice("factor", "Speed of the supply", "1 2 5 10 20 50") } },
+    { "speed",
+      "Time",
+      "Speed",
+      true,
+      "speed %factor",
+      { choice("factor", "Speed of the supply", "1 2 5 10 20 50", "% ×") } },
     { "fault",
       "Link faults",
       "Spoil packages",
@@ -150,6 +158,7 @@ QJsonObject asJson(const Field &field, const QStringList &scenarios)
 {
     QJsonObject json { { QStringLiteral("name"), QLatin1String(field.name) },
                        { QStringLiteral("label"), QLatin1String(field.label) } };
+    json.insert(QStringLiteral("unit"), QString::fromUtf8(field.unit));
     if (field.choices) {
         json.insert(QStringLiteral("choices"), QJsonArray::fromStringList(choicesOf(field, scenarios)));
         return json;
@@ -158,7 +167,6 @@ QJsonObject asJson(const Field &field, const QStringList &scenarios)
     json.insert(QStringLiteral("most"), field.most);
     json.insert(QStringLiteral("step"), field.step);
     json.insert(QStringLiteral("value"), field.value);
-    json.insert(QStringLiteral("unit"), QLatin1String(field.unit));
     return json;
 }
 

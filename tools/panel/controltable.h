@@ -15,7 +15,7 @@ struct Field
     const char *label;
     double least, most, step; // of a number
     double value; // at first
-    const char *unit;
+    const char *unit; // of choices: how one is shown, % standing for it
     const char *choices; // words with blanks between them; null: a number
 };
 

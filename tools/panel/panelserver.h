@@ -39,13 +39,14 @@ public:
     void admit(const std::string &token, const std::vector<std::string> &names);
     /// Serves until stop().
     void serve();
+    /// Serves the one request of a connection, and closes it. Any thread.
+    bool process_and_close_socket(socket_t socket) override;
     void stop();
 
 private:
     using Request = httplib::Request;
     using Response = httplib::Response;
 
-    bool process_and_close_socket(socket_t socket) override;
     HandlerResponse admitOrRefuse(const Request &request, Response &response);
     bool sendPage(const std::string &path, Response &response) const;
     bool get(const Request &request, Response &response);

@@ -8,6 +8,7 @@
 #include <QImageReader>
 #include <QLabel>
 #include <QListWidget>
+#include <QPainter>
 #include <QStackedWidget>
 #include <QTest>
 
@@ -26,6 +27,7 @@ private slots:
     void rowsAreNoNarrowerThanTheirLetters();
     void hiddenTextsAreNotNoted();
     void rowsOfAListAreNoted();
+    void paintedTextsAreNoted();
     void captionsOfTheSoftKeysNameTheirKeys();
     void openDialogIsInFront();
     void longTextsAreCut();
@@ -115,6 +117,35 @@ void TstScreenNotes::rowsOfAListAreNoted()
     QVERIFY(note("Texts").startsWith(QStringLiteral("two lines\n")));
     list->scrollToBottom();
     QVERIFY(note("Texts").endsWith(QStringLiteral("\nfile 1999")));
+}
+
+// As charts and the table of events are.
+class PaintedTable : public QWidget
+{
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.drawText(QRect(150, 40, 100, 20), Qt::AlignCenter, QStringLiteral("55.0"));
+        painter.drawText(QRect(0, 40, 100, 20), Qt::AlignCenter, QStringLiteral("L2 DIP"));
+        painter.drawText(QRect(0, 0, 100, 20), Qt::AlignCenter, QStringLiteral("TYPE"));
+        painter.drawText(QRect(150, 0, 100, 20), Qt::AlignCenter, QStringLiteral("LEVEL"));
+    }
+};
+
+void TstScreenNotes::paintedTextsAreNoted()
+{
+    auto *table = new PaintedTable(m_page);
+    table->setGeometry(100, 100, 300, 100);
+    table->show();
+    addLabel(QStringLiteral("EVENTS : 1/1"), 10, 60);
+    addLabel(QString(), 10, 80);
+    QCOMPARE(note("Texts"), QStringLiteral("EVENTS : 1/1\nTYPE LEVEL\nL2 DIP 55.0"));
+    table->hide();
+    QCOMPARE(note("Texts"), QStringLiteral("EVENTS : 1/1"));
 }
 
 void TstScreenNotes::captionsOfTheSoftKeysNameTheirKeys()

@@ -3,13 +3,13 @@
 
 const shown = [
   ['scenario', 'Scenario', (s) => s.scenario],
-  ['f', 'Frequency', (s) => s.f && `${Number(s.f).toFixed(3)} Hz`],
+  ['f', 'Frequency', (s) => s.f && `${Math.abs(s.f).toFixed(3)} Hz`], // negative before it was measured
   ['volts', 'Voltages', (s) => s.volts && `${s.volts.split(',').slice(0, 3).map((v) => Number(v).toFixed(1)).join(' / ')} V`],
   ['amps', 'Currents', (s) => s.amps && `${s.amps.split(',').slice(0, 3).map((v) => Number(v).toFixed(2)).join(' / ')} A`],
+  ['speed', 'Speed', (s) => s.speed && `${s.speed} ×`],
   ['usb', 'USB disk', (s) => s.usb || 'none'],
-  ['light', 'Light', (s) => s.light],
-  ['faults', 'Faults', (s) => s.faults],
-  ['speed', 'Speed', (s) => s.speed],
+  ['faults', 'Link faults', (s) => (s.faults === '0' ? 'none' : s.faults)],
+  ['light', 'Light', (s) => s.light && `${s.light} of 7`],
 ];
 
 function phaseOf(values, phase) {
@@ -29,6 +29,7 @@ const standing = {
 };
 
 let built = false;
+let standingNow = {}; // the last report
 const panels = []; // of the controls that follow how things stand
 
 function element(tag, properties, ...children) {
@@ -43,25 +44,33 @@ function answer(text, failed) {
   said.classList.toggle('failed', Boolean(failed));
 }
 
-function makeField(control, field) {
-  if (field.choices) {
-    const select = element('select', { name: field.name });
-    select.append(...field.choices.map((word) => element('option', { textContent: word })));
-    const alone = control.fields.length === 1;
-    const name = element('span', { textContent: field.label, className: alone ? 'unseen' : '' });
-    return { input: select, label: element('label', {}, name, select) };
-  }
+// The words of a command, as a person reads them.
+function wordFor(choice, unit) {
+  if (choice === 'all') return 'all phases';
+  return unit ? unit.replace('%', choice.toUpperCase()) : choice;
+}
+
+function makeChoice(field) {
+  const select = element('select', { name: field.name });
+  select.append(...field.choices.map((choice) => element('option', { value: choice, textContent: wordFor(choice, field.unit) })));
+  const name = element('span', { textContent: field.label, className: 'unseen' });
+  return { input: select, label: element('label', {}, name, select) };
+}
+
+function makeSlider(field, alone) {
   const input = element('input', {
     type: 'range', name: field.name, min: field.least, max: field.most, step: field.step, value: field.value,
   });
+  const digits = (String(field.step).split('.')[1] || '').length;
   const output = element('output', {});
-  input.show = () => { output.textContent = `${input.value} ${field.unit}`; input.setAttribute('aria-valuetext', output.textContent); };
+  input.show = () => {
+    output.textContent = `${Number(input.value).toFixed(digits)} ${field.unit}`.trim();
+    input.setAttribute('aria-valuetext', output.textContent);
+  };
   input.addEventListener('input', input.show);
   input.show();
-  const alone = control.fields.length === 1; // then the control's own name stands before it
   const name = element('span', { textContent: field.label, className: alone ? 'unseen' : '' });
-  const label = element('label', { className: 'wide' }, name, input, output);
-  return { input, label };
+  return { input, label: element('label', { className: alone ? 'range alone' : 'range' }, name, input, output) };
 }
 
 // One request at a time for each control; of what moved meanwhile the last value follows.
@@ -85,29 +94,34 @@ function sender(control, inputs) {
   };
 }
 
+// On the left what is done and to which phases, on the right how much of it.
 function makeControl(control) {
-  const fields = control.fields.map((field) => makeField(control, field));
+  const sliders = control.fields.filter((field) => !field.choices);
+  const fields = control.fields.map((field) => (field.choices ? makeChoice(field) : makeSlider(field, control.live)));
   const inputs = fields.map((field) => field.input);
   const send = sender(control, inputs);
-  const row = element('div', { className: 'control' });
-  row.dataset.control = control.id;
+  const panel = { id: control.id, inputs: Object.fromEntries(inputs.map((input) => [input.name, input])) };
+  const what = element('div', { className: 'what' });
+  const values = element('div', { className: 'values' });
+  panel.row = element('div', { className: 'control' }, what, values);
+  panel.row.dataset.control = control.id;
+  panel.row.setAttribute('role', 'group');
+  panel.row.setAttribute('aria-label', control.label);
   if (control.live) {
-    row.setAttribute('role', 'group');
-    row.setAttribute('aria-label', control.label);
-    row.append(element('span', { className: 'name', textContent: control.label }));
+    what.append(element('span', { className: 'name', textContent: control.label }));
     for (const input of inputs) {
-      const alone = inputs.length === 1;
-      // With a slider beside it a choice says what the slider is for; the slider sends.
-      if (input.type === 'range' || alone) input.addEventListener(input.type === 'range' ? 'input' : 'change', send);
+      if (input.type === 'range') input.addEventListener('input', send);
+      else if (sliders.length === 0) input.addEventListener('change', send);
+      else input.addEventListener('change', () => followOne(panel)); // says what the slider is for; the slider sends
     }
   } else {
     const button = element('button', { type: 'button', textContent: control.label });
     button.addEventListener('click', send);
-    row.append(button);
+    what.append(button);
   }
-  panels.push({ id: control.id, row, inputs: Object.fromEntries(inputs.map((input) => [input.name, input])) });
-  row.append(element('div', { className: 'fields' }, ...fields.map((field) => field.label)));
-  return row;
+  for (const { input, label } of fields) (input.type === 'range' || sliders.length === 0 ? values : what).append(label);
+  panels.push(panel);
+  return panel.row;
 }
 
 async function buildControls() {
@@ -121,22 +135,20 @@ async function buildControls() {
     groups.get(control.group).append(makeControl(control));
   }
   document.getElementById('controls').replaceChildren(...groups.values());
+  panels.forEach(followOne); // the report that came meanwhile may be the last for long: the same is not sent again
 }
 
-// A control that somebody is at stays as it is.
-function follow(state) {
-  for (const { id, row, inputs } of panels) {
-    if (row.contains(document.activeElement)) continue;
-    for (const [name, valueOf] of Object.entries(standing[id] || {})) {
-      const value = valueOf(state, inputs);
-      if (value === undefined || value === '') continue;
-      inputs[name].value = value;
-      if (inputs[name].show) inputs[name].show();
-    }
+function followOne({ id, inputs }) {
+  for (const [name, valueOf] of Object.entries(standing[id] || {})) {
+    const value = valueOf(standingNow, inputs);
+    if (value === undefined || value === '') continue;
+    inputs[name].value = value;
+    if (inputs[name].show) inputs[name].show();
   }
 }
 
 function showSupply(state) {
+  standingNow = state;
   document.getElementById('supply').hidden = false;
   if (!built) buildControls().catch(() => { built = false; });
   document.getElementById('standing').replaceChildren(...shown.map(([, name, text]) => element('div', {},
@@ -144,5 +156,6 @@ function showSupply(state) {
   document.getElementById('standing').dataset.there = state.there;
   if (!state.there) answer('The processor stand-in does not answer', true);
   document.getElementById('screen').dataset.light = state.light; // pictures are as bright as ever
-  follow(state);
+  // A control that somebody is at stays as it is.
+  for (const panel of panels) if (!panel.row.contains(document.activeElement)) followOne(panel);
 }

@@ -12,11 +12,13 @@ const mostWaiting = 16;
 let waiting = 0;
 let lastKey = Promise.resolve();
 let notes = {};
+let lasting = byId('state').textContent;
+let complaint = 0;
 
 async function post(path, wish) {
   const answer = await fetch(path, {
     method: 'POST', headers: { 'Content-Type': 'application/json' }, body: JSON.stringify(wish),
-  });
+  }).catch(() => { throw new Error('The panel does not answer'); });
   if (!answer.ok) throw new Error((await answer.text()).trim() || answer.statusText);
 }
 
@@ -24,11 +26,18 @@ async function post(path, wish) {
 function pressKey(key) {
   if (waiting >= mostWaiting) return;
   waiting += 1;
-  lastKey = lastKey.then(() => post('key', { key })).catch((error) => say(error.message)).finally(() => { waiting -= 1; });
+  lastKey = lastKey.then(() => post('key', { key })).catch((error) => complain(error.message)).finally(() => { waiting -= 1; });
 }
 
-function say(text) {
-  if (byId('state').textContent !== text) byId('state').textContent = text;
+function setText(element, text) {
+  if (element.textContent !== text) element.textContent = text;
+}
+
+// For a moment, in the place of what holds all the time.
+function complain(text) {
+  clearTimeout(complaint);
+  setText(byId('state'), text);
+  complaint = setTimeout(() => setText(byId('state'), lasting), 4000);
 }
 
 function buttonOf(key) {
@@ -62,7 +71,7 @@ for (const button of document.querySelectorAll('#front [data-key]')) {
   // The keyboard stays with the screen: Enter is the instrument's, not once more the key that was clicked.
   button.addEventListener('mousedown', (event) => {
     event.preventDefault();
-    byId('screen').focus({ preventScroll: true });
+    byId('glass').focus({ preventScroll: true });
   });
   button.addEventListener('contextmenu', (event) => event.preventDefault());
   // A click without a pointer before it: a keyboard or an assistive program.
@@ -91,8 +100,11 @@ document.addEventListener('keyup', (event) => {
 });
 window.addEventListener('blur', () => document.querySelectorAll('#front .pressed').forEach(release));
 
+// Lines that stay the same stay the same for programs that read aloud, too.
 function list(parent, texts) {
-  parent.replaceChildren(...texts.map((text) => Object.assign(document.createElement('li'), { textContent: text })));
+  while (parent.children.length > texts.length) parent.lastChild.remove();
+  while (parent.children.length < texts.length) parent.append(document.createElement('li'));
+  texts.forEach((text, index) => setText(parent.children[index], text));
 }
 
 // What the screen says about its soft keys is said by the keys, too.
@@ -110,7 +122,8 @@ function showScreen(screen) {
   image.src = `data:image/png;base64,${screen.png}`;
   image.dataset.count = Number(image.dataset.count) + 1;
   image.alt = `Screen of the instrument${spoken ? `: ${spoken}` : ''}`;
-  if (byId('spoken').textContent !== spoken) byId('spoken').textContent = spoken;
+  setText(byId('spoken'), spoken);
+  byId('save').hidden = false;
   byId('reading').hidden = !screen.Texts;
   if (screen.Texts && byId('reading').open) list(byId('texts'), screen.Texts.split('\n'));
   labelKeys(screen.Keys || '');
@@ -120,9 +133,14 @@ function showScreen(screen) {
 byId('reading').addEventListener('toggle', () => list(byId('texts'), (notes.Texts || '').split('\n')));
 
 function showInstrument(there, why) {
+  const [title, hint] = byId('gone').children;
   byId('gone').hidden = there;
   document.body.classList.toggle('gone', !there);
-  say(there ? 'The instrument answers' : why);
+  clearTimeout(complaint);
+  lasting = there ? 'The instrument answers' : why;
+  setText(byId('state'), lasting);
+  setText(title, why);
+  setText(hint, `${notes.png ? 'This is the last picture that came. ' : ''}The panel goes on asking.`);
 }
 
 function listen() {
