@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 """Runs the instrument that was built for the board beside the one that was built for this machine, each with its own
-processor stand-in, and compares what comes out: pictures, Modbus registers, a recording. One line for each result;
+processor stand-in, and compares what comes out: pictures, Modbus registers, a recording; the board's tools are tried, too. One line for each result;
 exit status 1 when anything differs.
 
     check.py --sysroot DIR --arm DIR --desk DIR     the folders of the executables
@@ -16,6 +16,7 @@ import subprocess
 import sys
 import tempfile
 import time
+import urllib.request
 
 PATIENCE = 120.0  # s; ends what hangs, decides nothing
 CLOCK = "2024-01-18T16:15:00"
@@ -185,6 +186,40 @@ def same_reading(one, other, folder):
     print(f"same reading of a recording: {len(tables[0])} tables")
 
 
+def tools_work(arm):
+    """The tools that were built for the board do what they are for."""
+    if arm.run("quvera-remote", "--port", str(arm.remote_port), "identify").returncode != 0:
+        raise Failure("the remote control reaches no instrument")
+    port = free_ports()[1]
+    arm.begin("quvera-panel", "--instrument-port", str(arm.remote_port), "--port", str(port))
+
+    def page():
+        try:
+            with urllib.request.urlopen(f"http://127.0.0.1:{port}/", timeout=PATIENCE) as answer:
+                return b"<html" in answer.read()
+        except OSError:
+            return False
+
+    wait_for("the panel's page", page)
+    # The board's unpacker takes what its peer made, as a new version below the root.
+    office = os.path.join(arm.root, "office")
+    key, package = os.path.join(office, "key"), os.path.join(office, "Software.upd")
+    os.makedirs(os.path.join(office, "version", "bin"))
+    os.makedirs(os.path.join(arm.root, "etc/quvera"), exist_ok=True)
+    shutil.copy(os.path.join(arm.programs, "quvera-remote"), os.path.join(office, "version", "bin", "quvera"))
+    for command in (
+        ("make-update", "keys", key, os.path.join(arm.root, "etc/quvera/update.pub")),
+        ("make-update", "software", key, "1", "0", os.path.join(office, "version"), package),
+        ("update-unpack", package),
+    ):
+        result = arm.run(*command)
+        if result.returncode != 0:
+            raise Failure(f"{' '.join(command[:2])}: {result.stdout}")
+    if not os.path.exists(os.path.join(arm.root, "opt/quvera/current/bin/quvera")):
+        raise Failure("the update is not in its place")
+    print("the board's tools work: remote control, panel, updates")
+
+
 def emulated_faketime(sysroot):
     return {
         "LD_PRELOAD": "/usr/lib/arm-linux-gnueabihf/faketime/libfaketimeMT.so.1",
@@ -221,6 +256,7 @@ def main():
         common_picture(arm, desk, "Volts/Amps/Hertz")
         same_registers(arm, desk)
         same_reading(arm, desk, recording_of(arm))
+        tools_work(arm)
     except Failure as failure:
         print(f"different: {failure}", file=sys.stderr)
         for instrument in instruments:

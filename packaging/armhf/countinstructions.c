@@ -1,5 +1,5 @@
 /* Counts the instructions that a program executes under qemu-user, all threads together: the emulator's plug-in
-   interface, version 1. Told on standard error when the program ends, and on SIGUSR1-free ground by the signal's end. */
+   interface, version 1. The number goes to standard error when the program ends. */
 #include <inttypes.h>
 #include <stddef.h>
 #include <stdint.h>

@@ -1,6 +1,6 @@
 #!/bin/bash
 # Builds everything for the board and compares it, under an emulator, with what was built for this machine: pictures,
-# Modbus, a recording. Then sizes, and instructions of a start. Takes some minutes and is no part of test.sh.
+# Modbus, a recording; and tries the tools. Then sizes, and instructions of a start. No part of the repository's test.sh.
 set -eu
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 . "$top/packaging/common.sh"
@@ -15,9 +15,13 @@ configure armhf
 (cd "$top" && cmake --build --preset armhf --parallel "${QUVERA_JOBS:-$(nproc)}") >&2 || die "the build for the board failed"
 python3 "$here/check.py" --sysroot "$QUVERA_SYSROOT" --arm "$top/build/armhf/bin" --desk "$top/build/bin"
 
+programs="quvera quvera-processor quvera-remote quvera-files quvera-panel quvera-gallery make-update update-unpack"
+version=$(sed -n 's/^project(quvera VERSION \([0-9.]*\).*/\1/p' "$top/CMakeLists.txt")
 echo
+echo "Version $version, built on $(date -I) by $(arm-linux-gnueabihf-g++ --version | head -n 1)"
 echo "Sizes for the board, bytes of code and constants, of data, of zeros:"
-(cd "$top/build/armhf/bin" && size quvera quvera-processor quvera-remote quvera-files update-unpack |
+# shellcheck disable=SC2086  # a list of names
+(cd "$top/build/armhf/bin" && arm-linux-gnueabihf-size $programs |
     awk 'NR > 1 { printf "  %-18s %9d %8d %8d\n", $6, $1, $2, $3 }')
 
 scratch=$(mktemp -d "${TMPDIR:-/tmp}/quvera-armhf.XXXXXX")
@@ -29,5 +33,8 @@ for point in splash menu; do
     QUVERA_ROOT=$scratch/$point QT_QPA_PLATFORM=offscreen \
         QT_PLUGIN_PATH=$QUVERA_SYSROOT/usr/lib/arm-linux-gnueabihf/qt5/plugins \
         qemu-arm -L "$QUVERA_SYSROOT" -plugin "$scratch/count.so" "$top/build/armhf/bench/bench_start" "--$point" \
-        2>&1 >/dev/null | sed -n "s/^instructions: /  to the $point: /p"
+        >/dev/null 2>"$scratch/said" || true
+    count=$(sed -n 's/^instructions: //p' "$scratch/said")
+    [ -n "$count" ] || { cat "$scratch/said" >&2; die "the start to the $point was not counted"; }
+    echo "  to the $point: $count"
 done

@@ -27,6 +27,41 @@ say "its user serves port 502 and shows the menu ($(stat -c %s /packages/menu.pn
 capabilities=$(grep -o 'CapAmb:.*' "/proc/$process/status")
 say "capabilities of the program: $capabilities"
 
+# The tools: each program has its manual page, and they do something.
+programs=0
+for program in $(dpkg -L quvera quvera-tools | grep -E '^/usr/(lib/quvera/)?bin/[a-z-]+$'); do
+    [ ! -d "$program" ] || continue
+    name=${program##*/}
+    ls /usr/share/man/man[18]/"$name".[18].gz >/dev/null 2>&1 || fail "$name has no manual page"
+    programs=$((programs + 1))
+done
+[ "$programs" -ge 9 ] || fail "only $programs programs"
+for tool in quvera-files quvera-panel quvera-remote quvera-processor quvera-gallery; do
+    "$tool" --help >/dev/null || fail "$tool --help"
+done
+[ -e /usr/share/bash-completion/completions/quvera-files ] || fail "no completion for the shell"
+say "$programs programs, each with its manual page"
+
+quvera-panel --port 8181 >/tmp/panel.log 2>&1 &
+panel=$!
+page() # PATH: what the panel serves
+{
+    bash -c 'exec 3<>/dev/tcp/127.0.0.1/8181; printf "GET $0 HTTP/1.1\r\nHost: 127.0.0.1:8181\r\nConnection: close\r\n\r\n" >&3; cat <&3' "$1"
+}
+serves() { page / | grep -q '^HTTP/1.1 200'; }
+wait_for serves || { cat /tmp/panel.log; fail "the panel does not answer"; }
+page /guide/user-guide.html | grep -q '<html' || fail "the panel has no guide"
+page /guide/guide/tools.html | grep -q 'quvera-files' || fail "the guide lacks its pages"
+kill "$panel"
+say "the panel answers on this machine, and has the guide"
+
+runuser -u nobody -- quvera-gallery --out /tmp/gallery --pages menu --warm-up 0 >/tmp/gallery.log 2>&1 ||
+    { cat /tmp/gallery.log; fail "the gallery"; }
+[ -n "$(find /tmp/gallery -name '*.png')" ] || fail "no pictures"
+say "the gallery takes pictures of the installed instrument, with the processor stand-in"
+
+systemd-hwdb query 'evdev:name:quvera-panel:' | grep -qx 'KEYBOARD_KEY_12=b' || fail "the letters of the front panel"
+
 kill -KILL "$process"
 sleep 2
 wait_for answers || fail "it was not started anew after its end"
@@ -46,6 +81,16 @@ chown quvera: /mnt/userfs/config/user.conf /mnt/storage/recorded
 [ -e /usr/lib/fonts/arial.ttf ] && [ -e /usr/lib/fonts/WenQuanYiZenHei.ttf ] || fail "the fonts are missing"
 is_the_users /opt/quvera/current/bin/quvera || fail "updates could not replace the program"
 first=$(readlink /opt/quvera/current)
+
+cp /packages/update.pub /etc/quvera/
+runuser -u quvera -- env QUVERA_UPDATE_KIND=software update-unpack /packages/Software.upd || fail "the update is not taken"
+[ "$(readlink /opt/quvera/current)" = versions/99999 ] || fail "the update is not in its place"
+systemctl restart quvera.service
+wait_for answers || fail "it does not answer after the update"
+running=$(readlink "/proc/$(systemctl show -p MainPID --value quvera.service)/exe")
+[ "$running" = /opt/quvera/versions/99999/bin/quvera ] || fail "the service runs $running"
+say "updated by the instrument's user: $first -> versions/99999"
+first=versions/99999
 
 dpkg -i /packages/next.deb >&2
 wait_for answers || fail "it does not answer after the upgrade"

@@ -1,33 +1,54 @@
 #!/bin/bash
-# packaging/debian/test.sh [FOLDER]: builds the packages twice, from two folders, and asks whether they are the same to
-# the byte; has them looked at by lintian; then installs, runs, upgrades, removes and purges them in a fresh Debian 12
-# that boots in a container of its own. As root; needs debootstrap, systemd-container, lintian, and half an hour the first
-# time. FOLDER keeps the packages and what was seen (default: build/packages). No part of the repository's test.sh.
+# packaging/debian/test.sh [--once] [FOLDER]: builds the packages twice, from two folders, with the cache of compilations
+# and without it, and asks whether they are the same to the byte; has them looked at by lintian; makes an update of them
+# and installs it on a desk; then installs, runs, updates, upgrades, removes and purges them in a fresh Debian 12 that
+# boots in a container of its own. --once builds them once and compares nothing. As root; needs debootstrap,
+# systemd-container, lintian. FOLDER keeps the packages and what was seen (default: build/packages).
 set -eu
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 . "$top/packaging/common.sh"
 here=$top/packaging/debian
+once=
+[ "${1:-}" != --once ] || { once=yes; shift; }
 out=${1:-$top/build/packages}
 [ "$(id -u)" -eq 0 ] || die "a fresh root wants root"
 install_packages debian/debian-packages.txt
 mkdir -p "$out"
 out=$(cd "$out" && pwd)
+rm -rf "$out"/first/*.deb "$out"/*.log "$out/seen" "$out/errors" "$out/menu.png"
 
 say "1. Two builds from two folders"
 "$here/build" "$out/first" >"$out/build.log" 2>&1 || die "the build failed: $out/build.log"
-mkdir -p "$out/elsewhere/deep down"
-TMPDIR="$out/elsewhere/deep down" "$here/build" "$out/second" >"$out/build2.log" 2>&1 || die "the build failed: $out/build2.log"
-rm -rf "$out/elsewhere"
-for package in "$out"/first/*.deb; do
-    cmp "$package" "$out/second/${package##*/}" || die "${package##*/} differs from build to build"
-done
-say "   the same to the byte: $(cd "$out/first" && echo *.deb)"
+if [ -z "$once" ]; then
+    CCACHE_DISABLE=1 "$here/build" "$out/elsewhere, deep/down" >"$out/build2.log" 2>&1 ||
+        die "the build failed: $out/build2.log"
+    for package in "$out"/first/*.deb; do
+        cmp "$package" "$out/elsewhere, deep/down/${package##*/}" || die "${package##*/} differs from build to build"
+    done
+    rm -rf "$out/elsewhere, deep"
+    say "   the same to the byte: $(cd "$out/first" && echo *.deb)"
+fi
 
 say "2. Lintian"
 lintian --fail-on error --suppress-tags bad-distribution-in-changes-file "$out"/first/*.changes | tee "$out/lintian.log" >&2 ||
     die "lintian finds errors"
 
-say "3. A fresh Debian 12"
+say "3. An update out of the package"
+desk=$out/desk
+rm -rf "$desk"
+mkdir -p "$desk/packages" "$desk/root/etc/quvera" "$desk/root/opt/quvera"
+for package in "$out"/first/quvera_*.deb "$out"/first/quvera-tools_*.deb; do
+    dpkg-deb --extract "$package" "$desk/packages"
+done
+PATH=$desk/packages/usr/bin:$PATH
+make-update keys "$desk/key" "$desk/root/etc/quvera/update.pub"
+"$here/make-software-update" "$out"/first/quvera_*.deb "$desk/key" 99999 0 "$desk/Software.upd"
+QUVERA_ROOT=$desk/root QUVERA_UPDATE_KIND=software "$desk/packages/usr/lib/quvera/bin/update-unpack" "$desk/Software.upd" ||
+    die "the instrument's unpacker does not take it"
+diff -r "$desk/packages/usr/lib/quvera/bin" "$desk/root/opt/quvera/current/bin" >&2 || die "the update holds something else"
+say "   taken, and the same programs and languages: $(stat -c %s "$desk/Software.upd") bytes"
+
+say "4. A fresh Debian 12"
 root=$out/root
 rm -rf "$root"
 if [ ! -d "$out/fresh" ]; then
@@ -38,7 +59,8 @@ fi
 cp -a "$out/fresh" "$root"
 rm -f "$root/usr/sbin/policy-rc.d" # services are to start
 mkdir "$root/packages"
-cp "$out"/first/quvera_*.deb "$out"/first/quvera-tools_*.deb "$root/packages"
+cp "$out"/first/quvera_*.deb "$out"/first/quvera-tools_*.deb "$desk/Software.upd" "$desk/root/etc/quvera/update.pub" "$root/packages"
+rm -rf "$desk"
 # The next version, which differs in its number only.
 dpkg-deb -R "$out"/first/quvera_*.deb "$out/next"
 sed -i 's/^Version: .*/&+1/' "$out/next/DEBIAN/control"
