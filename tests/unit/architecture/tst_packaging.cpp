@@ -4,8 +4,12 @@
 
 #include <QFileInfo>
 #include <QLibraryInfo>
+#include <QProcess>
 #include <QSet>
+#include <QTemporaryDir>
 #include <QTest>
+
+#include <unistd.h>
 
 namespace {
 
@@ -14,6 +18,7 @@ using SourceText::read;
 
 const QString kDebian = QStringLiteral("packaging/debian/debian/");
 const QString kUnit = kDebian + QStringLiteral("quvera.service");
+const QString kRights = QStringLiteral("packaging/board/board-rights");
 const QString kUdev = kDebian + QStringLiteral("quvera.udev");
 
 /// A file of the repository; a test that finds none fails by its content.
@@ -103,7 +108,8 @@ private slots:
     void librariesAreListedEverywhere();
     void serviceNamesWhatTheProgramReads();
     void serviceStartsWhatUpdatesInstall();
-    void rulesNameTheFilesOfTheBoard();
+    void rightsNameTheFilesOfTheBoard();
+    void rightsAreGivenToTheProgramsGroup();
     void userIsTheSameEverywhere();
     void scriptsThatTheProgramCallsAreOnItsPath();
     void boardSettingsAreKnown();
@@ -240,7 +246,7 @@ void TstPackaging::serviceStartsWhatUpdatesInstall()
     QVERIFY(postinst.contains(QLatin1String("mv -fT .current current")));
 }
 
-void TstPackaging::rulesNameTheFilesOfTheBoard()
+void TstPackaging::rightsNameTheFilesOfTheBoard()
 {
     QString code;
     for (const char *folder : { "src/board", "src/device", "src/platform/target.cpp" }) {
@@ -256,19 +262,53 @@ void TstPackaging::rulesNameTheFilesOfTheBoard()
     QCOMPARE(nodes.size(), 1);
     QVERIFY2(rules.contains(QStringLiteral("KERNEL==\"%1\", GROUP=").arg(nodes.first())), qPrintable(nodes.first()));
     QVERIFY(text(kUnit).contains(QStringLiteral("\nDeviceAllow=/dev/%1 rw\n").arg(nodes.first())));
-    // The kernel's files of lines and light: a rule has their subsystem and their name.
+    // The kernel's files of lines and light that it writes.
+    const QString script = text(kRights);
     int files = 0;
-    for (const QString &file : caught(code, QStringLiteral("\"/sys/class/([a-z]+/[^\"]+/?[a-z]+)\""))) {
-        const QString subsystem = file.section(QLatin1Char('/'), 0, 0), name = file.section(QLatin1Char('/'), -1);
-        if (subsystem == QLatin1String("net") || name == subsystem) // read only; a part of a path
+    for (const QString &file : caught(code, QStringLiteral("\"/sys/class/([a-z]+/[^\"]+/[a-z]+)\""))) {
+        if (file.startsWith(QLatin1String("net/"))) // read only
             continue;
-        const QStringList lines = rules.split(QLatin1Char('\n'))
-                                      .filter(QStringLiteral("SUBSYSTEM==\"%1\"").arg(subsystem))
-                                      .filter(QRegularExpression(QStringLiteral("/%1\\b").arg(name)));
-        QVERIFY2(!lines.isEmpty(), qPrintable(file));
+        QVERIFY2(script.contains(QStringLiteral("\"$system/%1\"").arg(QString(file).replace("%1", "$line"))),
+                 qPrintable(file));
         ++files;
     }
     QVERIFY2(files >= 4, qPrintable(QString::number(files)));
+    const auto numbers = [](const QString &list) { return list.simplified().remove(QLatin1Char(',')); };
+    const QStringList lines
+        = caught(text(QStringLiteral("src/platform/deskroot.cpp")), QStringLiteral("kGpioLines\\[\\] = \\{([^}]+)\\}"));
+    QCOMPARE(lines.size(), 1);
+    QCOMPARE(caught(script, QStringLiteral("^for line in ([0-9 ]+); do$")), QStringList { numbers(lines.first()) });
+}
+
+void TstPackaging::rightsAreGivenToTheProgramsGroup()
+{
+    QTemporaryDir root;
+    const QString system = root.path() + QStringLiteral("/sys/class/");
+    const auto make = [&system](const char *name) {
+        QDir().mkpath(QFileInfo(system + QLatin1String(name)).path());
+        QFile file(system + QLatin1String(name));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+    };
+    for (const char *name :
+         { "gpio/export", "gpio/gpio48/direction", "gpio/gpio48/value", "backlight/backlight/brightness" })
+        make(name);
+    QProcess script;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QUVERA_ROOT"), root.path());
+    script.setProcessEnvironment(environment);
+    script.start(kTop + QLatin1Char('/') + kRights, { QString::number(::getgid()) });
+    QVERIFY(script.waitForFinished(-1));
+    QCOMPARE(script.exitCode(), 0);
+    for (const char *name : { "gpio/gpio48/direction", "gpio/gpio48/value", "backlight/backlight/brightness" })
+        QVERIFY2(QFile::permissions(system + QLatin1String(name)) & QFile::WriteGroup, name);
+    QVERIFY(!(QFile::permissions(system + QStringLiteral("gpio/export")) & QFile::WriteGroup));
+    QCOMPARE(read(system + QStringLiteral("gpio/export")), QString("117\n")); // the last line that was missing
+
+    // A machine without such files, as a container, is none of its business.
+    QVERIFY(QDir(system).removeRecursively());
+    script.start();
+    QVERIFY(script.waitForFinished(-1));
+    QCOMPARE(script.exitCode(), 0);
 }
 
 void TstPackaging::userIsTheSameEverywhere()
@@ -279,9 +319,9 @@ void TstPackaging::userIsTheSameEverywhere()
     QVERIFY(text(QStringLiteral("packaging/board/50-quvera.rules"))
                 .contains(QStringLiteral("subject.user === \"%1\"").arg(user)));
     QVERIFY(text(kDebian + QStringLiteral("quvera.postinst")).contains(QStringLiteral("runuser -u %1 --").arg(user)));
-    const QStringList groups = caught(text(kUdev), QStringLiteral("(?:GROUP=\"|chgrp (?:-R )?)([a-z]+)"));
-    QVERIFY(groups.size() >= 4);
-    QCOMPARE(QSet<QString>(groups.cbegin(), groups.cend()), QSet<QString> { user });
+    QCOMPARE(caught(text(kUdev), QStringLiteral("GROUP=\"([a-z]+)\"")), QStringList { user });
+    QCOMPARE(unit(QStringLiteral("ExecStartPre")),
+             QStringList { QStringLiteral("+/usr/lib/quvera/scripts/board-rights ") + user });
     const QString page = text(QStringLiteral("docs/board.md"));
     QVERIFY(page.contains(QStringLiteral("as the user `%1`").arg(user)));
     // Its rights are those that the page lists, and the commands that it calls get no others.
