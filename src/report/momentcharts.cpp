@@ -98,7 +98,7 @@ Drawing waveChart(const Moment &moment, bool currents, const Report &text)
     const int step = std::max(1, count / kPoints);
     for (int c = 0; c < channels; ++c) {
         const RecordedWaveform::Channel &channel = wave.channels.at(c);
-        if (channel.unit != unit)
+        if (channel.unit != unit || !std::isfinite(channel.factor))
             continue;
         const int digit = channel.channel == "N" ? 3 : channel.channel.size() > 1 ? channel.channel.at(1) - '1' : 0;
         const Ink ink = kInks[qBound(0, digit, kInputs - 1)];

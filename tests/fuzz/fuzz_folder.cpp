@@ -20,7 +20,7 @@ const char *const kNames[] = { "Common.pqa2",
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    const QTemporaryDir folder(QStringLiteral("/dev/shm/quvera-fuzz"));
+    const QTemporaryDir folder(FuzzTarget::folderTemplate());
     for (size_t at = 0; at + 3 <= size;) {
         const char *name = kNames[data[at] % std::size(kNames)];
         const size_t length = std::min<size_t>(data[at + 1] | data[at + 2] << 8, size - at - 3);

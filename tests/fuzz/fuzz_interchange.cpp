@@ -9,7 +9,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <cstring>
@@ -199,18 +198,11 @@ void checkFile(const QString &path)
     expect(fault.isEmpty(), qPrintable(fault));
 }
 
-/// In memory where there is such a place: every export waits for its disk.
-QString folderForOutputs()
-{
-    const QString memory = QStringLiteral("/dev/shm");
-    return (QFileInfo(memory).isWritable() ? memory : QDir::tempPath()) + QStringLiteral("/quvera-fuzz-XXXXXX");
-}
-
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
-    static const QTemporaryDir folder(folderForOutputs());
+    static const QTemporaryDir folder(FuzzTarget::folderTemplate());
     const QString pairs = folder.filePath(QStringLiteral("pairs")), file = folder.filePath(QStringLiteral("file.pqd"));
     QDir(pairs).removeRecursively();
     Bytes bytes(data, size);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDir>
 #include <QLoggingCategory>
 
 #include <cstdint>
@@ -26,6 +27,12 @@ inline void expect(bool holds, const char *what = "what must hold for any input 
 inline QByteArray bytes(const uint8_t *data, size_t size)
 {
     return QByteArray(reinterpret_cast<const char *>(data), int(size));
+}
+
+/// Where a target keeps folders: in the root of its run, which goes however the run ends.
+inline QString folderTemplate()
+{
+    return qEnvironmentVariable("QUVERA_ROOT", QDir::tempPath()) + QStringLiteral("/quvera-fuzz-XXXXXX");
 }
 
 /// A refused file leaves a line in the debug log, which at thousands of inputs a second is all that one would see.

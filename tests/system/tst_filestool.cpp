@@ -106,7 +106,11 @@ private slots:
     void nothingIsWrittenBesideTheInput();
     void unreadableInputMakesNoOutput();
     void recoveredFolderIsWhole();
+    void whateverFailsHasOneLine();
+    void emptyRecordIsExportedAsItIs();
     void namesWithLineFeedsStayInOneLine();
+    void namesThatAreNoTextAreReadAndWritten_data();
+    void namesThatAreNoTextAreReadAndWritten();
     void pathThatBeginsWithDashesStandsBehindTwo();
     void fullOrClosedOutputIsAnError();
     void interruptLeavesNoHalfOutput();
@@ -258,11 +262,11 @@ void TstFilesTool::outputThatExistsIsRefusedWithoutForce()
     const QString file = kData + QStringLiteral("monitor.pqa2");
     const QStringList call { "recover", file, "--out", path("out/sound.pqa2") };
     QCOMPARE(run(call).code, 0);
-    QVERIFY(Pqa2Bytes::save(path("out/sound.pqa2"), Pqa2Bytes::fileHead()));
+    QVERIFY(Pqa2Bytes::save(path("out/sound.pqa2"), "no recording"));
     const Result refused = run(call);
     QCOMPARE(refused.code, 64);
     QCOMPARE(refused.error.count('\n'), 1);
-    QCOMPARE(Pqa2Bytes::bytesOf(path("out/sound.pqa2")), Pqa2Bytes::fileHead());
+    QCOMPARE(Pqa2Bytes::bytesOf(path("out/sound.pqa2")), QByteArray("no recording"));
     QCOMPARE(run(call + QStringList("--force")).code, 0);
     QCOMPARE(Pqa2Bytes::bytesOf(path("out/sound.pqa2")), Pqa2Bytes::bytesOf(file));
 }
@@ -299,6 +303,75 @@ void TstFilesTool::recoveredFolderIsWhole()
     QVERIFY(Pqa2Bytes::save(path("record/Common.pqa2"), bytes.chopped(5)));
     QCOMPARE(run({ "recover", path("record"), "--out", path("out/sound") }).code, 1);
     QCOMPARE(run({ "verify", path("out/sound") }).code, 0);
+}
+
+void TstFilesTool::whateverFailsHasOneLine()
+{
+    QVERIFY(Pqa2Bytes::save(path("head.pqa2"), Pqa2Bytes::fileHead().left(24) + "torn"));
+    QVERIFY(Pqa2Bytes::recording(3).save(path("cut.pqa2")));
+    const QVector<QPair<int, QStringList>> calls {
+        { 3, { "recover", path("head.pqa2"), "--out", path("out/sound.pqa2") } },
+        { 64, { "export", path("cut.pqa2"), "--csv", path("out") } },
+        { 64, { "export", path("cut.pqa2"), "--csv", path("missing/csv") } },
+        { 73, { "export", path("cut.pqa2"), "--csv", QStringLiteral("/proc/csv") } },
+        { 73, { "report", path("cut.pqa2"), "--html", QStringLiteral("/proc/report.html") } },
+        { 1, { "report", path("cut.pqa2"), "--html", path("out/report.html") } },
+    };
+    for (const auto &call : calls) {
+        const Result result = run(call.second);
+        QCOMPARE(result.code, call.first);
+        QVERIFY2(result.error.count('\n') == 1, result.error);
+    }
+    const QByteArray line = run(calls.at(0).second).error;
+    QVERIFY2(line.contains("head.pqa2: byte 24: ") && line.endsWith("; nothing of it can be recovered\n"), line);
+}
+
+void TstFilesTool::emptyRecordIsExportedAsItIs()
+{
+    QVERIFY(Pqa2Bytes().opening().start(Pqa2Bytes::kSeconds).end(Pqa2Bytes::kSeconds + 1).save(path("empty.pqa2")));
+    for (const char *option : { "--csv", "--sqlite", "--comtrade", "--pqdif", "--pqdif-zlib", "--influx" }) {
+        const QString target = path("out/") + QLatin1String(option);
+        const Result result = run({ "export", path("empty.pqa2"), option, target });
+        QVERIFY2(result.code == 0, option);
+        QCOMPARE(result.error, QByteArray());
+        QVERIFY2(QFile::exists(target), option);
+    }
+}
+
+void TstFilesTool::namesThatAreNoTextAreReadAndWritten_data()
+{
+    QTest::addColumn<QByteArray>("language");
+    for (const char *language : { "C", "C.UTF-8", "de_DE.ISO-8859-1" })
+        QTest::newRow(language) << QByteArray(language);
+}
+
+void TstFilesTool::namesThatAreNoTextAreReadAndWritten()
+{
+    QFETCH(QByteArray, language);
+    const QByteArray folder = QFile::encodeName(m_folder->path());
+    const QByteArray names[]
+        = { "M\xFCller \xFF.pqa2", QByteArrayLiteral("M\xC3\xBCller \xE2\x82\xAC \xF0\x9F\x94\x8C.pqa2") };
+    const QByteArray shown[] = { "M\\xfcller \\xff.pqa2", names[1] };
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY(Pqa2Bytes::recording(3).save(path("plain.pqa2")));
+        const QByteArray name = folder + '/' + names[i], copy = folder + "/out/" + names[i];
+        QCOMPARE(::rename(QFile::encodeName(path("plain.pqa2")).constData(), name.constData()), 0);
+        // By a shell, which hands bytes on as they are.
+        QProcess shell;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("LC_ALL"), QString::fromLatin1(language));
+        shell.setProcessEnvironment(environment);
+        QVERIFY(Pqa2Bytes::save(path("call"),
+                                "\"$1\" info --json '" + name + "'; echo $?; \"$1\" recover '" + name + "' --out '"
+                                    + copy + "'; echo $?"));
+        shell.start(QStringLiteral("bash"), { path("call"), kTool });
+        QVERIFY(shell.waitForFinished(kPatience));
+        const QByteArray output = shell.readAllStandardOutput(), error = shell.readAllStandardError();
+        QVERIFY2(output.endsWith("}\n1\n1\n"), output + error); // cut: it has no end
+        QVERIFY2(error.contains(shown[i] + ": byte "), error);
+        QCOMPARE(::access(copy.constData(), F_OK), 0);
+        QVERIFY2(output.contains(i == 0 ? QByteArray("M\\udcfcller \\udcff.pqa2") : names[1]), output);
+    }
 }
 
 void TstFilesTool::namesWithLineFeedsStayInOneLine()

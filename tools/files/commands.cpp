@@ -15,11 +15,16 @@ int runInfo(const CommandLine &line)
     RecordSource source;
     if (!openSource(&source, line.paths.constFirst()))
         return interrupted();
-    if (source.state() == RecordState::Unreadable)
+    if (source.state() == RecordState::Unreadable) {
+        Terminal::complainOf(source);
         return ExitUnreadable;
+    }
     const QByteArray text = line.has(QStringLiteral("--json")) ? InfoText::json(source) : InfoText::text(source);
     std::fwrite(text.constData(), 1, std::size_t(text.size()), stdout);
-    return Terminal::finishOutput() ? statusOf(source) : int(ExitNoOutput);
+    if (!Terminal::finishOutput())
+        return ExitNoOutput;
+    Terminal::complainOf(source);
+    return statusOf(source);
 }
 
 int runVerify(const CommandLine &line)
@@ -33,6 +38,7 @@ int runVerify(const CommandLine &line)
         std::printf("%s: %s\n", Terminal::printable(path).toUtf8().constData(), kStates[statusOf(source)]);
         if (!Terminal::finishOutput())
             return ExitNoOutput;
+        Terminal::complainOf(source);
         worst = qMax(worst, statusOf(source));
     }
     return worst;
@@ -51,7 +57,7 @@ int recover(RecordSource &source, const OutputPlace &place, const RecordProgress
     case Recovery::Nothing:
         break;
     }
-    Terminal::complain(QStringLiteral("%1: nothing of it can be recovered").arg(Terminal::printable(place.input)));
+    Terminal::complainOf(source, QStringLiteral("nothing of it can be recovered"));
     return ExitUnreadable;
 }
 

@@ -5,11 +5,7 @@
 bool openSource(RecordSource *source, const QString &path)
 {
     Progress progress(path);
-    if (!source->open(path, progress.callback()))
-        return false;
-    progress.clear();
-    Terminal::complainOf(*source);
-    return true;
+    return source->open(path, progress.callback());
 }
 
 int statusOf(const RecordSource &source)
@@ -44,10 +40,15 @@ int makeOutput(const CommandLine &line, const QString &option, const OutputWork 
     RecordSource source;
     if (!openSource(&source, place.input))
         return interrupted();
-    if (source.state() == RecordState::Unreadable)
-        return ExitUnreadable;
-    Progress progress(place.target);
-    return work(source, place, progress.callback());
+    int status = statusOf(source);
+    if (status != ExitUnreadable) {
+        Progress progress(place.target);
+        status = work(source, place, progress.callback());
+    }
+    // One line in any case: what came out otherwise than the state of the record has had its own.
+    if (status == statusOf(source))
+        Terminal::complainOf(source);
+    return status;
 }
 
 int deliver(RecordSource &source, RecordSink &sink, const RecordProgress &progress)

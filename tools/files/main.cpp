@@ -1,4 +1,5 @@
 // quvera-files: reads what the instrument recorded, whole, cut or broken, and hands it on.
+#include "files/bytenames.h"
 #include "files/delivery.h"
 #include "files/reportcommand.h"
 #include "files/terminal.h"
@@ -63,6 +64,7 @@ int run(const QStringList &words)
 
 int main(int argc, char *argv[])
 {
+    keepNamesOfFiles();
     const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
     Terminal::catchSignals();

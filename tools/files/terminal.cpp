@@ -7,6 +7,15 @@
 namespace {
 
 volatile std::sig_atomic_t interrupted = 0;
+bool progressIsShown = false;
+
+/// Takes the progress off the terminal's line.
+void clearLine()
+{
+    if (progressIsShown)
+        std::fputs("\r\033[K", stderr);
+    progressIsShown = false;
+}
 
 extern "C" void noteInterrupt(int)
 {
@@ -19,28 +28,35 @@ namespace Terminal {
 
 void complain(const QString &text)
 {
+    clearLine();
     std::fprintf(stderr, "quvera-files: %s\n", text.toUtf8().constData());
 }
 
-void complainOf(const RecordSource &source)
+void complainOf(const RecordSource &source, const QString &outcome)
 {
     const QVector<RecordFault> faults = source.faults();
-    if (faults.isEmpty())
+    if (faults.isEmpty() && outcome.isEmpty())
         return;
-    const RecordFault &first = faults.constFirst();
-    const QString more = faults.size() > 1 ? QStringLiteral(" (and %1 more)").arg(faults.size() - 1) : QString();
-    complain(QStringLiteral("%1: byte %2: %3%4")
-                 .arg(printable(first.path), QString::number(first.offset), printable(first.reason), more));
+    const RecordFault first = faults.isEmpty() ? RecordFault { source.path(), 0, outcome } : faults.constFirst();
+    QString reason = first.reason;
+    if (faults.size() > 1)
+        reason += QStringLiteral(" (and %1 more)").arg(faults.size() - 1);
+    if (!faults.isEmpty() && !outcome.isEmpty())
+        reason += QStringLiteral("; ") + outcome;
+    complain(
+        QStringLiteral("%1: byte %2: %3").arg(printable(first.path), QString::number(first.offset), printable(reason)));
 }
 
 QString printable(const QString &text)
 {
     QString line;
-    for (const QChar c : text) {
+    for (int i = 0; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        const bool isByte = c.isLowSurrogate() && (i == 0 || !text.at(i - 1).isHighSurrogate()); // that is no text
         if (c == QLatin1Char('\n'))
             line += QStringLiteral("\\n");
-        else if (c.unicode() < 0x20 || (c.unicode() >= 0x7F && c.unicode() < 0xA0))
-            line += QStringLiteral("\\x%1").arg(uint(c.unicode()), 2, 16, QLatin1Char('0'));
+        else if (isByte || c.unicode() < 0x20 || (c.unicode() >= 0x7F && c.unicode() < 0xA0))
+            line += QStringLiteral("\\x%1").arg(c.unicode() & 0xFFU, 2, 16, QLatin1Char('0'));
         else
             line += c;
     }
@@ -78,11 +94,9 @@ Progress::Progress(const QString &what) : m_what(what), m_isShown(::isatty(STDER
     m_time.start();
 }
 
-void Progress::clear()
+Progress::~Progress()
 {
-    if (m_hasShown)
-        std::fputs("\r\033[K", stderr);
-    m_hasShown = false;
+    clearLine();
 }
 
 RecordProgress Progress::callback()
@@ -96,7 +110,7 @@ bool Progress::take(qint64 done, qint64 total)
     constexpr qint64 kStep = 200;
     if (m_isShown && m_time.elapsed() >= qMax(kQuiet, m_shownAt + kStep)) {
         m_shownAt = m_time.elapsed();
-        m_hasShown = true;
+        progressIsShown = true;
         const int percent = total > 0 ? int(qBound(0.0, double(done) * 100 / double(total), 100.0)) : 0;
         std::fprintf(stderr, "\r%s %3d %%", Terminal::printable(m_what).toUtf8().constData(), percent);
         std::fflush(stderr);

@@ -10,9 +10,9 @@ namespace Terminal {
 
 /// A line on standard error, whatever stands in a name.
 void complain(const QString &text);
-/// The line that goes with every state but whole.
-void complainOf(const RecordSource &source);
-/// Names of files may hold anything; what would not stay in one line is written as "\n" or "\x1B".
+/// The line that goes with every state but whole. \a outcome: what became of the work because of it, told in any state.
+void complainOf(const RecordSource &source, const QString &outcome = {});
+/// Names of files may hold anything; what would not stay in one line or is no text is written as "\n" or "\x1B".
 QString printable(const QString &text);
 
 /// The user's interrupt ends the work in good order from now on, and a closed pipe is an error like any other.
@@ -29,14 +29,12 @@ class Progress
 {
 public:
     explicit Progress(const QString &what);
-    ~Progress() { clear(); }
+    ~Progress(); // takes what is shown away
     Progress(const Progress &) = delete;
     Progress &operator=(const Progress &) = delete;
 
     /// To be handed to the work, for which it is asked from time to time.
     RecordProgress callback();
-    /// Takes what is shown away.
-    void clear();
 
 private:
     bool take(qint64 done, qint64 total);
@@ -45,5 +43,4 @@ private:
     const bool m_isShown;
     QElapsedTimer m_time;
     qint64 m_shownAt = 0; // ms
-    bool m_hasShown = false;
 };

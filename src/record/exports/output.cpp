@@ -1,11 +1,13 @@
 #include "record/exports/output.h"
 
+#include "record/tables/recordsource.h"
+
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 
 #include <cerrno>
 #include <fcntl.h>
+#include <filesystem>
 #include <linux/fs.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -37,6 +39,11 @@ bool exists(const QString &path)
     return exists(path, &info);
 }
 
+bool isRecording(const QString &path)
+{
+    return RecordSource::formatOf(path) != RecordSource::Format::None;
+}
+
 bool isInside(const QString &path, const QString &folder)
 {
     return path == folder || path.startsWith(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'));
@@ -44,9 +51,9 @@ bool isInside(const QString &path, const QString &folder)
 
 } // namespace
 
-Output::Output(Kind kind, OutputPlace place, Writes writes)
+Output::Output(Kind kind, OutputPlace place, Writes writes, const QString &mark)
     : m_kind(kind), m_place(std::move(place)),
-      m_target(m_place.target.isEmpty() ? QString() : QDir::cleanPath(m_place.target)), m_writes(writes)
+      m_target(m_place.target.isEmpty() ? QString() : QDir::cleanPath(m_place.target)), m_writes(writes), m_mark(mark)
 { }
 
 Output::~Output()
@@ -103,26 +110,40 @@ bool Output::isReplaceable()
     struct stat info;
     if (!exists(m_target, &info))
         return failBySystem();
+    if (m_kind == File && !S_ISREG(info.st_mode))
+        return refuse(QStringLiteral("is no ordinary file and is not replaced"));
     if (m_kind == File)
-        return S_ISREG(info.st_mode) || refuse(QStringLiteral("is no ordinary file and is not replaced"));
+        return !isRecording(m_target) || refuse(QStringLiteral("is a recording and is not replaced"));
     if (!S_ISDIR(info.st_mode))
         return refuse(QStringLiteral("is no folder and is not replaced"));
     return holdsNothingElse();
 }
 
+/// Looks at the names as the bytes that they are: the toolkit passes over those that are no text.
 bool Output::holdsNothingElse()
 {
-    constexpr QDir::Filters kAll = QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-    QDirIterator entries(m_target, kAll, QDirIterator::Subdirectories);
-    while (entries.hasNext()) {
-        const QString name = entries.next().mid(m_target.size() + 1);
-        const QFileInfo info = entries.fileInfo();
-        const bool isFolder = info.isDir() && !info.isSymLink();
+    namespace fs = std::filesystem;
+    const QByteArray folder = QFile::encodeName(m_target);
+    std::error_code error;
+    for (fs::recursive_directory_iterator entry(folder.constData(), error), end; !error && entry != end;
+         entry.increment(error)) {
+        const fs::file_status status = entry->symlink_status(error);
+        const QByteArray name = QByteArray::fromStdString(entry->path().native()).mid(folder.size() + 1);
         // A folder is looked into; it counts by the files in it.
-        if (!isFolder && (!info.isFile() || !m_writes || !m_writes(name)))
-            return refuse(QStringLiteral("holds \"%1\", which is no export, and is not replaced").arg(name));
+        if (!error && !fs::is_directory(status) && !isOurs(QFile::decodeName(name), fs::is_regular_file(status)))
+            return false;
     }
-    return true;
+    return !error || fail({}, QString::fromStdString(error.message()));
+}
+
+bool Output::isOurs(const QString &name, bool isFile)
+{
+    if (!isFile || !m_writes || !m_writes(name))
+        return refuse(QStringLiteral("holds \"%1\", which is no export, and is not replaced").arg(name));
+    const QString folder = m_target + QLatin1Char('/');
+    const bool isMarked = !m_mark.isEmpty() && exists(folder + m_mark);
+    return isMarked || !isRecording(folder + name)
+        || refuse(QStringLiteral("holds the recording \"%1\" and is not replaced").arg(name));
 }
 
 bool Output::isApartFromInput()

@@ -12,8 +12,8 @@ struct OutputPlace
 
 /// A file or a folder that is there whole or not at all. It grows under a hidden name beside its target and takes the
 /// target's name at the end; without finish() nothing of it stays, so it has to be destroyed on every way out, an
-/// interruption by the user too. What the target's name stands for already is never lost to a failed export. A file or
-/// folder that no export can have made is not replaced, whatever the user said.
+/// interruption by the user too. What the target's name stands for already is never lost to a failed export. What no
+/// export can have made, and above all what an instrument recorded, is not replaced, whatever the user said.
 class Output
 {
 public:
@@ -21,8 +21,9 @@ public:
     /// Whether an export of this kind writes files of that name into its folder ("rms.csv", "waveforms/0001.csv").
     using Writes = bool (*)(const QString &name);
 
-    /// \a writes is asked for folders alone; without it no folder is replaced.
-    Output(Kind kind, OutputPlace place, Writes writes = nullptr);
+    /// \a writes is asked for folders alone; without it no folder is replaced. \a mark: the file by which a folder is
+    /// known whose recordings were written here.
+    Output(Kind kind, OutputPlace place, Writes writes = nullptr, const QString &mark = {});
     ~Output();
     Output(const Output &) = delete;
     Output &operator=(const Output &) = delete;
@@ -47,6 +48,7 @@ private:
     bool isFree();
     bool isReplaceable();
     bool holdsNothingElse();
+    bool isOurs(const QString &name, bool isFile);
     bool isApartFromInput();
     bool make();
     bool sync();
@@ -59,6 +61,7 @@ private:
     const OutputPlace m_place;
     const QString m_target; // without a slash at its end
     const Writes m_writes;
+    const QString m_mark;
     QString m_path;
     QString m_error;
     bool m_isRefused = false;

@@ -105,9 +105,8 @@ bool PqdifExport::end(const RecordFacts &facts)
     m_facts.end = facts.end;
     if (!flush())
         return false;
-    if (m_spool->count() == 0 && m_files.size() == 1)
-        return fail(m_place.target + QStringLiteral(": the recording holds nothing for such a file"));
-    if (m_spool->count() == 0)
+    // A recording without anything for such a file makes one without any, as it makes an empty folder of CSV.
+    if (m_spool->count() == 0 && m_files.size() > 1)
         m_files.pop_back();
     else if (!endFile())
         return false;
@@ -141,9 +140,11 @@ bool PqdifExport::beginFile()
 bool PqdifExport::endFile()
 {
     const QString target = targetOf(int(m_files.size()));
-    QVector<PqdifSpool::Record> first { { PqdifTag::kContainerRecord, container() },
-                                        { PqdifTag::kDataSourceRecord, dataSource() } };
-    if (m_facts.nominalFrequency > 0)
+    QVector<PqdifSpool::Record> first { { PqdifTag::kContainerRecord, container() } };
+    const bool isEmpty = m_channels.count() == 0; // the format knows no source without channels
+    if (!isEmpty)
+        first.append({ PqdifTag::kDataSourceRecord, dataSource() });
+    if (!isEmpty && m_facts.nominalFrequency > 0)
         first.append({ PqdifTag::kSettingsRecord, settings() });
     OutputFile file;
     if (!file.open(m_files.back()->path()))

@@ -10,6 +10,7 @@
 #include "record/tables/recordsource.h"
 #include "record/wavefile.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QMap>
 
@@ -18,10 +19,23 @@ namespace {
 constexpr int kProgressStep = 1000; // blocks or lines
 const QString kSuffix = QStringLiteral(".pqa2");
 
+/// Tells what a recovered folder was made of; without it a folder of recordings is an original.
+const QString kMark = QStringLiteral("recovered.txt");
+
 /// Names that a recovered folder has.
 bool writes(const QString &name)
 {
-    return name.endsWith(kSuffix);
+    return name == kMark || name.endsWith(kSuffix);
+}
+
+QByteArray markOf(const RecordSource &source)
+{
+    QString text = QStringLiteral("What could be read of \"%1\", copied by quvera-files.\n")
+                       .arg(QFileInfo(QDir::cleanPath(source.path())).fileName().simplified());
+    for (const RecordFault &fault : source.faults())
+        text += QStringLiteral("%1: byte %2: %3\n")
+                    .arg(QFileInfo(fault.path).fileName().simplified(), QString::number(fault.offset), fault.reason);
+    return text.toUtf8();
 }
 
 } // namespace
@@ -31,7 +45,7 @@ Recovery::Recovery(const OutputPlace &place) : m_place(place) { }
 Recovery::Result Recovery::run(const RecordSource &source, const RecordProgress &progress)
 {
     m_progress = progress;
-    Output output(source.isFolder() ? Output::Folder : Output::File, m_place, writes);
+    Output output(source.isFolder() ? Output::Folder : Output::File, m_place, writes, kMark);
     Result result = output.begin() ? Done : Failed;
     if (result == Done)
         result = source.isFolder() ? copyFolder(source, output)
@@ -67,7 +81,21 @@ Recovery::Result Recovery::copyFolder(const RecordSource &source, Output &output
         parts[base] = part;
         all = Done;
     }
-    return all;
+    if (all == Nothing)
+        return all;
+    OutputFile mark;
+    if (mark.open(output.path() + QLatin1Char('/') + kMark))
+        mark.write(markOf(source));
+    return closed(&mark, Done);
+}
+
+Recovery::Result Recovery::closed(OutputFile *out, Result result)
+{
+    if (result == Done && !out->close())
+        result = Failed;
+    if (result == Failed)
+        m_error = m_place.target + QStringLiteral(": ") + out->reason();
+    return result;
 }
 
 Recovery::Result Recovery::copyFile(const RecordSource &source, const RecordFileReport &file, const QString &to)
@@ -91,11 +119,7 @@ Recovery::Result Recovery::copyFile(const RecordSource &source, const RecordFile
             break;
         }
     }
-    if (result == Done && !out.close())
-        result = Failed;
-    if (result == Failed)
-        m_error = m_place.target + QStringLiteral(": ") + out.reason();
-    return result;
+    return closed(&out, result);
 }
 
 Recovery::Result Recovery::copyBlocks(const RecordSource &source, const RecordFileReport &file, OutputFile &to)

@@ -33,6 +33,7 @@ private:
     Result copyCapture(const RecordFileReport &file, OutputFile &to);
     Result copyPage(const RecordFileReport &file, OutputFile &to);
     Result copyLines(const RecordFileReport &file, OutputFile &to);
+    Result closed(OutputFile *out, Result result);
     bool goesOn(qint64 offset, qint64 size) const { return !m_progress || m_progress(offset, size); }
 
     const OutputPlace m_place;

@@ -91,8 +91,9 @@ bool CaptureReading::read(RecordSink &sink, const RecordProgress &progress)
         const bool isVoltage = input < kInputs;
         const int channel = input % kInputs;
         const QByteArray name = inputName(m_facts.joinMode, channel, isVoltage);
-        waveform.channels.append({ (isVoltage ? "U_" : "I_") + name, name, isVoltage ? "V" : "A",
-                                   isVoltage ? header.voltFactor[channel] : header.ampereFactor[channel] });
+        waveform.channels.append(
+            { (isVoltage ? "U_" : "I_") + name, name, isVoltage ? "V" : "A",
+              RecordedWaveform::factorOf(isVoltage ? header.voltFactor[channel] : header.ampereFactor[channel]) });
     }
     if (!sink.begin(m_facts))
         return false;

@@ -145,8 +145,8 @@ bool Pqa2Merge::takeRow(RecordOutput &out, StreamItem *item, int stream)
 RecordedWaveform::Channel Pqa2Merge::channel(const Pqa2Part &part, int input, bool isVoltage) const
 {
     const QByteArray name = inputName(m_facts.joinMode, input, isVoltage);
-    return { (isVoltage ? "U_" : "I_") + name, name, isVoltage ? "V" : "A",
-             isVoltage ? part.factors.volts[input] : part.factors.amperes[input] };
+    const float factor = isVoltage ? part.factors.volts[input] : part.factors.amperes[input];
+    return { (isVoltage ? "U_" : "I_") + name, name, isVoltage ? "V" : "A", RecordedWaveform::factorOf(factor) };
 }
 
 bool Pqa2Merge::takeTransient(RecordOutput &out, const StreamItem &item)
@@ -160,9 +160,10 @@ bool Pqa2Merge::takeTransient(RecordOutput &out, const StreamItem &item)
     waveform.start = valueAt<double>(item.payload, 0);
     waveform.trigger = qMin<qint64>(position & 0xFFFFFF, kSamples - 1);
     waveform.channels = { channel(m_parts.at(item.part), input, true) };
-    float extreme = 0;
+    const float factor = waveform.channels.at(0).factor;
+    float extreme = std::isnan(factor) ? factor : 0;
     for (int i = 0; i < kSamples; ++i) {
-        const float value = valueAt<qint16>(item.payload, kHead + 2 * i) * waveform.channels.at(0).factor;
+        const float value = valueAt<qint16>(item.payload, kHead + 2 * i) * factor;
         extreme = std::abs(value) > std::abs(extreme) ? value : extreme;
     }
     waveform.number = out.nextWaveform();

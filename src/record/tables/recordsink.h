@@ -7,6 +7,9 @@
 #include <QString>
 #include <QVector>
 
+#include <cmath>
+#include <limits>
+
 /// What kind of file or folder was opened.
 enum class RecordKind : quint8 {
     Recording, // folder or file of the recorder
@@ -53,9 +56,15 @@ struct RecordedWaveform
         QByteArray name; // "U_L1", "I_N"; as column of a table
         QByteArray channel; // "L1", "L12", "N"
         QByteArray unit; // "V", "A"
-        float factor = 1; // value = sample x factor
+        float factor = 1; // value = sample x factor; no number where none is recorded
     };
     QVector<Channel> channels;
+
+    /// A factor as a file holds it: zero is none, too.
+    static float factorOf(float stored)
+    {
+        return std::isfinite(stored) && stored != 0 ? stored : std::numeric_limits<float>::quiet_NaN();
+    }
 };
 
 /// Takes what a recording holds, in one pass. A member that returns false ends the reading: nothing more is called, and

@@ -24,6 +24,7 @@
 namespace {
 
 constexpr int kMostParts = 999; // of a file, 4 GiB each
+constexpr int kSuffix = 5; // characters of ".pqa2"
 
 /// The files of a record folder, in the order in which they are read.
 constexpr std::array<const char *, 10> kFolderFiles = {
@@ -46,6 +47,46 @@ RecordState joined(RecordState worst, const RecordFileReport &file, bool isAlone
     // What a lost supply leaves of a new file; one that is no file or may not be read could hold anything.
     const bool isTornHead = file.isOpen && file.size < qint64(sizeof(Pqa2FileHeader));
     return qMax(worst, isTornHead ? RecordState::Cut : RecordState::Broken);
+}
+
+/// The files of a recording that a folder may have; none for other names.
+const char *const *folderFile(const PartName &part)
+{
+    const auto file = std::find_if(kFolderFiles.begin(), kFolderFiles.end(),
+                                   [&](const char *row) { return part.base == QLatin1String(row); });
+    return file != kFolderFiles.end() && part.number <= kMostParts ? file : nullptr;
+}
+
+bool isRecordFolder(const QString &path)
+{
+    QDirIterator entries(path, { QStringLiteral("*.pqa2") }, QDir::Files | QDir::System);
+    while (entries.hasNext()) {
+        entries.next();
+        if (folderFile(PartName::of(entries.fileName().chopped(kSuffix))))
+            return true;
+    }
+    return false;
+}
+
+/// What there is in a folder that is none of a recording: whoever names a whole stick learns what to name instead.
+QString hintAt(const QString &path)
+{
+    constexpr int kLooked = 1000; // of what may be a hundred thousand
+    constexpr int kNamed = 3;
+    QStringList found;
+    QDirIterator entries(path, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
+    for (int i = 0; i < kLooked && entries.hasNext(); ++i) {
+        const QString entry = entries.next();
+        if (entries.fileInfo().isDir() ? isRecordFolder(entry)
+                                       : RecordSource::formatOf(entry) != RecordSource::Format::None)
+            found.append(QLatin1Char('"') + entries.fileName() + QLatin1Char('"'));
+    }
+    if (found.isEmpty())
+        return {};
+    found.sort();
+    const int more = found.size() - kNamed;
+    const QString behind = more > 0 ? QStringLiteral(" and %1 more").arg(more) : QString();
+    return QStringLiteral(" of its own; in it: ") + found.mid(0, kNamed).join(QStringLiteral(", ")) + behind;
 }
 
 } // namespace
@@ -115,11 +156,9 @@ bool RecordSource::openFolder(const RecordProgress &progress)
         const QString name = entries.fileName();
         if (!name.endsWith(QLatin1String(".pqa2")))
             continue;
-        const PartName part = PartName::of(name.chopped(5));
-        const auto file = std::find_if(kFolderFiles.begin(), kFolderFiles.end(),
-                                       [&](const char *row) { return part.base == QLatin1String(row); });
-        if (file != kFolderFiles.end() && part.number <= kMostParts)
-            parts[std::size_t(file - kFolderFiles.begin())][part.number] = entries.filePath();
+        const PartName part = PartName::of(name.chopped(kSuffix));
+        if (const auto *file = folderFile(part))
+            parts[std::size_t(file - kFolderFiles.data())][part.number] = entries.filePath();
     }
     QVector<Pqa2Recording::Parts> files;
     for (const auto &file : parts) {
@@ -133,7 +172,7 @@ bool RecordSource::openFolder(const RecordProgress &progress)
             m_ownFaults.append({ paths.constLast(), 0, QStringLiteral("a part in front of it is missing") });
     }
     if (files.isEmpty()) {
-        fault(m_path, QStringLiteral("the folder holds no recording"));
+        fault(m_path, QStringLiteral("the folder holds no recording") + hintAt(m_path));
         return true;
     }
     m_reading = std::make_unique<Pqa2Recording>(files, true);

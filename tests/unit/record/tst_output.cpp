@@ -210,6 +210,12 @@ void TstOutput::forceReplacesNothingThatIsNoExport()
     put(at("photos/rms.csv"), "a");
     put(at("photos/deep/.holiday.jpg"), "b");
     put(at("file"), "mine");
+    QVERIFY(QDir(m_folder->path()).mkpath("logs"));
+    put(at("logs/240118.csv"), "TIME,U1 rms mean(V)\n");
+    put(at("240118.csv"), "TIME,U1 rms mean(V)\n");
+    QVERIFY(QDir(m_folder->path()).mkpath("bytes"));
+    FILE *file = std::fopen(QFile::encodeName(at("bytes/")).append("J\xFCrgen.jpg").constData(), "w");
+    QVERIFY(file && std::fclose(file) == 0); // a name that is no text
     QVERIFY(QFile::link(at("photos"), at("link")));
     QCOMPARE(::mkfifo(QFile::encodeName(at("pipe")).constData(), 0600), 0);
     const QStringList before = names();
@@ -220,6 +226,9 @@ void TstOutput::forceReplacesNothingThatIsNoExport()
         const char *reason;
     } cases[] = {
         { Output::Folder, "photos", "holds \"deep/.holiday.jpg\", which is no export" },
+        { Output::Folder, "bytes", "which is no export" },
+        { Output::Folder, "logs", "holds the recording \"240118.csv\"" },
+        { Output::File, "240118.csv", "is a recording" },
         { Output::Folder, "file", "is no folder" },
         { Output::Folder, "link", "is no folder" },
         { Output::File, "photos", "is no ordinary file" },

@@ -71,6 +71,8 @@ private slots:
     void linksOfTheFileSystemInACircleAreUnreadable();
     void folderWithoutPermissionIsUnreadable();
     void folderTakesNoOtherFilesThanItsOwn();
+    void folderAboveRecordsNamesThem();
+    void samplesWithoutAFactorAreNoValues();
     void emptyFileAmongOthersIsACut();
     void foreignFileAmongOthersIsDamage();
     void fileAmongOthersThatCannotBeOpenedIsDamage();
@@ -483,6 +485,37 @@ void TstRecordStates::damagedLogHasAState()
     QTEST(source.state(), "state");
     QFETCH(int, rows);
     QCOMPARE(kept->times("log").size(), rows);
+}
+
+void TstRecordStates::folderAboveRecordsNamesThem()
+{
+    const auto reason = [this](const QString &name) {
+        read(path(name));
+        return source.state() == RecordState::Unreadable ? source.faults().constFirst().reason : QString();
+    };
+    QVERIFY(QDir().mkpath(path("stick/photos")) && QDir().mkpath(path("stick/240118 Record 1")));
+    QVERIFY(P::save(path("stick/letter.txt"), "text"));
+    QCOMPARE(reason("stick"), QStringLiteral("the folder holds no recording"));
+    QVERIFY(P::recording(1).save(path("stick/240118 Record 1/Common.pqa2")));
+    QCOMPARE(reason("stick"), QStringLiteral("the folder holds no recording of its own; in it: \"240118 Record 1\""));
+    QVERIFY(P::save(path("stick/log.csv"), "TIME,FREQ AVG,\n"));
+    QVERIFY(QDir().mkpath(path("stick/a\"b")) && P::recording(1).save(path("stick/a\"b/Monitor.pqa2")));
+    QVERIFY(P::recording(1).save(path("stick/x.pqa2")));
+    QCOMPARE(
+        reason("stick"),
+        QStringLiteral("the folder holds no recording of its own; in it: \"240118 Record 1\", \"a\"b\", \"log.csv\" "
+                       "and 1 more"));
+}
+
+void TstRecordStates::samplesWithoutAFactorAreNoValues()
+{
+    const QByteArray transient = P::f64(double(kTime)) + P::f32(50) + P::le(1U << 24 | 301, 4) + QByteArray(1200, 7);
+    for (const QByteArray &factors : { P::countUp(1, 7), P::floats({ 0, 1, 1, 1, 1, 1, 1, 1, 0, 0, 0, 0 }) }) {
+        readBytes(P().add(0xA1000011, factors).add(0xA1000025, transient).bytes());
+        QCOMPARE(kept->waveforms.size(), 1);
+        QVERIFY(std::isnan(kept->waveforms.at(0).facts.channels.at(0).factor));
+        QVERIFY(std::isnan(kept->rows.value("transients").at(0).numbers.at(1))); // its extreme value
+    }
 }
 
 QTEST_APPLESS_MAIN(TstRecordStates)

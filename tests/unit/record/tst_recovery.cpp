@@ -14,6 +14,7 @@ using P = Pqa2Bytes;
 
 constexpr qint64 kTime = P::kTime;
 constexpr qint64 kSeconds = P::kSeconds;
+const QString kMark = QStringLiteral("recovered.txt");
 
 } // namespace
 
@@ -25,6 +26,11 @@ class TstRecovery : public QObject
 private:
     QString path(const QString &name) const { return m_folder.filePath(name); }
     Recovery::Result recover(const QString &from, const QString &to, const RecordProgress &progress = {})
+    {
+        QFile::remove(path(to));
+        return recoverOver(from, to, progress);
+    }
+    Recovery::Result recoverOver(const QString &from, const QString &to, const RecordProgress &progress = {})
     {
         RecordSource source;
         if (!source.open(path(from)))
@@ -67,6 +73,8 @@ private slots:
     void logKeepsItsWholeLines();
     void interruptedRecoveryLeavesNothing();
     void outputInsideTheInputIsRefused();
+    void originalsAreNotReplacedByACopy();
+    void copyTellsWhatItWasMadeOf();
 };
 
 void TstRecovery::everyCutGivesAWholeRecordingOfTheBlocksBefore()
@@ -136,7 +144,7 @@ void TstRecovery::folderIsRecoveredFileByFile()
     QVERIFY(P::save(path("record/I Harmonic(1-50).pqa2"), {}));
     QCOMPARE(recover("record", "sound"), Recovery::Done);
     QCOMPARE(QDir(path("sound")).entryList(QDir::Files),
-             QStringList({ "Common.pqa2", "U Harmonic(1-50).pqa2" })); // of the empty one there is nothing
+             QStringList({ "Common.pqa2", kMark, "U Harmonic(1-50).pqa2" })); // of the empty one there is nothing
     QCOMPARE(wholeTimes("sound", "frequency").size(), 3);
     QCOMPARE(wholeTimes("sound", "harmonics_u").size(), 1);
     QCOMPARE(P::bytesOf(path("record/Common.pqa2")), common);
@@ -150,7 +158,7 @@ void TstRecovery::fileThatWasJustBegunTakesNothingFromTheOthers()
     QVERIFY(P::recording(2).end(kSeconds + 9).save(path("begun/Common_3.pqa2")));
     QVERIFY(P::save(path("begun/I Harmonic(1-50).pqa2"), P::fileHead())); // its first block is missing
     QCOMPARE(recover("begun", "kept"), Recovery::Done);
-    QCOMPARE(QDir(path("kept")).entryList(QDir::Files), QStringList({ "Common.pqa2", "Common_2.pqa2" }));
+    QCOMPARE(QDir(path("kept")).entryList(QDir::Files), QStringList({ "Common.pqa2", "Common_2.pqa2", kMark }));
     QCOMPARE(wholeTimes("kept", "frequency").size(), 5);
 }
 
@@ -160,7 +168,7 @@ void TstRecovery::partThatWasJustBegunLeavesTheEndToTheOneBefore()
     QVERIFY(P::recording(3).save(path("change/Common.pqa2")));
     QVERIFY(P::save(path("change/Common_2.pqa2"), P::fileHead().left(23)));
     QCOMPARE(recover("change", "ended"), Recovery::Done);
-    QCOMPARE(QDir(path("ended")).entryList(QDir::Files), QStringList({ "Common.pqa2" }));
+    QCOMPARE(QDir(path("ended")).entryList(QDir::Files), QStringList({ "Common.pqa2", kMark }));
     QCOMPARE(wholeTimes("ended", "frequency").size(), 3);
 }
 
@@ -170,7 +178,7 @@ void TstRecovery::missingPartsAreClosedUp()
     QVERIFY(P::recording(2).save(path("gap/Common.pqa2")));
     QVERIFY(P::recording(3).end(kSeconds + 9).save(path("gap/Common_3.pqa2")));
     QCOMPARE(recover("gap", "closed"), Recovery::Done);
-    QCOMPARE(QDir(path("closed")).entryList(QDir::Files), QStringList({ "Common.pqa2", "Common_2.pqa2" }));
+    QCOMPARE(QDir(path("closed")).entryList(QDir::Files), QStringList({ "Common.pqa2", "Common_2.pqa2", kMark }));
     QCOMPARE(wholeTimes("closed", "frequency").size(), 5);
 }
 
@@ -240,6 +248,36 @@ void TstRecovery::outputInsideTheInputIsRefused()
     QVERIFY(!error.isEmpty());
     QCOMPARE(QDir(path("input")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
              QStringList({ "Common.pqa2" }));
+}
+
+void TstRecovery::originalsAreNotReplacedByACopy()
+{
+    QVERIFY(QDir().mkpath(path("torn")) && QDir().mkpath(path("original")));
+    QVERIFY(P::recording(3).save(path("torn/Common.pqa2")));
+    const QByteArray original = P::recording(5).end(kSeconds + 9).bytes();
+    QVERIFY(P::save(path("original/Common.pqa2"), original) && P::save(path("original.pqa2"), original));
+    QCOMPARE(recoverOver("torn", "original"), Recovery::Failed);
+    QVERIFY2(error.contains("holds the recording \"Common.pqa2\""), qPrintable(error));
+    QCOMPARE(recoverOver("torn/Common.pqa2", "original.pqa2"), Recovery::Failed);
+    QVERIFY2(error.contains("is a recording and is not replaced"), qPrintable(error));
+    QCOMPARE(P::bytesOf(path("original/Common.pqa2")), original);
+    QCOMPARE(P::bytesOf(path("original.pqa2")), original);
+    // An earlier copy is.
+    QCOMPARE(recoverOver("original", "again"), Recovery::Done);
+    QCOMPARE(recoverOver("torn", "again"), Recovery::Done);
+    QCOMPARE(wholeTimes("again", "frequency").size(), 3);
+}
+
+void TstRecovery::copyTellsWhatItWasMadeOf()
+{
+    QVERIFY(QDir().mkpath(path("240118_161500 Record 1")));
+    const QByteArray bytes = P::recording(3).bytes();
+    QVERIFY(P::save(path("240118_161500 Record 1/Common.pqa2"), bytes));
+    QCOMPARE(recover("240118_161500 Record 1/", "told"), Recovery::Done);
+    QCOMPARE(P::bytesOf(path("told/") + kMark),
+             "What could be read of \"240118_161500 Record 1\", copied by quvera-files.\n"
+             "Common.pqa2: byte "
+                 + QByteArray::number(bytes.size()) + ": the recording has no end\n");
 }
 
 QTEST_APPLESS_MAIN(TstRecovery)
