@@ -2060,10 +2060,6 @@ Supprimez des fichiers en mémoire.</translation>
         <translation>intervalles de plus de trois secondes</translation>
     </message>
     <message>
-        <source>there is no complete value</source>
-        <translation>aucune valeur complète</translation>
-    </message>
-    <message>
         <source>it was not recorded</source>
         <translation>non enregistré</translation>
     </message>
@@ -2230,6 +2226,22 @@ Supprimez des fichiers en mémoire.</translation>
     <message>
         <source>As far as it was judged, the supply complies with %1.</source>
         <translation>Pour ce qui a été évalué, l&apos;alimentation est conforme à %1.</translation>
+    </message>
+    <message>
+        <source>each of its intervals is incomplete or has an interruption</source>
+        <translation>chacun de ses intervalles est incomplet ou comporte une coupure</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply did not keep to the limits of %1.</source>
+        <translation>Indication sur moins d&apos;une semaine (%2) : l&apos;alimentation n&apos;a pas respecté les limites de %1.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): as far as it was judged, the supply kept to the limits of %1.</source>
+        <translation>Indication sur moins d&apos;une semaine (%2) : pour ce qui a été évalué, l&apos;alimentation a respecté les limites de %1.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
+        <translation>Indication sur moins d&apos;une semaine (%2) : l&apos;alimentation a respecté les limites de %1.</translation>
     </message>
 </context>
 <context>

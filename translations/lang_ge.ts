@@ -2060,10 +2060,6 @@ Bitte im Speicher Dateien löschen.</translation>
         <translation>Intervalle länger als drei Sekunden</translation>
     </message>
     <message>
-        <source>there is no complete value</source>
-        <translation>kein vollständiger Wert</translation>
-    </message>
-    <message>
         <source>it was not recorded</source>
         <translation>nicht aufgezeichnet</translation>
     </message>
@@ -2230,6 +2226,22 @@ Bitte im Speicher Dateien löschen.</translation>
     <message>
         <source>As far as it was judged, the supply complies with %1.</source>
         <translation>Soweit bewertet, hält die Versorgung %1 ein.</translation>
+    </message>
+    <message>
+        <source>each of its intervals is incomplete or has an interruption</source>
+        <translation>jedes seiner Intervalle ist unvollständig oder enthält eine Unterbrechung</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply did not keep to the limits of %1.</source>
+        <translation>Anhalt aus weniger als einer Woche (%2): Die Versorgung hielt die Grenzen von %1 nicht ein.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): as far as it was judged, the supply kept to the limits of %1.</source>
+        <translation>Anhalt aus weniger als einer Woche (%2): Soweit bewertet, hielt die Versorgung die Grenzen von %1 ein.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
+        <translation>Anhalt aus weniger als einer Woche (%2): Die Versorgung hielt die Grenzen von %1 ein.</translation>
     </message>
 </context>
 <context>

@@ -2060,10 +2060,6 @@ Eliminare file nella memoria.</translation>
         <translation>intervalli più lunghi di tre secondi</translation>
     </message>
     <message>
-        <source>there is no complete value</source>
-        <translation>nessun valore completo</translation>
-    </message>
-    <message>
         <source>it was not recorded</source>
         <translation>non registrato</translation>
     </message>
@@ -2230,6 +2226,22 @@ Eliminare file nella memoria.</translation>
     <message>
         <source>As far as it was judged, the supply complies with %1.</source>
         <translation>Per quanto valutato, l&apos;alimentazione è conforme a %1.</translation>
+    </message>
+    <message>
+        <source>each of its intervals is incomplete or has an interruption</source>
+        <translation>ogni suo intervallo è incompleto o contiene un&apos;interruzione</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply did not keep to the limits of %1.</source>
+        <translation>Indicazione su meno di una settimana (%2): l&apos;alimentazione non ha rispettato i limiti di %1.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): as far as it was judged, the supply kept to the limits of %1.</source>
+        <translation>Indicazione su meno di una settimana (%2): per quanto valutato, l&apos;alimentazione ha rispettato i limiti di %1.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
+        <translation>Indicazione su meno di una settimana (%2): l&apos;alimentazione ha rispettato i limiti di %1.</translation>
     </message>
 </context>
 <context>

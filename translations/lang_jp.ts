@@ -2060,10 +2060,6 @@ Delete files in Memory.</source>
         <translation>区間が3秒を超えています</translation>
     </message>
     <message>
-        <source>there is no complete value</source>
-        <translation>完全な値がありません</translation>
-    </message>
-    <message>
         <source>it was not recorded</source>
         <translation>記録されていません</translation>
     </message>
@@ -2230,6 +2226,22 @@ Delete files in Memory.</source>
     <message>
         <source>As far as it was judged, the supply complies with %1.</source>
         <translation>判定した範囲では、電源は%1に適合しています。</translation>
+    </message>
+    <message>
+        <source>each of its intervals is incomplete or has an interruption</source>
+        <translation>どの区間も不完全か、停電を含んでいます</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply did not keep to the limits of %1.</source>
+        <translation>1週間未満（%2）の目安：電源は%1の限度値を外れました。</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): as far as it was judged, the supply kept to the limits of %1.</source>
+        <translation>1週間未満（%2）の目安：判定した範囲では、電源は%1の限度値内でした。</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
+        <translation>1週間未満（%2）の目安：電源は%1の限度値内でした。</translation>
     </message>
 </context>
 <context>

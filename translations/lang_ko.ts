@@ -2060,10 +2060,6 @@ Delete files in Memory.</source>
         <translation>구간이 3초보다 김</translation>
     </message>
     <message>
-        <source>there is no complete value</source>
-        <translation>완전한 값이 없음</translation>
-    </message>
-    <message>
         <source>it was not recorded</source>
         <translation>기록되지 않음</translation>
     </message>
@@ -2230,6 +2226,22 @@ Delete files in Memory.</source>
     <message>
         <source>As far as it was judged, the supply complies with %1.</source>
         <translation>판정한 범위에서 전원이 %1에 적합합니다.</translation>
+    </message>
+    <message>
+        <source>each of its intervals is incomplete or has an interruption</source>
+        <translation>모든 구간이 불완전하거나 정전을 포함함</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply did not keep to the limits of %1.</source>
+        <translation>1주 미만(%2)의 참고 결과: 전원이 %1의 한계값을 벗어났습니다.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): as far as it was judged, the supply kept to the limits of %1.</source>
+        <translation>1주 미만(%2)의 참고 결과: 판정한 범위에서 전원이 %1의 한계값 안에 있었습니다.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
+        <translation>1주 미만(%2)의 참고 결과: 전원이 %1의 한계값 안에 있었습니다.</translation>
     </message>
 </context>
 <context>

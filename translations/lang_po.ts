@@ -2060,10 +2060,6 @@ Usuń pliki w pamięci.</translation>
         <translation>przedziały dłuższe niż trzy sekundy</translation>
     </message>
     <message>
-        <source>there is no complete value</source>
-        <translation>brak pełnej wartości</translation>
-    </message>
-    <message>
         <source>it was not recorded</source>
         <translation>nie zapisano</translation>
     </message>
@@ -2230,6 +2226,22 @@ Usuń pliki w pamięci.</translation>
     <message>
         <source>As far as it was judged, the supply complies with %1.</source>
         <translation>W ocenionym zakresie zasilanie spełnia %1.</translation>
+    </message>
+    <message>
+        <source>each of its intervals is incomplete or has an interruption</source>
+        <translation>każdy z przedziałów jest niepełny lub zawiera przerwę</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply did not keep to the limits of %1.</source>
+        <translation>Orientacyjnie, mniej niż tydzień (%2): zasilanie nie mieściło się w granicach %1.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): as far as it was judged, the supply kept to the limits of %1.</source>
+        <translation>Orientacyjnie, mniej niż tydzień (%2): w ocenionym zakresie zasilanie mieściło się w granicach %1.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
+        <translation>Orientacyjnie, mniej niż tydzień (%2): zasilanie mieściło się w granicach %1.</translation>
     </message>
 </context>
 <context>

@@ -2060,10 +2060,6 @@ Elimine ficheiros na memória.</translation>
         <translation>intervalos superiores a três segundos</translation>
     </message>
     <message>
-        <source>there is no complete value</source>
-        <translation>não há nenhum valor completo</translation>
-    </message>
-    <message>
         <source>it was not recorded</source>
         <translation>não foi registado</translation>
     </message>
@@ -2230,6 +2226,22 @@ Elimine ficheiros na memória.</translation>
     <message>
         <source>As far as it was judged, the supply complies with %1.</source>
         <translation>No que foi avaliado, a alimentação cumpre %1.</translation>
+    </message>
+    <message>
+        <source>each of its intervals is incomplete or has an interruption</source>
+        <translation>cada um dos seus intervalos está incompleto ou tem uma interrupção</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply did not keep to the limits of %1.</source>
+        <translation>Indicativo, menos de uma semana (%2): a alimentação não respeitou os limites de %1.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): as far as it was judged, the supply kept to the limits of %1.</source>
+        <translation>Indicativo, menos de uma semana (%2): no que foi avaliado, a alimentação respeitou os limites de %1.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
+        <translation>Indicativo, menos de uma semana (%2): a alimentação respeitou os limites de %1.</translation>
     </message>
 </context>
 <context>

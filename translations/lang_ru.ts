@@ -2060,10 +2060,6 @@ Delete files in Memory.</source>
         <translation>интервалы длиннее трёх секунд</translation>
     </message>
     <message>
-        <source>there is no complete value</source>
-        <translation>нет полного значения</translation>
-    </message>
-    <message>
         <source>it was not recorded</source>
         <translation>не записано</translation>
     </message>
@@ -2230,6 +2226,22 @@ Delete files in Memory.</source>
     <message>
         <source>As far as it was judged, the supply complies with %1.</source>
         <translation>В оценённой части питание соответствует %1.</translation>
+    </message>
+    <message>
+        <source>each of its intervals is incomplete or has an interruption</source>
+        <translation>каждый интервал неполный или содержит прерывание</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply did not keep to the limits of %1.</source>
+        <translation>Ориентировочно, менее недели (%2): питание выходило за нормы %1.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): as far as it was judged, the supply kept to the limits of %1.</source>
+        <translation>Ориентировочно, менее недели (%2): в оценённой части питание не выходило за нормы %1.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
+        <translation>Ориентировочно, менее недели (%2): питание не выходило за нормы %1.</translation>
     </message>
 </context>
 <context>

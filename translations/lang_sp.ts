@@ -2060,10 +2060,6 @@ Borre archivos en la memoria.</translation>
         <translation>intervalos de más de tres segundos</translation>
     </message>
     <message>
-        <source>there is no complete value</source>
-        <translation>no hay ningún valor completo</translation>
-    </message>
-    <message>
         <source>it was not recorded</source>
         <translation>no se registró</translation>
     </message>
@@ -2230,6 +2226,22 @@ Borre archivos en la memoria.</translation>
     <message>
         <source>As far as it was judged, the supply complies with %1.</source>
         <translation>En lo evaluado, el suministro cumple %1.</translation>
+    </message>
+    <message>
+        <source>each of its intervals is incomplete or has an interruption</source>
+        <translation>cada uno de sus intervalos está incompleto o tiene una interrupción</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply did not keep to the limits of %1.</source>
+        <translation>Orientativo, menos de una semana (%2): el suministro no respetó los límites de %1.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): as far as it was judged, the supply kept to the limits of %1.</source>
+        <translation>Orientativo, menos de una semana (%2): en lo evaluado, el suministro respetó los límites de %1.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
+        <translation>Orientativo, menos de una semana (%2): el suministro respetó los límites de %1.</translation>
     </message>
 </context>
 <context>

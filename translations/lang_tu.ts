@@ -2060,10 +2060,6 @@ Bellekten dosya silin.</translation>
         <translation>aralıklar üç saniyeden uzun</translation>
     </message>
     <message>
-        <source>there is no complete value</source>
-        <translation>tam değer yok</translation>
-    </message>
-    <message>
         <source>it was not recorded</source>
         <translation>kaydedilmedi</translation>
     </message>
@@ -2230,6 +2226,22 @@ Bellekten dosya silin.</translation>
     <message>
         <source>As far as it was judged, the supply complies with %1.</source>
         <translation>Değerlendirilen kısmıyla besleme %1 ile uyumlu.</translation>
+    </message>
+    <message>
+        <source>each of its intervals is incomplete or has an interruption</source>
+        <translation>her aralığı eksik ya da kesinti içeriyor</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply did not keep to the limits of %1.</source>
+        <translation>Bir haftadan kısa (%2), gösterge niteliğinde: besleme %1 sınırları dışına çıktı.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): as far as it was judged, the supply kept to the limits of %1.</source>
+        <translation>Bir haftadan kısa (%2), gösterge niteliğinde: değerlendirilen kısmıyla besleme %1 sınırları içinde kaldı.</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
+        <translation>Bir haftadan kısa (%2), gösterge niteliğinde: besleme %1 sınırları içinde kaldı.</translation>
     </message>
 </context>
 <context>

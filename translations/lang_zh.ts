@@ -2060,10 +2060,6 @@ Delete files in Memory.</source>
         <translation>时段长于三秒</translation>
     </message>
     <message>
-        <source>there is no complete value</source>
-        <translation>没有完整的数值</translation>
-    </message>
-    <message>
         <source>it was not recorded</source>
         <translation>未记录</translation>
     </message>
@@ -2230,6 +2226,22 @@ Delete files in Memory.</source>
     <message>
         <source>As far as it was judged, the supply complies with %1.</source>
         <translation>在已评定的范围内，供电符合 %1。</translation>
+    </message>
+    <message>
+        <source>each of its intervals is incomplete or has an interruption</source>
+        <translation>其每个时段都不完整或含有中断</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply did not keep to the limits of %1.</source>
+        <translation>不足一周（%2），仅供参考：供电超出了 %1 的限值。</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): as far as it was judged, the supply kept to the limits of %1.</source>
+        <translation>不足一周（%2），仅供参考：在已评定的范围内，供电未超出 %1 的限值。</translation>
+    </message>
+    <message>
+        <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
+        <translation>不足一周（%2），仅供参考：供电未超出 %1 的限值。</translation>
     </message>
 </context>
 <context>

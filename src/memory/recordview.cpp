@@ -12,7 +12,7 @@ namespace {
 
 constexpr int kLeft = 12, kRight = 628; // pixels
 constexpr int kFactsTop = 8, kFactStep = 22, kFactValue = 130;
-constexpr int kHeadlineTop = kFactsTop + 5 * kFactStep + 4, kHeadlineHeight = 30;
+constexpr int kHeadlineTop = kFactsTop + 5 * kFactStep + 4, kHeadlineHeight = 40;
 constexpr int kNoteTop = kHeadlineTop + kHeadlineHeight, kNoteHeight = 18;
 constexpr int kTableTop = kNoteTop + kNoteHeight + 4, kRowStep = 20;
 constexpr QRect kBack(510, 443, 125, 33);
@@ -163,9 +163,13 @@ void RecordView::paintFacts(QPainter &painter) const
         write(painter, QRect(kFactValue, top, kRight - kFactValue, kFactStep), fact.second);
         top += kFactStep;
     }
-    ChartParts::setFontPixels(painter, 20);
     painter.setPen(colorOf(m_tone));
-    write(painter, QRect(kLeft, kHeadlineTop, kRight - kLeft, kHeadlineHeight), m_headline);
+    // That of a short recording says on how little it rests and takes two lines.
+    const QRect headline(kLeft, kHeadlineTop, kRight - kLeft, kHeadlineHeight);
+    ChartParts::setFontPixels(painter, 20);
+    if (painter.fontMetrics().horizontalAdvance(m_headline) > headline.width())
+        ChartParts::setFontPixels(painter, 15);
+    painter.drawText(headline, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap, m_headline);
     ChartParts::setFontPixels(painter, 13);
     painter.setPen(colorOf(Tone::Weak));
     write(painter, QRect(kLeft, kNoteTop, kRight - kLeft, kNoteHeight), m_note);

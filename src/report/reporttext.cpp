@@ -263,7 +263,7 @@ QString Report::reason(NotJudgedBecause why)
     case NotJudgedBecause::NoNominal:
         return tr("its nominal value is not known");
     case NotJudgedBecause::NoValue:
-        return tr("there is no complete value");
+        return tr("each of its intervals is incomplete or has an interruption");
     case NotJudgedBecause::NotRecorded:
         break;
     }

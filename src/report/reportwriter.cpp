@@ -46,19 +46,31 @@ ReportContent ReportWriter::content()
 QString ReportWriter::headline(Tone *tone) const
 {
     const Outcome outcome = m_judgement.outcome();
-    const QString name = m_judgement.limitsName.simplified();
     *tone = toneOf(outcome);
-    if (outcome == Outcome::Fail)
-        return Report::tr("The supply does not comply with %1.").arg(name);
-    if (outcome == Outcome::Pass && m_judgement.leavesOut()) {
+    if (outcome != Outcome::Pass && outcome != Outcome::Fail)
+        return m_judgement.overview.hasVoltage && !m_judgement.overview.hasLiveVoltage
+            ? Report::tr("There was no voltage: nothing can be judged.")
+            : Report::tr("The recording holds nothing that can be judged.");
+    const QString name = m_judgement.limitsName.simplified();
+    const bool fails = outcome == Outcome::Fail;
+    const bool leavesOut = !fails && m_judgement.leavesOut();
+    const bool isIndication = !m_judgement.weeks.isWhole();
+    if (!fails && (leavesOut || isIndication))
         *tone = Tone::Plain;
-        return Report::tr("As far as it was judged, the supply complies with %1.").arg(name);
+    if (!isIndication) {
+        const QString text = fails ? Report::tr("The supply does not comply with %1.")
+            : leavesOut            ? Report::tr("As far as it was judged, the supply complies with %1.")
+                                   : Report::tr("The supply complies with %1.");
+        return text.arg(name);
     }
-    if (outcome == Outcome::Pass)
-        return Report::tr("The supply complies with %1.").arg(name);
-    return m_judgement.overview.hasVoltage && !m_judgement.overview.hasLiveVoltage
-        ? Report::tr("There was no voltage: nothing can be judged.")
-        : Report::tr("The recording holds nothing that can be judged.");
+    // Whoever reads nothing but this has to see how much it rests on.
+    const QString text = fails
+        ? Report::tr("Indication from less than a week (%2): the supply did not keep to the limits of %1.")
+        : leavesOut
+        ? Report::tr("Indication from less than a week (%2): as far as it was judged, the supply kept to the limits of "
+                     "%1.")
+        : Report::tr("Indication from less than a week (%2): the supply kept to the limits of %1.");
+    return text.arg(name, m_text.duration(m_judgement.overview.length()));
 }
 
 QString ReportWriter::reservation() const

@@ -23,7 +23,7 @@ public:
 
     /// The table of the first page, for others to show.
     ReportTable verdictTable() const;
-    /// "The supply complies with EN50160." and its tone.
+    /// "The supply complies with EN50160." and its tone. Shorter recordings than a week are an indication.
     QString headline(Tone *tone) const;
     /// What the verdict is worth when the recording has no whole week; empty otherwise.
     QString reservation() const;

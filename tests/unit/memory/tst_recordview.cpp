@@ -66,7 +66,9 @@ void TstRecordView::aMonitorsRunShowsItsVerdict()
     Screen screen;
     const RecordView *view = opened(screen);
     QVERIFY(view);
-    QCOMPARE(view->headline(), QStringLiteral("The supply does not comply with EN50160."));
+    QCOMPARE(view->headline(),
+             QStringLiteral("Indication from less than a week (1 d 00:00:00): the supply did not keep to the "
+                            "limits of EN50160."));
     QCOMPARE(factOf(*view, "State"), QStringLiteral("whole"));
     QCOMPARE(factOf(*view, "Duration"), QStringLiteral("1 d 00:00:00"));
     QVERIFY(factOf(*view, "What").contains(kFolder));

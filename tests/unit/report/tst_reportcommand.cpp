@@ -152,7 +152,7 @@ void TstReportCommand::aLimitSetsFileJudges()
               "<partial lower=\"0.1\" upper=\"0.1\"/></Voltage></limits>");
     set.close();
     QCOMPARE(run({ stored("good.pqa2"), "--html", "a.html", "--limits", output("plant.xml") }), 0);
-    QVERIFY(content("a.html").contains("The supply does not comply with Plant &lt;7&gt;."));
+    QVERIFY(content("a.html").contains("the supply did not keep to the limits of Plant &lt;7&gt;."));
 }
 
 void TstReportCommand::nothingElseIsWritten()

@@ -6,6 +6,7 @@
 
 #include <QBuffer>
 #include <QDir>
+#include <QRegularExpression>
 #include <QTest>
 #include <QXmlStreamReader>
 
@@ -72,13 +73,18 @@ const TstWrittenReport::Case &TstWrittenReport::report(const QString &name, bool
 
 namespace {
 
-QString verdictOf(const ReportContent &content)
+ReportBlock headlineOf(const ReportContent &content)
 {
     for (const ReportBlock &block : content.blocks) {
         if (block.kind == ReportBlock::Verdict)
-            return block.text;
+            return block;
     }
     return {};
+}
+
+QString verdictOf(const ReportContent &content)
+{
+    return headlineOf(content).text;
 }
 
 bool says(const ReportContent &content, const QString &text)
@@ -104,6 +110,7 @@ void TstWrittenReport::aCleanWeekKeepsToTheStandard()
     // 0.01 V.
     QVERIFY(voltage->highest > 234.99 && voltage->highest <= 235.0);
     QVERIFY(!says(made.content, "indication"));
+    QCOMPARE(headlineOf(made.content).tone, Tone::Good);
 }
 
 void TstWrittenReport::aBadWeekDoesNot()
@@ -130,7 +137,10 @@ void TstWrittenReport::tenMinutesAreAnIndication()
 {
     const Case &made = report("short.pqa2");
     // Nobody takes ten minutes for all of the standard: two hours make the first long-term flicker.
-    QCOMPARE(verdictOf(made.content), QStringLiteral("As far as it was judged, the supply complies with EN50160."));
+    QCOMPARE(verdictOf(made.content),
+             QStringLiteral("Indication from less than a week (00:10:00): as far as it was judged, the supply kept to "
+                            "the limits of EN50160."));
+    QVERIFY(says(made.content, "Flicker Plt could not be judged: it was not recorded."));
     QVERIFY(says(made.content, "shorter than a week"));
     QCOMPARE(made.judgement->find({ Quantity::Voltage, 0, 0 })->judged, 1);
     QVERIFY(!made.judgement->find({ Quantity::Plt, 0, 0 }));
@@ -149,6 +159,11 @@ void TstWrittenReport::aCutRecordingIsJudgedUpToTheCut()
     QCOMPARE(made.source.state, RecordState::Cut);
     QVERIFY(says(made.content, "The recording is not whole."));
     const qint64 judged = made.judgement->find({ Quantity::Voltage, 0, 0 })->judged;
+    QString verdict = verdictOf(made.content);
+    static const QRegularExpression length(QStringLiteral("1[4-6]:[0-5]\\d:[0-5]\\d"));
+    QCOMPARE(verdict.replace(length, QStringLiteral("TIME")),
+             QStringLiteral("Indication from less than a week (TIME): the supply kept to the limits of EN50160."));
+    QCOMPARE(headlineOf(made.content).tone, Tone::Plain);
     QVERIFY2(judged > 85 && judged < 100, qPrintable(QString::number(judged))); // two thirds of 144
 }
 
