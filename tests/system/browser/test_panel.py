@@ -21,6 +21,34 @@ from selenium.webdriver.common.keys import Keys
 
 BIN = sys.argv.pop(1)
 PATIENCE = 120  # s, ends a hang only
+# What can be read, each with the contrast between its letters and the least favourable colour behind them.
+CONTRASTS = """
+const parse = (text) => { const n = text.match(/[\\d.]+/g).map(Number); return [n[0], n[1], n[2], n.length > 3 ? n[3] : 1]; };
+const over = (top, under) => [0, 1, 2].map((i) => top[i] * top[3] + under[i] * (1 - top[3])).concat(1);
+const light = (c) => { const [r, g, b] = c.map((v) => { v /= 255; return v <= 0.04045 ? v / 12.92 : ((v + 0.055) / 1.055) ** 2.4; });
+  return 0.2126 * r + 0.7152 * g + 0.0722 * b; };
+const ratio = (a, b) => { const [x, y] = [light(a), light(b)]; return (Math.max(x, y) + 0.05) / (Math.min(x, y) + 0.05); };
+function behind(element) {
+  if (!element) return [[255, 255, 255, 1]];
+  const style = getComputedStyle(element);
+  const image = style.backgroundImage.includes('gradient') ? style.backgroundImage.match(/rgba?\\([^)]*\\)/g).map(parse) : null;
+  const own = image || [parse(style.backgroundColor)];
+  if (own.every((colour) => colour[3] === 1)) return own;
+  return own.flatMap((colour) => behind(element.parentElement).map((under) => over(colour, under)));
+}
+const found = [];
+for (const element of document.querySelectorAll('body *')) {
+  const text = element.matches('select') ? element.selectedOptions[0]?.textContent
+    : [...element.childNodes].filter((node) => node.nodeType === 3).map((node) => node.data.trim()).join('');
+  if (!text || !element.checkVisibility() || element.closest('.unseen, option, script')) continue;
+  const style = getComputedStyle(element);
+  found.push([text, Math.min(...behind(element).map((colour) => ratio(over(parse(style.color), colour), colour)))]);
+}
+return found;
+"""
+# All that may stand at the inputs, by the name of its control.
+CONTROLS = ("scenario", "volts", "frequency", "amps", "harmonic", "dip", "usbIn", "usbOut", "battery", "charger", "cable",
+            "speed", "fault", "late", "faultOff")
 KEYS = {"Scope": "F6", "Menu": "F7", "Monitor": "F8", "Setup": "F9", "Memory": "F10", "Save": "F11", "Light": "F12"}
 
 
@@ -43,16 +71,21 @@ def free_port(kind):
 class Desk:
     """The three programs under a root of their own."""
 
-    def __init__(self, root):
+    def __init__(self, root, starts=True):
         self.root = root
+        self.processor = self.instrument = None
         self.environment = dict(
             os.environ, QUVERA_ROOT=root, QUVERA_REMOTE_PORT=str(free_port(socket.SOCK_DGRAM)),
             QUVERA_MODBUS_PORT=str(free_port(socket.SOCK_STREAM)), QT_QPA_PLATFORM="offscreen")
-        self.processor = self.begin("quvera-processor", "--scenario", "nominal")
-        eventually(lambda: os.path.exists(root + "/dev/mcasp"), "the processor does not start")
-        self.instrument = self.begin("quvera")
+        if starts:
+            self.start()
         self.panel = self.begin("quvera-panel", "--port", "0", output=subprocess.PIPE)
         self.address = self.panel.stdout.readline().decode().strip()
+
+    def start(self):
+        self.processor = self.begin("quvera-processor", "--scenario", "nominal")
+        eventually(lambda: os.path.exists(self.root + "/dev/mcasp"), "the processor does not start")
+        self.instrument = self.begin("quvera")
 
     def begin(self, name, *arguments, output=None):
         log = open(os.path.join(self.root, name + ".log"), "ab")
@@ -75,7 +108,8 @@ class Desk:
 
     def end(self):
         for process in (self.panel, self.instrument, self.processor):
-            self.stop(process)
+            if process:
+                self.stop(process)
         self.panel.stdout.close()
 
 
@@ -176,6 +210,14 @@ class PanelInABrowser(unittest.TestCase):
                            ("Memory", "Memory"), ("F5", "Monitor")):
             self.press(key)
             self.title_becomes(title)
+
+    def test_touch_presses_a_key(self):
+        place = self.page.execute_script(
+            "const box = document.querySelector('[data-key=Setup]').getBoundingClientRect();"
+            "return {x: box.x + box.width / 2, y: box.y + box.height / 2}")
+        self.page.execute_cdp_cmd("Input.dispatchTouchEvent", {"type": "touchStart", "touchPoints": [place]})
+        self.page.execute_cdp_cmd("Input.dispatchTouchEvent", {"type": "touchEnd", "touchPoints": []})
+        self.title_becomes("Setup")
 
     def test_keys_of_a_keyboard_are_those_of_the_window(self):
         self.type(Keys.F9)
@@ -295,6 +337,69 @@ class PanelInABrowser(unittest.TestCase):
             eventually(lambda: self.screen().get_attribute("data-light") != before, "the light stays")
         self.assertEqual(self.screen().get_attribute("data-light"), "7")
 
+    def test_every_control_stands_at_the_inputs_once(self):
+        self.control("dip")
+        for name in CONTROLS:
+            self.assertEqual(len(self.page.find_elements(By.CSS_SELECTOR, f'[data-control="{name}"]')), 1, name)
+
+    def test_controls_begin_as_things_stand(self):
+        self.put("volts", "volts", 217.5)
+        self.stands("Voltages", "217.5 / 217.5 / 217.5 V")
+        self.put("speed", "factor", "2")
+        self.stands("Speed", "2")
+        self.page.refresh()
+        slider = self.control("volts").find_element(By.NAME, "volts")
+        eventually(lambda: slider.get_property("value") == "217.5", "the slider stands elsewhere")
+        speed = self.control("speed").find_element(By.NAME, "factor")
+        eventually(lambda: speed.get_property("value") == "2", "the speed stands elsewhere")
+        self.put("volts", "phase", "2")
+        self.put("volts", "volts", 210)
+        self.stands("Voltages", "217.5 / 210.0 / 217.5 V")
+        self.put("volts", "phase", "1")  # the slider is that phase's at once
+        self.assertEqual(slider.get_property("value"), "217.5")
+        self.put("speed", "factor", "1")
+        self.stands("Speed", "1")
+
+    def test_letters_stand_out_in_light_and_dark(self):
+        self.control("dip")
+        self.texts()
+        self.addCleanup(self.page.execute_cdp_cmd, "Emulation.setEmulatedMedia", {"features": []})
+        papers = set()
+        for scheme in ("light", "dark"):
+            self.page.execute_cdp_cmd("Emulation.setEmulatedMedia",
+                                      {"features": [{"name": "prefers-color-scheme", "value": scheme}]})
+            papers.add(self.page.find_element(By.TAG_NAME, "body").value_of_css_property("background-color"))
+            measured = self.page.execute_script(CONTRASTS)
+            self.assertGreater(len(measured), 60)
+            self.assertEqual([row for row in measured if row[1] < 4.5], [], scheme)
+        self.assertEqual(len(papers), 2)
+
+    def test_programs_that_read_aloud_find_keys_screen_and_news(self):
+        nodes = self.page.execute_cdp_cmd("Accessibility.getFullAXTree", {})["nodes"]
+        seen = [(node.get("role", {}).get("value"), node.get("name", {}).get("value")) for node in nodes
+                if not node.get("ignored")]
+        for name in ("Scope", "Menu", "Monitor", "Setup", "Memory", "Save", "Light", "Power", "Up", "Left", "Enter", "Right",
+                     "Down"):
+            self.assertIn(("button", name), seen)
+        self.assertEqual([role for role, name in seen if (name or "").startswith("Screen, where")], ["application"])
+        for role, name in (("region", "Front of the instrument"), ("region", "At the inputs"), ("group", "Soft keys"),
+                           ("slider", "Frequency"), ("navigation", "Panel")):
+            self.assertIn((role, name), seen)
+        spoken = self.page.find_element(By.ID, "spoken")
+        self.assertEqual(spoken.get_attribute("aria-live"), "polite")
+        self.press("Setup")
+        eventually(lambda: spoken.get_property("textContent") == "Setup", "the new page is not spoken of")
+
+    def test_focus_goes_as_one_reads(self):
+        self.page.execute_script("document.getElementById('save').focus()")
+        order = []
+        for _ in range(19):
+            self.type(Keys.TAB)
+            order.append(self.page.execute_script(
+                "const at = document.activeElement; return at.id || at.dataset.key || at.textContent"))
+        self.assertEqual(order, ["glass", "F1", "F2", "F3", "F4", "F5", "Scope", "Menu", "Monitor", "Setup", "Memory", "Save",
+                                 "Light", "Power", "Up", "Left", "Enter", "Right", "Down"])
+
     def test_controls_have_names(self):
         self.control("dip")
         nameless = [element.get_attribute("outerHTML")[:80] for element in
@@ -328,13 +433,51 @@ class PanelInABrowser(unittest.TestCase):
 
     def test_instrument_ends_and_starts_behind_it(self):
         start_again = self.desk.restart_instrument()
+        try:
+            self.verify_it_is_gone()
+        finally:
+            start_again()  # for the other tests, too
         gone = self.page.find_element(By.ID, "gone")
-        eventually(gone.is_displayed, "the end goes unnoticed")
-        self.assertIn("does not answer", self.page.find_element(By.ID, "state").text)
-        start_again()
         eventually(lambda: not gone.is_displayed(), "the start goes unnoticed")
         self.press("Setup")
         self.title_becomes("Setup")
+
+    def verify_it_is_gone(self):
+        gone = self.page.find_element(By.ID, "gone")
+        eventually(gone.is_displayed, "the end goes unnoticed")
+        self.assertIn("does not answer", self.page.find_element(By.ID, "state").text)
+        self.assertIn("last picture", gone.text)
+        self.assertIn("grayscale", self.screen().value_of_css_property("filter"))  # no value looks as if it were of now
+        self.page.refresh()  # one who comes now is shown the same
+        eventually(lambda: "last picture" in self.page.find_element(By.ID, "gone").text,
+                   "the old picture passes for a new one")
+
+    def test_processor_ends_and_starts_behind_it(self):
+        self.desk.stop(self.desk.processor)
+        said = self.page.find_element(By.ID, "said")
+        eventually(lambda: said.text == "The processor stand-in does not answer", "the end goes unnoticed")
+        self.desk.processor = self.desk.begin("quvera-processor", "--scenario", "swell")
+        self.stands("Scenario", "swell")
+        eventually(lambda: said.text == "", "the start goes unnoticed")
+        self.put("frequency", "hertz", 51)
+        self.stands("Frequency", "51.0")
+
+    def test_panel_started_first_waits_for_its_instrument(self):
+        alone = os.path.join(self.folder.name, "alone")
+        os.mkdir(alone)
+        desk = Desk(alone, starts=False)
+        self.addCleanup(desk.end)
+        two = browser(os.path.join(self.folder.name, "waits"))
+        self.addCleanup(two.quit)
+        two.get(desk.address)
+        gone = two.find_element(By.ID, "gone")
+        eventually(lambda: "does not answer" in gone.text, "nothing is said")
+        self.assertNotIn("last picture", gone.text)
+        self.assertFalse(two.find_element(By.ID, "save").is_displayed())
+        desk.start()
+        self.title_becomes("Menu", two)
+        eventually(lambda: not gone.is_displayed(), "the start goes unnoticed")
+        eventually(lambda: two.find_elements(By.CSS_SELECTOR, '[data-control="dip"]'), "no controls come")
 
     def test_help_opens_the_guide(self):
         self.press("Setup")

@@ -154,7 +154,9 @@ function showSupply(state) {
   document.getElementById('standing').replaceChildren(...shown.map(([, name, text]) => element('div', {},
     element('dt', { textContent: name }), element('dd', { textContent: text(state) || '–' }))));
   document.getElementById('standing').dataset.there = state.there;
-  if (!state.there) answer('The processor stand-in does not answer', true);
+  const silent = 'The processor stand-in does not answer';
+  if (!state.there) answer(silent, true);
+  else if (document.getElementById('said').textContent === silent) answer('');
   document.getElementById('screen').dataset.light = state.light; // pictures are as bright as ever
   // A control that somebody is at stays as it is.
   for (const panel of panels) if (!panel.row.contains(document.activeElement)) followOne(panel);

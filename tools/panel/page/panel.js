@@ -129,18 +129,23 @@ function showScreen(screen) {
   labelKeys(screen.Keys || '');
   byId('help').href = `guide/${helpFor(screen.Page)}`;
   notes = screen;
+  sayWhatIsShown();
 }
 byId('reading').addEventListener('toggle', () => list(byId('texts'), (notes.Texts || '').split('\n')));
 
 function showInstrument(there, why) {
-  const [title, hint] = byId('gone').children;
+  const title = byId('gone').children[0];
   byId('gone').hidden = there;
   document.body.classList.toggle('gone', !there);
   clearTimeout(complaint);
   lasting = there ? 'The instrument answers' : why;
   setText(byId('state'), lasting);
   setText(title, why);
-  setText(hint, `${notes.png ? 'This is the last picture that came. ' : ''}The panel goes on asking.`);
+  sayWhatIsShown();
+}
+
+function sayWhatIsShown() {
+  setText(byId('gone').children[1], `${notes.png ? 'This is the last picture that came. ' : ''}The panel goes on asking.`);
 }
 
 function listen() {
