@@ -49,10 +49,10 @@ Page endingMeasurement(Page page)
     return page;
 }
 
-/// Flicker when twelve times ten minutes of the clock are over.
+/// Flicker when its first values of ten minutes have come.
 Page flickerOfASite()
 {
-    Page page = fromMenu("site-flicker", "flicker", { "Wait7920: table", "F4: trend" }, "", false, false);
+    Page page = fromMenu("site-flicker", "flicker", { "Wait1500: table", "F4: trend" }, "", false, false);
     page.onRequest = true;
     return page;
 }

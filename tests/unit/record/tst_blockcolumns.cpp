@@ -70,6 +70,7 @@ class TstBlockColumns : public QObject
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void pageListsEveryColumnOfAFourWireRecording();
     void pageListsTheColumnsOfHappenings();
     void pageListsTheColumnsOfLoggers();
@@ -82,6 +83,13 @@ private slots:
     void lengthsOfBlocksAreThoseOfTheFormatPage();
     void namesOfColumnsAreUniqueInEveryWiring();
 };
+
+/// Columns are made by the place of their table's name: none is tried while one is missing.
+void TstBlockColumns::initTestCase()
+{
+    for (const BlockKind &kind : blockKinds())
+        QVERIFY2(recordTableNames().contains(kind.table), kind.table);
+}
 
 void TstBlockColumns::pageListsEveryColumnOfAFourWireRecording()
 {
