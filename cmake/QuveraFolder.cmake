@@ -139,6 +139,9 @@ function(quvera_fail_on_warnings TEST)
     FAIL_REGULAR_EXPRESSION "QObject::(dis)?connect: ;QObject::(dis)?connect\\(;QMetaObject::connectSlotsByName")
 endfunction()
 
+# What "ctest -L source" runs.
+add_custom_target(source_tests)
+
 # quvera_test(<name> SOURCES <files...> [FOLDER <folder of src>] [LIBS <libraries...>] [LABELS <labels...>] [TIMEOUT <s>]
 #             [VARIANTS <words...>] [LONG_VARIANTS <words...>])
 #   VARIANTS: one test <name><word> for each word, which the executable finds in QUVERA_TEST_VARIANT.
@@ -150,6 +153,9 @@ function(quvera_test NAME)
   set_target_properties(${NAME} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
   target_compile_options(${NAME} PRIVATE ${QUVERA_TEST_OPTIONS})
   quvera_link_quickly(${NAME})
+  if("source" IN_LIST ARG_LABELS)
+    add_dependencies(source_tests ${NAME})
+  endif()
   target_include_directories(${NAME} PRIVATE ${CMAKE_SOURCE_DIR}/src ${CMAKE_SOURCE_DIR}/tests
                              ${CMAKE_BINARY_DIR}/generated)
   target_link_libraries(${NAME} PRIVATE Qt5::Test ${ARG_LIBS})
