@@ -13,7 +13,7 @@ namespace {
 
 constexpr double WindowCycles = 4.0;
 constexpr double LeastAmplitude = 0.02; // converter units: 0.2 % of full scale
-constexpr double LockRange = 0.15; // of the nominal frequency
+constexpr double LockRange = 0.16; // of the nominal frequency; class A ends at 0.15, which noise oversteps
 constexpr double AcquireReach = 4.5; // fundamental cycles past the expected crossing at the lowest frequency looked at
 constexpr double SteadyLimit = 0.004; // cycles between the expected and the found crossing
 constexpr double RemnantPart = 0.1; // of its amplitude before: what is less is what a lost reference left behind

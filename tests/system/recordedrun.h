@@ -39,12 +39,12 @@ public:
     }
 
     /// Begins at once: the ten seconds until then are passed by the clock.
-    static bool begin(const QString &name, int intervalIndex)
+    static bool begin(const QString &name, int intervalIndex, int hours = 1)
     {
         *RecordInfo::m_record_file = name;
         RecordInfo::m_recordItems = 0xFFFF;
         RecordInfo::m_interval_index = intervalIndex;
-        RecordInfo::m_duration = 1;
+        RecordInfo::m_duration = hours;
         m_taskmanage->enableRecord();
         Clock::advance(11000);
         const bool begins = LiveGraph::runUntil([] { return g_unitask->isRecording(); }, 1);

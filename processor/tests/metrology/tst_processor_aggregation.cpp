@@ -214,6 +214,24 @@ TEST(frequencyIsNegativeWithoutASignal)
     }
 }
 
+TEST(endsOfTheRangeOfFrequenciesAreMeasured)
+{
+    // IEC 61000-4-30, class A: 42.5 Hz to 57.5 Hz, 51 Hz to 69 Hz. Noise takes the measured value beyond.
+    const double ends[][2] = { { 50, 42.5 }, { 50, 57.5 }, { 60, 51 }, { 60, 69 } };
+    for (const auto &[rated, hertz] : ends) {
+        Rig rig(SignalSpec::threePhase(230.0, rated), nominal(int(rated)));
+        rig.frontEnd.setNoise(0.4);
+        rig.run(1.3);
+        rig.synthesiser.setSpec(SignalSpec::threePhase(230.0, hertz));
+        rig.run(10.0);
+        CHECK(rig.recorder.aggregations.size() >= 40);
+        for (const auto &item : rig.recorder.aggregations) {
+            if (item.timeMs > Rig::StartMs + 2500)
+                CHECK_NEAR(double(item.payload.frequency), hertz, 0.01);
+        }
+    }
+}
+
 TEST(frequencyOutOfTheLockRangeIsNegative)
 {
     for (double hertz : { 30.0, 70.0, 400.0 }) {

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "testpaths.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QHash>
+#include <QProcess>
+#include <QVector>
+
+#include <limits>
+
+namespace SystemTest {
+
+/// The tables that `quvera-files export --csv` makes of a recording.
+class ExportedTables
+{
+public:
+    struct Cell
+    {
+        qint64 time; // ms since 1970
+        double value; // NaN where there is none
+    };
+
+    /// What the tool says when it fails; nothing when all is well.
+    static QByteArray exportTo(const QString &folder, const QString &recording)
+    {
+        QProcess tool;
+        tool.setProcessChannelMode(QProcess::MergedChannels);
+        tool.start(QStringLiteral(QUVERA_BIN_DIR "/quvera-files"), { "export", recording, "--csv", folder });
+        const bool ended = tool.waitForFinished(-1) && tool.exitStatus() == QProcess::NormalExit;
+        return ended && tool.exitCode() == 0 ? QByteArray() : tool.readAll() + " (it failed)";
+    }
+
+    explicit ExportedTables(const QString &folder) : m_folder(folder) { }
+
+    /// A column of a table; nothing where it is missing.
+    QVector<Cell> column(const QString &table, const QString &name)
+    {
+        const QList<QByteArrayList> &lines = rows(table);
+        QVector<Cell> cells;
+        const int place = lines.isEmpty() ? -1 : lines.first().indexOf(name.toUtf8());
+        for (int i = 1; i < lines.size() && place > 0; ++i) {
+            bool isNumber = false;
+            const double value = lines[i].value(place).toDouble(&isNumber);
+            const QDateTime time = QDateTime::fromString(QString::fromUtf8(lines[i].first()), Qt::ISODateWithMs);
+            cells.append({ time.toMSecsSinceEpoch(), isNumber ? value : std::numeric_limits<double>::quiet_NaN() });
+        }
+        return cells;
+    }
+
+private:
+    const QList<QByteArrayList> &rows(const QString &table)
+    {
+        if (!m_tables.contains(table)) {
+            QFile file(m_folder + QLatin1Char('/') + table + QStringLiteral(".csv"));
+            QList<QByteArrayList> &lines = m_tables[table];
+            while (file.isOpen() || file.open(QIODevice::ReadOnly)) {
+                const QByteArray line = file.readLine();
+                if (line.isEmpty())
+                    break;
+                lines.append(line.trimmed().split(','));
+            }
+        }
+        return m_tables[table];
+    }
+
+    const QString m_folder;
+    QHash<QString, QList<QByteArrayList>> m_tables;
+};
+
+} // namespace SystemTest
