@@ -1833,7 +1833,7 @@ Delete files in Memory.</source>
     </message>
     <message>
         <source>Voltage left and duration of dips, swells and interruptions</source>
-        <translation>Остаточное напряжение и длительность провалов, перенапряжений и прерываний</translation>
+        <translation>Остаточное напряжение и длительность событий</translation>
     </message>
     <message>
         <source>Interruption</source>

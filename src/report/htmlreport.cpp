@@ -47,7 +47,7 @@ svg .f-limit { fill: var(--limit); } svg .f-good { fill: var(--good); } svg .f-b
   h2 { break-after: avoid; }
   section:first-of-type { break-before: page; }
   table { font-size: 7.5pt; }
-  figure, tr, li { break-inside: avoid; }
+  figure, tr, li, .facts { break-inside: avoid; }
   thead { display: table-header-group; }
   a { text-decoration: none; }
 }
@@ -146,7 +146,8 @@ QByteArray svg(const Drawing &drawing)
 
 QByteArray htmlTable(const ReportTable &table)
 {
-    QByteArray text = "<div class=\"wide\"><table>\n";
+    // One without a head is of a few facts, which stay on one page.
+    QByteArray text = QByteArray("<div class=\"wide") + (table.head.isEmpty() ? " facts" : "") + "\"><table>\n";
     if (!table.caption.isEmpty())
         text += "<caption>" + quoted(table.caption) + "</caption>\n";
     if (!table.head.isEmpty()) {

@@ -18,6 +18,21 @@ double roundStep(double range, int count)
     return 10 * power;
 }
 
+namespace {
+
+/// About as wide as a text is drawn: whoever reads the page has fonts of their own.
+double widthOf(const QString &text)
+{
+    constexpr double kLetter = 6.5;
+    constexpr ushort kWide = 0x1100; // from here on signs of East Asia, as wide as they are high
+    double width = 0;
+    for (const QChar sign : text)
+        width += sign.unicode() < kWide ? kLetter : Drawing::kTextHeight;
+    return width;
+}
+
+} // namespace
+
 Plot::Plot(Drawing *drawing, double height, const QString &title)
     : m_drawing(drawing), m_height(height), m_legendRight(Drawing::kWidth - kRight)
 {
@@ -70,10 +85,9 @@ void Plot::frame()
 
 void Plot::legend(Ink ink, const QString &text)
 {
-    constexpr double kSign = 6.5; // width of a letter
     constexpr double kGap = 14;
     m_drawing->text(ink, { m_legendRight, kTop - 10 }, text, Shape::Right);
-    m_legendRight -= kSign * text.size() + kGap;
+    m_legendRight -= widthOf(text) + kGap;
 }
 
 QPointF Plot::at(double x, double y) const

@@ -107,6 +107,7 @@ private slots:
     void unreadableInputMakesNoOutput();
     void recoveredFolderIsWhole();
     void whateverFailsHasOneLine();
+    void diskThatTakesAPartIsNamed();
     void emptyRecordIsExportedAsItIs();
     void namesWithLineFeedsStayInOneLine();
     void namesThatAreNoTextAreReadAndWritten_data();
@@ -311,6 +312,7 @@ void TstFilesTool::whateverFailsHasOneLine()
     QVERIFY(Pqa2Bytes::recording(3).save(path("cut.pqa2")));
     const QVector<QPair<int, QStringList>> calls {
         { 3, { "recover", path("head.pqa2"), "--out", path("out/sound.pqa2") } },
+        { 3, { "info", QString() } },
         { 64, { "export", path("cut.pqa2"), "--csv", path("out") } },
         { 64, { "export", path("cut.pqa2"), "--csv", path("missing/csv") } },
         { 73, { "export", path("cut.pqa2"), "--csv", QStringLiteral("/proc/csv") } },
@@ -324,6 +326,26 @@ void TstFilesTool::whateverFailsHasOneLine()
     }
     const QByteArray line = run(calls.at(0).second).error;
     QVERIFY2(line.contains("head.pqa2: byte 24: ") && line.endsWith("; nothing of it can be recovered\n"), line);
+}
+
+void TstFilesTool::diskThatTakesAPartIsNamed()
+{
+    QVERIFY(makeLarge(1));
+    for (const char *words : { "export --csv", "export --sqlite", "export --influx", "export --pqdif",
+                               "export --pqdif-zlib", "report --html", "report --pdf", "recover --out" }) {
+        QProcess shell; // a file may have 8 KiB; what goes beyond is refused in the middle of a write
+        shell.start(
+            QStringLiteral("bash"),
+            { "-c",
+              QStringLiteral("trap '' XFSZ; ulimit -f 8; exec \"$0\" %1 \"$1\" %2 \"$2\"")
+                  .arg(QString::fromLatin1(words).section(' ', 0, 0), QString::fromLatin1(words).section(' ', 1)),
+              kTool, path("large.pqa2"), path("out/x") });
+        QVERIFY(shell.waitForFinished(kPatience));
+        const QByteArray error = shell.readAllStandardError();
+        QVERIFY2(shell.exitCode() == 73 && error.count('\n') == 1, words + QByteArray(": ") + error);
+        QVERIFY2(error.contains("out/x") && !error.contains("Unknown error"), words + QByteArray(": ") + error);
+        QCOMPARE(entries(path("out")), QStringList());
+    }
 }
 
 void TstFilesTool::emptyRecordIsExportedAsItIs()

@@ -2,11 +2,13 @@
 
 #include "files/delivery.h"
 #include "files/terminal.h"
+#include "record/exports/outputfile.h"
 #include "report/htmlreport.h"
 #include "report/judgerecord.h"
 #include "report/pdfreport.h"
 #include "report/reportlanguage.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QGuiApplication>
 
@@ -20,17 +22,15 @@ const QString kPdf = QStringLiteral("--pdf");
 
 bool write(Output *output, const ReportContent &content, bool isPdf)
 {
-    if (!output->begin())
+    QBuffer pdf;
+    if (!output->begin() || !pdf.open(QIODevice::WriteOnly))
         return false;
-    QFile file(output->path());
-    if (!file.open(QIODevice::WriteOnly))
-        return output->fail({}, file.errorString());
-    const QByteArray html = isPdf ? QByteArray() : htmlReport(content);
-    const bool good = isPdf ? pdfReport(content, &file) : file.write(html) == html.size();
-    if (!good || !file.flush() || file.error() != QFileDevice::NoError)
-        return output->fail({}, file.errorString());
-    file.close();
-    return output->finish();
+    if (isPdf && !pdfReport(content, &pdf))
+        return output->fail({}, QStringLiteral("the pages could not be painted"));
+    OutputFile file;
+    if (file.open(output->path()))
+        file.write(isPdf ? pdf.data() : htmlReport(content));
+    return file.close() ? output->finish() : output->fail({}, file.reason());
 }
 
 /// Beside the program where it was built, in a folder of its package where it was installed.

@@ -43,8 +43,9 @@ void complainOf(const RecordSource &source, const QString &outcome)
         reason += QStringLiteral(" (and %1 more)").arg(faults.size() - 1);
     if (!faults.isEmpty() && !outcome.isEmpty())
         reason += QStringLiteral("; ") + outcome;
-    complain(
-        QStringLiteral("%1: byte %2: %3").arg(printable(first.path), QString::number(first.offset), printable(reason)));
+    complain(QStringLiteral("%1: byte %2: %3")
+                 .arg(first.path.isEmpty() ? QStringLiteral("\"\"") : printable(first.path),
+                      QString::number(first.offset), printable(reason)));
 }
 
 QString printable(const QString &text)

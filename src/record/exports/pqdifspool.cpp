@@ -4,6 +4,7 @@
 #include "record/exports/pqdiftags.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <zlib.h>
 
 namespace {
@@ -58,6 +59,13 @@ PqdifSpool::PqdifSpool(const QString &folder, bool compressed)
     : m_compressed(compressed), m_file(folder + QStringLiteral("/.quvera-spool-XXXXXX"))
 { }
 
+/// The toolkit has no words for a disk that takes a part.
+bool PqdifSpool::failBySystem()
+{
+    m_error = errno != 0 ? qt_error_string(errno) : QStringLiteral("the disk did not take all of it");
+    return false;
+}
+
 /// As the body stands in the file.
 QByteArray PqdifSpool::stored(const QByteArray &body) const
 {
@@ -69,11 +77,12 @@ QByteArray PqdifSpool::stored(const QByteArray &body) const
 
 bool PqdifSpool::add(const QByteArray &body, qint64 time)
 {
+    errno = 0;
     if (!m_file.isOpen() && !m_file.open())
-        return false;
+        return failBySystem();
     const QByteArray bytes = stored(body);
     if (bytes.isEmpty() || m_file.write(bytes) != bytes.size())
-        return false;
+        return failBySystem();
     m_observations.append(
         { time, m_size - qint64(sizeof(RecordHead)) * m_observations.size(), bytes.size(), checkSumOf(bytes) });
     m_size += qint64(sizeof(RecordHead)) + bytes.size();
@@ -82,8 +91,9 @@ bool PqdifSpool::add(const QByteArray &body, qint64 time)
 
 bool PqdifSpool::writeTo(OutputFile *file, const QVector<Record> &first)
 {
+    errno = 0;
     if (m_file.isOpen() && !m_file.flush())
-        return false;
+        return failBySystem();
     std::stable_sort(m_observations.begin(), m_observations.end(),
                      [](const Observation &a, const Observation &b) { return a.time < b.time; });
     Chain chain(file);
@@ -94,10 +104,10 @@ bool PqdifSpool::writeTo(OutputFile *file, const QVector<Record> &first)
     for (int i = 0; i < m_observations.size(); ++i) {
         const Observation &observation = m_observations[i];
         if (!m_file.seek(observation.offset))
-            return false;
+            return failBySystem();
         const QByteArray bytes = m_file.read(observation.size);
         if (bytes.size() != observation.size)
-            return false;
+            return failBySystem();
         chain.write(PqdifTag::kObservationRecord, bytes, observation.checkSum, i == m_observations.size() - 1);
     }
     return true;

@@ -32,7 +32,7 @@ public:
     /// Writes the file: \a first, then the observations. The first one, the container, is never compressed.
     bool writeTo(OutputFile *file, const QVector<Record> &first);
     /// Why something could not be written or read back, for people.
-    QString error() const { return m_file.errorString(); }
+    QString error() const { return m_error; }
 
 private:
     struct Observation
@@ -43,9 +43,11 @@ private:
         quint32 checkSum;
     };
     QByteArray stored(const QByteArray &body) const;
+    bool failBySystem();
 
     const bool m_compressed;
     QTemporaryFile m_file;
     QVector<Observation> m_observations;
     qint64 m_size = 0;
+    QString m_error;
 };

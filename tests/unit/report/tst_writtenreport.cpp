@@ -2,10 +2,13 @@
 #include "report/htmlreport.h"
 #include "report/judgerecord.h"
 #include "report/pdfreport.h"
+#include "report/reportlanguage.h"
+#include "testpaths.h"
 #include "unit/report/writtenweek.h"
 
 #include <QBuffer>
 #include <QDir>
+#include <QFontMetricsF>
 #include <QRegularExpression>
 #include <QTest>
 #include <QXmlStreamReader>
@@ -27,6 +30,9 @@ private slots:
     void theOtherLimitSetJudgesOtherwise();
     void thePageIsSelfContained();
     void thePagesOfThePdfAreCounted();
+    void textsOfPicturesStandApart_data();
+    void textsOfPicturesStandApart();
+    void factsStayOnOnePage();
 
 private:
     struct Case
@@ -205,6 +211,52 @@ void TstWrittenReport::thePagesOfThePdfAreCounted()
     QVERIFY(buffer.data().startsWith("%PDF-"));
     QVERIFY(buffer.data().count("/Type /Page\n") >= 4);
     QVERIFY(buffer.data().count("/Type /Page\n") <= 10);
+}
+
+void TstWrittenReport::textsOfPicturesStandApart_data()
+{
+    QTest::addColumn<QString>("key");
+    for (const QString &key : ReportLanguage::keys().split(QLatin1Char(' ')))
+        QTest::newRow(qPrintable(key)) << key;
+}
+
+void TstWrittenReport::textsOfPicturesStandApart()
+{
+    QFETCH(QString, key);
+    ReportLanguage language;
+    QVERIFY(language.choose(key, QStringLiteral(QUVERA_BIN_DIR "/language")) && language.isThere());
+    const Case &made = report("bad.pqa2");
+    QFont font(QStringLiteral("Liberation Sans"));
+    font.setPixelSize(int(Drawing::kTextHeight));
+    const QFontMetricsF metrics(font);
+    int pictures = 0;
+    const Report text(language.word());
+    const ReportContent content = ReportWriter(*made.judgement, made.source, text).content();
+    for (const ReportBlock &block : content.blocks) {
+        QVector<QPair<QRectF, QString>> texts;
+        for (const Shape &shape : block.picture.shapes) {
+            if (shape.kind != Shape::Text)
+                continue;
+            const double width = metrics.horizontalAdvance(shape.text);
+            const double before = shape.anchor == Shape::Left ? 0 : shape.anchor == Shape::Middle ? width / 2 : width;
+            const QRectF place(shape.points.first() - QPointF(before, metrics.ascent() - 3),
+                               QSizeF(width, metrics.ascent() - 3)); // the room above capitals is none of theirs
+            for (const auto &other : qAsConst(texts))
+                QVERIFY2(!other.first.intersects(place), qPrintable(other.second + " / " + shape.text));
+            QVERIFY2(place.left() >= 0 && place.right() <= Drawing::kWidth, qPrintable(shape.text));
+            texts.append({ place, shape.text });
+        }
+        pictures += texts.isEmpty() ? 0 : 1;
+    }
+    QVERIFY(pictures > 5);
+}
+
+void TstWrittenReport::factsStayOnOnePage()
+{
+    const QByteArray html = htmlReport(report("bad.pqa2").content);
+    QCOMPARE(html.count("<div class=\"wide facts\"><table>\n<tbody>"), 2); // of the recording and of the instrument
+    const QByteArray print = html.mid(html.indexOf("@media print"));
+    QVERIFY(print.contains(".facts { break-inside: avoid; }"));
 }
 
 QTEST_MAIN(TstWrittenReport)
