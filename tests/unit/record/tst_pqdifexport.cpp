@@ -42,6 +42,8 @@ private slots:
     void init() { reset(); }
 
     void recordTellsOfTheInstrument();
+    void connectionIsThatOfTheWiring_data();
+    void connectionIsThatOfTheWiring();
     void trendIsAValueLogWithExtremesAndMean();
     void spectrumIsOneChannelWithAnInstanceForEachOrder();
     void countersKeepTheirDigits();
@@ -87,6 +89,41 @@ void TstPqdifExport::recordTellsOfTheInstrument()
     QCOMPARE(settings["tagSettingPhysicalConnection"].number(), 4.0); // star
     QCOMPARE(settings["tagUseTransducer"].number(), 0.0);
     QCOMPARE(settings["tagChannelSettingsArray"].children.size(), source["tagChannelDefns"].children.size());
+}
+
+void TstPqdifExport::connectionIsThatOfTheWiring_data()
+{
+    constexpr double kSinglePhase = 1, kTwoElements = 2, kStar = 4, kDelta = 5, kSplitPhase = 6, kNone = 0;
+    QTest::addColumn<int>("joinMode");
+    QTest::addColumn<double>("connection");
+    QTest::newRow("3P WYE") << 1 << kStar;
+    QTest::newRow("3P IT") << 2 << kDelta;
+    QTest::newRow("1P +NEUTRAL") << 3 << kSinglePhase;
+    QTest::newRow("3P DELTA") << 4 << kDelta;
+    QTest::newRow("1P SPLIT PHASE") << 5 << kSplitPhase;
+    QTest::newRow("1P IT NO NEUTRAL") << 6 << kSinglePhase;
+    QTest::newRow("2.5-ELEMENT") << 9 << kNone; // the format knows none such
+    QTest::newRow("2-ELEMENT") << 10 << kTwoElements;
+    QTest::newRow("unknown") << 0 << kNone;
+}
+
+void TstPqdifExport::connectionIsThatOfTheWiring()
+{
+    QFETCH(int, joinMode);
+    QFETCH(double, connection);
+    RecordFacts facts = instrument();
+    facts.joinMode = joinMode;
+    PqdifExport sink({ target(), m_folder->filePath(QStringLiteral("record")), true });
+    QVERIFY(sink.begin(facts));
+    QVERIFY(sink.table(0, voltages()));
+    QVERIFY(ExportFeed::row(&sink, 0, kStart + 600000, { 230, 231, 240, 241, 220, 221 }));
+    QVERIFY2(sink.end(facts), qPrintable(sink.error()));
+    const File file = read();
+    QCOMPARE(file.fault, QString());
+    const Element &settings = file.records[2].root;
+    QCOMPARE(settings["tagNominalFrequency"].number(), 50.0);
+    QCOMPARE(settings["tagSettingPhysicalConnection"].numbers,
+             connection > 0 ? QVector<double> { connection } : QVector<double>());
 }
 
 void TstPqdifExport::trendIsAValueLogWithExtremesAndMean()

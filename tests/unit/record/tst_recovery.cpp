@@ -3,6 +3,7 @@
 #include "record/exports/recovery.h"
 #include "record/tables/recordsource.h"
 #include "testpaths.h"
+#include "unit/storage/filelimit.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -54,6 +55,32 @@ private:
         return kept.times(table);
     }
 
+    /// One of each kind that can be recovered, as a file of the folder.
+    void addOneOfEachKind()
+    {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("suffix");
+        QTest::addColumn<bool>("hasSteps"); // in which it can be interrupted
+        QTest::newRow("recording") << P::recording(3).bytes() << ".pqa2" << true;
+        QTest::newRow("capture") << P::bytesOf(QStringLiteral(QUVERA_SOURCE_DIR "/tests/data/capture.wav")) << ".wav"
+                                 << true;
+        QTest::newRow("page") << pageWith("picture") << ".pqa" << false;
+        QTest::newRow("log") << QByteArray("TIME,VRMS(V) L1 AVG,FREQ AVG,\n2023/11/14  22:13:20,230.000,50.000,\n")
+                             << ".csv" << true;
+    }
+    static QByteArray pageWith(const QByteArray &text)
+    {
+        const QByteArray image = QByteArray::fromHex("89504E470D0A1A0A") + text;
+        return P::le(4, 4) + P::le(quint64(kSeconds), 4) + P::le(230, 4) + P::le(50, 4) + P::le(1, 4) + P::le(10000, 4)
+            + P::le(quint64(image.size()), 4) + P::le(0, 4) + P::le(0x02020006, 4) + P::le(0xCC33C3C3, 4) + image
+            + QByteArray::fromHex("AA55");
+    }
+    QStringList namesWith(const QString &part) const
+    {
+        return QDir(m_folder.path())
+            .entryList({ QLatin1Char('*') + part + QLatin1Char('*') }, QDir::AllEntries | QDir::Hidden);
+    }
+
     QTemporaryDir m_folder;
     QString error;
 
@@ -71,7 +98,10 @@ private slots:
     void pageWithATornRecordKeepsItsPicture();
     void pageWithATornPictureHasNothing();
     void logKeepsItsWholeLines();
+    void interruptedRecoveryLeavesNothing_data() { addOneOfEachKind(); }
     void interruptedRecoveryLeavesNothing();
+    void fullDiskFailsAndLeavesNothing_data() { addOneOfEachKind(); }
+    void fullDiskFailsAndLeavesNothing();
     void outputInsideTheInputIsRefused();
     void originalsAreNotReplacedByACopy();
     void copyTellsWhatItWasMadeOf();
@@ -232,12 +262,31 @@ void TstRecovery::logKeepsItsWholeLines()
 
 void TstRecovery::interruptedRecoveryLeavesNothing()
 {
-    QVERIFY(P::recording(3).save(path("long.pqa2")));
-    QCOMPARE(recover("long.pqa2", "half.pqa2", [](qint64, qint64) { return false; }), Recovery::Ended);
-    QVERIFY(!QFile::exists(path("half.pqa2")));
-    const QStringList hidden
-        = QDir(m_folder.path()).entryList({ ".*half*", "*half*" }, QDir::AllEntries | QDir::Hidden);
-    QCOMPARE(hidden, QStringList());
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, suffix);
+    QFETCH(bool, hasSteps);
+    QVERIFY(P::save(path("long" + suffix), bytes));
+    const RecordProgress ends = [](qint64, qint64) { return false; };
+    QCOMPARE(recover("long" + suffix, "half" + suffix, ends), hasSteps ? Recovery::Ended : Recovery::Done);
+    QCOMPARE(namesWith("half").isEmpty(), hasSteps);
+    QFile::remove(path("half" + suffix));
+}
+
+void TstRecovery::fullDiskFailsAndLeavesNothing()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, suffix);
+    QVERIFY(P::save(path("input" + suffix), bytes));
+    QVERIFY(bytes.size() > 20);
+    Recovery::Result result = Recovery::Done;
+    {
+        const FileLimit full(20);
+        result = recover("input" + suffix, "never" + suffix);
+    }
+    QCOMPARE(result, Recovery::Failed);
+    QVERIFY2(error.startsWith(path("never" + suffix) + ": "), qPrintable(error));
+    QCOMPARE(namesWith("never"), QStringList());
+    QCOMPARE(recover("input" + suffix, "room" + suffix), Recovery::Done); // it was the disk
 }
 
 void TstRecovery::outputInsideTheInputIsRefused()

@@ -305,6 +305,14 @@ private slots:
         QVERIFY(mine->editable()); // stays a user's clamp
         QCOMPARE(mine->description(), QString("text"));
         QVERIFY(mine->prevNode == before);
+        const Clamp *nothing = nullptr;
+        mine->editClamp(nothing);
+        QCOMPARE(mine->name(), QString("new"));
+        const Clamp other("other", 9, 10, false, true, "its text");
+        mine->editClamp(&other);
+        QCOMPARE(mine->name(), QString("other"));
+        QCOMPARE(mine->ratio(), 10);
+        QVERIFY(mine->prevNode == before);
     }
 
     void theTwoCataloguesAreIndependent()
@@ -365,6 +373,18 @@ private slots:
                                           "b\x1b")));
         QVERIFY(clamps.save(kPath));
         QCOMPARE(ClampIF(kPath).names().last(), QString("a b "));
+    }
+
+    void aSignOfTwoHalvesStaysAndALoneHalfBecomesABlank()
+    {
+        const QString plug = QString::fromUtf8("\xF0\x9F\x94\x8C");
+        QCOMPARE(plug.size(), 2);
+        ClampIF clamps(kPath);
+        clamps.addClamp(userClamp("a" + plug + "b"));
+        clamps.addClamp(userClamp("c" + plug.left(1) + "d" + plug.mid(1)));
+        QVERIFY(clamps.save(kPath));
+        const QStringList names = ClampIF(kPath).names();
+        QCOMPARE(names.mid(names.size() - 2), QStringList({ "a" + plug + "b", "c d " }));
     }
 };
 

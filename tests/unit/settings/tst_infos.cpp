@@ -293,6 +293,41 @@ private slots:
         WaveInfo::m_duration = 10;
     }
 
+    void theWaveCapturesLongestDurationFollowsTheRoom_data()
+    {
+        // A second takes 16 bytes for each sample and 20 for its five chunks; 5 MB stay free.
+        QTest::addColumn<int>("room"); // MB
+        QTest::addColumn<int>("rate");
+        QTest::addColumn<int>("seconds");
+        QTest::newRow("no card") << 0 << 20480 << 0;
+        QTest::newRow("what stays free") << 5 << 20480 << 0;
+        QTest::newRow("9.6 s are too short") << 8 << 20480 << 0;
+        QTest::newRow("4194304 bytes at 327700") << 9 << 20480 << 12;
+        QTest::newRow("99614720 bytes at 327700") << 100 << 20480 << 303;
+        QTest::newRow("1048576 bytes at 81940") << 6 << 5120 << 12;
+        QTest::newRow("ten minutes are the longest") << 1000 << 20480 << 600;
+        QTest::newRow("a large card") << 2000000000 << 5120 << 600;
+    }
+
+    void theWaveCapturesLongestDurationFollowsTheRoom()
+    {
+        QFETCH(int, room);
+        QFETCH(int, rate);
+        QTEST(WaveInfo::maxDuration(room, rate), "seconds");
+    }
+
+    void theWaveCapturesDurationIsHeldToItsBounds()
+    {
+        for (const int wanted : { 3, 10, 60, 600, 900 }) {
+            WaveInfo::m_duration = wanted;
+            WaveInfo::checkMaxDuration();
+            QVERIFY2(WaveInfo::m_storage_room > 200, "this test needs room for ten minutes");
+            QCOMPARE(WaveInfo::m_max_duration, 600);
+            QCOMPARE(WaveInfo::m_duration, qBound(10, wanted, 600));
+        }
+        WaveInfo::m_duration = 10;
+    }
+
     void theDipTrendFollowsTheNominalFrequency_data()
     {
         QTest::addColumn<double>("frequency");

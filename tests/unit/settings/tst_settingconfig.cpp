@@ -322,6 +322,8 @@ private slots:
             config.changeClampNext();
         QCOMPARE(config.getClampType(), 10);
         QCOMPARE(SettingConfig().getClampType(), 10);
+        config.changeClampPrev();
+        QCOMPARE(config.getClampType(), 9);
     }
 
     void theStepOfTheEditorsIsHeldTo1To10()

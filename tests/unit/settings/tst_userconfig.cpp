@@ -207,6 +207,8 @@ private slots:
             config.changeSleepNext();
         QCOMPARE(config.getSleepNumber(), 5);
         QCOMPARE(UserConfig().sleepDelay(), 60);
+        config.changeSleepPrev();
+        QCOMPARE(config.getSleepNumber(), 4);
     }
 
     void numbersOutsideTheSleepTimesAreOff()
