@@ -75,7 +75,9 @@ QString ReportWriter::headline(Tone *tone) const
 
 QString ReportWriter::reservation() const
 {
-    return m_judgement.weeks.isWhole()
+    const Outcome outcome = m_judgement.outcome();
+    const bool hasResult = outcome == Outcome::Pass || outcome == Outcome::Fail;
+    return m_judgement.weeks.isWhole() || !hasResult
         ? QString()
         : Report::tr("The recording is shorter than a week. The limits hold for weeks: the result is an indication.");
 }
@@ -223,7 +225,7 @@ void ReportWriter::notes()
 {
     const Weeks &weeks = m_judgement.weeks;
     const auto note = [this](const QString &text) { m_content.add(ReportBlock::Item, text); };
-    if (!weeks.isWhole())
+    if (!reservation().isEmpty())
         note(reservation());
     else if (weeks.count > 1)
         note(Report::tr("Weeks judged, each by itself: %1. The table shows the worst.").arg(weeks.count));

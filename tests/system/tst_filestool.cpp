@@ -472,6 +472,16 @@ void TstFilesTool::progressIsShownOnATerminalAfterASecond()
     const QByteArray text = shown();
     QVERIFY2(text.contains(" %"), text);
     QVERIFY2(text.endsWith("\r\033[K"), text); // and taken away
+
+    QProcess ended;
+    ended.setStandardErrorFile(terminal);
+    QVERIFY(catchAtWork(&ended, [holdUp](pid_t tool) {
+        holdUp(tool);
+        ::kill(tool, SIGINT);
+    }));
+    QCOMPARE(ended.exitCode(), 73);
+    const QByteArray last = shown();
+    QVERIFY2(last.endsWith(" %\r\033[Kquvera-files: interrupted\r\n"), last);
     ::close(master);
 
     QProcess piped;

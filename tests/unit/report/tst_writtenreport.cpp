@@ -156,6 +156,7 @@ void TstWrittenReport::withoutAVoltageNothingIsJudged()
 {
     const Case &made = report("dead.pqa2");
     QCOMPARE(verdictOf(made.content), QStringLiteral("There was no voltage: nothing can be judged."));
+    QVERIFY(!says(made.content, "the result is an indication")); // there is none
     QCOMPARE(made.judgement->find({ Quantity::Voltage, 0, 0 })->leftOut, 12);
 }
 
