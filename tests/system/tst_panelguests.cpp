@@ -25,6 +25,7 @@ private slots:
     void linkFromElsewhereOpensThePage();
     void requestsBeyondTheBoundsAreRefused_data();
     void requestsBeyondTheBoundsAreRefused();
+    void longestBodyIsTaken();
     void requestInPiecesIsTakenWhole();
     void requestThatDoesNotComeToItsEndIsEnded();
     void wildBytesAreRefused();
@@ -130,6 +131,7 @@ void TstPanelGuests::foreignPagesPressNoKeys_data()
     QTest::newRow("form") << QByteArray("Content-Type: application/x-www-form-urlencoded\r\n") << 415;
     QTest::newRow("text") << QByteArray("Content-Type: text/plain\r\n") << 415;
     QTest::newRow("no type") << QByteArray() << 415;
+    QTest::newRow("no page at all") << json + "Sec-Fetch-Site: none\r\n" << 204;
     QTest::newRow("our own") << json + "Origin: http://127.0.0.1:PORT\r\nSec-Fetch-Site: same-origin\r\n" << 204;
 }
 
@@ -176,6 +178,13 @@ void TstPanelGuests::requestsBeyondTheBoundsAreRefused()
     QFETCH(int, status);
     request.replace("HOST", host(m_port));
     QCOMPARE(say(m_port, request).status, status);
+}
+
+void TstPanelGuests::longestBodyIsTaken()
+{
+    const QByteArray key = "{\"key\":\"F3\"}";
+    QCOMPARE(post(m_port, "/key", key + QByteArray(4096 - key.size(), ' ')).status, 204);
+    QCOMPARE(post(m_port, "/key", key + QByteArray(4097 - key.size(), ' ')).status, 413);
 }
 
 void TstPanelGuests::requestInPiecesIsTakenWhole()

@@ -4,6 +4,7 @@
 #include "panel/controltable.h"
 #include "panel/picturenotes.h"
 #include "panel/processorline.h"
+#include "panel/supply.h"
 #include "testpaths.h"
 
 #include <QBuffer>
@@ -17,6 +18,8 @@
 #include <thread>
 
 using namespace panel;
+
+constexpr int kPatience = 60000; // ms, ends a hang only
 
 /// The panel's own parts: who is let in, what is shown to all, which commands its controls are.
 class TstPanelParts : public QObject
@@ -37,6 +40,8 @@ private slots:
     void processorThatIsNotThereIsNotWaitedFor();
     void notesOfAPictureAreReadAsTheyWereWritten();
     void damagedPicturesHaveFewerNotes();
+    void notesAreBounded();
+    void refusalOfTheProcessorIsHandedOn();
 };
 
 void TstPanelParts::sameTextIsNoNews()
@@ -139,6 +144,7 @@ void TstPanelParts::everyControlIsObeyedByTheProcessor()
     QVERIFY2(desk.startProcessor(), qPrintable(desk.error()));
     const ProcessorLine line(desk.root());
     QString answer;
+    QTRY_VERIFY_WITH_TIMEOUT(line.tell("status", &answer), kPatience);
     for (bool last : { false, true }) {
         for (const Control &control : controlTable()) {
             QString why;
@@ -203,7 +209,7 @@ void TstPanelParts::processorThatIsNotThereIsNotWaitedFor()
     QVERIFY(QDir().mkpath(deep));
     DeskInstrument desk(QStringLiteral(QUVERA_BIN_DIR), deep);
     QVERIFY2(desk.startProcessor(), qPrintable(desk.error()));
-    QVERIFY(ProcessorLine(deep).tell("status", &answer));
+    QTRY_VERIFY_WITH_TIMEOUT(ProcessorLine(deep).tell("status", &answer), kPatience);
 }
 
 /// A picture with notes of each kind: short, long enough to be packed, beyond Latin.
@@ -248,6 +254,42 @@ void TstPanelParts::damagedPicturesHaveFewerNotes()
     const QJsonObject notes
         = notesOf("\x89PNG\r\n\x1a\n" + length + "zTXt" + QByteArray("Long\0\0", 6) + bomb + "abcd");
     QCOMPARE(notes.value("Long").toString(), QString());
+}
+
+/// A chunk of a picture.
+static QByteArray chunkOf(const QByteArray &kind, const QByteArray &bytes)
+{
+    QByteArray length(4, '\0');
+    qToBigEndian<quint32>(quint32(bytes.size()), length.data());
+    return length + kind + bytes + "abcd";
+}
+
+void TstPanelParts::notesAreBounded()
+{
+    QByteArray png = "\x89PNG\r\n\x1a\n";
+    png += chunkOf("tEXt", QByteArray("Long\0", 5) + QByteArray(70'000, 'x'));
+    for (int i = 0; i < 100; ++i)
+        png += chunkOf("tEXt", QByteArray::number(i) + QByteArray("\0one", 4));
+    const QJsonObject notes = notesOf(png);
+    QCOMPARE(notes.size(), 32);
+    QVERIFY(!notes.contains("Long"));
+    QCOMPARE(notes.value("0").toString(), QString("one"));
+}
+
+void TstPanelParts::refusalOfTheProcessorIsHandedOn()
+{
+    Bulletin bulletin;
+    const QJsonObject pull { { "control", "usbOut" } };
+    QVERIFY(Supply(QString(), bulletin).obey(pull).contains("no desk"));
+    DeskInstrument desk(QStringLiteral(QUVERA_BIN_DIR));
+    QVERIFY(Supply(desk.root(), bulletin).obey(pull).contains("does not answer"));
+    QVERIFY2(desk.startProcessor(), qPrintable(desk.error()));
+    Supply supply(desk.root(), bulletin);
+    QTRY_VERIFY_WITH_TIMEOUT(supply.controls() != "[]", kPatience);
+    const QString why = supply.obey(pull); // of a disk that is not there
+    QVERIFY2(why.size() > 3 && !why.startsWith("error"), qPrintable(why));
+    QCOMPARE(supply.obey({ { "control", "usbIn" }, { "size", "64k" } }), QString());
+    QCOMPARE(supply.obey(pull), QString());
 }
 
 QTEST_GUILESS_MAIN(TstPanelParts)

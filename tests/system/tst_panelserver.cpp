@@ -1,5 +1,6 @@
 #include "panelprocess.h"
 
+#include <QHostInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
@@ -23,6 +24,7 @@ private slots:
     void usedPortIsOneLine();
     void pageAndAllThatItNeedsComeFromThePanel();
     void helpLeadsToSectionsThatThereAre();
+    void everyPageHasItsHelp();
     void everyAnswerCarriesTheContentPolicy();
     void keysReachTheInstrumentInTheirOrder();
     void keysThatAreNoneAreRefused();
@@ -149,6 +151,21 @@ void TstPanelServer::helpLeadsToSectionsThatThereAre()
     QVERIFY(followed > 15);
     QCOMPARE(get(m_port, "/guide/guide.css").field("Content-Type"), QByteArray("text/css; charset=utf-8"));
     QCOMPARE(get(m_port, "/guide/pictures/site-values-measuring.png").field("Content-Type"), QByteArray("image/png"));
+}
+
+// The page table makes each page by its class; pictures carry that name.
+void TstPanelServer::everyPageHasItsHelp()
+{
+    const QByteArray table = get(m_port, "/help.js").body;
+    QFile pages(QStringLiteral(QUVERA_SOURCE_DIR "/src/shell/pagetable.cpp"));
+    QVERIFY(pages.open(QIODevice::ReadOnly));
+    int found = 0;
+    auto made = QRegularExpression("(?:make<|new )(\\w{2,})[>(]").globalMatch(pages.readAll());
+    for (; made.hasNext(); ++found) {
+        const QByteArray page = made.next().captured(1).toLatin1();
+        QVERIFY2(table.contains("  " + page + ": '"), page);
+    }
+    QVERIFY(found >= 17);
 }
 
 void TstPanelServer::everyAnswerCarriesTheContentPolicy()
@@ -305,6 +322,8 @@ void TstPanelServer::tokenIsAskedForBeyondThisMachine()
     for (const char *path : { "/", "/events", "/controls", "/screen.png", "/panel.js" })
         QVERIFY2(get(port, path).status == 401, path);
     QCOMPARE(post(port, "/key", "{\"key\":\"F1\"}").status, 401);
+    const QByteArray ownName = "Host: " + QHostInfo::localHostName().toLatin1() + ':' + QByteArray::number(port);
+    QCOMPARE(say(port, "GET / HTTP/1.1\r\n" + ownName + "\r\n\r\n").status, 401); // not 421
     QCOMPARE(get(port, "/?token=" + QByteArray(32, '0')).status, 401);
     QCOMPARE(post(port, "/key?token=" + token, "{\"key\":\"F1\"}").status, 401); // never in an address that acts
     const Answer entry = get(port, "/?token=" + token);

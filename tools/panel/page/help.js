@@ -18,6 +18,7 @@ const helpOfPage = {
   MainsSignaling: 'guide/pages.html#mains-signaling',
   PowerInverter: 'power-inverter.html',
   RecordPqa2Page: 'user-guide.html#record-a-week',
+  LoggerPage: 'guide/pages.html#logger',
   UserPage: 'guide/pages.html#user',
 };
 
