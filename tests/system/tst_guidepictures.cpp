@@ -75,46 +75,59 @@ class TstGuidePictures : public QObject
     Q_OBJECT
 
 private slots:
+    void picturesOfPagesThatStandStillAreThoseOfThisProgram_data();
     void picturesOfPagesThatStandStillAreThoseOfThisProgram();
+    void mostOfTheGuideIsCompared();
     void livePicturesShowSomething();
     void anotherPictureIsSeen();
+
+private:
+    int m_compared = 0;
 };
+
+void TstGuidePictures::picturesOfPagesThatStandStillAreThoseOfThisProgram_data()
+{
+    QTest::addColumn<QString>("pages");
+    const QStringList lists = stillPages();
+    for (const QString &pages : lists)
+        QTest::newRow(qPrintable(pages)) << pages;
+}
 
 void TstGuidePictures::picturesOfPagesThatStandStillAreThoseOfThisProgram()
 {
-    const QStringList lists = stillPages();
-    QVERIFY(lists.size() >= 2);
-    QStringList compared, stale;
-    for (const QString &pages : lists) {
-        QTemporaryDir folder;
-        QProcess gallery;
-        gallery.start(QStringLiteral(QUVERA_BIN_DIR "/quvera-gallery"),
-                      { "--warm-up", "0", "--settle", "600", "--pages", pages, "--out", folder.path() });
-        QVERIFY(gallery.waitForFinished(600000));
-        QVERIFY2(gallery.exitStatus() == QProcess::NormalExit && gallery.exitCode() == 0,
-                 gallery.readAllStandardError());
-        for (const QString &file : QDir(folder.path()).entryList({ QStringLiteral("*.png") })) {
-            const QString picture = QString(file).remove(QLatin1String(kVariant)).chopped(4);
-            const QImage shown(kPictures + picture + QStringLiteral(".png"));
-            if (shown.isNull())
-                continue; // the guide does not show all of them
-            const QImage taken(folder.filePath(file));
-            QCOMPARE(taken.size(), shown.size());
-            compared << picture;
-            const QRect place = difference(taken, shown, changingPlace(picture));
-            if (!place.isNull())
-                stale << QStringLiteral("%1 (at %2,%3, %4 x %5)")
-                             .arg(picture)
-                             .arg(place.x())
-                             .arg(place.y())
-                             .arg(place.width())
-                             .arg(place.height());
-        }
+    QFETCH(QString, pages);
+    QTemporaryDir folder;
+    QProcess gallery;
+    gallery.start(QStringLiteral(QUVERA_BIN_DIR "/quvera-gallery"),
+                  { "--warm-up", "0", "--settle", "600", "--pages", pages, "--out", folder.path() });
+    QVERIFY(gallery.waitForFinished(600000));
+    QVERIFY2(gallery.exitStatus() == QProcess::NormalExit && gallery.exitCode() == 0, gallery.readAllStandardError());
+    QStringList stale;
+    for (const QString &file : QDir(folder.path()).entryList({ QStringLiteral("*.png") })) {
+        const QString picture = QString(file).remove(QLatin1String(kVariant)).chopped(4);
+        const QImage shown(kPictures + picture + QStringLiteral(".png"));
+        if (shown.isNull())
+            continue; // the guide does not show all of them
+        const QImage taken(folder.filePath(file));
+        QCOMPARE(taken.size(), shown.size());
+        ++m_compared;
+        const QRect place = difference(taken, shown, changingPlace(picture));
+        if (!place.isNull())
+            stale << QStringLiteral("%1 (at %2,%3, %4 x %5)")
+                         .arg(picture)
+                         .arg(place.x())
+                         .arg(place.y())
+                         .arg(place.width())
+                         .arg(place.height());
     }
-    QVERIFY2(compared.size() >= 20, qPrintable(compared.join(QLatin1Char(' '))));
     QVERIFY2(stale.isEmpty(),
              qPrintable(QStringLiteral("not what the program shows: ") + stale.join(QStringLiteral(", "))
                         + QStringLiteral("; docs/pictures/take renews them")));
+}
+
+void TstGuidePictures::mostOfTheGuideIsCompared()
+{
+    QVERIFY2(m_compared >= 25, qPrintable(QString::number(m_compared)));
 }
 
 void TstGuidePictures::livePicturesShowSomething()
@@ -145,5 +158,12 @@ void TstGuidePictures::anotherPictureIsSeen()
     QVERIFY(difference(shown, shown, {}).isNull());
 }
 
-QTEST_GUILESS_MAIN(TstGuidePictures)
+// What a busy machine takes for a list of pages has no bound but that of the whole test.
+int main(int argc, char **argv)
+{
+    qputenv("QTEST_FUNCTION_TIMEOUT", "850000");
+    QCoreApplication application(argc, argv);
+    TstGuidePictures test;
+    return QTest::qExec(&test, argc, argv);
+}
 #include "tst_guidepictures.moc"
