@@ -128,7 +128,8 @@ bool Output::holdsNothingElse()
     for (fs::recursive_directory_iterator entry(folder.constData(), error), end; !error && entry != end;
          entry.increment(error)) {
         const fs::file_status status = entry->symlink_status(error);
-        const QByteArray name = QByteArray::fromStdString(entry->path().native()).mid(folder.size() + 1);
+        const int before = folder.size() + (folder.endsWith('/') ? 0 : 1);
+        const QByteArray name = QByteArray::fromStdString(entry->path().native()).mid(before);
         // A folder is looked into; it counts by the files in it.
         if (!error && !fs::is_directory(status) && !isOurs(QFile::decodeName(name), fs::is_regular_file(status)))
             return false;

@@ -240,6 +240,11 @@ void TstOutput::forceReplacesNothingThatIsNoExport()
         QVERIFY2(!output.begin(), c.name);
         QVERIFY2(output.error().contains(QLatin1String(c.reason)), qPrintable(output.error()));
     }
+    Output top(Output::Folder, { "/", QString(), true }, isTableName);
+    QVERIFY(!top.begin());
+    const QString named = top.error().section(QLatin1Char('"'), 1, 1);
+    QVERIFY2(QFileInfo(QLatin1Char('/') + named).isSymLink() || QFile::exists(QLatin1Char('/') + named),
+             qPrintable(top.error()));
     // Filled while the export was under way.
     QVERIFY(QDir(m_folder->path()).mkdir("out"));
     Output output(Output::Folder, { at("out"), QString(), true }, isTableName);
