@@ -103,7 +103,7 @@ class Desk:
         self.name, self.bin, self.root = name, Path(bin_folder), Path(out) / name
         self.root.mkdir(parents=True)
         self.remote_port, self.modbus_port = 43540 + number, 41540 + number
-        self.processes, self.spell, self.logs = {}, "", Path(out)
+        self.processes, self.spell, self.logs = {}, "nominal", Path(out)
         environment = {"QUVERA_ROOT": str(self.root), "QT_QPA_PLATFORM": "offscreen", "TZ": "UTC",
                        "QUVERA_REMOTE_PORT": str(self.remote_port), "QUVERA_MODBUS_PORT": str(self.modbus_port)}
         self.start("processor", [self.bin / "quvera-processor", "--root", self.root, "--speed", str(speed)], environment)
