@@ -11,6 +11,8 @@
 #include <QImage>
 #include <QJsonArray>
 #include <QJsonDocument>
+#include <QLocalServer>
+#include <QLocalSocket>
 #include <QSet>
 #include <QTest>
 #include <QtEndian>
@@ -42,6 +44,7 @@ private slots:
     void damagedPicturesHaveFewerNotes();
     void notesAreBounded();
     void refusalOfTheProcessorIsHandedOn();
+    void answerInPiecesIsTakenWhole();
 };
 
 void TstPanelParts::sameTextIsNoNews()
@@ -290,6 +293,26 @@ void TstPanelParts::refusalOfTheProcessorIsHandedOn()
     QVERIFY2(why.size() > 3 && !why.startsWith("error"), qPrintable(why));
     QCOMPARE(supply.obey({ { "control", "usbIn" }, { "size", "64k" } }), QString());
     QCOMPARE(supply.obey(pull), QString());
+}
+
+void TstPanelParts::answerInPiecesIsTakenWhole()
+{
+    QTemporaryDir root;
+    QVERIFY(QDir(root.path()).mkdir("run"));
+    QLocalServer processor;
+    QVERIFY(processor.listen(root.path() + "/run/processor.ctl"));
+    QString answer;
+    bool told = false;
+    std::thread asks([&] { told = ProcessorLine(root.path()).tell("help", &answer); });
+    bool came = processor.waitForNewConnection(kPatience);
+    QLocalSocket *line = processor.nextPendingConnection();
+    for (const char *piece : { "  a line of help\n", "ok", " speed=1", "\n" }) {
+        came = came && line->write(piece) > 0 && (line->flush() || line->waitForBytesWritten(kPatience));
+        QTest::qWait(50);
+    }
+    asks.join();
+    QVERIFY(came && told);
+    QCOMPARE(answer, QString("a line of help\nok speed=1"));
 }
 
 QTEST_GUILESS_MAIN(TstPanelParts)
