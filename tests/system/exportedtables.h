@@ -1,14 +1,17 @@
 #pragma once
 
+#include "platform/target.h"
 #include "testpaths.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QHash>
 #include <QProcess>
 #include <QVector>
 
 #include <limits>
+#include <memory>
 
 namespace SystemTest {
 
@@ -22,14 +25,21 @@ public:
         double value; // NaN where there is none
     };
 
-    /// What the tool says when it fails; nothing when all is well.
-    static QByteArray exportTo(const QString &folder, const QString &recording)
+    /// Those of the only recording of that name in the memory; null, with what is wrong, when it cannot be exported.
+    static std::unique_ptr<ExportedTables> ofRecording(const QString &name, QString *problem)
     {
+        const QDir storage(Target::path(QStringLiteral("/mnt/storage")));
+        const QStringList folders = storage.entryList({ QStringLiteral("* ") + name }, QDir::Dirs);
+        const QString tables = qEnvironmentVariable("QUVERA_ROOT") + QStringLiteral("/tables");
         QProcess tool;
         tool.setProcessChannelMode(QProcess::MergedChannels);
-        tool.start(QStringLiteral(QUVERA_BIN_DIR "/quvera-files"), { "export", recording, "--csv", folder });
+        tool.start(QStringLiteral(QUVERA_BIN_DIR "/quvera-files"),
+                   { "export", storage.filePath(folders.value(0)), "--csv", tables });
         const bool ended = tool.waitForFinished(-1) && tool.exitStatus() == QProcess::NormalExit;
-        return ended && tool.exitCode() == 0 ? QByteArray() : tool.readAll() + " (it failed)";
+        *problem = QStringLiteral("%1 recordings, the tool: ").arg(folders.size()) + QString::fromUtf8(tool.readAll());
+        if (!ended || tool.exitCode() != 0 || folders.size() != 1)
+            return nullptr;
+        return std::make_unique<ExportedTables>(tables);
     }
 
     explicit ExportedTables(const QString &folder) : m_folder(folder) { }

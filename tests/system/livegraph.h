@@ -19,6 +19,9 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <algorithm>
 #include <clocale>
 #include <cmath>
@@ -112,6 +115,17 @@ public:
         if (!process.waitForFinished(kPatienceMs) || process.exitCode() != 0)
             return {};
         return QString::fromUtf8(process.readAllStandardOutput()).trimmed() + QLatin1Char(' ');
+    }
+    /// The stand-in plays another scenario from now on. Seconds of the signal at which it began; 0 when it refuses.
+    static double play(const QJsonObject &scenario)
+    {
+        QFile file(qEnvironmentVariable("QUVERA_ROOT") + QStringLiteral("/supply.json"));
+        const QByteArray json = QJsonDocument(scenario).toJson();
+        if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(json) != json.size())
+            return 0;
+        file.close();
+        const bool plays = !tell(QStringLiteral("scenario ") + file.fileName()).isNull();
+        return plays ? status(QStringLiteral("t")).toDouble() : 0;
     }
     static bool setSpeed(double factor) { return !tell(QStringLiteral("speed %1").arg(factor)).isNull(); }
     /// One value of the stand-in's status line.
