@@ -1,5 +1,7 @@
 #include "panel/connectionqueue.h"
 
+#include <algorithm>
+
 namespace panel {
 
 namespace {
@@ -30,9 +32,9 @@ void ConnectionQueue::enqueue(std::function<void()> serve)
         const std::lock_guard<std::mutex> guard(m_lock);
         if (m_waiting.size() < kMostWaiting && !m_ends) {
             m_waiting.push_back(std::move(serve));
-            waitingNow = m_waiting.size();
             if (m_waiting.size() > m_idle && m_threads.size() < kMostThreads)
                 m_threads.emplace_back([this] { work(); });
+            countWaiting();
             serve = nullptr;
         }
     }
@@ -42,6 +44,12 @@ void ConnectionQueue::enqueue(std::function<void()> serve)
     t_full = true;
     serve();
     t_full = false;
+}
+
+// Who only waits for a thread to wake or to begin is served in a moment: nobody has to hurry for that.
+void ConnectionQueue::countWaiting()
+{
+    waitingNow = m_threads.size() < kMostThreads ? 0 : m_waiting.size() - std::min(m_idle, m_waiting.size());
 }
 
 void ConnectionQueue::work()
@@ -55,7 +63,7 @@ void ConnectionQueue::work()
             return;
         const std::function<void()> serve = std::move(m_waiting.front());
         m_waiting.pop_front();
-        waitingNow = m_waiting.size();
+        countWaiting();
         guard.unlock();
         serve();
         guard.lock();

@@ -30,6 +30,7 @@ public:
 
 private:
     void work();
+    void countWaiting(); // under the lock
 
     std::mutex m_lock;
     std::condition_variable m_changed;
