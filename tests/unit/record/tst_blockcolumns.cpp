@@ -1,4 +1,5 @@
 #include "model/channelset.h"
+#include "record/tables/blockcheck.h"
 #include "record/tables/blockcolumns.h"
 #include "record/tables/logcolumns.h"
 #include "record/tables/recordevents.h"
@@ -82,6 +83,7 @@ private slots:
     void onlyStatisticsThatWereStoredHaveColumns();
     void lengthsOfBlocksAreThoseOfTheFormatPage();
     void namesOfColumnsAreUniqueInEveryWiring();
+    void everyTypeOfTheFormatHasAPlaceOfItsOwn();
 };
 
 /// Columns are made by the place of their table's name: none is tried while one is missing.
@@ -229,6 +231,10 @@ void TstBlockColumns::channelThatTheWiringLacksHasNoColumn()
     QCOMPARE(channels("harmonics_u", QStringLiteral("Uh05_max_")), voltages);
     QCOMPARE(channels("power", QStringLiteral("P_mean_")), powers);
     QCOMPARE(channels("energy", QStringLiteral("EP_")), powers);
+    QStringList phases = powers; // three values are stored of flicker in any wiring
+    phases.removeAll(QStringLiteral("total"));
+    QCOMPARE(channels("flicker_plt", QStringLiteral("Plt_")).size(), phases.size());
+    QCOMPARE(channels("monitor_voltage", QStringLiteral("U_rms_mean_")).size(), phases.size());
 }
 
 void TstBlockColumns::onlyStatisticsThatWereStoredHaveColumns()
@@ -260,6 +266,19 @@ void TstBlockColumns::namesOfColumnsAreUniqueInEveryWiring()
             QCOMPARE(QSet<QString>(columns.begin(), columns.end()).size(), columns.size());
         }
     }
+}
+
+void TstBlockColumns::everyTypeOfTheFormatHasAPlaceOfItsOwn()
+{
+    QSet<int> places;
+    for (const quint32 stretch : { 0xA1000000U, 0xA1001000U, 0xA1010000U }) {
+        for (quint32 type = stretch; type < stretch + 256; ++type)
+            places << BlockCheck::placeOf(type);
+    }
+    QCOMPARE(places.size(), 3 * 256);
+    QVERIFY(!places.contains(BlockCheck::kOtherPlace));
+    for (const quint32 foreign : { 0x00000000U, 0x00000020U, 0xA1000120U, 0xA1011000U, 0xFFFFFFFFU })
+        QCOMPARE(BlockCheck::placeOf(foreign), int(BlockCheck::kOtherPlace));
 }
 
 QTEST_APPLESS_MAIN(TstBlockColumns)

@@ -67,6 +67,7 @@ private slots:
     void readerTakesAnExampleOfTheStandard();
     void eachWaveformIsAPairWithItsValues();
     void piecesOfAWaveformBecomeOnePair();
+    void phasesHaveTheirLetters();
     void stampsDoNotDrift();
     void lowestSampleDoesNotCountAsMissing();
     void withoutAFactorSamplesHaveNoUnit();
@@ -192,6 +193,18 @@ void TstComtradeExport::piecesOfAWaveformBecomeOnePair()
     QCOMPARE(read.last, qint64(10));
     QCOMPARE(read.raw[0].last(), qint16(900));
     QCOMPARE(read.channels[1].phase, QByteArray("BC"));
+}
+
+void TstComtradeExport::phasesHaveTheirLetters()
+{
+    const QVector<QByteArray> names { "U_L1", "U_L2", "U_L3", "U_N", "U_L12", "U_L23", "U_L31", "I_other" };
+    QVERIFY(write({ waveformOf(names, 10240) }, counted(names.size(), 1)));
+    const Pair read = pair("0001_event");
+    QCOMPARE(read.fault, QString());
+    QByteArrayList phases;
+    for (const ComtradeReading::Channel &channel : read.channels)
+        phases << channel.phase;
+    QCOMPARE(phases, QByteArrayList({ "A", "B", "C", "N", "AB", "BC", "CA", "" }));
 }
 
 void TstComtradeExport::stampsDoNotDrift()

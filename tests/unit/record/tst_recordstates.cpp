@@ -122,6 +122,14 @@ void TstRecordStates::faultIsNamedWithPlaceAndState_data()
     QTest::newRow("a time that is no number")
         << P::recording(2).add(0xA1000025, P::f64(std::nan("")) + QByteArray(1208, '\0')).end(kSeconds).bytes()
         << RecordState::Broken << qint64(P::recording(2).bytes().size()) << 2;
+    const auto oddBlock = [](const char *name, quint32 type, const QByteArray &payload) {
+        QTest::newRow(name) << P::recording(2).add(type, payload).end(kSeconds).bytes() << RecordState::Broken
+                            << qint64(P::recording(2).bytes().size()) << 2;
+    };
+    const QByteArray event = QByteArray(16, '\1') + P::le(quint64(kTime), 8) + P::le(quint64(kTime), 8);
+    oddBlock("factors of thirteen values", 0xA1000011, QByteArray(52, '\1'));
+    oddBlock("curves without a whole head", 0xA1010083, event.left(31));
+    oddBlock("curves without their sections", 0xA1010083, event + QByteArray(7, '\0'));
     QTest::newRow("foreign") << QByteArray("%PDF-1.4 and more than twenty-four bytes of it") << RecordState::Unreadable
                              << qint64(0) << 0;
     QTest::newRow("another version") << overwritten(bytes, 4, P::le(0x10002010, 4)) << RecordState::Unreadable

@@ -37,6 +37,7 @@ private slots:
     void aBadWeekFailsWhereTheInstrumentPasses();
     void harmonicsAreJudgedOrderByOrder();
     void anInterruptionTakesItsIntervalsOut();
+    void longTermFlickerCountsForTwoHours();
     void aDipFlagsItsInterval();
     void timesWithoutAVoltageAreNotJudged();
     void shortIntervalsMakeTenMinutes();
@@ -142,6 +143,22 @@ void TstRecordJudge::anInterruptionTakesItsIntervalsOut()
     QCOMPARE(j.find(voltage(0))->leftOut, 2);
     QCOMPARE(j.find(voltage(0))->judged, 1006);
     QCOMPARE(j.find(voltage(0))->outcome(), Outcome::Pass);
+}
+
+void TstRecordJudge::longTermFlickerCountsForTwoHours()
+{
+    constexpr qint64 kTwoHours = 12 * kStep;
+    FedRecording r;
+    r.facts.end = kStart + FedRecording::kDay;
+    const int table = r.table("monitor_flicker_plt", { { "Plt", Statistic::None, "L1", "" } });
+    r.fill(table, kTwoHours, [](int) { return std::vector<double> { 0.5 }; });
+    // In the first ten minutes of the second value.
+    r.event(EventInterruption, kStart + kTwoHours + 100000, kStart + kTwoHours + 200000, 0);
+    const Judgement j = judged(r);
+    const QuantityVerdict *v = j.find({ Quantity::Plt, 0, 0 });
+    QCOMPARE(v->leftOut, 1);
+    QCOMPARE(v->judged, 11);
+    QVERIFY(std::abs(v->covered(FedRecording::kDay) - 11 * 100.0 / 12) < 1e-9);
 }
 
 void TstRecordJudge::aDipFlagsItsInterval()

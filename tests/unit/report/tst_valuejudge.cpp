@@ -44,6 +44,7 @@ private slots:
     void nothingIsNotJudged();
     void withoutALimitNothingIsJudged();
     void eachWeekIsJudgedByItself();
+    void aValueOfAWeekThatIsOverCountsForThePresentOne();
     void aFewSecondsMoreAreNoWeekOfTheirOwn();
     void aWeekWithEndlessValuesTakesNoMoreMemory();
     void tenMinutesAreRootMeanSquares();
@@ -229,6 +230,21 @@ void TstValueJudge::eachWeekIsJudgedByItself()
     QCOMPARE(verdict.partial, Outcome::Fail);
     QCOMPARE(verdict.worstWeek, kStart + Weeks::kWeek);
     QCOMPARE(verdict.shareWithin, 948 * 100.0 / 1008);
+}
+
+void TstValueJudge::aValueOfAWeekThatIsOverCountsForThePresentOne()
+{
+    ValueJudge judge(kVoltage, en50160(kVoltage), Weeks(kStart, kStart + 2 * Weeks::kWeek));
+    judge.take(kStart + kStep, 230);
+    judge.take(kStart + Weeks::kWeek + kStep, 231);
+    judge.take(kStart + 2 * kStep, 180); // a clock that was set back
+    judge.take(kStart + Weeks::kWeek + 2 * kStep, 231);
+    const QuantityVerdict &verdict = judge.finish();
+    QCOMPARE(verdict.judged, 4);
+    QCOMPARE(verdict.weeks, 2);
+    QCOMPARE(verdict.weeksFailed, 1);
+    QCOMPARE(verdict.worstWeek, kStart + Weeks::kWeek);
+    QCOMPARE(verdict.shareWithin, 2 * 100.0 / 3);
 }
 
 void TstValueJudge::aFewSecondsMoreAreNoWeekOfTheirOwn()
