@@ -8,6 +8,13 @@
 /// What a shape is drawn with; each writer has its colours for them, by day and by night.
 enum class Ink : quint8 { Frame, Grid, Text, Weak, L1, L2, L3, N, Limit, Good, Bad };
 
+/// Of an input: 0 to 2 the phases, 3 N.
+inline Ink inkOfInput(int input)
+{
+    constexpr Ink kInks[] = { Ink::L1, Ink::L2, Ink::L3, Ink::N };
+    return kInks[qBound(0, input, 3)];
+}
+
 /// A part of a drawing.
 struct Shape
 {

@@ -10,7 +10,6 @@
 namespace {
 
 constexpr double kHeight = 150;
-constexpr Ink kInks[] = { Ink::L1, Ink::L2, Ink::L3, Ink::N };
 constexpr int kInputs = 4;
 
 void frameMoment(Plot *plot, double length, double low, double high, const QString &unit, const Report &text)
@@ -70,7 +69,7 @@ Drawing curveChart(const Moment &moment, bool currents, const Report &text)
                     points.append(plot.at(double(sample.time - extent.first) / 1000, double(sample.value)));
             }
             if (points.size() > 1)
-                drawing.line(kInks[i], points);
+                drawing.line(inkOfInput(i), points);
         }
     }
     return drawing;
@@ -101,7 +100,7 @@ Drawing waveChart(const Moment &moment, bool currents, const Report &text)
         if (channel.unit != unit || !std::isfinite(channel.factor))
             continue;
         const int digit = channel.channel == "N" ? 3 : channel.channel.size() > 1 ? channel.channel.at(1) - '1' : 0;
-        const Ink ink = kInks[qBound(0, digit, kInputs - 1)];
+        const Ink ink = inkOfInput(digit);
         QVector<QPointF> points;
         for (int i = 0; i < count; i += step)
             points.append(plot.at(i / wave.sampleRate, double(moment.samples.at(i * channels + c) * channel.factor)));

@@ -9,13 +9,7 @@
 
 namespace {
 
-constexpr Ink kPhaseInks[] = { Ink::L1, Ink::L2, Ink::L3, Ink::N };
 constexpr double kHeight = 176;
-
-Ink inkOf(int phase)
-{
-    return phase < 0 ? Ink::L1 : kPhaseInks[qBound(0, phase, 3)];
-}
 
 /// The range of what is shown: values, and limits that are near them.
 struct Range
@@ -162,9 +156,9 @@ Drawing trendChart(Quantity quantity, const Judgement &judgement, const Report &
         for (const QuantityTrend &trend : judgement.trends) {
             if (trend.key.quantity != quantity || trend.key.phase != phase)
                 continue;
-            drawBand(&drawing, plot, trend.band, length, inkOf(phase));
+            drawBand(&drawing, plot, trend.band, length, inkOfInput(phase));
             if (phase >= 0)
-                plot.legend(inkOf(phase), Report::phaseName(phase, judgement));
+                plot.legend(inkOfInput(phase), Report::phaseName(phase, judgement));
         }
     }
     for (const double limit : { bounds.low, bounds.high, bounds.wholeLow, bounds.wholeHigh }) {
@@ -200,7 +194,7 @@ Drawing harmonicChart(const Judgement &judgement, const Report &text)
             continue;
         constexpr double kBar = 0.22; // of an order
         const double x = v.key.order + (qMax(0, int(v.key.phase)) - 1.5) * kBar;
-        const Ink ink = v.partial == Outcome::Fail ? Ink::Bad : inkOf(v.key.phase);
+        const Ink ink = v.partial == Outcome::Fail ? Ink::Bad : inkOfInput(v.key.phase);
         drawing.area(ink, { plot.at(x, 0), plot.at(x, v.atShare), plot.at(x + kBar, v.atShare), plot.at(x + kBar, 0) });
         drawing.line(Ink::Limit,
                      { plot.at(v.key.order - 0.45, v.bounds.high), plot.at(v.key.order + 0.45, v.bounds.high) });

@@ -9,8 +9,6 @@
 
 namespace {
 
-const QString kDash = QStringLiteral("–");
-
 ReportCell plain(const QString &text)
 {
     return { text, Tone::Plain, {} };
@@ -68,12 +66,8 @@ void ReportWriter::harmonics()
         if (row.size() == 1)
             continue;
         while (row.size() < table.head.size() - 1)
-            row.append(plain(kDash));
-        row.append({ Report::outcome(worst),
-                     worst == Outcome::Fail       ? Tone::Bad
-                         : worst == Outcome::Pass ? Tone::Good
-                                                  : Tone::Weak,
-                     {} });
+            row.append(plain(Report::dash()));
+        row.append({ Report::outcome(worst), toneOf(worst), {} });
         table.rows.append(row);
     }
     m_content.add(table);
@@ -114,13 +108,13 @@ void ReportWriter::events()
             { { QString::number(event.number), Tone::Plain, hasMoment ? momentAnchor(event.number) : QString() },
               plain(Report::eventName(item.type)),
               plain(item.channel >= 0 && item.channel < kMonitorPhases ? Report::phaseName(item.channel, m_judgement)
-                                                                       : kDash),
+                                                                       : Report::dash()),
               plain(m_text.time(item.startTime)),
               plain(!item.finished ? Report::tr("goes on")
                         : sane     ? m_text.duration(item.endTime - item.startTime)
-                                   : kDash),
+                                   : Report::dash()),
               plain(m_text.eventValue(item)),
-              plain(volts && nominal > 0 ? m_text.percent(double(item.value) * 100 / nominal) : kDash) });
+              plain(volts && nominal > 0 ? m_text.percent(double(item.value) * 100 / nominal) : Report::dash()) });
     }
     m_content.add(table);
     const bool anySlow = std::any_of(o.events.begin(), o.events.end(), [](const RecordedEvent &event) {
@@ -188,7 +182,7 @@ void ReportWriter::instrument()
     ReportTable table;
     for (const auto &row : rows) {
         const QString value = row.second.simplified();
-        table.rows.append({ { row.first, Tone::Weak, {} }, plain(value.isEmpty() ? kDash : value) });
+        table.rows.append({ { row.first, Tone::Weak, {} }, plain(value.isEmpty() ? Report::dash() : value) });
     }
     m_content.add(table);
     m_content.add(

@@ -8,8 +8,6 @@
 
 namespace {
 
-const QString kDash = QStringLiteral("–");
-
 int decimalsOf(Quantity quantity)
 {
     switch (quantity) {
@@ -73,20 +71,20 @@ QString Report::languageTag() const
 QString Report::number(double value, int decimals) const
 {
     if (!std::isfinite(value))
-        return kDash;
+        return dash();
     constexpr double kLargest = 1e12; // beyond, digits are no use
     return std::abs(value) < kLargest ? m_locale.toString(value, 'f', decimals) : m_locale.toString(value, 'e', 3);
 }
 
 QString Report::percent(double value, int decimals) const
 {
-    return std::isfinite(value) ? number(value, decimals) + QStringLiteral(" %") : kDash;
+    return std::isfinite(value) ? number(value, decimals) + QStringLiteral(" %") : dash();
 }
 
 QString Report::time(qint64 ms) const
 {
     if (!isPlausibleTime(ms))
-        return kDash;
+        return dash();
     return QDateTime::fromMSecsSinceEpoch(ms, m_zone).toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
 }
 
@@ -99,7 +97,7 @@ QString Report::duration(qint64 ms) const
 {
     constexpr qint64 kMinute = 60000, kHour = 60 * kMinute;
     if (ms < 0)
-        return kDash;
+        return dash();
     if (ms < kMinute)
         return m_locale.toString(double(ms) / 1000, 'f', ms < 10000 ? 3 : 1) + QStringLiteral(" s");
     const qint64 days = ms / Weeks::kDay;
@@ -125,7 +123,7 @@ QString Report::value(const QuantityKey &key, double value) const
 {
     const QString unit = unitOf(key.quantity);
     const QString text = number(value, decimalsOf(key.quantity));
-    return unit.isEmpty() || text == kDash ? text : text + QLatin1Char(' ') + unit;
+    return unit.isEmpty() || text == dash() ? text : text + QLatin1Char(' ') + unit;
 }
 
 QString Report::phaseName(int phase, const Judgement &judgement)
@@ -184,7 +182,7 @@ QString Report::range(const QuantityKey &key, double low, double high) const
         return number(low, decimals) + QStringLiteral(" … ") + number(high, decimals) + behind;
     if (std::isfinite(high))
         return QStringLiteral("≤ ") + number(high, decimals) + behind;
-    return std::isfinite(low) ? QStringLiteral("≥ ") + number(low, decimals) + behind : kDash;
+    return std::isfinite(low) ? QStringLiteral("≥ ") + number(low, decimals) + behind : dash();
 }
 
 QString Report::eventName(qint32 type)

@@ -20,6 +20,8 @@ public:
     const QLocale &locale() const { return m_locale; }
     /// "de", as an HTML page says its language.
     QString languageTag() const;
+    /// Stands where there is nothing.
+    static QString dash() { return QStringLiteral("–"); }
     /// Rounded to \a decimals; a dash for what is no number.
     QString number(double value, int decimals) const;
     QString percent(double value, int decimals = 1) const;

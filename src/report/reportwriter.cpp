@@ -6,11 +6,7 @@
 
 #include <algorithm>
 
-namespace {
-
-const QString kDash = QStringLiteral("–");
-
-Tone toneOf(Outcome outcome)
+Tone ReportWriter::toneOf(Outcome outcome)
 {
     switch (outcome) {
     case Outcome::Pass:
@@ -21,8 +17,6 @@ Tone toneOf(Outcome outcome)
         return Tone::Weak;
     }
 }
-
-} // namespace
 
 ReportWriter::ReportWriter(const Judgement &judgement, const ReportSource &source, const Report &text)
     : m_judgement(judgement), m_source(source), m_text(text)
@@ -118,7 +112,7 @@ QString ReportWriter::limitText(const QuantityVerdict &verdict) const
                 + m_text.range(verdict.key, b.low, b.high);
     if (b.hasWhole())
         parts << m_text.percent(100, 0) + QStringLiteral(": ") + m_text.range(verdict.key, b.wholeLow, b.wholeHigh);
-    return parts.isEmpty() ? kDash : parts.join(QLatin1Char('\n'));
+    return parts.isEmpty() ? Report::dash() : parts.join(QLatin1Char('\n'));
 }
 
 /// When the worst value was, and the picture of what happened then.
@@ -144,17 +138,19 @@ QVector<ReportCell> ReportWriter::verdictRow(const QuantityVerdict &v) const
     const InstrumentResult *own = m_judgement.instrumentOf(v.key);
     const bool ownOk = own && own->partialOk && own->wholeOk;
     const QString share = m_text.percent(v.bounds.share, v.bounds.share == int(v.bounds.share) ? 0 : 1);
-    return { { m_text.nameOf(v.key, m_judgement), Tone::Plain, {} },
-             { limitText(v), Tone::Plain, {} },
-             { v.judged > 0 && v.bounds.hasPartial() ? m_text.value(v.key, v.atShare) : kDash, Tone::Plain, {} },
-             { m_text.value(v.key, v.worst), Tone::Plain, {} },
-             momentOf(v),
-             { v.bounds.hasPartial() ? m_text.percent(v.shareWithin) : kDash, Tone::Plain, {} },
-             { m_text.percent(v.covered(m_judgement.overview.length()), 0), Tone::Plain, {} },
-             { Report::outcome(outcome), toneOf(outcome), {} },
-             { !own ? kDash : Report::outcome(ownOk ? Outcome::Pass : Outcome::Fail),
-               !own ? Tone::Weak : toneOf(ownOk ? Outcome::Pass : Outcome::Fail),
-               {} } };
+    return {
+        { m_text.nameOf(v.key, m_judgement), Tone::Plain, {} },
+        { limitText(v), Tone::Plain, {} },
+        { v.judged > 0 && v.bounds.hasPartial() ? m_text.value(v.key, v.atShare) : Report::dash(), Tone::Plain, {} },
+        { m_text.value(v.key, v.worst), Tone::Plain, {} },
+        momentOf(v),
+        { v.bounds.hasPartial() ? m_text.percent(v.shareWithin) : Report::dash(), Tone::Plain, {} },
+        { m_text.percent(v.covered(m_judgement.overview.length()), 0), Tone::Plain, {} },
+        { Report::outcome(outcome), toneOf(outcome), {} },
+        { !own ? Report::dash() : Report::outcome(ownOk ? Outcome::Pass : Outcome::Fail),
+          !own ? Tone::Weak : toneOf(ownOk ? Outcome::Pass : Outcome::Fail),
+          {} }
+    };
 }
 
 QVector<ReportCell> ReportWriter::countRow(const EventCount &count) const
@@ -164,12 +160,12 @@ QVector<ReportCell> ReportWriter::countRow(const EventCount &count) const
     return { { Report::eventName(count.type), Tone::Plain, count.all > 0 ? QStringLiteral("events") : QString() },
              { Report::tr("%1 in a week").arg(limit), Tone::Plain, {} },
              { QString::number(count.count), Tone::Plain, {} },
-             { kDash, Tone::Plain, {} },
-             { kDash, Tone::Plain, {} },
-             { kDash, Tone::Plain, {} },
-             { kDash, Tone::Plain, {} },
+             { Report::dash(), Tone::Plain, {} },
+             { Report::dash(), Tone::Plain, {} },
+             { Report::dash(), Tone::Plain, {} },
+             { Report::dash(), Tone::Plain, {} },
              { Report::outcome(outcome), toneOf(outcome), {} },
-             { kDash, Tone::Weak, {} } };
+             { Report::dash(), Tone::Weak, {} } };
 }
 
 /// Of the harmonics the order that goes farthest stands for all.
@@ -193,7 +189,7 @@ void ReportWriter::addRest(ReportTable *table) const
     for (const NotJudged &rest : m_judgement.notJudged) {
         QVector<ReportCell> row { { m_text.nameOf(rest.quantity, m_judgement), Tone::Plain, {} } };
         while (row.size() < table->head.size())
-            row.append({ kDash, Tone::Weak, {} });
+            row.append({ Report::dash(), Tone::Weak, {} });
         row[table->head.size() - 2] = { Report::outcome(Outcome::NotJudged), Tone::Weak, {} };
         table->rows.append(row);
     }

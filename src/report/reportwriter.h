@@ -31,6 +31,7 @@ public:
     QVector<QPair<QString, QString>> facts() const;
 
 private:
+    static Tone toneOf(Outcome outcome);
     // reportwriter.cpp
     void frontPage();
     QVector<ReportCell> verdictRow(const QuantityVerdict &verdict) const;
@@ -40,6 +41,7 @@ private:
     ReportCell momentOf(const QuantityVerdict &verdict) const;
     const QuantityVerdict *worstHarmonic() const;
     void notes();
+    void differences();
     // reportsections.cpp
     void trends();
     void harmonics();
@@ -47,7 +49,6 @@ private:
     void moments();
     void instrument();
     void missing();
-    void differences();
 
     const Judgement &m_judgement;
     const ReportSource &m_source;

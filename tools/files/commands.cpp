@@ -4,6 +4,7 @@
 #include "files/reportcommand.h"
 #include "files/terminal.h"
 #include "record/exports/recovery.h"
+#include "record/tables/recordnames.h"
 
 #include <cstdio>
 #include <limits>
@@ -29,13 +30,12 @@ int runInfo(const CommandLine &line)
 
 int runVerify(const CommandLine &line)
 {
-    static constexpr const char *kStates[] = { "whole", "cut", "broken", "unreadable" };
     int worst = ExitWhole;
     for (const QString &path : line.paths) {
         RecordSource source;
         if (!openSource(&source, path))
             return interrupted();
-        std::printf("%s: %s\n", Terminal::printable(path).toUtf8().constData(), kStates[statusOf(source)]);
+        std::printf("%s: %s\n", Terminal::printable(path).toUtf8().constData(), recordStateName(source.state()));
         if (!Terminal::finishOutput())
             return ExitNoOutput;
         Terminal::complainOf(source);

@@ -4,6 +4,7 @@
 #include "model/channelset.h"
 #include "record/pqa2format.h"
 #include "record/tables/isotime.h"
+#include "record/tables/recordnames.h"
 #include "record/tables/recordsource.h"
 
 #include <QJsonArray>
@@ -13,18 +14,6 @@
 #include <map>
 
 namespace {
-
-const char *kindName(RecordKind kind)
-{
-    static constexpr const char *kNames[] = { "recording", "monitor", "waveform", "page", "log" };
-    return kNames[int(kind)];
-}
-
-const char *stateName(RecordState state)
-{
-    static constexpr const char *kNames[] = { "whole", "cut", "broken", "unreadable" };
-    return kNames[int(state)];
-}
 
 QString blockName(quint32 type)
 {
@@ -90,8 +79,8 @@ QJsonArray jsonBlocks(const QVector<RecordBlockCount> &blocks)
 
 QJsonObject jsonFile(const RecordFileReport &file)
 {
-    return { { "path", file.path },         { "state", stateName(file.state) },    { "start", jsonTime(file.start) },
-             { "end", jsonTime(file.end) }, { "blocks", jsonBlocks(file.blocks) }, { "events", file.events } };
+    return { { "path", file.path },         { "state", recordStateName(file.state) }, { "start", jsonTime(file.start) },
+             { "end", jsonTime(file.end) }, { "blocks", jsonBlocks(file.blocks) },    { "events", file.events } };
 }
 
 // For people
@@ -138,8 +127,8 @@ QByteArray text(const RecordSource &source)
 {
     const RecordFacts &facts = source.facts();
     QByteArray text = Terminal::printable(source.path()).toUtf8() + '\n';
-    addLine(&text, "kind", QString::fromLatin1(kindName(facts.kind)));
-    addLine(&text, "state", QString::fromLatin1(stateName(source.state())));
+    addLine(&text, "kind", QString::fromLatin1(recordKindName(facts.kind)));
+    addLine(&text, "state", QString::fromLatin1(recordStateName(source.state())));
     addLine(&text, "time", span(facts.start, facts.end));
     const QStringList names { facts.model, facts.serialNumber, facts.softwareVersion };
     addLine(&text, "instrument", names.join(QLatin1Char(' ')).trimmed());
@@ -154,7 +143,7 @@ QByteArray text(const RecordSource &source)
     if (source.isFolder()) {
         for (const RecordFileReport &file : source.files())
             addLine(&text, "file",
-                    QStringLiteral("%1 bytes, %2: %3").arg(file.size, 12).arg(stateName(file.state), file.path));
+                    QStringLiteral("%1 bytes, %2: %3").arg(file.size, 12).arg(recordStateName(file.state), file.path));
     }
     for (const RecordBlockCount &block : blocksOf(source))
         addLine(&text, "blocks", QStringLiteral("%1 x %2").arg(block.count, 9).arg(blockName(block.type)));
@@ -166,8 +155,8 @@ QByteArray json(const RecordSource &source)
     const RecordFacts &facts = source.facts();
     QJsonObject object {
         { "path", source.path() },
-        { "kind", kindName(facts.kind) },
-        { "state", stateName(source.state()) },
+        { "kind", recordKindName(facts.kind) },
+        { "state", recordStateName(source.state()) },
         { "start", jsonTime(facts.start) },
         { "end", jsonTime(facts.end) },
         { "instrument",

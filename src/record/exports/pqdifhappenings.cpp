@@ -139,19 +139,18 @@ bool PqdifHappenings::event(const RecordedEvent &event)
         m_categories.insert(event.number, categoryOf(kind, seconds, m_facts.nominalFrequency));
     const QByteArray channel = channelOf(event, m_facts.joinMode);
     const QByteArray name = eventKindName(kind) + (channel.isEmpty() ? "" : " ") + channel;
-    return listEvent(event, kind, seconds) && keepCurves(event, name, seconds);
+    return listEvent(event, name, channel, seconds) && keepCurves(event, name, seconds);
 }
 
-bool PqdifHappenings::listEvent(const RecordedEvent &event, int kind, double seconds)
+bool PqdifHappenings::listEvent(const RecordedEvent &event, const QByteArray &name, const QByteArray &input,
+                                double seconds)
 {
     if (!std::isfinite(event.item.value))
         return true;
-    const KindRow &row = rowOf(kind);
-    const QByteArray input = channelOf(event, m_facts.joinMode);
-    const quint32 unit = pqdifUnit(eventUnit(kind));
-    PqdifChannel channel
-        = valueChannel(eventKindName(kind) + (input.isEmpty() ? "" : " ") + input + " (events)", input, row.measured,
-                       { kSeriesVal, unit, row.characteristic, PqdifStorage::Values, 0 });
+    const KindRow &row = rowOf(event.item.type);
+    const quint32 unit = pqdifUnit(eventUnit(event.item.type));
+    PqdifChannel channel = valueChannel(name + " (events)", input, row.measured,
+                                        { kSeriesVal, unit, row.characteristic, PqdifStorage::Values, 0 });
     channel.type = kMagnitudeDurationTime;
     channel.series.append({ kSeriesDuration, kPqdifSeconds, kQcNone, PqdifStorage::Values, 0 });
     m_list[m_channels->numberOf(channel)].append({ event.item.startTime, event.item.value, float(seconds) });

@@ -29,7 +29,7 @@ private:
         float value;
         float duration; // s
     };
-    bool listEvent(const RecordedEvent &event, int kind, double seconds);
+    bool listEvent(const RecordedEvent &event, const QByteArray &name, const QByteArray &input, double seconds);
     bool keepCurves(const RecordedEvent &event, const QByteArray &name, double seconds);
     bool keepSamples();
     QByteArray waveformName() const;

@@ -4,6 +4,7 @@
 #include "record/exports/wavetime.h"
 #include "record/tables/isotime.h"
 #include "record/tables/recordevents.h"
+#include "record/tables/recordnames.h"
 
 #include <QSet>
 
@@ -53,12 +54,6 @@ QByteArray uniqueName(const QByteArray &name, QSet<QByteArray> *taken)
         unique = SqliteBase::quoted(name + '_' + QByteArray::number(i));
     taken->insert(unique.toLower());
     return unique;
-}
-
-const char *kindName(RecordKind kind)
-{
-    static constexpr const char *kNames[] = { "recording", "monitor", "waveform", "page", "log" };
-    return kNames[int(kind)];
 }
 
 const char *originName(RecordedWaveform::Origin origin)
@@ -212,7 +207,7 @@ bool SqliteExport::makeEventsUnlessThere()
 bool SqliteExport::putInfo(const RecordFacts &facts)
 {
     const QByteArray texts[] = {
-        kindName(facts.kind),        timeText(facts.start),          timeText(facts.end),     facts.model.toUtf8(),
+        recordKindName(facts.kind),  timeText(facts.start),          timeText(facts.end),     facts.model.toUtf8(),
         facts.serialNumber.toUtf8(), facts.softwareVersion.toUtf8(), facts.firmware.toUtf8(), facts.clamp.toUtf8(),
         facts.clampN.toUtf8(),       facts.ratio.toUtf8(),           facts.ratioN.toUtf8(),
     };

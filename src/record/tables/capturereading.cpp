@@ -29,13 +29,6 @@ std::vector<int> inputsOf(int joinMode)
 
 } // namespace
 
-CaptureReading::CaptureReading(const QString &path)
-{
-    m_facts.kind = RecordKind::Waveform;
-    m_files.append(RecordFileReport());
-    m_files[0].path = path;
-}
-
 bool CaptureReading::scan(const RecordProgress &progress)
 {
     RecordFileReport &report = m_files[0];

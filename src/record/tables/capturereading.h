@@ -6,7 +6,7 @@
 class CaptureReading : public RecordReading
 {
 public:
-    explicit CaptureReading(const QString &path);
+    explicit CaptureReading(const QString &path) : RecordReading(RecordKind::Waveform, path) { }
 
     bool scan(const RecordProgress &progress) override;
     bool read(RecordSink &sink, const RecordProgress &progress) override;

@@ -24,13 +24,6 @@ std::vector<QByteArray> cellsOf(const QByteArray &line)
 
 } // namespace
 
-LogReading::LogReading(const QString &path)
-{
-    m_facts.kind = RecordKind::Log;
-    m_files.append(RecordFileReport());
-    m_files[0].path = path;
-}
-
 int LogReading::headerCells(const QByteArray &line)
 {
     return int(cellsOf(line).size());
@@ -43,8 +36,7 @@ qint64 LogReading::timeOf(const QByteArray &line, int cells)
     const QString text = QString::fromLatin1(line.left(kTimeBytes));
     const QDate date = QDate::fromString(text.left(10), QStringLiteral("yyyy/MM/dd"));
     const QTime time = QTime::fromString(text.mid(12), QStringLiteral("hh:mm:ss"));
-    return date.isValid() && time.isValid() && date.year() >= 1970 ? QDateTime(date, time, Qt::UTC).toMSecsSinceEpoch()
-                                                                   : -1;
+    return date.isValid() && time.isValid() ? QDateTime(date, time, Qt::UTC).toMSecsSinceEpoch() : -1;
 }
 
 bool LogReading::scan(const RecordProgress &progress)

@@ -11,13 +11,13 @@ class RecordOutput;
 class LogReading : public RecordReading
 {
 public:
-    explicit LogReading(const QString &path);
+    explicit LogReading(const QString &path) : RecordReading(RecordKind::Log, path) { }
 
     bool scan(const RecordProgress &progress) override;
     bool read(RecordSink &sink, const RecordProgress &progress) override;
     QVector<std::pair<QString, QString>> details() const override;
 
-    /// The time of a line, ms, or -1 for a line that is none of the logger's. \a cells: columns behind the time.
+    /// The time of a line, ms; below 0 for a line that is none of the logger's. \a cells: columns behind the time.
     static qint64 timeOf(const QByteArray &line, int cells);
 
     /// Columns behind the time that a header tells.

@@ -35,13 +35,6 @@ constexpr PageName kPages[] = {
 
 } // namespace
 
-PageReading::PageReading(const QString &path)
-{
-    m_facts.kind = RecordKind::Page;
-    m_files.append(RecordFileReport());
-    m_files[0].path = path;
-}
-
 bool PageReading::scan(const RecordProgress &)
 {
     RecordFileReport &report = m_files[0];

@@ -6,7 +6,7 @@
 class PageReading : public RecordReading
 {
 public:
-    explicit PageReading(const QString &path);
+    explicit PageReading(const QString &path) : RecordReading(RecordKind::Page, path) { }
 
     bool scan(const RecordProgress &progress) override;
     bool read(RecordSink &sink, const RecordProgress &progress) override;

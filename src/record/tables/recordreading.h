@@ -23,6 +23,14 @@ public:
     virtual QVector<std::pair<QString, QString>> details() const { return {}; }
 
 protected:
+    RecordReading() = default;
+    /// Of a record that is one file.
+    RecordReading(RecordKind kind, const QString &path) : m_files(1)
+    {
+        m_facts.kind = kind;
+        m_files[0].path = path;
+    }
+
     RecordFacts m_facts;
     QVector<RecordFileReport> m_files;
 };

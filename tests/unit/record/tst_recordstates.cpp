@@ -1,5 +1,6 @@
 #include "keptrecord.h"
 #include "pqa2bytes.h"
+#include "record/tables/linereader.h"
 #include "record/tables/recordsource.h"
 #include "testpaths.h"
 #include "unit/filestandin.h"
@@ -88,6 +89,7 @@ private slots:
     void damagedPageHasAState();
     void damagedLogHasAState_data();
     void damagedLogHasAState();
+    void lineWithoutAnEndTakesNoMemory();
 };
 
 void TstRecordStates::faultIsNamedWithPlaceAndState_data()
@@ -479,6 +481,7 @@ void TstRecordStates::damagedLogHasAState_data()
                                         << 2;
     QTest::newRow("more cells") << head + line + "2023/11/14  22:13:20,50,50,\n" + line << RecordState::Broken << 2;
     QTest::newRow("no day") << head + "2023/13/14  22:13:20,50.000,\n" + line << RecordState::Broken << 1;
+    QTest::newRow("before 1970") << head + "1969/12/31  23:59:59,50.000,\n" + line << RecordState::Broken << 1;
     QTest::newRow("a line of two megabytes")
         << head + line + QByteArray(2 << 20, '1') + "\n" + line << RecordState::Broken << 2;
     QTest::newRow("foreign columns") << QByteArray(
@@ -524,6 +527,26 @@ void TstRecordStates::samplesWithoutAFactorAreNoValues()
         QVERIFY(std::isnan(kept->waveforms.at(0).facts.channels.at(0).factor));
         QVERIFY(std::isnan(kept->rows.value("transients").at(0).numbers.at(1))); // its extreme value
     }
+}
+
+void TstRecordStates::lineWithoutAnEndTakesNoMemory()
+{
+    QVERIFY(P::save(path("lines"), "first\n" + QByteArray(3 << 20, '1') + "\nlast\n" + QByteArray(3 << 20, '2')));
+    QFile file(path("lines"));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    LineReader lines(&file);
+    QByteArray line;
+    QVERIFY(lines.next(&line));
+    QCOMPARE(line, QByteArray("first"));
+    QVERIFY(lines.next(&line));
+    QVERIFY(line.isEmpty() && lines.isTooLong() && lines.isWhole());
+    QCOMPARE(lines.offset(), qint64(6));
+    QVERIFY(lines.next(&line));
+    QCOMPARE(line, QByteArray("last"));
+    QVERIFY(!lines.isTooLong());
+    QVERIFY(lines.next(&line));
+    QVERIFY(line.isEmpty() && lines.isTooLong() && !lines.isWhole());
+    QVERIFY(!lines.next(&line));
 }
 
 QTEST_APPLESS_MAIN(TstRecordStates)

@@ -258,6 +258,9 @@ void TstRecovery::logKeepsItsWholeLines()
                     head + first + QByteArray(30, '\0') + "\n2023/11/14  22:13:21,1,\n" + last + "2023/11/14  22:1"));
     QCOMPARE(recover("torn.csv", "sound.csv"), Recovery::Done);
     QCOMPARE(P::bytesOf(path("sound.csv")), head + first + last);
+    QVERIFY(P::save(path("torn.csv"), head + first + last.chopped(1))); // nothing but its line feed is missing
+    QCOMPARE(recover("torn.csv", "sound.csv"), Recovery::Done);
+    QCOMPARE(P::bytesOf(path("sound.csv")), head + first);
 }
 
 void TstRecovery::interruptedRecoveryLeavesNothing()

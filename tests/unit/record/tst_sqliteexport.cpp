@@ -54,6 +54,7 @@ private slots:
     void recordingWithoutEventsHasAnEmptyTableOfThem();
     void waveformsHaveTheirSamplesByNumber();
     void tableOfMoreColumnsThanADatabaseTakesGoesOn();
+    void namesThatADatabaseTakesForOneGetNumbers();
     void databaseIsWholeAndNothingStandsBesideIt();
     void fullDiskIsNamedAndLeavesNothing();
     void unfinishedExportLeavesNothing();
@@ -171,6 +172,21 @@ void TstSqliteExport::tableOfMoreColumnsThanADatabaseTakesGoesOn()
     QCOMPARE(ask("select q0, q1997, q1998, q3995, q3996, q4499 from wide join wide_2 using(time_ms) join wide_3 "
                  "using(time_ms)"),
              QByteArray("0.0|1997.0|1998.0|3995.0|3996.0|4499.0\n"));
+}
+
+void TstSqliteExport::namesThatADatabaseTakesForOneGetNumbers()
+{
+    RecordTable odd { "odd \"table\"", {} };
+    for (const char *name : { "EP", "ep", "EP", "a\"b", "time_ms" })
+        odd.columns.append(column(name, Statistic::None, "", ""));
+    SqliteExport sqlite({ out(), QString(), false });
+    QVERIFY2(sqlite.begin(facts()) && sqlite.table(0, odd) && row(&sqlite, 0, 7, { 1, 2, 3, 4, 5 })
+                 && sqlite.end(facts()),
+             qPrintable(sqlite.error()));
+    QCOMPARE(ask("select name from pragma_table_info('odd \"table\"')"),
+             QByteArray("time_utc\ntime_ms\nEP\nep_2\nEP_3\na\"b\ntime_ms_2\n"));
+    QCOMPARE(ask("select time_ms, EP, ep_2, EP_3, \"a\"\"b\", time_ms_2 from \"odd \"\"table\"\"\""),
+             QByteArray("7|1.0|2.0|3.0|4.0|5.0\n"));
 }
 
 void TstSqliteExport::databaseIsWholeAndNothingStandsBesideIt()

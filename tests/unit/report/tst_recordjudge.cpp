@@ -223,24 +223,24 @@ void TstRecordJudge::intervalsThatAreTooLongAreNamed()
 void TstRecordJudge::harmonicsInVoltsAreTakenOfTheirFundamental()
 {
     FedRecording r;
-    r.facts.end = kStart + 3 * kStep;
+    r.facts.end = kStart + 4 * kStep;
     QVector<RecordColumn> columns { { "U_distortion", Statistic::Mean, "L1", "V" },
                                     { "U_fundamental", Statistic::Mean, "L1", "V" },
                                     { "U_fundamental", Statistic::Minimum, "L1", "V" },
                                     { "Uh05", Statistic::Mean, "L1", "V", CellType::Single, 5 } };
     const int h = r.table("harmonics_u", columns);
-    r.fill(h, kStep, [](int i) { return std::vector<double> { 9.2, i == 2 ? 0.0 : 230.0, 1, 4.6 }; });
+    r.fill(h, kStep, [](int i) { return std::vector<double> { 9.2, i == 2 ? 0.0 : i == 3 ? -230.0 : 230.0, 1, 4.6 }; });
     const Judgement j = judged(r);
     QCOMPARE(j.find({ Quantity::Thd, 0, 0 })->atShare, 4.0);
     QCOMPARE(j.find({ Quantity::Harmonic, 0, 5 })->atShare, 2.0);
-    QCOMPARE(j.find({ Quantity::Harmonic, 0, 5 })->withoutNumber, 1); // without a fundamental
+    QCOMPARE(j.find({ Quantity::Harmonic, 0, 5 })->withoutNumber, 2); // without a fundamental
 }
 
 void TstRecordJudge::mainsSignalsNeedThreeSeconds()
 {
     const QVector<RecordColumn> columns { { "U_signal1_ratio", Statistic::Mean, "L1", "" } };
     const QuantityKey key { Quantity::Signal1, 0, 0 };
-    for (const qint64 interval : { 3000, 10000 }) {
+    for (const qint64 interval : { 3000, 6000, 10000 }) {
         FedRecording r;
         r.facts.end = kStart + 6 * kStep;
         r.fill(r.table("signalling", columns), interval, [](int) { return std::vector<double> { 0.06 }; });

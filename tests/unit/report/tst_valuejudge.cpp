@@ -260,6 +260,8 @@ void TstValueJudge::aFewSecondsMoreAreNoWeekOfTheirOwn()
     QCOMPARE(Weeks(kStart, kStart + 2 * Weeks::kWeek).indexOf(kStart + Weeks::kWeek + 1), 1);
     QVERIFY(!Weeks(kStart, kStart + 6 * Weeks::kDay).isWhole());
     QVERIFY(kOneWeek.isWhole());
+    QVERIFY(Weeks(kStart, kStart + Weeks::kWeek - 3600000).isWhole()); // a percent of a week is 101 minutes
+    QVERIFY(!Weeks(kStart, kStart + Weeks::kWeek - 2 * 3600000).isWhole());
 }
 
 void TstValueJudge::aWeekWithEndlessValuesTakesNoMoreMemory()
@@ -328,6 +330,11 @@ void TstValueJudge::spansMergeAndAreFound()
     QVERIFY(!spans.touch(400, 500));
     QVERIFY(spans.touch(600, 800));
     QVERIFY(!spans.touch(800, 900));
+    spans.add(400, 450); // behind the one that ends there
+    QCOMPARE(spans.size(), 2);
+    spans.add(650, 700); // in front of the one that begins there
+    QCOMPARE(spans.size(), 2);
+    QCOMPARE(spans.length(), qint64(400));
 }
 
 void TstValueJudge::spansOfWildTimesAreNone()
