@@ -73,7 +73,8 @@ container() { systemd-nspawn --quiet --directory="$root" --register=no --keep-un
 container sh -c 'apt-get update && DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends \
     /packages/quvera_*.deb /packages/quvera-tools_*.deb' >"$out/install.log" 2>&1 || die "not installed: $out/install.log"
 container systemd-analyze verify /lib/systemd/system/quvera.service >&2 || die "systemd does not like the unit"
-container systemd-analyze security --offline=true --no-pager quvera.service 2>/dev/null | tail -n 1 >&2
+container env SYSTEMD_COLORS=0 SYSTEMD_URLIFY=0 SYSTEMD_EMOJI=0 \
+    systemd-analyze security --offline=true --no-pager quvera.service 2>/dev/null | tail -n 1 >&2
 
 cp "$here/inside.sh" "$root/packages/inside.sh"
 cat >"$root/etc/systemd/system/packages-check.service" <<EOF
