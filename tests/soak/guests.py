@@ -230,11 +230,18 @@ class LiveWalker(Walker):
             self.close_dialogs()
 
     def save_recording(self):
+        """Asks for the end until the question stands there, and answers it with "Save"."""
         self.ends.clear()
-        self.close_dialogs()
-        if not self.go_to("Logger"):
-            raise RuntimeError("the logger's page did not come")
-        self.press("F5 F4", 1)
+        for _ in range(5):
+            self.close_dialogs()
+            if self.look().get("Title") == "Memory":
+                self.press("F5", 0.5)  # leads back to the page before
+            if self.go_to("Logger"):
+                self.press("F5", 1)
+                if "F4 Save" in self.look().get("Keys", ""):
+                    self.press("F4", 1)
+                    return
+        raise RuntimeError("the recording cannot be saved")
 
 
 class MonitorWalker(Walker):
@@ -260,8 +267,16 @@ class MonitorWalker(Walker):
         self.press("Down Up F5")
 
     def finish(self):
+        """Quits the run, from whichever of its pages."""
         self.ends.clear()
-        self.press("Menu F4", 1)
+        for _ in range(5):
+            if self.look().get("Title") == "Memory":
+                self.press("F5", 0.5)
+            self.press("Menu", 1)
+            if "F4 Quit" in self.look().get("Keys", ""):
+                self.press("F4", 1)
+                return
+        raise RuntimeError("the monitor's run cannot be ended")
 
 
 class Wanderer(Walker):
