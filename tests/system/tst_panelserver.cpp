@@ -37,6 +37,7 @@ private slots:
     void withoutADeskThereAreNoControls();
     void tokenIsAskedForBeyondThisMachine();
     void tokenOfAFileHoldsOnThisMachineToo();
+    void tokenOfAFileTakesNothingFromTheMachinesName();
     void tokenThatIsTooShortIsRefused();
     void signalEndsItWithViewersWatching();
 
@@ -353,6 +354,17 @@ void TstPanelServer::tokenOfAFileHoldsOnThisMachineToo()
     QCOMPARE(panel.address().query(), QStringLiteral("token=abcdef0123456789XYZ"));
     QCOMPARE(get(panel.port(), "/").status, 401);
     QCOMPARE(get(panel.port(), "/", "Authorization: Bearer abcdef0123456789XYZ\r\n").status, 200);
+}
+
+// The address that is printed has that name.
+void TstPanelServer::tokenOfAFileTakesNothingFromTheMachinesName()
+{
+    QTemporaryFile file;
+    QVERIFY(file.open() && file.write("abcdef0123456789XYZ\n") > 0 && file.flush());
+    PanelProcess panel;
+    QVERIFY(panel.startFor(*m_instrument, { "--listen", "0.0.0.0", "--token-file", file.fileName() }));
+    const QByteArray host = panel.address().host().toLatin1() + ':' + QByteArray::number(panel.port());
+    QCOMPARE(say(panel.port(), "GET /?token=abcdef0123456789XYZ HTTP/1.1\r\nHost: " + host + "\r\n\r\n").status, 303);
 }
 
 void TstPanelServer::tokenThatIsTooShortIsRefused()

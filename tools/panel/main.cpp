@@ -140,13 +140,11 @@ QString readOptions(const QCommandLineParser &parser, const Definitions &given, 
     const QStringList names = parser.values(given.name);
     for (const QString &name : names)
         options->names.push_back(name.toStdString());
-    if (parser.isSet(given.tokenFile))
-        return readToken(parser.value(given.tokenFile), &options->token);
     if (!options->listen.isLoopback()) {
         options->token = newToken();
         options->names.push_back(QHostInfo::localHostName().toStdString());
     }
-    return {};
+    return parser.isSet(given.tokenFile) ? readToken(parser.value(given.tokenFile), &options->token) : QString();
 }
 
 /// Signals end the server; no other thread is to see them. To be called before there is any.
