@@ -3,6 +3,8 @@
 
 #include <QBuffer>
 #include <QDir>
+#include <QRegularExpression>
+#include <QSet>
 
 using namespace SystemTest;
 
@@ -19,6 +21,8 @@ private slots:
     void keyNamesAndNumbersGiveTheRemoteNumber();
     void galleryPicturesTheMenuAndVoltsAmpsHertz();
     void galleryPicturesOneLanguage();
+    void manualsHaveTheOptionsOfTheHelp_data();
+    void manualsHaveTheOptionsOfTheHelp();
 
 private:
     struct Result
@@ -178,6 +182,39 @@ void TstTools::galleryPicturesOneLanguage()
     QVERIFY(!english.isNull() && !russian.isNull());
     QCOMPARE(russian.copy(tile), english.copy(tile));
     QVERIFY(russian.copy(captions) != english.copy(captions));
+}
+
+void TstTools::manualsHaveTheOptionsOfTheHelp_data()
+{
+    QTest::addColumn<int>("least");
+    QTest::newRow("quvera-remote") << 4;
+    QTest::newRow("quvera-gallery") << 11;
+    QTest::newRow("quvera-processor") << 12;
+    QTest::newRow("quvera-panel") << 8;
+    QTest::newRow("quvera-files") << 12;
+}
+
+void TstTools::manualsHaveTheOptionsOfTheHelp()
+{
+    QFETCH(int, least);
+    const QString tool = QString::fromLatin1(QTest::currentDataTag());
+    const auto options = [](const QString &text) {
+        QSet<QString> found;
+        auto words = QRegularExpression(QStringLiteral("(?<![a-z-])--[a-z][a-z-]*")).globalMatch(text);
+        while (words.hasNext())
+            found << words.next().captured();
+        // Every tool has them, whether its help names them or not; the second is the toolkit's own.
+        return found - QSet<QString> { "--help", "--help-all", "--version" };
+    };
+    QFile page(QStringLiteral(QUVERA_SOURCE_DIR "/docs/man/") + tool + QStringLiteral(".1"));
+    QVERIFY(page.open(QIODevice::ReadOnly));
+    const QSet<QString> inHelp = options(QString::fromUtf8(run(tool, { "--help" }).output));
+    const QString manual
+        = QString::fromUtf8(page.readAll()).remove(QRegularExpression(QStringLiteral("\\\\f[BIR]|\\\\")));
+    const QSet<QString> inManual = options(manual);
+    QVERIFY2(inHelp.size() >= least, qPrintable(QString::number(inHelp.size())));
+    QVERIFY2(inHelp == inManual,
+             qPrintable(QStringList((inHelp - inManual + (inManual - inHelp)).values()).join(QLatin1Char(' '))));
 }
 
 QTEST_GUILESS_MAIN(TstTools)
