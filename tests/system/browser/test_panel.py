@@ -484,14 +484,14 @@ class PanelInABrowser(unittest.TestCase):
         self.title_becomes("Setup")
         guide = self.desk.address + "guide/"
         link = self.page.find_element(By.ID, "help")
-        eventually(lambda: link.get_attribute("href") == guide + "setup-pages.html", "help is that of another page")
+        eventually(lambda: link.get_attribute("href") == guide + "guide/pages.html#setup", "help is that of another page")
         link.click()
         eventually(lambda: len(self.page.window_handles) == 2, "help opens nothing")
         panel = self.page.current_window_handle
         self.page.switch_to.window(next(handle for handle in self.page.window_handles if handle != panel))
         try:
-            self.assertEqual(self.page.current_url, guide + "setup-pages.html")
-            self.assertEqual(self.page.find_element(By.TAG_NAME, "h1").text, "Set-up pages")
+            self.assertEqual(self.page.current_url, guide + "guide/pages.html#setup")
+            self.assertEqual(self.page.find_element(By.TAG_NAME, "h1").text, "The pages")
         finally:
             self.page.close()
             self.page.switch_to.window(panel)
