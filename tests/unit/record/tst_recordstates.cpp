@@ -72,6 +72,7 @@ private slots:
     void linksOfTheFileSystemInACircleAreUnreadable();
     void folderWithoutPermissionIsUnreadable();
     void folderTakesNoOtherFilesThanItsOwn();
+    void nameThatOnlyLooksLikeAPartIsNone();
     void folderAboveRecordsNamesThem();
     void samplesWithoutAFactorAreNoValues();
     void emptyFileAmongOthersIsACut();
@@ -291,6 +292,20 @@ void TstRecordStates::folderTakesNoOtherFilesThanItsOwn()
     read(path("own"));
     QCOMPARE(source.state(), RecordState::Whole);
     QCOMPARE(source.files().size(), 1);
+}
+
+void TstRecordStates::nameThatOnlyLooksLikeAPartIsNone()
+{
+    // One at a time, each with a whole recording in it: what a folder hands out first makes no difference.
+    int folder = 0;
+    for (const char *name : { "Common_1", "Common_0", "Common_02", "Common_+2", "Common_-2", "Common_ 2", "Common_",
+                              "Common_x", "common", "_2", "Common_1000", "Common_99999999999" }) {
+        const QString at = path(QStringLiteral("odd%1").arg(++folder));
+        QVERIFY(QDir().mkpath(at));
+        QVERIFY(P::recording(2).end(kSeconds).save(at + QLatin1Char('/') + QLatin1String(name) + ".pqa2"));
+        read(at);
+        QVERIFY2(source.state() == RecordState::Unreadable, name);
+    }
 }
 
 void TstRecordStates::emptyFileAmongOthersIsACut()

@@ -48,7 +48,15 @@ private slots:
     void whatIsMissingIsNamed();
     void withoutANominalValueNothingIsHidden();
     void eventsAreCountedByTheWeek();
+    void anEventAtMidnightBelongsToTheWeekThatBegins();
+    void anInterruptionThatGoesOnLastsUntilTheEnd();
+    void aVoltageAtTheThresholdIsOne();
+    void timeWithoutAVoltageBeginsAtTheRowBefore();
+    void extremesAreNotJudged();
+    void theInstrumentsResultIsThatOfTheQuantity();
     void theWorstEventsGetTheirPicture();
+    void theFirstTransientsGetTheirPicture();
+    void aPictureHasNoMoreSamplesThanAreSeen();
     void clocksThatAreApartLoseNoTime();
     void anEmptyRecordingIsNotJudged();
     void wildTimesAndTablesAreHarmless();
@@ -316,6 +324,95 @@ void TstRecordJudge::eventsAreCountedByTheWeek()
     QCOMPARE(j.outcome(), Outcome::Fail);
 }
 
+void TstRecordJudge::anEventAtMidnightBelongsToTheWeekThatBegins()
+{
+    FedRecording r;
+    r.facts.end = kStart + 2 * FedRecording::kWeek;
+    r.fill(r.table("monitor_voltage", FedRecording::voltages(1)), kStep,
+           [](int) { return std::vector<double> { 230 }; });
+    for (int i = 0; i < 20; ++i) // as many as are allowed
+        r.event(EventDip, kStart + i * 10000 + 1, kStart + i * 10000 + 100, 180);
+    r.event(EventDip, kStart + FedRecording::kWeek, kStart + FedRecording::kWeek + 100, 180);
+    const Judgement j = judged(r);
+    QCOMPARE(j.eventCounts.first().all, 21);
+    QCOMPARE(j.eventCounts.first().count, 20);
+    QCOMPARE(j.outcomeOf(j.eventCounts.first()), Outcome::Pass);
+}
+
+void TstRecordJudge::anInterruptionThatGoesOnLastsUntilTheEnd()
+{
+    FedRecording r;
+    r.facts.end = kStart + 6 * kStep;
+    r.fill(r.table("monitor_voltage", FedRecording::voltages(1)), kStep,
+           [](int) { return std::vector<double> { 230 }; });
+    r.event(EventInterruption, kStart + 3 * kStep + 1000, kStart + 3 * kStep + 1000, 0);
+    r.events[0].item.finished = 0;
+    const Judgement j = judged(r);
+    QCOMPARE(j.find(voltage(0))->judged, 3);
+    QCOMPARE(j.find(voltage(0))->leftOut, 3);
+}
+
+void TstRecordJudge::aVoltageAtTheThresholdIsOne()
+{
+    // One percent of 200 V.
+    FedRecording r;
+    r.facts.nominalVolt = 200;
+    r.facts.end = kStart + 2 * kStep;
+    const int u = r.table("monitor_voltage", FedRecording::voltages(1));
+    r.row(u, kStart + kStep, { 2 });
+    r.row(u, kStart + 2 * kStep, { 1.99 });
+    const Judgement j = judged(r);
+    QVERIFY(j.overview.hasLiveVoltage);
+    QCOMPARE(j.find(voltage(0))->judged, 1);
+    QCOMPARE(j.find(voltage(0))->leftOut, 1);
+}
+
+void TstRecordJudge::timeWithoutAVoltageBeginsAtTheRowBefore()
+{
+    FedRecording r;
+    r.facts.end = kStart + 6 * kStep;
+    const int u = r.table("rms", FedRecording::voltages(1));
+    const int f = r.table("frequency_10s", { { "f", Statistic::None, "", "Hz" } });
+    r.fill(u, 10000, [](int i) { return std::vector<double> { i == 200 ? 0.0 : 230.0 }; });
+    r.fill(f, 10000, [](int) { return std::vector<double> { 50 }; });
+    const Judgement j = judged(r);
+    QCOMPARE(j.find(kFrequency)->leftOut, 1); // of 360
+    QCOMPARE(j.find(kFrequency)->judged, 359);
+}
+
+void TstRecordJudge::extremesAreNotJudged()
+{
+    FedRecording r;
+    r.facts.end = kStart + 6 * kStep;
+    QVector<RecordColumn> columns { { "U_rms", Statistic::Maximum, "L1", "V" },
+                                    { "U_rms", Statistic::Minimum, "L1", "V" } };
+    r.fill(r.table("rms", columns), 10000, [](int) { return std::vector<double> { 400, 1 }; });
+    QVERIFY(!judged(r).find(voltage(0)));
+    columns.append(FedRecording::voltages(1));
+    FedRecording whole;
+    whole.facts.end = r.facts.end;
+    whole.fill(whole.table("rms", columns), 10000, [](int) { return std::vector<double> { 400, 1, 230 }; });
+    QCOMPARE(judged(whole).find(voltage(0))->outcome(), Outcome::Pass);
+}
+
+void TstRecordJudge::theInstrumentsResultIsThatOfTheQuantity()
+{
+    FedRecording r;
+    const int plt = r.table("monitor_flicker_plt",
+                            { { "Plt", Statistic::None, "L1", "" }, { "Plt", Statistic::None, "L2", "" } });
+    const int unbalance = r.table("monitor_unbalance", { { "U_negative_ratio", Statistic::Mean, "", "percent" } });
+    r.fill(plt, 12 * kStep, [](int) { return std::vector<double> { 0.5, 1.5 }; }); // 1 is allowed
+    r.fill(unbalance, kStep, [](int) { return std::vector<double> { 3 }; }); // 2 is allowed
+    const Judgement j = judged(r);
+    const InstrumentResult *first = j.instrumentOf({ Quantity::Plt, 0, 0 });
+    const InstrumentResult *second = j.instrumentOf({ Quantity::Plt, 1, 0 });
+    const InstrumentResult *third = j.instrumentOf({ Quantity::Unbalance, -1, 0 });
+    QVERIFY(first && second && third);
+    QVERIFY(first->partialOk);
+    QVERIFY(!second->partialOk);
+    QVERIFY(!third->partialOk);
+}
+
 void TstRecordJudge::theWorstEventsGetTheirPicture()
 {
     FedRecording r;
@@ -330,6 +427,35 @@ void TstRecordJudge::theWorstEventsGetTheirPicture()
     QCOMPARE(j.moments.at(1).event.number, 30); // the deepest
     QCOMPARE(j.moments.at(1).event.item.startRms[0].size(), 2);
     QCOMPARE(j.overview.events.at(29).item.startRms[0].size(), 0); // the others take no memory
+}
+
+void TstRecordJudge::theFirstTransientsGetTheirPicture()
+{
+    FedRecording r;
+    RecordedWaveform wave;
+    wave.sampleRate = 1000;
+    wave.channels = { { "U_L1", "L1", "V", 1 } };
+    wave.origin = RecordedWaveform::Capture; // is none
+    r.wave(wave, { 99 });
+    wave.origin = RecordedWaveform::Transient;
+    for (qint16 i = 0; i < 5; ++i)
+        r.wave(wave, { i, i });
+    const Judgement j = judged(r);
+    QCOMPARE(j.moments.size(), 4);
+    for (qint16 i = 0; i < 4; ++i)
+        QCOMPARE(j.moments.at(i).samples, (QVector<qint16> { i, i }));
+}
+
+void TstRecordJudge::aPictureHasNoMoreSamplesThanAreSeen()
+{
+    FedRecording r;
+    r.event(EventDip, kStart + 1000, kStart + 2000, 100);
+    RecordedWaveform wave;
+    wave.event = 1;
+    wave.sampleRate = 1000;
+    wave.channels = { { "U_L1", "L1", "V", 1 }, { "U_L2", "L2", "V", 1 }, { "U_L3", "L3", "V", 1 } };
+    r.wave(wave, QVector<qint16>(3 * 30000, 7));
+    QCOMPARE(judged(r).moments.first().samples.size(), 65535); // whole samples of three inputs within 65536
 }
 
 void TstRecordJudge::clocksThatAreApartLoseNoTime()

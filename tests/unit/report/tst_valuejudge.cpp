@@ -34,6 +34,8 @@ private slots:
     void limitsThatAreNotAppliedAreNone();
     void aRatioOfOneLiesOnTheBound();
     void aStoredFloatOnTheLimitKeepsIt();
+    void aMillivoltBeyondTheLimitIsOutside();
+    void distanceIsMeasuredByTheLimitOfAllWhereThereIsNoOther();
     void fiftyOfAWeekMayLieOutside();
     void fiftyOneAreTooMany();
     void oneValueBeyondTheWholeLimitFails();
@@ -108,6 +110,26 @@ void TstValueJudge::aStoredFloatOnTheLimitKeepsIt()
     const Bounds bounds = boundsOf({ Quantity::Harmonic, 0, 15 }, limits, 230, 50);
     QVERIFY(bounds.holdsPartial(double(0.3f)));
     QVERIFY(!bounds.holdsPartial(0.3001));
+}
+
+void TstValueJudge::aMillivoltBeyondTheLimitIsOutside()
+{
+    const Bounds bounds = boundsOf(kVoltage, LimitBuiltins::en50160(), 230, 50);
+    QVERIFY(bounds.holdsPartial(253) && bounds.holdsPartial(207));
+    QVERIFY(!bounds.holdsPartial(253.001) && !bounds.holdsPartial(206.999));
+    QVERIFY(bounds.holdsWhole(195.5) && !bounds.holdsWhole(195.499));
+}
+
+void TstValueJudge::distanceIsMeasuredByTheLimitOfAllWhereThereIsNoOther()
+{
+    Bounds bounds;
+    bounds.nominal = 230;
+    bounds.wholeLow = 200;
+    bounds.wholeHigh = 250;
+    QCOMPARE(bounds.ratio(240), 0.5);
+    QCOMPARE(bounds.ratio(185), 1.5);
+    bounds.high = 235; // the limit of a share counts where there is one
+    QCOMPARE(bounds.ratio(240), 2.0);
 }
 
 void TstValueJudge::fiftyOfAWeekMayLieOutside()
