@@ -161,7 +161,7 @@ QByteArray htmlTable(const ReportTable &table)
         text += "<tr" + idOf(table.anchors.value(r)) + '>';
         bool first = true;
         for (const ReportCell &cell : table.rows.at(r)) {
-            const QByteArray inner = linked(quoted(cell.text), cell.link).replace('\n', "<br>");
+            const QByteArray inner = linked(quoted(cell.text).replace('\n', "<br>"), cell.link);
             text += first ? "<th scope=\"row\"" : "<td";
             text += classOf(cell.tone) + '>' + inner + (first ? "</th>" : "</td>");
             first = false;

@@ -1,5 +1,6 @@
 #include "model/channelset.h"
 #include "model/monitorrecords.h"
+#include "record/tables/recordevents.h"
 #include "report/reportcharts.h"
 #include "report/reportwriter.h"
 #include "report/tenminutes.h"
@@ -12,6 +13,11 @@ namespace {
 ReportCell plain(const QString &text)
 {
     return { text, Tone::Plain, {} };
+}
+
+QString orDash(const QString &text)
+{
+    return text.isEmpty() ? Report::dash() : text;
 }
 
 } // namespace
@@ -45,28 +51,30 @@ void ReportWriter::harmonics()
     ReportTable table;
     table.caption = Report::tr("Reached in the share of time, percent of the fundamental");
     table.head = QStringList { Report::tr("Order"), Report::tr("Limit") };
+    QVector<int> phases;
     for (int phase = 0; phase < kMonitorPhases; ++phase) {
-        if (m_judgement.find({ Quantity::Harmonic, qint8(phase), 2 }))
-            table.head << Report::phaseName(phase, m_judgement);
+        if (!m_judgement.find({ Quantity::Harmonic, qint8(phase), 2 }))
+            continue;
+        phases.append(phase);
+        table.head << Report::phaseName(phase, m_judgement);
     }
     table.head << Report::tr("Result");
     for (int order = 2; order <= monitor_limit::kRows; ++order) {
-        QVector<ReportCell> row { plain(QString::number(order)) };
+        QVector<ReportCell> row { plain(QString::number(order)), {} };
         Outcome worst = Outcome::NotApplied;
-        for (int phase = 0; phase < kMonitorPhases; ++phase) {
+        for (const int phase : phases) {
             const QuantityVerdict *v = m_judgement.find({ Quantity::Harmonic, qint8(phase), qint16(order) });
-            if (!v || !v->bounds.hasPartial())
+            if (!v || !v->bounds.hasPartial()) {
+                row.append(plain(Report::dash()));
                 continue;
-            if (row.size() == 1)
-                row.append(plain(m_text.percent(v->bounds.share, 0) + QStringLiteral(": ")
-                                 + m_text.range(v->key, v->bounds.low, v->bounds.high)));
+            }
+            row[1] = plain(m_text.share(v->bounds.share) + QStringLiteral(": ")
+                           + m_text.range(v->key, v->bounds.low, v->bounds.high));
             row.append({ m_text.number(v->atShare, 2), v->outcome() == Outcome::Fail ? Tone::Bad : Tone::Plain, {} });
             worst = worseOf(worst, v->outcome());
         }
-        if (row.size() == 1)
+        if (row.at(1).text.isEmpty())
             continue;
-        while (row.size() < table.head.size() - 1)
-            row.append(plain(Report::dash()));
         row.append({ Report::outcome(worst), toneOf(worst), {} });
         table.rows.append(row);
     }
@@ -107,8 +115,7 @@ void ReportWriter::events()
         table.rows.append(
             { { QString::number(event.number), Tone::Plain, hasMoment ? momentAnchor(event.number) : QString() },
               plain(Report::eventName(item.type)),
-              plain(item.channel >= 0 && item.channel < kMonitorPhases ? Report::phaseName(item.channel, m_judgement)
-                                                                       : Report::dash()),
+              plain(orDash(QString::fromLatin1(eventChannel(item, o.facts.joinMode)))),
               plain(m_text.time(item.startTime)),
               plain(!item.finished ? Report::tr("goes on")
                         : sane     ? m_text.duration(item.endTime - item.startTime)
@@ -165,14 +172,17 @@ void ReportWriter::instrument()
     const RecordFacts &facts = m_judgement.overview.facts;
     m_content.add(ReportBlock::Heading, Report::tr("Instrument and settings"));
     const ChannelSet *wiring = channelSet(facts.joinMode);
+    const auto nominal = [this](double value, int decimals, const char *unit) {
+        return value > 0 ? m_text.number(value, decimals) + QLatin1Char(' ') + QLatin1String(unit) : QString();
+    };
     const QPair<QString, QString> rows[] = {
         { Report::tr("Model"), facts.model },
         { Report::tr("Serial number"), facts.serialNumber },
         { Report::tr("Software"), facts.softwareVersion },
         { Report::tr("Firmware"), facts.firmware },
         { Report::tr("Wiring"), wiring ? QString::fromLatin1(wiring->fullName) : QString() },
-        { Report::tr("Nominal voltage"), m_text.number(facts.nominalVolt, 1) + QStringLiteral(" V") },
-        { Report::tr("Nominal frequency"), m_text.number(facts.nominalFrequency, 0) + QStringLiteral(" Hz") },
+        { Report::tr("Nominal voltage"), nominal(facts.nominalVolt, 1, "V") },
+        { Report::tr("Nominal frequency"), nominal(facts.nominalFrequency, 0, "Hz") },
         { Report::tr("Clamp"), facts.clamp },
         { Report::tr("Clamp") + QStringLiteral(" N"), facts.clampN },
         { Report::tr("Ratio"), facts.ratio },
@@ -181,8 +191,7 @@ void ReportWriter::instrument()
     };
     ReportTable table;
     for (const auto &row : rows) {
-        const QString value = row.second.simplified();
-        table.rows.append({ { row.first, Tone::Weak, {} }, plain(value.isEmpty() ? Report::dash() : value) });
+        table.rows.append({ { row.first, Tone::Weak, {} }, plain(orDash(row.second.simplified())) });
     }
     m_content.add(table);
     m_content.add(

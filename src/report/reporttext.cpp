@@ -81,6 +81,11 @@ QString Report::percent(double value, int decimals) const
     return std::isfinite(value) ? number(value, decimals) + QStringLiteral(" %") : dash();
 }
 
+QString Report::share(double value) const
+{
+    return percent(value, value == std::floor(value) ? 0 : 1);
+}
+
 QString Report::time(qint64 ms) const
 {
     if (!isPlausibleTime(ms))

@@ -25,6 +25,8 @@ public:
     /// Rounded to \a decimals; a dash for what is no number.
     QString number(double value, int decimals) const;
     QString percent(double value, int decimals = 1) const;
+    /// A share that a limit asks for: "95 %", "99.5 %".
+    QString share(double value) const;
     /// "2026-11-22 12:00:00"; a dash for none.
     QString time(qint64 ms) const;
     /// " UTC" where times are that; nothing where they are those of the user.

@@ -108,8 +108,7 @@ QString ReportWriter::limitText(const QuantityVerdict &verdict) const
     const Bounds &b = verdict.bounds;
     QStringList parts;
     if (b.hasPartial())
-        parts << m_text.percent(b.share, b.share == int(b.share) ? 0 : 1) + QStringLiteral(": ")
-                + m_text.range(verdict.key, b.low, b.high);
+        parts << m_text.share(b.share) + QStringLiteral(": ") + m_text.range(verdict.key, b.low, b.high);
     if (b.hasWhole())
         parts << m_text.percent(100, 0) + QStringLiteral(": ") + m_text.range(verdict.key, b.wholeLow, b.wholeHigh);
     return parts.isEmpty() ? Report::dash() : parts.join(QLatin1Char('\n'));
@@ -137,7 +136,6 @@ QVector<ReportCell> ReportWriter::verdictRow(const QuantityVerdict &v) const
     const Outcome outcome = v.outcome();
     const InstrumentResult *own = m_judgement.instrumentOf(v.key);
     const bool ownOk = own && own->partialOk && own->wholeOk;
-    const QString share = m_text.percent(v.bounds.share, v.bounds.share == int(v.bounds.share) ? 0 : 1);
     return {
         { m_text.nameOf(v.key, m_judgement), Tone::Plain, {} },
         { limitText(v), Tone::Plain, {} },

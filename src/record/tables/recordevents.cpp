@@ -160,6 +160,14 @@ QByteArray eventUnit(int kind)
     return row ? row->unit : kind >= EventThd && kind <= EventHarmonicLast ? "percent" : "";
 }
 
+QByteArray eventChannel(const __event_item &item, int joinMode)
+{
+    const bool isOfAll = item.type == EventUnbalance || item.type == EventFrequency;
+    if (isOfAll || item.channel < 0 || item.channel >= kInputs)
+        return {};
+    return inputName(joinMode, item.channel, item.type != EventInrush);
+}
+
 RecordTable eventTable()
 {
     const auto column = [](const char *name, const char *unit, CellType type) {
@@ -177,14 +185,10 @@ EventCells eventCells(const RecordedEvent &event, int joinMode)
 {
     const PQAEventItem &item = event.item;
     const double none = std::numeric_limits<double>::quiet_NaN();
-    const bool isOfAll = item.type == EventUnbalance || item.type == EventFrequency;
-    QByteArray channel;
-    if (!isOfAll && item.channel >= 0 && item.channel < kInputs)
-        channel = inputName(joinMode, item.channel, item.type != EventInrush);
     EventCells cells;
     cells.numbers = { double(event.number), double(item.type), double(item.value), double(item.finished),
                       item.finished ? double(item.endTime - item.startTime) : none };
-    cells.texts = { eventKindName(item.type), channel, eventUnit(item.type),
+    cells.texts = { eventKindName(item.type), eventChannel(item, joinMode), eventUnit(item.type),
                     item.finished ? IsoTime::text(item.endTime) : QByteArray() };
     return cells;
 }

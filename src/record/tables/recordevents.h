@@ -42,6 +42,9 @@ PQAEventItem eventOf(const QByteArray &payload, quint8 voltages);
 QByteArray eventKindName(int kind);
 /// Unit of an event's value.
 QByteArray eventUnit(int kind);
+/// "L1", "L12", "N": the input of an event, as its value is of the voltages or the currents; nothing where it is of
+/// all.
+QByteArray eventChannel(const __event_item &item, int joinMode);
 /// The table of the events and the cells of one, for takers that want nothing but tables.
 RecordTable eventTable();
 struct EventCells
