@@ -11,6 +11,12 @@ constexpr std::size_t kSteps = 63; // that tell the usual one
 constexpr int kLogLines = 20;
 constexpr int kMostTables = 1000;
 
+/// Whether the rows of a table can be of a time before the recording: a recorder takes over what was found until then.
+bool holdsHappenings(const QByteArray &table)
+{
+    return table == "events" || table == "transients";
+}
+
 /// Number of the cell of column \a at among those of its kind.
 int cellOf(const RecordTable &table, int at)
 {
@@ -102,7 +108,7 @@ bool OverviewSink::end(const RecordFacts &facts)
 {
     RecordOverview &o = m_overview;
     o.facts = facts;
-    qint64 first = 0, last = 0;
+    qint64 first = 0, firstValue = 0, last = 0;
     for (Table &table : m_tables) {
         if (table.look.rows == 0)
             continue;
@@ -113,14 +119,18 @@ bool OverviewSink::end(const RecordFacts &facts)
         }
         o.tables.insert(table.name, table.look);
         first = first == 0 ? table.look.first : std::min(first, table.look.first);
+        if (!holdsHappenings(table.name))
+            firstValue = firstValue == 0 ? table.look.first : std::min(firstValue, table.look.first);
         last = std::max(last, table.look.last);
     }
     // The start is told by the instrument's clock, values by the processor's: the two may be apart. A value of days
     // before has a damaged time.
     constexpr qint64 kApart = qint64(24) * 3600 * 1000;
     o.start = isPlausibleTime(facts.start) ? facts.start : first;
-    if (first > 0 && first < o.start && o.start - first <= kApart)
-        o.start = first;
+    if (firstValue > 0 && firstValue < o.start && o.start - firstValue <= kApart)
+        o.start = firstValue;
+    else if (firstValue > 0)
+        o.countsFrom = o.start;
     o.end = std::max({ isPlausibleTime(facts.end) ? facts.end : last, o.start, last });
     for (const RecordedEvent &event : qAsConst(o.events)) {
         const __event_item &item = event.item;

@@ -54,6 +54,7 @@ private slots:
     void timeWithoutAVoltageBeginsAtTheRowBefore();
     void extremesAreNotJudged();
     void theInstrumentsResultIsThatOfTheQuantity();
+    void whatWasFoundBeforeTheRecordingIsListedAndNotCounted();
     void theWorstEventsGetTheirPicture();
     void theFirstTransientsGetTheirPicture();
     void aPictureHasNoMoreSamplesThanAreSeen();
@@ -411,6 +412,28 @@ void TstRecordJudge::theInstrumentsResultIsThatOfTheQuantity()
     QVERIFY(first->partialOk);
     QVERIFY(!second->partialOk);
     QVERIFY(!third->partialOk);
+}
+
+void TstRecordJudge::whatWasFoundBeforeTheRecordingIsListedAndNotCounted()
+{
+    FedRecording r;
+    const int u = r.table("monitor_voltage", FedRecording::voltages(1));
+    r.fill(u, kStep, [](int) { return std::vector<double> { 230 }; });
+    const int events = r.table("events", {});
+    const qint64 begins[] = { kStart - 90000, kStart - 50, kStart + 5000 }; // over; runs into the recording; in it
+    for (const qint64 begin : begins) {
+        r.event(EventDip, begin, begin + 100, 180);
+        r.row(events, begin, {});
+    }
+    const Judgement j = judged(r);
+    QCOMPARE(j.overview.start, kStart);
+    QCOMPARE(j.overview.events.size(), 3);
+    QCOMPARE(j.eventCounts.first().all, 3);
+    QCOMPARE(j.eventCounts.first().count, 2);
+
+    // With clocks apart the start says nothing about an event.
+    r.facts.start = kStart + 12 * kStep;
+    QCOMPARE(judged(r).eventCounts.first().count, 3);
 }
 
 void TstRecordJudge::theWorstEventsGetTheirPicture()
