@@ -302,10 +302,10 @@ class PanelInABrowser(unittest.TestCase):
 
     def test_sliders_change_what_stands_at_the_inputs(self):
         self.put("volts", "volts", 221.5)
-        self.stands("Voltages", "221.5 / 221.5 / 221.5 V")
+        self.stands("Voltages set", "221.5 / 221.5 / 221.5 V")
         self.put("volts", "phase", "2")
         self.put("volts", "volts", 210)
-        self.stands("Voltages", "221.5 / 210.0 / 221.5 V")
+        self.stands("Voltages set", "221.5 / 210.0 / 221.5 V")
         self.put("frequency", "hertz", 50.5)
         self.stands("Frequency", "50.5")
 
@@ -344,7 +344,7 @@ class PanelInABrowser(unittest.TestCase):
 
     def test_controls_begin_as_things_stand(self):
         self.put("volts", "volts", 217.5)
-        self.stands("Voltages", "217.5 / 217.5 / 217.5 V")
+        self.stands("Voltages set", "217.5 / 217.5 / 217.5 V")
         self.put("speed", "factor", "2")
         self.stands("Speed", "2")
         self.page.refresh()
@@ -354,7 +354,7 @@ class PanelInABrowser(unittest.TestCase):
         eventually(lambda: speed.get_property("value") == "2", "the speed stands elsewhere")
         self.put("volts", "phase", "2")
         self.put("volts", "volts", 210)
-        self.stands("Voltages", "217.5 / 210.0 / 217.5 V")
+        self.stands("Voltages set", "217.5 / 210.0 / 217.5 V")
         self.put("volts", "phase", "1")  # the slider is that phase's at once
         self.assertEqual(slider.get_property("value"), "217.5")
         self.put("speed", "factor", "1")

@@ -4,8 +4,8 @@
 const shown = [
   ['scenario', 'Scenario', (s) => s.scenario],
   ['f', 'Frequency', (s) => s.f && `${Math.abs(s.f).toFixed(3)} Hz`], // negative before it was measured
-  ['volts', 'Voltages', (s) => s.volts && `${s.volts.split(',').slice(0, 3).map((v) => Number(v).toFixed(1)).join(' / ')} V`],
-  ['amps', 'Currents', (s) => s.amps && `${s.amps.split(',').slice(0, 3).map((v) => Number(v).toFixed(2)).join(' / ')} A`],
+  ['volts', 'Voltages set', (s) => s.volts && `${s.volts.split(',').slice(0, 3).map((v) => Number(v).toFixed(1)).join(' / ')} V`],
+  ['amps', 'Currents set', (s) => s.amps && `${s.amps.split(',').slice(0, 3).map((v) => Number(v).toFixed(2)).join(' / ')} A`],
   ['speed', 'Speed', (s) => s.speed && `${s.speed} ×`],
   ['usb', 'USB disk', (s) => s.usb || 'none'],
   ['faults', 'Link faults', (s) => (s.faults === '0' ? 'none' : s.faults)],
