@@ -13,6 +13,8 @@ class TstReportTables : public QObject
     Q_OBJECT
 
 private slots:
+    void headlineSaysWhatTheResultRestsOn_data();
+    void headlineSaysWhatTheResultRestsOn();
     void everyQuantityHasItsRow();
     void limitsOfSharesWithAHalfAreShownWithIt();
     void worstHarmonicStandsForAll();
@@ -26,6 +28,7 @@ private slots:
     void sameResultNeedsNoExplanation();
     void factsAreInTheTimeOfTheReader();
     void everyStateHasItsWord();
+    void eachPieceIsAnElement();
     void hostileNamesStayInTheirLinks();
     void lineFeedsAreBrokenInTheTextAlone();
 };
@@ -91,6 +94,63 @@ const char *const kOne = "Instrument, unbalance and flicker: one value below the
                          "result.";
 
 } // namespace
+
+void TstReportTables::headlineSaysWhatTheResultRestsOn_data()
+{
+    QTest::addColumn<int>("outcome");
+    QTest::addColumn<int>("days");
+    QTest::addColumn<int>("missing"); // a quantity, -1 none
+    QTest::addColumn<int>("dips"); // one is allowed
+    QTest::addColumn<QString>("headline");
+    QTest::addColumn<int>("tone");
+    const int pass = int(Outcome::Pass), fail = int(Outcome::Fail);
+    const int good = int(Tone::Good), bad = int(Tone::Bad), plain = int(Tone::Plain);
+    const QString complies = "The supply complies with EN50160.", fails = "The supply does not comply with EN50160.";
+    const int plt = int(Quantity::Plt);
+    QTest::newRow("pass") << pass << 7 << -1 << 1 << complies << good;
+    QTest::newRow("without flicker") << pass << 7 << plt << 0
+                                     << "As far as it was judged, the supply complies with EN50160." << plain;
+    QTest::newRow("without signals") << pass << 7 << int(Quantity::Signal2) << 0 << complies << good;
+    QTest::newRow("fail") << fail << 7 << -1 << 0 << fails << bad;
+    QTest::newRow("fail without flicker") << fail << 7 << plt << 0 << fails << bad;
+    QTest::newRow("too many dips") << pass << 7 << -1 << 2 << fails << bad;
+    const QString days = "Indication from less than a week (6 d 00:00:00): ";
+    QTest::newRow("six days") << pass << 6 << -1 << 0 << days + "the supply kept to the limits of EN50160." << plain;
+    QTest::newRow("six days without flicker")
+        << pass << 6 << plt << 0 << days + "as far as it was judged, the supply kept to the limits of EN50160."
+        << plain;
+    QTest::newRow("six bad days") << fail << 6 << -1 << 0 << days + "the supply did not keep to the limits of EN50160."
+                                  << bad;
+    QTest::newRow("nothing") << int(Outcome::NotJudged) << 7 << -1 << 0
+                             << "The recording holds nothing that can be judged." << int(Tone::Weak);
+}
+
+void TstReportTables::headlineSaysWhatTheResultRestsOn()
+{
+    QFETCH(int, outcome);
+    QFETCH(int, days);
+    QFETCH(int, missing);
+    QFETCH(int, dips);
+    QFETCH(QString, headline);
+    QFETCH(int, tone);
+    Judgement j = emptyWeek();
+    j.overview.end = kStart + days * Weeks::kDay;
+    j.weeks = Weeks(kStart, j.overview.end);
+    j.verdicts = { verdict({ Quantity::Voltage, 0, 0 }, 95, 207, 253, Outcome(outcome)) };
+    if (missing >= 0)
+        j.notJudged.append({ Quantity(missing), NotJudgedBecause::NotRecorded });
+    j.eventCounts = { { EventDip, dips, dips, 1 } };
+    const ReportBlock shown = contentOf(j).blocks.at(1);
+    QCOMPARE(int(shown.kind), int(ReportBlock::Verdict));
+    QCOMPARE(shown.text, headline);
+    QCOMPARE(int(shown.tone), tone);
+    if (outcome != int(Outcome::NotJudged))
+        return;
+    j.overview.hasLiveVoltage = false;
+    QCOMPARE(contentOf(j).blocks.at(1).text, QStringLiteral("There was no voltage: nothing can be judged."));
+    j.overview.hasVoltage = false; // a recording of currents alone says nothing of the voltage
+    QCOMPARE(contentOf(j).blocks.at(1).text, headline);
+}
 
 void TstReportTables::everyQuantityHasItsRow()
 {
@@ -327,6 +387,33 @@ void TstReportTables::everyStateHasItsWord()
         states << ReportWriter(j, source, text).facts().last().second;
     }
     QCOMPARE(states, lines({ "whole", "cut short", "damaged in the middle", "not readable" }));
+}
+
+void TstReportTables::eachPieceIsAnElement()
+{
+    ReportContent content;
+    content.add(ReportBlock::Title, "title");
+    content.add(ReportBlock::Verdict, "verdict", Tone::Good);
+    content.add(ReportBlock::Item, "one");
+    content.add(ReportBlock::Item, "two", Tone::Weak);
+    content.add(ReportBlock::Heading, "first", Tone::Plain, "place");
+    content.add(ReportBlock::SubHeading, "below");
+    content.add(ReportBlock::Paragraph, "text", Tone::Weak);
+    content.add(ReportBlock::Heading, "second");
+    ReportTable table;
+    table.rows = { { { "name", Tone::Weak, {} }, { "value", Tone::Plain, {} } } };
+    content.add(table);
+    content.add(ReportBlock::Item, "last");
+    const QByteArray html = htmlReport(content);
+    const int from = html.indexOf("<main>");
+    // Lists and sections end where something else begins, and at the end.
+    QCOMPARE(html.mid(from, html.indexOf("</main>") - from).replace('\n', ""),
+             QByteArray("<main><h1>title</h1><p class=\"verdict good\">verdict</p>"
+                        "<ul><li>one</li><li class=\"weak\">two</li></ul>"
+                        "<section><h2 id=\"place\">first</h2><h3>below</h3><p class=\"weak\">text</p></section>"
+                        "<section><h2>second</h2><div class=\"wide facts\"><table><tbody><tr>"
+                        "<th scope=\"row\" class=\"weak\">name</th><td>value</td></tr></tbody></table></div>"
+                        "<ul><li>last</li></ul></section>"));
 }
 
 void TstReportTables::hostileNamesStayInTheirLinks()
