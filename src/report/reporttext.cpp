@@ -86,6 +86,12 @@ QString Report::share(double value) const
     return percent(value, value == std::floor(value) ? 0 : 1);
 }
 
+QString Report::shareWithin(double value) const
+{
+    constexpr double kAllowance = 1e-6; // for tenths that no double holds; one value of a year is more
+    return percent(std::floor(value * 10 + kAllowance) / 10);
+}
+
 QString Report::time(qint64 ms) const
 {
     if (!isPlausibleTime(ms))

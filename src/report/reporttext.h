@@ -27,6 +27,8 @@ public:
     QString percent(double value, int decimals = 1) const;
     /// A share that a limit asks for: "95 %", "99.5 %".
     QString share(double value) const;
+    /// The share that keeps to it, rounded down: what fails by a little does not look as if it held.
+    QString shareWithin(double value) const;
     /// "2026-11-22 12:00:00"; a dash for none.
     QString time(qint64 ms) const;
     /// " UTC" where times are that; nothing where they are those of the user.

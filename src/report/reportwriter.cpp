@@ -142,7 +142,7 @@ QVector<ReportCell> ReportWriter::verdictRow(const QuantityVerdict &v) const
         { v.judged > 0 && v.bounds.hasPartial() ? m_text.value(v.key, v.atShare) : Report::dash(), Tone::Plain, {} },
         { m_text.value(v.key, v.worst), Tone::Plain, {} },
         momentOf(v),
-        { v.bounds.hasPartial() ? m_text.percent(v.shareWithin) : Report::dash(), Tone::Plain, {} },
+        { v.bounds.hasPartial() ? m_text.shareWithin(v.shareWithin) : Report::dash(), Tone::Plain, {} },
         { m_text.percent(v.covered(m_judgement.overview.length()), 0), Tone::Plain, {} },
         { Report::outcome(outcome), toneOf(outcome), {} },
         { !own ? Report::dash() : Report::outcome(ownOk ? Outcome::Pass : Outcome::Fail),

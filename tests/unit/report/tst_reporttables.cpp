@@ -17,6 +17,7 @@ private slots:
     void headlineSaysWhatTheResultRestsOn();
     void everyQuantityHasItsRow();
     void limitsOfSharesWithAHalfAreShownWithIt();
+    void whatFailsByALittleDoesNotLookAsIfItHeld();
     void worstHarmonicStandsForAll();
     void worstMomentLeadsToTheEventThatReachesIntoItsInterval();
     void kindsOfEventsAreCountedAgainstTheirLimit();
@@ -185,6 +186,24 @@ void TstReportTables::limitsOfSharesWithAHalfAreShownWithIt()
                    verdict({ Quantity::ZeroUnbalance, -1, 0 }, 95, 0.5, Bounds::kNone, Outcome::Pass) };
     QCOMPARE(column(tableOf(j, "Verdict"), 0), lines({ "Unbalance", "Unbalance, zero sequence" }));
     QCOMPARE(column(tableOf(j, "Verdict"), 1), lines({ "99.5 %: ≤ 2.00 %", "95 %: ≥ 0.50 %" }));
+}
+
+void TstReportTables::whatFailsByALittleDoesNotLookAsIfItHeld()
+{
+    Judgement j = emptyWeek();
+    QuantityVerdict v = verdict({ Quantity::Unbalance, -1, 0 }, 99.5, -Bounds::kNone, 2, Outcome::Fail);
+    const auto within = [&](double share) {
+        v.shareWithin = share;
+        j.verdicts = { v };
+        return column(tableOf(j, "Verdict"), 5).join(QString());
+    };
+    QCOMPARE(within(60479 * 100.0 / 60480), QStringLiteral("99.9 %")); // one value of a week is beyond
+    QCOMPARE(within(99.499), QStringLiteral("99.4 %"));
+    QCOMPARE(within(100), QStringLiteral("100.0 %"));
+    QCOMPARE(within(QuantityVerdict::kNone), QStringLiteral("–"));
+    // Tenths that no double holds are not cut.
+    for (int tenths = 0; tenths <= 1000; ++tenths)
+        QCOMPARE(within(tenths / 10.0), QString("%1.%2 %").arg(tenths / 10).arg(tenths % 10));
 }
 
 void TstReportTables::worstHarmonicStandsForAll()
