@@ -88,8 +88,7 @@ QString Report::share(double value) const
 
 QString Report::shareWithin(double value) const
 {
-    constexpr double kAllowance = 1e-6; // for tenths that no double holds; one value of a year is more
-    return percent(std::floor(value * 10 + kAllowance) / 10);
+    return percent(std::floor(value * 10) / 10); // a quotient that is whole tenths is one here, too
 }
 
 QString Report::time(qint64 ms) const

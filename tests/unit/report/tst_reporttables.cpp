@@ -203,7 +203,7 @@ void TstReportTables::whatFailsByALittleDoesNotLookAsIfItHeld()
     QCOMPARE(within(QuantityVerdict::kNone), QStringLiteral("–"));
     // Tenths that no double holds are not cut.
     for (int tenths = 0; tenths <= 1000; ++tenths)
-        QCOMPARE(within(tenths / 10.0), QString("%1.%2 %").arg(tenths / 10).arg(tenths % 10));
+        QCOMPARE(within(tenths * 60 * 100.0 / 60000), QString("%1.%2 %").arg(tenths / 10).arg(tenths % 10));
 }
 
 void TstReportTables::worstHarmonicStandsForAll()
