@@ -3,6 +3,7 @@
 #include "memory/recordview.h"
 #include "settings/config_data.h"
 #include "testpaths.h"
+#include "unit/record/pqa2bytes.h"
 #include "unit/report/writtenweek.h"
 
 #include <QPointer>
@@ -54,6 +55,9 @@ private slots:
     void theTableMovesAndStopsAtItsEnds();
     void f5LeavesAndTheKeyboardComesBack();
     void leavingEndsTheReading();
+    void aViewThatIsGoneGivesTheReadingUp();
+    void theReadingTellsHowFarItIs();
+    void aRecordingBeginsWithItsEarliestValue();
     void whatCannotBeReadIsSaid_data();
     void whatCannotBeReadIsSaid();
     void otherKeysRise();
@@ -174,6 +178,45 @@ void TstRecordView::leavingEndsTheReading()
     limits.initEN50160();
     RecordView::read(&reading, Target::path(kStorage + kFolder), limits);
     QVERIFY(!reading.judgement);
+}
+
+void TstRecordView::aViewThatIsGoneGivesTheReadingUp()
+{
+    const auto reading = std::make_shared<RecordView::Reading>();
+    QWidget page;
+    {
+        RecordView view(reading, &page);
+        QVERIFY(!reading->givenUp);
+    }
+    QVERIFY(reading->givenUp);
+}
+
+void TstRecordView::theReadingTellsHowFarItIs()
+{
+    // Of 36 bytes the head has 24: two thirds, where the only block begins.
+    const QString file = Target::path(kStorage + "bare.pqa2");
+    QVERIFY(Pqa2Bytes().add(0, {}).save(file));
+    RecordView::Reading reading;
+    RecordView::read(&reading, file, MonitorLimits2());
+    QCOMPARE(int(reading.percent), 66);
+    QVERIFY(reading.judgement && !reading.isJudged);
+}
+
+void TstRecordView::aRecordingBeginsWithItsEarliestValue()
+{
+    // The clock was set back before the second part began.
+    const QString folder = Target::path(kStorage + kFolder);
+    QVERIFY(QDir().mkpath(folder));
+    QVERIFY(Pqa2Bytes::recording(2).save(folder + "/Common.pqa2"));
+    QVERIFY(Pqa2Bytes()
+                .timed(0xA1000029, Pqa2Bytes::kTime - 5000, Pqa2Bytes::f32(50))
+                .end(Pqa2Bytes::kSeconds)
+                .save(folder + "/Common_2.pqa2"));
+    RecordView::Reading reading;
+    RecordView::read(&reading, folder, MonitorLimits2());
+    QVERIFY(reading.judgement);
+    QCOMPARE(reading.judgement->overview.start, Pqa2Bytes::kTime - 5000);
+    QCOMPARE(reading.judgement->overview.end, Pqa2Bytes::kTime + 2000);
 }
 
 void TstRecordView::whatCannotBeReadIsSaid_data()
