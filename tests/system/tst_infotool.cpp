@@ -45,7 +45,6 @@ private:
 private slots:
     void lengthsAreReadable_data();
     void lengthsAreReadable();
-    void recordThatEndsBeforeItsStartHasNoLength();
     void blocksOfAllFilesAreAddedUp();
     void unknownBlocksHaveTheirWholeType();
     void signsThatMoveTheCursorAreWritten();
@@ -79,23 +78,22 @@ void TstInfoTool::lengthsAreReadable()
     QCOMPARE(lineOf("time"), text);
 }
 
-void TstInfoTool::recordThatEndsBeforeItsStartHasNoLength()
-{
-    QVERIFY(P().opening().start(P::kSeconds).end(P::kSeconds - 20).save(path("file.pqa2")));
-    QVERIFY(call({ "info", "file.pqa2" }) >= 0);
-    QCOMPARE(lineOf("time"), QByteArray("2023-11-14T22:13:20.000Z to 2023-11-14T22:13:00.000Z"));
-}
-
 void TstInfoTool::blocksOfAllFilesAreAddedUp()
 {
     QVERIFY(QDir().mkpath(path("record")));
     QVERIFY(P::recording(2).save(path("record/Common.pqa2")));
     QVERIFY(P::recording(3).end(P::kSeconds + 9).save(path("record/Common_2.pqa2")));
     QCOMPARE(call({ "info", "record", "--json" }), 0);
-    const QJsonObject expected {
-        { "type", "0xA1000029" }, { "name", "frequency" }, { "count", 5 }, { "bytes", 60 } // 12 each
-    };
-    QVERIFY2(QJsonDocument::fromJson(m_said).object().value("blocks").toArray().contains(expected), m_said);
+    int found = 0;
+    for (const QJsonValue &value : QJsonDocument::fromJson(m_said).object().value("blocks").toArray()) {
+        const QJsonObject block = value.toObject();
+        if (block.value("type").toString() != QLatin1String("0xA1000029"))
+            continue;
+        ++found;
+        QCOMPARE(block.value("count").toInt(), 5);
+        QCOMPARE(block.value("bytes").toInt(), 60); // 12 each
+    }
+    QCOMPARE(found, 1);
 }
 
 void TstInfoTool::unknownBlocksHaveTheirWholeType()
@@ -139,7 +137,7 @@ void TstInfoTool::aDashIsAPath()
 void TstInfoTool::anEmptyValueIsNone()
 {
     QVERIFY(P::recording(1).end(P::kSeconds).save(path("file.pqa2")));
-    for (const char *option : { "--limits", "--lang" }) {
+    for (const char *option : { "--limits", "--language" }) {
         const QString empty = QLatin1String(option) + QStringLiteral("=");
         QCOMPARE(call({ "report", "file.pqa2", "--html", "report.html", empty }), 64);
         QVERIFY2(m_complaint.contains(option + QByteArray(" needs a ")), m_complaint);
