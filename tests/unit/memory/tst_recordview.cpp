@@ -1,6 +1,7 @@
 #include "memorycase.h"
 
 #include "memory/recordview.h"
+#include "paintedtexts.h"
 #include "settings/config_data.h"
 #include "testpaths.h"
 #include "unit/record/pqa2bytes.h"
@@ -53,6 +54,7 @@ private slots:
     void aRecordingShowsWhatItIs();
     void timesAreThoseOfTheUser();
     void theTableMovesAndStopsAtItsEnds();
+    void ofTwoLimitsTheFirstStandsInTheTable();
     void f5LeavesAndTheKeyboardComesBack();
     void leavingEndsTheReading();
     void aViewThatIsGoneGivesTheReadingUp();
@@ -145,6 +147,24 @@ void TstRecordView::theTableMovesAndStopsAtItsEnds()
     for (int i = 0; i < 100; ++i)
         QTest::keyClick(view, Qt::Key(Up));
     QCOMPARE(painted(), top);
+}
+
+void TstRecordView::ofTwoLimitsTheFirstStandsInTheTable()
+{
+    storeMonitor(WrittenWeek::Clean, 7200);
+    Screen screen;
+    RecordView *view = opened(screen);
+    QVERIFY(view);
+    QStringList painted, limits;
+    for (const PaintedText &text : paintedTexts(*view))
+        painted << text.text;
+    for (const auto &row : view->table().rows) {
+        if (row.at(0).text == QLatin1String("Voltage L1"))
+            limits = row.at(2).text.split(QLatin1Char('\n'));
+    }
+    QCOMPARE(limits.size(), 2); // of a share of the time and of all of it
+    QVERIFY2(painted.contains(limits.at(0)), qPrintable(painted.join('|')));
+    QVERIFY(painted.filter(limits.at(1)).isEmpty());
 }
 
 void TstRecordView::f5LeavesAndTheKeyboardComesBack()

@@ -58,6 +58,8 @@ private slots:
     void theWorstEventsGetTheirPicture();
     void theFirstTransientsGetTheirPicture();
     void aPictureHasNoMoreSamplesThanAreSeen();
+    void aCurveOfAPictureHasItsBound();
+    void theFirstLinesOfTheLogAreKept();
     void clocksThatAreApartLoseNoTime();
     void anEmptyRecordingIsNotJudged();
     void wildTimesAndTablesAreHarmless();
@@ -479,6 +481,35 @@ void TstRecordJudge::aPictureHasNoMoreSamplesThanAreSeen()
     wave.channels = { { "U_L1", "L1", "V", 1 }, { "U_L2", "L2", "V", 1 }, { "U_L3", "L3", "V", 1 } };
     r.wave(wave, QVector<qint16>(3 * 30000, 7));
     QCOMPARE(judged(r).moments.first().samples.size(), 65535); // whole samples of three inputs within 65536
+}
+
+void TstRecordJudge::aCurveOfAPictureHasItsBound()
+{
+    FedRecording r;
+    r.event(EventDip, kStart + 1000, kStart + 2000, 100);
+    r.events[0].item.startRms[4].fill({ kStart, 5 }, 5000);
+    r.events[0].item.endRms[7].fill({ kStart, 5 }, 5000);
+    const Judgement j = judged(r);
+    QCOMPARE(j.moments.first().event.item.startRms[4].size(), 4096);
+    QCOMPARE(j.moments.first().event.item.endRms[7].size(), 4096);
+}
+
+void TstRecordJudge::theFirstLinesOfTheLogAreKept()
+{
+    OverviewSink overview(1);
+    overview.begin(RecordFacts());
+    overview.table(0, { "system_log", { { "text", Statistic::None, "", "", CellType::Text } } });
+    for (int i = 0; i < 25; ++i) {
+        const QByteArray text = "line " + QByteArray::number(i);
+        RecordRow row;
+        row.table = 0;
+        row.time = kStart + i;
+        row.texts = &text;
+        QVERIFY(overview.row(row));
+    }
+    QCOMPARE(overview.overview().log.size(), 20);
+    QCOMPARE(overview.overview().log.first(), QStringLiteral("line 0"));
+    QCOMPARE(overview.overview().log.last(), QStringLiteral("line 19"));
 }
 
 void TstRecordJudge::clocksThatAreApartLoseNoTime()
