@@ -342,10 +342,11 @@ const RecordJudge::Lane *RecordJudge::laneOf(Quantity quantity) const
 
 namespace {
 
-/// The order in which events are worth a picture: what is deep, high or long first, by the kind.
-double weightOf(const __event_item &item, double nominal)
+/// The order in which events are worth a picture: what is deep, high or long first, by the kind. What goes on lasts
+/// until the recording's \a end.
+double weightOf(const __event_item &item, double nominal, qint64 end)
 {
-    const double seconds = (double(item.endTime) - double(item.startTime)) / 1000;
+    const double seconds = (double(item.finished ? item.endTime : end) - double(item.startTime)) / 1000;
     const double depth = nominal > 0 ? std::abs(double(item.value) - nominal) / nominal : 0;
     switch (item.type) {
     case EventInterruption:
@@ -366,16 +367,17 @@ double weightOf(const __event_item &item, double nominal)
 void RecordJudge::chooseMoments()
 {
     QVector<RecordedEvent> chosen;
-    const double nominal = m_judgement.setup.nominalVolt;
+    const auto weight = [this](const RecordedEvent &event) {
+        return weightOf(event.item, m_judgement.setup.nominalVolt, m_judgement.overview.end);
+    };
     for (const RecordedEvent &event : qAsConst(m_judgement.overview.events)) {
-        if (weightOf(event.item, nominal) > 0)
+        if (weight(event) > 0)
             chosen.append(event);
     }
     const int count = std::min(int(chosen.size()), kMoments);
-    std::partial_sort(chosen.begin(), chosen.begin() + count, chosen.end(),
-                      [nominal](const RecordedEvent &one, const RecordedEvent &other) {
-                          return weightOf(one.item, nominal) > weightOf(other.item, nominal);
-                      });
+    std::partial_sort(
+        chosen.begin(), chosen.begin() + count, chosen.end(),
+        [&weight](const RecordedEvent &one, const RecordedEvent &other) { return weight(one) > weight(other); });
     for (int i = 0; i < count; ++i) {
         m_judgement.moments.append({ chosen.at(i), {}, {} });
         m_judgement.listed.insert(chosen.at(i).number);

@@ -56,6 +56,7 @@ private slots:
     void theInstrumentsResultIsThatOfTheQuantity();
     void whatWasFoundBeforeTheRecordingIsListedAndNotCounted();
     void theWorstEventsGetTheirPicture();
+    void anInterruptionThatGoesOnIsAsLongAsTheRecording();
     void theFirstTransientsGetTheirPicture();
     void aPictureHasNoMoreSamplesThanAreSeen();
     void aCurveOfAPictureHasItsBound();
@@ -452,6 +453,18 @@ void TstRecordJudge::theWorstEventsGetTheirPicture()
     QCOMPARE(j.moments.at(1).event.number, 30); // the deepest
     QCOMPARE(j.moments.at(1).event.item.startRms[0].size(), 2);
     QCOMPARE(j.overview.events.at(29).item.startRms[0].size(), 0); // the others take no memory
+}
+
+void TstRecordJudge::anInterruptionThatGoesOnIsAsLongAsTheRecording()
+{
+    FedRecording r;
+    for (int i = 0; i < 20; ++i) // more than there are pictures
+        r.event(EventInterruption, kStart + i * 10000, kStart + i * 10000 + 5000, 0);
+    r.event(EventInterruption, kStart + 900000, 0, 0);
+    r.events[20].item.finished = 0;
+    const Judgement j = judged(r);
+    QCOMPARE(j.moments.size(), 12);
+    QCOMPARE(j.moments.first().event.number, 21);
 }
 
 void TstRecordJudge::theFirstTransientsGetTheirPicture()
