@@ -4,8 +4,8 @@ set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR armv7l)
 set(CMAKE_LIBRARY_ARCHITECTURE arm-linux-gnueabihf)
 set(CMAKE_CXX_COMPILER arm-linux-gnueabihf-g++)
-# The compiler only notes what changed between its versions 6 and 7.
-set(CMAKE_CXX_FLAGS_INIT -Wno-psabi)
+# The compiler only notes what changed between its versions 6 and 7. Recordings may outgrow 2 GiB.
+set(CMAKE_CXX_FLAGS_INIT "-Wno-psabi -D_FILE_OFFSET_BITS=64")
 if(DEFINED ENV{QUVERA_SYSROOT})
   set(CMAKE_SYSROOT $ENV{QUVERA_SYSROOT})
 else()

@@ -8,6 +8,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+// A recording may outgrow 2 GiB. Where an offset has 32 bits, _FILE_OFFSET_BITS=64 is to be defined for all sources.
+static_assert(sizeof(off_t) == 8, "files beyond 2 GiB need offsets of 64 bits");
+
 namespace {
 
 /// Writes all bytes to a descriptor and closes it; false where it is none.
