@@ -28,6 +28,7 @@ private slots:
     void phaseWithoutNewValueRepeatsTheLastComputed();
     void blocksHoldTheGivenHead();
     void valuesForThePagesFollowTheirPhaseOnly();
+    void valuesForThePagesAreTheLatest();
     void closingNeedsMoreThanTheThreshold();
     void closingCapsTheLongTermValueAtTwenty();
     void closingBlocksHoldOnlyPhasesThatHadEnough();
@@ -238,6 +239,18 @@ void TstFlickerProcessor::valuesForThePagesFollowTheirPhaseOnly()
     QCOMPARE(m_data->pst[0], 0.0f);
     QVERIFY(m_data->pst[2] > 0.7f);
     QCOMPARE(m_data->plt[2], 0.0f);
+}
+
+void TstFlickerProcessor::valuesForThePagesAreTheLatest()
+{
+    for (const float level : { 1.0f, 4.0f }) {
+        for (int interval = 0; interval < 12; ++interval) {
+            fillInterval(0, level);
+            feed(0.0f);
+            QVERIFY(std::fabs(m_data->pst[0] - pstOf(level)) < 0.01f);
+        }
+        QVERIFY(std::fabs(m_data->plt[0] - pstOf(level)) < 0.01f);
+    }
 }
 
 void TstFlickerProcessor::closingNeedsMoreThanTheThreshold()

@@ -39,6 +39,7 @@ private slots:
     void updateFramesPass();
     void olderClockCommandPasses();
     void datagramsCrossIntoTheMainThread();
+    void datagramAfterATurnBringsAnotherTurn();
     void clockSignalsAreRelayed();
     void versionIsTheInitialTextUntilTheProcessorAnswers();
     void versionEndsAtTheFirstZeroByteOrTheArraysEnd();
@@ -386,6 +387,19 @@ void TstIDevice::datagramsCrossIntoTheMainThread()
             continue;
         const QByteArray expected = timeBytes(0) + countingPayload(kind.words - Link::kTimeWords, 1000u * id);
         QCOMPARE(spies[kind.type][0][0].toByteArray(), expected.mid(kind.skippedBytes));
+    }
+}
+
+void TstIDevice::datagramAfterATurnBringsAnotherTurn()
+{
+    connectLink();
+    const QSignalSpy waves(m_idevice, &IDevice::datagramWave);
+    HeadValues head;
+    head.type = DatagramWave;
+    for (int n = 1; n <= 3; ++n) {
+        ++head.id;
+        m_peer->send(makeDatagram(head, countingPayload(Link::kWaveWords - Link::kTimeWords, 1)));
+        QTRY_COMPARE(waves.size(), n); // what waited is taken before the next one is sent
     }
 }
 

@@ -142,6 +142,16 @@ void TstEventSelection::amongNarrowsTheKinds()
     dips.refresh();
     QCOMPARE(types(dips.among({ EventSwell, EventInrush })), QList<int>({ 28, 29, 30 }));
     QVERIFY(dips.among({ EventInrush, EventInrush }).isEmpty());
+
+    // Events that come later go by both: what the part asks for, and what the whole takes.
+    EventSelection part = dips.among({ EventSwell, EventInrush });
+    list.append(event(EventUnbalance));
+    QVERIFY(!part.update(list.size() - 1));
+    list.append(event(EventDip));
+    QVERIFY(!part.update(list.size() - 1));
+    list.append(event(EventRvc));
+    QVERIFY(part.update(list.size() - 1));
+    QCOMPARE(types(part), QList<int>({ 28, 29, 30, 30 }));
 }
 
 void TstEventSelection::stepByStepOrAllAtOnceIsTheSame()

@@ -314,6 +314,19 @@ private slots:
                             "231114_221320 Logger_1,2023-11-14 22:13:20\n"));
     }
 
+    void whatTheIndexMissedComesByItsTime()
+    {
+        RootFiles::write(kIndex, "");
+        QByteArray expected;
+        for (const char *year : { "16", "17", "18", "19", "20", "21", "22", "23" }) {
+            const QByteArray day = year + QByteArray("1114_221320 Logger_1");
+            store(day + "/Common.pqa2");
+            expected += day + ",20" + year + "-11-14 22:13:20\n";
+        }
+        StoredItems::mendIndex(kWarsaw);
+        QCOMPARE(RootFiles::read(kIndex), expected);
+    }
+
     void whatWasSavedSinceTheCardWasReadStaysInTheIndex()
     {
         RootFiles::write(kIndex, "new.png,2023-01-01 00:00:00\ngone.png,2023-01-01 00:00:00\n");
