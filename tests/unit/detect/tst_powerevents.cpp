@@ -20,6 +20,7 @@ private slots:
     void risingIntoNormalValuesReArmsOnceWithoutAnEvent();
     void reArmNeedsAPresentPhase();
     void swellBeginsAboveTheLevelOnAnyPhase();
+    void swellHasTheTimeOfItsPhase();
     void swellEndsWhenAllPhasesFellToLevelMinusHysteresis();
     void swellAndDipRunSideBySide();
     void scanMovesTheExtremeOnlyBehindTheFirstPhaseBeyondTheLevel();
@@ -194,6 +195,16 @@ void TstPowerEvents::swellBeginsAboveTheLevelOnAnyPhase()
     QCOMPARE(event.type, 28);
     QCOMPARE(event.channel, 2);
     QCOMPARE(event.value, 222.0f);
+}
+
+void TstPowerEvents::swellHasTheTimeOfItsPhase()
+{
+    PowerEvents events(exactSettings(), 1);
+    QList<_value_with_time> values;
+    for (qint64 channel = 0; channel < 8; ++channel)
+        values.append({ 1'000'000 + channel, channel == 2 ? 230.0f : 200.0f });
+    events.checkPowerEvents(values);
+    QCOMPARE(events.getAllEvents().at(0).startTime, qint64(1'000'002));
 }
 
 void TstPowerEvents::swellEndsWhenAllPhasesFellToLevelMinusHysteresis()
