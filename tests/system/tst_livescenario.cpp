@@ -91,12 +91,6 @@ private:
 
 void TstLiveScenario::initTestCase()
 {
-    QVERIFY(m_signal.load(QLatin1String(m_row.scenario), m_row.seconds + 10));
-    m_signal.unplug(m_setting.open);
-    m_signal.setRange(10 * m_setting.voltsOfUnit);
-    if (m_row.peculiarity == OpenInputs)
-        openInputs();
-    m_channels.reset(new TrueChannels(m_signal, m_setting.wiring));
     m_live.reset(new LiveGraph);
     QVERIFY2(m_live->start({ QStringLiteral("--scenario"), QLatin1String(m_row.scenario) }),
              qPrintable(m_live->desk().error()));
@@ -106,6 +100,12 @@ void TstLiveScenario::initTestCase()
     RecordedRun::followProcessor(this);
     playSupply();
     QCOMPARE(LiveGraph::status(QStringLiteral("dropped")), QStringLiteral("0"));
+    QVERIFY(m_signal.load(QLatin1String(m_row.scenario), LiveGraph::status(QStringLiteral("t")).toDouble()));
+    m_signal.unplug(m_setting.open);
+    m_signal.setRange(10 * m_setting.voltsOfUnit);
+    if (m_row.peculiarity == OpenInputs)
+        openInputs();
+    m_channels.reset(new TrueChannels(m_signal, m_setting.wiring));
     QVERIFY(m_run.read(QStringLiteral("Truth")));
     takeIntervals();
     if (m_row.peculiarity == None || m_row.peculiarity == AllAtOnce)
