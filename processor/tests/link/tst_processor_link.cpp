@@ -254,6 +254,8 @@ void TstProcessorLink::clockFrameSetsTheStamps()
     desk.say(194, { 0 });
     QCOMPARE(desk.word(0, 32), 1705536000u);
     QCOMPARE(desk.word(0, 36), 250u);
+    desk.link.shiftClock(-250);
+    QCOMPARE(desk.link.clockCount(), before + 2);
 }
 
 void TstProcessorLink::impossibleClockIsCountedAndIgnored()
