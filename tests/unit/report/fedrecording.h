@@ -5,6 +5,20 @@
 #include <functional>
 #include <vector>
 
+/// An event that has ended.
+inline RecordedEvent madeEvent(int number, qint32 type, int channel, qint64 start, qint64 end, float value)
+{
+    RecordedEvent event;
+    event.number = number;
+    event.item.type = type;
+    event.item.channel = channel;
+    event.item.finished = 1;
+    event.item.startTime = start;
+    event.item.endTime = end;
+    event.item.value = value;
+    return event;
+}
+
 /// A recording that a test makes up: its tables and rows are handed to a taker as a file's would be.
 class FedRecording
 {
@@ -43,15 +57,7 @@ public:
 
     void event(qint32 type, qint64 start, qint64 end, float value, int channel = 0)
     {
-        RecordedEvent event;
-        event.number = events.size() + 1;
-        event.item.type = type;
-        event.item.channel = channel;
-        event.item.finished = 1;
-        event.item.value = value;
-        event.item.startTime = start;
-        event.item.endTime = end;
-        events.append(event);
+        events.append(madeEvent(events.size() + 1, type, channel, start, end, value));
     }
 
     void wave(const RecordedWaveform &wave, const QVector<qint16> &samples) { m_waves.push_back({ wave, samples }); }

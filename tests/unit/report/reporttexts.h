@@ -1,6 +1,7 @@
 #pragma once
 
 #include "report/reportwriter.h"
+#include "unit/report/fedrecording.h"
 
 #include <initializer_list>
 
@@ -51,19 +52,6 @@ inline QuantityVerdict harmonic(int phase, int order, double share, double high,
         = verdict({ Quantity::Harmonic, qint8(phase), qint16(order) }, share, -Bounds::kNone, high, partial);
     fill(&v, atShare, 2 * atShare, kStart + 600000, 96, 1008);
     return v;
-}
-
-inline RecordedEvent madeEvent(int number, qint32 type, int channel, qint64 start, qint64 end, float value)
-{
-    RecordedEvent event;
-    event.number = number;
-    event.item.type = type;
-    event.item.channel = channel;
-    event.item.finished = 1;
-    event.item.startTime = start;
-    event.item.endTime = end;
-    event.item.value = value;
-    return event;
 }
 
 inline ReportContent contentOf(const Judgement &judgement, const ReportSource &source = {})
