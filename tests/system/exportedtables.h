@@ -1,6 +1,9 @@
 #pragma once
 
+#include "platform/diskworker.h"
 #include "platform/target.h"
+#include "shell/quveraglobal.h"
+#include "shell/taskmanage.h"
 #include "testpaths.h"
 
 #include <QDateTime>
@@ -40,6 +43,14 @@ public:
         if (!ended || tool.exitCode() != 0 || folders.size() != 1)
             return nullptr;
         return std::make_unique<ExportedTables>(tables);
+    }
+
+    /// Those of the recording that runs: ends and keeps it first.
+    static std::unique_ptr<ExportedTables> ofRunningRecording(const QString &name, QString *problem)
+    {
+        m_taskmanage->stopRecordWithSave(true);
+        DiskWorker::slow().wait();
+        return ofRecording(name, problem);
     }
 
     explicit ExportedTables(const QString &folder) : m_folder(folder) { }

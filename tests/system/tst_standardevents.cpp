@@ -112,10 +112,8 @@ void TstStandardEvents::initTestCase()
                 return;
         }
     }
-    m_taskmanage->stopRecordWithSave(true);
-    DiskWorker::slow().wait();
     QString problem;
-    m_tables = ExportedTables::ofRecording(QStringLiteral("Events"), &problem);
+    m_tables = ExportedTables::ofRunningRecording(QStringLiteral("Events"), &problem);
     QVERIFY2(m_tables, qPrintable(problem));
 }
 

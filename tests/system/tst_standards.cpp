@@ -242,10 +242,8 @@ void TstStandards::initTestCase()
     QCOMPARE(LiveGraph::status(QStringLiteral("dropped")), QStringLiteral("0"));
     QCOMPARE(LiveGraph::status(QStringLiteral("clipped")), QStringLiteral("no"));
 
-    m_taskmanage->stopRecordWithSave(true);
-    DiskWorker::slow().wait();
     QString problem;
-    m_tables = ExportedTables::ofRecording(QStringLiteral("Tables"), &problem);
+    m_tables = ExportedTables::ofRunningRecording(QStringLiteral("Tables"), &problem);
     QVERIFY2(m_tables, qPrintable(problem));
 }
 
