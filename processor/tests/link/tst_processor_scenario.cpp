@@ -15,6 +15,7 @@ class TstProcessorScenario : public QObject
 private slots:
     void keysOfTheScenarioArriveWhereTheyBelong();
     void keysOfTheSignalArriveWhereTheyBelong();
+    void setupWithoutKeysIsAStarAt50HzWithThe230VoltLamp();
     void anglesOfTheCurrentsFollowTheLoadUnlessTheyAreGiven();
     void emptyObjectIsAQuietSupply();
     void wrongFilesAreNamedWithKeyAndExpectation_data();
@@ -95,6 +96,16 @@ void TstProcessorScenario::keysOfTheScenarioArriveWhereTheyBelong()
     QCOMPARE(int(scenario->faults.at(0).fault), int(wire::Fault::Tear));
     QCOMPARE(scenario->faults.at(0).package, 1);
     QCOMPARE(scenario->faults.at(0).bytes, 20);
+}
+
+void TstProcessorScenario::setupWithoutKeysIsAStarAt50HzWithThe230VoltLamp()
+{
+    QString error;
+    const auto scenario = parse(R"({ "setup": {} })", &error);
+    QVERIFY2(scenario, qPrintable(error));
+    QCOMPARE(scenario->setup.nominalFrequency, 50);
+    QCOMPARE(scenario->setup.flickerCurve, 230);
+    QCOMPARE(int(scenario->setup.wiring), 0);
 }
 
 void TstProcessorScenario::keysOfTheSignalArriveWhereTheyBelong()

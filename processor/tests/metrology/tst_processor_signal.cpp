@@ -1,5 +1,6 @@
 #include "check.h"
 #include "rig.h"
+#include "signal/noise.h"
 #include "signal/phaseclock.h"
 
 #include <cmath>
@@ -150,6 +151,19 @@ TEST(noiseHasItsRmsAndNoMean)
     CHECK_NEAR(sum / 200000, 0.0, 0.02);
     CHECK_NEAR(std::sqrt(square / 200000), 2.0, 0.015);
     CHECK_NEAR(neighbours / square, 0.0, 0.01);
+}
+
+TEST(noiseLiesOnTheFirstSampleOfEachBlock)
+{
+    SignalSpec spec;
+    spec.inputs[U1].noiseRms = 2.0;
+    Synthesiser synthesiser(spec, 3);
+    constexpr int Blocks = 400;
+    const Rendered samples = render(synthesiser, Blocks * NoiseBlock::Length, 4096);
+    double square = 0.0;
+    for (std::size_t i = 0; i < samples[U1].size(); i += NoiseBlock::Length)
+        square += samples[U1][i] * samples[U1][i];
+    CHECK_NEAR(std::sqrt(square / Blocks), 2.0, 0.35); // five standard errors
 }
 
 TEST(dipTakesItsDepthForItsSamplesOnly)

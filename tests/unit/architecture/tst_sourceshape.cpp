@@ -1,6 +1,7 @@
 // Holds the sources to the measures of docs/architecture.md, "Gates": lengths, equal lines, one table of wirings.
 #include "unit/architecture/sourcetext.h"
 
+#include <QRect>
 #include <QTest>
 
 namespace {
@@ -45,6 +46,7 @@ private slots:
     void functionsStayShort();
     void noRunOfLinesStandsTwice();
     void onlyTheTableDecidesOnTheWiring();
+    void captionsOfFormsStandOverTheirKeys();
 };
 
 void TstSourceShape::longFunctionsAreFound()
@@ -157,6 +159,36 @@ void TstSourceShape::onlyTheTableDecidesOnTheWiring()
             continue;
         found += wiringDecisions(path, SourceText::read(SourceText::kTop + QLatin1Char('/') + path));
     }
+    QVERIFY2(found.isEmpty(), list(found));
+}
+
+void TstSourceShape::captionsOfFormsStandOverTheirKeys()
+{
+    // The keys below the screen are 127 pixels apart. A dialog stands higher.
+    static const QRegularExpression page(
+        QStringLiteral("<width>640</width>\\s*<height>448</height>.*?<widget.*name=\"btn_f"),
+        QRegularExpression::DotMatchesEverythingOption);
+    static const QRegularExpression caption(
+        QStringLiteral("name=\"btn_f([1-5])\">.*?<x>(\\d+)</x>\\s*<y>(\\d+)</y>\\s*<width>(\\d+)</width>\\s*"
+                       "<height>(\\d+)</height>"),
+        QRegularExpression::DotMatchesEverythingOption);
+    QStringList found;
+    int captions = 0;
+    QDirIterator forms(SourceText::kTop + QStringLiteral("/src"), { QStringLiteral("*.ui") }, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (forms.hasNext()) {
+        const QString text = SourceText::read(forms.next());
+        if (!page.match(text).hasMatch())
+            continue;
+        for (auto each = caption.globalMatch(text); each.hasNext(); ++captions) {
+            const auto match = each.next();
+            const QRect place(match.captured(2).toInt(), match.captured(3).toInt(), match.captured(4).toInt(),
+                              match.captured(5).toInt());
+            if (place != QRect(3 + 127 * (match.captured(1).toInt() - 1), 410, 124, 34))
+                found << forms.fileName() + QStringLiteral(": btn_f") + match.captured(1);
+        }
+    }
+    QVERIFY(captions > 80);
     QVERIFY2(found.isEmpty(), list(found));
 }
 

@@ -26,6 +26,7 @@ private slots:
     void slowSmallStepNeedsTheRate();
     void unsettledChangeIsGivenUpAfterTheWindowTime();
     void atTheEventLimitTheChangeIsLeftStanding();
+    void changeLeftStandingIsRecordedAlsoFromAFullRing();
     void recordedStepIsAFinishedEventWithoutCurves();
     void stepAtTenThousandEventsIsNotAnEvent();
     void ordinaryMainsStepMakesNoEvent();
@@ -211,6 +212,19 @@ void TstRvcFifo::atTheEventLimitTheChangeIsLeftStanding()
     QCOMPARE(ring.fifo.state(), RvcFifo::Transition);
     ring.mayRecord = true;
     QVERIFY(ring.feed(15));
+}
+
+void TstRvcFifo::changeLeftStandingIsRecordedAlsoFromAFullRing()
+{
+    // The ring of 400 is full from half cycle 410 on, ten behind its header. Its oldest values give way, so that it
+    // still holds the two windows that a change is judged by.
+    Ring ring;
+    ring.feed(5, 110);
+    ring.mayRecord = false;
+    QVERIFY(!ring.feed(15, 320));
+    ring.mayRecord = true;
+    QVERIFY(ring.feed(15));
+    QCOMPARE(ring.change.value, 10.0f);
 }
 
 namespace {

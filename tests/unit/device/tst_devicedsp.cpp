@@ -2,6 +2,7 @@
 #include "platform/clock.h"
 #include "stdoutcapture.h"
 
+#include <QSocketNotifier>
 #include <QTest>
 #include <memory>
 
@@ -43,7 +44,7 @@ private slots:
     void lastPackageOfAShortKindThatIsFullAddsNothing();
     void all255FollowingPackagesAreTakenAndTheWrapIsNot();
     void shortReadUsesThePackageBefore();
-    void pollingTwinReadsAndGoesOn();
+    void pollingTwinReadsAndGoesOnUntilItIsStopped();
     void storedDatagramIsACopy();
 
 private:
@@ -475,14 +476,18 @@ void TstDeviceDsp::shortReadUsesThePackageBefore()
     QCOMPARE(m_out->linesWithoutNumbers(), QStringList { QStringLiteral("L: 0 > Wrong first package No. 1!") });
 }
 
-void TstDeviceDsp::pollingTwinReadsAndGoesOn()
+void TstDeviceDsp::pollingTwinReadsAndGoesOnUntilItIsStopped()
 {
+    m_link->dsp.findChild<QSocketNotifier *>()->setEnabled(false); // which would read as well
     m_link->peer.send(makePackage(head(kSingle, 1, DatagramUpdate)));
     m_link->dsp.datagramLoop();
     QCOMPARE(m_link->datagrams.size(), 1);
     m_link->peer.send(makePackage(head(kSingle, 2, DatagramUpdate)));
     QTRY_COMPARE(m_link->datagrams.size(), 2);
     m_link->dsp.RecvStop();
+    m_link->peer.send(makePackage(head(kSingle, 3, DatagramUpdate)));
+    QTest::qWait(20); // it would look each millisecond
+    QCOMPARE(m_link->datagrams.size(), 2);
 }
 
 void TstDeviceDsp::storedDatagramIsACopy()

@@ -130,6 +130,7 @@ void TstScope::f1StepsThroughTheModesOfTheWiring()
         QCOMPARE(m_page->displayMode(), mode);
         QCOMPARE(m_page->findChild<Btn1 *>()->btnFlag(), mode);
     }
+    QCOMPARE(m_page->findChild<Btn1 *>()->geometry(), QRect(3, 410, 124, 34)); // over its key
 }
 
 void TstScope::modesShowTheirCurves_data()
