@@ -33,9 +33,11 @@ ReportSource reportSourceOf(const RecordSource &source)
 
 bool findReportLimits(const QString &name, MonitorLimits2 *limits)
 {
-    if (name.isEmpty() || name == QLatin1String(LimitBuiltins::kEn50160Name))
+    const auto isName
+        = [&name](const char *builtIn) { return name.compare(QLatin1String(builtIn), Qt::CaseInsensitive) == 0; };
+    if (name.isEmpty() || isName(LimitBuiltins::kEn50160Name))
         limits->initEN50160();
-    else if (name == QLatin1String(LimitBuiltins::kGost32144Name))
+    else if (isName(LimitBuiltins::kGost32144Name))
         limits->initGOST32144();
     else
         return limits->loadFile(name);

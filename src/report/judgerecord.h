@@ -10,5 +10,6 @@ std::unique_ptr<Judgement> judgeRecord(RecordSource &source, const MonitorLimits
                                        const RecordProgress &progress = {});
 /// What a report says of its files.
 ReportSource reportSourceOf(const RecordSource &source);
-/// The limit set of that name: a built-in one, without a name EN50160, or the file of any other. False: there is none.
+/// The limit set of that name: a built-in one in large or small letters, without a name EN50160, or the file of any
+/// other. False: there is none.
 bool findReportLimits(const QString &name, MonitorLimits2 *limits);

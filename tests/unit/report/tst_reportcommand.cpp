@@ -22,6 +22,7 @@ private slots:
     void wrongUseIsSaid();
     void whatStandsThereIsKept();
     void aLimitSetsFileJudges();
+    void builtInLimitsAreNamedInLargeOrSmallLetters();
     void nothingElseIsWritten();
 
 private:
@@ -153,6 +154,14 @@ void TstReportCommand::aLimitSetsFileJudges()
     set.close();
     QCOMPARE(run({ stored("good.pqa2"), "--html", "a.html", "--limits", output("plant.xml") }), 0);
     QVERIFY(content("a.html").contains("the supply did not keep to the limits of Plant &lt;7&gt;."));
+}
+
+void TstReportCommand::builtInLimitsAreNamedInLargeOrSmallLetters()
+{
+    QCOMPARE(run({ stored("good.pqa2"), "--html", "a.html", "--limits", "en50160" }), 0);
+    QVERIFY(content("a.html").contains("EN50160"));
+    QCOMPARE(run({ stored("good.pqa2"), "--html", "b.html", "--limits", "Gost32144" }), 0);
+    QVERIFY(content("b.html").contains("GOST32144"));
 }
 
 void TstReportCommand::nothingElseIsWritten()
