@@ -65,6 +65,7 @@ public:
         return m_keys;
     }
     std::atomic<int> picturesAsked { 0 };
+    std::atomic<bool> isSilent { false }; // hears everything, answers nothing
 
 protected:
     void run() override
@@ -94,8 +95,11 @@ private:
             m_keys << qFromLittleEndian<quint32>(request + 8);
             return;
         }
-        if (command == 2) {
+        if (command == 2)
             ++picturesAsked;
+        if (isSilent)
+            return;
+        if (command == 2) {
             stream += png();
             qToLittleEndian<quint32>(4, stream.data());
             qToLittleEndian<quint32>(quint32(stream.size() - 8), stream.data() + 4);

@@ -26,13 +26,16 @@ private slots:
     void requestsBeyondTheBoundsAreRefused_data();
     void requestsBeyondTheBoundsAreRefused();
     void longestBodyIsTaken();
+    void blanksAroundALengthAreNoneOfIt();
     void requestInPiecesIsTakenWhole();
     void requestThatDoesNotComeToItsEndIsEnded();
+    void peerThatHangsUpHalfWayIsNotAnswered();
     void wildBytesAreRefused();
     void deepJsonIsRefused();
     void thousandSilentConnectionsKeepNobodyOut();
     void viewersThatReadNothingHoldNobodyUp();
     void keysOfAFloodAreBounded();
+    void keysWithoutAnAnswerAreNotMadeUpFor();
 
 private:
     /// Keys get through and the page is served.
@@ -158,6 +161,8 @@ void TstPanelGuests::requestsBeyondTheBoundsAreRefused_data()
     const QByteArray key = "POST /key HTTP/1.1\r\nHOST";
     QTest::newRow("long field") << "GET / HTTP/1.1\r\nHOSTX-A: " + QByteArray(20000, 'a') + "\r\n\r\n" << 431;
     QTest::newRow("many fields") << "GET / HTTP/1.1\r\nHOST" + QByteArray("a: b\r\n").repeated(4000) + "\r\n" << 431;
+    QTest::newRow("a few fields too many") << "GET / HTTP/1.1\r\nHOST" + QByteArray("a: b\r\n").repeated(2800) + "\r\n"
+                                           << 431;
     QTest::newRow("endless line") << QByteArray(100000, 'G') << 431;
     QTest::newRow("long path") << "GET /" + QByteArray(15000, 'a') + " HTTP/1.1\r\nHOST\r\n" << 414;
     QTest::newRow("long body") << key + "Content-Length: 5000\r\n\r\n" + QByteArray(5000, ' ') << 413;
@@ -167,6 +172,7 @@ void TstPanelGuests::requestsBeyondTheBoundsAreRefused_data()
     QTest::newRow("pieces") << key + "Transfer-Encoding: chunked\r\n\r\n5\r\nabcde\r\n0\r\n\r\n" << 411;
     QTest::newRow("ranges") << "GET / HTTP/1.1\r\nHOSTRange: bytes=" + QByteArray("0-1,").repeated(3000) + "0-1\r\n\r\n"
                             << 411;
+    QTest::newRow("ranges in small letters") << QByteArray("GET / HTTP/1.1\r\nHOSTrange:bytes=0-1\r\n\r\n") << 411;
     QTest::newRow("expectation") << key + "Expect: 100-continue\r\nContent-Length: 4000\r\n\r\n" << 411;
     QTest::newRow("other version") << QByteArray("GET / HTTP/9.9\r\nHOST\r\n") << 400;
     QTest::newRow("no request line") << QByteArray("\r\n\r\n") << 400;
@@ -185,6 +191,15 @@ void TstPanelGuests::longestBodyIsTaken()
     const QByteArray key = "{\"key\":\"F3\"}";
     QCOMPARE(post(m_port, "/key", key + QByteArray(4096 - key.size(), ' ')).status, 204);
     QCOMPARE(post(m_port, "/key", key + QByteArray(4097 - key.size(), ' ')).status, 413);
+}
+
+void TstPanelGuests::blanksAroundALengthAreNoneOfIt()
+{
+    QCOMPARE(say(m_port,
+                 "POST /key HTTP/1.1\r\n" + host(m_port)
+                     + "Content-Type: application/json\r\ncontent-length: \t12 \t\r\n\r\n{\"key\":\"F1\"}")
+                 .status,
+             204);
 }
 
 void TstPanelGuests::requestInPiecesIsTakenWhole()
@@ -223,6 +238,12 @@ void TstPanelGuests::requestThatDoesNotComeToItsEndIsEnded()
         return socket.state() == QAbstractSocket::UnconnectedState;
     }));
     QVERIFY2(answer.startsWith("HTTP/1.1 408"), answer);
+}
+
+void TstPanelGuests::peerThatHangsUpHalfWayIsNotAnswered()
+{
+    QCOMPARE(say(m_port, "POST /key HTTP/1.1\r\n" + host(m_port), true).status, 0);
+    QCOMPARE(say(m_port, QByteArray(), true).status, 0);
 }
 
 void TstPanelGuests::wildBytesAreRefused()
@@ -296,6 +317,23 @@ void TstPanelGuests::keysOfAFloodAreBounded()
     QVERIFY(answers.size() > 30);
     m_panel.reset();
     init();
+}
+
+// Each of the keys would otherwise come as late as the ones before it were waited for.
+void TstPanelGuests::keysWithoutAnAnswerAreNotMadeUpFor()
+{
+    Viewer viewer(m_port);
+    m_instrument->isSilent = true;
+    for (int i = 0; i < 20; ++i)
+        QCOMPARE(post(m_port, "/key", "{\"key\":\"Down\"}").status, 204);
+    QTRY_VERIFY_WITH_TIMEOUT(!m_instrument->keys().isEmpty(), kPatience);
+    // Four looks, of two questions each: all that waited was tried.
+    const int asked = m_instrument->picturesAsked;
+    QTRY_VERIFY_WITH_TIMEOUT(m_instrument->picturesAsked > asked + 8, kPatience);
+    m_instrument->isSilent = false;
+    QVERIFY(eventually([this] { return post(m_port, "/key", "{\"key\":\"F1\"}").status == 204; }));
+    QTRY_VERIFY_WITH_TIMEOUT(m_instrument->keys().contains(40), kPatience);
+    QVERIFY2(m_instrument->keys().count(19) < 20, qPrintable(QString::number(m_instrument->keys().count(19))));
 }
 
 QTEST_GUILESS_MAIN(TstPanelGuests)

@@ -1,9 +1,13 @@
 #include "desk/deskinstrument.h"
 #include "panel/admission.h"
 #include "panel/bulletin.h"
+#include "panel/connectionqueue.h"
 #include "panel/controltable.h"
+#include "panel/guide.h"
+#include "panel/panelserver.h"
 #include "panel/picturenotes.h"
 #include "panel/processorline.h"
+#include "panel/screenfeed.h"
 #include "panel/supply.h"
 #include "testpaths.h"
 
@@ -17,6 +21,7 @@
 #include <QTest>
 #include <QtEndian>
 
+#include <future>
 #include <thread>
 
 using namespace panel;
@@ -36,15 +41,25 @@ private slots:
     void portEightyNeedsNoNumber();
     void cookieIsFoundAmongOthersOnly();
     void everyControlIsObeyedByTheProcessor();
+    void valuesReachTheCommandDigitByDigit();
     void controlsHaveNamesOfTheirOwn();
+    void controlsSayTheirBounds();
     void wishesBeyondTheBoundsMakeNoCommand_data();
     void wishesBeyondTheBoundsMakeNoCommand();
     void processorThatIsNotThereIsNotWaitedFor();
     void notesOfAPictureAreReadAsTheyWereWritten();
     void damagedPicturesHaveFewerNotes();
     void notesAreBounded();
+    void packedNoteBeyondLatinIsRead();
     void refusalOfTheProcessorIsHandedOn();
     void answerInPiecesIsTakenWhole();
+    void answerBeyondTheBoundIsNone();
+    void silentProcessorIsNotWaitedForEndlessly();
+    void supplyIsReportedWhileSomebodyLooks();
+    void whoComesBeyondThreadsAndPlacesIsSentAwayAtOnce();
+    void keysWaitUpToTheirNumber();
+    void guideHasTypesThatItKnows();
+    void stopAheadOfServingEndsIt();
 };
 
 void TstPanelParts::sameTextIsNoNews()
@@ -103,6 +118,8 @@ void TstPanelParts::portEightyNeedsNoNumber()
     request.host = "127.0.0.1";
     QVERIFY(Admission(80, {}, {}).judge(request) == Admission::Answer::Welcome);
     QVERIFY(Admission(8080, {}, {}).judge(request) == Admission::Answer::ForeignHost);
+    request.host = "LocalHost";
+    QVERIFY(Admission(80, {}, {}).judge(request) == Admission::Answer::Welcome);
     request.host = "evil.example";
     QVERIFY(Admission(80, {}, {}).judge(request) == Admission::Answer::ForeignHost);
 }
@@ -166,6 +183,21 @@ void TstPanelParts::everyControlIsObeyedByTheProcessor()
     QVERIFY(answer.count('\n') > 10 && answer.endsWith("ok"));
 }
 
+void TstPanelParts::valuesReachTheCommandDigitByDigit()
+{
+    const auto command = [](const QByteArray &wish) {
+        QString why;
+        return commandFor(QJsonDocument::fromJson(wish).object(), { "dip" }, &why);
+    };
+    QCOMPARE(command("{\"control\":\"frequency\",\"hertz\":50.01}"), QString("set f 50.01"));
+    QCOMPARE(command("{\"control\":\"volts\",\"phase\":\"all\",\"volts\":221.5}"), QString("set u 221.5"));
+    QCOMPARE(command("{\"control\":\"volts\",\"phase\":\"2\",\"volts\":0}"), QString("set u2 0"));
+    QCOMPARE(command("{\"control\":\"dip\",\"on\":\"l1+l2\",\"level\":55,\"ms\":10000}"),
+             QString("event dip l1+l2 55% 10000ms"));
+    QCOMPARE(command("{\"control\":\"faultRate\",\"kind\":\"torn\",\"share\":0.005}"),
+             QString("fault rate torn 0.005"));
+}
+
 void TstPanelParts::controlsHaveNamesOfTheirOwn()
 {
     QSet<QString> ids;
@@ -175,6 +207,23 @@ void TstPanelParts::controlsHaveNamesOfTheirOwn()
     const QJsonArray rows = QJsonDocument::fromJson(controlsAsJson({ "dip" })).array();
     QCOMPARE(size_t(rows.size()), controlTable().size());
     QCOMPARE(rows[0].toObject()["fields"].toArray()[0].toObject()["choices"].toArray(), QJsonArray { "dip" });
+}
+
+void TstPanelParts::controlsSayTheirBounds()
+{
+    const QJsonArray rows = QJsonDocument::fromJson(controlsAsJson({ "dip" })).array();
+    int found = 0;
+    for (const QJsonValue &row : rows) {
+        if (row.toObject()["id"] != "frequency")
+            continue;
+        const QJsonObject expected { { "name", "hertz" }, { "label", "Frequency" }, { "unit", "Hz" }, { "least", 40 },
+                                     { "most", 70 },      { "step", 0.01 },         { "value", 50 } };
+        QCOMPARE(row.toObject()["fields"].toArray(), QJsonArray { expected });
+        QCOMPARE(row.toObject()["live"], QJsonValue(true));
+        QCOMPARE(row.toObject()["group"], QJsonValue("Supply"));
+        ++found;
+    }
+    QCOMPARE(found, 1);
 }
 
 void TstPanelParts::wishesBeyondTheBoundsMakeNoCommand_data()
@@ -279,6 +328,15 @@ void TstPanelParts::notesAreBounded()
     QCOMPARE(notes.value("0").toString(), QString("one"));
 }
 
+void TstPanelParts::packedNoteBeyondLatinIsRead()
+{
+    const QString text = QString::fromUtf8("\u7535\u538b 230 V");
+    const QByteArray packed = qCompress(text.toUtf8()).mid(4); // without the toolkit's own length
+    const QByteArray head = QByteArray("Dialog\0\1\0zh\0\0", 13);
+    const QJsonObject notes = notesOf("\x89PNG\r\n\x1a\n" + chunkOf("iTXt", head + packed));
+    QCOMPARE(notes.value("Dialog").toString(), text);
+}
+
 void TstPanelParts::refusalOfTheProcessorIsHandedOn()
 {
     Bulletin bulletin;
@@ -313,6 +371,151 @@ void TstPanelParts::answerInPiecesIsTakenWhole()
     asks.join();
     QVERIFY(came && told);
     QCOMPARE(answer, QString("a line of help\nok speed=1"));
+}
+
+void TstPanelParts::answerBeyondTheBoundIsNone()
+{
+    QTemporaryDir root;
+    QVERIFY(QDir(root.path()).mkdir("run"));
+    QLocalServer processor;
+    QVERIFY(processor.listen(root.path() + "/run/processor.ctl"));
+    QString answer;
+    bool told = true;
+    std::thread asks([&] { told = ProcessorLine(root.path()).tell("help", &answer); });
+    const bool came = processor.waitForNewConnection(kPatience);
+    QLocalSocket *line = processor.nextPendingConnection();
+    if (came)
+        line->write(QByteArray("  a line of help\n").repeated(20'000) + "ok\n");
+    while (came && line->bytesToWrite() > 0 && line->waitForBytesWritten(kPatience)) { }
+    asks.join();
+    QVERIFY(came && !told);
+}
+
+void TstPanelParts::silentProcessorIsNotWaitedForEndlessly()
+{
+    QTemporaryDir root;
+    QVERIFY(QDir(root.path()).mkdir("run"));
+    QLocalServer processor;
+    QVERIFY(processor.listen(root.path() + "/run/processor.ctl"));
+    QString answer;
+    QVERIFY(!ProcessorLine(root.path()).tell("status", &answer));
+}
+
+void TstPanelParts::supplyIsReportedWhileSomebodyLooks()
+{
+    DeskInstrument desk(QStringLiteral(QUVERA_BIN_DIR));
+    QVERIFY2(desk.startProcessor({ "--scenario", "swell" }), qPrintable(desk.error()));
+    QVERIFY(QDir().mkpath(desk.path("/sys/class/backlight/backlight")));
+    QFile light(desk.path("/sys/class/backlight/backlight/brightness"));
+    QVERIFY(light.open(QIODevice::WriteOnly) && light.write("5\n") == 2 && light.flush());
+    Bulletin bulletin;
+    Supply supply(desk.root(), bulletin);
+    supply.start();
+    QTest::qWait(1500);
+    {
+        Bulletin::Reader nobodyYet(bulletin);
+        QCOMPARE(bulletin.news(nobodyYet, std::chrono::milliseconds(0)).size(), size_t(0));
+    }
+    Bulletin::Reader reader(bulletin);
+    std::string report;
+    QTRY_VERIFY_WITH_TIMEOUT(
+        [&] {
+            const auto news = bulletin.news(reader, std::chrono::milliseconds(100));
+            report = news.empty() ? report : *news.back();
+            return report.find("\"there\":true") != std::string::npos;
+        }(),
+        kPatience);
+    const QByteArray text = QByteArray::fromStdString(report);
+    QVERIFY2(text.startsWith("event: supply\ndata: {") && text.endsWith("}\n\n"), text);
+    const QJsonObject state = QJsonDocument::fromJson(text.mid(text.indexOf('{')).trimmed()).object();
+    QCOMPARE(state["scenario"].toString(), QString("swell"));
+    QCOMPARE(state["speed"].toString(), QString("1"));
+    QVERIFY2(state["volts"].toString().startsWith("230,230,230"), text);
+    QCOMPARE(state["light"].toString(), QString("5"));
+    QCOMPARE(state["charging"].toString(), QString("0"));
+}
+
+void TstPanelParts::whoComesBeyondThreadsAndPlacesIsSentAwayAtOnce()
+{
+    constexpr int threads = int(ConnectionQueue::kMostThreads), places = int(ConnectionQueue::kMostWaiting);
+    std::promise<void> end;
+    const std::shared_future<void> ended(end.get_future());
+    std::atomic<int> begun { 0 }, served { 0 };
+    ConnectionQueue queue;
+    const auto fill = [&](int count) {
+        for (int i = 0; i < count; ++i) {
+            queue.enqueue([&] {
+                ++begun;
+                ended.wait();
+                ++served;
+            });
+        }
+    };
+    fill(threads);
+    while (begun < threads)
+        std::this_thread::yield();
+    const bool waitsBefore = ConnectionQueue::somebodyWaits();
+    fill(places);
+    const bool waitsThen = ConnectionQueue::somebodyWaits();
+    bool isSentAway = false;
+    std::thread::id by;
+    queue.enqueue([&] {
+        isSentAway = ConnectionQueue::isFull();
+        by = std::this_thread::get_id();
+    });
+    const bool atOnce = by == std::this_thread::get_id();
+    end.set_value();
+    queue.shutdown();
+    QVERIFY(!waitsBefore && waitsThen && !ConnectionQueue::somebodyWaits());
+    QVERIFY(atOnce && isSentAway && !ConnectionQueue::isFull());
+    QCOMPARE(served.load(), threads + places);
+}
+
+void TstPanelParts::keysWaitUpToTheirNumber()
+{
+    Bulletin bulletin;
+    ScreenFeed feed(QHostAddress(QHostAddress::LocalHost), 9, bulletin); // not started: nobody takes them
+    for (int i = 0; i < 32; ++i)
+        QVERIFY(feed.pressKey(19));
+    QVERIFY(!feed.pressKey(19));
+}
+
+void TstPanelParts::guideHasTypesThatItKnows()
+{
+    QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir("examples"));
+    const auto make = [&folder](const QString &name) {
+        QFile file(folder.path() + '/' + name);
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("content") == 7);
+    };
+    const QVector<QPair<QString, std::string>> files { { "page.html", "text/html; charset=utf-8" },
+                                                       { "guide.css", "text/css; charset=utf-8" },
+                                                       { "picture.png", "image/png" },
+                                                       { "examples/questions.sql", "text/plain; charset=utf-8" },
+                                                       { "examples/week.py", "text/plain; charset=utf-8" } };
+    for (const auto &file : files)
+        make(file.first);
+    make("manual.8");
+    const Guide guide(folder.path());
+    for (const auto &file : files) {
+        std::string type;
+        QCOMPARE(guide.read("/guide/" + file.first.toStdString(), &type), QByteArray("content"));
+        QCOMPARE(type, file.second);
+    }
+    std::string type;
+    for (const char *none : { "/guide/manual.8", "/guide/missing.html", "/page.html", "/guide/examples/../page.html" })
+        QVERIFY2(guide.read(none, &type).isNull(), none);
+}
+
+// A signal may come while the program starts.
+void TstPanelParts::stopAheadOfServingEndsIt()
+{
+    Bulletin bulletin;
+    PanelServer server(bulletin, Actions(), Guide());
+    QVERIFY(server.bind("127.0.0.1", 0));
+    server.stop();
+    server.serve();
+    QVERIFY(bulletin.isClosed());
 }
 
 QTEST_GUILESS_MAIN(TstPanelParts)

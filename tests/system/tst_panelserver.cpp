@@ -39,6 +39,8 @@ private slots:
     void tokenOfAFileHoldsOnThisMachineToo();
     void tokenOfAFileTakesNothingFromTheMachinesName();
     void tokenThatIsTooShortIsRefused();
+    void addressOfTheNewerKindStandsInBrackets();
+    void signalEndsItWithViewersWatching_data();
     void signalEndsItWithViewersWatching();
 
 private:
@@ -86,6 +88,8 @@ void TstPanelServer::wrongUseIsOneLine_data()
     QTest::newRow("instrument's port") << QStringList { "--instrument-port", "0" } << QByteArray("\"0\" is no port");
     QTest::newRow("address") << QStringList { "--listen", "here" } << QByteArray("\"here\" is no address to listen at");
     QTest::newRow("word") << QStringList { "loudly" } << QByteArray("\"loudly\" is no option");
+    QTest::newRow("guide") << QStringList { "--guide", "/no/such/folder" }
+                           << QByteArray("\"/no/such/folder\" is no folder");
     QTest::newRow("token") << QStringList { "--token-file", "/no/such/file" } << QByteArray("/no/such/file");
 }
 
@@ -180,6 +184,7 @@ void TstPanelServer::everyAnswerCarriesTheContentPolicy()
          { get(m_port, "/"), get(m_port, "/nothing"), post(m_port, "/key", "{}"), post(m_port, "/key", "x", "") }) {
         QCOMPARE(answer.field("Content-Security-Policy"), policy);
         QCOMPARE(answer.field("X-Content-Type-Options"), QByteArray("nosniff"));
+        QCOMPARE(answer.field("Cache-Control"), QByteArray("no-store"));
         QCOMPARE(answer.field("Access-Control-Allow-Origin"), QByteArray());
     }
 }
@@ -194,7 +199,7 @@ void TstPanelServer::keysReachTheInstrumentInTheirOrder()
 void TstPanelServer::keysThatAreNoneAreRefused()
 {
     for (const char *wish : { "", "{", "[]", "{}", "{\"key\":13}", "{\"key\":\"F13\"}", "{\"key\":null}", "\"F1\"",
-                              "{\"key\":[\"F1\"]}", "{\"kex\":\"F1\"}" })
+                              "{\"key\":[\"F1\"]}", "{\"kex\":\"F1\"}", "{\"key\":\"14\"}", "{\"key\":\"52\"}" })
         QVERIFY2(post(m_port, "/key", wish).status == 400, wish);
     QCOMPARE(get(m_port, "/key").status, 404);
     QCOMPARE(say(m_port, "PUT /key HTTP/1.1\r\n" + host(m_port) + "Content-Type: application/json\r\n\r\n").status,
@@ -206,6 +211,7 @@ void TstPanelServer::nobodyLooksNothingIsAsked()
 {
     QTest::qWait(1000);
     QCOMPARE(m_instrument->picturesAsked.load(), 0);
+    QCOMPARE(get(m_port, "/screen.png").status, 404); // there is none yet
     {
         Viewer viewer(m_port);
         QTRY_VERIFY_WITH_TIMEOUT(viewer.count("screen") == 1, kPatience);
@@ -321,6 +327,7 @@ void TstPanelServer::tokenIsAskedForBeyondThisMachine()
     PanelProcess panel;
     QVERIFY(panel.startFor(*m_instrument, { "--listen", "0.0.0.0" }));
     const quint16 port = panel.port();
+    QCOMPARE(panel.address().host(), QHostInfo::localHostName().toLower()); // who has it can go there
     const QByteArray token = panel.address().query().toLatin1().mid(6);
     QVERIFY2(token.size() == 32, token);
     for (const char *path : { "/", "/events", "/controls", "/screen.png", "/panel.js" })
@@ -383,11 +390,37 @@ void TstPanelServer::tokenThatIsTooShortIsRefused()
     }
 }
 
+void TstPanelServer::addressOfTheNewerKindStandsInBrackets()
+{
+    PanelProcess panel;
+    const bool serves = panel.startFor(*m_instrument, { "--listen", "::1" });
+    QTcpServer loopback;
+    if (!loopback.listen(QHostAddress(QHostAddress::LocalHostIPv6))) { // a machine without such addresses
+        QVERIFY(!serves);
+        QVERIFY(panel.process().readAllStandardError().startsWith("quvera-panel: TCP port 0 of ::1 is in use"));
+        return;
+    }
+    QCOMPARE(panel.address().host(), QString("::1"));
+    QVERIFY2(panel.address().toString().startsWith("http://[::1]:"), qPrintable(panel.address().toString()));
+    QTcpSocket socket;
+    socket.connectToHost(QHostAddress(QHostAddress::LocalHostIPv6), panel.port());
+    QVERIFY(socket.waitForConnected(kPatience));
+}
+
+void TstPanelServer::signalEndsItWithViewersWatching_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::newRow("Ctrl-C") << SIGINT;
+    QTest::newRow("end") << SIGTERM;
+    QTest::newRow("terminal closed") << SIGHUP;
+}
+
 void TstPanelServer::signalEndsItWithViewersWatching()
 {
+    QFETCH(int, signal);
     Viewer viewer(m_port);
     QTRY_VERIFY_WITH_TIMEOUT(viewer.count("screen") == 1, kPatience);
-    m_panel->process().terminate();
+    QCOMPARE(::kill(pid_t(m_panel->process().processId()), signal), 0);
     QVERIFY(m_panel->process().waitForFinished(kPatience));
     QCOMPARE(m_panel->process().exitStatus(), QProcess::NormalExit);
     QCOMPARE(m_panel->process().exitCode(), 0);

@@ -4,11 +4,8 @@ namespace panel {
 
 Bulletin::Reader::Reader(Bulletin &bulletin) : m_bulletin(bulletin)
 {
-    {
-        const std::lock_guard<std::mutex> guard(m_bulletin.m_lock);
-        ++m_bulletin.m_readers;
-    }
-    m_bulletin.m_changed.notify_all();
+    const std::lock_guard<std::mutex> guard(m_bulletin.m_lock);
+    ++m_bulletin.m_readers;
 }
 
 Bulletin::Reader::~Reader()
@@ -53,13 +50,6 @@ int Bulletin::readers() const
 {
     const std::lock_guard<std::mutex> guard(m_lock);
     return m_readers;
-}
-
-bool Bulletin::waitForReaders(std::chrono::milliseconds wait)
-{
-    std::unique_lock<std::mutex> guard(m_lock);
-    m_changed.wait_for(guard, wait, [this] { return m_closed || m_readers > 0; });
-    return m_readers > 0 && !m_closed;
 }
 
 void Bulletin::close()

@@ -38,8 +38,6 @@ public:
     /// What is new to the reader, at most after so long a wait; empty when nothing is.
     std::vector<Message> news(Reader &reader, std::chrono::milliseconds wait);
     int readers() const;
-    /// Somebody came or the end: waits for that, at most so long. True while somebody reads.
-    bool waitForReaders(std::chrono::milliseconds wait);
     /// Everyone who waits goes on, now and from now on.
     void close();
     bool isClosed() const;

@@ -8,6 +8,7 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QHostInfo>
 #include <clocale>
 #include <csignal>
@@ -93,8 +94,8 @@ struct Definitions
     {
         parser->setApplicationDescription(
             QStringLiteral("Serves an instrument's front panel to browsers: its screen, its keys, and on a desk the "
-                           "supply beside it. Ctrl-C ends it.\n\nExit status: 0 done, 1 the port or a file cannot be "
-                           "had, 2 wrong use."));
+                           "supply beside it. Ctrl-C ends it.\n\nExit status: 0 done, 1 the port cannot be had or no "
+                           "host has that name, 2 wrong use, such as a file that cannot be read."));
         parser->addHelpOption();
         parser->addOptions({ instrument, instrumentPort, port, listen, tokenFile, name, root, guide });
     }
@@ -137,6 +138,8 @@ QString readOptions(const QCommandLineParser &parser, const Definitions &given, 
         return QStringLiteral("\"%1\" is no address to listen at").arg(parser.value(given.listen));
     options->root = parser.isSet(given.instrument) && !parser.isSet(given.root) ? QString() : parser.value(given.root);
     options->guide = parser.isSet(given.guide) ? parser.value(given.guide) : usualGuide();
+    if (parser.isSet(given.guide) && !QFileInfo(options->guide).isDir())
+        return QStringLiteral("\"%1\" is no folder").arg(options->guide);
     const QStringList names = parser.values(given.name);
     for (const QString &name : names)
         options->names.push_back(name.toStdString());

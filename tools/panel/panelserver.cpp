@@ -95,6 +95,7 @@ void PanelServer::serve()
 void PanelServer::stop()
 {
     m_bulletin.close();
+    ::shutdown(svr_sock_, SHUT_RDWR); // the library's stop does nothing until serve() is under way
     httplib::Server::stop();
 }
 
@@ -225,7 +226,7 @@ void PanelServer::pressKey(const Request &request, Response &response)
     const QJsonValue key
         = QJsonDocument::fromJson(QByteArray::fromStdString(request.body)).object().value(QStringLiteral("key"));
     const int code = RemoteClient::keyCode(key.toString());
-    if (!key.isString() || code < 0)
+    if (!RemoteClient::isKey(code))
         answer(response, 400, QStringLiteral("There is no such key."));
     else if (!m_actions.pressKey(code))
         answer(response, 429, QStringLiteral("Too many keys wait."));

@@ -37,7 +37,7 @@ public:
     int port() const { return m_port; }
     /// Who is let in; before serve().
     void admit(const std::string &token, const std::vector<std::string> &names);
-    /// Serves until stop().
+    /// Serves until stop(), which may come first.
     void serve();
     /// Serves the one request of a connection, and closes it. Any thread.
     bool process_and_close_socket(socket_t socket) override;

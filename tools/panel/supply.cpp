@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QJsonDocument>
 
+#include <algorithm>
+
 namespace panel {
 
 namespace {
@@ -26,6 +28,11 @@ constexpr BoardFile kBoardFiles[] = {
     { "gauge", "/sys/bus/iio/devices/iio:device0/in_voltage0_raw" },
     { "cable", "/sys/class/net/eth0/carrier" },
 };
+
+/// What the page takes from the stand-in's status.
+constexpr QLatin1String kShown[]
+    = { QLatin1String("scenario"), QLatin1String("speed"), QLatin1String("usb"),  QLatin1String("faults"),
+        QLatin1String("f"),        QLatin1String("volts"), QLatin1String("amps"), QLatin1String("hertz") };
 
 /// The last line of an answer.
 QString lastLine(const QString &answer)
@@ -121,13 +128,8 @@ void Supply::report()
     const bool there = m_line.tell(QStringLiteral("status"), &answer);
     const QStringList words = lastLine(answer).split(QLatin1Char(' '), Qt::SkipEmptyParts);
     for (const QString &word : words) {
-        static const QStringList kShown {
-            QStringLiteral("scenario"), QStringLiteral("speed"), QStringLiteral("usb"),
-            QStringLiteral("faults"),   QStringLiteral("f"),     QStringLiteral("stream"),
-            QStringLiteral("volts"),    QStringLiteral("amps"),  QStringLiteral("hertz")
-        };
         const QString key = word.section(QLatin1Char('='), 0, 0);
-        if (kShown.contains(key))
+        if (std::find(std::begin(kShown), std::end(kShown), key) != std::end(kShown))
             state.insert(key, word.section(QLatin1Char('='), 1));
     }
     for (const BoardFile &file : kBoardFiles)

@@ -206,6 +206,11 @@ int RemoteClient::keyCode(const QString &text)
     return isNumber && number >= 0 ? number : -1;
 }
 
+bool RemoteClient::isKey(int code)
+{
+    return std::any_of(std::begin(kKeys), std::end(kKeys), [code](const KeyName &key) { return key.code == code; });
+}
+
 QStringList RemoteClient::keyNames()
 {
     QStringList names;

@@ -29,6 +29,8 @@ public:
 
     /// The remote number of a key name ("F4", "Down", "Menu", any case) or of a number; -1 for anything else.
     static int keyCode(const QString &text);
+    /// Whether the instrument has a key of that remote number.
+    static bool isKey(int code);
     /// Names in the order of the table, for a help text.
     static QStringList keyNames();
     /// True when the bytes are a PNG file whose chunks are all whole, by their check sums.

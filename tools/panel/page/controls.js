@@ -2,14 +2,14 @@
 // What stands beside the instrument on a desk: controls from the server's table, and how things stand.
 
 const shown = [
-  ['scenario', 'Scenario', (s) => s.scenario],
-  ['f', 'Frequency', (s) => s.f && `${Math.abs(s.f).toFixed(3)} Hz`], // negative before it was measured
-  ['volts', 'Voltages set', (s) => s.volts && `${s.volts.split(',').slice(0, 3).map((v) => Number(v).toFixed(1)).join(' / ')} V`],
-  ['amps', 'Currents set', (s) => s.amps && `${s.amps.split(',').slice(0, 3).map((v) => Number(v).toFixed(2)).join(' / ')} A`],
-  ['speed', 'Speed', (s) => s.speed && `${s.speed} ×`],
-  ['usb', 'USB disk', (s) => s.usb || 'none'],
-  ['faults', 'Link faults', (s) => (s.faults === '0' ? 'none' : s.faults)],
-  ['light', 'Light', (s) => s.light && `${s.light} of 7`],
+  ['Scenario', (s) => s.scenario],
+  ['Frequency', (s) => s.f && `${Math.abs(s.f).toFixed(3)} Hz`], // negative before it was measured
+  ['Voltages set', (s) => s.volts && `${s.volts.split(',').slice(0, 3).map((v) => Number(v).toFixed(1)).join(' / ')} V`],
+  ['Currents set', (s) => s.amps && `${s.amps.split(',').slice(0, 3).map((v) => Number(v).toFixed(2)).join(' / ')} A`],
+  ['Speed', (s) => s.speed && `${s.speed} ×`],
+  ['USB disk', (s) => s.usb || 'none'],
+  ['Link faults', (s) => (s.faults === '0' ? 'none' : s.faults)],
+  ['Light', (s) => s.light && `${s.light} of 7`],
 ];
 
 function phaseOf(values, phase) {
@@ -151,7 +151,7 @@ function showSupply(state) {
   standingNow = state;
   document.getElementById('supply').hidden = false;
   if (!built) buildControls().catch(() => { built = false; });
-  document.getElementById('standing').replaceChildren(...shown.map(([, name, text]) => element('div', {},
+  document.getElementById('standing').replaceChildren(...shown.map(([name, text]) => element('div', {},
     element('dt', { textContent: name }), element('dd', { textContent: text(state) || '–' }))));
   document.getElementById('standing').dataset.there = state.there;
   const silent = 'The processor stand-in does not answer';
