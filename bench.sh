@@ -5,12 +5,16 @@ top=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd) || exit 1
 . "$top/packaging/common.sh"
 case "${1:-}" in -h|--help) sed -n '2,3s/^# //p' "$0"; exit 0 ;; esac
 
+names=$(sed -n 's/^ *quvera_bench(\(bench_[a-z0-9_]*\).*/\1/p' "$top"/tests/bench/CMakeLists.txt | sort)
+for name in "$@"; do
+    printf '%s\n' "$names" | grep -qxF "bench_$name" || die "no benchmark $name (names: $(echo ${names//bench_/}))"
+done
+[ $# -eq 0 ] || names=$(printf 'bench_%s\n' "$@")
+[ -n "$names" ] || die "there are no benchmarks"
+
 install_packages
 configure release
 export QT_QPA_PLATFORM=offscreen
-names=$(sed -n 's/^ *quvera_bench(\(bench_[a-z0-9_]*\).*/\1/p' "$top"/tests/bench/CMakeLists.txt | sort)
-[ $# -eq 0 ] || names=$(for name in "$@"; do echo "bench_$name"; done)
-[ -n "$names" ] || die "there are no benchmarks"
 # shellcheck disable=SC2086  # a list of names
 build "$top/build" quvera quvera-processor $names
 status=0

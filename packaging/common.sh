@@ -8,7 +8,7 @@ missing_packages()
 {
     wanted=$(cd "$top/packaging" && sed -e 's/#.*//' "$@")
     # shellcheck disable=SC2086  # a list of names
-    installed=$(dpkg-query -W -f='${Package} ${Status}\n' $wanted 2>/dev/null | sed -n 's/ install ok installed$//p')
+    installed=$(dpkg-query -W -f='${Package} ${Status}\n' $wanted 2>/dev/null | sed -n 's/ [a-z]* ok installed$//p')
     for package in $wanted; do
         printf '%s\n' "$installed" | grep -qxF "$package" || printf '%s ' "$package"
     done

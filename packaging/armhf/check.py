@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
-"""Runs the instrument that was built for the board beside the one that was built for this machine, each with its own
-processor stand-in, and compares what comes out: pictures, Modbus registers, a recording; the board's tools are tried, too. One line for each result;
-exit status 1 when anything differs.
+"""Compares the instrument that was built for the board with the one that was built for this machine.
+
+Each runs with a processor stand-in of its own: pictures, Modbus registers, a recording have to be the same; the board's
+tools are tried, too. One line for each result; exit status 1 when anything differs.
 
     check.py --sysroot DIR --arm DIR --desk DIR     the folders of the executables
 """
@@ -101,6 +102,7 @@ class Instrument:
                 process.wait(PATIENCE)
             except subprocess.TimeoutExpired:
                 process.kill()
+                process.wait()
         self.log.close()
 
 

@@ -67,10 +67,6 @@ sleep 2
 wait_for answers || fail "it was not started anew after its end"
 [ "$(systemctl show -p MainPID --value quvera.service)" != "$process" ] || fail "the same process"
 say "it is started anew after a crash"
-process=$(systemctl show -p MainPID --value quvera.service)
-kill -STOP "$process"
-say "a program that stands still is waited for $(systemctl show -p WatchdogUSec --value quvera.service)"
-kill -CONT "$process"
 
 quvera-remote key Setup >/dev/null
 for file in /mnt/userfs/config/user.conf /mnt/storage/recorded; do

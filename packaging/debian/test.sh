@@ -9,13 +9,14 @@ top=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 . "$top/packaging/common.sh"
 here=$top/packaging/debian
 once=
+case "${1:-}" in -h|--help) sed -n '2,6s/^# //p' "$0"; exit 0 ;; esac
 [ "${1:-}" != --once ] || { once=yes; shift; }
 out=${1:-$top/build/packages}
-[ "$(id -u)" -eq 0 ] || die "a fresh root wants root"
+[ "$(id -u)" -eq 0 ] || die "run it as root, which a fresh Debian and its container take"
 install_packages debian/debian-packages.txt
 mkdir -p "$out"
 out=$(cd "$out" && pwd)
-rm -rf "$out"/first/*.deb "$out"/*.log "$out/seen" "$out/errors" "$out/menu.png"
+rm -rf "$out/first" "$out"/*.log "$out/seen" "$out/errors" "$out/menu.png"
 
 say "1. Two builds from two folders"
 "$here/build" "$out/first" >"$out/build.log" 2>&1 || die "the build failed: $out/build.log"

@@ -1,4 +1,5 @@
 """A desk of the soak: stand-in, instrument in faster time, and how they are asked."""
+import atexit
 import os
 import socket
 import struct
@@ -69,6 +70,7 @@ class Process:
         self.log = open(log, "wb")
         self.popen = subprocess.Popen(arguments, stdin=subprocess.DEVNULL, stdout=self.log, stderr=subprocess.STDOUT,
                                       env={**os.environ, **environment})
+        atexit.register(self.end)  # none stays behind, wherever the soak fails
 
     def runs(self):
         return self.popen.poll() is None
@@ -93,6 +95,7 @@ class Process:
             self.popen.wait(30)
         except subprocess.TimeoutExpired:
             self.popen.kill()
+            self.popen.wait()
         self.log.close()
 
 
@@ -101,6 +104,8 @@ class Desk:
 
     def __init__(self, name, bin_folder, out, number, speed):
         self.name, self.bin, self.root = name, Path(bin_folder), Path(out) / name
+        if not os.path.exists(FAKETIME):  # the loader would only complain, and the clock keep its pace
+            raise RuntimeError(FAKETIME + " is missing (package libfaketime)")
         self.root.mkdir(parents=True)
         self.remote_port, self.modbus_port = 43540 + number, 41540 + number
         self.processes, self.spell, self.logs = {}, "nominal", Path(out)

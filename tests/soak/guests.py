@@ -9,8 +9,6 @@ import struct
 import threading
 import time
 
-import desk as desks
-
 
 class Guest(threading.Thread):
     """Goes on until the soak ends; what it raises is kept."""
