@@ -2243,6 +2243,10 @@ Supprimez des fichiers en mémoire.</translation>
         <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
         <translation>Indication sur moins d&apos;une semaine (%2) : l&apos;alimentation a respecté les limites de %1.</translation>
     </message>
+    <message>
+        <source>%1 was judged in %2 of the time only.</source>
+        <translation>%1 n&apos;a été évalué que pendant %2 du temps.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2243,6 +2243,10 @@ Bitte im Speicher Dateien löschen.</translation>
         <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
         <translation>Anhalt aus weniger als einer Woche (%2): Die Versorgung hielt die Grenzen von %1 ein.</translation>
     </message>
+    <message>
+        <source>%1 was judged in %2 of the time only.</source>
+        <translation>%1 wurde nur in %2 der Zeit bewertet.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2243,6 +2243,10 @@ Eliminare file nella memoria.</translation>
         <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
         <translation>Indicazione su meno di una settimana (%2): l&apos;alimentazione ha rispettato i limiti di %1.</translation>
     </message>
+    <message>
+        <source>%1 was judged in %2 of the time only.</source>
+        <translation>%1 valutabile solo per il %2 del tempo.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

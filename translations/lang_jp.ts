@@ -2243,6 +2243,10 @@ Delete files in Memory.</source>
         <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
         <translation>1週間未満（%2）の目安：電源は%1の限度値内でした。</translation>
     </message>
+    <message>
+        <source>%1 was judged in %2 of the time only.</source>
+        <translation>%1は時間の%2についてのみ判定されました。</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2243,6 +2243,10 @@ Delete files in Memory.</source>
         <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
         <translation>1주 미만(%2)의 참고 결과: 전원이 %1의 한계값 안에 있었습니다.</translation>
     </message>
+    <message>
+        <source>%1 was judged in %2 of the time only.</source>
+        <translation>%1: 시간의 %2에 대해서만 판정됨.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2243,6 +2243,10 @@ Usuń pliki w pamięci.</translation>
         <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
         <translation>Orientacyjnie, mniej niż tydzień (%2): zasilanie mieściło się w granicach %1.</translation>
     </message>
+    <message>
+        <source>%1 was judged in %2 of the time only.</source>
+        <translation>%1 oceniono tylko przez %2 czasu.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

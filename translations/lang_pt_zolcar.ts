@@ -2243,6 +2243,10 @@ Exclua arquivos na memória.</translation>
         <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
         <translation>Indicativo, menos de uma semana (%2): a alimentação respeitou os limites de %1.</translation>
     </message>
+    <message>
+        <source>%1 was judged in %2 of the time only.</source>
+        <translation>%1 foi avaliado em apenas %2 do tempo.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2243,6 +2243,10 @@ Delete files in Memory.</source>
         <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
         <translation>Ориентировочно, менее недели (%2): питание не выходило за нормы %1.</translation>
     </message>
+    <message>
+        <source>%1 was judged in %2 of the time only.</source>
+        <translation>%1: оценено только %2 времени.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2243,6 +2243,10 @@ Borre archivos en la memoria.</translation>
         <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
         <translation>Orientativo, menos de una semana (%2): el suministro respetó los límites de %1.</translation>
     </message>
+    <message>
+        <source>%1 was judged in %2 of the time only.</source>
+        <translation>%1 se evaluó solo durante el %2 del tiempo.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2243,6 +2243,10 @@ Bellekten dosya silin.</translation>
         <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
         <translation>Bir haftadan kısa (%2), gösterge niteliğinde: besleme %1 sınırları içinde kaldı.</translation>
     </message>
+    <message>
+        <source>%1 was judged in %2 of the time only.</source>
+        <translation>%1 sürenin yalnızca %2 kadarında değerlendirildi.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

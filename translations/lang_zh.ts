@@ -2243,6 +2243,10 @@ Delete files in Memory.</source>
         <source>Indication from less than a week (%2): the supply kept to the limits of %1.</source>
         <translation>不足一周（%2），仅供参考：供电未超出 %1 的限值。</translation>
     </message>
+    <message>
+        <source>%1 was judged in %2 of the time only.</source>
+        <translation>%1 仅在 %2 的时间内得到评定。</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -24,9 +24,9 @@ Outcome Judgement::outcomeOf(const EventCount &count) const
 
 bool Judgement::leavesOut() const
 {
-    return std::any_of(notJudged.begin(), notJudged.end(), [](const NotJudged &rest) {
-        return rest.quantity != Quantity::Signal1 && rest.quantity != Quantity::Signal2;
-    });
+    const auto counts
+        = [](const auto &rest) { return rest.quantity != Quantity::Signal1 && rest.quantity != Quantity::Signal2; };
+    return std::any_of(notJudged.begin(), notJudged.end(), counts) || std::any_of(gaps.begin(), gaps.end(), counts);
 }
 
 const QuantityVerdict *Judgement::find(const QuantityKey &key) const

@@ -50,6 +50,13 @@ struct NotJudged
     NotJudgedBecause why;
 };
 
+/// A quantity of which a good part of the recording has no value.
+struct JudgedInPart
+{
+    Quantity quantity;
+    double covered; // percent of the recording, of the phase that has least
+};
+
 /// An event or a transient with what was recorded of it, for a picture.
 struct Moment
 {
@@ -72,12 +79,14 @@ struct Judgement
     QVector<Moment> moments;
     QSet<int> listed; // numbers of the events that a table names: not all of very many
     QVector<NotJudged> notJudged;
+    QVector<JudgedInPart> gaps;
     qint64 incompleteTenMinutes = 0;
 
     Outcome outcome() const;
     /// That nothing happened says nothing about a supply of which nothing else is known.
     Outcome outcomeOf(const EventCount &count) const;
-    /// That a quantity of the set was judged by nothing. Mains signals do not count: hardly a recording has them.
+    /// That a quantity of the set was judged by nothing, or by a part of the time only. Mains signals do not count:
+    /// hardly a recording has them.
     bool leavesOut() const;
     const QuantityVerdict *find(const QuantityKey &key) const;
     const InstrumentResult *instrumentOf(const QuantityKey &key) const;

@@ -1,5 +1,7 @@
 #include "report/recordjudge.h"
 
+#include "model/channelset.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -20,29 +22,50 @@ struct Source
     Quantity quantity;
     double scale; // to the unit in which it is judged
     bool ofFundamental; // in V: to be taken in percent of the fundamental
-    bool tenMinutes; // to be made of shorter intervals
+    qint64 made; // ms: values of this length are made of shorter intervals; 0: they are taken as they are
+    bool ofNominal = false; // in V: to be taken in percent of the nominal voltage
 };
 
+constexpr qint64 kThreeSeconds = 3000, kTenMinutes = ClockMeans::kTenMinutes; // ms
+
 constexpr Source kSources[] = {
-    { "monitor_frequency", "f", Quantity::Frequency, 1, false, false },
-    { "monitor_voltage", "U_rms", Quantity::Voltage, 1, false, false },
-    { "monitor_unbalance", "U_negative_ratio", Quantity::Unbalance, 1, false, false },
-    { "monitor_unbalance", "U_zero_ratio", Quantity::ZeroUnbalance, 1, false, false },
-    { "monitor_harmonics", "U_distortion", Quantity::Thd, 1, false, false },
-    { "monitor_harmonics", "Uh", Quantity::Harmonic, 1, false, false },
-    { "monitor_flicker_pst", "Pst", Quantity::Pst, 1, false, false },
-    { "monitor_flicker_plt", "Plt", Quantity::Plt, 1, false, false },
-    { "frequency_10s", "f", Quantity::Frequency, 1, false, false },
-    { "rms", "U_rms", Quantity::Voltage, 1, false, true },
-    { "unbalance", "U_negative_ratio", Quantity::Unbalance, 1, false, true },
-    { "unbalance", "U_zero_ratio", Quantity::ZeroUnbalance, 1, false, true },
-    { "harmonics_u", "U_distortion", Quantity::Thd, 100, true, true },
-    { "harmonics_u", "Uh", Quantity::Harmonic, 100, true, true },
-    { "flicker_pst", "Pst", Quantity::Pst, 1, false, false },
-    { "flicker_plt", "Plt", Quantity::Plt, 1, false, false },
-    { "signalling", "U_signal1_ratio", Quantity::Signal1, 100, false, false },
-    { "signalling", "U_signal2_ratio", Quantity::Signal2, 100, false, false },
+    { "monitor_frequency", "f", Quantity::Frequency, 1, false, 0 },
+    { "monitor_voltage", "U_rms", Quantity::Voltage, 1, false, 0 },
+    { "monitor_unbalance", "U_negative_ratio", Quantity::Unbalance, 1, false, 0 },
+    { "monitor_unbalance", "U_zero_ratio", Quantity::ZeroUnbalance, 1, false, 0 },
+    { "monitor_harmonics", "U_distortion", Quantity::Thd, 1, false, 0 },
+    { "monitor_harmonics", "Uh", Quantity::Harmonic, 1, false, 0 },
+    { "monitor_flicker_pst", "Pst", Quantity::Pst, 1, false, 0 },
+    { "monitor_flicker_plt", "Plt", Quantity::Plt, 1, false, 0 },
+    { "frequency_10s", "f", Quantity::Frequency, 1, false, 0 },
+    { "rms", "U_rms", Quantity::Voltage, 1, false, kTenMinutes },
+    { "unbalance", "U_negative_ratio", Quantity::Unbalance, 1, false, kTenMinutes },
+    { "unbalance", "U_zero_ratio", Quantity::ZeroUnbalance, 1, false, kTenMinutes },
+    { "harmonics_u", "U_distortion", Quantity::Thd, 100, true, kTenMinutes },
+    { "harmonics_u", "Uh", Quantity::Harmonic, 100, true, kTenMinutes },
+    { "flicker_pst", "Pst", Quantity::Pst, 1, false, 0 },
+    { "flicker_plt", "Plt", Quantity::Plt, 1, false, 0 },
+    // Their recorded ratio leaves the voltage transformer out.
+    { "signalling", "U_signal1", Quantity::Signal1, 100, false, kThreeSeconds, true },
+    { "signalling", "U_signal2", Quantity::Signal2, 100, false, kThreeSeconds, true },
 };
+
+bool isSignal(Quantity quantity)
+{
+    return quantity == Quantity::Signal1 || quantity == Quantity::Signal2;
+}
+
+bool isUnbalance(Quantity quantity)
+{
+    return quantity == Quantity::Unbalance || quantity == Quantity::ZeroUnbalance;
+}
+
+/// Whether a wiring has the quantity: the sequences of fewer than three phases are stored, but mean nothing.
+bool hasQuantity(int joinMode, Quantity quantity)
+{
+    const ChannelSet *wiring = channelSet(joinMode);
+    return !isUnbalance(quantity) || !wiring || wiring->taskPhases == kMonitorPhases;
+}
 
 constexpr Quantity kAll[]
     = { Quantity::Frequency, Quantity::Voltage, Quantity::Unbalance, Quantity::ZeroUnbalance, Quantity::Thd,
@@ -68,8 +91,8 @@ int phaseOf(const QByteArray &channel)
 
 bool hasTrend(Quantity quantity)
 {
-    return quantity != Quantity::Harmonic && quantity != Quantity::Signal1 && quantity != Quantity::Signal2
-        && quantity != Quantity::ZeroUnbalance && quantity != Quantity::Pst;
+    return quantity != Quantity::Harmonic && !isSignal(quantity) && quantity != Quantity::ZeroUnbalance
+        && quantity != Quantity::Pst;
 }
 
 MonitorSetup setupOf(const RecordFacts &facts, const monitor_limit &limits)
@@ -89,11 +112,12 @@ struct RecordJudge::Lane
     int cell; // among the numbers of the row
     int fundamental; // cell to divide by, -1: none
     double scale;
-    bool tenMinutes;
+    qint64 made; // ms, 0: taken as it is
     QuantityKey key;
     std::size_t judge; // in m_judges
     int trend; // in the judgement, -1: none
     bool isJudged; // its intervals fit
+    bool hasInterval; // they are known
 };
 
 struct RecordJudge::Feed
@@ -101,7 +125,8 @@ struct RecordJudge::Feed
     bool isMonitor = false;
     double interval = 0; // of a row, ms
     std::vector<Lane> lanes;
-    std::unique_ptr<TenMinutes> tenMinutes;
+    std::unique_ptr<ClockMeans> means;
+    qint64 made = 0; // length of what they make, ms
     std::vector<double> values; // of a row, in the order of the lanes
 };
 
@@ -126,10 +151,10 @@ void RecordJudge::addLane(Feed &feed, const QuantityKey &key, int cell, int fund
 {
     const Judgement &j = m_judgement;
     // Mains signals have to keep to their limit in each day, everything else in each week.
-    const bool daily = key.quantity == Quantity::Signal1 || key.quantity == Quantity::Signal2;
+    const bool daily = isSignal(key.quantity);
     m_judges.emplace_back(key, boundsOf(key, j.setup.limits, j.setup.nominalVolt, j.setup.nominalFrequency),
                           daily ? Weeks(j.overview.start, j.overview.end, Weeks::kDay) : j.weeks);
-    Lane lane { cell, fundamental, 1, false, key, m_judges.size() - 1, -1, true };
+    Lane lane { cell, fundamental, 1, 0, key, m_judges.size() - 1, -1, true, feed.interval > 0 };
     if (hasTrend(key.quantity)) {
         lane.trend = m_judgement.trends.size();
         m_judgement.trends.append({ key, TrendBand(j.overview.start, j.overview.end) });
@@ -151,7 +176,7 @@ void RecordJudge::findLanes(Feed &feed, const RecordTable &table)
     for (const RecordColumn &column : table.columns) {
         cell += column.type != CellType::Text;
         for (const Source &source : kSources) {
-            if (!isOf(source, table, column))
+            if (!isOf(source, table, column) || !hasQuantity(m_judgement.overview.facts.joinMode, source.quantity))
                 continue;
             const int phase = phaseOf(column.channel);
             const int fundamental = source.ofFundamental && phase >= 0 ? fundamentals[phase] : -1;
@@ -164,8 +189,9 @@ void RecordJudge::findLanes(Feed &feed, const RecordTable &table)
             if (known || (ordered && column.order > monitor_limit::kRows))
                 continue;
             addLane(feed, key, cell, fundamental);
-            feed.lanes.back().scale = source.scale;
-            feed.lanes.back().tenMinutes = source.tenMinutes;
+            const double nominal = m_judgement.setup.nominalVolt;
+            feed.lanes.back().scale = !source.ofNominal ? source.scale : nominal > 0 ? source.scale / nominal : kNone;
+            feed.lanes.back().made = source.made;
         }
     }
 }
@@ -173,19 +199,18 @@ void RecordJudge::findLanes(Feed &feed, const RecordTable &table)
 /// What the intervals of its rows allow.
 void RecordJudge::prepare(Feed &feed)
 {
-    constexpr double kSignalTolerance = 1.1;
-    bool tenMinutes = false;
+    constexpr double kTolerance = 1.05, kSignalTolerance = 1.1;
     for (Lane &lane : feed.lanes) {
-        const Quantity quantity = lane.key.quantity;
-        if (quantity == Quantity::Signal1 || quantity == Quantity::Signal2)
-            lane.isJudged = feed.interval > 0 && feed.interval <= kSignalTolerance * double(intervalOf(quantity));
-        else if (lane.tenMinutes)
-            lane.isJudged = TenMinutes::canBeMadeOf(feed.interval);
-        tenMinutes = tenMinutes || (lane.tenMinutes && lane.isJudged);
+        if (lane.made == 0)
+            continue;
+        const double longest = (isSignal(lane.key.quantity) ? kSignalTolerance : kTolerance) * double(lane.made);
+        lane.isJudged = feed.interval > 0 && feed.interval <= longest;
+        if (lane.isJudged)
+            feed.made = lane.made; // one length for all lanes of a table
     }
-    if (tenMinutes)
-        feed.tenMinutes = std::make_unique<TenMinutes>(
-            feed.lanes.size(), feed.interval,
+    if (feed.made > 0)
+        feed.means = std::make_unique<ClockMeans>(
+            feed.lanes.size(), feed.interval, feed.made,
             [this, &feed](qint64 time, const std::vector<double> &values) { take(feed, time, values); });
 }
 
@@ -232,8 +257,8 @@ bool RecordJudge::row(const RecordRow &row)
         if (feed->isMonitor)
             m_instrument.take(lane.key, row.time, float(value));
     }
-    if (feed->tenMinutes)
-        feed->tenMinutes->take(row.time, feed->values);
+    if (feed->means)
+        feed->means->take(row.time, feed->values);
     else
         take(*feed, row.time, feed->values);
     return true;
@@ -258,10 +283,11 @@ void RecordJudge::take(const Feed &feed, qint64 time, const std::vector<double> 
 bool RecordJudge::end(const RecordFacts &)
 {
     for (const auto &feed : m_feeds) {
-        if (!feed || !feed->tenMinutes)
+        if (!feed || !feed->means)
             continue;
-        feed->tenMinutes->finish();
-        m_judgement.incompleteTenMinutes = std::max(m_judgement.incompleteTenMinutes, feed->tenMinutes->incomplete());
+        feed->means->finish();
+        if (feed->made == kTenMinutes)
+            m_judgement.incompleteTenMinutes = std::max(m_judgement.incompleteTenMinutes, feed->means->incomplete());
     }
     for (ValueJudge &judge : m_judges)
         m_judgement.verdicts.append(judge.finish());
@@ -275,6 +301,7 @@ bool RecordJudge::end(const RecordFacts &)
         trends.end());
     countEvents();
     listNotJudged();
+    listGaps();
     return true;
 }
 
@@ -305,11 +332,13 @@ void RecordJudge::listNotJudged()
 {
     const MonitorSetup &setup = m_judgement.setup;
     for (const Quantity quantity : kAll) {
+        if (!hasQuantity(m_judgement.overview.facts.joinMode, quantity))
+            continue;
         const QuantityKey key { quantity, -1, qint16(quantity == Quantity::Harmonic ? 2 : 0) };
         const Bounds bounds = boundsOf(key, setup.limits, setup.nominalVolt, setup.nominalFrequency);
         const Lane *lane = laneOf(quantity);
         const bool isBand = quantity == Quantity::Frequency || quantity == Quantity::Voltage;
-        if (lane && isBand && !(bounds.nominal > 0)) {
+        if (lane && ((isBand && !(bounds.nominal > 0)) || (isSignal(quantity) && !(setup.nominalVolt > 0)))) {
             m_judgement.notJudged.append({ quantity, NotJudgedBecause::NoNominal });
             continue;
         }
@@ -320,11 +349,30 @@ void RecordJudge::listNotJudged()
         const auto &verdicts = m_judgement.verdicts;
         if (!lane)
             m_judgement.notJudged.append({ quantity, NotJudgedBecause::NotRecorded });
-        else if (!lane->isJudged)
+        else if (!lane->isJudged && lane->hasInterval)
             m_judgement.notJudged.append(
-                { quantity, lane->tenMinutes ? NotJudgedBecause::IntervalTooLong : NotJudgedBecause::NotTheInterval });
+                { quantity,
+                  isSignal(quantity) ? NotJudgedBecause::NotTheInterval : NotJudgedBecause::IntervalTooLong });
         else if (std::none_of(verdicts.begin(), verdicts.end(), isJudged))
             m_judgement.notJudged.append({ quantity, NotJudgedBecause::NoValue });
+    }
+}
+
+/// Quantities of which much of the time has no value: what was not seen was not judged.
+void RecordJudge::listGaps()
+{
+    constexpr double kMuch = 0.1; // of the recording
+    constexpr int kIntervals = 3; // a severity's first value comes late
+    const double length = double(m_judgement.overview.length());
+    for (const Quantity quantity : kAll) {
+        const double interval = double(intervalOf(quantity));
+        double least = length;
+        for (const QuantityVerdict &v : qAsConst(m_judgement.verdicts)) {
+            if (v.key.quantity == quantity && v.judged > 0 && v.outcome() != Outcome::NotApplied)
+                least = std::min(least, double(v.judged + v.leftOut) * interval);
+        }
+        if (length - least > std::max(kMuch * length, kIntervals * interval))
+            m_judgement.gaps.append({ quantity, 100 * least / length });
     }
 }
 

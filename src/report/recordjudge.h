@@ -1,8 +1,8 @@
 #pragma once
 
+#include "report/clockmeans.h"
 #include "report/instrumentjudge.h"
 #include "report/judgement.h"
-#include "report/tenminutes.h"
 
 #include <memory>
 
@@ -36,6 +36,7 @@ private:
     void chooseMoments();
     void countEvents();
     void listNotJudged();
+    void listGaps();
     const Lane *laneOf(Quantity quantity) const;
 
     Judgement m_judgement;

@@ -1,6 +1,6 @@
 #include "report/recordoverview.h"
 
-#include "report/tenminutes.h"
+#include "report/clockmeans.h"
 
 #include <algorithm>
 #include <cmath>
@@ -88,7 +88,7 @@ void OverviewSink::lookAtVoltages(const Table &table, const RecordRow &row, qint
     m_overview.hasVoltage = m_overview.hasVoltage || any;
     m_overview.hasLiveVoltage = m_overview.hasLiveVoltage || live;
     if (any && !live)
-        m_overview.interruptions.add(std::max(before, row.time - TenMinutes::kLength), row.time);
+        m_overview.interruptions.add(std::max(before, row.time - ClockMeans::kTenMinutes), row.time);
 }
 
 bool OverviewSink::event(const RecordedEvent &event)
@@ -109,6 +109,7 @@ bool OverviewSink::end(const RecordFacts &facts)
     RecordOverview &o = m_overview;
     o.facts = facts;
     qint64 first = 0, firstValue = 0, last = 0;
+    double firstInterval = 0;
     for (Table &table : m_tables) {
         if (table.look.rows == 0)
             continue;
@@ -119,8 +120,10 @@ bool OverviewSink::end(const RecordFacts &facts)
         }
         o.tables.insert(table.name, table.look);
         first = first == 0 ? table.look.first : std::min(first, table.look.first);
-        if (!holdsHappenings(table.name))
-            firstValue = firstValue == 0 ? table.look.first : std::min(firstValue, table.look.first);
+        if (!holdsHappenings(table.name) && (firstValue == 0 || table.look.first < firstValue)) {
+            firstValue = table.look.first;
+            firstInterval = table.look.interval;
+        }
         last = std::max(last, table.look.last);
     }
     // The start is told by the instrument's clock, values by the processor's: the two may be apart. A value of days
@@ -129,8 +132,8 @@ bool OverviewSink::end(const RecordFacts &facts)
     o.start = isPlausibleTime(facts.start) ? facts.start : first;
     if (firstValue > 0 && firstValue < o.start && o.start - firstValue <= kApart)
         o.start = firstValue;
-    else if (firstValue > 0)
-        o.countsFrom = o.start;
+    if (firstValue > 0)
+        o.countsFrom = o.start == firstValue ? o.start - qint64(firstInterval) : o.start;
     o.end = std::max({ isPlausibleTime(facts.end) ? facts.end : last, o.start, last });
     for (const RecordedEvent &event : qAsConst(o.events)) {
         const __event_item &item = event.item;

@@ -24,7 +24,7 @@ struct RecordOverview
 
     RecordFacts facts;
     qint64 start = 0, end = 0; // ms since 1970; equal when nothing has a time
-    qint64 countsFrom = 0; // an event that had ended by then was found before the recording
+    qint64 countsFrom = 0; // ms since 1970: an event that had ended by then was found before the recording
     QVector<RecordedEvent> events; // without their curves
     qint64 eventsBeyond = 0; // that were not kept
     TimeSpans interruptions; // and times without a voltage

@@ -3,7 +3,7 @@
 #include "record/tables/recordevents.h"
 #include "report/reportcharts.h"
 #include "report/reportwriter.h"
-#include "report/tenminutes.h"
+#include "report/clockmeans.h"
 
 #include <algorithm>
 #include <cmath>
@@ -212,6 +212,9 @@ void ReportWriter::missing()
     for (const NotJudged &rest : m_judgement.notJudged)
         item(Report::tr("%1 could not be judged: %2.")
                  .arg(m_text.nameOf(rest.quantity, m_judgement), Report::reason(rest.why)));
+    for (const JudgedInPart &part : m_judgement.gaps)
+        item(Report::tr("%1 was judged in %2 of the time only.")
+                 .arg(m_text.nameOf(part.quantity, m_judgement), m_text.percent(std::floor(part.covered), 0)));
     for (const QuantityVerdict &v : m_judgement.verdicts) {
         if (v.withoutNumber + v.unread > 0 && v.key.quantity != Quantity::Harmonic)
             item(Report::tr("%1, intervals without a value: %2.")

@@ -2,7 +2,7 @@
 
 #include "model/channelset.h"
 #include "report/reportcharts.h"
-#include "report/tenminutes.h"
+#include "report/clockmeans.h"
 
 #include <algorithm>
 
@@ -231,7 +231,7 @@ void ReportWriter::notes()
     qint64 flagged = 0, leftOut = 0;
     bool changes = false, same = true;
     for (const QuantityVerdict &v : m_judgement.verdicts) {
-        const bool tenMinutes = intervalOf(v.key.quantity) == TenMinutes::kLength;
+        const bool tenMinutes = intervalOf(v.key.quantity) == ClockMeans::kTenMinutes;
         flagged = std::max(flagged, tenMinutes ? v.flagged : 0);
         leftOut = std::max(leftOut, tenMinutes ? v.leftOut : 0);
         const bool known = v.partialUnflagged == Outcome::Pass || v.partialUnflagged == Outcome::Fail;

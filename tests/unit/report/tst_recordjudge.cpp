@@ -43,9 +43,6 @@ private slots:
     void shortIntervalsMakeTenMinutes();
     void intervalsThatAreTooLongAreNamed();
     void harmonicsInVoltsAreTakenOfTheirFundamental();
-    void mainsSignalsNeedThreeSeconds();
-    void mainsSignalsAreJudgedDayByDay();
-    void whatIsMissingIsNamed();
     void withoutANominalValueNothingIsHidden();
     void eventsAreCountedByTheWeek();
     void anEventAtMidnightBelongsToTheWeekThatBegins();
@@ -54,7 +51,6 @@ private slots:
     void timeWithoutAVoltageBeginsAtTheRowBefore();
     void extremesAreNotJudged();
     void theInstrumentsResultIsThatOfTheQuantity();
-    void whatWasFoundBeforeTheRecordingIsListedAndNotCounted();
     void theWorstEventsGetTheirPicture();
     void anInterruptionThatGoesOnIsAsLongAsTheRecording();
     void theFirstTransientsGetTheirPicture();
@@ -248,56 +244,6 @@ void TstRecordJudge::harmonicsInVoltsAreTakenOfTheirFundamental()
     QCOMPARE(j.find({ Quantity::Harmonic, 0, 5 })->withoutNumber, 2); // without a fundamental
 }
 
-void TstRecordJudge::mainsSignalsNeedThreeSeconds()
-{
-    const QVector<RecordColumn> columns { { "U_signal1_ratio", Statistic::Mean, "L1", "" } };
-    const QuantityKey key { Quantity::Signal1, 0, 0 };
-    for (const qint64 interval : { 3000, 6000, 10000 }) {
-        FedRecording r;
-        r.facts.end = kStart + 6 * kStep;
-        r.fill(r.table("signalling", columns), interval, [](int) { return std::vector<double> { 0.06 }; });
-        const Judgement j = judged(r);
-        if (interval == 3000) {
-            QCOMPARE(j.find(key)->judged, 1200);
-            QCOMPARE(j.find(key)->partial, Outcome::Fail); // 6 percent, 5 are allowed
-        } else {
-            QCOMPARE(j.find(key)->judged, 0);
-        }
-    }
-}
-
-void TstRecordJudge::mainsSignalsAreJudgedDayByDay()
-{
-    // One percent of a day are 288 values. 400 lie outside, all on the second day: seven in a thousand of both days.
-    FedRecording r;
-    r.facts.end = kStart + 2 * FedRecording::kDay;
-    const int table = r.table("signalling", { { "U_signal1_ratio", Statistic::Mean, "L1", "" } });
-    r.fill(table, 3000, [](int i) { return std::vector<double> { i >= 30000 && i < 30400 ? 0.06 : 0.04 }; });
-    const Judgement j = judged(r);
-    const QuantityVerdict *v = j.find({ Quantity::Signal1, 0, 0 });
-    QCOMPARE(v->judged, 57600);
-    QCOMPARE(v->weeks, 2);
-    QCOMPARE(v->weeksFailed, 1);
-    QCOMPARE(v->partial, Outcome::Fail);
-    QCOMPARE(v->worstWeek, kStart + FedRecording::kDay);
-}
-
-void TstRecordJudge::whatIsMissingIsNamed()
-{
-    FedRecording r;
-    r.fill(r.table("monitor_voltage", FedRecording::voltages()), kStep, [](int) {
-        return std::vector<double> { 230, 230, 230 };
-    });
-    QVector<Quantity> missing;
-    for (const NotJudged &rest : judged(r).notJudged) {
-        QCOMPARE(rest.why, NotJudgedBecause::NotRecorded);
-        missing.append(rest.quantity);
-    }
-    QCOMPARE(missing,
-             (QVector<Quantity> { Quantity::Frequency, Quantity::Unbalance, Quantity::Thd, Quantity::Harmonic,
-                                  Quantity::Plt, Quantity::Signal1, Quantity::Signal2 }));
-}
-
 void TstRecordJudge::withoutANominalValueNothingIsHidden()
 {
     FedRecording r;
@@ -415,28 +361,6 @@ void TstRecordJudge::theInstrumentsResultIsThatOfTheQuantity()
     QVERIFY(first->partialOk);
     QVERIFY(!second->partialOk);
     QVERIFY(!third->partialOk);
-}
-
-void TstRecordJudge::whatWasFoundBeforeTheRecordingIsListedAndNotCounted()
-{
-    FedRecording r;
-    const int u = r.table("monitor_voltage", FedRecording::voltages(1));
-    r.fill(u, kStep, [](int) { return std::vector<double> { 230 }; });
-    const int events = r.table("events", {});
-    const qint64 begins[] = { kStart - 90000, kStart - 50, kStart + 5000 }; // over; runs into the recording; in it
-    for (const qint64 begin : begins) {
-        r.event(EventDip, begin, begin + 100, 180);
-        r.row(events, begin, {});
-    }
-    const Judgement j = judged(r);
-    QCOMPARE(j.overview.start, kStart);
-    QCOMPARE(j.overview.events.size(), 3);
-    QCOMPARE(j.eventCounts.first().all, 3);
-    QCOMPARE(j.eventCounts.first().count, 2);
-
-    // With clocks apart the start says nothing about an event.
-    r.facts.start = kStart + 12 * kStep;
-    QCOMPARE(judged(r).eventCounts.first().count, 3);
 }
 
 void TstRecordJudge::theWorstEventsGetTheirPicture()

@@ -251,6 +251,7 @@ void TstReportSections::whatIsMissingIsListed()
                     { Quantity::Signal2, NotJudgedBecause::NotTheInterval },
                     { Quantity::Frequency, NotJudgedBecause::NoNominal },
                     { Quantity::Thd, NotJudgedBecause::NoValue } };
+    j.gaps = { { Quantity::Pst, 7.9 } };
     QuantityVerdict gaps = verdict({ Quantity::Unbalance, -1, 0 }, 95, -Bounds::kNone, 2, Outcome::Pass);
     gaps.withoutNumber = 30;
     gaps.unread = 4;
@@ -271,8 +272,9 @@ void TstReportSections::whatIsMissingIsListed()
                      "Mains signal 175 Hz could not be judged: its intervals are longer than three seconds.",
                      "Frequency could not be judged: its nominal value is not known.",
                      "THD could not be judged: each of its intervals is incomplete or has an interruption.",
-                     "Unbalance, intervals without a value: 34.", "Flicker Pst L2, intervals without a value: 5.",
-                     "Incomplete ten minutes: 8.", "2023-11-14 battery low", "second line" }));
+                     "Flicker Pst was judged in 7 % of the time only.", "Unbalance, intervals without a value: 34.",
+                     "Flicker Pst L2, intervals without a value: 5.", "Incomplete ten minutes: 8.",
+                     "2023-11-14 battery low", "second line" }));
     QCOMPARE(textsOf(sectionOf(content, heading), ReportBlock::Paragraph), lines({ "All times are UTC." }));
 }
 

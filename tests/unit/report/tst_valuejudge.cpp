@@ -1,4 +1,4 @@
-#include "report/tenminutes.h"
+#include "report/clockmeans.h"
 #include "report/timespans.h"
 #include "report/trendband.h"
 #include "report/valuejudge.h"
@@ -52,6 +52,8 @@ private slots:
     void tenMinutesAreRootMeanSquares();
     void tenMinutesWithGapsAreNotMade();
     void tenMinuteRowsAreTakenAsTheyAre();
+    void intervalsThatDriftAgainstTheClockLoseNoTenMinutes();
+    void anIntervalCountsInBothTenMinutesThatItTouches();
     void spansMergeAndAreFound();
     void spansOfWildTimesAreNone();
     void aTrendKeepsItsExtremes();
@@ -299,7 +301,8 @@ void TstValueJudge::aWeekWithEndlessValuesTakesNoMoreMemory()
 void TstValueJudge::tenMinutesAreRootMeanSquares()
 {
     std::vector<std::pair<qint64, std::vector<double>>> made;
-    TenMinutes tenMinutes(2, 3000, [&made](qint64 time, const std::vector<double> &v) { made.emplace_back(time, v); });
+    ClockMeans tenMinutes(2, 3000, kStep,
+                          [&made](qint64 time, const std::vector<double> &v) { made.emplace_back(time, v); });
     for (int i = 0; i < 400; ++i)
         tenMinutes.take(kStart + (i + 1) * 3000, { i % 2 ? 3.0 : 4.0, i < 200 ? 1.0 : kNone });
     tenMinutes.finish();
@@ -314,7 +317,7 @@ void TstValueJudge::tenMinutesAreRootMeanSquares()
 void TstValueJudge::tenMinutesWithGapsAreNotMade()
 {
     int made = 0;
-    TenMinutes tenMinutes(1, 3000, [&made](qint64, const std::vector<double> &) { ++made; });
+    ClockMeans tenMinutes(1, 3000, kStep, [&made](qint64, const std::vector<double> &) { ++made; });
     for (int i = 0; i < 179; ++i) // 537 s of 600; 540 s would be enough
         tenMinutes.take(kStart + (i + 1) * 3000, { 1.0 });
     for (int i = 0; i < 180; ++i)
@@ -327,14 +330,38 @@ void TstValueJudge::tenMinutesWithGapsAreNotMade()
 void TstValueJudge::tenMinuteRowsAreTakenAsTheyAre()
 {
     std::vector<qint64> times;
-    TenMinutes tenMinutes(1, 599800, [&times](qint64 time, const std::vector<double> &) { times.push_back(time); });
+    ClockMeans tenMinutes(1, 599800, kStep,
+                          [&times](qint64 time, const std::vector<double> &) { times.push_back(time); });
     tenMinutes.take(kStart + 100, { 1.0 });
     tenMinutes.take(kStart + 599900, { 1.0 }); // the same ten minutes of the clock
     tenMinutes.finish();
     QCOMPARE(times, (std::vector<qint64> { kStart + 100, kStart + 599900 }));
-    QVERIFY(TenMinutes::canBeMadeOf(600200));
-    QVERIFY(!TenMinutes::canBeMadeOf(1800000));
-    QVERIFY(!TenMinutes::canBeMadeOf(0));
+}
+
+void TstValueJudge::intervalsThatDriftAgainstTheClockLoseNoTenMinutes()
+{
+    // 120.12 s on a supply slightly below its nominal frequency: now and then only four of them end in ten minutes.
+    std::vector<double> made;
+    ClockMeans tenMinutes(1, 120120, kStep, [&made](qint64, const std::vector<double> &v) { made.push_back(v[0]); });
+    for (int i = 0; i < 5000; ++i)
+        tenMinutes.take(kStart + qint64(i + 1) * 120120, { 230.0 });
+    tenMinutes.finish();
+    // 600,600 s are 1001 times ten minutes.
+    QCOMPARE(made.size(), std::size_t(1001));
+    QCOMPARE(tenMinutes.incomplete(), 0);
+    QVERIFY(std::all_of(made.begin(), made.end(), [](double value) { return std::fabs(value - 230) < 1e-9; }));
+}
+
+void TstValueJudge::anIntervalCountsInBothTenMinutesThatItTouches()
+{
+    std::vector<double> made;
+    ClockMeans tenMinutes(1, 400000, kStep, [&made](qint64, const std::vector<double> &v) { made.push_back(v[0]); });
+    for (const double value : { 3.0, 5.0, 7.0 }) // the second lies in both by halves
+        tenMinutes.take(kStart + (value < 4 ? 400000 : value < 6 ? 800000 : 1200000), { value });
+    tenMinutes.finish();
+    QCOMPARE(made.size(), std::size_t(2));
+    QVERIFY(std::fabs(made[0] - std::sqrt((4 * 9.0 + 2 * 25.0) / 6)) < 1e-9);
+    QVERIFY(std::fabs(made[1] - std::sqrt((2 * 25.0 + 4 * 49.0) / 6)) < 1e-9);
 }
 
 void TstValueJudge::spansMergeAndAreFound()
