@@ -77,6 +77,12 @@ double Bounds::ratio(double value) const
     return width > 0 ? std::abs(way) / width : way == 0 ? 0 : kNone;
 }
 
+double Bounds::partialRatio(double value) const
+{
+    const bool isBounded = std::isfinite(value > nominal ? high : low);
+    return hasPartial() && !isBounded ? 0 : ratio(value);
+}
+
 Bounds boundsOf(const QuantityKey &key, const monitor_limit &limits, double nominalVolt, double nominalFrequency)
 {
     switch (key.quantity) {

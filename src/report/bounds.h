@@ -50,6 +50,8 @@ struct Bounds
     /// How much of the way to the bound on its side \a value goes: 1 lies on it. Without partial bounds it is the way
     /// to the bounds of all values, without any the distance itself.
     double ratio(double value) const;
+    /// The same by the partial bounds alone, where there are any: a side without one is free.
+    double partialRatio(double value) const;
 
 private:
     // A stored float and the float of a limit are not more exact than this.

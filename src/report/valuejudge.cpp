@@ -84,7 +84,7 @@ double ValueJudge::valueAtShare(std::vector<float> &values) const
     const std::size_t count = std::max<std::size_t>(1, demanded(bounds.share, values.size()));
     const auto at = values.begin() + std::ptrdiff_t(count) - 1;
     std::nth_element(values.begin(), at, values.end(), [&bounds](float one, float other) {
-        return bounds.ratio(double(one)) < bounds.ratio(double(other));
+        return bounds.partialRatio(double(one)) < bounds.partialRatio(double(other));
     });
     return double(*at);
 }
@@ -109,7 +109,7 @@ void ValueJudge::closeWeek()
     ++v.weeks;
     v.weeksFailed += (v.bounds.hasPartial() && !holds) || !holdsAll;
     const double at = valueAtShare(m_plain);
-    if (const double ratio = v.bounds.ratio(at); ratio > m_worstWeekRatio) {
+    if (const double ratio = v.bounds.partialRatio(at); ratio > m_worstWeekRatio) {
         m_worstWeekRatio = ratio;
         v.atShare = at;
         v.shareWithin = double(within) * kHundred / double(m_plain.size());

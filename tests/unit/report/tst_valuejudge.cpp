@@ -52,6 +52,7 @@ private slots:
     void tenMinutesAreRootMeanSquares();
     void tenMinutesWithGapsAreNotMade();
     void tenMinuteRowsAreTakenAsTheyAre();
+    void whatIsReachedIsRankedByTheBoundsOfTheShare();
     void intervalsThatDriftAgainstTheClockLoseNoTenMinutes();
     void anIntervalCountsInBothTenMinutesThatItTouches();
     void spansMergeAndAreFound();
@@ -336,6 +337,25 @@ void TstValueJudge::tenMinuteRowsAreTakenAsTheyAre()
     tenMinutes.take(kStart + 599900, { 1.0 }); // the same ten minutes of the clock
     tenMinutes.finish();
     QCOMPARE(times, (std::vector<qint64> { kStart + 100, kStart + 599900 }));
+}
+
+void TstValueJudge::whatIsReachedIsRankedByTheBoundsOfTheShare()
+{
+    // 99 percent at 207 V or more; above, only 253 V for all values. Six lie too low, four too high.
+    Bounds bounds;
+    bounds.nominal = 230;
+    bounds.share = 99;
+    bounds.low = 207;
+    bounds.wholeHigh = 253;
+    ValueJudge judge({ Quantity::Voltage, 0, 0 }, bounds, Weeks(kStart, kStart + 100 * kStep));
+    for (int i = 1; i <= 100; ++i)
+        judge.take(kStart + i * kStep, i <= 6 ? 200 : i <= 10 ? 300 : 230);
+    const QuantityVerdict &v = judge.finish();
+    QCOMPARE(v.partial, Outcome::Fail);
+    QCOMPARE(v.shareWithin, 94.0);
+    QCOMPARE(v.atShare, 200.0); // what breaks the share, not what breaks the limit of all
+    QCOMPARE(v.worst, 300.0);
+    QCOMPARE(v.whole, Outcome::Fail);
 }
 
 void TstValueJudge::intervalsThatDriftAgainstTheClockLoseNoTenMinutes()
