@@ -95,6 +95,9 @@ void TstDocuments::everyLinkLeadsSomewhere()
                      qPrintable(document + QStringLiteral(": ") + target));
             QVERIFY2(anchor.isEmpty() || anchors(path).contains(anchor),
                      qPrintable(document + QStringLiteral(": ") + target));
+            // The guide is made of that folder alone.
+            QVERIFY2(!document.startsWith(QLatin1String("docs/")) || path.startsWith(QLatin1String("docs/")),
+                     qPrintable(document + QStringLiteral(" leaves the guide: ") + target));
             ++followed;
         }
     }
