@@ -3,12 +3,12 @@
 # The last lines are CTest's summary of that last run.
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd) || exit 1
 . "$top/packaging/common.sh"
-case "${1:-}" in
+case "$*" in
 -h|--help)
     echo "Usage: ./test.sh [--quick]    (--quick: no sanitizer runs)"
     exit 0 ;;
 ''|--quick) ;;
-*) die "unknown option $1 (./test.sh --help)" ;;
+*) die "unknown options: $* (./test.sh --help)" ;;
 esac
 
 install_packages debian-test-packages.txt
