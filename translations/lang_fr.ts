@@ -2247,6 +2247,10 @@ Supprimez des fichiers en mémoire.</translation>
         <source>%1 was judged in %2 of the time only.</source>
         <translation>%1 n&apos;a été évalué que pendant %2 du temps.</translation>
     </message>
+    <message>
+        <source>The last of them is only %1 long.</source>
+        <translation>La dernière ne dure que %1.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

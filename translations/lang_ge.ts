@@ -2247,6 +2247,10 @@ Bitte im Speicher Dateien löschen.</translation>
         <source>%1 was judged in %2 of the time only.</source>
         <translation>%1 wurde nur in %2 der Zeit bewertet.</translation>
     </message>
+    <message>
+        <source>The last of them is only %1 long.</source>
+        <translation>Die letzte davon dauert nur %1.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2247,6 +2247,10 @@ Eliminare file nella memoria.</translation>
         <source>%1 was judged in %2 of the time only.</source>
         <translation>%1 valutabile solo per il %2 del tempo.</translation>
     </message>
+    <message>
+        <source>The last of them is only %1 long.</source>
+        <translation>L&apos;ultima dura solo %1.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2247,6 +2247,10 @@ Delete files in Memory.</source>
         <source>%1 was judged in %2 of the time only.</source>
         <translation>%1は時間の%2についてのみ判定されました。</translation>
     </message>
+    <message>
+        <source>The last of them is only %1 long.</source>
+        <translation>最後の週は%1のみです。</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

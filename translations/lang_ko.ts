@@ -2247,6 +2247,10 @@ Delete files in Memory.</source>
         <source>%1 was judged in %2 of the time only.</source>
         <translation>%1: 시간의 %2에 대해서만 판정됨.</translation>
     </message>
+    <message>
+        <source>The last of them is only %1 long.</source>
+        <translation>마지막 주는 %1뿐입니다.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

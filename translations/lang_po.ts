@@ -2247,6 +2247,10 @@ Usuń pliki w pamięci.</translation>
         <source>%1 was judged in %2 of the time only.</source>
         <translation>%1 oceniono tylko przez %2 czasu.</translation>
     </message>
+    <message>
+        <source>The last of them is only %1 long.</source>
+        <translation>Ostatni trwa tylko %1.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2247,6 +2247,10 @@ Elimine ficheiros na memória.</translation>
         <source>%1 was judged in %2 of the time only.</source>
         <translation>%1 foi avaliado em apenas %2 do tempo.</translation>
     </message>
+    <message>
+        <source>The last of them is only %1 long.</source>
+        <translation>A última dura apenas %1.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

@@ -2247,6 +2247,10 @@ Delete files in Memory.</source>
         <source>%1 was judged in %2 of the time only.</source>
         <translation>%1: оценено только %2 времени.</translation>
     </message>
+    <message>
+        <source>The last of them is only %1 long.</source>
+        <translation>Последняя из них длится только %1.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

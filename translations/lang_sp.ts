@@ -2247,6 +2247,10 @@ Borre archivos en la memoria.</translation>
         <source>%1 was judged in %2 of the time only.</source>
         <translation>%1 se evaluó solo durante el %2 del tiempo.</translation>
     </message>
+    <message>
+        <source>The last of them is only %1 long.</source>
+        <translation>La última dura solo %1.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

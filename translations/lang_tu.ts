@@ -2247,6 +2247,10 @@ Bellekten dosya silin.</translation>
         <source>%1 was judged in %2 of the time only.</source>
         <translation>%1 sürenin yalnızca %2 kadarında değerlendirildi.</translation>
     </message>
+    <message>
+        <source>The last of them is only %1 long.</source>
+        <translation>Sonuncusu yalnızca %1 sürer.</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

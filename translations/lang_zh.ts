@@ -2247,6 +2247,10 @@ Delete files in Memory.</source>
         <source>%1 was judged in %2 of the time only.</source>
         <translation>%1 仅在 %2 的时间内得到评定。</translation>
     </message>
+    <message>
+        <source>The last of them is only %1 long.</source>
+        <translation>最后一周仅有 %1。</translation>
+    </message>
 </context>
 <context>
     <name>RmsTrendPage</name>

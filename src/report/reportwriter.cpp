@@ -223,6 +223,8 @@ void ReportWriter::notes()
         note(reservation());
     else if (weeks.count > 1)
         note(Report::tr("Weeks judged, each by itself: %1. The table shows the worst.").arg(weeks.count));
+    if (weeks.isWhole() && weeks.rest() > 0)
+        note(Report::tr("The last of them is only %1 long.").arg(m_text.duration(weeks.rest())));
     if (m_source.state == RecordState::Cut || m_source.state == RecordState::Broken)
         note(Report::tr("The recording is not whole. What could be read was judged."));
     note(

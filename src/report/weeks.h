@@ -31,6 +31,12 @@ struct Weeks
         return int(std::min<qint64>((time - 1 - start) / period, count - 1));
     }
     qint64 startOf(int week) const { return start + week * period; }
+    /// Length of the last week, ms, when it is a shorter one than the others; else 0.
+    qint64 rest() const
+    {
+        const qint64 last = length - (count - 1) * period;
+        return count > 1 && last < period / 100 * 99 ? last : 0;
+    }
     /// The standards judge whole weeks; a recording that has none is an indication. A percent of it may be missing.
     bool isWhole() const { return length >= kWeek / 100 * 99; }
 };

@@ -291,6 +291,9 @@ void TstReportTables::notesOfOtherRecordings_data()
     const QString other = "GOST32144";
     QTest::newRow("a week") << 7 << whole << fail << other << QStringList { kReached, same };
     QTest::newRow("by the standard") << 7 << whole << fail << "EN50160" << QStringList { kReached, same, kYear };
+    QTest::newRow("a week and a day") << 8 << whole << fail << other
+                                      << QStringList { "Weeks judged, each by itself: 2. The table shows the worst.",
+                                                       "The last of them is only 1 d 00:00:00 long.", kReached, same };
     QTest::newRow("two weeks") << 14 << whole << fail << other
                                << QStringList { "Weeks judged, each by itself: 2. The table shows the worst.", kReached,
                                                 same };
