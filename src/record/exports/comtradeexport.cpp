@@ -90,7 +90,7 @@ QByteArray ratioOf(const QString &stored, bool isVoltage)
 } // namespace
 
 ComtradeExport::ComtradeExport(const OutputPlace &place)
-    : m_output(Output::Folder, place, writes), m_input(QFileInfo(QDir::cleanPath(place.input)).fileName())
+    : m_output(Output::Folder, place, writes), m_input(place.inputName())
 { }
 
 bool ComtradeExport::writes(const QString &name)

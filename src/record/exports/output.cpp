@@ -51,6 +51,11 @@ bool isInside(const QString &path, const QString &folder)
 
 } // namespace
 
+QString OutputPlace::inputName() const
+{
+    return QFileInfo(QDir::cleanPath(QFileInfo(input).absoluteFilePath())).fileName();
+}
+
 Output::Output(Kind kind, OutputPlace place, Writes writes, const QString &mark)
     : m_kind(kind), m_place(std::move(place)),
       m_target(m_place.target.isEmpty() ? QString() : QDir::cleanPath(m_place.target)), m_writes(writes), m_mark(mark)

@@ -8,6 +8,9 @@ struct OutputPlace
     QString target; // as the user named it
     QString input; // the file or folder that is read: nothing is ever written into it
     bool force = false; // an earlier export of that name is replaced
+
+    /// The name that the input has in its folder, also where the user named it "." or with a slash at its end.
+    QString inputName() const;
 };
 
 /// A file or a folder that is there whole or not at all. It grows under a hidden name beside its target and takes the

@@ -171,7 +171,7 @@ QByteArray PqdifExport::container() const
 
 QByteArray PqdifExport::dataSource() const
 {
-    const QString input = QFileInfo(QDir::cleanPath(m_place.input)).fileName(); // a folder's may end with a slash
+    const QString input = m_place.inputName();
     PqdifCollection root;
     root.addId(PqdifTag::kDataSourceTypeID, PqdifValue::kDataSourceMeasure);
     root.addId(PqdifTag::kVendorID, PqdifValue::kVendorNone);

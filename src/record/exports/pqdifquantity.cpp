@@ -4,7 +4,7 @@ namespace {
 
 using namespace PqdifValue;
 
-constexpr quint32 kPerUnit = 20, kAllPhases = 13;
+constexpr quint32 kVoltsByVolts = 37, kAllPhases = 13;
 
 struct Row
 {
@@ -59,8 +59,9 @@ constexpr Row kRows[] = {
     { "I_zero_ratio", kI, kQcS0s1, kAllPhases },
     { "U_signal1", kU, kQcSpectra },
     { "U_signal2", kU, kQcSpectra },
-    { "U_signal1_ratio", kU, kQcSpectra, 0, kPerUnit },
-    { "U_signal2_ratio", kU, kQcSpectra, 0, kPerUnit },
+    // By the nominal voltage of the secondary side: behind a transformer not "per unit".
+    { "U_signal1_ratio", kU, kQcSpectra, 0, kVoltsByVolts },
+    { "U_signal2_ratio", kU, kQcSpectra, 0, kVoltsByVolts },
     { "U_distortion", kU, kQcHrms },
     { "I_distortion", kI, kQcHrms },
     { "U_THD", kU, kQcTotalThd },

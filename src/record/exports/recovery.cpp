@@ -28,10 +28,9 @@ bool writes(const QString &name)
     return name == kMark || name.endsWith(kSuffix);
 }
 
-QByteArray markOf(const RecordSource &source)
+QByteArray markOf(const RecordSource &source, const QString &name)
 {
-    QString text = QStringLiteral("What could be read of \"%1\", copied by quvera-files.\n")
-                       .arg(QFileInfo(QDir::cleanPath(source.path())).fileName().simplified());
+    QString text = QStringLiteral("What could be read of \"%1\", copied by quvera-files.\n").arg(name.simplified());
     for (const RecordFault &fault : source.faults())
         text += QStringLiteral("%1: byte %2: %3\n")
                     .arg(QFileInfo(fault.path).fileName().simplified(), QString::number(fault.offset), fault.reason);
@@ -85,7 +84,7 @@ Recovery::Result Recovery::copyFolder(const RecordSource &source, Output &output
         return all;
     OutputFile mark;
     if (mark.open(output.path() + QLatin1Char('/') + kMark))
-        mark.write(markOf(source));
+        mark.write(markOf(source, m_place.inputName()));
     return closed(&mark, Done);
 }
 
@@ -136,7 +135,8 @@ Recovery::Result Recovery::copyBlocks(const RecordSource &source, const RecordFi
         if (count % kProgressStep == 0 && !goesOn(block.offset, file.size))
             return Ended;
     }
-    if (file.lacksEnd)
+    // What is copied without its further part ends where it does.
+    if (source.isFolder() ? file.lacksEnd : file.isUnended)
         copy.addEnd(quint32(qMax<qint64>(source.facts().end, 0) / 1000));
     return copy.finish() ? Done : Nothing;
 }

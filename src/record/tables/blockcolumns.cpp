@@ -54,11 +54,12 @@ Fields spectrum(char input, bool isInter, int firstOrder)
 
 Fields monitorSpectrum(char input, int firstRank)
 {
+    const bool isVoltage = input == 'U';
     const QByteArray name(1, input);
-    Fields fields { { name + "_distortion", "percent", firstRank, -1, true } };
+    Fields fields { { name + "_distortion", "percent", firstRank, -1, isVoltage } };
     for (int order = 2; order <= kMonitorOrders; ++order)
         fields.push_back(
-            { lineName((name + 'h').constData(), order), "percent", firstRank + order - 1, qint16(order), true });
+            { lineName((name + 'h').constData(), order), "percent", firstRank + order - 1, qint16(order), isVoltage });
     return fields;
 }
 

@@ -269,7 +269,8 @@ void Pqa2Recording::findEnds()
         const bool isFirst = i == 0 || m_parts.at(i - 1).file != m_parts.at(i).file;
         hasStart = (!isFirst && hasStart) || m_parts.at(i).hasStart;
         const bool isThere = report.state != RecordState::Unreadable;
-        report.lacksEnd = isThere && hasStart && !m_parts.at(i).hasEnd && !goesOn(i) && !hasSpectra(report);
+        report.isUnended = isThere && hasStart && !m_parts.at(i).hasEnd && !hasSpectra(report);
+        report.lacksEnd = report.isUnended && !goesOn(i);
         if (report.lacksEnd)
             report.fault(RecordState::Cut, report.size, QStringLiteral("the recording has no end"));
     }

@@ -41,7 +41,8 @@ struct RecordFileReport
     qint64 end = 0; // of the last one
     qint64 events = 0;
     bool isOpen = true; // its bytes could be read
-    bool lacksEnd = false; // of a recording that began
+    bool isUnended = false; // a recording that began does not end in it
+    bool lacksEnd = false; // nor goes it on in a further part
 
     void fault(RecordState worst, qint64 offset, const QString &reason)
     {

@@ -78,6 +78,8 @@ private slots:
     void tablesComeInTheOrderOfTheList();
     void columnsOfAQuantityStandTogetherByStatisticThenChannel();
     void wiringWithoutStarPointNamesItsVoltagesBetweenLines();
+    void wiringWithoutStarPointNamesEverythingElseByItsPhase_data();
+    void wiringWithoutStarPointNamesEverythingElseByItsPhase();
     void channelThatTheWiringLacksHasNoColumn_data();
     void channelThatTheWiringLacksHasNoColumn();
     void onlyStatisticsThatWereStoredHaveColumns();
@@ -199,6 +201,47 @@ void TstBlockColumns::wiringWithoutStarPointNamesItsVoltagesBetweenLines()
     QVERIFY(namesOf(4, "rms").contains(QStringLiteral("I_rms_mean_L1_A")));
     QCOMPARE(namesOf(4, "flicker_pst"), QStringList({ "Pst_L12", "Pst_L23", "Pst_L31" }));
     QVERIFY(namesOf(4, "power").contains(QStringLiteral("P_mean_L1_W")));
+}
+
+void TstBlockColumns::wiringWithoutStarPointNamesEverythingElseByItsPhase_data()
+{
+    QTest::addColumn<int>("joinMode");
+    for (const int joinMode : { 2, 4, 6, 8, 10 })
+        QTest::newRow(channelSet(joinMode)->fullName) << joinMode;
+}
+
+/// In every table of the recorder and of the monitor.
+void TstBlockColumns::wiringWithoutStarPointNamesEverythingElseByItsPhase()
+{
+    QFETCH(int, joinMode);
+    const bool isSingle = joinMode == 6;
+    const QStringList lines = isSingle ? QStringList("L12") : QStringList { "L12", "L23", "L31" };
+    const QStringList phases = isSingle ? QStringList("L1") : QStringList { "L1", "L2", "L3" };
+    static const QRegularExpression ofLines(QStringLiteral("^(U_|Uh|Uih|Pst|Plt)"));
+    QMap<QString, QStringList> found; // by table, quantity and statistic
+    for (const RecordTable &table : allTables(joinMode)) {
+        for (const RecordColumn &column : table.columns) {
+            if (!column.channel.isEmpty())
+                found[QString::fromLatin1(table.name + ' ' + column.quantity + ' ')
+                      + QString::number(int(column.statistic))]
+                    << QString::fromLatin1(column.channel);
+        }
+    }
+    for (auto each = found.cbegin(); each != found.cend(); ++each) {
+        const QString table = each.key().section(QLatin1Char(' '), 0, 0);
+        const bool hasTotal = (table == QLatin1String("power") || table == QLatin1String("energy")) && !isSingle;
+        const QStringList expected = ofLines.match(each.key().section(QLatin1Char(' '), 1)).hasMatch()
+            ? lines
+            : phases + (hasTotal ? QStringList("total") : QStringList());
+        QVERIFY2(each.value() == expected, qPrintable(each.key() + QLatin1Char(' ') + each.value().join(' ')));
+    }
+    for (const char *kind : { "rms I_rms 1", "harmonics_i Ih05 2", "interharmonics_i Iih05 3", "angles UI_angle_h05 1",
+                              "monitor_harmonics I_distortion 0", "monitor_harmonics Ih50 0", "power P 1" })
+        QVERIFY2(found.contains(QLatin1String(kind)), kind);
+    for (const char *kind : { "rms U_rms 1", "harmonics_u Uh05 2", "interharmonics_u Uih05 3", "angles U_angle 1",
+                              "monitor_harmonics U_distortion 0", "monitor_harmonics Uh50 0", "monitor_voltage U_rms 1",
+                              "monitor_flicker_pst Pst 0", "flicker_plt Plt 0", "signalling U_signal1 1" })
+        QVERIFY2(found.contains(QLatin1String(kind)), kind);
 }
 
 void TstBlockColumns::channelThatTheWiringLacksHasNoColumn_data()

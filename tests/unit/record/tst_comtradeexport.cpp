@@ -80,6 +80,7 @@ private slots:
     void unusableWaveformHasNoPair_data();
     void unusableWaveformHasNoPair();
     void namesKeepFieldsAndLettersOfTheFormat();
+    void stationWithoutAModelIsTheFolderWhereOneStands();
     void ratiosOfTransformersAreTold_data();
     void ratiosOfTransformersAreTold();
     void numbersKeepTheirPointInAnyLanguage();
@@ -90,9 +91,9 @@ private:
     QString folder() const { return m_folder->filePath(QStringLiteral("out")); }
     QStringList files() const { return QDir(folder()).entryList(QDir::Files, QDir::Name); }
     Pair pair(const char *name) const { return ComtradeReading::readFiles(folder() + '/' + name); }
-    bool write(const QVector<RecordedWaveform> &waveforms, const QVector<qint16> &samples)
+    bool write(const QVector<RecordedWaveform> &waveforms, const QVector<qint16> &samples, const QString &input = {})
     {
-        ComtradeExport sink({ folder(), {}, true });
+        ComtradeExport sink({ folder(), input, true });
         bool good = sink.begin(m_facts);
         for (const RecordedWaveform &waveform : waveforms) {
             good = good && sink.waveformBegin(waveform);
@@ -350,6 +351,17 @@ void TstComtradeExport::namesKeepFieldsAndLettersOfTheFormat()
     QCOMPARE(read.channels[1].unit, QByteArray("kV"));
     QCOMPARE(read.channels[2].unit, QByteArray("NONE"));
     QCOMPARE(read.channels[3].phase, QByteArray());
+}
+
+void TstComtradeExport::stationWithoutAModelIsTheFolderWhereOneStands()
+{
+    m_facts.model.clear();
+    const QString before = QDir::currentPath(), here = m_folder->filePath(QStringLiteral("240118 Here"));
+    QVERIFY(QDir().mkpath(here) && QDir::setCurrent(here));
+    const bool isWritten = write({ waveformOf({ "U_L1" }, 10240) }, { 1 }, QStringLiteral("."));
+    QVERIFY(QDir::setCurrent(before));
+    QVERIFY(isWritten);
+    QCOMPARE(pair("0001_event").station, QByteArray("240118 Here"));
 }
 
 void TstComtradeExport::ratiosOfTransformersAreTold_data()

@@ -71,6 +71,7 @@ private slots:
     void largePiecesAndSmallOnesStandInOrder();
     void refusedWriteIsToldWhenTheFileIsClosed();
     void fileNeverFollowsALink();
+    void inputHasTheNameThatStandsInItsFolder();
 
 private:
     QString at(const char *name) const { return m_folder->filePath(QLatin1String(name)); }
@@ -375,6 +376,19 @@ void TstOutput::fileNeverFollowsALink()
     OutputFile file;
     QVERIFY(!file.open(at("out")));
     QCOMPARE(contentOf(at("elsewhere")), QByteArray("mine"));
+}
+
+void TstOutput::inputHasTheNameThatStandsInItsFolder()
+{
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir().mkpath(at("240118 Week/more")) && QDir::setCurrent(at("240118 Week")));
+    QStringList names;
+    for (const char *input : { ".", "./", "more/..", "more/", "..", "Common.pqa2", "/mnt/240119 Week/" })
+        names << OutputPlace { {}, QLatin1String(input), false }.inputName();
+    QVERIFY(QDir::setCurrent(before));
+    QCOMPARE(names,
+             QStringList({ "240118 Week", "240118 Week", "240118 Week", "more", QDir(m_folder->path()).dirName(),
+                           "Common.pqa2", "240119 Week" }));
 }
 
 QTEST_GUILESS_MAIN(TstOutput)

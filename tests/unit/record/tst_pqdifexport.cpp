@@ -1,6 +1,7 @@
 #include "../documentpage.h"
 #include "pqdifwriting.h"
 #include "platform/clock.h"
+#include "record/exports/pqdifquantity.h"
 
 #include <cmath>
 
@@ -42,6 +43,7 @@ private slots:
     void init() { reset(); }
 
     void recordTellsOfTheInstrument();
+    void folderWhereOneStandsHasItsName();
     void connectionIsThatOfTheWiring_data();
     void connectionIsThatOfTheWiring();
     void trendIsAValueLogWithExtremesAndMean();
@@ -49,6 +51,7 @@ private slots:
     void countersKeepTheirDigits();
     void quantitiesHaveTheirMarks_data();
     void quantitiesHaveTheirMarks();
+    void ratioOfAMainsSignalIsVoltsByVolts();
     void gapIsLeftOutOfItsChannelAlone();
     void rowsBackInTimeAreBroughtIntoOrder();
     void onlyIntervalBeganWithTheRecording();
@@ -89,6 +92,20 @@ void TstPqdifExport::recordTellsOfTheInstrument()
     QCOMPARE(settings["tagSettingPhysicalConnection"].number(), 4.0); // star
     QCOMPARE(settings["tagUseTransducer"].number(), 0.0);
     QCOMPARE(settings["tagChannelSettingsArray"].children.size(), source["tagChannelDefns"].children.size());
+}
+
+void TstPqdifExport::folderWhereOneStandsHasItsName()
+{
+    const QString before = QDir::currentPath(), here = m_folder->filePath(QStringLiteral("240118 Here"));
+    QVERIFY(QDir().mkpath(here) && QDir::setCurrent(here));
+    m_sink.reset(new PqdifExport({ target(), QStringLiteral("."), false }, false));
+    const bool isWritten = m_sink->begin(instrument()) && m_sink->table(0, voltages())
+        && ExportFeed::row(m_sink.data(), 0, kStart + 600000, { 230, 231, 240, 241, 220, 221 });
+    const File file = finish();
+    QVERIFY(QDir::setCurrent(before));
+    QVERIFY(isWritten);
+    QCOMPARE(file.fault, QString());
+    QCOMPARE(file.dataSource()["tagNameDS"].text, QByteArray("240118 Here"));
 }
 
 void TstPqdifExport::connectionIsThatOfTheWiring_data()
@@ -257,6 +274,15 @@ void TstPqdifExport::quantitiesHaveTheirMarks()
                                series["tagQuantityUnitsID"].number() }),
              numbers);
     QCOMPARE(series["tagQuantityCharacteristicID"].id, characteristic);
+}
+
+/// And not per unit, which behind a voltage transformer it is not.
+void TstPqdifExport::ratioOfAMainsSignalIsVoltsByVolts()
+{
+    for (const char *quantity : { "U_signal1_ratio", "U_signal2_ratio" }) {
+        QCOMPARE(pqdifQuantity(column(quantity, Statistic::Mean, "L1", "")).unit, 37U);
+        QCOMPARE(pqdifQuantity(column(quantity, Statistic::Mean, "L1", "")).stem, QByteArray(quantity));
+    }
 }
 
 void TstPqdifExport::gapIsLeftOutOfItsChannelAlone()

@@ -94,6 +94,7 @@ private slots:
     void fileThatWasJustBegunTakesNothingFromTheOthers();
     void partThatWasJustBegunLeavesTheEndToTheOneBefore();
     void missingPartsAreClosedUp();
+    void partCopiedWithoutItsFurtherPartIsSound();
     void tornCaptureKeepsItsWholeFrames();
     void pageWithATornRecordKeepsItsPicture();
     void pageWithATornPictureHasNothing();
@@ -105,6 +106,7 @@ private slots:
     void outputInsideTheInputIsRefused();
     void originalsAreNotReplacedByACopy();
     void copyTellsWhatItWasMadeOf();
+    void copyOfTheFolderWhereOneStandsTellsItsName();
 };
 
 void TstRecovery::everyCutGivesAWholeRecordingOfTheBlocksBefore()
@@ -210,6 +212,21 @@ void TstRecovery::missingPartsAreClosedUp()
     QCOMPARE(recover("gap", "closed"), Recovery::Done);
     QCOMPARE(QDir(path("closed")).entryList(QDir::Files), QStringList({ "Common.pqa2", "Common_2.pqa2", kMark }));
     QCOMPARE(wholeTimes("closed", "frequency").size(), 5);
+}
+
+void TstRecovery::partCopiedWithoutItsFurtherPartIsSound()
+{
+    QVERIFY(QDir().mkpath(path("parts")));
+    const QByteArray first = P::recording(3).bytes(), second = P::recording(2).end(kSeconds + 9).bytes();
+    QVERIFY(P::save(path("parts/Common.pqa2"), first) && P::save(path("parts/Common_2.pqa2"), second));
+    QCOMPARE(wholeTimes("parts/Common.pqa2", "frequency").size(), 3); // it goes on beside it
+    QCOMPARE(recover("parts/Common.pqa2", "part.pqa2"), Recovery::Done);
+    QCOMPARE(wholeTimes("part.pqa2", "frequency").size(), 3);
+    QCOMPARE(P::bytesOf(path("part.pqa2")), P::recording(3).end(kSeconds + 3).bytes());
+    QCOMPARE(recover("parts/Common_2.pqa2", "part.pqa2"), Recovery::Done);
+    QCOMPARE(P::bytesOf(path("part.pqa2")), second);
+    QCOMPARE(recover("parts", "whole"), Recovery::Done); // with both there is one end
+    QCOMPARE(P::bytesOf(path("whole/Common.pqa2")), first);
 }
 
 void TstRecovery::tornCaptureKeepsItsWholeFrames()
@@ -330,6 +347,22 @@ void TstRecovery::copyTellsWhatItWasMadeOf()
              "What could be read of \"240118_161500 Record 1\", copied by quvera-files.\n"
              "Common.pqa2: byte "
                  + QByteArray::number(bytes.size()) + ": the recording has no end\n");
+}
+
+void TstRecovery::copyOfTheFolderWhereOneStandsTellsItsName()
+{
+    QVERIFY(QDir().mkpath(path("240118_161500 Here")));
+    QVERIFY(P::recording(3).save(path("240118_161500 Here/Common.pqa2")));
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir::setCurrent(path("240118_161500 Here")));
+    RecordSource source;
+    const bool isOpen = source.open(QStringLiteral("."));
+    Recovery recovery({ path("here"), QStringLiteral("."), false });
+    const Recovery::Result result = recovery.run(source, {});
+    QVERIFY(QDir::setCurrent(before));
+    QVERIFY(isOpen);
+    QCOMPARE(result, Recovery::Done);
+    QVERIFY(P::bytesOf(path("here/") + kMark).startsWith("What could be read of \"240118_161500 Here\", "));
 }
 
 QTEST_APPLESS_MAIN(TstRecovery)
