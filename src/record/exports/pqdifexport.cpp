@@ -17,8 +17,8 @@ constexpr qint64 kDay = 86400 * 1000; // ms
 
 constexpr char kNotes[]
     = "Values of intervals (observations \"Trend ...\") are stamped with the end of their interval. "
-      "All times are UTC. Values are primary ones. An event of duration 0 went on when the "
-      "recording ended.";
+      "All times are UTC. Values are primary ones. The duration of \"events that went on\" when the "
+      "recording ended is that up to its end.";
 
 /// How the instrument is connected, as far as the format knows it; 0: not at all.
 quint32 connectionOf(int joinMode)

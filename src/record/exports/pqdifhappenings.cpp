@@ -54,11 +54,12 @@ QByteArray channelOf(const RecordedEvent &event, int joinMode)
     return inputName(joinMode, event.item.channel, row.channel == KindRow::Voltages);
 }
 
-/// Length of an event in s; 0 of one that went on.
-double secondsOf(const PQAEventItem &item)
+/// Length of an event in s. Of one that went on when the recording ended, what is known of it: that it lasted until
+/// then.
+double secondsOf(const PQAEventItem &item, qint64 recordingEnd)
 {
-    const bool isKnown = item.finished != 0 && isCalendarTime(double(item.endTime)) && item.endTime > item.startTime;
-    return isKnown ? double(item.endTime - item.startTime) / 1e3 : 0;
+    const qint64 end = item.finished != 0 ? item.endTime : recordingEnd;
+    return isCalendarTime(double(end)) && end > item.startTime ? double(end - item.startTime) / 1e3 : 0;
 }
 
 /// Categories by duration: up to 30 cycles, 3 s, a minute, longer.
@@ -134,7 +135,7 @@ bool PqdifHappenings::event(const RecordedEvent &event)
     if (!isCalendarTime(double(event.item.startTime)))
         return true;
     const int kind = event.item.type;
-    const double seconds = secondsOf(event.item);
+    const double seconds = secondsOf(event.item, m_facts.end);
     if (m_categories.size() < kMostNamed)
         m_categories.insert(event.number, categoryOf(kind, seconds, m_facts.nominalFrequency));
     const QByteArray channel = channelOf(event, m_facts.joinMode);
@@ -149,7 +150,8 @@ bool PqdifHappenings::listEvent(const RecordedEvent &event, const QByteArray &na
         return true;
     const KindRow &row = rowOf(event.item.type);
     const quint32 unit = pqdifUnit(eventUnit(event.item.type));
-    PqdifChannel channel = valueChannel(name + " (events)", input, row.measured,
+    const char *list = event.item.finished != 0 ? " (events)" : " (events that went on)";
+    PqdifChannel channel = valueChannel(name + list, input, row.measured,
                                         { kSeriesVal, unit, row.characteristic, PqdifStorage::Values, 0 });
     channel.type = kMagnitudeDurationTime;
     channel.series.append({ kSeriesDuration, kPqdifSeconds, kQcNone, PqdifStorage::Values, 0 });
@@ -209,7 +211,7 @@ bool PqdifHappenings::keepCurves(const RecordedEvent &event, const QByteArray &n
     root.addNumber(PqdifTag::kObservationSerial, quint32(event.number));
     root.addNumber(PqdifTag::kObservationAggregationSerial, quint32(event.number));
     root.addId(PqdifTag::kDisturbanceCategoryID, categoryOf(event.item.type, seconds, m_facts.nominalFrequency));
-    if (seconds > 0)
+    if (event.item.finished != 0 && seconds > 0)
         root.addReal(PqdifTag::kCharactDuration, seconds);
     for (int i = 0; i < 2 * kInputs; ++i) {
         if (curves[i].isEmpty())

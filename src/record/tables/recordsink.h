@@ -29,7 +29,9 @@ struct RecordFacts
     double nominalFrequency = 0; // Hz
     QString clamp, clampN, ratio, ratioN; // as stored
     qint64 start = 0; // ms since 1970, of the first thing where none is stored; 0: not known
-    qint64 end = 0; // of the last thing that was read, when no end is stored; known to RecordSink::end() only
+    // Of the last thing that was read, when no end is stored; of recordings and monitors known from the beginning on,
+    // of all others to RecordSink::end() only.
+    qint64 end = 0;
 };
 
 /// An event as it was stored. The value is in V, A, Hz, percent, or the flicker's plain number, by its kind.

@@ -17,6 +17,7 @@ protected:
     {
         RecordFacts facts = ExportFeed::facts();
         facts.start = kStart;
+        facts.end = kStart + kDay;
         return facts;
     }
 

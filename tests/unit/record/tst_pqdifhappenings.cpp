@@ -18,6 +18,8 @@ private slots:
     void eventHasItsCurvesAndStandsInTheList();
     void categoryFollowsKindAndDuration_data();
     void categoryFollowsKindAndDuration();
+    void eventThatWentOnLastedUntilTheRecordingsEndAtLeast_data();
+    void eventThatWentOnLastedUntilTheRecordingsEndAtLeast();
     void waveformHasItsSamples();
     void waveformOfAnEventHasItsCategory();
     void longCaptureIsTakenInPieces();
@@ -57,7 +59,10 @@ void TstPqdifHappenings::eventHasItsCurvesAndStandsInTheList()
     const Element &list = *file.observations()[1];
     QCOMPARE(list["tagObservationName"].text, QByteArray("Events"));
     all = channels(file, list, &fault);
-    QCOMPARE(all[0].series, Series({ { 0, 10 }, { 150.5, 150.5 }, { 0.25, 0 } }));
+    QCOMPARE(all.size(), 2);
+    QCOMPARE(all[0].series, Series({ { 0 }, { 150.5 }, { 0.25 } }));
+    QCOMPARE(all[1].definition, file.definitionIndex("dip L2 (events that went on)"));
+    QCOMPARE(all[1].series, Series({ { 10 }, { 150.5 }, { 86380 } }));
     const Element &definition = file.definition("dip L2 (events)");
     QCOMPARE(definition["tagQuantityTypeID"].id, QByteArray("ID_QT_MAGDURTIME"));
     QCOMPARE(definition["tagSeriesDefns"].children[2]["tagValueTypeID"].id, QByteArray("SERIES_DURATION"));
@@ -112,6 +117,56 @@ void TstPqdifHappenings::categoryFollowsKindAndDuration()
         }
     }
     QVERIFY(found);
+}
+
+void TstPqdifHappenings::eventThatWentOnLastedUntilTheRecordingsEndAtLeast_data()
+{
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("before"); // ms from its start to the end of the recording
+    QTest::addColumn<QByteArray>("category");
+    QTest::addColumn<double>("seconds");
+    const auto row = [](const char *name, int kind, int before, const char *category, double seconds) {
+        QTest::newRow(name) << kind << before << QByteArray(category) << seconds;
+    };
+    row("interruption for 2 s", EventInterruption, 2000, "DISTURB_SHORTDUR_MOMENT_INTERRUPT", 2);
+    row("interruption for 4 s", EventInterruption, 4000, "DISTURB_SHORTDUR_TEMP_INTERRUPT", 4);
+    row("interruption for an hour", EventInterruption, 3600000, "DISTURB_LONGDUR_INTERRUPT", 3600);
+    row("dip for 100 ms", EventDip, 100, "DISTURB_SHORTDUR_INSTANT_SAG", double(0.1F));
+    row("dip for an hour", EventDip, 3600000, "DISTURB_LONGDUR_SAG", 3600);
+    row("swell for 5 s", EventSwell, 5000, "DISTURB_SHORTDUR_TEMP_SWELL", 5);
+    row("a clock that was set back", EventDip, -1000, "DISTURB_SHORTDUR_INSTANT_SAG", 0);
+}
+
+void TstPqdifHappenings::eventThatWentOnLastedUntilTheRecordingsEndAtLeast()
+{
+    QFETCH(int, kind);
+    QFETCH(int, before);
+    RecordedEvent event = dip(3, instrument().end - before, 0);
+    event.item.type = kind;
+    event.item.finished = 0;
+    event.item.startRms[0] = { { event.item.startTime, 230 } };
+    RecordedWaveform waveform = waveformOf(RecordedWaveform::Event);
+    waveform.event = 3;
+    const qint16 samples[] = { 1, 2 };
+    QVERIFY(begin());
+    QVERIFY(m_sink->event(event) && m_sink->waveformBegin(waveform) && m_sink->waveformSamples(samples, 1)
+            && m_sink->waveformEnd());
+    const File file = finish();
+    QCOMPARE(file.fault, QString());
+    int categories = 0, lists = 0;
+    for (const Element *observation : file.observations()) {
+        QVERIFY(!observation->has("tagCharactDuration")); // nobody knows how long it lasted
+        if (observation->has("tagDisturbanceCategoryID")) {
+            QTEST((*observation)["tagDisturbanceCategoryID"].id, "category");
+            ++categories;
+        } else {
+            QString fault;
+            QTEST(channels(file, *observation, &fault)[0].series[2][0], "seconds");
+            ++lists;
+        }
+    }
+    QCOMPARE(categories, 2); // curves, waveform
+    QCOMPARE(lists, 1);
 }
 
 void TstPqdifHappenings::waveformHasItsSamples()
