@@ -73,9 +73,10 @@ public:
         return timed(rule.role, rule.time, block, look);
     }
 
-    /// Whether this is a moment that a recording can have been made at.
-    static bool isTime(qint64 ms) { return ms >= 0 && ms <= kLastTime; }
-    static bool isTime(double ms) { return ms >= 0 && ms <= double(kLastTime); }
+    /// Whether this is a moment that a recording can have been made at. The first one of 1970 is none: where a lost
+    /// supply kept the bytes of a block from the disk, they read as zeros.
+    static bool isTime(qint64 ms) { return ms > 0 && ms <= kLastTime; }
+    static bool isTime(double ms) { return ms > 0 && ms <= double(kLastTime); }
 
 private:
     enum class Time : quint8 { None, Seconds, Milliseconds, Double, EventStart };

@@ -63,6 +63,7 @@ private slots:
     void everyPrefixGivesTheBeginningOfTheWhole_data();
     void everyPrefixGivesTheBeginningOfTheWhole();
     void everyFlippedBitOfHeadsEndsInAState();
+    void blockOfZerosHasNoRowAndIsNoStart();
     void linksInACircleEnd();
     void lengthsBeyondTheFileEnd();
     void whatIsNoRecordIsUnreadable_data();
@@ -129,6 +130,12 @@ void TstRecordStates::faultIsNamedWithPlaceAndState_data()
         QTest::newRow(name) << P::recording(2).add(type, payload).end(kSeconds).bytes() << RecordState::Broken
                             << qint64(P::recording(2).bytes().size()) << 2;
     };
+    oddBlock("values of zeros", 0xA1000029, QByteArray(12, '\0'));
+    oddBlock("values of the monitor of zeros", 0xA1010000, QByteArray(8, '\0'));
+    oddBlock("a log of zeros", 0xA1000009, QByteArray(20, '\0'));
+    oddBlock("a transient of zeros", 0xA1000025, QByteArray(1216, '\0'));
+    oddBlock("an event of zeros", 0xA1010080, QByteArray(32, '\0'));
+    oddBlock("an end of zeros", 0xA1000019, QByteArray(4, '\0'));
     const QByteArray event = QByteArray(16, '\1') + P::le(quint64(kTime), 8) + P::le(quint64(kTime), 8);
     oddBlock("factors of thirteen values", 0xA1000011, QByteArray(52, '\1'));
     oddBlock("curves without a whole head", 0xA1010083, event.left(31));
@@ -203,6 +210,22 @@ void TstRecordStates::everyFlippedBitOfHeadsEndsInAState()
         QVERIFY(kept->events.size() <= 1);
     }
     QCOMPARE(unreadable, 24 * 8); // the head of the file; behind it each bit leaves something
+}
+
+void TstRecordStates::blockOfZerosHasNoRowAndIsNoStart()
+{
+    // Spectra tell no start of their own: it is that of their first block.
+    const P file = P().opening()
+                       .timed(0xA1000030, 0, QByteArray(832, '\0'))
+                       .timed(0xA1000030, kTime, P::countUp(0, 208))
+                       .timed(0xA1000030, kTime + 1000, P::countUp(0, 208));
+    readBytes(file.bytes());
+    QCOMPARE(source.state(), RecordState::Broken);
+    QCOMPARE(source.faults().size(), 1);
+    QCOMPARE(source.faults().at(0).offset, qint64(file.offsetOf(3)));
+    QCOMPARE(kept->times("harmonics_u"), QVector<qint64>({ kTime, kTime + 1000 }));
+    QCOMPARE(source.files().at(0).start, kTime);
+    QCOMPARE(source.facts().start, kTime);
 }
 
 void TstRecordStates::linksInACircleEnd()
