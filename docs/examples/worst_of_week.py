@@ -8,6 +8,7 @@ Nothing but Python's standard library is needed. A week is seven days from the f
 """
 import csv
 import datetime
+import itertools
 import os
 import re
 import sys
@@ -45,7 +46,7 @@ def time_of(row):
 
 
 class Weeks:
-    """The worst values by week; weeks count from the first time of all tables."""
+    """The worst values by week; weeks count from the first value of all tables."""
 
     def __init__(self, start):
         self.start = start
@@ -85,6 +86,13 @@ def chosen_tables(folder):
     return chosen
 
 
+def first_times(folder, chosen):
+    """When each table has its first value; no times for one without values."""
+    for name, columns in chosen.items():
+        with_values = (row for row in table(folder, name) if any(row[column] for _, column, _ in columns))
+        yield from (time_of(row) for row in itertools.islice(with_values, 1))
+
+
 def events_of_week(folder, start):
     """Number, lowest and highest value of the events of each kind, by week."""
     found = {}
@@ -102,8 +110,8 @@ def main():
         sys.exit("usage: worst_of_week.py FOLDER   (a folder that quvera-files export --csv made)")
     folder = sys.argv[1]
     chosen = chosen_tables(folder)
-    firsts = [time_of(next(table(folder, name))) for name in chosen]
-    firsts += [time_of(row) for row in table(folder, "events")]
+    # Events may be older than the first value. They begin the weeks where there are no values at all.
+    firsts = list(first_times(folder, chosen)) or [time_of(row) for row in table(folder, "events")]
     if not firsts:
         sys.exit("there is no table with values in " + folder)
     start = min(firsts)

@@ -125,6 +125,7 @@ private slots:
     void tenQuestionsAreAnswered();
     void questionsOfATableThatIsMissingDoNotStopTheOthers();
     void worstValuesOfEachWeekAreFound();
+    void weeksCountFromTheFirstValueWhateverHappenedBefore();
     void worstValuesOfAMonitorComeFromItsOwnTables();
     void worstValuesOfALoggersFile();
     void folderWithoutTablesIsSaidToBeOne();
@@ -234,6 +235,31 @@ void TstTableExamples::worstValuesOfEachWeekAreFound()
                         "  frequency, lowest                        49.5 Hz  2024-01-26 16:00:00\n"
                         "  frequency, highest                       50.5 Hz  2024-01-26 16:00:00\n"));
     QCOMPARE(m_status, 0);
+}
+
+void TstTableExamples::weeksCountFromTheFirstValueWhateverHappenedBefore()
+{
+    // Events on the first day, a row without a value on the third, the first value on the fourth.
+    CsvExport csv({ at("late"), QString(), true });
+    QVERIFY(csv.begin(facts()) && feedEvents(&csv, 0)
+            && csv.table(1, { "monitor_voltage", { column("U_rms", Statistic::Mean, "L1", "V") } })
+            && row(&csv, 1, kStart + 2 * kDay, { kNone }) && row(&csv, 1, kStart + 3 * kDay, { 231 })
+            && row(&csv, 1, kStart + 9 * kDay, { 229 }) && row(&csv, 1, kStart + 10 * kDay, { 230 })
+            && csv.end(facts()));
+    QCOMPARE(worstOf(at("late")),
+             QByteArray("Week from 2024-01-14 16:00\n"
+                        "  2 x dip, 115 to 161 V\n"
+                        "  1 x interruption, 2.5 to 2.5 V\n"
+                        "  1 x swell, 260 to 260 V\n"
+                        "Week from 2024-01-21 16:00\n"
+                        "  voltage, lowest            L1             229 V   2024-01-27 16:00:00\n"
+                        "  voltage, highest           L1             231 V   2024-01-21 16:00:00\n"
+                        "Week from 2024-01-28 16:00\n"
+                        "  voltage, lowest            L1             230 V   2024-01-28 16:00:00\n"
+                        "  voltage, highest           L1             230 V   2024-01-28 16:00:00\n"));
+    CsvExport events({ at("events"), QString(), true });
+    QVERIFY(events.begin(facts()) && feedEvents(&events, 0) && events.end(facts()));
+    QVERIFY(worstOf(at("events")).startsWith("Week from 2024-01-18 16:03\n")); // where there is no value at all
 }
 
 void TstTableExamples::worstValuesOfAMonitorComeFromItsOwnTables()
