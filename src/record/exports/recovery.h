@@ -8,7 +8,8 @@ class RecordSource;
 struct RecordFileReport;
 
 /// A sound copy of what can be read of a record, of the same kind: a whole chain of the blocks that were found, the
-/// frames, pieces or lines that are right. A recording that lacks its end gets one, at the last time that it holds.
+/// frames, pieces or lines that are right. A recording that lacks its end gets one, at the last time that it holds, and
+/// so does a part that is copied without the parts behind it.
 class Recovery
 {
 public:
