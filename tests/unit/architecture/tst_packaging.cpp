@@ -19,6 +19,7 @@ using SourceText::read;
 const QString kDebian = QStringLiteral("packaging/debian/debian/");
 const QString kUnit = kDebian + QStringLiteral("quvera.service");
 const QString kRights = QStringLiteral("packaging/board/board-rights");
+const QString kDisk = QStringLiteral("packaging/board/usb-disk");
 const QString kUdev = kDebian + QStringLiteral("quvera.udev");
 
 /// A file of the repository; a test that finds none fails by its content.
@@ -94,6 +95,38 @@ QStringList unit(const QString &key)
     return caught(text(kUnit), QStringLiteral("^%1=([^\n]*)$").arg(key));
 }
 
+/// A root for the script of the disks, with stand-ins of the system's commands; those that mount are noted.
+class BoardCommands
+{
+public:
+    void answer(const char *name, const QByteArray &does = "exit 0")
+    {
+        QFile file(m_root.filePath(QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        QByteArray note;
+        if (QByteArray(name).endsWith("mount"))
+            note = QByteArray("echo ") + name + " \"$@\" >>" + m_root.filePath("noted").toLocal8Bit() + "\n";
+        file.write("#!/bin/sh\n" + note + does + "\n");
+        QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    }
+    int run(const QStringList &words)
+    {
+        QProcess script;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QUVERA_ROOT"), root());
+        environment.insert(QStringLiteral("PATH"), root() + QStringLiteral(":/usr/bin:/bin"));
+        script.setProcessEnvironment(environment);
+        script.setProcessChannelMode(QProcess::ForwardedChannels);
+        script.start(kTop + QLatin1Char('/') + kDisk, words);
+        return script.waitForFinished(-1) ? script.exitCode() : -1;
+    }
+    QString root() const { return m_root.path(); }
+    QString noted() const { return read(m_root.filePath(QStringLiteral("noted"))); }
+
+private:
+    QTemporaryDir m_root;
+};
+
 } // namespace
 
 class TstPackaging : public QObject
@@ -111,7 +144,15 @@ private slots:
     void rightsNameTheFilesOfTheBoard();
     void rightsAreGivenToTheProgramsGroup();
     void userIsTheSameEverywhere();
+    void serviceWaitsForTheNodeButNotForEver();
     void scriptsThatTheProgramCallsAreOnItsPath();
+    void commandsThatTheProgramCallsAreBrought();
+    void clientOfALostNetworkIsFoundAndEnded();
+    void comingDisksAreShownWhereTheProgramLooks();
+    void diskIsTheUsersToWrite_data();
+    void diskIsTheUsersToWrite();
+    void diskThatCannotBeShownLeavesNothing_data();
+    void diskThatCannotBeShownLeavesNothing();
     void boardSettingsAreKnown();
 };
 
@@ -352,6 +393,176 @@ void TstPackaging::scriptsThatTheProgramCallsAreOnItsPath()
     QVERIFY(called.size() >= 2);
     QCOMPARE(installed, called);
     QVERIFY(text(kUnit).contains(QStringLiteral("\nEnvironment=PATH=%1:").arg(folder)));
+}
+
+void TstPackaging::serviceWaitsForTheNodeButNotForEver()
+{
+    const QStringList nodes = caught(text(kUdev), QStringLiteral("^KERNEL==\"([a-z]+)\", .*TAG\\+=\"systemd\"$"));
+    QCOMPARE(nodes.size(), 1);
+    const QString device = QStringLiteral("dev-%1.device").arg(nodes.first());
+    QVERIFY(unit(QStringLiteral("Wants")).value(0).split(QLatin1Char(' ')).contains(device));
+    QVERIFY(unit(QStringLiteral("After")).value(0).split(QLatin1Char(' ')).contains(device));
+    QVERIFY(unit(QStringLiteral("Requires")).isEmpty() && unit(QStringLiteral("BindsTo")).isEmpty());
+    QVERIFY(
+        text(kDebian + QStringLiteral("quvera.install"))
+            .contains(QStringLiteral("\npackaging/board/processor-node.conf lib/systemd/system/%1.d\n").arg(device)));
+    QCOMPARE(caught(text(QStringLiteral("packaging/board/processor-node.conf")),
+                    QStringLiteral("^\\[Unit\\]\nJobRunningTimeoutSec=([0-9]+s)$")),
+             QStringList { QStringLiteral("5s") });
+}
+
+void TstPackaging::commandsThatTheProgramCallsAreBrought()
+{
+    // The table of the page: commands, and the package that brings them.
+    QHash<QString, QString> brings;
+    for (const QString &row : caught(text(QStringLiteral("docs/board.md")), QStringLiteral("^\\| (`[^\n]+) \\|$"))) {
+        const QStringList cells = row.split(QStringLiteral(" | "));
+        if (cells.size() == 3 && !cells.first().contains(QLatin1String("/lib/"))) {
+            for (const QString &command : caught(cells.first(), QStringLiteral("`([^`]+)`")))
+                brings.insert(command, cells.at(1));
+        }
+    }
+    int seen = 0;
+    for (const QString &source : SourceText::sources(QStringLiteral("src"))) {
+        const QStringList lines = caught(
+            SourceText::code(source),
+            QStringLiteral(
+                "(?:shell|shellOutput|\\brun|kApply =)\\s*\\(?\\s*QStringLiteral\\(\"((?:[^\"\\\\]|\\\\.)+)\"\\)"));
+        for (const QString &line : lines) {
+            for (const QString &command : line.split(QRegularExpression(QStringLiteral("[|;]")))) {
+                QStringList words = command.simplified().split(QLatin1Char(' '));
+                words = words.mid(0, words.first() == QLatin1String("xargs") ? 2 : 1); // which calls another
+                for (const QString &word : qAsConst(words))
+                    QVERIFY2(brings.contains(word), qPrintable(source + QLatin1String(": ") + word));
+                seen += words.size();
+            }
+        }
+    }
+    QVERIFY2(seen >= 14, qPrintable(QString::number(seen)));
+    const QString control = text(kDebian + QStringLiteral("control"));
+    const QStringList wanted = caught(control, QStringLiteral("^(?:Depends|Recommends): ([^\n]+)$"))
+                                   .join(QStringLiteral(", "))
+                                   .split(QStringLiteral(", "));
+    for (const QString &package : qAsConst(brings)) {
+        if (package != QLatin1String("`quvera`") && !package.endsWith(QLatin1String(", essential")))
+            QVERIFY2(wanted.contains(QString(package).remove(QLatin1Char('`')).remove(QStringLiteral(", recommended"))),
+                     qPrintable(package));
+    }
+}
+
+void TstPackaging::clientOfALostNetworkIsFoundAndEnded()
+{
+    QString line = caught(SourceText::code(QStringLiteral("src/board/wifi.cpp")),
+                          QStringLiteral("QStringLiteral\\(\"(ps (?:[^\"\\\\]|\\\\.)+)\"\\)"))
+                       .value(0)
+                       .replace(QLatin1String("\\\""), QLatin1String("\""));
+    // An interface of this test alone: what it ends is its own.
+    const QString interface = QStringLiteral("wlan%1").arg(::getpid());
+    QVERIFY(line.contains(QLatin1String("udhcpc -i wlan0")));
+    line.replace(QLatin1String("wlan0"), interface);
+    QProcess client;
+    client.start(QStringLiteral("/bin/bash"),
+                 { QStringLiteral("-c"), QStringLiteral("exec -a 'udhcpc -i %1' sleep 1000").arg(interface) });
+    QVERIFY(client.waitForStarted());
+    QProcess shell;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("PATH"), kTop + QStringLiteral("/packaging/board:/usr/bin:/bin"));
+    shell.setProcessEnvironment(environment);
+    shell.start(QStringLiteral("/bin/sh"), { QStringLiteral("-c"), line });
+    QVERIFY(shell.waitForFinished()); // ended by itself: its own command line holds the words, too
+    QVERIFY(client.waitForFinished());
+    QCOMPARE(client.exitStatus(), QProcess::CrashExit);
+    QCOMPARE(client.exitCode(), 9);
+    QVERIFY(rows(kDebian + QStringLiteral("quvera.install"))
+                .contains({ QStringLiteral("packaging/board/ps"), QStringLiteral("usr/lib/quvera/scripts") }));
+}
+
+void TstPackaging::comingDisksAreShownWhereTheProgramLooks()
+{
+    const QString media = caught(SourceText::code(QStringLiteral("src/storage/udiskstorage.cpp")),
+                                 QStringLiteral("mediaPath\\(\\)\n\\{\n *return QStringLiteral\\(\"([^\"]+)\"\\)"))
+                              .value(0);
+    QVERIFY(!media.isEmpty());
+    QVERIFY(text(kDisk).contains(QStringLiteral("\nfolder=${QUVERA_ROOT:-}%1$name\n").arg(media)));
+    // From the disk to the unit, from the unit to the script, and each in its place.
+    const QString rule = text(QStringLiteral("packaging/board/80-quvera-usb.rules"));
+    QVERIFY(rule.contains(QLatin1String("ENV{ID_BUS}==\"usb\", ENV{ID_FS_USAGE}==\"filesystem\"")));
+    QVERIFY(rule.contains(QLatin1String("ENV{SYSTEMD_WANTS}+=\"quvera-usb@%k.service\"")));
+    const QString service = text(QStringLiteral("packaging/board/quvera-usb@.service"));
+    const QString call
+        = QStringLiteral("=/usr/lib/quvera/scripts/usb-disk %1 %I ") + unit(QStringLiteral("User")).value(0);
+    QVERIFY(service.contains(QLatin1String("\nExecStart") + call.arg(QStringLiteral("mount")) + QLatin1Char('\n')));
+    QVERIFY(service.contains(QLatin1String("\nExecStop") + call.arg(QStringLiteral("unmount")) + QLatin1Char('\n')));
+    QVERIFY(service.contains(QLatin1String("\nBindsTo=dev-%i.device\n")));
+    const QVector<QStringList> placed = rows(kDebian + QStringLiteral("quvera.install"));
+    QVERIFY(placed.contains({ kDisk, QStringLiteral("usr/lib/quvera/scripts") }));
+    QVERIFY(
+        placed.contains({ QStringLiteral("packaging/board/80-quvera-usb.rules"), QStringLiteral("lib/udev/rules.d") }));
+    QVERIFY(placed.contains(
+        { QStringLiteral("packaging/board/quvera-usb@.service"), QStringLiteral("lib/systemd/system") }));
+}
+
+void TstPackaging::diskIsTheUsersToWrite_data()
+{
+    QTest::addColumn<QString>("asked");
+    const QString hard = QStringLiteral("nosuid,nodev,noexec,noatime"), own = QStringLiteral(",uid=7,gid=7,umask=0022");
+    QTest::newRow("vfat") << QStringLiteral("vfat -o ") + hard + own + QStringLiteral(",utf8,flush");
+    QTest::newRow("exfat") << QStringLiteral("exfat -o ") + hard + own;
+    QTest::newRow("ntfs") << QStringLiteral("ntfs3 -o ") + hard + own;
+    QTest::newRow("ext4") << QStringLiteral("ext4 -o ") + hard;
+}
+
+void TstPackaging::diskIsTheUsersToWrite()
+{
+    QFETCH(QString, asked);
+    BoardCommands board;
+    board.answer("findmnt", "exit 1");
+    board.answer("blkid", QByteArray("echo ") + QTest::currentDataTag());
+    board.answer("id", "echo 7");
+    board.answer("mount");
+    board.answer("umount");
+    QCOMPARE(board.run({ QStringLiteral("mount"), QStringLiteral("sda1"), QStringLiteral("quvera") }), 0);
+    const QString folder = board.root() + QStringLiteral("/run/media/sda1");
+    QCOMPARE(board.noted(), QStringLiteral("mount -t %1 /dev/sda1 %2\n").arg(asked, folder));
+    QVERIFY(QDir(folder).exists());
+    // It goes, even when somebody still reads it.
+    board.answer("umount", "[ \"$1\" = --lazy ]");
+    QCOMPARE(board.run({ QStringLiteral("unmount"), QStringLiteral("sda1"), QStringLiteral("quvera") }), 0);
+    QVERIFY(board.noted().endsWith(QStringLiteral("umount --lazy %1\n").arg(folder)));
+    QVERIFY(!QDir(folder).exists());
+}
+
+void TstPackaging::diskThatCannotBeShownLeavesNothing_data()
+{
+    QTest::addColumn<QByteArray>("elsewhere");
+    QTest::addColumn<QByteArray>("kind");
+    QTest::addColumn<QByteArray>("mounted");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("result");
+    const QByteArray no = "exit 1", fat = "echo vfat", yes = "exit 0";
+    QTest::newRow("mounting fails") << no << fat << no << "sda1" << 1;
+    QTest::newRow("no known file system") << no << QByteArray("echo swap") << yes << "sda1" << 1;
+    QTest::newRow("nothing on it") << no << QByteArray("exit 2") << yes << "sda1" << 1;
+    QTest::newRow("in use elsewhere") << QByteArray("echo /mnt/storage") << fat << yes << "sda1" << 0;
+    QTest::newRow("no name of a partition") << no << fat << yes << "../sda1" << 2;
+}
+
+void TstPackaging::diskThatCannotBeShownLeavesNothing()
+{
+    QFETCH(QByteArray, elsewhere);
+    QFETCH(QByteArray, kind);
+    QFETCH(QByteArray, mounted);
+    QFETCH(QString, name);
+    QFETCH(int, result);
+    BoardCommands board;
+    board.answer("findmnt", elsewhere);
+    board.answer("blkid", kind);
+    board.answer("id", "echo 7");
+    board.answer("mount", mounted);
+    QCOMPARE(board.run({ QStringLiteral("mount"), name, QStringLiteral("quvera") }), result);
+    QCOMPARE(QDir(board.root() + QStringLiteral("/run/media")).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
+             QStringList());
+    QCOMPARE(board.noted().contains(QLatin1String("mount")), mounted == "exit 1");
 }
 
 void TstPackaging::boardSettingsAreKnown()
