@@ -52,7 +52,9 @@ done
 case "$root" in /*) ;; *) root=$PWD/$root ;; esac
 # Said before the build, for the instrument would refuse it after: its shell commands hold the root's name.
 case "$root" in
-*[!A-Za-z0-9_./+@%,-]*) die "the root $root holds blanks or other signs of the shell; choose another with --root" ;;
+*[!A-Za-z0-9_./+@%,-]*)
+    odd=$(printf '%s' "$root" | tr '\n' ' ' | LC_ALL=C.UTF-8 sed 's|[A-Za-z0-9_./+@%,-]||g; s|^\(.\).*|\1|')
+    die "the root $root has \"$odd\" in its name, which can hold letters from A to z, digits and _ . / + @ % , - only; choose another with --root" ;;
 esac
 [ -n "$scenario$replay" ] || scenario=living # a recording is its own supply
 if [ -n "$scenario" ] && [ ! -f "$scenario" ]; then
