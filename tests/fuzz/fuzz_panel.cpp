@@ -91,6 +91,9 @@ void checkRequest(const std::string &request, bool isAsked)
     if (done.keys + done.controls > 0) {
         expect(holds(request, "application/json"), "a form presses keys");
         expect(request.compare(0, 4, "GET ") != 0, "an address presses keys");
+        const std::string head = request.substr(0, request.find("\r\n\r\n"));
+        expect(!holds(head, "\r\nContent-Encoding: gzip"), "a packed body is unpacked");
+        expect(!holds(head, "\nTransfer-Encoding: chunked"), "a body comes in pieces");
     }
     const bool isInside = done.keys + done.controls > 0 || holds(answer, kPicture.constData());
     if (isAsked && request.find(kToken) == std::string::npos) {

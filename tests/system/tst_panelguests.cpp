@@ -159,6 +159,7 @@ void TstPanelGuests::requestsBeyondTheBoundsAreRefused_data()
     QTest::addColumn<QByteArray>("request");
     QTest::addColumn<int>("status");
     const QByteArray key = "POST /key HTTP/1.1\r\nHOST";
+    const QByteArray packed = "Content-Type: application/json\r\nContent-Length: 12\r\n\r\n{\"key\":\"F1\"}";
     QTest::newRow("long field") << "GET / HTTP/1.1\r\nHOSTX-A: " + QByteArray(20000, 'a') + "\r\n\r\n" << 431;
     QTest::newRow("many fields") << "GET / HTTP/1.1\r\nHOST" + QByteArray("a: b\r\n").repeated(4000) + "\r\n" << 431;
     QTest::newRow("a few fields too many") << "GET / HTTP/1.1\r\nHOST" + QByteArray("a: b\r\n").repeated(2800) + "\r\n"
@@ -174,6 +175,21 @@ void TstPanelGuests::requestsBeyondTheBoundsAreRefused_data()
                             << 411;
     QTest::newRow("ranges in small letters") << QByteArray("GET / HTTP/1.1\r\nHOSTrange:bytes=0-1\r\n\r\n") << 411;
     QTest::newRow("expectation") << key + "Expect: 100-continue\r\nContent-Length: 4000\r\n\r\n" << 411;
+    QTest::newRow("packed body") << key + "Content-Encoding: gzip\r\n" + packed << 415;
+    QTest::newRow("body packed the other way") << key + "content-encoding:br\r\n" + packed << 415;
+    QTest::newRow("packed body that says its way twice")
+        << key + "Content-Encoding: identity\r\nContent-Encoding: gzip\r\n" + packed << 415;
+    QTest::newRow("range behind a line feed alone") << QByteArray("GET / HTTP/1.1\r\nHOSTa: b\nRange: bytes=0-3\r\n\r\n")
+                                                    << 400;
+    QTest::newRow("pieces behind a line feed alone")
+        << key + "Content-Type: application/json\r\na: b\nTransfer-Encoding: chunked\r\n\r\nc\r\n{\"key\":\"F1\"}\r\n0\r\n\r\n" << 400;
+    QTest::newRow("line feed in the request line") << QByteArray("GET / HTTP/1.1\nRange: bytes=0-3\r\nHOST\r\n") << 400;
+    QTest::newRow("return alone") << QByteArray("GET / HTTP/1.1\r\nHOSTa: b\rRange: bytes=0-3\r\n\r\n") << 400;
+    QTest::newRow("return too many") << QByteArray("GET / HTTP/1.1\r\nHOSTa: b\r\r\n\r\n") << 400;
+    QTest::newRow("zero byte") << "GET / HTTP/1.1\r\nHOSTa: b" + QByteArray(1, '\0') + "c\r\n\r\n" << 400;
+    QTest::newRow("bell") << QByteArray("GET / HTTP/1.1\r\nHOSTa: \a\r\n\r\n") << 400;
+    QTest::newRow("delete") << QByteArray("GET / HTTP/1.1\r\nHOSTa: \x7f\r\n\r\n") << 400;
+    QTest::newRow("tab") << QByteArray("GET / HTTP/1.1\r\nHOSTa:\tb\tc\r\n\r\n") << 200;
     QTest::newRow("other version") << QByteArray("GET / HTTP/9.9\r\nHOST\r\n") << 400;
     QTest::newRow("no request line") << QByteArray("\r\n\r\n") << 400;
 }

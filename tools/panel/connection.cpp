@@ -50,6 +50,30 @@ std::string field(const std::string &head, const char *name)
     return found;
 }
 
+/// Fields that no request to the panel needs, and what the library would make of them is not bounded: it unpacks a
+/// packed body whole and reads ranges by a regular expression.
+struct RefusedField
+{
+    const char *name;
+    int status;
+};
+
+constexpr RefusedField kRefusedFields[]
+    = { { "Transfer-Encoding", 411 }, { "Expect", 411 }, { "Range", 411 }, { "Content-Encoding", 415 } };
+
+/// The library takes other line ends than CR LF for such, too, and would find fields that nobody looked at here.
+bool isPlain(const std::string &head)
+{
+    for (std::size_t i = 0; i < head.size(); ++i) {
+        const auto sign = static_cast<unsigned char>(head[i]);
+        if (sign == '\r' && i + 1 < head.size() && head[i + 1] == '\n')
+            ++i;
+        else if ((sign < ' ' && sign != '\t') || sign == 0x7f)
+            return false;
+    }
+    return true;
+}
+
 const char *reason(int status)
 {
     switch (status) {
@@ -59,6 +83,8 @@ const char *reason(int status)
         return "Length Required";
     case 413:
         return "Payload Too Large";
+    case 415:
+        return "Unsupported Media Type";
     case 431:
         return "Request Header Fields Too Large";
     case 503:
@@ -147,9 +173,12 @@ int Connection::missing() const
     if (end > kLongestHead)
         return 431;
     const std::string head = m_request.substr(0, end + 2);
-    // The library reads ranges by a regular expression; nothing here is large enough to be asked for in parts.
-    if (!field(head, "Transfer-Encoding").empty() || !field(head, "Expect").empty() || !field(head, "Range").empty())
-        return 411;
+    if (!isPlain(head))
+        return 400;
+    for (const RefusedField &refused : kRefusedFields) {
+        if (!field(head, refused.name).empty())
+            return refused.status;
+    }
     const std::string length = field(head, "Content-Length");
     if (length.size() > 6 || !std::all_of(length.begin(), length.end(), [](char c) { return c >= '0' && c <= '9'; }))
         return length.find_first_not_of("0123456789") == std::string::npos ? 413 : 400;
