@@ -116,6 +116,10 @@ QMap<QString, QString> ScreenNotes::take()
         if (!window->isVisible() || !pages || !pages->currentWidget())
             continue;
         notes.insert(QStringLiteral("Page"), QString::fromLatin1(pages->currentWidget()->metaObject()->className()));
+        const auto *parts = pages->currentWidget()->findChild<QStackedWidget *>();
+        if (parts && parts->currentWidget())
+            notes.insert(QStringLiteral("Part"),
+                         QString::fromLatin1(parts->currentWidget()->metaObject()->className()));
         if (const auto *title = window->findChild<QLabel *>(QStringLiteral("name")))
             notes.insert(QStringLiteral("Title"), title->text().simplified());
         addNotes(pages, window, &notes);

@@ -62,7 +62,7 @@ void measureKeys(quint16 port)
         QTest::qWait(700 + QRandomGenerator::global()->bounded(700));
         times << keyToScreen(viewer, port, i % 2 == 0);
     }
-    printBeside("key to screen in a browser, median", median(&times), kKeyGoal, "ms");
+    printBeside("key until its picture is at a viewer, median", median(&times), kKeyGoal, "ms");
 }
 
 /// Share of a core that both programs take, percent.

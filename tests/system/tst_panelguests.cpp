@@ -152,6 +152,22 @@ void TstPanelGuests::linkFromElsewhereOpensThePage()
 {
     QCOMPARE(get(m_port, "/", "Sec-Fetch-Site: cross-site\r\nSec-Fetch-Mode: navigate\r\n").status, 200);
     QCOMPARE(get(m_port, "/screen.png", "Sec-Fetch-Site: cross-site\r\nSec-Fetch-Mode: no-cors\r\n").status, 403);
+    // With a token, too: the browser keeps its cookie and brings it along where it is led, for that is a link's way on.
+    PanelProcess panel;
+    QVERIFY(panel.startFor(*m_instrument, { "--listen", "0.0.0.0" }));
+    const QByteArray follows = "Sec-Fetch-Site: cross-site\r\nSec-Fetch-Mode: navigate\r\n";
+    const Answer entry = get(panel.port(), "/?" + panel.address().query().toLatin1(), follows);
+    QCOMPARE(entry.status, 303);
+    const QByteArray cookie = entry.field("Set-Cookie");
+    QVERIFY2(cookie.endsWith("; SameSite=Lax"), cookie); // Strict would keep it back
+    const QByteArray kept = "Cookie: " + cookie.left(cookie.indexOf(';')) + "\r\n";
+    QCOMPARE(get(panel.port(), entry.field("Location"), follows + kept).status, 200);
+    // A link brings the cookie, and nothing that it may lead to acts.
+    for (const char *path : { "/key", "/control", "/key?key=F1", "/control?control=clear" })
+        QVERIFY2(get(panel.port(), path, follows + kept).status == 404, path);
+    QCOMPARE(
+        post(panel.port(), "/key", "{\"key\":\"F1\"}", follows + kept + "Content-Type: application/json\r\n").status,
+        403);
 }
 
 void TstPanelGuests::requestsBeyondTheBoundsAreRefused_data()
@@ -179,10 +195,12 @@ void TstPanelGuests::requestsBeyondTheBoundsAreRefused_data()
     QTest::newRow("body packed the other way") << key + "content-encoding:br\r\n" + packed << 415;
     QTest::newRow("packed body that says its way twice")
         << key + "Content-Encoding: identity\r\nContent-Encoding: gzip\r\n" + packed << 415;
-    QTest::newRow("range behind a line feed alone") << QByteArray("GET / HTTP/1.1\r\nHOSTa: b\nRange: bytes=0-3\r\n\r\n")
-                                                    << 400;
-    QTest::newRow("pieces behind a line feed alone")
-        << key + "Content-Type: application/json\r\na: b\nTransfer-Encoding: chunked\r\n\r\nc\r\n{\"key\":\"F1\"}\r\n0\r\n\r\n" << 400;
+    QTest::newRow("range behind a line feed alone")
+        << QByteArray("GET / HTTP/1.1\r\nHOSTa: b\nRange: bytes=0-3\r\n\r\n") << 400;
+    QTest::newRow("pieces behind a line feed alone") << key
+            + "Content-Type: application/json\r\na: b\nTransfer-Encoding: "
+              "chunked\r\n\r\nc\r\n{\"key\":\"F1\"}\r\n0\r\n\r\n"
+                                                     << 400;
     QTest::newRow("line feed in the request line") << QByteArray("GET / HTTP/1.1\nRange: bytes=0-3\r\nHOST\r\n") << 400;
     QTest::newRow("return alone") << QByteArray("GET / HTTP/1.1\r\nHOSTa: b\rRange: bytes=0-3\r\n\r\n") << 400;
     QTest::newRow("return too many") << QByteArray("GET / HTTP/1.1\r\nHOSTa: b\r\r\n\r\n") << 400;

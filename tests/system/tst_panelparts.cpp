@@ -1,6 +1,7 @@
 #include "desk/deskinstrument.h"
 #include "panel/admission.h"
 #include "panel/bulletin.h"
+#include "panel/connection.h"
 #include "panel/connectionqueue.h"
 #include "panel/controltable.h"
 #include "panel/guide.h"
@@ -22,6 +23,7 @@
 #include <QtEndian>
 
 #include <future>
+#include <netinet/tcp.h>
 #include <thread>
 
 using namespace panel;
@@ -37,6 +39,8 @@ private slots:
     void sameTextIsNoNews();
     void slowReaderGetsTheNewestOnly();
     void readersAreCountedWhileTheyLive();
+    void whetherTheInstrumentIsThereIsNotKnownWhileNobodyLooks();
+    void peerThatIsGoneWithoutAWordIsGivenUp();
     void closedBulletinLetsEveryoneGo();
     void portEightyNeedsNoNumber();
     void cookieIsFoundAmongOthersOnly();
@@ -96,6 +100,42 @@ void TstPanelParts::readersAreCountedWhileTheyLive()
         QCOMPARE(bulletin.readers(), 2);
     }
     QCOMPARE(bulletin.readers(), 0);
+}
+
+void TstPanelParts::whetherTheInstrumentIsThereIsNotKnownWhileNobodyLooks()
+{
+    constexpr std::chrono::milliseconds kNow(0);
+    Bulletin bulletin;
+    {
+        Bulletin::Reader first(bulletin);
+        bulletin.publish(Bulletin::Instrument, "there");
+        bulletin.publish(Bulletin::Screen, "picture");
+        Bulletin::Reader second(bulletin);
+        QCOMPARE(bulletin.news(second, kNow).size(), size_t(2)); // what somebody watched is known
+    }
+    Bulletin::Reader later(bulletin);
+    auto news = bulletin.news(later, kNow);
+    QCOMPARE(news.size(), size_t(1));
+    QCOMPARE(*news[0], std::string("picture")); // the last one that came, the page says
+    bulletin.publish(Bulletin::Instrument, "there");
+    news = bulletin.news(later, kNow);
+    QCOMPARE(news.size(), size_t(1));
+    QCOMPARE(*news[0], std::string("there"));
+}
+
+// A machine that sleeps sends no end; what is sent to it would otherwise be tried for a quarter of an hour.
+void TstPanelParts::peerThatIsGoneWithoutAWordIsGivenUp()
+{
+    const int socket = ::socket(AF_INET, SOCK_STREAM, 0);
+    const int kept = ::dup(socket);
+    {
+        const Connection connection(socket);
+        unsigned ms = 0;
+        socklen_t size = sizeof ms;
+        QCOMPARE(::getsockopt(kept, IPPROTO_TCP, TCP_USER_TIMEOUT, &ms, &size), 0);
+        QVERIFY2(ms > 0 && ms <= 30'000, qPrintable(QString::number(ms)));
+    }
+    ::close(kept);
 }
 
 void TstPanelParts::closedBulletinLetsEveryoneGo()

@@ -28,6 +28,8 @@ private slots:
     void everyAnswerCarriesTheContentPolicy();
     void keysReachTheInstrumentInTheirOrder();
     void keysThatAreNoneAreRefused();
+    void keysThatLayOnTheWayAreNotPressed();
+    void streamBeatsWhateverElseComes();
     void nobodyLooksNothingIsAsked();
     void unchangedScreenIsSentOnce();
     void viewersShareThePictures();
@@ -174,6 +176,17 @@ void TstPanelServer::everyPageHasItsHelp()
         QVERIFY2(table.contains("  " + page + ": '"), page);
     }
     QVERIFY(found >= 17);
+    // The guide has sections of set-up's sub pages; the first two pages and the voltage are set-up itself.
+    QFile parts(QStringLiteral(QUVERA_SOURCE_DIR "/src/setup/setuppage.cpp"));
+    QVERIFY(parts.open(QIODevice::ReadOnly));
+    int parted = 0;
+    made = QRegularExpression("make<(\\w+)>").globalMatch(parts.readAll());
+    for (; made.hasNext(); ++parted) {
+        const QByteArray part = made.next().captured(1).toLatin1();
+        const bool isItself = part == "SetupMain" || part == "SetupMainPage2" || part == "SetupVnomPage";
+        QVERIFY2(table.contains("  " + part + ": '") != isItself, part);
+    }
+    QVERIFY(parted >= 13);
 }
 
 void TstPanelServer::everyAnswerCarriesTheContentPolicy()
@@ -205,6 +218,53 @@ void TstPanelServer::keysThatAreNoneAreRefused()
     QCOMPARE(say(m_port, "PUT /key HTTP/1.1\r\n" + host(m_port) + "Content-Type: application/json\r\n\r\n").status,
              404);
     QCOMPARE(m_instrument->keys().size(), 0);
+}
+
+/// The panel's clock as the last beat tells it; -1 before one came.
+static double clockOf(Viewer *viewer)
+{
+    viewer->count("beat");
+    const QByteArray begin = "event: beat\ndata: ";
+    const int at = viewer->read().lastIndexOf(begin);
+    const int end = viewer->read().indexOf('\n', at + begin.size());
+    if (at < 0 || end < 0)
+        return -1;
+    const QByteArray data = viewer->read().mid(at + begin.size(), end - at - begin.size());
+    return QJsonDocument::fromJson(data).object().value("at").toDouble(-1);
+}
+
+void TstPanelServer::keysThatLayOnTheWayAreNotPressed()
+{
+    Viewer viewer(m_port);
+    QTRY_VERIFY_WITH_TIMEOUT(clockOf(&viewer) > 0, kPatience);
+    const auto pressedAt = [this](const char *key, const QByteArray &at) {
+        return post(m_port, "/key", QByteArray("{\"key\":\"") + key + "\",\"at\":" + at + '}').status;
+    };
+    const double now = clockOf(&viewer);
+    QCOMPARE(pressedAt("F1", QByteArray::number(now - 2000, 'f', 3)), 409);
+    QCOMPARE(pressedAt("F1", QByteArray::number(now + 600'000, 'f', 3)), 409); // of another panel's clock
+    for (const char *none : { "null", "\"now\"", "[]", "-1e300", "1e300" })
+        QVERIFY2(pressedAt("F1", none) == 409, none);
+    const QByteArray late = "{\"control\":\"clear\",\"at\":0}";
+    QCOMPARE(post(m_port, "/control", late).status, 409);
+    // Pressed just now. A busy machine may be late itself, and is asked again.
+    QVERIFY(eventually([&] { return pressedAt("F2", QByteArray::number(clockOf(&viewer), 'f', 3)) == 204; }));
+    QTRY_COMPARE_WITH_TIMEOUT(m_instrument->keys(), QVector<quint32> { 41 }, kPatience);
+}
+
+// The page takes silence for the end of the panel.
+void TstPanelServer::streamBeatsWhateverElseComes()
+{
+    Viewer still(m_port);
+    QTRY_VERIFY_WITH_TIMEOUT(still.count("beat") >= 3, kPatience);
+    QCOMPARE(still.count("screen"), 1);
+    Viewer busy(m_port);
+    for (int i = 0; busy.count("beat") < 3 && i < kPatience; i += 100) {
+        m_instrument->show(QColor(i / 100 % 256, 100, 0));
+        QTest::qWait(100);
+    }
+    QVERIFY(busy.count("beat") >= 3);
+    QVERIFY2(busy.count("screen") > busy.count("beat"), qPrintable(QString::number(busy.count("screen"))));
 }
 
 void TstPanelServer::nobodyLooksNothingIsAsked()
@@ -302,6 +362,7 @@ void TstPanelServer::beyondItsNumberViewersAreRefused()
     const Answer refused = get(m_port, "/events");
     QCOMPARE(refused.status, 503);
     QCOMPARE(refused.field("Retry-After"), QByteArray("5"));
+    QCOMPARE(refused.body, QByteArray("Too many look on already\n")); // the page says so
     QCOMPARE(get(m_port, "/").status, 200); // keys and the page are there for all
     viewers.removeLast();
     QVERIFY(eventually([&] {
@@ -341,7 +402,7 @@ void TstPanelServer::tokenIsAskedForBeyondThisMachine()
     QCOMPARE(entry.status, 303);
     QCOMPARE(entry.field("Location"), QByteArray("/"));
     const QByteArray cookie = entry.field("Set-Cookie");
-    QVERIFY2(cookie.endsWith("; Path=/; HttpOnly; SameSite=Strict"), cookie);
+    QVERIFY2(cookie.endsWith("; Path=/; HttpOnly; SameSite=Lax"), cookie);
     const QByteArray shown = "Cookie: other=1; " + cookie.left(cookie.indexOf(';')) + "; more=2\r\n";
     QCOMPARE(get(port, "/", shown).status, 200);
     QCOMPARE(post(port, "/key", "{\"key\":\"F1\"}", shown + "Content-Type: application/json\r\n").status, 204);

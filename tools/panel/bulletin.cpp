@@ -5,7 +5,8 @@ namespace panel {
 Bulletin::Reader::Reader(Bulletin &bulletin) : m_bulletin(bulletin)
 {
     const std::lock_guard<std::mutex> guard(m_bulletin.m_lock);
-    ++m_bulletin.m_readers;
+    if (m_bulletin.m_readers++ == 0)
+        m_bulletin.m_messages[Instrument] = nullptr;
 }
 
 Bulletin::Reader::~Reader()
@@ -34,7 +35,8 @@ std::vector<Bulletin::Message> Bulletin::take(Reader &reader) const
         if (reader.m_seen[topic] == m_numbers[topic])
             continue;
         reader.m_seen[topic] = m_numbers[topic];
-        found.push_back(m_messages[topic]);
+        if (m_messages[topic])
+            found.push_back(m_messages[topic]);
     }
     return found;
 }

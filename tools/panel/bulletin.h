@@ -11,7 +11,8 @@
 namespace panel {
 
 /// What all viewers are shown, one message a topic: the newest counts, older ones are forgotten. A message is made once
-/// and shared, however many read it; a slow reader misses those in between. Any thread.
+/// and shared, however many read it; a slow reader misses those in between. While nobody reads nobody asks whether the
+/// instrument is there, so the first reader hears of that anew. Any thread.
 class Bulletin
 {
 public:

@@ -4,6 +4,7 @@
 #include <arpa/inet.h>
 #include <cerrno>
 #include <cstring>
+#include <netinet/tcp.h>
 #include <poll.h>
 #include <strings.h>
 #include <sys/socket.h>
@@ -18,6 +19,7 @@ using std::chrono::milliseconds;
 constexpr milliseconds kReadTime(3000);
 constexpr milliseconds kReadTimeInAHurry(100);
 constexpr milliseconds kWriteTime(5000);
+constexpr unsigned kLostMs = 10000; // so long without a sign of a peer that has to give one
 constexpr int kLookMs = 20;
 constexpr int kLingerMs = 100;
 constexpr std::size_t kLingerBytes = 64 * 1024;
@@ -118,6 +120,7 @@ void address(int socket, int (*name)(int, sockaddr *, socklen_t *), std::string 
 Connection::Connection(int socket) : m_socket(socket)
 {
     t_current = this;
+    ::setsockopt(socket, IPPROTO_TCP, TCP_USER_TIMEOUT, &kLostMs, sizeof kLostMs);
     beginPiece();
 }
 

@@ -2,11 +2,14 @@
 
 #include "panel/connection.h"
 #include "panel/connectionqueue.h"
+#include "panel/screenfeed.h"
 #include "remote/remoteclient.h"
 
 #include <QFile>
 #include <QJsonDocument>
 
+#include <algorithm>
+#include <cmath>
 #include <sys/socket.h>
 #include <sys/time.h>
 
@@ -15,8 +18,10 @@ namespace panel {
 namespace {
 
 using std::chrono::milliseconds;
+using Clock = std::chrono::steady_clock;
 
-constexpr milliseconds kNewsWait(2000); // then a look whether the viewer is still there
+constexpr milliseconds kBeat(2000);
+constexpr double kLateMs = 1500;
 constexpr int kBacklog = 128;
 
 struct PageFile
@@ -39,6 +44,19 @@ void answer(httplib::Response &response, int status, const QString &why)
 {
     response.status = status;
     response.set_content(why.toStdString() + '\n', "text/plain; charset=utf-8");
+}
+
+double nowMs()
+{
+    return double(std::chrono::duration_cast<milliseconds>(Clock::now().time_since_epoch()).count());
+}
+
+/// A page says when its key was pressed, by the clock that the beats tell it. One that lay on the way, before a panel
+/// that stood still or a network that was gone, is not pressed into what the screen has become meanwhile.
+bool isLate(const QJsonObject &wish)
+{
+    const QJsonValue at = wish.value(QStringLiteral("at"));
+    return !at.isUndefined() && std::abs(nowMs() - at.toDouble()) > kLateMs;
 }
 
 void reuseAddress(int socket)
@@ -128,7 +146,7 @@ httplib::Server::HandlerResponse PanelServer::admitOrRefuse(const Request &reque
     case Admission::Answer::Welcome:
         break;
     case Admission::Answer::Enter:
-        response.set_header("Set-Cookie", m_admission.cookie() + "; Path=/; HttpOnly; SameSite=Strict");
+        response.set_header("Set-Cookie", m_admission.cookie() + "; Path=/; HttpOnly; SameSite=Lax");
         response.set_redirect("/", 303);
         return HandlerResponse::Handled;
     case Admission::Answer::ForeignHost:
@@ -200,34 +218,41 @@ void PanelServer::stream(Response &response)
     if (++m_viewers > kMostViewers) {
         --m_viewers;
         response.set_header("Retry-After", "5");
-        answer(response, 503, QStringLiteral("Too many look already."));
+        answer(response, 503, QStringLiteral("Too many look on already"));
         return;
     }
     response.status = 200;
     const auto reader = std::make_shared<Bulletin::Reader>(m_bulletin);
     response.set_content_provider(
         "text/event-stream",
-        [this, reader](size_t, httplib::DataSink &sink) {
-            const auto news = m_bulletin.news(*reader, kNewsWait);
+        [this, reader, nextBeat = Clock::now()](size_t, httplib::DataSink &sink) mutable {
+            const auto wait = std::chrono::ceil<milliseconds>(nextBeat - Clock::now());
+            const auto news = m_bulletin.news(*reader, std::max(wait, milliseconds(0)));
             if (m_bulletin.isClosed())
                 return false;
             Connection::current()->beginPiece();
             bool sent = true;
             for (const Bulletin::Message &message : news)
                 sent = sent && sink.write(message->data(), message->size());
-            // A line that browsers pass over: who is gone is noticed.
-            return news.empty() ? sink.write(":\n\n", 3) : sent;
+            if (Clock::now() < nextBeat)
+                return sent;
+            // The page knows by it that the panel is there, the panel that somebody still looks.
+            nextBeat = Clock::now() + kBeat;
+            const std::string beat
+                = eventText("beat", QJsonDocument(QJsonObject { { "at", nowMs() } }).toJson(QJsonDocument::Compact));
+            return sent && sink.write(beat.data(), beat.size());
         },
         [this](bool) { --m_viewers; });
 }
 
 void PanelServer::pressKey(const Request &request, Response &response)
 {
-    const QJsonValue key
-        = QJsonDocument::fromJson(QByteArray::fromStdString(request.body)).object().value(QStringLiteral("key"));
-    const int code = RemoteClient::keyCode(key.toString());
+    const QJsonObject wish = QJsonDocument::fromJson(QByteArray::fromStdString(request.body)).object();
+    const int code = RemoteClient::keyCode(wish.value(QStringLiteral("key")).toString());
     if (!RemoteClient::isKey(code))
         answer(response, 400, QStringLiteral("There is no such key."));
+    else if (isLate(wish))
+        answer(response, 409, QStringLiteral("The key came too late"));
     else if (!m_actions.pressKey(code))
         answer(response, 429, QStringLiteral("Too many keys wait."));
     else
@@ -237,6 +262,8 @@ void PanelServer::pressKey(const Request &request, Response &response)
 void PanelServer::control(const Request &request, Response &response)
 {
     const QJsonDocument wish = QJsonDocument::fromJson(QByteArray::fromStdString(request.body));
+    if (isLate(wish.object()))
+        return answer(response, 409, QStringLiteral("That came too late"));
     const QString why = wish.isObject() ? m_actions.control(wish.object()) : QStringLiteral("An object is expected.");
     if (why.isEmpty())
         response.status = 204;

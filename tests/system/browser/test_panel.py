@@ -1,27 +1,20 @@
 #!/usr/bin/python3
-"""The panel in a real browser: an instrument, its processor and quvera-panel are started, and a person's way through
-the page is gone: keys, pictures, controls, a narrow window, two viewers, an instrument that ends and comes back."""
+"""The panel in a real browser: a person's way through the page is gone: keys, pictures, controls, a narrow window, two
+viewers."""
 import json
 import os
 import pathlib
 import re
-import signal
-import socket
-import subprocess
-import sys
-import tempfile
 import time
 import unittest
 import urllib.request
 
-from selenium import webdriver
-from selenium.webdriver.chrome.service import Service
 from selenium.webdriver.common.action_chains import ActionChains
 from selenium.webdriver.common.by import By
 from selenium.webdriver.common.keys import Keys
 
-BIN = sys.argv.pop(1)
-PATIENCE = 120  # s, ends a hang only
+from panelcase import PanelCase, browser, eventually
+
 # What can be read, each with the contrast between its letters and the least favourable colour behind them.
 CONTRASTS = """
 const parse = (text) => { const n = text.match(/[\\d.]+/g).map(Number); return [n[0], n[1], n[2], n.length > 3 ? n[3] : 1]; };
@@ -50,172 +43,59 @@ return found;
 KEYS = {"Scope": "F6", "Menu": "F7", "Monitor": "F8", "Setup": "F9", "Memory": "F10", "Save": "F11", "Light": "F12"}
 
 
-def eventually(condition, what):
-    end = time.monotonic() + PATIENCE
-    while time.monotonic() < end:
-        value = condition()
-        if value:
-            return value
-        time.sleep(0.05)
-    raise AssertionError(what() if callable(what) else what)
-
-
-def free_port(kind):
-    with socket.socket(socket.AF_INET, kind) as one:
-        one.bind(("127.0.0.1", 0))
-        return one.getsockname()[1]
-
-
-class Desk:
-    """The three programs under a root of their own."""
-
-    def __init__(self, root, starts=True):
-        self.root = root
-        self.processor = self.instrument = None
-        self.environment = dict(
-            os.environ, QUVERA_ROOT=root, QUVERA_REMOTE_PORT=str(free_port(socket.SOCK_DGRAM)),
-            QUVERA_MODBUS_PORT=str(free_port(socket.SOCK_STREAM)), QT_QPA_PLATFORM="offscreen")
-        if starts:
-            self.start()
-        self.panel = self.begin("quvera-panel", "--port", "0", output=subprocess.PIPE)
-        self.address = self.panel.stdout.readline().decode().strip()
-
-    def start(self):
-        self.processor = self.begin("quvera-processor", "--scenario", "nominal")
-        eventually(lambda: os.path.exists(self.root + "/dev/mcasp"), "the processor does not start")
-        self.instrument = self.begin("quvera")
-
-    def begin(self, name, *arguments, output=None):
-        log = open(os.path.join(self.root, name + ".log"), "ab")
-        with log:
-            return subprocess.Popen([os.path.join(BIN, name), *arguments], env=self.environment,
-                                    stdin=subprocess.DEVNULL, stdout=output or log, stderr=log)
-
-    def restart_instrument(self):
-        self.stop(self.instrument)
-        return lambda: setattr(self, "instrument", self.begin("quvera"))
-
-    @staticmethod
-    def stop(process):
-        process.send_signal(signal.SIGTERM)
-        try:
-            process.wait(PATIENCE)
-        except subprocess.TimeoutExpired:
-            process.kill()
-            process.wait()
-
-    def end(self):
-        for process in (self.panel, self.instrument, self.processor):
-            if process:
-                self.stop(process)
-        self.panel.stdout.close()
-
-
-def browser(profile):
-    options = webdriver.ChromeOptions()
-    options.binary_location = "/usr/bin/chromium"
-    for argument in ("--headless=new", "--no-sandbox", "--disable-gpu", "--disable-dev-shm-usage",
-                     "--window-size=1400,1000", "--user-data-dir=" + profile):
-        options.add_argument(argument)
-    options.set_capability("goog:loggingPrefs", {"browser": "ALL", "performance": "ALL"})
-    return webdriver.Chrome(service=Service("/usr/bin/chromedriver"), options=options)
-
-
-class PanelInABrowser(unittest.TestCase):
-    @classmethod
-    def setUpClass(cls):
-        cls.folder = tempfile.TemporaryDirectory(prefix="quvera-browser.")
-        cls.addClassCleanup(cls.folder.cleanup)
-        root = os.path.join(cls.folder.name, "root")
-        os.mkdir(root)
-        cls.desk = Desk(root)
-        cls.addClassCleanup(cls.desk.end)
-        cls.one = browser(os.path.join(cls.folder.name, "one"))
-        cls.addClassCleanup(cls.one.quit)
-        cls.one.get(cls.desk.address)
-        eventually(lambda: cls.count(cls.one) > 0, "no picture comes")
-
-    def setUp(self):
-        self.page = self.one
-        self.go_to("Setup", "Setup")  # which ends a measurement that runs
-        self.go_to("Menu", "Menu")
-
-    def go_to(self, title, key):
-        """By the key. A question on the way is answered with Quit; another dialog, and Memory, know no such key and are
-        left by F5."""
-        def step():
-            seen = self.screen().get_attribute("alt").partition(": ")[2]
-            if seen == title:
-                return True
-            before = self.count(self.page)
-            self.press("F4" if "Quit" in seen else "F5" if ". " in seen or seen.startswith("Memory") else key)
-            end = time.monotonic() + 3
-            while self.count(self.page) == before and time.monotonic() < end:
-                time.sleep(0.05)
-            return False
-        eventually(step, f"there is no way to {title}")
-
-    @staticmethod
-    def count(page):
-        return int(page.find_element(By.ID, "screen").get_attribute("data-count"))
-
-    def screen(self, page=None):
-        return (page or self.page).find_element(By.ID, "screen")
-
-    def key(self, name):
-        return self.page.find_element(By.CSS_SELECTOR, f'#front [data-key="{name}"]')
-
-    def press(self, *names):
-        for name in names:
-            self.key(name).click()
-
-    def type(self, *keys):
-        for key in keys:
-            ActionChains(self.page).send_keys(key).perform()
-
-    def title_becomes(self, title, page=None):
-        text = "Screen of the instrument: " + title
-        eventually(lambda: (self.screen(page).get_attribute("alt") or "").startswith(text),
-                   lambda: f"{title} is not shown, but {self.screen(page).get_attribute('alt')}")
-
-    def texts(self):
-        details = self.page.find_element(By.ID, "reading")
-        if not details.get_attribute("open"):
-            details.find_element(By.TAG_NAME, "summary").click()
-        return details.find_element(By.ID, "texts").get_property("textContent")
-
-    def control(self, name):
-        return eventually(lambda: self.page.find_elements(By.CSS_SELECTOR, f'[data-control="{name}"]'),
-                          f"no control {name}")[0]
-
-    def put(self, name, field, value):
-        """Moves a slider, or chooses a word, as a person's hand does: with its events."""
-        self.page.execute_script(
-            "arguments[0].value = arguments[1];"
-            "for (const kind of ['input', 'change']) arguments[0].dispatchEvent(new Event(kind, {bubbles: true}));",
-            self.control(name).find_element(By.NAME, field), value)
-
-    def stands(self, name, text):
-        def found():
-            shown = self.page.execute_script(
-                "return [...document.querySelectorAll('#standing div')].map((row) => [...row.children].map("
-                "(part) => part.textContent))")
-            return any(row[0] == name and text in row[1] for row in shown)
-        eventually(found, f"{name} does not become {text}")
-
+class PanelInABrowser(PanelCase):
     def test_keys_lead_to_the_pages_they_should(self):
         for key, title in (("Scope", "Scope"), ("Setup", "Setup"), ("Menu", "Menu"), ("Monitor", "Monitor"),
                            ("Memory", "Memory"), ("F5", "Monitor")):
             self.press(key)
             self.title_becomes(title)
 
+    def touch(self, *places):
+        """Fingers where there was none, or none where there were some."""
+        self.page.execute_cdp_cmd("Input.dispatchTouchEvent",
+                                  {"type": "touchStart" if places else "touchEnd", "touchPoints": list(places)})
+
+    def place_of(self, key):
+        return self.page.execute_script(
+            "const box = arguments[0].getBoundingClientRect();"
+            "return {x: box.x + box.width / 2, y: box.y + box.height / 2}", self.key(key))
+
+    def note_sent_keys(self):
+        """Returns what gives the keys that the page has sent since; the page is loaded anew behind the test."""
+        self.page.execute_script(
+            "window.sent = []; const real = window.fetch;"
+            "window.fetch = (path, wish) => { if (path === 'key') window.sent.push(JSON.parse(wish.body).key);"
+            "  return real(path, wish); }")
+        self.addCleanup(self.page.refresh)
+        return lambda: self.page.execute_script("return window.sent")
+
     def test_touch_presses_a_key(self):
-        place = self.page.execute_script(
-            "const box = document.querySelector('[data-key=Setup]').getBoundingClientRect();"
-            "return {x: box.x + box.width / 2, y: box.y + box.height / 2}")
-        self.page.execute_cdp_cmd("Input.dispatchTouchEvent", {"type": "touchStart", "touchPoints": [place]})
-        self.page.execute_cdp_cmd("Input.dispatchTouchEvent", {"type": "touchEnd", "touchPoints": []})
+        self.touch(self.place_of("Setup"))
+        self.touch()
         self.title_becomes("Setup")
+
+    def test_two_fingers_on_an_arrow_leave_nothing_behind(self):
+        sent = self.note_sent_keys()
+        place = self.place_of("Up")
+        self.touch(dict(place, id=0), dict(place, x=place["x"] + 4, id=1))
+        eventually(lambda: len(sent()) > 6, "the arrow does not come again")
+        self.touch()
+        time.sleep(0.5)  # what was on its way
+        before = len(sent())
+        time.sleep(1.5)  # longer than an arrow waits before it comes again
+        self.assertEqual(len(sent()), before)
+        self.assertEqual(set(sent()), {"Up"})
+
+    def test_held_enter_presses_a_button_once(self):
+        sent = self.note_sent_keys()
+        self.page.execute_script("arguments[0].focus()", self.key("Light"))
+        enter = {"key": "Enter", "code": "Enter", "windowsVirtualKeyCode": 13, "text": "\r"}
+        for repeats in (False, True, True, True):
+            self.page.execute_cdp_cmd("Input.dispatchKeyEvent", dict(enter, type="keyDown", autoRepeat=repeats))
+            time.sleep(0.2)
+        self.page.execute_cdp_cmd("Input.dispatchKeyEvent", dict(enter, type="keyUp"))
+        time.sleep(0.5)
+        self.assertEqual(sent(), ["Light"])
 
     def test_keys_of_a_keyboard_are_those_of_the_window(self):
         self.type(Keys.F9)
@@ -248,22 +128,16 @@ class PanelInABrowser(unittest.TestCase):
         self.title_becomes("Setup")
 
     def test_held_arrow_comes_again_and_a_held_key_once(self):
-        self.page.execute_script(
-            "window.sent = []; const real = window.fetch;"
-            "window.fetch = (path, wish) => { if (path === 'key') window.sent.push(JSON.parse(wish.body).key);"
-            "  return real(path, wish); }")
+        sent = self.note_sent_keys()
         for name in ("Light", "Right"):
             ActionChains(self.page).click_and_hold(self.key(name)).perform()
             if name == "Right":
-                eventually(lambda: self.page.execute_script("return window.sent.length") > 4, "the arrow does not come again")
+                eventually(lambda: len(sent()) > 4, "the arrow does not come again")
             else:
                 time.sleep(1.5)  # longer than an arrow waits before it comes again
             ActionChains(self.page).release().perform()
-        sent = self.page.execute_script("return window.sent")
-        self.assertEqual(sent.count("Light"), 1)
-        self.assertEqual(set(sent[1:]), {"Right"})
-        self.page.refresh()
-        self.title_becomes("Menu")
+        self.assertEqual(sent().count("Light"), 1)
+        self.assertEqual(set(sent()[1:]), {"Right"})
 
     def test_picture_changes_by_itself(self):
         self.press("Scope")
@@ -432,60 +306,16 @@ class PanelInABrowser(unittest.TestCase):
         self.title_becomes("Memory")
         self.title_becomes("Memory", two)
 
-    def test_instrument_ends_and_starts_behind_it(self):
-        start_again = self.desk.restart_instrument()
-        try:
-            self.verify_it_is_gone()
-        finally:
-            start_again()  # for the other tests, too
-        gone = self.page.find_element(By.ID, "gone")
-        eventually(lambda: not gone.is_displayed(), "the start goes unnoticed")
-        self.press("Setup")
-        self.title_becomes("Setup")
-
-    def verify_it_is_gone(self):
-        gone = self.page.find_element(By.ID, "gone")
-        eventually(gone.is_displayed, "the end goes unnoticed")
-        self.assertIn("does not answer", self.page.find_element(By.ID, "state").text)
-        self.assertIn("last picture", gone.text)
-        self.assertIn("grayscale", self.screen().value_of_css_property("filter"))  # no value looks as if it were of now
-        self.page.refresh()  # one who comes now is shown the same
-        eventually(lambda: "last picture" in self.page.find_element(By.ID, "gone").text,
-                   "the old picture passes for a new one")
-
-    def test_processor_ends_and_starts_behind_it(self):
-        self.desk.stop(self.desk.processor)
-        said = self.page.find_element(By.ID, "said")
-        eventually(lambda: said.text == "The processor stand-in does not answer", "the end goes unnoticed")
-        self.desk.processor = self.desk.begin("quvera-processor", "--scenario", "swell")
-        self.stands("Scenario", "swell")
-        eventually(lambda: said.text == "", "the start goes unnoticed")
-        self.put("frequency", "hertz", 51)
-        self.stands("Frequency", "51.0")
-
-    def test_panel_started_first_waits_for_its_instrument(self):
-        alone = os.path.join(self.folder.name, "alone")
-        os.mkdir(alone)
-        desk = Desk(alone, starts=False)
-        self.addCleanup(desk.end)
-        two = browser(os.path.join(self.folder.name, "waits"))
-        self.addCleanup(two.quit)
-        two.get(desk.address)
-        gone = two.find_element(By.ID, "gone")
-        eventually(lambda: "does not answer" in gone.text, "nothing is said")
-        self.assertNotIn("last picture", gone.text)
-        self.assertFalse(two.find_element(By.ID, "save").is_displayed())
-        desk.start()
-        self.title_becomes("Menu", two)
-        eventually(lambda: not gone.is_displayed(), "the start goes unnoticed")
-        eventually(lambda: two.find_elements(By.CSS_SELECTOR, '[data-control="dip"]'), "no controls come")
-
     def test_help_opens_the_guide(self):
         self.press("Setup")
         self.title_becomes("Setup")
         guide = self.desk.address + "guide/"
         link = self.page.find_element(By.ID, "help")
         eventually(lambda: link.get_attribute("href") == guide + "guide/pages.html#setup", "help is that of another page")
+        for key, section in (("F1", "wiring"), ("F5", "setup"), ("F4", "clamps-and-transformers"), ("F5", "setup")):
+            self.press(key)
+            eventually(lambda: link.get_attribute("href") == guide + "guide/pages.html#" + section,
+                       lambda: f"{section} is not opened, but {link.get_attribute('href')}")
         link.click()
         eventually(lambda: len(self.page.window_handles) == 2, "help opens nothing")
         panel = self.page.current_window_handle

@@ -23,6 +23,7 @@ private slots:
 
     void nothingIsNotedWithoutAWindow();
     void pageAndItsTitleAreNamed();
+    void subPageIsNamed();
     void textsStandInRowsAsTheyAreRead();
     void rowsAreNoNarrowerThanTheirLetters();
     void hiddenTextsAreNotNoted();
@@ -76,6 +77,19 @@ void TstScreenNotes::pageAndItsTitleAreNamed()
     QCOMPARE(note("Page"), QStringLiteral("QWidget"));
     QCOMPARE(note("Title"), QStringLiteral("Volts/Amps/ Hertz"));
     QVERIFY(!ScreenNotes::take().contains(QStringLiteral("Dialog")));
+}
+
+void TstScreenNotes::subPageIsNamed()
+{
+    QVERIFY(!ScreenNotes::take().contains(QStringLiteral("Part")));
+    auto *parts = new QStackedWidget(m_page);
+    QVERIFY(!ScreenNotes::take().contains(QStringLiteral("Part"))); // none was opened yet
+    parts->addWidget(new QListWidget);
+    parts->addWidget(new QDialog);
+    QCOMPARE(note("Part"), QStringLiteral("QListWidget"));
+    parts->setCurrentIndex(1);
+    QCOMPARE(note("Part"), QStringLiteral("QDialog"));
+    QCOMPARE(note("Page"), QStringLiteral("QWidget"));
 }
 
 void TstScreenNotes::textsStandInRowsAsTheyAreRead()

@@ -126,7 +126,7 @@ function makeControl(control) {
 
 async function buildControls() {
   built = true;
-  const controls = await (await fetch('controls')).json();
+  const controls = await (await fetch('controls', { signal: AbortSignal.timeout(answerTime) })).json();
   built = controls.length > 0;
   if (!built) return;
   const groups = new Map();

@@ -1,5 +1,5 @@
 'use strict';
-// Where the guide speaks of a page: by the name of its class, which comes with its picture.
+// Where the guide speaks of a page, or of a sub page: by the name of its class, which comes with its picture.
 const helpOfPage = {
   MenuPage: 'guide/pages.html#menu',
   VifPage: 'guide/pages.html#voltsampshertz',
@@ -13,6 +13,16 @@ const helpOfPage = {
   MonitorPage: 'user-guide.html#judge-a-supply',
   ScopePage: 'guide/pages.html#scope',
   SetupPage: 'guide/pages.html#setup',
+  SetupConfigPage: 'guide/pages.html#wiring',
+  SetupConfigEnterPage: 'guide/pages.html#wiring',
+  SetupClamps: 'guide/pages.html#clamps-and-transformers',
+  SetupLimits: 'guide/pages.html#limits',
+  SetupFunctions: 'guide/pages.html#functions',
+  SetupKFactor: 'guide/pages.html#functions',
+  SetupFlicker: 'guide/pages.html#functions',
+  SetupTransient: 'guide/pages.html#functions',
+  SetupInrush: 'guide/pages.html#functions',
+  SetupMainsSig: 'guide/pages.html#functions',
   MemoryPage: 'user-guide.html#what-was-saved-onto-a-usb-disk',
   Wave: 'user-guide.html#capture-waveforms',
   MainsSignaling: 'guide/pages.html#mains-signaling',
@@ -22,6 +32,6 @@ const helpOfPage = {
   UserPage: 'guide/pages.html#user',
 };
 
-function helpFor(page) {
-  return helpOfPage[page] || 'user-guide.html';
+function helpFor(page, part) {
+  return helpOfPage[part] || helpOfPage[page] || 'user-guide.html';
 }

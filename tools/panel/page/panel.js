@@ -9,15 +9,27 @@ const keysOfKeyboard = {
 };
 const repeated = new Set(['Up', 'Down', 'Left', 'Right']);
 const mostWaiting = 16;
+const answerTime = 2500; // ms; the processor stand-in has two seconds of them
+const latestKey = 1500; // ms, the panel's bound
+const longestSilence = 5000; // ms; the panel's beats come every two seconds
 let waiting = 0;
 let lastKey = Promise.resolve();
 let notes = {};
 let lasting = byId('state').textContent;
 let complaint = 0;
+let source = null;
+let patience = 0;
+let clockAhead = -Infinity; // of the panel's clock before the page's, ms
 
-async function post(path, wish) {
+// What waited too long is not done any more: the screen may have become another meanwhile.
+async function post(path, wish, from = performance.now()) {
+  if (performance.now() - from > latestKey) throw new Error('The key came too late');
+  const at = Number.isFinite(clockAhead) ? from + clockAhead : undefined;
   const answer = await fetch(path, {
-    method: 'POST', headers: { 'Content-Type': 'application/json' }, body: JSON.stringify(wish),
+    method: 'POST',
+    headers: { 'Content-Type': 'application/json' },
+    body: JSON.stringify({ ...wish, at }),
+    signal: AbortSignal.timeout(answerTime),
   }).catch(() => { throw new Error('The panel does not answer'); });
   if (!answer.ok) throw new Error((await answer.text()).trim() || answer.statusText);
 }
@@ -26,7 +38,8 @@ async function post(path, wish) {
 function pressKey(key) {
   if (waiting >= mostWaiting) return;
   waiting += 1;
-  lastKey = lastKey.then(() => post('key', { key })).catch((error) => complain(error.message)).finally(() => { waiting -= 1; });
+  const from = performance.now();
+  lastKey = lastKey.then(() => post('key', { key }, from)).catch((error) => complain(error.message)).finally(() => { waiting -= 1; });
 }
 
 function setText(element, text) {
@@ -49,6 +62,7 @@ function hold(button) {
   const key = button.dataset.key;
   pressKey(key);
   button.classList.add('pressed');
+  clearTimeout(button.repeat); // of another finger
   if (!repeated.has(key)) return;
   button.repeat = setTimeout(function again() {
     if (waiting === 0) pressKey(key);
@@ -88,6 +102,12 @@ document.addEventListener('keydown', (event) => {
   const key = keyOf(event);
   const target = event.target;
   // What has a use of its own for a key keeps it.
+  const button = target.closest('a, summary, button');
+  if (event.repeat && event.key === 'Enter' && button) {
+    // The browser would click again and again.
+    if (!repeated.has(button.dataset.key) || waiting > 0) event.preventDefault();
+    return;
+  }
   const own = event.key === 'Enter' ? 'a, summary, button, input, select' : 'input, select';
   if (!key || (target.closest(own) && !/^F\d/.test(event.key))) return;
   event.preventDefault();
@@ -127,7 +147,7 @@ function showScreen(screen) {
   byId('reading').hidden = !screen.Texts;
   if (screen.Texts && byId('reading').open) list(byId('texts'), screen.Texts.split('\n'));
   labelKeys(screen.Keys || '');
-  byId('help').href = `guide/${helpFor(screen.Page)}`;
+  byId('help').href = `guide/${helpFor(screen.Page, screen.Part)}`;
   notes = screen;
   sayWhatIsShown();
 }
@@ -148,19 +168,52 @@ function sayWhatIsShown() {
   setText(byId('gone').children[1], `${notes.png ? 'This is the last picture that came. ' : ''}The panel goes on asking.`);
 }
 
-function listen() {
-  const source = new EventSource('events');
-  source.addEventListener('screen', (event) => showScreen(JSON.parse(event.data)));
-  source.addEventListener('instrument', (event) => {
-    const state = JSON.parse(event.data);
-    showInstrument(state.there, 'The instrument does not answer');
-  });
-  source.addEventListener('supply', (event) => showSupply(JSON.parse(event.data)));
-  source.addEventListener('error', () => {
-    showInstrument(false, 'The panel does not answer');
-    // A browser tries again by itself while it was refused nothing.
-    if (source.readyState === EventSource.CLOSED) setTimeout(listen, 3000);
-  });
+function hangUp() {
+  clearTimeout(patience);
+  if (source) source.close();
 }
 
-listen();
+// A connection may be dead without an end, and a panel may stand still: who is silent for long does not answer.
+function expectNews() {
+  clearTimeout(patience);
+  patience = setTimeout(() => lose(false), longestSilence);
+}
+
+function listen() {
+  hangUp();
+  source = new EventSource('events');
+  clockAhead = -Infinity;
+  const hear = (name, show) => source.addEventListener(name, (event) => { expectNews(); show(JSON.parse(event.data)); });
+  hear('screen', showScreen);
+  hear('instrument', (state) => showInstrument(state.there, 'The instrument does not answer'));
+  hear('supply', showSupply);
+  // The beat that was least delayed tells best.
+  hear('beat', (beat) => { clockAhead = Math.max(clockAhead, beat.at - performance.now()); });
+  source.addEventListener('error', () => lose(source.readyState === EventSource.CLOSED));
+  expectNews();
+}
+
+async function whyRefused() {
+  const answer = await fetch('events', { signal: AbortSignal.timeout(answerTime) }).catch(() => null);
+  if (answer && !answer.ok) return (await answer.text()).trim();
+  if (answer) answer.body.cancel();
+  return '';
+}
+
+async function lose(refused) {
+  const lost = source;
+  hangUp();
+  patience = setTimeout(listen, 3000);
+  const why = refused ? await whyRefused() : '';
+  if (source === lost && !document.hidden) showInstrument(false, why || 'The panel does not answer');
+}
+
+// A browser has few connections for all its tabs: one that nobody sees keeps none.
+function listenWhileSeen() {
+  hangUp();
+  showInstrument(false, 'Waiting for the instrument');
+  if (!document.hidden) listen();
+}
+document.addEventListener('visibilitychange', listenWhileSeen);
+
+listenWhileSeen();
