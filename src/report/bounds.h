@@ -20,6 +20,11 @@ enum class Quantity : quint8 {
     Signal2
 };
 
+inline bool isSignal(Quantity quantity)
+{
+    return quantity == Quantity::Signal1 || quantity == Quantity::Signal2;
+}
+
 /// One quantity of one phase.
 struct QuantityKey
 {

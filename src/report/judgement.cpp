@@ -24,8 +24,7 @@ Outcome Judgement::outcomeOf(const EventCount &count) const
 
 bool Judgement::leavesOut() const
 {
-    const auto counts
-        = [](const auto &rest) { return rest.quantity != Quantity::Signal1 && rest.quantity != Quantity::Signal2; };
+    const auto counts = [](const auto &rest) { return !isSignal(rest.quantity); };
     return std::any_of(notJudged.begin(), notJudged.end(), counts) || std::any_of(gaps.begin(), gaps.end(), counts);
 }
 

@@ -50,11 +50,6 @@ constexpr Source kSources[] = {
     { "signalling", "U_signal2", Quantity::Signal2, 100, false, kThreeSeconds, true },
 };
 
-bool isSignal(Quantity quantity)
-{
-    return quantity == Quantity::Signal1 || quantity == Quantity::Signal2;
-}
-
 bool isUnbalance(Quantity quantity)
 {
     return quantity == Quantity::Unbalance || quantity == Quantity::ZeroUnbalance;

@@ -393,17 +393,29 @@ void TstPanelParts::refusalOfTheProcessorIsHandedOn()
     QCOMPARE(supply.obey(pull), QString());
 }
 
+namespace {
+
+/// The command line of a processor stand-in, on which a test answers itself.
+struct PlayedProcessor
+{
+    bool listens() { return QDir(folder.path()).mkdir("run") && server.listen(root() + "/run/processor.ctl"); }
+    QString root() const { return folder.path(); }
+
+    QTemporaryDir folder;
+    QLocalServer server;
+};
+
+} // namespace
+
 void TstPanelParts::answerInPiecesIsTakenWhole()
 {
-    QTemporaryDir root;
-    QVERIFY(QDir(root.path()).mkdir("run"));
-    QLocalServer processor;
-    QVERIFY(processor.listen(root.path() + "/run/processor.ctl"));
+    PlayedProcessor processor;
+    QVERIFY(processor.listens());
     QString answer;
     bool told = false;
-    std::thread asks([&] { told = ProcessorLine(root.path()).tell("help", &answer); });
-    bool came = processor.waitForNewConnection(kPatience);
-    QLocalSocket *line = processor.nextPendingConnection();
+    std::thread asks([&] { told = ProcessorLine(processor.root()).tell("help", &answer); });
+    bool came = processor.server.waitForNewConnection(kPatience);
+    QLocalSocket *line = processor.server.nextPendingConnection();
     for (const char *piece : { "  a line of help\n", "ok", " speed=1", "\n" }) {
         came = came && line->write(piece) > 0 && (line->flush() || line->waitForBytesWritten(kPatience));
         QTest::qWait(50);
@@ -415,15 +427,13 @@ void TstPanelParts::answerInPiecesIsTakenWhole()
 
 void TstPanelParts::answerBeyondTheBoundIsNone()
 {
-    QTemporaryDir root;
-    QVERIFY(QDir(root.path()).mkdir("run"));
-    QLocalServer processor;
-    QVERIFY(processor.listen(root.path() + "/run/processor.ctl"));
+    PlayedProcessor processor;
+    QVERIFY(processor.listens());
     QString answer;
     bool told = true;
-    std::thread asks([&] { told = ProcessorLine(root.path()).tell("help", &answer); });
-    const bool came = processor.waitForNewConnection(kPatience);
-    QLocalSocket *line = processor.nextPendingConnection();
+    std::thread asks([&] { told = ProcessorLine(processor.root()).tell("help", &answer); });
+    const bool came = processor.server.waitForNewConnection(kPatience);
+    QLocalSocket *line = processor.server.nextPendingConnection();
     if (came)
         line->write(QByteArray("  a line of help\n").repeated(20'000) + "ok\n");
     while (came && line->bytesToWrite() > 0 && line->waitForBytesWritten(kPatience)) { }
@@ -433,12 +443,10 @@ void TstPanelParts::answerBeyondTheBoundIsNone()
 
 void TstPanelParts::silentProcessorIsNotWaitedForEndlessly()
 {
-    QTemporaryDir root;
-    QVERIFY(QDir(root.path()).mkdir("run"));
-    QLocalServer processor;
-    QVERIFY(processor.listen(root.path() + "/run/processor.ctl"));
+    PlayedProcessor processor;
+    QVERIFY(processor.listens());
     QString answer;
-    QVERIFY(!ProcessorLine(root.path()).tell("status", &answer));
+    QVERIFY(!ProcessorLine(processor.root()).tell("status", &answer));
 }
 
 void TstPanelParts::supplyIsReportedWhileSomebodyLooks()
