@@ -30,9 +30,7 @@ constexpr BoardFile kBoardFiles[] = {
 };
 
 /// What the page takes from the stand-in's status.
-constexpr QLatin1String kShown[]
-    = { QLatin1String("scenario"), QLatin1String("speed"), QLatin1String("usb"),  QLatin1String("faults"),
-        QLatin1String("f"),        QLatin1String("volts"), QLatin1String("amps"), QLatin1String("hertz") };
+constexpr const char *kShown[] = { "scenario", "speed", "usb", "faults", "f", "volts", "amps", "hertz" };
 
 /// The last line of an answer.
 QString lastLine(const QString &answer)
