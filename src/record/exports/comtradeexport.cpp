@@ -197,18 +197,26 @@ bool ComtradeExport::endPart()
     return (isOpen && file.close()) || m_output.fail(name, file.reason());
 }
 
-QByteArray ComtradeExport::channelLine(int number) const
+QList<QByteArray> ComtradeExport::channelNames() const
+{
+    // Every name has to be there, and once.
+    const int channels = m_waveform.channels.size();
+    QSet<QByteArray> taken;
+    QList<QByteArray> names;
+    for (int i = 0; i < channels; ++i) {
+        const QByteArray given = field(QString::fromUtf8(m_waveform.channels[i].name)).replace('_', ' ');
+        QByteArray name = given;
+        for (int number = i + 1; name.isEmpty() || taken.contains(name); number += channels)
+            name = given.left(kMostText - 12) + '#' + QByteArray::number(number);
+        taken << name;
+        names << name;
+    }
+    return names;
+}
+
+QByteArray ComtradeExport::channelLine(int number, const QByteArray &name) const
 {
     const RecordedWaveform::Channel &channel = m_waveform.channels[number - 1];
-    // Every name has to be there, and once.
-    QSet<QByteArray> taken;
-    QByteArray name;
-    for (int i = 0; i < number; ++i) {
-        name = field(QString::fromUtf8(m_waveform.channels[i].name)).replace('_', ' ');
-        if (name.isEmpty() || taken.contains(name))
-            name = name.left(kMostText - 8) + '#' + QByteArray::number(i + 1);
-        taken << name;
-    }
     const bool isVoltage = channel.name.startsWith('U');
     const QString &ratio = isVoltage && channel.channel == "N" ? m_facts.ratioN : m_facts.ratio;
     const QByteArray line = QByteArray::number(number) + ',' + name + ',' + phaseOf(channel.channel) + ",,"
@@ -227,8 +235,9 @@ QByteArray ComtradeExport::configuration() const
     const QString station = m_facts.model.isEmpty() ? m_input : m_facts.model;
     QList<QByteArray> lines { field(station) + ',' + field(m_facts.serialNumber) + ",2013",
                               QByteArray::number(channels) + ',' + QByteArray::number(channels) + "A,0D" };
-    for (int i = 1; i <= channels; ++i)
-        lines << channelLine(i);
+    const QList<QByteArray> names = channelNames();
+    for (int i = 0; i < channels; ++i)
+        lines << channelLine(i + 1, names[i]);
     const double frequency = m_facts.nominalFrequency;
     lines << number(frequency > 0 && frequency < 1e6 ? frequency : 50) << "1"
           << number(m_waveform.sampleRate) + ',' + QByteArray::number(m_now.samples) << timeLine(start)

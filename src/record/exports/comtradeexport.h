@@ -38,7 +38,8 @@ private:
     bool endPart();
     void writeSample(const qint16 *sample);
     QByteArray configuration() const;
-    QByteArray channelLine(int number) const;
+    QList<QByteArray> channelNames() const;
+    QByteArray channelLine(int number, const QByteArray &name) const;
 
     Output m_output;
     const QString m_input; // name of the file or folder that is read

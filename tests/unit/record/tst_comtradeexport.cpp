@@ -80,6 +80,7 @@ private slots:
     void unusableWaveformHasNoPair_data();
     void unusableWaveformHasNoPair();
     void namesKeepFieldsAndLettersOfTheFormat();
+    void nameThatAnotherChannelHasIsNumberedUntilItIsAlone();
     void stationWithoutAModelIsTheFolderWhereOneStands();
     void ratiosOfTransformersAreTold_data();
     void ratiosOfTransformersAreTold();
@@ -351,6 +352,18 @@ void TstComtradeExport::namesKeepFieldsAndLettersOfTheFormat()
     QCOMPARE(read.channels[1].unit, QByteArray("kV"));
     QCOMPARE(read.channels[2].unit, QByteArray("NONE"));
     QCOMPARE(read.channels[3].phase, QByteArray());
+}
+
+void TstComtradeExport::nameThatAnotherChannelHasIsNumberedUntilItIsAlone()
+{
+    const QByteArray longName(70, 'L');
+    QVERIFY(write({ waveformOf({ "Q#3", "Q", "Q", "Q", longName, longName }, 10240) }, { 1, 2, 3, 4, 5, 6 }));
+    const Pair read = pair("0001_event");
+    QCOMPARE(read.fault, QString());
+    QList<QByteArray> names;
+    for (const ComtradeReading::Channel &channel : read.channels)
+        names << channel.id;
+    QCOMPARE(names, (QList<QByteArray> { "Q#3", "Q", "Q#9", "Q#4", longName.left(64), longName.left(52) + "#6" }));
 }
 
 void TstComtradeExport::stationWithoutAModelIsTheFolderWhereOneStands()
