@@ -13,7 +13,7 @@ configure release
 build "$top/build" quvera quvera-processor quvera-remote quvera-files
 configure armhf
 (cd "$top" && cmake --build --preset armhf --parallel "${QUVERA_JOBS:-$(nproc)}") >&2 || die "the build for the board failed"
-python3 "$here/check.py" --sysroot "$QUVERA_SYSROOT" --arm "$top/build/armhf/bin" --desk "$top/build/bin"
+/usr/bin/python3 "$here/check.py" --sysroot "$QUVERA_SYSROOT" --arm "$top/build/armhf/bin" --desk "$top/build/bin"
 
 programs="quvera quvera-processor quvera-remote quvera-files quvera-panel quvera-gallery make-update update-unpack"
 version=$(sed -n 's/^project(quvera VERSION \([0-9.]*\).*/\1/p' "$top/CMakeLists.txt")
