@@ -184,6 +184,7 @@ if [ -z "$no_panel" ]; then
     if [ -s "$panel_address" ]; then
         say "In a browser: $(cat "$panel_address")"
     else
+        kill "$panel" 2>/dev/null # one that is only late would stay behind
         panel=
         say "The panel for browsers did not start; the instrument runs without it."
     fi

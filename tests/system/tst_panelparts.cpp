@@ -24,7 +24,9 @@
 
 #include <future>
 #include <netinet/tcp.h>
+#include <sys/socket.h>
 #include <thread>
+#include <unistd.h>
 
 using namespace panel;
 
@@ -41,6 +43,7 @@ private slots:
     void readersAreCountedWhileTheyLive();
     void whetherTheInstrumentIsThereIsNotKnownWhileNobodyLooks();
     void peerThatIsGoneWithoutAWordIsGivenUp();
+    void answerThatNobodyTakesEnds();
     void closedBulletinLetsEveryoneGo();
     void portEightyNeedsNoNumber();
     void cookieIsFoundAmongOthersOnly();
@@ -54,6 +57,7 @@ private slots:
     void notesOfAPictureAreReadAsTheyWereWritten();
     void damagedPicturesHaveFewerNotes();
     void notesAreBounded();
+    void noteOfOneSignIsRead();
     void packedNoteBeyondLatinIsRead();
     void refusalOfTheProcessorIsHandedOn();
     void answerInPiecesIsTakenWhole();
@@ -136,6 +140,22 @@ void TstPanelParts::peerThatIsGoneWithoutAWordIsGivenUp()
         QVERIFY2(ms > 0 && ms <= 30'000, qPrintable(QString::number(ms)));
     }
     ::close(kept);
+}
+
+// A peer that takes nothing would otherwise keep its thread for ever.
+void TstPanelParts::answerThatNobodyTakesEnds()
+{
+    int ends[2];
+    QCOMPARE(::socketpair(AF_UNIX, SOCK_STREAM, 0, ends), 0);
+    {
+        Connection connection(ends[0]);
+        const std::string bytes(64 * 1024, 'x');
+        while (connection.write(bytes.data(), bytes.size()) > 0) { }
+        QVERIFY(!connection.is_writable());
+        connection.beginPiece();
+        QVERIFY(connection.is_writable());
+    }
+    ::close(ends[1]);
 }
 
 void TstPanelParts::closedBulletinLetsEveryoneGo()
@@ -366,6 +386,14 @@ void TstPanelParts::notesAreBounded()
     QCOMPARE(notes.size(), 32);
     QVERIFY(!notes.contains("Long"));
     QCOMPARE(notes.value("0").toString(), QString("one"));
+}
+
+void TstPanelParts::noteOfOneSignIsRead()
+{
+    const QByteArray png = "\x89PNG\r\n\x1a\n" + chunkOf("tEXt", QByteArray("Title\0A", 7));
+    QCOMPARE(notesOf(png).value("Title").toString(), QString("A"));
+    for (const char *kind : { "tEXt", "zTXt", "iTXt" })
+        QVERIFY(notesOf("\x89PNG\r\n\x1a\n" + chunkOf(kind, QByteArray("Title\0", 6))).isEmpty());
 }
 
 void TstPanelParts::packedNoteBeyondLatinIsRead()

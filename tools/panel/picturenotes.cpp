@@ -35,7 +35,7 @@ QByteArray behindFields(const QByteArray &bytes, int fields)
 void addNote(const QByteArray &kind, const QByteArray &chunk, QJsonObject *notes)
 {
     const int end = chunk.indexOf('\0');
-    if (end < 1 || end + 3 > chunk.size())
+    if (end < 1 || end + 2 > chunk.size())
         return;
     const QString key = QString::fromLatin1(chunk.left(end));
     if (kind == "tEXt")

@@ -50,7 +50,13 @@ class Desk:
     def start(self):
         self.processor = self.begin("quvera-processor", "--scenario", "nominal")
         eventually(lambda: os.path.exists(self.root + "/dev/mcasp"), "the processor does not start")
+        self.start_instrument()
+
+    def start_instrument(self):
         self.instrument = self.begin("quvera")
+
+    def end_instrument(self):
+        self.stop(self.instrument)
 
     def begin(self, name, *arguments, output=None):
         log = open(os.path.join(self.root, name + ".log"), "ab")
@@ -62,10 +68,6 @@ class Desk:
         """The program and the address that it prints."""
         panel = self.begin("quvera-panel", "--port", "0", *arguments, output=subprocess.PIPE)
         return panel, panel.stdout.readline().decode().strip()
-
-    def restart_instrument(self):
-        self.stop(self.instrument)
-        return lambda: setattr(self, "instrument", self.begin("quvera"))
 
     @staticmethod
     def stop(process):

@@ -97,6 +97,39 @@ class PanelInABrowser(PanelCase):
         time.sleep(0.5)
         self.assertEqual(sent(), ["Light"])
 
+    def test_held_key_of_the_keyboard_counts_once_and_a_held_arrow_comes_again(self):
+        sent = self.note_sent_keys()
+        self.page.execute_script("document.getElementById('glass').focus()")
+        for key, code in (("F12", 123), ("ArrowUp", 38)):
+            stroke = {"key": key, "code": key, "windowsVirtualKeyCode": code}
+            for repeats in (False, True, True, True):
+                self.page.execute_cdp_cmd("Input.dispatchKeyEvent", dict(stroke, type="keyDown", autoRepeat=repeats))
+                eventually(lambda: self.page.execute_script("return waiting") == 0, "no key is taken")
+            self.page.execute_cdp_cmd("Input.dispatchKeyEvent", dict(stroke, type="keyUp"))
+        self.assertEqual(sent(), ["Light", "Up", "Up", "Up", "Up"])
+
+    def test_escape_leaves_no_button_pressed_behind_a_question_that_it_ended(self):
+        pressed = self.page.execute_script(
+            "const stroke = (kind) => document.body.dispatchEvent(new KeyboardEvent(kind, {key: 'Escape', code: 'Escape', bubbles: true}));"
+            "const pressed = () => [...document.querySelectorAll('#front .pressed')].map((button) => button.dataset.key);"
+            "notes = {...notes, Dialog: 'Quit?'}; stroke('keydown'); const before = pressed();"
+            "notes = {...notes, Dialog: ''}; stroke('keyup'); return [before, pressed()]")
+        self.assertEqual(pressed, [["F5"], []])
+
+    def test_keys_count_in_a_page_that_was_open_while_two_clocks_drifted_apart(self):
+        self.addCleanup(self.page.refresh)
+        eventually(lambda: self.page.execute_script("return Number.isFinite(clockAhead)"), "no beat comes")
+        # The beats of a day, and the 70 millionths by which the page's clock may be faster.
+        self.page.execute_script(
+            "const now = clockAhead, beats = 43200, drift = 6000;"
+            "clockAhead += drift;"
+            "for (let beat = 1; beat <= beats; ++beat) {"
+            "  const at = performance.now() + now + drift * (1 - beat / beats);"
+            "  source.dispatchEvent(new MessageEvent('beat', {data: JSON.stringify({at})}));"
+            "}")
+        self.press("Setup")
+        self.title_becomes("Setup")
+
     def test_keys_of_a_keyboard_are_those_of_the_window(self):
         self.type(Keys.F9)
         self.title_becomes("Setup")
@@ -154,7 +187,8 @@ class PanelInABrowser(PanelCase):
         self.assertEqual(self.key("F1").accessible_name, "F1: Config")
 
     def test_button_makes_a_dip_that_the_event_list_shows(self):
-        self.desk.restart_instrument()()  # its menu begins at Volts/Amps/Hertz, above Dips&Swells
+        self.desk.end_instrument()
+        self.desk.start_instrument()  # its menu begins at Volts/Amps/Hertz, above Dips&Swells
         self.title_becomes("Menu")
         eventually(lambda: not self.page.find_element(By.ID, "gone").is_displayed(), "the start goes unnoticed")
         self.press("Down", "Enter")

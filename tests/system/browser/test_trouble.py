@@ -17,11 +17,11 @@ from panelcase import Desk, PanelCase, browser, eventually
 
 class PanelInTrouble(PanelCase):
     def test_instrument_ends_and_starts_behind_it(self):
-        start_again = self.desk.restart_instrument()
+        self.desk.end_instrument()
         try:
             self.verify_it_is_gone()
         finally:
-            start_again()  # for the other tests, too
+            self.desk.start_instrument()  # for the other tests, too
         gone = self.page.find_element(By.ID, "gone")
         eventually(lambda: not gone.is_displayed(), "the start goes unnoticed")
         self.press("Setup")

@@ -8,10 +8,12 @@ const keysOfKeyboard = {
   F11: 'Save', F12: 'Light',
 };
 const repeated = new Set(['Up', 'Down', 'Left', 'Right']);
+const held = new Map(); // the button of each key of the keyboard that is down: what Escape is may change meanwhile
 const mostWaiting = 16;
 const answerTime = 2500; // ms; the processor stand-in has two seconds of them
 const latestKey = 1500; // ms, the panel's bound
 const longestSilence = 5000; // ms; the panel's beats come every two seconds
+const driftOfABeat = 1; // ms; more than any two clocks drift apart from one beat to the next
 let waiting = 0;
 let lastKey = Promise.resolve();
 let notes = {};
@@ -113,10 +115,12 @@ document.addEventListener('keydown', (event) => {
   event.preventDefault();
   if (event.repeat && (!repeated.has(key) || waiting > 0)) return;
   pressKey(key);
+  held.set(event.code, buttonOf(key));
   buttonOf(key).classList.add('pressed');
 });
 document.addEventListener('keyup', (event) => {
-  for (const button of document.querySelectorAll('#front .pressed')) if (button.dataset.key === keyOf(event)) release(button);
+  if (held.has(event.code)) release(held.get(event.code));
+  held.delete(event.code);
 });
 window.addEventListener('blur', () => document.querySelectorAll('#front .pressed').forEach(release));
 
@@ -187,8 +191,8 @@ function listen() {
   hear('screen', showScreen);
   hear('instrument', (state) => showInstrument(state.there, 'The instrument does not answer'));
   hear('supply', showSupply);
-  // The beat that was least delayed tells best.
-  hear('beat', (beat) => { clockAhead = Math.max(clockAhead, beat.at - performance.now()); });
+  // The beat that was least delayed tells best, but not for ever: a page may be open for weeks, and clocks drift.
+  hear('beat', (beat) => { clockAhead = Math.max(clockAhead - driftOfABeat, beat.at - performance.now()); });
   source.addEventListener('error', () => lose(source.readyState === EventSource.CLOSED));
   expectNews();
 }
