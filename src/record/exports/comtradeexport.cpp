@@ -30,10 +30,9 @@ QByteArray field(const QString &text)
     return AsciiText::of(text, kMostText).replace(',', ' ');
 }
 
-QByteArray timeLine(double ms)
+/// `time` in us since 1970.
+QByteArray timeLine(qint64 time)
 {
-    // Whole microseconds first, so that rounding never shows a second of 60.
-    const qint64 time = isCalendarTime(ms) ? qint64(std::llround(ms * 1e3)) : 0;
     const qint64 perSecond = qint64(kMicroseconds);
     const QDateTime second = QDateTime::fromSecsSinceEpoch(time / perSecond, Qt::UTC);
     return QLocale::c().toString(second, QStringLiteral("dd/MM/yyyy,HH:mm:ss")).toLatin1() + '.'
@@ -228,8 +227,10 @@ QByteArray ComtradeExport::channelLine(int number, const QByteArray &name) const
 QByteArray ComtradeExport::configuration() const
 {
     const int channels = m_waveform.channels.size();
-    const double period = 1e3 / m_waveform.sampleRate; // ms
-    const double start = m_waveform.start + double(m_now.first) * period;
+    const double period = kMicroseconds / m_waveform.sampleRate; // us
+    const double begin = m_waveform.start + double(m_now.first) * period / 1e3; // ms
+    const bool hasTime = isCalendarTime(begin) && isCalendarTime(begin + kMostStamp / 1e3);
+    const qint64 start = hasTime ? std::llround(begin * 1e3) : 0;
     const qint64 trigger = qBound(qint64(0), m_waveform.trigger - m_now.first, m_now.samples - 1);
     // A capture does not say what took it.
     const QString station = m_facts.model.isEmpty() ? m_input : m_facts.model;
@@ -240,12 +241,14 @@ QByteArray ComtradeExport::configuration() const
         lines << channelLine(i + 1, names[i]);
     const double frequency = m_facts.nominalFrequency;
     lines << number(frequency > 0 && frequency < 1e6 ? frequency : 50) << "1"
-          << number(m_waveform.sampleRate) + ',' + QByteArray::number(m_now.samples) << timeLine(start)
-          << timeLine(start + double(trigger) * period) << "BINARY"
+          << number(m_waveform.sampleRate) + ',' + QByteArray::number(m_now.samples)
+          << timeLine(start)
+          // In whole microseconds: far from 1970 a sum in milliseconds would have lost some.
+          << timeLine(start + std::llround(double(trigger) * period)) << "BINARY"
           << "1"
           // The times are UTC; which zone the instrument stood in is not recorded.
           << "0,0"
           // The clock is set by hand or by a network: what it is good for is not known.
-          << (isCalendarTime(start) ? "B,3" : "F,3");
+          << (hasTime ? "B,3" : "F,3");
     return lines.join("\r\n") + "\r\n";
 }

@@ -74,6 +74,7 @@ private slots:
     void smallestFactorIsKept();
     void longWaveformIsSplitBeforeItsStampsOverflow();
     void triggerStaysInItsPart();
+    void triggerStaysInTheRecordFarFrom1970();
     void timesAreRoundedToMicroseconds();
     void timeOutsideTheCalendarIsMarked_data();
     void timeOutsideTheCalendarIsMarked();
@@ -289,6 +290,19 @@ void TstComtradeExport::timesAreRoundedToMicroseconds()
     QCOMPARE(pair("0001_event").start, qint64(kStart) * 1000 + 60000000);
 }
 
+void TstComtradeExport::triggerStaysInTheRecordFarFrom1970()
+{
+    RecordedWaveform waveform = waveformOf({ "U_L1" }, 219.974632);
+    waveform.trigger = 47;
+    for (int i = 0; i < 20; ++i) {
+        waveform.start = 52782000000000.0 + i / 128.0; // in the year 3642, where a double knows times to 1/128 ms
+        QVERIFY(write({ waveform }, QVector<qint16>(48)));
+        const Pair read = pair("0001_event");
+        QCOMPARE(read.fault, QString());
+        QCOMPARE(read.trigger - read.start, 213661LL); // 47 / 219.974632 s
+    }
+}
+
 void TstComtradeExport::timeOutsideTheCalendarIsMarked_data()
 {
     QTest::addColumn<double>("start");
@@ -297,6 +311,7 @@ void TstComtradeExport::timeOutsideTheCalendarIsMarked_data()
     QTest::newRow("before 1970") << -1.0;
     QTest::newRow("huge") << 1e300;
     QTest::newRow("year 10000") << 253402300800000.0;
+    QTest::newRow("reaching into the year 10000") << 253402300798000.0;
 }
 
 void TstComtradeExport::timeOutsideTheCalendarIsMarked()
