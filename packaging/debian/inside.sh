@@ -96,27 +96,40 @@ say "it runs on under a watchdog of 10 s, and is started anew when it stands sti
 
 # A disk that is mounted below /run/media while the service runs: its user sees it and may write there. What stands for the
 # partition is a file system in memory; the script's own way with a device needs one.
-mkdir -p /run/media/sdz1
-mount -t tmpfs -o uid=quvera,gid=quvera,mode=755,nosuid,nodev,noexec tmpfs /run/media/sdz1
-process=$(main_process)
-nsenter --target "$process" --mount -- runuser -u quvera -- /bin/sh -c 'echo mark >/run/media/sdz1/mark' || fail "no writing to a disk"
-[ "$(cat /run/media/sdz1/mark)" = mark ] || fail "what the program wrote is not on the disk"
-/usr/lib/quvera/scripts/usb-disk unmount sdz1 quvera || fail "the disk cannot be taken away"
-[ ! -e /run/media/sdz1 ] || fail "the disk stayed in the list"
-! nsenter --target "$process" --mount -- test -e /run/media/sdz1 || fail "the program still sees the disk"
-systemd-analyze verify /lib/systemd/system/quvera-usb@sdz1.service || fail "the unit of the disks"
-say "a disk mounted below /run/media is the program's to write, and goes"
+shows_disks()
+{
+    mkdir -p /run/media/sdz1
+    mount -t tmpfs -o uid=quvera,gid=quvera,mode=755,nosuid,nodev,noexec tmpfs /run/media/sdz1
+    process=$(main_process)
+    nsenter --target "$process" --mount -- runuser -u quvera -- /bin/sh -c 'echo mark >/run/media/sdz1/mark' || fail "no writing to a disk"
+    [ "$(cat /run/media/sdz1/mark)" = mark ] || fail "what the program wrote is not on the disk"
+    /usr/lib/quvera/scripts/usb-disk unmount sdz1 quvera || fail "the disk cannot be taken away"
+    [ ! -e /run/media/sdz1 ] || fail "the disk stayed in the list"
+    ! nsenter --target "$process" --mount -- test -e /run/media/sdz1 || fail "the program still sees the disk"
+    systemd-analyze verify /lib/systemd/system/quvera-usb@sdz1.service || fail "the unit of the disks"
+    say "a disk mounted below /run/media is the program's to write, and goes"
+}
 
 # A lost wireless network ends its DHCP client: the program's command line, among the processes that its user sees.
-client() { pgrep -u quvera -f '^udhcpc -i wlan0'; }
-no_client() { ! client; }
-runuser -u quvera -- bash -c 'exec -a "udhcpc -i wlan0" sleep 1000' &
-wait_for client || fail "no stand-in of the DHCP client"
-# shellcheck disable=SC2016  # for the shell that runs it
-nsenter --target "$process" --mount -- runuser -u quvera -- env PATH="/usr/lib/quvera/scripts:$PATH" \
-    sh -c 'ps | grep "udhcpc -i wlan0" | awk '\''{print $1}'\'' | xargs kill -9' >/dev/null 2>&1 || true
-wait_for no_client || fail "the DHCP client of a lost network runs on"
-say "the DHCP client of a lost wireless network is ended"
+ends_the_dhcp_client()
+{
+    client() { pgrep -u quvera -f '^udhcpc -i wlan0'; }
+    no_client() { ! client; }
+    runuser -u quvera -- bash -c 'exec -a "udhcpc -i wlan0" sleep 1000' &
+    wait_for client || fail "no stand-in of the DHCP client"
+    # shellcheck disable=SC2016  # for the shell that runs it
+    nsenter --target "$process" --mount -- runuser -u quvera -- env PATH="/usr/lib/quvera/scripts:$PATH" \
+        sh -c 'ps | grep "udhcpc -i wlan0" | awk '\''{print $1}'\'' | xargs kill -9' >/dev/null 2>&1 || true
+    wait_for no_client || fail "the DHCP client of a lost network runs on"
+    say "the DHCP client of a lost wireless network is ended"
+}
+
+if [ -e /packages/emulated ]; then
+    say "(disks and the DHCP client are not tried: the emulator enters no other program's mounts)"
+else
+    shows_disks
+    ends_the_dhcp_client
+fi
 
 quvera-remote key Setup >/dev/null
 for file in /mnt/userfs/config/user.conf /mnt/storage/recorded; do
@@ -133,12 +146,16 @@ runuser -u quvera -- env QUVERA_UPDATE_KIND=software update-unpack /packages/Sof
 [ "$(readlink /opt/quvera/current)" = versions/99999 ] || fail "the update is not in its place"
 systemctl restart quvera.service
 wait_for answers || fail "it does not answer after the update"
-running=$(readlink "/proc/$(systemctl show -p MainPID --value quvera.service)/exe")
-[ "$running" = /opt/quvera/versions/99999/bin/quvera ] || fail "the service runs $running"
+# By what it has mapped: the program of an emulated process is the emulator.
+grep -q ' /opt/quvera/versions/99999/bin/quvera$' "/proc/$(main_process)/maps" || fail "the service runs something else"
 say "updated by the instrument's user: $first -> versions/99999"
 first=versions/99999
 
+# An update is being written meanwhile.
+runuser -u quvera -- flock /opt/quvera/.lock sh -c 'echo held >/tmp/update.lock; sleep 5; echo ended >/tmp/update.lock' &
+wait_for test -s /tmp/update.lock
 dpkg -i /packages/next.deb >&2
+[ "$(cat /tmp/update.lock)" = ended ] || fail "the upgrade did not wait for an update that is being written"
 wait_for answers || fail "it does not answer after the upgrade"
 grep -q mark=1 /mnt/userfs/config/user.conf && grep -q mark=1 /mnt/storage/recorded || fail "the upgrade lost settings"
 [ "$(readlink /opt/quvera/current)" != "$first" ] && [ "$(readlink /opt/quvera/previous)" = "$first" ] || fail "the versions"

@@ -1,25 +1,44 @@
 #!/bin/bash
-# packaging/debian/test.sh [--once] [FOLDER]: builds the packages twice, from two folders, with the cache of compilations
-# and without it, and asks whether they are the same to the byte; has them looked at by lintian; makes an update of them
-# and installs it on a desk; then installs, runs, updates, upgrades, removes and purges them in a fresh Debian 12 that
-# boots in a container of its own. --once builds them once and compares nothing. As root; needs debootstrap,
-# systemd-container, lintian. FOLDER keeps the packages and what was seen (default: build/packages).
+# packaging/debian/test.sh [--once|--board] [FOLDER]: builds the packages twice, from two folders, with the cache of
+# compilations and without it, and asks whether they are the same to the byte; has them looked at by lintian; makes an
+# update of them and installs it on a desk; then installs, runs, updates, upgrades, removes and purges them in a fresh
+# Debian 12 that boots in a container of its own. --once builds them once and compares nothing; --board does so with the
+# board's packages, which run by an emulator. As root; needs debootstrap, systemd-container, lintian. FOLDER keeps the
+# packages and what was seen (default: build/packages, of the board build/packages-armhf).
 set -eu
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 . "$top/packaging/common.sh"
 here=$top/packaging/debian
 once=
-case "${1:-}" in -h|--help) sed -n '2,6s/^# //p' "$0"; exit 0 ;; esac
-[ "${1:-}" != --once ] || { once=yes; shift; }
-out=${1:-$top/build/packages}
+architecture=$(dpkg --print-architecture)
+packages=$here/build
+out=$top/build/packages
+case "${1:-}" in
+-h|--help) sed -n '2,7s/^# //p' "$0"; exit 0 ;;
+--once) once=yes; shift ;;
+--board)
+    once=yes
+    architecture=armhf
+    packages=$top/packaging/armhf/packages
+    out=$top/build/packages-armhf
+    # The emulator takes the board's libraries from there for what runs outside the container.
+    export QUVERA_SYSROOT=${QUVERA_SYSROOT:-$top/build/armhf-sysroot}
+    export QEMU_LD_PREFIX=$QUVERA_SYSROOT
+    shift
+    ;;
+esac
+out=${1:-$out}
 [ "$(id -u)" -eq 0 ] || die "run it as root, which a fresh Debian and its container take"
 install_packages debian/debian-packages.txt
+[ "$packages" = "$here/build" ] || install_packages armhf/debian-packages.txt
+[ "$packages" = "$here/build" ] || [ -e /proc/sys/fs/binfmt_misc/qemu-arm ] ||
+    die "this machine does not run programs of the board; have it do so by: update-binfmts --enable qemu-arm"
 mkdir -p "$out"
 out=$(cd "$out" && pwd)
 rm -rf "$out/first" "$out"/*.log "$out/seen" "$out/errors" "$out/menu.png"
 
-say "1. Two builds from two folders"
-"$here/build" "$out/first" >"$out/build.log" 2>&1 || die "the build failed: $out/build.log"
+say "1. The packages"
+"$packages" "$out/first" >"$out/build.log" 2>&1 || die "the build failed: $out/build.log"
 if [ -z "$once" ]; then
     # Debian's flags hide a folder's name from the debug information only where it has no unusual characters.
     CCACHE_DISABLE=1 "$here/build" "$out/elsewhere/deeper" >"$out/build2.log" 2>&1 ||
@@ -54,7 +73,7 @@ say "4. A fresh Debian 12"
 root=$out/root
 rm -rf "$root"
 if [ ! -d "$out/fresh" ]; then
-    debootstrap --variant=minbase --include=systemd,systemd-sysv,dbus,udev,iproute2,procps,python3-minimal bookworm \
+    debootstrap --arch="$architecture" --variant=minbase --include=systemd,systemd-sysv,dbus,udev,iproute2,procps,python3-minimal bookworm \
         "$out/fresh.new" >"$out/debootstrap.log" 2>&1 || die "no fresh root: $out/debootstrap.log"
     mv "$out/fresh.new" "$out/fresh"
 fi
@@ -79,6 +98,7 @@ container env SYSTEMD_COLORS=0 SYSTEMD_URLIFY=0 SYSTEMD_EMOJI=0 \
     systemd-analyze security --offline=true --no-pager quvera.service 2>/dev/null | tail -n 1 >&2
 
 cp "$here/inside.sh" "$root/packages/inside.sh"
+[ "$packages" = "$here/build" ] || touch "$root/packages/emulated"
 cat >"$root/etc/systemd/system/packages-check.service" <<EOF
 [Unit]
 After=multi-user.target
