@@ -61,7 +61,7 @@ void PqaFile::open()
 {
     m_file = std::make_unique<QFile>(Target::path(dataPath()));
     m_file->remove();
-    m_opened = m_file->open(QIODevice::ReadWrite) && m_file->seek(0);
+    m_opened = m_file->open(QIODevice::ReadWrite);
 }
 
 void PqaFile::initFileHeader(int winId, const Derived &setUp)

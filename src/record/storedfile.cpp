@@ -33,7 +33,7 @@ bool StoredFile::open(const QString &name, const QDateTime &localTime)
     }
     m_name = name;
     m_flushed = Clock::elapsed();
-    RunJournal::instance().begin(name, before == name ? QString() : before);
+    RunJournal::instance().begin(name, before);
     FileInfo().saveInfoBehind(name, localTime);
     return true;
 }

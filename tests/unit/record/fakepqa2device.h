@@ -24,6 +24,8 @@ public:
         int failingWrites = 1; // so many in a row
         int bytesTaken = -1; // bytes that a failing write takes; -1: the call fails as such
         bool resizeFails = false;
+        int seekNumber = 0; // of the seek that comes next, from 0
+        int failingSeek = INT_MAX; // this one and none other fails
         qint64 skipped = 0; // bytes that a place in the file lies ahead of its place in memory
     };
 
@@ -33,6 +35,7 @@ public:
     {
         m_state->calls << QStringLiteral("open");
         m_state->content.clear();
+        m_pos = 0;
         return m_state->opens;
     }
     void close() override { m_state->calls << QStringLiteral("close"); }
@@ -49,6 +52,8 @@ public:
     bool seek(qint64 position) override
     {
         m_state->calls << QStringLiteral("seek %1").arg(position);
+        if (m_state->seekNumber++ == m_state->failingSeek)
+            return false;
         m_pos = position;
         return true;
     }

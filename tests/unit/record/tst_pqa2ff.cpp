@@ -320,6 +320,8 @@ void TstPqa2FF::reopeningTruncates()
     writeRun(file, 2);
     file.close();
     QVERIFY(isRun(readBlocks(fileBytes(path)), 2, 2));
+    QVERIFY(file.open("/mnt/storage/other.pqa2"));
+    QCOMPARE(file.fileName(), QStringLiteral("other.pqa2"));
 }
 
 void TstPqa2FF::blockNeedsFiveMegabytes()

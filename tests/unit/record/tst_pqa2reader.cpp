@@ -112,6 +112,12 @@ private slots:
     void everyFlippedBitEndsInAState();
     void fileMadeToMisleadEndsInTime();
     void fileThatShrinksWhileItIsReadEndsInAState();
+    void fileThatShrinksWhileItIsSearchedEnds();
+    void deviceThatIsClosedMeanwhileGivesNothing();
+    void deviceWithoutPlacesIsUnreadable();
+    void viewIsBoundedAndReachesBack();
+    void blocksInsideAWideGapAreFoundWhenItsLinkIsWrong();
+    void blocksBehindAHoleAreFound();
     void offsetsBeyondTwoGigabytesAreRead();
     void memoryStaysConstant();
     void millionBlocksAreWalked();
@@ -320,6 +326,112 @@ void TstPqa2Reader::fileThatShrinksWhileItIsReadEndsInAState()
     QVERIFY(blocks < 100000);
     QCOMPARE(reader.state(), Pqa2Reader::Cut);
     QVERIFY(!reader.skipDamage());
+}
+
+void TstPqa2Reader::fileThatShrinksWhileItIsSearchedEnds()
+{
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    file.write(patched(logFile(1), offsetOf(0), 1) + QByteArray(1 << 20, '\xEE'));
+    QVERIFY(file.flush());
+    Pqa2Reader reader(&file);
+    Pqa2Block block;
+    QVERIFY(reader.next(&block) && !reader.next(&block));
+    QCOMPARE(reader.faultOffset(), qint64(offsetOf(0)));
+    QCOMPARE(::ftruncate(file.handle(), 30), 0);
+    QVERIFY(!reader.skipDamage());
+    QCOMPARE(reader.state(), Pqa2Reader::Cut);
+}
+
+void TstPqa2Reader::deviceThatIsClosedMeanwhileGivesNothing()
+{
+    QBuffer buffer;
+    buffer.setData(logFile(100000));
+    buffer.open(QIODevice::ReadOnly);
+    Pqa2Reader reader(&buffer);
+    Pqa2Block first;
+    QVERIFY(reader.next(&first));
+    QVERIFY(!reader.payload(first).isEmpty());
+    buffer.close();
+    QTest::ignoreMessage(QtWarningMsg, "QIODevice::seek (QBuffer): The device is not open");
+    QVERIFY(reader.payload(first).isEmpty());
+    QTest::ignoreMessage(QtWarningMsg, "QIODevice::seek (QBuffer): The device is not open");
+    int blocks = 1;
+    for (Pqa2Block block; reader.next(&block); ++blocks) {
+        const char *payload = reader.view(block);
+        QVERIFY(!payload || QByteArray(payload, 4) == words({ quint32(blocks) }));
+    }
+    QVERIFY(blocks < 100000); // what was read with the first one
+    QCOMPARE(reader.state(), Pqa2Reader::Cut);
+    QCOMPARE(reader.faultOffset(), qint64(offsetOf(blocks)));
+    QVERIFY(!reader.view({ offsetOf(blocks), Pqa2SystemLog, 8 }));
+}
+
+void TstPqa2Reader::deviceWithoutPlacesIsUnreadable()
+{
+    class Pipe : public QBuffer
+    {
+        bool isSequential() const override { return true; }
+    } pipe;
+    pipe.setData(logFile(3));
+    pipe.open(QIODevice::ReadOnly);
+    const Found found = readAll(&pipe);
+    QCOMPARE(found.state, Pqa2Reader::Unreadable);
+    QVERIFY2(found.reason.contains("cannot be read"), found.reason.constData());
+    QVERIFY(found.numbers.isEmpty());
+}
+
+void TstPqa2Reader::viewIsBoundedAndReachesBack()
+{
+    constexpr quint32 kBytes = 300 << 10; // more than a view gives
+    QBuffer buffer;
+    buffer.setData(fileHead() + words({ 24 + 16, Pqa2SystemLog, 4, 7, kLast, Pqa2SystemLog, kBytes })
+                   + QByteArray(int(kBytes), 'x'));
+    buffer.open(QIODevice::ReadOnly);
+    Pqa2Reader reader(&buffer);
+    Pqa2Block small, large, none;
+    QVERIFY(reader.next(&small) && reader.next(&large) && !reader.next(&none));
+    QCOMPARE(reader.state(), Pqa2Reader::Whole);
+    QVERIFY(!reader.view(large, kBytes)); // behind the bound
+    QVERIFY(!reader.view(large, -1));
+    QVERIFY(!reader.view({ -100, Pqa2SystemLog, 4 }));
+    const char *most = reader.view(large);
+    QVERIFY(most);
+    QCOMPARE(QByteArray(most, int(Pqa2Reader::kMostView)), QByteArray(int(Pqa2Reader::kMostView), 'x'));
+    const char *back = reader.view(small); // in front of what was read last
+    QVERIFY(back);
+    QCOMPARE(QByteArray(back, 4), words({ 7 }));
+}
+
+void TstPqa2Reader::blocksInsideAWideGapAreFoundWhenItsLinkIsWrong()
+{
+    // The link of the first block leads half a megabyte over two linked blocks to where none is.
+    constexpr int kGap = 512 << 10;
+    const int chain = offsetOf(1) + 100;
+    QByteArray file = fileHead() + words({ quint32(offsetOf(1) + kGap), Pqa2SystemLog, 8, 1, 0 });
+    file += QByteArray(100, '\xEE') + words({ quint32(chain) + 16, Pqa2SystemLog, 4, 2 })
+        + words({ quint32(chain) + 32, Pqa2SystemLog, 4, 3 });
+    file += QByteArray(offsetOf(1) + kGap + 100 - file.size(), '\xEE');
+    const Found found = readAll(file);
+    QCOMPARE(found.state, Pqa2Reader::Broken);
+    QCOMPARE(found.fault, qint64(offsetOf(1) + kGap));
+    QCOMPARE(found.numbers, QVector<quint32>({ 1, 2, 3 }));
+}
+
+void TstPqa2Reader::blocksBehindAHoleAreFound()
+{
+    // A lost supply kept a piece of the file from the disk: gigabytes of nothing, which are passed at once.
+    constexpr quint32 kBehind = 0xC0000000;
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    file.write(fileHead() + words({ 44, Pqa2SystemLog, 8, 1, 0 }) + words({ 0, 0, 0 }));
+    file.seek(kBehind);
+    file.write(words({ kBehind + 16, Pqa2SystemLog, 4, 2 }) + words({ kLast, Pqa2SystemLog, 4, 3 }));
+    QVERIFY(file.flush());
+    const Found found = readAll(&file);
+    QCOMPARE(found.state, Pqa2Reader::Broken);
+    QCOMPARE(found.fault, qint64(44));
+    QCOMPARE(found.numbers, QVector<quint32>({ 1, 0, 2, 3 })); // the second one reads as a blank block
 }
 
 void TstPqa2Reader::offsetsBeyondTwoGigabytesAreRead()

@@ -4,6 +4,7 @@
 #include "platform/target.h"
 #include "record/pqafile.h"
 #include "unit/documentpage.h"
+#include "unit/storage/filelimit.h"
 #include "unit/storage/helddisk.h"
 #include "unit/storage/rootfiles.h"
 
@@ -37,6 +38,8 @@ private slots:
     void aCardThatDoesNotAnswerHoldsUpNobody();
     void anEmptyRecordIsWrittenWithoutData();
     void aFailedOpenLeavesEverythingSilentlyUnwritten();
+    void whatStandsInTheWayOfAStoredFileStays();
+    void fullDiskKeepsWhatItCouldTake();
     void knownRecordSizesAreStoredWhole_data();
     void knownRecordSizesAreStoredWhole();
 
@@ -286,6 +289,34 @@ void TstPqaFile::aFailedOpenLeavesEverythingSilentlyUnwritten()
     nowhere.writeFileData("data", 4);
     nowhere.saveSnapshot(QStringLiteral("VAHz1.png"));
     QVERIFY(!QFile::exists(Target::path(QStringLiteral("/mnt/storage/VAHz1.png"))));
+}
+
+void TstPqaFile::whatStandsInTheWayOfAStoredFileStays()
+{
+    QVERIFY(QDir().mkpath(Target::path(QStringLiteral("/mnt/storage/Scope1.pqa/in-the-way"))));
+    PqaFile file(11, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
+    file.writeFileData("data", 4);
+    file.saveDataFile(QStringLiteral("Scope1.pqa"));
+    QVERIFY(QFileInfo(Target::path(QStringLiteral("/mnt/storage/Scope1.pqa/in-the-way"))).isDir());
+    QVERIFY(!QFile::exists(Target::path(PqaFile::dataPath())));
+}
+
+void TstPqaFile::fullDiskKeepsWhatItCouldTake()
+{
+    constexpr int kRoom = 150000; // bytes
+    PqaFile file(2, m_settingConfig_g.derived(), ScreenShot::getScreenPng());
+    QByteArray record(500000, '\0');
+    for (int i = 0; i < record.size(); ++i)
+        record[i] = char(i * 31 / 7);
+    file.writeFileData(record.constData(), quint32(record.size()));
+    const QByteArray whole = read(PqaFile::dataPath());
+    QVERIFY(whole.size() > record.size());
+    {
+        const FileLimit full(kRoom);
+        file.saveDataFile(QStringLiteral("VAHz1.pqa"));
+    }
+    QCOMPARE(read(QStringLiteral("/mnt/storage/VAHz1.pqa")), whole.left(kRoom));
+    QVERIFY(!QFile::exists(Target::path(PqaFile::dataPath())));
 }
 
 void TstPqaFile::knownRecordSizesAreStoredWhole_data()
