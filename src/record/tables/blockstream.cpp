@@ -4,6 +4,18 @@
 #include <cstring>
 #include <limits>
 
+namespace {
+
+template <typename Value> Value valueAt(const char **at)
+{
+    Value value;
+    std::memcpy(&value, *at, sizeof value);
+    *at += sizeof value;
+    return value;
+}
+
+} // namespace
+
 BlockStream::BlockStream(std::vector<Part> parts, const BlockColumns &columns, const BlockCheck &check)
     : m_parts(std::move(parts)), m_columns(columns), m_check(check), m_rows(std::size_t(columns.tables().size()))
 { }
@@ -77,19 +89,9 @@ void BlockStream::takeValues(const Pqa2Block &block, qint64 time)
         row.isUsed = true;
         const char *at = payload + kind.timeBytes;
         for (const int cell : place.cells) {
-            if (kind.cells == CellType::Double) {
-                double value;
-                std::memcpy(&value, at, sizeof value);
-                at += sizeof value;
-                if (cell >= 0)
-                    row.numbers[std::size_t(cell)] = value;
-            } else {
-                float value;
-                std::memcpy(&value, at, sizeof value);
-                at += sizeof value;
-                if (cell >= 0)
-                    row.numbers[std::size_t(cell)] = double(value);
-            }
+            const double value = kind.cells == CellType::Double ? valueAt<double>(&at) : double(valueAt<float>(&at));
+            if (cell >= 0)
+                row.numbers[std::size_t(cell)] = value;
         }
     }
 }

@@ -106,7 +106,7 @@ bool CaptureReading::readFrames(RecordSink &sink, const RecordedWaveform &wavefo
         return false;
     qint64 left = m_frames; // what came since the file was looked through is left out
     for (WaveChunk chunk; left > 0 && reader.next(&chunk);) {
-        for (qint64 at = 0; at < chunk.frames && left > 0;) {
+        for (qint64 at = 0; at < chunk.frames;) {
             const QByteArray bytes = reader.frames(chunk, at, qMin(left, WaveFileReader::kMostFrames));
             const int frames = bytes.size() / kWaveFrameBytes;
             if (frames == 0)

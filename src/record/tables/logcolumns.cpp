@@ -81,12 +81,14 @@ int takeOrder(QByteArray *text)
 }
 
 /// Takes "(kV)" from the end, and answers with what a value is multiplied to be one of the plain \a unit; 0: it is
-/// another unit's.
+/// another unit's, or nothing of the logger's.
 double takeUnit(QByteArray *text, const QByteArray &unit)
 {
     const int mark = text->indexOf('(');
-    if (mark < 0 || !text->endsWith(')'))
+    if (mark < 0)
         return 1;
+    if (!text->endsWith(')'))
+        return 0; // a channel or an order that no name of the logger has stands behind
     const QByteArray told = text->mid(mark + 1, text->size() - mark - 2);
     text->truncate(mark);
     if (unit.isEmpty() || told.compare(unit, Qt::CaseInsensitive) == 0)

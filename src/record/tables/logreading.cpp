@@ -17,7 +17,7 @@ constexpr int kProgressStep = 1000; // lines
 std::vector<QByteArray> cellsOf(const QByteArray &line)
 {
     QList<QByteArray> cells = line.split(',');
-    if (!cells.isEmpty() && cells.constLast().isEmpty())
+    if (cells.constLast().isEmpty()) // a line without a comma is one cell
         cells.removeLast();
     return { cells.begin() + (cells.isEmpty() ? 0 : 1), cells.end() };
 }

@@ -11,6 +11,24 @@ using P = Pqa2Bytes;
 
 constexpr int kMostCalls = 100000;
 
+/// Takes tables and nothing else.
+class TableSink : public RecordSink
+{
+public:
+    bool begin(const RecordFacts &) override { return true; }
+    bool table(int, const RecordTable &table) override
+    {
+        tables << QString::fromLatin1(table.name);
+        return true;
+    }
+    bool row(const RecordRow &) override { return true; }
+    bool end(const RecordFacts &) override { return hasEnded = true; }
+    QString error() const override { return {}; }
+
+    QStringList tables;
+    bool hasEnded = false;
+};
+
 /// Refuses its call of one number, and counts what comes all the same.
 class RefusingSink : public RecordSink
 {
@@ -44,6 +62,7 @@ class TstRefusals : public QObject
 
 private:
     void addKinds();
+    QString happenings() const;
     QString put(const QString &name, const QByteArray &bytes) const
     {
         const QString path = m_folder.filePath(name);
@@ -57,6 +76,9 @@ private slots:
     void nothingComesBehindARefusedCall();
     void progressThatRefusesEndsTheReading_data() { addKinds(); }
     void progressThatRefusesEndsTheReading();
+    void progressThatRefusesEndsTheLook_data() { addKinds(); }
+    void progressThatRefusesEndsTheLook();
+    void takerOfTablesGetsThoseOfHappenings();
 };
 
 void TstRefusals::addKinds()
@@ -65,6 +87,7 @@ void TstRefusals::addKinds()
     QTest::addColumn<QString>("path");
     QTest::newRow("recording") << data + "recorder";
     QTest::newRow("monitor") << data + "monitor.pqa2";
+    QTest::newRow("happenings") << happenings();
     QTest::newRow("capture") << data + "capture.wav";
     const QByteArray picture = QByteArray::fromHex("89504E470D0A1A0A");
     QByteArray page;
@@ -76,6 +99,19 @@ void TstRefusals::addKinds()
     for (int second = 10; second < 15; ++second)
         log += "2023/11/14  22:13:" + QByteArray::number(second) + ",230.000,50.000,\n";
     QTest::newRow("log") << put("log.csv", log);
+}
+
+/// A dip with its waveform, a transient and a line of the log.
+QString TstRefusals::happenings() const
+{
+    P file;
+    file.opening("1P IT NO NEUTRAL_6").start(P::kSeconds).timed(0xA1000009, P::kTime, "text");
+    file.add(0xA1010080,
+             P::le(0, 4) + P::le(27, 4) + P::le(1, 4) + P::f32(150) + P::le(quint64(P::kTime) + 40, 8)
+                 + P::le(quint64(P::kTime) + 90, 8));
+    file.add(0xA100002A, P::f64(double(P::kTime)) + QByteArray(2 * 4096, '\1'));
+    file.add(0xA1000025, P::f64(double(P::kTime)) + P::f32(50) + P::le(1U << 24 | 301, 4) + QByteArray(1200, '\1'));
+    return put("happenings.pqa2", file.end(P::kSeconds + 1).bytes());
 }
 
 void TstRefusals::nothingComesBehindARefusedCall()
@@ -108,6 +144,30 @@ void TstRefusals::progressThatRefusesEndsTheReading()
                  qPrintable(QStringLiteral("%1 of %2").arg(refused).arg(asked)));
         QVERIFY(sink.calls < all.calls); // the end is never among them
     }
+}
+
+void TstRefusals::progressThatRefusesEndsTheLook()
+{
+    QFETCH(QString, path);
+    RecordSource source;
+    int asked = 0;
+    QVERIFY(source.open(path, [&asked](qint64 done, qint64 total) { return ++asked > 0 && done <= total; }));
+    QVERIFY(asked > 0 || path.endsWith(QStringLiteral(".pqa"))); // a saved page is small
+    for (int refused = 0; refused < asked; ++refused) {
+        int left = refused;
+        QVERIFY(!source.open(path, [&left](qint64, qint64) { return left-- > 0; }));
+        QCOMPARE(left, -1); // nobody is asked again
+    }
+}
+
+void TstRefusals::takerOfTablesGetsThoseOfHappenings()
+{
+    RecordSource source;
+    QVERIFY(source.open(happenings()));
+    TableSink sink;
+    QVERIFY(source.read(sink));
+    QVERIFY(sink.hasEnded && !sink.isRefused());
+    QCOMPARE(sink.tables, QStringList({ "events", "system_log", "transients" }));
 }
 
 QTEST_GUILESS_MAIN(TstRefusals)

@@ -519,6 +519,8 @@ void TstWaveFile::damageIsTold_data()
     QTest::newRow("cut between chunks") << whole.left(second) << int(WaveFileReader::Cut) << 4 << 72;
     QTest::newRow("length of no frames") << with(second, 8) << int(WaveFileReader::Cut) << 4 << second;
     QTest::newRow("length of nothing") << with(second, 0) << int(WaveFileReader::Cut) << 4 << second;
+    QTest::newRow("a wrong length and a torn one where the usual one leads")
+        << with(88, 8).left(88 + 4) + QByteArray(65536 + 3, '\0') << int(WaveFileReader::Cut) << 0 << 88;
     QTest::newRow("head counts less") << with(72, 7) << int(WaveFileReader::Cut) << 8 << 72;
 }
 
