@@ -10,6 +10,8 @@
 #include "storage/runjournal.h"
 #include "unit/storage/rootfiles.h"
 
+#include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/time.h>
 
 namespace {
@@ -144,6 +146,17 @@ private slots:
     {
         storeBlocks("Common.pqa2", { { 0xA1000020u, bytesOf(kTime) }, { 0xA1000019u, bytesOf(quint32(1)) } });
         QVERIFY(found(kRun).isEmpty());
+        // Whatever stands behind the end.
+        storeBlocks("Common.pqa2",
+                    { { 0xA1000019u, bytesOf(quint32(1)) }, { 0xA1000009u, bytesOf(kTime) }, { 0u, QByteArray() } });
+        QVERIFY(found(kRun).isEmpty());
+    }
+
+    void whatIsNoFileAndNoFolderIsNotTold()
+    {
+        const QByteArray path = QFile::encodeName(Target::path(kStorage + "Logger_1_00.csv"));
+        QCOMPARE(::mkfifo(path.constData(), 0600), 0);
+        QVERIFY(found("Logger_1_00.csv").isEmpty());
     }
 
     void whatIsGoneIsNotTold() { QVERIFY(found(kRun).isEmpty()); }
@@ -177,6 +190,37 @@ private slots:
         QVERIFY(file.resize(InterruptedRuns::kLargestRead + 1)); // a hole: takes no room
         setFileTime(kRun + "/Common.pqa2", kTime / 1000);
         QCOMPARE(timeOf(kRun), QStringLiteral("2023-11-14 23:13:20"));
+    }
+
+    void aLargeFileIsNoneThatWaitedForItsStart()
+    {
+        storeBlocks("Common.pqa2", {});
+        QFile file(Target::path(kStorage + kRun + "/Common.pqa2"));
+        QVERIFY(file.resize(InterruptedRuns::kLargestRead + 1));
+        setFileTime(kRun + "/Common.pqa2", kTime / 1000);
+        RootFiles::waitForDisks();
+        RootFiles::write(RunJournal::path(), ".planned 1800000000 Logger_1\n" + kRun.toUtf8() + '\n');
+        RunJournal journal;
+        const QVector<InterruptedRun> runs = InterruptedRuns::find(journal, kWarsaw);
+        QCOMPARE(runs.size(), 1);
+        QCOMPARE(runs[0].last, QDateTime::fromMSecsSinceEpoch(kTime, kWarsaw));
+    }
+
+    void ofAFileThatCannotBeOpenedTheFileSystemTellsTheTime()
+    {
+        RootFiles::write(kStorage + "Logger_1_00.csv", "TIME,FREQ AVG,\n2023/11/14  20:00:00,50.000,\n");
+        setFileTime("Logger_1_00.csv", kTime / 1000);
+        RootFiles::waitForDisks();
+        RootFiles::write(RunJournal::path(), "Logger_1_00.csv\n");
+        RunJournal journal;
+        rlimit before {};
+        QCOMPARE(::getrlimit(RLIMIT_NOFILE, &before), 0);
+        const rlimit none { 0, before.rlim_max }; // all descriptors are taken
+        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &none), 0);
+        const QVector<InterruptedRun> runs = InterruptedRuns::find(journal, kWarsaw);
+        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &before), 0);
+        QCOMPARE(runs.size(), 1);
+        QCOMPARE(runs[0].last, QDateTime::fromMSecsSinceEpoch(kTime, kWarsaw));
     }
 
     void theHeadOfACaptureTellsTheLastWrite()
