@@ -4,8 +4,10 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTcpServer>
 #include <QTemporaryFile>
+#include <QUrl>
 
 #include <csignal>
 
@@ -24,6 +26,7 @@ private slots:
     void usedPortIsOneLine();
     void pageAndAllThatItNeedsComeFromThePanel();
     void helpLeadsToSectionsThatThereAre();
+    void everyLinkOfTheGuideIsAnswered();
     void everyPageHasItsHelp();
     void everyAnswerCarriesTheContentPolicy();
     void keysReachTheInstrumentInTheirOrder();
@@ -165,6 +168,32 @@ void TstPanelServer::helpLeadsToSectionsThatThereAre()
     QVERIFY(followed > 15);
     QCOMPARE(get(m_port, "/guide/guide.css").field("Content-Type"), QByteArray("text/css; charset=utf-8"));
     QCOMPARE(get(m_port, "/guide/pictures/site-values-measuring.png").field("Content-Type"), QByteArray("image/png"));
+}
+
+void TstPanelServer::everyLinkOfTheGuideIsAnswered()
+{
+    const QRegularExpression form(QStringLiteral("(?:href|src)=\"(?![a-z]+:|#)([^\"#]+)"));
+    QSet<QByteArray> seen { "/guide/user-guide.html" };
+    QList<QByteArray> pages = seen.values();
+    int followed = 0;
+    while (!pages.isEmpty()) {
+        const QByteArray at = pages.takeFirst();
+        const Answer answer = get(m_port, at);
+        QVERIFY2(answer.status == 200, at);
+        QVERIFY2(!answer.body.isEmpty(), at);
+        ++followed;
+        if (!at.endsWith(".html"))
+            continue;
+        auto links = form.globalMatch(QString::fromUtf8(answer.body));
+        while (links.hasNext()) {
+            const QByteArray to = QUrl(at).resolved(QUrl(links.next().captured(1))).path().toLatin1();
+            if (!seen.contains(to)) {
+                seen.insert(to);
+                pages << to;
+            }
+        }
+    }
+    QVERIFY2(followed > 80, QByteArray::number(followed)); // pages and their pictures
 }
 
 // The page table makes each page by its class; pictures carry that name.

@@ -21,6 +21,11 @@ constexpr FileType kTypes[] = {
     { ".svg", "image/svg+xml" },
     { ".sql", "text/plain; charset=utf-8" },
     { ".py", "text/plain; charset=utf-8" },
+    { ".sh", "text/plain; charset=utf-8" },
+    { ".conf", "text/plain; charset=utf-8" },
+    { ".json", "text/plain; charset=utf-8" },
+    { ".yaml", "text/plain; charset=utf-8" },
+    { ".yml", "text/plain; charset=utf-8" },
 };
 
 } // namespace
