@@ -137,7 +137,7 @@ void TstDocuments::picturesOfTheGuideAreTakenByTheGallery()
     // The command that takes them anew names the pages that it goes through.
     QSet<QString> asked;
     for (const QString &names :
-         caught(read(kTop + QLatin1Char('/') + kPictures + QStringLiteral("take")), "(?:--pages|\nstill) ([a-z,-]+)")) {
+         caught(read(kTop + QLatin1Char('/') + kPictures + QStringLiteral("take")), "\n(?:still|live) ([a-z,-]+)")) {
         for (const QString &name : names.split(QLatin1Char(',')))
             asked << name;
     }
