@@ -135,8 +135,7 @@ void IDevice::takeDatagram(const Delivery &result)
 /// A processor that went and came back has lost its set-up: it gets the whole start sequence.
 void IDevice::setUpAgain()
 {
-    if (m_idevice == this)
-        DeviceInit::initAnalogDevice2();
+    DeviceInit::initAnalogDevice2();
     emit reopened();
 }
 

@@ -83,6 +83,7 @@ void TstDataTypes::payloadFitsFromItsWholeLengthOn()
     QVERIFY(DataTypes::fits(DatagramRMS_1_2, QByteArray(2180, '\0')));
     QVERIFY(DataTypes::fits(DatagramFlicker, QByteArray(6012, '\0')));
     QVERIFY(!DataTypes::fits(__datagramtype(7), QByteArray(100000, '\0')));
+    QVERIFY(!DataTypes::fits(__datagramtype(-1), QByteArray(100000, '\0')));
 }
 
 void TstDataTypes::rmsCountIsCappedAt60AndHalved_data()

@@ -20,6 +20,7 @@ private slots:
     void beyondTheBoundTheOldestOfTheLargestKindGoes();
     void smallDeliveriesAreBoundedToo();
     void droppedOnesArePrintedOnceAtTheBeginningAndOnceAtTheEnd();
+    void droppedClockWordsAreNamedLikeTheirSignals();
     void unknownKindsAreNotTaken();
     void emptiedQueueGivesItsMemoryBack();
     void twoThreadsLoseNothing();
@@ -168,6 +169,21 @@ void TstDeliveryQueue::droppedOnesArePrintedOnceAtTheBeginningAndOnceAtTheEnd()
     QCOMPARE(match.captured(1).toULongLong() + match.captured(2).toULongLong(), dropped);
     QCOMPARE(takeAll(queue).size(), int(200 - dropped));
     QVERIFY(out.lines().isEmpty());
+}
+
+void TstDeliveryQueue::droppedClockWordsAreNamedLikeTheirSignals()
+{
+    for (const auto &[kind, name] :
+         { std::pair(Delivery::TimeStamp, "dspTimeStamp"), { Delivery::BdsWord, "usingBDS" } }) {
+        StdoutCapture out;
+        DeliveryQueue queue(100 * DeliveryQueue::kBytesBeside);
+        for (quint32 i = 0; i <= 100; ++i)
+            queue.put(word(kind, i));
+        queue.beginTurn();
+        QCOMPARE(out.linesWithoutNumbers(),
+                 QStringList({ QStringLiteral("L: 0 > Results are not taken, dropping the oldest: %1").arg(name),
+                               QStringLiteral("L: 0 > Results are taken again, dropped: %1 1;").arg(name) }));
+    }
 }
 
 void TstDeliveryQueue::unknownKindsAreNotTaken()

@@ -39,6 +39,7 @@ private slots:
     void updateFramesPass();
     void olderClockCommandPasses();
     void datagramsCrossIntoTheMainThread();
+    void everyKindHasASlotThatRelaysIt();
     void datagramAfterATurnBringsAnotherTurn();
     void clockSignalsAreRelayed();
     void versionIsTheInitialTextUntilTheProcessorAnswers();
@@ -388,6 +389,15 @@ void TstIDevice::datagramsCrossIntoTheMainThread()
         const QByteArray expected = timeBytes(0) + countingPayload(kind.words - Link::kTimeWords, 1000u * id);
         QCOMPARE(spies[kind.type][0][0].toByteArray(), expected.mid(kind.skippedBytes));
     }
+}
+
+void TstIDevice::everyKindHasASlotThatRelaysIt()
+{
+    connectLink();
+    QSignalSpy transient(m_idevice, &IDevice::datagramTransient); // the link brings none by itself
+    m_idevice->datagramTransientSlot(DatagramTransient, QByteArray("abc"));
+    QCOMPARE(transient.size(), 1);
+    QCOMPARE(transient[0][0].toByteArray(), QByteArray("abc"));
 }
 
 void TstIDevice::datagramAfterATurnBringsAnotherTurn()

@@ -35,6 +35,10 @@ private slots:
     void readsThatFailForAMomentPauseOnlyForAMoment();
     void readsThatFailBehindEachPackageNeverPauseForLong();
     void streamThatNeverRunsDryLeavesFramesTheirTurn();
+    void interruptedReadsAreNoErrors();
+    void nodeThatOnlyFailsToBeReadIsNeverTakenForLost_data();
+    void nodeThatOnlyFailsToBeReadIsNeverTakenForLost();
+    void pollingTwinLeavesANodeThatIsGoneItsPause();
     void nodeThatIsLostForGoodIsOpenedAnew();
     void writesToAClosedFarEndFailUnnoticed();
     void readAnswersWhatTheNodeAnswers();
@@ -351,6 +355,66 @@ void TstLinkNode::streamThatNeverRunsDryLeavesFramesTheirTurn()
     QTRY_COMPARE(link.datagrams.size(), kPackages); // the turns go on by themselves
     ::dup2(kept, node);
     ::close(kept);
+}
+
+void TstLinkNode::interruptedReadsAreNoErrors()
+{
+    OpenLink link;
+    QVERIFY(link.open());
+    QSocketNotifier *notifier = link.dsp.findChild<QSocketNotifier *>();
+    for (int burst = 0; burst < 3; ++burst) {
+        g_failing = { int(notifier->socket()), 0, 5, EINTR };
+        link.pump();
+        QCOMPARE(g_failing.failing, 0);
+        QVERIFY(notifier->isEnabled());
+    }
+    QVERIFY(!link.dsp.findChild<QTimer *>("pause"));
+}
+
+void TstLinkNode::nodeThatOnlyFailsToBeReadIsNeverTakenForLost_data()
+{
+    QTest::addColumn<bool>("isReady");
+    QTest::newRow("nothing to read") << false;
+    QTest::newRow("ready, as poll() has it") << true;
+}
+
+void TstLinkNode::nodeThatOnlyFailsToBeReadIsNeverTakenForLost()
+{
+    QFETCH(bool, isReady);
+    OpenLink link;
+    QVERIFY(link.open());
+    QSignalSpy reopened(&link.dsp, &DeviceDSP::reopened);
+    QSocketNotifier *notifier = link.dsp.findChild<QSocketNotifier *>();
+    if (isReady)
+        link.peer.send(makePackage({ 0xC0A5FF00, 1, DatagramUpdate, 0, 0, 0 }));
+    for (int burst = 0; burst < 12; ++burst) { // the pauses double from 10 ms to a second and stay there
+        g_failing = { int(notifier->socket()), 0, 5, EIO };
+        link.pump();
+    }
+    g_failing = {};
+    QVERIFY(!notifier->isEnabled());
+    QTRY_VERIFY(notifier->isEnabled());
+    if (!isReady)
+        link.peer.send(makePackage({ 0xC0A5FF00, 1, DatagramUpdate, 0, 0, 0 }));
+    QTRY_COMPARE(link.datagrams.size(), 1);
+    QVERIFY(reopened.isEmpty());
+    QVERIFY(!link.peer.isConnectionWaiting());
+}
+
+void TstLinkNode::pollingTwinLeavesANodeThatIsGoneItsPause()
+{
+    OpenLink link;
+    QVERIFY(link.open());
+    QSignalSpy reopened(&link.dsp, &DeviceDSP::reopened);
+    link.peer.goAway();
+    QTRY_VERIFY(!link.dsp.findChild<QSocketNotifier *>());
+    link.dsp.datagramLoop(); // looks each millisecond from here on, and the pause lasts a second all the same
+    QVERIFY(link.peer.listen());
+    QTRY_COMPARE(reopened.size(), 1);
+    QVERIFY(link.peer.accept());
+    link.peer.send(makePackage({ 0xC0A5FF00, 1, DatagramUpdate, 0, 0, 0 }));
+    QTRY_COMPARE(link.datagrams.size(), 1);
+    link.dsp.RecvStop();
 }
 
 void TstLinkNode::nodeThatIsLostForGoodIsOpenedAnew()

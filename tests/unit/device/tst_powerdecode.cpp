@@ -27,6 +27,7 @@ private slots:
     void powerOfSinglePhaseWirings_data();
     void powerOfSinglePhaseWirings();
     void powerOfSplitPhase();
+    void unknownWiringHasThePowersOfAStar();
     void withoutActivePowerTheTangentIs9999();
     void mainsSignalsInVoltsAndOfTheNominal();
 
@@ -255,6 +256,21 @@ void TstPowerDecode::powerOfSplitPhase()
     NEAR(m_record->power[3].reactive, 1200);
     // Fundamental active power: 1200 + 2400 cos 30 = 3278.46
     NEAR(m_record->power[3].fundamentalFactor, 3278.461 / std::hypot(3278.461, 1200.0));
+}
+
+void TstPowerDecode::unknownWiringHasThePowersOfAStar()
+{
+    const Payload payload = balanced(230, 10, 60);
+    Derived derived = m_settingConfig_g.derived();
+    derived.channels = nullptr;
+    *m_record = {};
+    DataTypes::datagramAggregation(m_record.get(), payload.data(), { m_scales, derived });
+    for (int row = 0; row < 3; ++row) {
+        NEAR(m_record->power[row].active, 1150);
+        NEAR(m_record->power[row].apparent, 2300);
+    }
+    NEAR(m_record->power[3].active, 3450);
+    NEAR(m_record->power[3].apparent, 6900);
 }
 
 void TstPowerDecode::withoutActivePowerTheTangentIs9999()

@@ -65,6 +65,7 @@ void TstModbusBadClients::quantitiesOutOfTheProtocolAreRefusedAtOnce_data()
     QTest::newRow("lock: write and read 0") << modbusPdu(23, { 65000, 0, 65000, 1 }) + char(2) + QByteArray(2, 0);
     QTest::newRow("lock: write 122 and read 1")
         << modbusPdu(23, { 65000, 1, 65000, 122 }) + char(244u) + QByteArray(240, 0);
+    QTest::newRow("lock: write 0 and read 1") << modbusPdu(23, { 65000, 1, 65000, 0 }) + char(0);
     QTest::newRow("read without quantity") << modbusPdu(4, { 100 });
     QTest::newRow("read with a byte too many") << readInput(100, 1) + char(0);
     QTest::newRow("read without address") << QByteArray(1, 4);

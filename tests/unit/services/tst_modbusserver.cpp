@@ -1,4 +1,5 @@
 #include "modbusownserver.h"
+#include "settings/config_data.h"
 #include "services/modbusblocks.h"
 #include "services/modbusslave.h"
 
@@ -47,6 +48,7 @@ private slots:
     void printsItsLinesLetterForLetter();
     void clearZeroesTheFirst100BytesAndTheBigBlocks();
     void informationBlockIsPublishedFromTheSettings();
+    void withoutAnyClampItsRangeIsZero();
     void secondBlockWithTheSameStartIsDropped();
 
 private:
@@ -308,6 +310,19 @@ void TstModbusServer::informationBlockIsPublishedFromTheSettings()
     QCOMPARE(client.read(11100, 2), (QList<quint16> { 0x0000, 0x42BE }));
     // "TARN-41A": 5 A, 10 mV/A; ratios 1:1.
     QCOMPARE(client.read(11324, 8), (QList<quint16> { 5, 0, 10, 1, 1, 1, 1, 1 }));
+}
+
+void TstModbusServer::withoutAnyClampItsRangeIsZero()
+{
+    ClampIF *clamps = m_settingConfig_g.clamps();
+    while (Clamp *clamp = clamps->first())
+        clamps->removeClamp(clamp);
+    QVERIFY(!m_settingConfig_g.curClamp());
+    update_modbus_swinfo();
+    ModbusClient client(ModbusSlave::port());
+    QCOMPARE(client.read(11324, 2), (QList<quint16> { 0, 0 }));
+    m_settingConfig_g.loadSettingConfig();
+    QVERIFY(m_settingConfig_g.curClamp());
 }
 
 void TstModbusServer::secondBlockWithTheSameStartIsDropped()
