@@ -179,7 +179,7 @@ void writeHarmonics(QXmlStreamWriter &xml, const monitor_limit &limit)
 
 bool same(const char *a, const char *b)
 {
-    return a && b && strcmp(a, b) == 0;
+    return QLatin1String(a) == QLatin1String(b);
 }
 
 /// Groups and their children open and close where the table changes them.
@@ -213,10 +213,8 @@ void writeGroups(QXmlStreamWriter &xml, const monitor_limit &limit)
                                      : realText(words.real(attribute.word));
         xml.writeAttribute(QLatin1String(attribute.name), text);
     }
-    if (child)
-        xml.writeEndElement();
-    if (group)
-        xml.writeEndElement();
+    xml.writeEndElement(); // the last child
+    xml.writeEndElement(); // the last group
 }
 
 void readGroups(const QDomElement &root, monitor_limit *limit)

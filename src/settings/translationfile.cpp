@@ -22,7 +22,13 @@ class Reader
 public:
     Reader(const char *data, qint64 size) : m_data(data), m_left(size) { }
     bool atEnd() const { return m_left == 0; }
-    bool takeByte(int *value) { return take(1) && ((*value = uchar(m_data[-1])), true); }
+    bool takeByte(int *value)
+    {
+        if (!take(1))
+            return false;
+        *value = uchar(m_data[-1]);
+        return true;
+    }
     bool takeNumber(qint64 *value)
     {
         if (!take(4))
@@ -82,10 +88,9 @@ bool TranslationFile::isSound(const QByteArray &content)
         return false;
     Reader file(content.constData() + sizeof kMagic, content.size() - qint64(sizeof kMagic));
     QByteArray hashes, messages;
-    while (!file.atEnd()) {
-        int section = 0;
+    for (int section = 0; file.takeByte(&section);) {
         qint64 length = 0;
-        if (!file.takeByte(&section) || !file.takeNumber(&length) || !file.take(length))
+        if (!file.takeNumber(&length) || !file.take(length))
             return false;
         const QByteArray bytes = QByteArray::fromRawData(file.place() - length, int(length));
         if (section == Hashes)

@@ -180,8 +180,7 @@ QStringList UserConfig::modelNames()
 
 QString UserConfig::getInstrumentModelName() const
 {
-    const QStringList names = modelNames();
-    return m_model >= 1 && m_model <= names.size() ? names.at(m_model - 1) : QStringLiteral("QUVERA");
+    return modelNames().value(m_model - 1, QStringLiteral("QUVERA"));
 }
 
 void UserConfig::setInstrumentModel(int number)

@@ -375,6 +375,22 @@ private slots:
         QCOMPARE(ClampIF(kPath).names().last(), QString("a b "));
     }
 
+    void aSignThatNoFileMayHoldBecomesABlank()
+    {
+        ClampIF clamps(kPath);
+        clamps.addClamp(userClamp(QString("a") + QChar(0xfffe) + "b" + QChar(0xffff) + QChar(0xfffd)));
+        QVERIFY(clamps.save(kPath));
+        QCOMPARE(ClampIF(kPath).names().last(), QString("a b ") + QChar(0xfffd));
+    }
+
+    void noClampIsNotAppended()
+    {
+        ClampIF clamps(kPath);
+        clamps.addClamp(nullptr);
+        QCOMPARE(clamps.names(), kBuiltIns);
+        QVERIFY(!clamps.last()->nextNode);
+    }
+
     void aSignOfTwoHalvesStaysAndALoneHalfBecomesABlank()
     {
         const QString plug = QString::fromUtf8("\xF0\x9F\x94\x8C");

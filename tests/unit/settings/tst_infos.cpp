@@ -286,6 +286,14 @@ private slots:
             QCOMPARE(WaveInfo::m_step, steps[i]);
             QCOMPARE(WaveInfo::m_points_numb, 30 * rates[i]);
         }
+        for (const double other : { 60.0, 400.0 }) {
+            WaveInfo::m_points_numb = 0;
+            WaveInfo::initPointsNumbs(other);
+            QCOMPARE(WaveInfo::m_points_numb, 30 * 5120);
+        }
+        WaveInfo::m_duration = 20;
+        WaveInfo::initPointsNumbs(55.0); // no nominal frequency: the number stays
+        QCOMPARE(WaveInfo::m_points_numb, 30 * 5120);
         WaveInfo::m_sample_index = -3;
         WaveInfo::initPointsNumbs(50.0);
         QCOMPARE(WaveInfo::m_step, 1);
@@ -364,6 +372,9 @@ private slots:
                 && InrushInfo::m_zoom_time == InrushInfo::m_zoom_time_60);
         QCOMPARE(InrushInfo::m_rms_numb_per_sec, 120);
         InrushInfo::changeInfoCuzFreq(400.0);
+        QVERIFY(InrushInfo::m_dura_time == InrushInfo::m_dura_time_400
+                && InrushInfo::m_zoom_time == InrushInfo::m_zoom_time_400);
+        InrushInfo::changeInfoCuzFreq(55.0); // no nominal frequency: the tables stay
         QVERIFY(InrushInfo::m_dura_time == InrushInfo::m_dura_time_400
                 && InrushInfo::m_zoom_time == InrushInfo::m_zoom_time_400);
     }

@@ -4,6 +4,7 @@
 #include <QApplication>
 
 #include "settings/config_data.h"
+#include "settings/facefile.h"
 #include "settings/translationfile.h"
 #include "unit/storage/rootfiles.h"
 
@@ -76,6 +77,78 @@ private slots:
         QVERIFY(QFile::copy(QStringLiteral(TEST_LANGUAGE_FILE), Target::path("/mnt/userfs/language/lang_jp.qm")));
         languageTranslator.initLangTranslation(UserConfig::JP);
         QCOMPARE(QApplication::font("QWidget").family(), QString("WenQuanYi Zen Hei"));
+    }
+
+    void koreanSignsComeFromTheAsianFace()
+    {
+        QVERIFY(QFile::copy(QStringLiteral(TEST_LANGUAGE_FILE), Target::path("/mnt/userfs/language/lang_ko.qm")));
+        for (int time = 0; time < 2; ++time) {
+            languageTranslator.initLangTranslation(UserConfig::KO);
+            QCOMPARE(QApplication::font("QWidget").family(), QString("Liberation Sans"));
+            const QStringList substitutes = QFont::substitutes("Liberation Sans");
+            QCOMPARE(substitutes.size(), 1);
+            QCOMPARE(substitutes.first().toLower(), QString("wenquanyi zen hei"));
+        }
+    }
+
+    void aNumberThatIsNoLanguageShowsTheSourceTexts()
+    {
+        QVERIFY(QFile::copy(QStringLiteral(TEST_LANGUAGE_FILE), Target::path("/mnt/userfs/language/lang_ru.qm")));
+        for (const int number : { 0, 15, -1 }) {
+            languageTranslator.initLangTranslation(UserConfig::RU);
+            QVERIFY(languageTranslator.initLangTranslation(number));
+            QCOMPARE(tr("Power off?"), QString("Power off?"));
+        }
+    }
+
+    void theFamilyOfAFaceFileIsFoundListedOrNot()
+    {
+        const QString listed = Target::path("/usr/lib/fonts/arial.ttf");
+        QCOMPARE(familyOfFaceFile(listed), QString("Liberation Sans"));
+        const QString copy = Target::path("/mnt/userfs/face.ttf"); // which the system does not list
+        QVERIFY(QFile::copy(listed, copy));
+        QCOMPARE(familyOfFaceFile(copy), QString("Liberation Sans"));
+        RootFiles::write("/mnt/userfs/text.ttf", "no face");
+        QCOMPARE(familyOfFaceFile(Target::path("/mnt/userfs/text.ttf")), QString());
+        QCOMPARE(familyOfFaceFile(Target::path("/mnt/userfs/missing.ttf")), QString());
+    }
+
+    void aTranslationThatEndsTooSoonIsRefused_data()
+    {
+        QTest::addColumn<QByteArray>("hashes");
+        QTest::addColumn<QByteArray>("messages");
+        QTest::addColumn<QByteArray>("behind");
+        QTest::addColumn<bool>("sound");
+        const QByteArray hash(8, 0); // its message begins at 0
+        const auto bytes = [](std::initializer_list<int> list) {
+            QByteArray array;
+            for (const int byte : list)
+                array.append(char(byte));
+            return array;
+        };
+        const QByteArray nothing;
+        QTest::newRow("a message of nothing but its end") << hash << bytes({ 1 }) << nothing << true;
+        QTest::newRow("no end") << hash << bytes({ 3, 0, 0, 0, 1, 'a' }) << nothing << false;
+        QTest::newRow("a part without its length") << hash << bytes({ 3, 0, 0, 0 }) << nothing << false;
+        QTest::newRow("a part longer than the rest") << hash << bytes({ 3, 0, 0, 0, 2, 1 }) << nothing << false;
+        QTest::newRow("a part of no known kind") << hash << bytes({ 9, 1 }) << nothing << false;
+        QTest::newRow("a hash of three bytes") << hash.left(3) << bytes({ 1 }) << nothing << false;
+        QTest::newRow("a hash without its place") << hash.left(4) << bytes({ 1 }) << nothing << false;
+        QTest::newRow("a place behind the messages") << hash << nothing << nothing << false;
+        QTest::newRow("a section without its length") << hash << bytes({ 1 }) << bytes({ 0x88, 0, 0 }) << false;
+        QTest::newRow("a section longer than the file")
+            << hash << bytes({ 1 }) << bytes({ 0x88, 0, 0, 0, 2, 0 }) << false;
+        QTest::newRow("a section of no known kind") << hash << bytes({ 1 }) << bytes({ 0x43, 0, 0, 0, 0 }) << false;
+    }
+    void aTranslationThatEndsTooSoonIsRefused()
+    {
+        QFETCH(QByteArray, hashes);
+        QFETCH(QByteArray, messages);
+        QFETCH(QByteArray, behind);
+        QByteArray content = languageFile().left(16); // what every such file begins with
+        content += char(0x42) + QByteArray(3, 0) + char(hashes.size()) + hashes;
+        content += char(0x69) + QByteArray(3, 0) + char(messages.size()) + messages;
+        QTEST(TranslationFile::isSound(content + behind), "sound");
     }
 
     void filesThatAreNoTranslationDoNotHurt_data()

@@ -1,6 +1,7 @@
 #include <QDirIterator>
 #include <QRegularExpression>
 #include <QTest>
+#include <QTextCodec>
 
 #include "settings/limitsmanager.h"
 #include "unit/storage/filelimit.h"
@@ -238,6 +239,8 @@ private slots:
         QTest::newRow("line feed") << "a\nb";
         QTest::newRow("zero") << QString("a") + QChar(0) + "b";
         QTest::newRow("half a pair") << QString(QChar(0xd800));
+        QTest::newRow("no sign: FFFE") << QString("a") + QChar(0xfffe);
+        QTest::newRow("no sign: FFFF") << QString("a") + QChar(0xffff);
     }
     void namesThatWouldLeaveTheFolderGetNoFile()
     {
@@ -291,6 +294,37 @@ private slots:
         QVERIFY(!LimitsManager().allLimitsList().contains("Mine"));
     }
 
+    void aSetThatWasNeverStoredIsRemovedToo()
+    {
+        LimitsManager manager;
+        {
+            FileLimit full(10);
+            QVERIFY(!manager.add("Mine", withDips(70)));
+        }
+        QVERIFY(manager.allLimitsList().contains("Mine"));
+        manager.remove("Mine");
+        QVERIFY(!manager.allLimitsList().contains("Mine"));
+    }
+
+    void noSetIsNotAdded()
+    {
+        LimitsManager manager;
+        const QStringList before = manager.allLimitsList();
+        QVERIFY(!manager.add(nullptr));
+        QCOMPARE(manager.allLimitsList(), before);
+    }
+
+    void namesThatTheSystemCannotSpellGetNoFile()
+    {
+        QTextCodec *usual = QTextCodec::codecForLocale();
+        QTextCodec::setCodecForLocale(QTextCodec::codecForName("ISO-8859-1"));
+        const bool plain = LimitsManager::isPlainName(QString::fromUtf8("Usine é"));
+        const bool foreign = LimitsManager::isPlainName(QString::fromUtf8("工厂"));
+        QTextCodec::setCodecForLocale(usual);
+        QVERIFY(plain && !foreign);
+        QVERIFY(LimitsManager::isPlainName(QString::fromUtf8("工厂")));
+    }
+
     void removingASetWithoutAFileLeavesTheFileOfAnother()
     {
         RootFiles::write(kFolder + "Mine.xml", set("Other"));
@@ -327,6 +361,22 @@ private slots:
         QCOMPARE(limit.dips.threshold, 77.0f);
         QVERIFY(next.getLimits(&limit, "Mine"));
         QCOMPARE(limit.dips.threshold, 60.0f);
+    }
+
+    void aSetThatGivesWayGoesNeitherOverAnotherFileNorOutOfTheFolder()
+    {
+        RootFiles::write(kFolder + "Mine.xml", set("Other", "77"));
+        RootFiles::write(kFolder + "Other.xml", set("Third", "66"));
+        RootFiles::write(kFolder + "Yours.xml", set("../setting", "55"));
+        LimitsManager manager;
+        QVERIFY(manager.add("Mine", withDips(60)));
+        QVERIFY(manager.add("Yours", withDips(50)));
+        QVERIFY(!RootFiles::exists("/mnt/userfs/sys/setting.xml"));
+        const LimitsManager next;
+        QCOMPARE(next.allLimitsList().mid(2), QStringList({ "Mine", "Third", "Yours" }));
+        monitor_limit limit {};
+        QVERIFY(next.getLimits(&limit, "Third"));
+        QCOMPARE(limit.dips.threshold, 66.0f);
     }
 
     void aRenamedSetStaysTheActiveOne()

@@ -128,6 +128,15 @@ private slots:
         QCOMPARE(Config::readConfigFile(NetConfig::filePath(), "USE_DHCP"), QString("1"));
     }
 
+    void aChangeThatChangesNothingWritesNothing()
+    {
+        NetConfig config;
+        config.changeTogether([&config] { config.setIPAddr("256.1.1.1"); });
+        QVERIFY(!RootFiles::exists(NetConfig::filePath()));
+        config.changeTogether([&config] { config.setIPAddr("10.0.0.7"); });
+        QCOMPARE(Config::readConfigFile(NetConfig::filePath(), "IPADDR"), QString("10.0.0.7"));
+    }
+
     void addressesThatAreNoneAreNotStored()
     {
         NetConfig config;

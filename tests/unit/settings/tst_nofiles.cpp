@@ -1,4 +1,5 @@
 #include "settings/calibfile.h"
+#include "settings/config_data.h"
 #include "settings/limitsmanager.h"
 #include "settings/loggerinfo.h"
 #include "settings/netconfig.h"
@@ -9,6 +10,7 @@
 #include "storage/fileinfo.h"
 #include "unit/filestandin.h"
 
+#include <QApplication>
 #include <QDateTime>
 
 /// Something else in the place of every file that is read: nobody waits for it, and the defaults stand in for it.
@@ -39,6 +41,16 @@ private slots:
         settings.setJoinMode(3);
         QCOMPARE(settings.getJoinMode(), 3);
         ::alarm(0);
+    }
+
+    void aLanguageIsTakenWithoutAScreenToo()
+    {
+        QVERIFY(!qobject_cast<QApplication *>(QCoreApplication::instance()));
+        QFile file(Target::path(paths().last()));
+        QVERIFY(QDir().mkpath(QFileInfo(file).path()));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.close();
+        QVERIFY(languageTranslator.initLangTranslation(UserConfig::GE)); // and no font is asked for
     }
 
     void cleanup()

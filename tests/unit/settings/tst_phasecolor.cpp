@@ -92,12 +92,22 @@ private slots:
         QCOMPARE(PhaseColor::colorIC().name(), QString("#e65050"));
     }
 
+    void aChannelBeyondTheFiveHasTheNeutralsColour()
+    {
+        PhaseColor::setPhaseColors("01241");
+        for (const int channel : { -1, 5, 1000 }) {
+            QCOMPARE(PhaseColor::color(channel), PhaseColor::colorN());
+            QCOMPARE(PhaseColor::colorI(channel), PhaseColor::colorIN());
+        }
+    }
+
     void theColoursOfALine()
     {
         const char *const names[] = { "#ffff00", "#00ff00", "#ff0000", "#0a0afa", "#a0a0a4", "#800000" };
         for (int i = 0; i < 6; ++i)
             QCOMPARE(PhaseColor::colorLine(PhaseColor::LINE_COLOR(i)).name(), QString(names[i]));
-        QCOMPARE(PhaseColor::colorLine(PhaseColor::LINE_COLOR(6)), QColor(Qt::red));
+        for (const int beyond : { -1, 6 })
+            QCOMPARE(PhaseColor::colorLine(PhaseColor::LINE_COLOR(beyond)), QColor(Qt::red));
     }
 };
 

@@ -360,6 +360,58 @@ private slots:
         QCOMPARE(config.getClampRatioF(), 0.5f);
     }
 
+    void theLegacyTableHoldsNoClampOfTheUsers()
+    {
+        RootFiles::write("/mnt/userfs/sys/clamps.xcl",
+                         "<PQA version='1.0'><clamp name='own' range='1' ratio='2' editable='true'/></PQA>");
+        SettingConfig config;
+        QCOMPARE(config.clamps()->count(), 10);
+        QCOMPARE(config.legacyClamps().size(), 10);
+        QCOMPARE(config.legacyClamps().at(8).name, QString("TARN-F3"));
+        QCOMPARE(config.legacyClamps().last().name, QString("CUSTOM"));
+    }
+
+    void theSummaryWithoutClampsLeavesTheirPlacesEmpty()
+    {
+        SettingConfig config;
+        for (ClampIF *clamps : { config.clamps(), config.clampsN() }) {
+            while (clamps->first())
+                clamps->removeClamp(clamps->first());
+        }
+        QCOMPARE(config.systemInfo(), QString("230V;50Hz\\;\\3P WYE"));
+    }
+
+    void theInrushLevelsBeginAnewOnlyWithAnotherClamp_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<int>("range");
+        QTest::addColumn<int>("ratio");
+        QTest::addColumn<bool>("coil");
+        QTest::addColumn<int>("threshold");
+        QTest::newRow("the same") << "own" << 100 << 1000 << false << 150;
+        QTest::newRow("another name") << "mine" << 100 << 1000 << false << 200;
+        QTest::newRow("another range") << "own" << 101 << 1000 << false << 200;
+        QTest::newRow("another ratio") << "own" << 100 << 999 << false << 200;
+        QTest::newRow("a coil") << "own" << 100 << 1000 << true << 200;
+    }
+    void theInrushLevelsBeginAnewOnlyWithAnotherClamp()
+    {
+        QFETCH(QString, name);
+        QFETCH(int, range);
+        QFETCH(int, ratio);
+        QFETCH(bool, coil);
+        SettingConfig config;
+        config.clamps()->addClamp(new Clamp("own", 100, 1000, false, true, "test"));
+        config.clamps()->setCurClamp("own");
+        config.saveClampConfig();
+        config.setInrushThreshold(150);
+        config.clamps()->removeClamp(config.clamps()->last());
+        config.clamps()->addClamp(new Clamp(name, range, ratio, coil, true, "test"));
+        config.clamps()->setCurClamp(name);
+        config.saveClampConfig();
+        QTEST(config.getInrushThreshold(), "threshold");
+    }
+
     void theSummaryNamesVoltageFrequencyClampsAndWiring()
     {
         SettingConfig config;

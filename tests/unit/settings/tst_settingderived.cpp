@@ -100,6 +100,23 @@ private slots:
             QVERIFY(!SettingConfig::isStarJoinMode(mode));
     }
 
+    void anUnknownWiringHasNoChannelsNoStarAndNoVoltage_data()
+    {
+        QTest::addColumn<int>("joinMode");
+        for (const int joinMode : { -1, 0, 11 })
+            QTest::addRow("%d", joinMode) << joinMode;
+    }
+    void anUnknownWiringHasNoChannelsNoStarAndNoVoltage()
+    {
+        QFETCH(int, joinMode);
+        SettingValues values = SettingConfig().values();
+        values.joinMode = joinMode;
+        const Derived derived = derive(values, nullptr, nullptr, m_calib_data_g.data());
+        QVERIFY(!derived.channels);
+        QVERIFY(!derived.star && !derived.neutral);
+        QCOMPARE(derived.nominalVolt, 0);
+    }
+
     void theNamesOfTheWirings_data()
     {
         QTest::addColumn<QString>("name");

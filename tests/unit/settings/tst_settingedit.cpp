@@ -127,6 +127,22 @@ private slots:
         QCOMPARE(RootFiles::commands(), QByteArray());
     }
 
+    void aMaskHasNoStepsAndIsHeldByItsTypeOnly()
+    {
+        SettingConfig config;
+        const Row &row = *SettingConfig::row("LOGGER_FLAG");
+        QCOMPARE(config.value(row), 65535.0);
+        QVERIFY(!config.moveValue(row, 1));
+        QCOMPARE(config.getLoggerFlag(), 65535u);
+        QVERIFY(config.setValue(row, 4294967295.0));
+        QVERIFY(!config.setValue(row, 1e10));
+        QCOMPARE(config.getLoggerFlag(), 4294967295u);
+        QVERIFY(config.setValue(row, -1));
+        QCOMPARE(config.getLoggerFlag(), 0u);
+        QVERIFY(config.setValue(row, 12));
+        QCOMPARE(SettingConfig().getLoggerFlag(), 12u);
+    }
+
     void theFileMayHoldWhatNoEditorWouldSet()
     {
         RootFiles::write(SettingConfig::filePath(), "TRANS_THRESHOLD=9000\nRATIO_IFENZI=0\n");
