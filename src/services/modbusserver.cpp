@@ -120,8 +120,9 @@ void ServerLoop::acceptClient()
     const int client = ::accept4(m_listening, nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK);
     if (client < 0) {
         // A newcomer that gave up between the two calls is nothing to wait for.
+        const int error = errno; // before printing, which has errors of its own
         LineOutput::print("Modbus Server accept error.\n");
-        if (errno != EAGAIN && errno != ECONNABORTED)
+        if (error != EAGAIN && error != ECONNABORTED)
             pause();
         return;
     }
