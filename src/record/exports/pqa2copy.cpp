@@ -33,8 +33,10 @@ void Pqa2Copy::put(bool isLast)
     qint64 at = 0;
     while (at < m_block.size) {
         const QByteArray piece = m_from->copy(m_block, at, kPiece);
-        if (piece.isEmpty())
-            break; // the file has become shorter: zeros
+        if (piece.isEmpty()) {
+            m_isShort = true; // the file has become shorter
+            return;
+        }
         m_to->write(piece);
         at += piece.size();
     }
@@ -44,8 +46,9 @@ void Pqa2Copy::put(bool isLast)
 
 void Pqa2Copy::addEnd(quint32 seconds)
 {
-    if (m_hasBlock)
-        put(false);
+    if (!m_hasBlock)
+        return; // nothing that could end
+    put(false);
     m_hasBlock = false;
     putHead(m_to, { kPqa2LastBlock, Pqa2EndTime, sizeof seconds });
     m_to->write(reinterpret_cast<const char *>(&seconds), sizeof seconds);
@@ -56,5 +59,5 @@ bool Pqa2Copy::finish()
 {
     if (m_hasBlock)
         put(true);
-    return m_end > qint64(sizeof kPqa2FileHeader);
+    return m_end > qint64(sizeof kPqa2FileHeader) && !m_isShort;
 }

@@ -11,9 +11,9 @@ public:
     Pqa2Copy(Pqa2Walk *from, OutputFile *to);
 
     void add(const Pqa2Block &block);
-    /// The end of the recording, s since 1970, behind all blocks.
+    /// The end of the recording, s since 1970, behind all blocks; none where there are none.
     void addEnd(quint32 seconds);
-    /// Writes the last one. False: there was no block at all.
+    /// Writes the last one. False: there was no block at all, or one of them is gone meanwhile.
     bool finish();
 
 private:
@@ -23,5 +23,6 @@ private:
     OutputFile *m_to;
     Pqa2Block m_block; // that waits
     bool m_hasBlock = false;
+    bool m_isShort = false; // a block is no longer whole in the file
     qint64 m_end = 0; // of what was written
 };

@@ -147,29 +147,32 @@ Recovery::Result Recovery::copyCapture(const RecordFileReport &file, OutputFile 
     openInput(&in, file.path);
     WaveFileReader counting(&in);
     WaveFileHeader header = counting.header();
-    if (!header.isValid() || header.sampleRate == 0)
+    if (header.sampleRate == 0) // as without a head
         return Nothing;
     header.frames = 0;
     for (WaveChunk chunk; counting.next(&chunk);)
         header.frames += quint64(chunk.frames);
     to.write(reinterpret_cast<const char *>(&header), sizeof header);
     WaveFileReader reader(&in);
-    for (WaveChunk chunk; reader.next(&chunk);) {
-        const quint32 length = quint32(chunk.frames * kWaveFrameBytes);
+    qint64 left = qint64(header.frames); // what comes meanwhile is left out
+    for (WaveChunk chunk; left > 0 && reader.next(&chunk);) {
+        const qint64 taken = qMin(left, chunk.frames);
+        const quint32 length = quint32(taken * kWaveFrameBytes);
         to.write(reinterpret_cast<const char *>(&length), sizeof length);
-        for (qint64 at = 0; at < chunk.frames;) {
-            const QByteArray frames = reader.frames(chunk, at);
+        for (qint64 at = 0; at < taken;) {
+            const QByteArray frames = reader.frames(chunk, at, taken - at);
             if (frames.isEmpty())
                 return Nothing; // the file has become shorter
             to.write(frames);
             at += frames.size() / kWaveFrameBytes;
         }
+        left -= taken;
         if (to.hasFailed())
             return Failed;
         if (!goesOn(chunk.offset, file.size))
             return Ended;
     }
-    return Done;
+    return left == 0 ? Done : Nothing;
 }
 
 /// A picture and a record are of use only as a whole; one that is not is left out.
