@@ -6,6 +6,7 @@
 #include <QFile>
 
 #include <cerrno>
+#include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
 #include <linux/fs.h>
@@ -15,10 +16,12 @@
 
 namespace {
 
-/// rename(2) with flags. The C library of the oldest boards lacks the call.
+/// rename(2), with flags where there are any. The C library of the oldest boards lacks the call.
 bool renamed(const QString &from, const QString &to, unsigned flags)
 {
     const QByteArray source = QFile::encodeName(from), target = QFile::encodeName(to);
+    if (flags == 0)
+        return ::rename(source.constData(), target.constData()) == 0;
     return ::syscall(SYS_renameat2, AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), flags) == 0;
 }
 
@@ -82,7 +85,7 @@ bool Output::fail(const QString &name, const QString &reason)
 
 bool Output::refuse(const QString &reason)
 {
-    m_isRefused = m_isRefused || m_error.isEmpty();
+    m_isRefused = true;
     return fail({}, reason);
 }
 
@@ -102,24 +105,22 @@ bool Output::isFree()
 {
     if (m_target.isEmpty())
         return refuse(QStringLiteral("a name is missing"));
-    if (!exists(m_target))
+    struct stat info;
+    if (!exists(m_target, &info))
         return errno == ENOENT || failBySystem();
     if (!m_place.force)
         return refuse(QStringLiteral("is there already (--force replaces it)"));
-    return isReplaceable();
+    return isReplaceable(info.st_mode);
 }
 
 /// What no export wrote is the user's, and --force was not said to it.
-bool Output::isReplaceable()
+bool Output::isReplaceable(quint32 mode)
 {
-    struct stat info;
-    if (!exists(m_target, &info))
-        return failBySystem();
-    if (m_kind == File && !S_ISREG(info.st_mode))
+    if (m_kind == File && !S_ISREG(mode))
         return refuse(QStringLiteral("is no ordinary file and is not replaced"));
     if (m_kind == File)
         return !isRecording(m_target) || refuse(QStringLiteral("is a recording and is not replaced"));
-    if (!S_ISDIR(info.st_mode))
+    if (!S_ISDIR(mode))
         return refuse(QStringLiteral("is no folder and is not replaced"));
     return holdsNothingElse();
 }

@@ -49,7 +49,7 @@ public:
 
 private:
     bool isFree();
-    bool isReplaceable();
+    bool isReplaceable(quint32 mode);
     bool holdsNothingElse();
     bool isOurs(const QString &name, bool isFile);
     bool isApartFromInput();

@@ -1,5 +1,6 @@
 #include "record/exports/output.h"
 #include "record/exports/outputfile.h"
+#include "refusedcalls.h"
 
 #include <QDir>
 #include <QFile>
@@ -67,6 +68,14 @@ private slots:
     void nothingIsWrittenIntoTheInput();
     void whatAppearsMeanwhileStays();
     void missingFolderAndMissingNameAreNamed();
+    void placeThatCannotBeNamesItsReason();
+    void nothingIsMadeBesideAThousandLeftovers();
+    void firstThingThatWentWrongIsTold();
+    void folderWhoseInsideMayNotBeSeenStays();
+    void diskWithoutFlagsOfRenaming_data();
+    void diskWithoutFlagsOfRenaming();
+    void diskThatRefusesTheNewName_data();
+    void diskThatRefusesTheNewName();
     void slashAtTheEndOfAFolderIsNothing();
     void largePiecesAndSmallOnesStandInOrder();
     void refusedWriteIsToldWhenTheFileIsClosed();
@@ -314,6 +323,156 @@ void TstOutput::missingFolderAndMissingNameAreNamed()
     QVERIFY(!nameless.begin());
     QVERIFY(nameless.error().contains("a name is missing"));
     QCOMPARE(names(), QStringList());
+}
+
+void TstOutput::placeThatCannotBeNamesItsReason()
+{
+    put(at("file"), "mine");
+    const QString tooLong = m_folder->filePath(QString(300, QLatin1Char('x')));
+    const struct
+    {
+        QString target;
+        int reason;
+    } cases[] = { { tooLong, ENAMETOOLONG }, { at("file/out"), ENOTDIR }, { "/proc/out", ENOENT } };
+    for (const auto &c : cases) {
+        for (const Output::Kind kind : { Output::File, Output::Folder }) {
+            Output output(kind, { c.target, QString(), false });
+            QVERIFY2(!output.begin() && !output.finish(), qPrintable(c.target));
+            QCOMPARE(output.error(), c.target + ": " + qt_error_string(c.reason));
+            QVERIFY(!output.isRefused());
+        }
+    }
+    // What holds everything is the input, wherever the output is to lie.
+    Output everywhere(Output::File, { at("out"), "/", false });
+    QVERIFY(!everywhere.begin() && everywhere.isRefused());
+    QVERIFY2(everywhere.error().contains("lies in what is read"), qPrintable(everywhere.error()));
+    QCOMPARE(names(), QStringList("file"));
+}
+
+void TstOutput::nothingIsMadeBesideAThousandLeftovers()
+{
+    for (int i = 0; i < 1000; ++i)
+        put(m_folder->filePath(QStringLiteral(".quvera-partial-%1-%2").arg(::getpid()).arg(i)), "left");
+    {
+        Output output(Output::File, { at("out"), QString(), false });
+        QVERIFY(!output.begin());
+        QCOMPARE(output.error(), at("out") + ": " + qt_error_string(EEXIST));
+        QVERIFY(QFile::remove(m_folder->filePath(QStringLiteral(".quvera-partial-%1-999").arg(::getpid()))));
+        QVERIFY(output.begin());
+    }
+    QCOMPARE(names().size(), 999); // those of others stay
+}
+
+void TstOutput::firstThingThatWentWrongIsTold()
+{
+    Output output(Output::Folder, { at("out"), QString(), false });
+    QVERIFY(!output.finish() && output.error().isEmpty()); // was not begun
+    QVERIFY(output.begin() && output.makeFolder("waveforms"));
+    QVERIFY(!output.makeFolder("waveforms"));
+    QVERIFY(!output.fail("rms.csv", "no room"));
+    QCOMPARE(output.error(), at("out/waveforms") + ": " + qt_error_string(EEXIST));
+    QVERIFY(!output.finish() && !output.isRefused());
+    // What was not said to write into folders replaces none that holds anything.
+    QVERIFY(QDir(m_folder->path()).mkdir("earlier"));
+    put(at("earlier/rms.csv"), "earlier");
+    Output blind(Output::Folder, { at("earlier"), QString(), true });
+    QVERIFY(!blind.begin() && blind.isRefused());
+}
+
+void TstOutput::folderWhoseInsideMayNotBeSeenStays()
+{
+    constexpr uid_t kNobody = 65534; // for a superuser, who may see everything
+    const uid_t user = ::geteuid();
+    const QString before = QDir::currentPath();
+    QVERIFY(QDir(m_folder->path()).mkpath("out/shut") && QDir::setCurrent(m_folder->path()));
+    put("out/shut/rms.csv", "earlier");
+    QCOMPARE(::chmod(".", 0777) + ::chmod("out", 0777) + ::chmod("out/shut", 0), 0);
+    QVERIFY(user != 0 || ::seteuid(kNobody) == 0);
+    Output output(Output::Folder, { "out", QString(), true }, isTableName);
+    const bool isBegun = output.begin();
+    QVERIFY(user != 0 || ::seteuid(user) == 0);
+    QCOMPARE(::chmod("out/shut", 0700), 0);
+    QVERIFY(QDir::setCurrent(before));
+    QVERIFY(!isBegun && !output.isRefused());
+    QCOMPARE(output.error(), "out: " + qt_error_string(EACCES));
+    QCOMPARE(contentOf(at("out/shut/rms.csv")), QByteArray("earlier"));
+}
+
+void TstOutput::diskWithoutFlagsOfRenaming_data()
+{
+    QTest::addColumn<int>("reason");
+    QTest::newRow("file system") << EINVAL;
+    QTest::newRow("kernel") << ENOSYS;
+}
+
+void TstOutput::diskWithoutFlagsOfRenaming()
+{
+    QFETCH(int, reason);
+    RefusedCalls::flags = reason;
+    {
+        Output file(Output::File, { at("file"), QString(), false });
+        QVERIFY(file.begin() && fill(file.path(), "new"));
+        QVERIFY2(file.finish(), qPrintable(file.error()));
+        Output late(Output::File, { at("late"), QString(), false });
+        QVERIFY(late.begin());
+        put(at("late"), "mine"); // meanwhile
+        QVERIFY(!late.finish());
+        QCOMPARE(late.error(), at("late") + ": " + qt_error_string(EEXIST));
+    }
+    for (const bool isEarlierThere : { false, true }) {
+        Output folder(Output::Folder, { at("out"), QString(), isEarlierThere }, isTableName);
+        QVERIFY(folder.begin() && fill(folder.path() + (isEarlierThere ? "/power.csv" : "/rms.csv"), "new"));
+        QVERIFY2(folder.finish(), qPrintable(folder.error()));
+    }
+    RefusedCalls::flags = 0;
+    QCOMPARE(names(), QStringList({ "file", "late", "out" }));
+    QCOMPARE(contentOf(at("file")), QByteArray("new"));
+    QCOMPARE(contentOf(at("late")), QByteArray("mine"));
+    QCOMPARE(QDir(at("out")).entryList(QDir::Files), QStringList("power.csv"));
+}
+
+void TstOutput::diskThatRefusesTheNewName_data()
+{
+    QTest::addColumn<int>("flags"); // answer to a name with flags
+    QTest::addColumn<int>("plain"); // name without that is refused, counted from 0
+    QTest::newRow("a name with flags") << EIO << -1;
+    QTest::newRow("the earlier folder's") << EINVAL << 0;
+    QTest::newRow("the new folder's") << EINVAL << 1;
+}
+
+void TstOutput::diskThatRefusesTheNewName()
+{
+    QFETCH(int, flags);
+    QFETCH(int, plain);
+    QVERIFY(QDir(m_folder->path()).mkdir("out"));
+    put(at("out/rms.csv"), "earlier");
+    {
+        Output folder(Output::Folder, { at("out"), QString(), true }, isTableName);
+        QVERIFY(folder.begin() && fill(folder.path() + "/rms.csv", "new"));
+        RefusedCalls::flags = flags;
+        RefusedCalls::plain = plain;
+        QVERIFY(!folder.finish());
+        RefusedCalls::flags = 0;
+        RefusedCalls::plain = -1;
+        QCOMPARE(folder.error(), at("out") + ": " + qt_error_string(EIO));
+    }
+    QCOMPARE(contentOf(at("out/rms.csv")), QByteArray("earlier"));
+    QCOMPARE(names(), QStringList("out"));
+    // A single file, with an earlier one and without.
+    for (const bool force : { true, false }) {
+        Output file(Output::File, { at(force ? "earlier" : "file"), QString(), force });
+        if (force)
+            put(at("earlier"), "mine");
+        QVERIFY(file.begin());
+        RefusedCalls::flags = EIO;
+        RefusedCalls::plain = 0;
+        QVERIFY(!file.finish());
+        RefusedCalls::flags = 0;
+        RefusedCalls::plain = -1;
+        QCOMPARE(file.error(), at(force ? "earlier" : "file") + ": " + qt_error_string(EIO));
+    }
+    QCOMPARE(contentOf(at("earlier")), QByteArray("mine"));
+    QVERIFY(!QFile::exists(at("file")));
 }
 
 void TstOutput::slashAtTheEndOfAFolderIsNothing()
