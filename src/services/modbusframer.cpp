@@ -5,7 +5,7 @@
 bool ModbusFramer::next(const quint8 **frame, int *length)
 {
     const int have = m_end - m_start;
-    if (!m_broken && have >= kLengthEnd) {
+    if (have >= kLengthEnd) { // a head that cannot be one is never passed
         const quint8 *head = m_bytes + m_start;
         const int protocol = head[2] << 8 | head[3];
         const int announced = head[4] << 8 | head[5];

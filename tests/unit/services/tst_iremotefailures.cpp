@@ -24,6 +24,7 @@ class TstIRemoteFailures : public QObject
     Q_OBJECT
 private slots:
     void takenPortEndsTheProcess();
+    void missingSocketEndsTheProcess_data();
     void missingSocketEndsTheProcess();
     void failedSendIsPrintedAndStopsThePicture();
     void errorStormSpinsNoCore_data();
@@ -45,14 +46,22 @@ void TstIRemoteFailures::takenPortEndsTheProcess()
     QVERIFY(child.readAllStandardOutput().contains("bind() 函数使用失败了.\r"));
 }
 
+void TstIRemoteFailures::missingSocketEndsTheProcess_data()
+{
+    QTest::addColumn<QString>("word");
+    QTest::newRow("no descriptor at all") << QStringLiteral("child-no-descriptors");
+    QTest::newRow("none but those that end its thread") << QStringLiteral("child-two-descriptors");
+}
+
 void TstIRemoteFailures::missingSocketEndsTheProcess()
 {
+    QFETCH(QString, word);
     QProcess child;
     // A leak checker needs descriptors at the end, and there are none to be had.
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
     child.setProcessEnvironment(environment);
-    child.start(QCoreApplication::applicationFilePath(), { QStringLiteral("child-no-descriptors") });
+    child.start(QCoreApplication::applicationFilePath(), { word });
     QVERIFY(child.waitForFinished(kPatience));
     QCOMPARE(child.exitStatus(), QProcess::NormalExit);
     QCOMPARE(child.exitCode(), 255);
@@ -140,6 +149,13 @@ int runChild(const QByteArray &word)
     const LowNumbers low; // nor must what the Modbus thread opens, whenever that is
     if (word == "child-no-descriptors") {
         const rlimit limit = { 0, 0 };
+        setrlimit(RLIMIT_NOFILE, &limit);
+    }
+    if (word == "child-two-descriptors") {
+        low.release();
+        const int lowest = dup(STDERR_FILENO);
+        close(lowest);
+        const rlimit limit = { rlim_t(lowest) + 2, rlim_t(lowest) + 2 };
         setrlimit(RLIMIT_NOFILE, &limit);
     }
     IRemote remote(nullptr);

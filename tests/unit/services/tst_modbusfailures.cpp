@@ -224,6 +224,7 @@ void TstModbusFailures::newcomerIsTakenAfterAFailedAccept()
     ModbusClient client(own.port());
     QCOMPARE(client.ask(readInput(100, 1)), modelRead(100, 1));
     QCOMPARE(g_failing.left[Accept].load(), 0);
+    QCOMPARE(m_output->lines().filter(QStringLiteral("---connect new")).size(), 1); // the failed one is nobody
     QCOMPARE(g_failing.pauses.load(), pauses);
 }
 

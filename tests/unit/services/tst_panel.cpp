@@ -7,8 +7,10 @@
 #include <QElapsedTimer>
 #include <QImage>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPainter>
 #include <QSignalSpy>
+#include <QSplashScreen>
 #include <QTest>
 #include <QTimer>
 #include <QWidget>
@@ -27,6 +29,29 @@ class Question : public QDialog
 protected:
     void keyPressEvent(QKeyEvent *) override { accept(); }
 };
+
+/// A window that counts its keys.
+class Counting : public QDialog
+{
+public:
+    int keys = 0;
+
+protected:
+    void keyPressEvent(QKeyEvent *) override { ++keys; }
+};
+
+/// As a closed dialog may leave it: nobody has the keyboard.
+bool takeFocusFromAll()
+{
+    {
+        QDialog dialog;
+        dialog.setModal(true);
+        dialog.show();
+        if (!QTest::qWaitForWindowActive(&dialog))
+            return false;
+    }
+    return QTest::qWaitFor([] { return !QGuiApplication::focusObject(); });
+}
 
 /// A page whose colour the test sets. A key opens a dialog; when that is closed the page becomes red.
 class Page : public QWidget
@@ -111,6 +136,9 @@ private slots:
     void whoDidNotAskGetsNothing();
     void removedTakerIsNotCalledAgain();
     void takersBeyondTheirNumberAreRefused();
+    void keyWithoutAFocusGoesToTheVisibleWindowThatHadIt();
+    void keyWithoutAFocusGoesToTheOpenDialog();
+    void keyPassesTheSplashBy();
     void thereIsOnePanelAndItEndsWithItsLastUser();
 
 private:
@@ -372,6 +400,51 @@ void TstPanel::takersBeyondTheirNumberAreRefused()
     QCOMPARE(m_panel->addTaker(counter.taker()), 3);
     m_panel->removeTaker(-1);
     m_panel->removeTaker(Panel::kMostTakers);
+}
+
+void TstPanel::keyWithoutAFocusGoesToTheVisibleWindowThatHadIt()
+{
+    m_page->setFocus();
+    m_page->hide();
+    Counting window;
+    window.show();
+    window.setFocus();
+    QLabel plain(QStringLiteral("takes no keys"));
+    plain.setAttribute(Qt::WA_ShowWithoutActivating);
+    plain.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&plain));
+    QVERIFY(takeFocusFromAll());
+    Panel::postKey(QEvent::KeyPress, 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(window.keys, 1);
+}
+
+void TstPanel::keyWithoutAFocusGoesToTheOpenDialog()
+{
+    m_page->setFocus();
+    Counting dialog;
+    dialog.setModal(true);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(takeFocusFromAll()); // by a dialog in front of it
+    Panel::postKey(QEvent::KeyPress, 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(dialog.keys, 1);
+}
+
+void TstPanel::keyPassesTheSplashBy()
+{
+    m_page->hide();
+    Counting window;
+    window.show();
+    window.setFocus();
+    QSplashScreen splash(QPixmap(100, 100));
+    splash.show();
+    splash.activateWindow();
+    QTRY_VERIFY(QGuiApplication::focusObject() == &splash);
+    Panel::postKey(QEvent::KeyPress, 1);
+    QCoreApplication::processEvents();
+    QCOMPARE(window.keys, 1);
 }
 
 void TstPanel::thereIsOnePanelAndItEndsWithItsLastUser()

@@ -29,6 +29,8 @@ private slots:
     void hiddenTextsAreNotNoted();
     void rowsOfAListAreNoted();
     void paintedTextsAreNoted();
+    void blanksAndListsWithoutRowsAreNotNoted();
+    void windowWithoutAPageOrATitleIsPassedOver();
     void captionsOfTheSoftKeysNameTheirKeys();
     void openDialogIsInFront();
     void longTextsAreCut();
@@ -147,6 +149,7 @@ protected:
         painter.drawText(QRect(0, 40, 100, 20), Qt::AlignCenter, QStringLiteral("L2 DIP"));
         painter.drawText(QRect(0, 0, 100, 20), Qt::AlignCenter, QStringLiteral("TYPE"));
         painter.drawText(QRect(150, 0, 100, 20), Qt::AlignCenter, QStringLiteral("LEVEL"));
+        painter.drawText(QRect(150, 20, 100, 20), Qt::AlignCenter, QStringLiteral("  "));
     }
 };
 
@@ -160,6 +163,30 @@ void TstScreenNotes::paintedTextsAreNoted()
     QCOMPARE(note("Texts"), QStringLiteral("EVENTS : 1/1\nTYPE LEVEL\nL2 DIP 55.0"));
     table->hide();
     QCOMPARE(note("Texts"), QStringLiteral("EVENTS : 1/1"));
+}
+
+void TstScreenNotes::blanksAndListsWithoutRowsAreNotNoted()
+{
+    auto *list = new QListWidget(m_page);
+    list->setGeometry(0, 0, 300, 100);
+    list->addItems({ QStringLiteral("one"), QString(), QStringLiteral(" \n"), QStringLiteral("two") });
+    list->show();
+    auto *bare = new QListView(m_page); // without a model
+    bare->setGeometry(0, 200, 300, 100);
+    bare->show();
+    QCoreApplication::processEvents();
+    QCOMPARE(note("Texts"), QStringLiteral("one\ntwo"));
+}
+
+void TstScreenNotes::windowWithoutAPageOrATitleIsPassedOver()
+{
+    delete m_window->findChild<QLabel *>(QStringLiteral("name"));
+    QCOMPARE(note("Page"), QStringLiteral("QWidget"));
+    QVERIFY(!ScreenNotes::take().contains(QStringLiteral("Title")));
+    auto *stack = m_window->findChild<QStackedWidget *>(QStringLiteral("base_stackedWidget"));
+    while (stack->count() > 0)
+        stack->removeWidget(stack->widget(0));
+    QVERIFY(ScreenNotes::take().isEmpty());
 }
 
 void TstScreenNotes::captionsOfTheSoftKeysNameTheirKeys()
