@@ -14,7 +14,7 @@ set(QUVERA_CORE_FOLDERS platform model storage record)
 
 # How the preset "coverage" compiles. The counts stand in the mapped file as the program runs, so that a process that is
 # ended at once is counted, too. Inline functions are hidden, for a test's own copy, which counts nothing, would be called.
-set(QUVERA_COUNTING -fprofile-instr-generate -fcoverage-mapping -fvisibility-inlines-hidden
+set(QUVERA_COUNTING -fprofile-instr-generate -fprofile-update=atomic -fcoverage-mapping -fvisibility-inlines-hidden
     "SHELL:-mllvm -runtime-counter-relocation")
 
 # quvera_link_quickly(<target>): for what is linked by the hundred and never leaves the build folder. The program itself

@@ -56,8 +56,8 @@ void SettingConfig::readRow(const QByteArray &file, const SettingRow<SettingValu
         m_values.**member = value;
     } else if (const auto *mask = std::get_if<unsigned SettingValues::*>(&row.member)) {
         m_values.**mask = SettingText::toUnsigned(text);
-    } else if (const auto *real = std::get_if<double SettingValues::*>(&row.member)) {
-        m_values.**real = SettingText::toDouble(text);
+    } else {
+        m_values.*std::get<double SettingValues::*>(row.member) = SettingText::toDouble(text);
     }
 }
 

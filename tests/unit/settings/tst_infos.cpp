@@ -1,3 +1,4 @@
+#include <QSet>
 #include <QTest>
 
 #include "settings/config.h"
@@ -97,6 +98,19 @@ private slots:
         RecordInfo::m_recordItems = 0;
         RecordInfo::readSelectedParam();
         QCOMPARE(RecordInfo::m_recordItems, 0x807Fu);
+    }
+
+    void everyGroupOfTheRecorderHasTheFileOfItsItem()
+    {
+        QSet<QByteArray> names;
+        for (const RecordFileRow &file : recordFiles())
+            names << file.name;
+        QCOMPARE(names.size(), int(kRecordFiles));
+        QCOMPARE(recordFiles()[CommonFile].item, 0u); // always there
+        for (const RecordGroup &group : recordGroups()) {
+            if (group.file != CommonFile)
+                QCOMPARE(recordFiles()[size_t(group.file)].item, group.item);
+        }
     }
 
     void anHourOfARecordingIsCountedBlockByBlock_data()

@@ -81,7 +81,10 @@ private slots:
 
     void koreanSignsComeFromTheAsianFace()
     {
-        QVERIFY(QFile::copy(QStringLiteral(TEST_LANGUAGE_FILE), Target::path("/mnt/userfs/language/lang_ko.qm")));
+        for (const char *file : { "/mnt/userfs/language/lang_ru.qm", "/mnt/userfs/language/lang_ko.qm" })
+            QVERIFY(QFile::copy(QStringLiteral(TEST_LANGUAGE_FILE), Target::path(file)));
+        languageTranslator.initLangTranslation(UserConfig::RU);
+        QCOMPARE(QFont::substitutes("Liberation Sans"), QStringList()); // no other language needs one
         for (int time = 0; time < 2; ++time) {
             languageTranslator.initLangTranslation(UserConfig::KO);
             QCOMPARE(QApplication::font("QWidget").family(), QString("Liberation Sans"));
@@ -130,12 +133,14 @@ private slots:
         QTest::newRow("a message of nothing but its end") << hash << bytes({ 1 }) << nothing << true;
         QTest::newRow("no end") << hash << bytes({ 3, 0, 0, 0, 1, 'a' }) << nothing << false;
         QTest::newRow("a part without its length") << hash << bytes({ 3, 0, 0, 0 }) << nothing << false;
+        QTest::newRow("an end in place of the length") << hash << bytes({ 3, 1 }) << nothing << false;
         QTest::newRow("a part longer than the rest") << hash << bytes({ 3, 0, 0, 0, 2, 1 }) << nothing << false;
         QTest::newRow("a part of no known kind") << hash << bytes({ 9, 1 }) << nothing << false;
         QTest::newRow("a hash of three bytes") << hash.left(3) << bytes({ 1 }) << nothing << false;
         QTest::newRow("a hash without its place") << hash.left(4) << bytes({ 1 }) << nothing << false;
         QTest::newRow("a place behind the messages") << hash << nothing << nothing << false;
         QTest::newRow("a section without its length") << hash << bytes({ 1 }) << bytes({ 0x88, 0, 0 }) << false;
+        QTest::newRow("a section of its mark alone") << hash << bytes({ 1 }) << bytes({ 0x88 }) << false;
         QTest::newRow("a section longer than the file")
             << hash << bytes({ 1 }) << bytes({ 0x88, 0, 0, 0, 2, 0 }) << false;
         QTest::newRow("a section of no known kind") << hash << bytes({ 1 }) << bytes({ 0x43, 0, 0, 0, 0 }) << false;

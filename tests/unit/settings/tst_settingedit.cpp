@@ -163,6 +163,7 @@ private slots:
         QCOMPARE(range.moved(4.0, 99), 10.0);
         QCOMPARE((EditRange { 0, 0.2, 0.01 }.moved(0.07, 1)), 0.08); // 0.07 / 0.01 is not quite 7
         QCOMPARE(EditRange().moved(5.0, 1), 5.0); // nothing to step through
+        QCOMPARE((EditRange { 1, 10, 0 }.moved(4.0, 1)), 4.0); // bounds, but no step
         SettingConfig config;
         QVERIFY(config.moveValue(*SettingConfig::row("FLICKER_WEIGHTING_CURVE"), -1));
         QCOMPARE(config.getFlickerWeightingCurve(), 120);
