@@ -2,7 +2,6 @@
 
 #include "record/exports/pqdifobservation.h"
 #include "record/exports/pqdifquantity.h"
-#include "record/exports/waveformcheck.h"
 
 #include <algorithm>
 #include <cmath>
@@ -85,7 +84,7 @@ QVector<LineColumns> linesOf(const RecordTable &table, int *numbers)
 
 void PqdifTrends::table(int number, const RecordTable &table, const RecordFacts &facts)
 {
-    m_start = isCalendarTime(double(facts.start)) ? facts.start : 0;
+    m_start = facts.start;
     if (!isTrend(table.name))
         return;
     Trend trend;
@@ -119,7 +118,7 @@ void PqdifTrends::table(int number, const RecordTable &table, const RecordFacts 
 bool PqdifTrends::row(const RecordRow &row)
 {
     const auto trend = m_trends.find(row.table);
-    if (trend == m_trends.end() || trend->columns == 0 || !isCalendarTime(double(row.time)))
+    if (trend == m_trends.end() || trend->columns == 0)
         return true;
     trend->times.push_back(row.time);
     trend->cells.insert(trend->cells.end(), row.numbers, row.numbers + trend->columns);

@@ -23,6 +23,7 @@ public:
     /// Tables of happenings are no trends; their rows are passed over.
     void table(int number, const RecordTable &table, const RecordFacts &facts);
     bool has(int table) const { return m_trends.contains(table); }
+    /// Of a moment that a calendar has.
     bool row(const RecordRow &row);
     bool flush();
 

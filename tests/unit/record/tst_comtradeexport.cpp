@@ -85,6 +85,7 @@ private slots:
     void stationWithoutAModelIsTheFolderWhereOneStands();
     void ratiosOfTransformersAreTold_data();
     void ratiosOfTransformersAreTold();
+    void frequencyThatIsNoneOfANetworkIsTakenAsFifty();
     void numbersKeepTheirPointInAnyLanguage();
     void exportThatIsNotFinishedLeavesNothing();
     void replacesNothingButExports();
@@ -350,11 +351,12 @@ void TstComtradeExport::unusableWaveformHasNoPair()
 
 void TstComtradeExport::namesKeepFieldsAndLettersOfTheFormat()
 {
-    m_facts.model = QString::fromUtf8("Messger\xC3\xA4t \"A\", links\r\n50,5\xF0\x9F\x98\x80");
+    m_facts.model = QString::fromUtf8("Messger\xC3\xA4t \"A\", links\r\n50\x7F"
+                                      "5\xF0\x9F\x98\x80");
     m_facts.serialNumber = QString(100000, 'x');
     RecordedWaveform waveform = waveformOf({ "U_L1", "U_L1", "", "U,\n" }, 10240);
     waveform.channels[1].unit = "k V,1";
-    waveform.channels[2].unit = "%";
+    waveform.channels[2].unit = "%{\x7F}";
     waveform.channels[3].channel = "L1,";
     QVERIFY(write({ waveform }, { 1, 2, 3, 4 }));
     const Pair read = pair("0001_event");
@@ -417,6 +419,17 @@ void TstComtradeExport::ratiosOfTransformersAreTold()
         QCOMPARE(channel.side, 'P');
     }
     QCOMPARE(found, expected);
+}
+
+void TstComtradeExport::frequencyThatIsNoneOfANetworkIsTakenAsFifty()
+{
+    for (const double frequency : { 60.0, 400.0, 16.7, 0.0, -50.0, 1e6, 1e300 }) {
+        m_facts.nominalFrequency = frequency;
+        QVERIFY(write({ waveformOf({ "U_L1" }, 10240) }, { 5 }));
+        const Pair read = pair("0001_event");
+        QCOMPARE(read.fault, QString());
+        QCOMPARE(read.frequency, frequency > 0 && frequency < 1000 ? frequency : 50.0);
+    }
 }
 
 void TstComtradeExport::numbersKeepTheirPointInAnyLanguage()

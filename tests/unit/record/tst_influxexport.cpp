@@ -20,6 +20,8 @@ private slots:
     void instrumentIsItsSerialNumberOrItsModel_data();
     void instrumentIsItsSerialNumberOrItsModel();
     void whatHappenedInTheSameMillisecondStaysApart();
+    void aMillionRowsOfOneMillisecondHaveNanosecondsAndNoMore();
+    void partOfAWholeNumberIsNoValue();
     void timesBeyondNanosecondsAreCountedAndLeftOut();
     void unfinishedExportLeavesNothing();
 
@@ -104,6 +106,36 @@ void TstInfluxExport::whatHappenedInTheSameMillisecondStaysApart()
             times += line.mid(line.lastIndexOf(' '));
     }
     QCOMPARE(times, QByteArray(" 0 1 2 1000000 0"));
+}
+
+void TstInfluxExport::aMillionRowsOfOneMillisecondHaveNanosecondsAndNoMore()
+{
+    constexpr int kLast = 999999; // row that has a nanosecond of its own
+    InfluxExport influx({ out(), QString(), false });
+    QVERIFY(influx.begin(RecordFacts()));
+    QVERIFY(influx.table(0, { "frequency", { column("f", Statistic::Mean, "", "Hz") } }));
+    for (int i = 0; i < kLast; ++i)
+        QVERIFY(row(&influx, 0, 1, { kNone })); // takes its time, but has no value to be told
+    for (int i = 0; i < 3; ++i)
+        QVERIFY(row(&influx, 0, 1, { double(50 + i) }));
+    QVERIFY(row(&influx, 0, 2, { 60 }) && influx.end(RecordFacts()));
+    QCOMPARE(contentOf(out()),
+             QByteArray("frequency,instrument=unknown f_mean=50 1999999\n"
+                        "frequency,instrument=unknown f_mean=60 2000000\n"
+                        "# 2 rows are missing: nanoseconds do not reach their time\n"));
+}
+
+void TstInfluxExport::partOfAWholeNumberIsNoValue()
+{
+    InfluxExport influx({ out(), QString(), false });
+    QVERIFY(influx.begin(RecordFacts()));
+    QVERIFY(influx.table(0, { "events", { column("number", Statistic::None, "", "", CellType::Integer) } }));
+    for (const double number : { 1.0, 1.5, -2.0, kNone })
+        QVERIFY(row(&influx, 0, 1, { number }));
+    QVERIFY(influx.end(RecordFacts()));
+    QCOMPARE(contentOf(out()),
+             QByteArray("events,instrument=unknown number=1i 1000000\n"
+                        "events,instrument=unknown number=-2i 1000002\n"));
 }
 
 void TstInfluxExport::timesBeyondNanosecondsAreCountedAndLeftOut()
