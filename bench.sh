@@ -1,9 +1,10 @@
 #!/bin/bash
-# Builds the benchmarks and prints each figure beside its limit in the same run, as a ratio.
+# Builds the benchmarks and prints each figure beside its limit in the same run, as a ratio; then the figures of
+# the board's build, as they were counted last.
 # Usage: ./bench.sh [name...]    (names of tests/bench without "bench_"; default: all)
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd) || exit 1
 . "$top/packaging/common.sh"
-case "${1:-}" in -h|--help) sed -n '2,3s/^# //p' "$0"; exit 0 ;; esac
+case "${1:-}" in -h|--help) sed -n '2,4s/^# //p' "$0"; exit 0 ;; esac
 
 names=$(sed -n 's/^ *quvera_bench(\(bench_[a-z0-9_]*\).*/\1/p' "$top"/tests/bench/CMakeLists.txt | sort)
 for name in "$@"; do
@@ -22,4 +23,5 @@ for name in $names; do
     echo "== ${name#bench_}"
     "$top/tests/with-root" "$top/build/bench/$name" || status=1
 done
+[ $# -ne 0 ] || { echo "== board"; board_figures; }
 exit $status

@@ -35,6 +35,68 @@ for kind in CapInh CapPrm CapEff CapBnd CapAmb; do
 done
 say "it has its rights of root and no others: $expected"
 
+# The user tries to become root. Whoever is root can make the mark, nobody else.
+mark=/root/mark
+as_user() { runuser -u quvera -- "$@"; }
+is_no_root() { [ ! -e "$mark" ] || fail "its user became root by $1"; }
+
+# By the settings of the service: programs of its own in place of those that board-rights calls, and a file that makes it call them.
+own=/var/lib/quvera/own
+as_user mkdir -p $own/bin $own/sys/class/backlight/backlight
+as_user touch $own/sys/class/backlight/backlight/brightness
+for program in chgrp chmod ps udevadm; do
+    printf '#!/bin/sh\ntouch %s\n' "$mark" >$own/bin/$program
+    chmod 755 $own/bin/$program
+done
+settings="PATH=$own/bin:/usr/sbin:/usr/bin:/sbin:/bin
+QUVERA_ROOT=$own"
+cp -p /etc/quvera/board.conf /root/board.conf
+wrote=no
+# shellcheck disable=SC2016  # for the shell that runs it
+if as_user sh -c 'rm -f /etc/quvera/board.conf; echo "$0" >>/etc/quvera/board.conf' "$settings" 2>/dev/null; then wrote=yes; fi
+systemctl restart quvera.service || true
+is_no_root "settings that it wrote"
+[ $wrote = no ] || fail "its user may write the settings of the service"
+# Even such settings of root's reach nothing that runs as root.
+echo "$settings" >>/etc/quvera/board.conf
+systemctl restart quvera.service || true
+is_no_root "settings of the service"
+cp -p /root/board.conf /etc/quvera/board.conf
+systemctl reset-failed quvera.service
+systemctl restart quvera.service
+wait_for answers || fail "it does not answer with its own settings again"
+process=$(systemctl show -p MainPID --value quvera.service)
+rm -r $own
+say "its user cannot become root by settings of the service"
+
+# By the description of the network, which it may have put into use.
+network() { systemctl show -p InvocationID --value networking.service; }
+restarts_the_network() # COMMAND: as the user gives it
+{
+    before=$(network)
+    as_user env PATH="/usr/lib/quvera/scripts:$PATH" sh -c "$1" >&2 || true
+    [ "$(network)" != "$before" ] || fail "its user may not restart the network"
+}
+description=/etc/network/interfaces.d/quvera
+[ -e /packages/emulated ] || ip link add eth0 type veth peer name other0 || fail "no interface to try"
+# shellcheck disable=SC2016  # for the shell that runs it
+as_user sh -c 'printf "auto lo:9\niface lo:9 inet static\n    address 127.0.0.9\n    netmask 255.0.0.0\n    pre-up touch %s\n" "$0" |
+    tee /var/lib/quvera/interfaces >/etc/network/interfaces.d/quvera' "$mark" 2>/dev/null || true
+# shellcheck disable=SC2016
+as_user sh -c 'printf "USE_DHCP=0\nIPADDR=192.168.7.9;touch %s\nGATEWAY=\n    pre-up touch %s\nMAC=02:00:00:00:00:01 pre-up touch %s\n" \
+    "$0" "$0" "$0" >/mnt/userfs/config/eth0.conf' "$mark"
+restarts_the_network '/etc/init.d/networking restart'
+is_no_root "the description of the network"
+[ "$(stat -c %F:%U:%a $description)" = "regular file:root:644" ] || fail "whose is the network's description?"
+grep -qx '    address 192.168.2.100' $description || fail "an address that is none was taken"
+! grep -q 'touch\|hwaddress' $description || fail "a command is in the network's description"
+printf 'USE_DHCP=0\nIPADDR=192.168.7.9\nNETMASK=255.255.255.0\nGATEWAY=192.168.7.1\n' | as_user tee /mnt/userfs/config/eth0.conf >/dev/null
+restarts_the_network 'networking.sh eth0;/etc/init.d/networking restart; sleep 1' # as the page does
+grep -qx '    address 192.168.7.9' $description || fail "the address of the page was not taken"
+[ ! -d /sys/class/net/eth0 ] || ip address show dev eth0 | grep -q ' 192\.168\.7\.9/24 ' ||
+    fail "the network has not the address of the page"
+say "its user may restart the network with its settings, and cannot become root by them"
+
 # The tools: each program has its manual page, and they do something.
 programs=0
 for program in $(dpkg -L quvera quvera-tools | grep -E '^/usr/(lib/quvera/)?bin/[a-z-]+$'); do
@@ -151,6 +213,14 @@ grep -q ' /opt/quvera/versions/99999/bin/quvera$' "/proc/$(main_process)/maps" |
 say "updated by the instrument's user: $first -> versions/99999"
 first=versions/99999
 
+# As an earlier package left it: a folder of the user's, who may have left links in it and in its other folders.
+chown -R quvera: /etc/quvera
+as_user sh -c 'echo "# kept" >>/etc/quvera/board.conf; ln -s /etc/shadow /etc/quvera/planted
+    printf "software 3\nfirmware 0\n" >/etc/quvera/update.minimum; rm -f /var/lib/quvera/update.minimum
+    cd /mnt/userfs; for folder in sys language; do mv $folder $folder.aside; ln -s /etc $folder; done'
+rm -f $description
+ln -s /var/lib/quvera/interfaces $description
+
 # An update is being written meanwhile.
 runuser -u quvera -- flock /opt/quvera/.lock sh -c 'echo held >/tmp/update.lock; sleep 5; echo ended >/tmp/update.lock' &
 wait_for test -s /tmp/update.lock
@@ -159,11 +229,20 @@ dpkg -i /packages/next.deb >&2
 wait_for answers || fail "it does not answer after the upgrade"
 grep -q mark=1 /mnt/userfs/config/user.conf && grep -q mark=1 /mnt/storage/recorded || fail "the upgrade lost settings"
 [ "$(readlink /opt/quvera/current)" != "$first" ] && [ "$(readlink /opt/quvera/previous)" = "$first" ] || fail "the versions"
+[ -z "$(find /etc/quvera ! -user root)" ] && [ ! -L /etc/quvera/planted ] || fail "its user can change settings of root's"
+[ "$(stat -c %U /etc/shadow)" = root ] || fail "the upgrade followed a link"
+grep -q '^# kept$' /etc/quvera/board.conf || fail "the upgrade lost screen and keys"
+[ "$(cat /var/lib/quvera/update.minimum)" = "software 3
+firmware 0" ] && [ ! -e /etc/quvera/update.minimum ] || fail "the oldest versions that are taken"
+[ ! -L $description ] && grep -qx '    address 192.168.7.9' $description || fail "the upgrade lost the network's description"
+[ ! -e /etc/limits ] && [ ! -L /etc/lang_ru.qm ] || fail "the upgrade wrote through links of the user's"
+as_user sh -c 'cd /mnt/userfs; for folder in sys language; do rm $folder; mv $folder.aside $folder; done'
 say "upgraded: $first -> $(readlink /opt/quvera/current), settings kept"
 
 dpkg -r quvera >&2
 ! systemctl is-active --quiet quvera.service || fail "it runs on after its removal"
 [ ! -e /opt/quvera/current ] || fail "the program stayed"
+[ ! -e $description ] || fail "the network's description stayed"
 grep -q mark=1 /mnt/userfs/config/user.conf || fail "the removal lost settings"
 say "removed, settings kept"
 

@@ -51,7 +51,7 @@ if [ -z "$once" ]; then
 fi
 
 say "2. Lintian"
-lintian --fail-on error --suppress-tags bad-distribution-in-changes-file "$out"/first/*.changes | tee "$out/lintian.log" >&2 ||
+lintian --fail-on error "$out"/first/*.changes | tee "$out/lintian.log" >&2 ||
     die "lintian finds errors"
 
 say "3. An update out of the package"
@@ -93,9 +93,11 @@ echo "QT_QPA_PLATFORM=offscreen" >"$root/etc/quvera/board.conf"
 container() { systemd-nspawn --quiet --directory="$root" --register=no --keep-unit "$@"; }
 container sh -c 'apt-get update && DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends \
     /packages/quvera_*.deb /packages/quvera-tools_*.deb' >"$out/install.log" 2>&1 || die "not installed: $out/install.log"
-container systemd-analyze verify /lib/systemd/system/quvera.service >&2 || die "systemd does not like the unit"
-container env SYSTEMD_COLORS=0 SYSTEMD_URLIFY=0 SYSTEMD_EMOJI=0 \
-    systemd-analyze security --offline=true --no-pager quvera.service 2>/dev/null | tail -n 1 >&2
+container systemd-analyze verify --man=no /lib/systemd/system/{quvera,quvera-board,networking}.service >&2 || die "systemd does not like the units"
+for unit in quvera quvera-board; do
+    container env SYSTEMD_COLORS=0 SYSTEMD_URLIFY=0 SYSTEMD_EMOJI=0 \
+        systemd-analyze security --offline=true --no-pager $unit.service 2>/dev/null | tail -n 1 >&2
+done
 
 cp "$here/inside.sh" "$root/packages/inside.sh"
 [ "$packages" = "$here/build" ] || touch "$root/packages/emulated"

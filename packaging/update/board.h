@@ -6,7 +6,7 @@
 namespace update {
 
 constexpr char kKeyFile[] = "/etc/quvera/update.pub"; // PEM, Ed25519
-constexpr char kStateFolder[] = "/etc/quvera";
+constexpr char kStateFolder[] = "/var/lib/quvera"; // the program's own; the key's folder is the maker's
 constexpr char kMinimumFile[] = "update.minimum"; // in it: a line "software N" and one "firmware N"
 constexpr char kSoftwareFolder[] = "/opt/quvera";
 constexpr char kVersionsFolder[] = "versions"; // in the software's folder: one folder for each installed version

@@ -35,6 +35,7 @@ const char *const kFolders[] = {
     "/sys/class/gpio",
     "/tmp/screenshots",
     "/usr/lib/fonts",
+    "/var/lib/quvera",
     "/var/log",
     "/var/run/wpa_supplicant",
 };

@@ -1,6 +1,6 @@
 // What the packages name is there, and is called by the names that the program has for it. Nothing is packed here:
 // packaging/debian/test.sh does that.
-#include "unit/architecture/sourcetext.h"
+#include "unit/architecture/packagetext.h"
 
 #include <QFileInfo>
 #include <QLibraryInfo>
@@ -11,47 +11,13 @@
 
 #include <unistd.h>
 
+using namespace PackageText;
+
 namespace {
 
-using SourceText::kTop;
-using SourceText::read;
-
-const QString kDebian = QStringLiteral("packaging/debian/debian/");
-const QString kUnit = kDebian + QStringLiteral("quvera.service");
 const QString kRights = QStringLiteral("packaging/board/board-rights");
 const QString kDisk = QStringLiteral("packaging/board/usb-disk");
 const QString kUdev = kDebian + QStringLiteral("quvera.udev");
-
-/// A file of the repository; a test that finds none fails by its content.
-QString text(const QString &path)
-{
-    return read(kTop + QLatin1Char('/') + path);
-}
-
-/// Everything in a text that a pattern's bracket catches.
-QStringList caught(const QString &all, const QString &pattern)
-{
-    QStringList found;
-    auto matches = QRegularExpression(
-                       pattern, QRegularExpression::MultilineOption | QRegularExpression::DotMatchesEverythingOption)
-                       .globalMatch(all);
-    while (matches.hasNext())
-        found << matches.next().captured(1);
-    return found;
-}
-
-/// Lines of a list, without its comments, as words.
-QVector<QStringList> rows(const QString &path)
-{
-    QVector<QStringList> found;
-    const QStringList lines = text(path).split(QLatin1Char('\n'));
-    for (const QString &line : lines) {
-        const QString bare = line.section(QLatin1Char('#'), 0, 0).simplified();
-        if (!bare.isEmpty())
-            found << bare.split(QLatin1Char(' '));
-    }
-    return found;
-}
 
 /// The install commands of the build.
 QStringList installs()
@@ -88,44 +54,6 @@ QStringList packages(const QString &path)
         names << row.first();
     return names;
 }
-
-/// Values of a setting of the service unit.
-QStringList unit(const QString &key)
-{
-    return caught(text(kUnit), QStringLiteral("^%1=([^\n]*)$").arg(key));
-}
-
-/// A root for the script of the disks, with stand-ins of the system's commands; those that mount are noted.
-class BoardCommands
-{
-public:
-    void answer(const char *name, const QByteArray &does = "exit 0")
-    {
-        QFile file(m_root.filePath(QLatin1String(name)));
-        QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        QByteArray note;
-        if (QByteArray(name).endsWith("mount"))
-            note = QByteArray("echo ") + name + " \"$@\" >>" + m_root.filePath("noted").toLocal8Bit() + "\n";
-        file.write("#!/bin/sh\n" + note + does + "\n");
-        QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-    }
-    int run(const QStringList &words)
-    {
-        QProcess script;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("QUVERA_ROOT"), root());
-        environment.insert(QStringLiteral("PATH"), root() + QStringLiteral(":/usr/bin:/bin"));
-        script.setProcessEnvironment(environment);
-        script.setProcessChannelMode(QProcess::ForwardedChannels);
-        script.start(kTop + QLatin1Char('/') + kDisk, words);
-        return script.waitForFinished(-1) ? script.exitCode() : -1;
-    }
-    QString root() const { return m_root.path(); }
-    QString noted() const { return read(m_root.filePath(QStringLiteral("noted"))); }
-
-private:
-    QTemporaryDir m_root;
-};
 
 } // namespace
 
@@ -270,7 +198,8 @@ void TstPackaging::serviceNamesWhatTheProgramReads()
     const QStringList settings = unit(QStringLiteral("EnvironmentFile"));
     QCOMPARE(settings, QStringList { QStringLiteral("-/etc/quvera/board.conf") });
     QVERIFY(text(kDebian + QStringLiteral("quvera.postinst"))
-                .contains(QStringLiteral("cp /usr/share/quvera/board.conf ") + settings.first().mid(1)));
+                .contains(QStringLiteral("cp --remove-destination /usr/share/quvera/board.conf ")
+                          + settings.first().mid(1)));
 }
 
 void TstPackaging::serviceStartsWhatUpdatesInstall()
@@ -282,7 +211,6 @@ void TstPackaging::serviceStartsWhatUpdatesInstall()
     QCOMPARE(unit(QStringLiteral("ExecStart")), QStringList { folder + QStringLiteral("/current/bin/quvera") });
     QVERIFY(unit(QStringLiteral("ReadWritePaths")).value(0).split(QLatin1Char(' ')).contains(folder));
     const QString postinst = text(kDebian + QStringLiteral("quvera.postinst"));
-    QVERIFY(postinst.contains(QStringLiteral("\nsoftware=%1\n").arg(folder)));
     QVERIFY(postinst.contains(QStringLiteral("\ncd %1\n").arg(folder)));
     QVERIFY(postinst.contains(QLatin1String("mv -fT .current current")));
 }
@@ -361,8 +289,8 @@ void TstPackaging::userIsTheSameEverywhere()
                 .contains(QStringLiteral("subject.user === \"%1\"").arg(user)));
     QVERIFY(text(kDebian + QStringLiteral("quvera.postinst")).contains(QStringLiteral("runuser -u %1 --").arg(user)));
     QCOMPARE(caught(text(kUdev), QStringLiteral("GROUP=\"([a-z]+)\"")), QStringList { user });
-    QCOMPARE(unit(QStringLiteral("ExecStartPre")),
-             QStringList { QStringLiteral("+/usr/lib/quvera/scripts/board-rights ") + user });
+    QVERIFY(text(QStringLiteral("packaging/board/quvera-board.service"))
+                .contains(QStringLiteral("\nExecStart=/usr/lib/quvera/scripts/board-rights %1\n").arg(user)));
     const QString page = text(QStringLiteral("docs/board.md"));
     QVERIFY(page.contains(QStringLiteral("as the user `%1`").arg(user)));
     // Its rights are those that the page lists, and the commands that it calls get no others.
@@ -515,7 +443,7 @@ void TstPackaging::diskIsTheUsersToWrite_data()
 void TstPackaging::diskIsTheUsersToWrite()
 {
     QFETCH(QString, asked);
-    BoardCommands board;
+    BoardCommands board(kDisk);
     board.answer("findmnt", "exit 1");
     board.answer("blkid", QByteArray("echo ") + QTest::currentDataTag());
     board.answer("id", "echo 7");
@@ -554,7 +482,7 @@ void TstPackaging::diskThatCannotBeShownLeavesNothing()
     QFETCH(QByteArray, mounted);
     QFETCH(QString, name);
     QFETCH(int, result);
-    BoardCommands board;
+    BoardCommands board(kDisk);
     board.answer("findmnt", elsewhere);
     board.answer("blkid", kind);
     board.answer("id", "echo 7");

@@ -24,7 +24,7 @@ public:
     explicit UpdateDesk(const QString &below = quickDisk()) : m_folder(below + QStringLiteral("/update.XXXXXX"))
     {
         update::makeKeys(&privateKey, &publicKey);
-        for (const char *folder : { "/etc/quvera", "/opt/quvera", "/tmp", "/usb" })
+        for (const char *folder : { "/etc/quvera", "/opt/quvera", "/tmp", "/usb", "/var/lib/quvera" })
             QDir().mkpath(path(folder));
         write(path(update::kKeyFile), QByteArray::fromStdString(publicKey));
     }

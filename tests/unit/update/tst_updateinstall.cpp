@@ -274,13 +274,13 @@ void TstUpdateInstall::minimumIsRaisedOnlyByAnUpdateThatCounts()
     UpdateDesk desk;
     QVERIFY(QDir().mkpath(desk.path("/opt/quvera/current/x")));
     QCOMPARE(desk.unpack(desk.softwarePackage(kNew, 3, 3)).status, int(NotInstalled));
-    QVERIFY(!QFile::exists(desk.path("/etc/quvera/update.minimum")));
+    QVERIFY(!QFile::exists(desk.path("/var/lib/quvera/update.minimum")));
 }
 
 void TstUpdateInstall::versionThatADiskReadsWronglyAtFirstIsTheSignedOne()
 {
     UpdatedDesk desk;
-    UpdateDesk::write(desk.path("/etc/quvera/update.minimum"), "software 50\n");
+    UpdateDesk::write(desk.path("/var/lib/quvera/update.minimum"), "software 50\n");
     const QString package = put(desk, desk.softwarePackage(kNew, 3));
     const QString placeOfVersion = QStringLiteral("16");
     // First read as 67, which would be allowed.

@@ -150,7 +150,8 @@ void TstUpdatePackage::signatureOfAnotherKeyIsRefused()
 void TstUpdatePackage::olderPackageThanAllowedIsRefused()
 {
     UpdateDesk desk;
-    UpdateDesk::write(desk.path("/etc/quvera/update.minimum"), "software 7\nsoftware 3\nfirmware 2\n"); // the largest
+    UpdateDesk::write(desk.path("/var/lib/quvera/update.minimum"),
+                      "software 7\nsoftware 3\nfirmware 2\n"); // the largest
     refuses(desk, desk.softwarePackage(kFiles, 6), "it is older than allowed");
     refuses(desk, desk.firmwarePackage("image", 1), "it is older than allowed");
     QCOMPARE(int(desk.unpack(desk.softwarePackage(kFiles, 7)).status), int(Done));
@@ -161,10 +162,10 @@ void TstUpdatePackage::minimumOnlyRisesAndBelongsToAKind()
 {
     UpdateDesk desk;
     QCOMPARE(int(desk.unpack(desk.softwarePackage(kFiles, 9, 5)).status), int(Done));
-    QCOMPARE(UpdateDesk::read(desk.path("/etc/quvera/update.minimum")), QByteArray("software 5\nfirmware 0\n"));
+    QCOMPARE(UpdateDesk::read(desk.path("/var/lib/quvera/update.minimum")), QByteArray("software 5\nfirmware 0\n"));
     QCOMPARE(int(desk.unpack(desk.firmwarePackage("image", 4, 4)).status), int(Done));
     QCOMPARE(int(desk.unpack(desk.softwarePackage(kFiles, 6, 2)).status), int(Done));
-    QCOMPARE(UpdateDesk::read(desk.path("/etc/quvera/update.minimum")), QByteArray("software 5\nfirmware 4\n"));
+    QCOMPARE(UpdateDesk::read(desk.path("/var/lib/quvera/update.minimum")), QByteArray("software 5\nfirmware 4\n"));
     QCOMPARE(int(desk.unpack(desk.softwarePackage(kFiles, 4)).status), int(Refused));
 }
 
@@ -187,7 +188,7 @@ void TstUpdatePackage::minimumThatCannotBeReadLetsNothingIn()
 {
     QFETCH(QByteArray, content);
     UpdateDesk desk;
-    const QString path = desk.path("/etc/quvera/update.minimum");
+    const QString path = desk.path("/var/lib/quvera/update.minimum");
     if (content.isNull())
         QVERIFY(QDir().mkpath(path));
     else
@@ -205,7 +206,7 @@ void TstUpdatePackage::minimumThatCannotBeReadLetsNothingIn()
 void TstUpdatePackage::minimumThatNamesOneKindAllowsAllOfTheOther()
 {
     UpdateDesk desk;
-    UpdateDesk::write(desk.path("/etc/quvera/update.minimum"), "firmware 2\n");
+    UpdateDesk::write(desk.path("/var/lib/quvera/update.minimum"), "firmware 2\n");
     QCOMPARE(int(desk.unpack(desk.softwarePackage(kFiles, 1)).status), int(Done));
     QCOMPARE(int(desk.unpack(desk.firmwarePackage("image", 1)).status), int(Refused));
 }
