@@ -79,6 +79,8 @@ private slots:
     void slashAtTheEndOfAFolderIsNothing();
     void largePiecesAndSmallOnesStandInOrder();
     void refusedWriteIsToldWhenTheFileIsClosed();
+    void interruptedWriteGoesOn();
+    void diskThatTakesNothingIsTold();
     void fileNeverFollowsALink();
     void inputHasTheNameThatStandsInItsFolder();
 
@@ -526,6 +528,41 @@ void TstOutput::refusedWriteIsToldWhenTheFileIsClosed()
     OutputFile closedFile;
     closedFile.write("x");
     QVERIFY(!closedFile.close());
+}
+
+void TstOutput::interruptedWriteGoesOn()
+{
+    OutputFile file;
+    QVERIFY(file.open(at("out")));
+    RefusedCalls::write = -EINTR;
+    file.write(QByteArray(200000, 'x'));
+    QVERIFY(!file.hasFailed() && file.close());
+    QCOMPARE(contentOf(at("out")), QByteArray(200000, 'x'));
+}
+
+void TstOutput::diskThatTakesNothingIsTold()
+{
+    OutputFile file;
+    QVERIFY(file.open(at("out")));
+    RefusedCalls::write = 0;
+    file.write(QByteArray(200000, 'x'));
+    RefusedCalls::close = ENOSPC; // behind what went wrong first
+    QVERIFY(file.hasFailed() && !file.close());
+    QCOMPARE(file.reason(), qt_error_string(EIO));
+    QVERIFY(file.open(at("out")));
+    file.write("x");
+    RefusedCalls::close = ENOSPC;
+    QVERIFY(!file.hasFailed() && !file.close());
+    QCOMPARE(file.reason(), qt_error_string(ENOSPC));
+    for (const Output::Kind kind : { Output::File, Output::Folder }) {
+        Output output(kind, { at("late"), QString(), false });
+        QVERIFY(output.begin());
+        RefusedCalls::sync = EIO;
+        QVERIFY(!output.finish());
+        RefusedCalls::sync = 0;
+        QCOMPARE(output.error(), at("late") + ": " + qt_error_string(EIO));
+    }
+    QCOMPARE(names(), QStringList("out"));
 }
 
 void TstOutput::fileNeverFollowsALink()

@@ -39,6 +39,7 @@ private slots:
     void recordingOfGapsHasChannelsAndNoValues();
     void channelsWithTimesOfTheirOwnHaveThem();
     void columnsOfOneChannelAreOfTheLargerKind();
+    void captureOfExactlyAPieceIsOneObservation();
     void signsInsideAQuantityStay();
     void dayWithoutAnythingMakesNoFile();
     void nextFileThatIsThereEndsTheExport_data();
@@ -262,6 +263,18 @@ void TstPqdifParts::columnsOfOneChannelAreOfTheLargerKind()
     QString fault;
     const auto found = channels(file, *file.observations()[0], &fault);
     QCOMPARE(found[0].series.mid(1), Series({ { kPrecise }, { 3 }, { 1 } })); // lowest, highest, mean
+}
+
+void TstPqdifParts::captureOfExactlyAPieceIsOneObservation()
+{
+    const QVector<qint16> samples(PqdifHappenings::kMostSamples);
+    QVERIFY(begin() && m_sink->waveformBegin(waveformOf(RecordedWaveform::Capture)));
+    QVERIFY(m_sink->waveformSamples(samples.constData(), samples.size() / 2) && m_sink->waveformEnd());
+    const File file = finish();
+    QCOMPARE(file.fault, QString());
+    QCOMPARE(file.observations().size(), size_t(1));
+    QString fault;
+    QCOMPARE(channels(file, *file.observations()[0], &fault)[0].series[1].size(), samples.size() / 2);
 }
 
 void TstPqdifParts::signsInsideAQuantityStay()
