@@ -127,6 +127,7 @@ private slots:
     void fullDiskIsNamedAndLeavesNothing();
     void fullDiskIsNamedForTheSmallestExport_data() { addKinds(); }
     void fullDiskIsNamedForTheSmallestExport();
+    void fullDiskIsNamedBetweenThePartsOfAWaveform();
     void fullDiskIsNamedInTheMidstOfADatabase();
     void withoutADescriptorLeftNothingIsLeft_data() { addKinds(); }
     void withoutADescriptorLeftNothingIsLeft();
@@ -229,6 +230,24 @@ void TstExportTroubles::fullDiskIsNamedForTheSmallestExport()
         }
         QCOMPARE(names(), QStringList());
     }
+}
+
+void TstExportTroubles::fullDiskIsNamedBetweenThePartsOfAWaveform()
+{
+    constexpr int kOfAPart = 2148; // samples, one a second: their stamps reach up to 2^31 us
+    RecordedWaveform slow = waveform(1);
+    slow.sampleRate = 1;
+    slow.channels.resize(1);
+    const QVector<qint16> samples(kOfAPart + 1);
+    {
+        ComtradeExport comtrade(place());
+        const FileLimit full(100);
+        QVERIFY(comtrade.begin(facts()) && comtrade.waveformBegin(slow));
+        QVERIFY(comtrade.waveformSamples(samples.constData(), kOfAPart)); // they wait
+        QVERIFY(!comtrade.waveformSamples(samples.constData(), 1));
+        QVERIFY2(isTold(comtrade, place().target) && isOfFullDisk(comtrade.error()), qPrintable(comtrade.error()));
+    }
+    QCOMPARE(names(), QStringList());
 }
 
 void TstExportTroubles::fullDiskIsNamedInTheMidstOfADatabase()
