@@ -213,8 +213,9 @@ void writeGroups(QXmlStreamWriter &xml, const monitor_limit &limit)
                                      : realText(words.real(attribute.word));
         xml.writeAttribute(QLatin1String(attribute.name), text);
     }
-    xml.writeEndElement(); // the last child
-    xml.writeEndElement(); // the last group
+    // The table ends with a group and its child: both are still open.
+    xml.writeEndElement();
+    xml.writeEndElement();
 }
 
 void readGroups(const QDomElement &root, monitor_limit *limit)

@@ -56,7 +56,7 @@ void SettingConfig::readRow(const QByteArray &file, const SettingRow<SettingValu
         m_values.**member = value;
     } else if (const auto *mask = std::get_if<unsigned SettingValues::*>(&row.member)) {
         m_values.**mask = SettingText::toUnsigned(text);
-    } else {
+    } else { // no row of this file holds a text
         m_values.*std::get<double SettingValues::*>(row.member) = SettingText::toDouble(text);
     }
 }

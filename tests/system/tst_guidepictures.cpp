@@ -169,6 +169,7 @@ void TstGuidePictures::livePicturesHaveTheTitleAndTheKeysOfThisProgram()
     compare([](const QString &) { return QRegion(kTitle) + kSoftKeys; });
 }
 
+/// Of what the tests before have compared; it fails where it runs alone.
 void TstGuidePictures::allButThoseOfFasterTimeAreCompared()
 {
     QStringList left;

@@ -103,6 +103,7 @@ bool PqdifExport::keep(const QByteArray &body, qint64 time)
 bool PqdifExport::end(const RecordFacts &facts)
 {
     m_facts.end = facts.end;
+    // What a call before could not keep would be missing.
     if (!m_error.isEmpty() || !flush())
         return false;
     // A recording without anything for such a file makes one without any, as it makes an empty folder of CSV.

@@ -147,7 +147,7 @@ Recovery::Result Recovery::copyCapture(const RecordFileReport &file, OutputFile 
     openInput(&in, file.path);
     WaveFileReader counting(&in);
     WaveFileHeader header = counting.header();
-    if (header.sampleRate == 0) // as without a head
+    if (header.sampleRate == 0) // which it is without a head, too
         return Nothing;
     header.frames = 0;
     for (WaveChunk chunk; counting.next(&chunk);)

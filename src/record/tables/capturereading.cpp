@@ -110,7 +110,7 @@ bool CaptureReading::readFrames(RecordSink &sink, const RecordedWaveform &wavefo
             const QByteArray bytes = reader.frames(chunk, at, qMin(left, WaveFileReader::kMostFrames));
             const int frames = bytes.size() / kWaveFrameBytes;
             if (frames == 0)
-                break;
+                break; // the file has become shorter, or nothing is left of what was seen
             samples.resize(std::size_t(frames) * inputs.size());
             auto *to = samples.data();
             for (int frame = 0; frame < frames; ++frame) {

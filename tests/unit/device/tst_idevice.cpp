@@ -39,7 +39,7 @@ private slots:
     void updateFramesPass();
     void olderClockCommandPasses();
     void datagramsCrossIntoTheMainThread();
-    void everyKindHasASlotThatRelaysIt();
+    void transientsAreRelayedThoughTheLinkBringsNone();
     void datagramAfterATurnBringsAnotherTurn();
     void clockSignalsAreRelayed();
     void versionIsTheInitialTextUntilTheProcessorAnswers();
@@ -391,10 +391,10 @@ void TstIDevice::datagramsCrossIntoTheMainThread()
     }
 }
 
-void TstIDevice::everyKindHasASlotThatRelaysIt()
+void TstIDevice::transientsAreRelayedThoughTheLinkBringsNone()
 {
     connectLink();
-    QSignalSpy transient(m_idevice, &IDevice::datagramTransient); // the link brings none by itself
+    QSignalSpy transient(m_idevice, &IDevice::datagramTransient);
     m_idevice->datagramTransientSlot(DatagramTransient, QByteArray("abc"));
     QCOMPARE(transient.size(), 1);
     QCOMPARE(transient[0][0].toByteArray(), QByteArray("abc"));

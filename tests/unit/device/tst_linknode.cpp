@@ -408,7 +408,7 @@ void TstLinkNode::pollingTwinLeavesANodeThatIsGoneItsPause()
     QSignalSpy reopened(&link.dsp, &DeviceDSP::reopened);
     link.peer.goAway();
     QTRY_VERIFY(!link.dsp.findChild<QSocketNotifier *>());
-    link.dsp.datagramLoop(); // looks each millisecond from here on, and the pause lasts a second all the same
+    link.dsp.datagramLoop(); // finds no node each millisecond from here on, which must not begin the pause anew
     QVERIFY(link.peer.listen());
     QTRY_COMPARE(reopened.size(), 1);
     QVERIFY(link.peer.accept());

@@ -1,4 +1,5 @@
 #include "platform/lineoutput.h"
+#include "unit/storage/descriptorlimit.h"
 
 #include <QElapsedTimer>
 #include <QTest>
@@ -7,7 +8,6 @@
 #include <csignal>
 #include <fcntl.h>
 #include <poll.h>
-#include <sys/resource.h>
 #include <sys/socket.h>
 #include <thread>
 #include <unistd.h>
@@ -137,13 +137,9 @@ void TstLineOutput::processWithoutFreeDescriptorsNeitherWaitsNorIsSilent()
 {
     Ends ends;
     QCOMPARE(::pipe(ends.fds), 0);
-    rlimit before;
-    ::getrlimit(RLIMIT_NOFILE, &before);
-    const rlimit full { rlim_t(ends.fds[1]) + 1, before.rlim_max }; // the pipe got the last one
-    ::setrlimit(RLIMIT_NOFILE, &full);
+    const DescriptorLimit full(rlim_t(ends.fds[1]) + 1); // the pipe got the last one
     LineOutput output(ends.fds[1]);
     checkStall(output, ends);
-    ::setrlimit(RLIMIT_NOFILE, &before);
 }
 
 void TstLineOutput::flagsOfTheDescriptorStayAsTheyAre()

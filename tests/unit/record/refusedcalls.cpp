@@ -5,18 +5,15 @@
 #include <dlfcn.h>
 #include <sys/syscall.h>
 #include <unistd.h>
+#include <utility>
 
-int RefusedCalls::flags = 0;
-int RefusedCalls::plain = -1;
-int RefusedCalls::write = 1;
-int RefusedCalls::close = 0;
-int RefusedCalls::sync = 0;
+RefusedCalls g_refused;
 
 namespace {
 
-template <typename Function> Function real(const char *name)
+template <typename Function> Function *real(const char *name)
 {
-    return reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name));
+    return reinterpret_cast<Function *>(::dlsym(RTLD_NEXT, name));
 }
 
 /// Answers as a call that was refused does.
@@ -32,52 +29,52 @@ extern "C" {
 
 long syscall(long number, ...)
 {
-    static const auto next = real<long (*)(long, ...)>("syscall");
-    long arguments[6];
+    static const auto next = real<long(long, ...)>("syscall");
+    long arguments[6]; // the most that any call has: which of them were handed in the kernel knows
     va_list list;
     va_start(list, number);
     for (long &argument : arguments)
         argument = va_arg(list, long);
     va_end(list);
-    if (number == SYS_renameat2 && RefusedCalls::flags != 0)
-        return refused(RefusedCalls::flags);
+    if (number == SYS_renameat2 && g_refused.renameWithFlags != 0)
+        return refused(g_refused.renameWithFlags);
     return next(number, arguments[0], arguments[1], arguments[2], arguments[3], arguments[4], arguments[5]);
 }
 
 int rename(const char *from, const char *to)
 {
-    static const auto next = real<int (*)(const char *, const char *)>("rename");
-    if (RefusedCalls::plain >= 0 && RefusedCalls::plain-- == 0)
+    static const auto next = real<int(const char *, const char *)>("rename");
+    if (g_refused.plainRename >= 0 && g_refused.plainRename-- == 0)
         return refused(EIO);
     return next(from, to);
 }
 
 ssize_t write(int file, const void *data, size_t size)
 {
-    static const auto next = real<ssize_t (*)(int, const void *, size_t)>("write");
-    const int answer = RefusedCalls::write;
-    RefusedCalls::write = 1;
-    return answer == 1 ? next(file, data, size) : answer == 0 ? 0 : refused(-answer);
+    static const auto next = real<ssize_t(int, const void *, size_t)>("write");
+    if (std::exchange(g_refused.nextWriteTakesNothing, false))
+        return 0;
+    const int reason = std::exchange(g_refused.nextWrite, 0);
+    return reason == 0 ? next(file, data, size) : refused(reason);
 }
 
 int close(int file)
 {
-    static const auto next = real<int (*)(int)>("close");
-    const int reason = RefusedCalls::close;
-    RefusedCalls::close = 0;
-    const int answer = next(file);
+    static const auto next = real<int(int)>("close");
+    const int reason = std::exchange(g_refused.nextClose, 0);
+    const int answer = next(file); // a close that fails has closed all the same
     return reason == 0 ? answer : refused(reason);
 }
 
 int fsync(int file)
 {
-    static const auto next = real<int (*)(int)>("fsync");
-    return RefusedCalls::sync == 0 ? next(file) : refused(RefusedCalls::sync);
+    static const auto next = real<int(int)>("fsync");
+    return g_refused.sync == 0 ? next(file) : refused(g_refused.sync);
 }
 
 int syncfs(int file) noexcept
 {
-    static const auto next = real<int (*)(int)>("syncfs");
-    return RefusedCalls::sync == 0 ? next(file) : refused(RefusedCalls::sync);
+    static const auto next = real<int(int)>("syncfs");
+    return g_refused.sync == 0 ? next(file) : refused(g_refused.sync);
 }
 }

@@ -1,12 +1,15 @@
 #pragma once
 
-/// Calls of the system that the tests of outputs let fail. Those of the test's program come before the C library's.
-namespace RefusedCalls {
+/// Calls of the system that the tests of outputs let fail: refusedcalls.cpp has functions of their names, which stand
+/// before those of the C library. A reason is a number of errno; 0: the call goes through.
+struct RefusedCalls
+{
+    int renameWithFlags = 0; // reason of each
+    int plainRename = -1; // which of those without flags has an error of the disk, counted down to 0; -1: none
+    int nextWrite = 0; // reason
+    bool nextWriteTakesNothing = false; // and tells no error
+    int nextClose = 0; // reason
+    int sync = 0; // reason of each
+};
 
-extern int flags; // why a new name is refused that is given with flags; 0: it is not
-extern int plain; // of the new names given without, the one that is refused for an error of the disk; -1: none
-extern int write; // answer to the next piece: 0 for none of it taken, -EINTR for a signal; 1: as the system does
-extern int close; // why the next file cannot be closed; 0: it can
-extern int sync; // why the disk does not take what was written; 0: it does
-
-} // namespace RefusedCalls
+extern RefusedCalls g_refused;

@@ -1,12 +1,10 @@
 #include "exportfeed.h"
 #include "record/exports/csvexport.h"
+#include "unit/storage/filelimit.h"
 
 #include <QLocale>
 #include <QTest>
 
-#include <sys/resource.h>
-
-#include <csignal>
 #include <cstring>
 #include <locale>
 
@@ -175,22 +173,17 @@ void TstCsvExport::recordingWithoutTablesIsAnEmptyFolder()
 
 void TstCsvExport::fullDiskIsNamedAndLeavesNothing()
 {
-    std::signal(SIGXFSZ, SIG_IGN);
-    struct rlimit before;
-    QCOMPARE(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    const struct rlimit small = { 200000, before.rlim_max }; // bytes of a file
     for (const char *what : { "table", "waveform" }) {
         bool refused = false;
         QString error;
         {
             CsvExport csv({ out(), QString(), false });
             QVERIFY(csv.begin(facts()) && csv.table(0, rms()) && csv.waveformBegin(waveform(3)));
-            QCOMPARE(::setrlimit(RLIMIT_FSIZE, &small), 0);
+            const FileLimit full(200000);
             const std::vector<qint16> samples(2000);
             for (int i = 0; i < 10000 && !refused; ++i)
                 refused
                     = what[0] == 't' ? !row(&csv, 0, i, { 1, 2, 3, 4 }) : !csv.waveformSamples(samples.data(), 1000);
-            QCOMPARE(::setrlimit(RLIMIT_FSIZE, &before), 0);
             error = csv.error();
         }
         QVERIFY2(refused, what);

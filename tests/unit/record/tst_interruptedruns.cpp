@@ -8,9 +8,9 @@
 #include "record/wavefile.h"
 #include "settings/derived.h"
 #include "storage/runjournal.h"
+#include "unit/storage/descriptorlimit.h"
 #include "unit/storage/rootfiles.h"
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/time.h>
 
@@ -213,12 +213,11 @@ private slots:
         RootFiles::waitForDisks();
         RootFiles::write(RunJournal::path(), "Logger_1_00.csv\n");
         RunJournal journal;
-        rlimit before {};
-        QCOMPARE(::getrlimit(RLIMIT_NOFILE, &before), 0);
-        const rlimit none { 0, before.rlim_max }; // all descriptors are taken
-        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &none), 0);
-        const QVector<InterruptedRun> runs = InterruptedRuns::find(journal, kWarsaw);
-        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &before), 0);
+        QVector<InterruptedRun> runs;
+        {
+            const DescriptorLimit none(0);
+            runs = InterruptedRuns::find(journal, kWarsaw);
+        }
         QCOMPARE(runs.size(), 1);
         QCOMPARE(runs[0].last, QDateTime::fromMSecsSinceEpoch(kTime, kWarsaw));
     }

@@ -1,17 +1,16 @@
 #include "record/exports/output.h"
 #include "record/exports/outputfile.h"
 #include "refusedcalls.h"
+#include "unit/storage/filelimit.h"
+#include "unit/storage/withoutroot.h"
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include <csignal>
 
 namespace {
 
@@ -54,6 +53,7 @@ private slots:
         m_folder.reset(new QTemporaryDir);
         QVERIFY(m_folder->isValid());
     }
+    void cleanup() { g_refused = {}; }
 
     void fileTakesItsNameAtTheEndOnly();
     void folderTakesItsNameAtTheEndOnly();
@@ -383,16 +383,17 @@ void TstOutput::firstThingThatWentWrongIsTold()
 
 void TstOutput::folderWhoseInsideMayNotBeSeenStays()
 {
-    constexpr uid_t kNobody = 65534; // for a superuser, who may see everything
-    const uid_t user = ::geteuid();
+    // From inside, so that the folders above need not be open to everybody.
     const QString before = QDir::currentPath();
     QVERIFY(QDir(m_folder->path()).mkpath("out/shut") && QDir::setCurrent(m_folder->path()));
     put("out/shut/rms.csv", "earlier");
     QCOMPARE(::chmod(".", 0777) + ::chmod("out", 0777) + ::chmod("out/shut", 0), 0);
-    QVERIFY(user != 0 || ::seteuid(kNobody) == 0);
     Output output(Output::Folder, { "out", QString(), true }, isTableName);
-    const bool isBegun = output.begin();
-    QVERIFY(user != 0 || ::seteuid(user) == 0);
+    bool isBegun = true;
+    {
+        const WithoutRoot user;
+        isBegun = output.begin();
+    }
     QCOMPARE(::chmod("out/shut", 0700), 0);
     QVERIFY(QDir::setCurrent(before));
     QVERIFY(!isBegun && !output.isRefused());
@@ -410,7 +411,7 @@ void TstOutput::diskWithoutFlagsOfRenaming_data()
 void TstOutput::diskWithoutFlagsOfRenaming()
 {
     QFETCH(int, reason);
-    RefusedCalls::flags = reason;
+    g_refused.renameWithFlags = reason;
     {
         Output file(Output::File, { at("file"), QString(), false });
         QVERIFY(file.begin() && fill(file.path(), "new"));
@@ -426,7 +427,7 @@ void TstOutput::diskWithoutFlagsOfRenaming()
         QVERIFY(folder.begin() && fill(folder.path() + (isEarlierThere ? "/power.csv" : "/rms.csv"), "new"));
         QVERIFY2(folder.finish(), qPrintable(folder.error()));
     }
-    RefusedCalls::flags = 0;
+    g_refused.renameWithFlags = 0;
     QCOMPARE(names(), QStringList({ "file", "late", "out" }));
     QCOMPARE(contentOf(at("file")), QByteArray("new"));
     QCOMPARE(contentOf(at("late")), QByteArray("mine"));
@@ -451,11 +452,10 @@ void TstOutput::diskThatRefusesTheNewName()
     {
         Output folder(Output::Folder, { at("out"), QString(), true }, isTableName);
         QVERIFY(folder.begin() && fill(folder.path() + "/rms.csv", "new"));
-        RefusedCalls::flags = flags;
-        RefusedCalls::plain = plain;
+        g_refused.renameWithFlags = flags;
+        g_refused.plainRename = plain;
         QVERIFY(!folder.finish());
-        RefusedCalls::flags = 0;
-        RefusedCalls::plain = -1;
+        g_refused = {};
         QCOMPARE(folder.error(), at("out") + ": " + qt_error_string(EIO));
     }
     QCOMPARE(contentOf(at("out/rms.csv")), QByteArray("earlier"));
@@ -466,11 +466,10 @@ void TstOutput::diskThatRefusesTheNewName()
         if (force)
             put(at("earlier"), "mine");
         QVERIFY(file.begin());
-        RefusedCalls::flags = EIO;
-        RefusedCalls::plain = 0;
+        g_refused.renameWithFlags = EIO;
+        g_refused.plainRename = 0;
         QVERIFY(!file.finish());
-        RefusedCalls::flags = 0;
-        RefusedCalls::plain = -1;
+        g_refused = {};
         QCOMPARE(file.error(), at(force ? "earlier" : "file") + ": " + qt_error_string(EIO));
     }
     QCOMPARE(contentOf(at("earlier")), QByteArray("mine"));
@@ -507,22 +506,15 @@ void TstOutput::largePiecesAndSmallOnesStandInOrder()
 
 void TstOutput::refusedWriteIsToldWhenTheFileIsClosed()
 {
-    // A file may grow to 100000 bytes and no further, as on a disk that is full.
-    std::signal(SIGXFSZ, SIG_IGN);
-    struct rlimit before;
-    QCOMPARE(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    const struct rlimit small = { 100000, before.rlim_max };
-    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &small), 0);
     OutputFile file;
-    const bool opened = file.open(at("out"));
-    for (int i = 0; i < 50; ++i)
-        file.write(QByteArray(5000, 'x'));
-    const bool failed = file.hasFailed();
-    const bool closed = file.close();
-    const QString reason = file.reason();
-    QCOMPARE(::setrlimit(RLIMIT_FSIZE, &before), 0);
-    QVERIFY(opened && failed && !closed);
-    QCOMPARE(reason, qt_error_string(EFBIG));
+    {
+        const FileLimit full(100000);
+        QVERIFY(file.open(at("out")));
+        for (int i = 0; i < 50; ++i)
+            file.write(QByteArray(5000, 'x'));
+        QVERIFY(file.hasFailed() && !file.close());
+    }
+    QCOMPARE(file.reason(), qt_error_string(EFBIG));
     QCOMPARE(QFileInfo(at("out")).size(), 100000);
     // An unopened file takes nothing and says so.
     OutputFile closedFile;
@@ -534,7 +526,7 @@ void TstOutput::interruptedWriteGoesOn()
 {
     OutputFile file;
     QVERIFY(file.open(at("out")));
-    RefusedCalls::write = -EINTR;
+    g_refused.nextWrite = EINTR;
     file.write(QByteArray(200000, 'x'));
     QVERIFY(!file.hasFailed() && file.close());
     QCOMPARE(contentOf(at("out")), QByteArray(200000, 'x'));
@@ -544,22 +536,22 @@ void TstOutput::diskThatTakesNothingIsTold()
 {
     OutputFile file;
     QVERIFY(file.open(at("out")));
-    RefusedCalls::write = 0;
+    g_refused.nextWriteTakesNothing = true;
     file.write(QByteArray(200000, 'x'));
-    RefusedCalls::close = ENOSPC; // behind what went wrong first
+    g_refused.nextClose = ENOSPC; // behind what went wrong first
     QVERIFY(file.hasFailed() && !file.close());
     QCOMPARE(file.reason(), qt_error_string(EIO));
     QVERIFY(file.open(at("out")));
     file.write("x");
-    RefusedCalls::close = ENOSPC;
+    g_refused.nextClose = ENOSPC;
     QVERIFY(!file.hasFailed() && !file.close());
     QCOMPARE(file.reason(), qt_error_string(ENOSPC));
     for (const Output::Kind kind : { Output::File, Output::Folder }) {
         Output output(kind, { at("late"), QString(), false });
         QVERIFY(output.begin());
-        RefusedCalls::sync = EIO;
+        g_refused.sync = EIO;
         QVERIFY(!output.finish());
-        RefusedCalls::sync = 0;
+        g_refused.sync = 0;
         QCOMPARE(output.error(), at("late") + ": " + qt_error_string(EIO));
     }
     QCOMPARE(names(), QStringList("out"));

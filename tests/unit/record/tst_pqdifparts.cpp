@@ -333,8 +333,9 @@ void TstPqdifParts::nextFileThatIsThereEndsTheExport()
             isTaken = put(0, kStart + 1000 + i, std::vector<double>(kColumns, i));
     } else {
         const int tables = by == QStringLiteral("tables") ? 3 : 1;
+        const char *const names[] = { "rms", "power", "frequency" };
         for (int number = 0; number < tables; ++number)
-            QVERIFY(m_sink->table(number, table(&"abc"[number], 1)) && put(number, kStart + 1000, { 230 }));
+            QVERIFY(m_sink->table(number, table(names[number], 1)) && put(number, kStart + 1000, { 230 }));
         if (by == QStringLiteral("a day"))
             isTaken = put(0, kStart + kDay + 1000, { 230 });
         else if (by == QStringLiteral("events at the end"))

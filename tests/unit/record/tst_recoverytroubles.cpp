@@ -2,6 +2,7 @@
 #include "record/exports/recovery.h"
 #include "record/tables/recordsource.h"
 #include "testpaths.h"
+#include "unit/storage/descriptorlimit.h"
 #include "unit/storage/filelimit.h"
 
 #include <QDir>
@@ -252,15 +253,13 @@ void TstRecoveryTroubles::withoutADescriptorNothingIsLeft()
     QVERIFY(makeFolder());
     RecordSource source;
     QVERIFY(source.open(path("record")));
-    rlimit before {};
-    QCOMPARE(::getrlimit(RLIMIT_NOFILE, &before), 0);
     Recovery::Result result = Recovery::Nothing;
     int failed = 0;
     for (rlim_t descriptors = 3; descriptors < 60 && result != Recovery::Done; ++descriptors) {
-        const rlimit few { descriptors, before.rlim_max };
-        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &few), 0);
-        result = run(source);
-        QCOMPARE(::setrlimit(RLIMIT_NOFILE, &before), 0);
+        {
+            const DescriptorLimit few(descriptors);
+            result = run(source);
+        }
         failed += result == Recovery::Failed && m_error.endsWith(qt_error_string(EMFILE)) ? 1 : 0;
         QCOMPARE(result == Recovery::Done, QFile::exists(path("out")));
         for (const QString &name : hidden()) // without one, no folder can be looked through either

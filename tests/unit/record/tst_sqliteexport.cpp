@@ -1,12 +1,10 @@
 #include "exportfeed.h"
 #include "record/exports/sqliteexport.h"
+#include "unit/storage/filelimit.h"
 
 #include <QTest>
 
 #include <sqlite3.h>
-#include <sys/resource.h>
-
-#include <csignal>
 
 using namespace ExportFeed;
 
@@ -205,19 +203,14 @@ void TstSqliteExport::databaseIsWholeAndNothingStandsBesideIt()
 
 void TstSqliteExport::fullDiskIsNamedAndLeavesNothing()
 {
-    std::signal(SIGXFSZ, SIG_IGN);
-    struct rlimit before;
-    QCOMPARE(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    const struct rlimit small = { 1 << 20, before.rlim_max }; // bytes of a file
     bool refused = false;
     QString error;
     {
         SqliteExport sqlite({ out(), QString(), false });
         QVERIFY(sqlite.begin(facts()) && sqlite.table(0, rms()));
-        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &small), 0);
+        const FileLimit full(1 << 20);
         for (int i = 0; i < 1000000 && !refused; ++i)
             refused = !row(&sqlite, 0, i, { 1, 2, 3, 4 });
-        QCOMPARE(::setrlimit(RLIMIT_FSIZE, &before), 0);
         error = sqlite.error();
     }
     QVERIFY(refused);

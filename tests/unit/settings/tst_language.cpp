@@ -116,36 +116,33 @@ private slots:
         QCOMPARE(familyOfFaceFile(Target::path("/mnt/userfs/missing.ttf")), QString());
     }
 
-    void aTranslationThatEndsTooSoonIsRefused_data()
+    void aTranslationIsTakenOnlyWithAllItsPartsWhole_data()
     {
         QTest::addColumn<QByteArray>("hashes");
         QTest::addColumn<QByteArray>("messages");
         QTest::addColumn<QByteArray>("behind");
         QTest::addColumn<bool>("sound");
         const QByteArray hash(8, 0); // its message begins at 0
-        const auto bytes = [](std::initializer_list<int> list) {
-            QByteArray array;
-            for (const int byte : list)
-                array.append(char(byte));
-            return array;
-        };
         const QByteArray nothing;
-        QTest::newRow("a message of nothing but its end") << hash << bytes({ 1 }) << nothing << true;
-        QTest::newRow("no end") << hash << bytes({ 3, 0, 0, 0, 1, 'a' }) << nothing << false;
-        QTest::newRow("a part without its length") << hash << bytes({ 3, 0, 0, 0 }) << nothing << false;
-        QTest::newRow("an end in place of the length") << hash << bytes({ 3, 1 }) << nothing << false;
-        QTest::newRow("a part longer than the rest") << hash << bytes({ 3, 0, 0, 0, 2, 1 }) << nothing << false;
-        QTest::newRow("a part of no known kind") << hash << bytes({ 9, 1 }) << nothing << false;
-        QTest::newRow("a hash of three bytes") << hash.left(3) << bytes({ 1 }) << nothing << false;
-        QTest::newRow("a hash without its place") << hash.left(4) << bytes({ 1 }) << nothing << false;
+        QTest::newRow("a message of nothing but its end") << hash << QByteArray::fromHex("01") << nothing << true;
+        QTest::newRow("no end") << hash << QByteArray::fromHex("030000000161") << nothing << false;
+        QTest::newRow("a part without its length") << hash << QByteArray::fromHex("03000000") << nothing << false;
+        QTest::newRow("an end in place of the length") << hash << QByteArray::fromHex("0301") << nothing << false;
+        QTest::newRow("a part longer than the rest") << hash << QByteArray::fromHex("030000000201") << nothing << false;
+        QTest::newRow("a part of no known kind") << hash << QByteArray::fromHex("0901") << nothing << false;
+        QTest::newRow("a hash of three bytes") << hash.left(3) << QByteArray::fromHex("01") << nothing << false;
+        QTest::newRow("a hash without its place") << hash.left(4) << QByteArray::fromHex("01") << nothing << false;
         QTest::newRow("a place behind the messages") << hash << nothing << nothing << false;
-        QTest::newRow("a section without its length") << hash << bytes({ 1 }) << bytes({ 0x88, 0, 0 }) << false;
-        QTest::newRow("a section of its mark alone") << hash << bytes({ 1 }) << bytes({ 0x88 }) << false;
+        QTest::newRow("a section without its length")
+            << hash << QByteArray::fromHex("01") << QByteArray::fromHex("880000") << false;
+        QTest::newRow("a section of its mark alone")
+            << hash << QByteArray::fromHex("01") << QByteArray::fromHex("88") << false;
         QTest::newRow("a section longer than the file")
-            << hash << bytes({ 1 }) << bytes({ 0x88, 0, 0, 0, 2, 0 }) << false;
-        QTest::newRow("a section of no known kind") << hash << bytes({ 1 }) << bytes({ 0x43, 0, 0, 0, 0 }) << false;
+            << hash << QByteArray::fromHex("01") << QByteArray::fromHex("880000000200") << false;
+        QTest::newRow("a section of no known kind")
+            << hash << QByteArray::fromHex("01") << QByteArray::fromHex("4300000000") << false;
     }
-    void aTranslationThatEndsTooSoonIsRefused()
+    void aTranslationIsTakenOnlyWithAllItsPartsWhole()
     {
         QFETCH(QByteArray, hashes);
         QFETCH(QByteArray, messages);
