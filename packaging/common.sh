@@ -62,8 +62,9 @@ build()
         die "the build failed"
 }
 
-# board_figures: sizes and instructions of the board's build, where they were counted; a line that says how else.
+# Where packaging/armhf/figures leaves sizes and instructions of the board's build.
 board_figures_file() { printf '%s\n' "$top/build/armhf/figures"; }
+# board_figures: prints them, or what counts them.
 board_figures()
 {
     if [ -s "$(board_figures_file)" ]; then
