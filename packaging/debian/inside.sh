@@ -1,6 +1,7 @@
 #!/bin/sh
 # Run as a service in the fresh root: what a maker would look at after each step.
 set -eu
+. /packages/checks.sh
 say() { echo "$*"; }
 fail() { echo "wrong: $*"; journalctl -u quvera.service --no-pager | tail -n 30; exit 1; }
 wait_for()
@@ -21,7 +22,8 @@ say "the service runs"
 process=$(systemctl show -p MainPID --value quvera.service)
 [ "$(ps -o user= -p "$process")" = quvera ] || fail "it runs as $(ps -o user= -p "$process")"
 ss -ltnp | grep -q ':502 .*quvera' || fail "nobody listens on port 502"
-quvera-remote screen /packages/menu.png || fail "no picture of the menu"
+shows_menu() { quvera-remote screen /packages/menu.png && has_title /packages/menu.png Menu; }
+wait_for shows_menu || fail "no picture of the menu"
 say "its user serves port 502 and shows the menu ($(stat -c %s /packages/menu.png) bytes)"
 
 # Bits of the kernel's list: 10 port, 12 and 13 network, 25 clock, less what this container may not do itself (the clock).
@@ -168,7 +170,7 @@ shows_disks()
     /usr/lib/quvera/scripts/usb-disk unmount sdz1 quvera || fail "the disk cannot be taken away"
     [ ! -e /run/media/sdz1 ] || fail "the disk stayed in the list"
     ! nsenter --target "$process" --mount -- test -e /run/media/sdz1 || fail "the program still sees the disk"
-    systemd-analyze verify /lib/systemd/system/quvera-usb@sdz1.service || fail "the unit of the disks"
+    says_nothing systemd-analyze verify --man=no /lib/systemd/system/quvera-usb@sdz1.service || fail "the unit of the disks"
     say "a disk mounted below /run/media is the program's to write, and goes"
 }
 

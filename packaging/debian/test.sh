@@ -7,8 +7,9 @@
 # packages and what was seen (default: build/packages, of the board build/packages-armhf).
 set -eu
 top=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
-. "$top/packaging/common.sh"
 here=$top/packaging/debian
+. "$top/packaging/common.sh"
+. "$here/checks.sh"
 once=
 architecture=$(dpkg --print-architecture)
 packages=$here/build
@@ -51,8 +52,7 @@ if [ -z "$once" ]; then
 fi
 
 say "2. Lintian"
-lintian --fail-on error "$out"/first/*.changes | tee "$out/lintian.log" >&2 ||
-    die "lintian finds errors"
+without_errors "$out/lintian.log" "$out"/first/*.changes || die "lintian finds errors"
 
 say "3. An update out of the package"
 desk=$out/desk
@@ -93,13 +93,14 @@ echo "QT_QPA_PLATFORM=offscreen" >"$root/etc/quvera/board.conf"
 container() { systemd-nspawn --quiet --directory="$root" --register=no --keep-unit "$@"; }
 container sh -c 'apt-get update && DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends \
     /packages/quvera_*.deb /packages/quvera-tools_*.deb' >"$out/install.log" 2>&1 || die "not installed: $out/install.log"
-container systemd-analyze verify --man=no /lib/systemd/system/{quvera,quvera-board,networking}.service >&2 || die "systemd does not like the units"
+says_nothing container systemd-analyze verify --man=no /lib/systemd/system/{quvera,quvera-board,networking}.service ||
+    die "systemd does not like the units"
 for unit in quvera quvera-board; do
     container env SYSTEMD_COLORS=0 SYSTEMD_URLIFY=0 SYSTEMD_EMOJI=0 \
         systemd-analyze security --offline=true --no-pager $unit.service 2>/dev/null | tail -n 1 >&2
 done
 
-cp "$here/inside.sh" "$root/packages/inside.sh"
+cp "$here/inside.sh" "$here/checks.sh" "$root/packages"
 [ "$packages" = "$here/build" ] || touch "$root/packages/emulated"
 cat >"$root/etc/systemd/system/packages-check.service" <<EOF
 [Unit]

@@ -69,7 +69,18 @@ public:
         file.write("#!/bin/sh\n" + note + does + "\n");
         QVERIFY(file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     }
-    int run(const QStringList &words)
+    int run(const QStringList &words) { return start(m_script, words); }
+    /// Calls a function of a script that is made to be read by others.
+    int call(const QStringList &words)
+    {
+        return start(QStringLiteral("/bin/sh"),
+                     QStringList { QStringLiteral("-euc"), QStringLiteral(". \"$0\"; \"$@\""), m_script } + words);
+    }
+    QString root() const { return m_root.path(); }
+    QString noted() const { return read(m_root.filePath(QStringLiteral("noted"))); }
+
+private:
+    int start(const QString &program, const QStringList &words)
     {
         QProcess script;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -77,13 +88,10 @@ public:
         environment.insert(QStringLiteral("PATH"), root() + QStringLiteral(":/usr/bin:/bin"));
         script.setProcessEnvironment(environment);
         script.setProcessChannelMode(QProcess::ForwardedChannels);
-        script.start(m_script, words);
+        script.start(program, words);
         return script.waitForFinished(-1) ? script.exitCode() : -1;
     }
-    QString root() const { return m_root.path(); }
-    QString noted() const { return read(m_root.filePath(QStringLiteral("noted"))); }
 
-private:
     const QString m_script;
     QTemporaryDir m_root;
 };

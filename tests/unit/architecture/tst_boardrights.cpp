@@ -128,7 +128,6 @@ private slots:
     void settingsAreReadWithTheRightsOfTheUser();
     void descriptionTakesThePlaceOfALink();
     void onlyAnInterfaceIsDescribed();
-    void errorsOfThePackagesAreNotHidden();
     void figuresOfTheBoardArePrintedByTheBench();
 };
 
@@ -413,16 +412,6 @@ void TstBoardRights::onlyAnInterfaceIsDescribed()
         QCOMPARE(board.run(name), 2);
     QVERIFY(!QFileInfo::exists(board.file()));
     QVERIFY(board.commands().noted().isEmpty());
-}
-
-void TstBoardRights::errorsOfThePackagesAreNotHidden()
-{
-    const QString test = text(QStringLiteral("packaging/debian/test.sh"));
-    QVERIFY(test.contains(QLatin1String("lintian --fail-on error ")));
-    QVERIFY(!test.contains(QLatin1String("suppress-tags")));
-    QCOMPARE(caught(text(kDebian + QStringLiteral("changelog")), QStringLiteral("\\A[a-z]+ \\([^)]+\\) ([a-z]+);")),
-             QStringList { QStringLiteral("unstable") });
-    QVERIFY(QDir(kTop + QLatin1Char('/') + kDebian).entryList({ QStringLiteral("*lintian-overrides*") }).isEmpty());
 }
 
 void TstBoardRights::figuresOfTheBoardArePrintedByTheBench()

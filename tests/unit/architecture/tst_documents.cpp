@@ -79,6 +79,7 @@ private slots:
     void picturesOfTheGuideAreTakenByTheGallery();
     void picturesAreWholeScreens();
     void everyPageHasItsSectionInTheGuide();
+    void everyPageOfAKeyHasAPictureInItsSection();
     void everyToolHasItsSectionInTheGuide();
 };
 
@@ -176,6 +177,17 @@ void TstDocuments::everyPageHasItsSectionInTheGuide()
     // And no page that is not there.
     for (const QString &section : sections)
         QVERIFY2(titles.contains(section), qPrintable(section));
+}
+
+void TstDocuments::everyPageOfAKeyHasAPictureInItsSection()
+{
+    const QString guide = read(kTop + QStringLiteral("/docs/guide/pages.md"));
+    QStringList without;
+    for (const QString &section : guide.split(QStringLiteral("\n## ")).mid(1)) {
+        if (!section.contains(QLatin1String("](../pictures/")))
+            without << section.section(QLatin1Char('\n'), 0, 0);
+    }
+    QCOMPARE(without, QStringList { QStringLiteral("Power Inverter") }); // no key leads to it, so nobody sees it
 }
 
 void TstDocuments::everyToolHasItsSectionInTheGuide()
