@@ -1,0 +1,196 @@
+// ./run.sh as a person calls it, in a folder of its own with the programs as they are built; nothing is installed or
+// built.
+#include "testpaths.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUdpSocket>
+
+namespace {
+
+constexpr int kPatience = 60000; // ms, ends a hang only
+const QString kSource = QStringLiteral(QUVERA_SOURCE_DIR "/");
+
+/// The ports that the script is told; each belongs to the test until the script begins.
+class Ports
+{
+public:
+    Ports()
+    {
+        QVERIFY(m_modbus.listen() && m_panel.listen() && m_remote.bind());
+        modbus = m_modbus.serverPort();
+        panel = m_panel.serverPort();
+        remote = m_remote.localPort();
+    }
+    /// Gives them away, but for one that stays taken.
+    void giveAllBut(quint16 kept)
+    {
+        if (kept != modbus)
+            m_modbus.close();
+        if (kept != panel)
+            m_panel.close();
+        if (kept != remote)
+            m_remote.close();
+    }
+    static bool isServed(quint16 tcpPort)
+    {
+        QTcpSocket socket;
+        socket.connectToHost(QHostAddress(QHostAddress::LocalHost), tcpPort);
+        return socket.waitForConnected(kPatience);
+    }
+    static bool isBound(quint16 udpPort)
+    {
+        QUdpSocket socket;
+        return !socket.bind(QHostAddress(QHostAddress::AnyIPv4), udpPort, QAbstractSocket::DontShareAddress);
+    }
+
+    quint16 modbus = 0;
+    quint16 panel = 0;
+    quint16 remote = 0;
+
+private:
+    QTcpServer m_modbus;
+    QTcpServer m_panel;
+    QUdpSocket m_remote;
+};
+
+/// The script beside the parts of the repository that it reads.
+class Desk
+{
+public:
+    Desk()
+    {
+        QVERIFY(QDir(m_top.path()).mkpath(QStringLiteral("build/commands")));
+        for (const char *part : { "packaging", "processor" })
+            QVERIFY(QFile::link(kSource + QLatin1String(part), file(part)));
+        QVERIFY(QFile::link(QStringLiteral(QUVERA_BIN_DIR), file("build/bin")));
+        QVERIFY(QFile::copy(kSource + QStringLiteral("run.sh"), file("run.sh")));
+        addCommand("cmake", "exit 0");
+        addCommand("dpkg-query", "shift 2; for name; do echo \"$name install ok installed\"; done");
+    }
+    ~Desk() { end(); }
+    void start(const Ports &ports, const QStringList &options = {})
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("PATH"), file("build/commands:") + environment.value(QStringLiteral("PATH")));
+        m_script.setProcessEnvironment(environment);
+        m_script.start(file("run.sh"),
+                       QStringList { "--offscreen", "--modbus-port", QString::number(ports.modbus), "--remote-port",
+                                     QString::number(ports.remote), "--panel-port", QString::number(ports.panel) }
+                           + options);
+    }
+    /// Whether it says so before it ends.
+    bool says(const QByteArray &text)
+    {
+        while (!m_said.contains(text) && m_script.waitForReadyRead(kPatience))
+            m_said += m_script.readAllStandardError();
+        return m_said.contains(text);
+    }
+    /// Ends it as Ctrl-C does.
+    int end()
+    {
+        m_script.terminate();
+        return status();
+    }
+    /// Waits for its end. Its status, or -1 when it does not end by itself.
+    int status()
+    {
+        const bool hasEnded = m_script.state() == QProcess::NotRunning || m_script.waitForFinished(kPatience);
+        m_said += m_script.readAllStandardError();
+        return hasEnded && m_script.exitStatus() == QProcess::NormalExit ? m_script.exitCode() : -1;
+    }
+    const QByteArray &said() const { return m_said; }
+    QString file(const char *name) const { return m_top.filePath(QLatin1String(name)); }
+
+private:
+    void addCommand(const char *name, const QByteArray &does)
+    {
+        QFile command(file("build/commands/") + QLatin1String(name));
+        QVERIFY(command.open(QIODevice::WriteOnly));
+        command.write("#!/bin/sh\n" + does + "\n");
+        QVERIFY(command.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    }
+
+    QTemporaryDir m_top;
+    QProcess m_script;
+    QByteArray m_said;
+};
+
+using Port = quint16 Ports::*;
+
+} // namespace
+
+Q_DECLARE_METATYPE(Port)
+
+class TstRunScript : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void startsThePanelAndPrintsItsAddress();
+    void withoutThePanelItsPortIsLeftAlone();
+    void usedPortIsOneClearLine_data();
+    void usedPortIsOneClearLine();
+};
+
+void TstRunScript::startsThePanelAndPrintsItsAddress()
+{
+    Ports ports;
+    Desk desk;
+    ports.giveAllBut(0);
+    desk.start(ports);
+    QVERIFY2(desk.says("Ctrl-C ends."), desk.said());
+    QVERIFY2(desk.said().contains("\nIn a browser: http://127.0.0.1:" + QByteArray::number(ports.panel) + "/\n"),
+             desk.said());
+    QVERIFY(Ports::isServed(ports.panel));
+    QVERIFY(Ports::isServed(ports.modbus));
+    QVERIFY(Ports::isBound(ports.remote));
+    QCOMPARE(desk.end(), 0);
+    QVERIFY(!Ports::isServed(ports.panel));
+    QVERIFY(!Ports::isServed(ports.modbus));
+    QVERIFY(!Ports::isBound(ports.remote));
+}
+
+void TstRunScript::withoutThePanelItsPortIsLeftAlone()
+{
+    Ports ports;
+    Desk desk;
+    ports.giveAllBut(ports.panel); // that of somebody else
+    desk.start(ports, { QStringLiteral("--no-panel") });
+    QVERIFY2(desk.says("Ctrl-C ends."), desk.said());
+    QVERIFY2(!desk.said().contains("browser"), desk.said());
+    QVERIFY(Ports::isServed(ports.modbus));
+    QCOMPARE(desk.end(), 0);
+}
+
+void TstRunScript::usedPortIsOneClearLine_data()
+{
+    QTest::addColumn<Port>("taken");
+    QTest::addColumn<QString>("line");
+    QTest::newRow("Modbus") << &Ports::modbus << "TCP port %1 is in use; choose another with --modbus-port";
+    QTest::newRow("remote control") << &Ports::remote << "UDP port %1 is in use; choose another with --remote-port";
+    QTest::newRow("panel") << &Ports::panel
+                           << "TCP port %1 is in use; choose another with --panel-port, or leave the panel out with "
+                              "--no-panel";
+}
+
+void TstRunScript::usedPortIsOneClearLine()
+{
+    QFETCH(Port, taken);
+    QFETCH(QString, line);
+    Ports ports;
+    Desk desk;
+    ports.giveAllBut(ports.*taken);
+    desk.start(ports);
+    QCOMPARE(desk.status(), 1);
+    QCOMPARE(QString::fromUtf8(desk.said()), QStringLiteral("quvera: %1\n").arg(line.arg(ports.*taken)));
+    QVERIFY(!QFile::exists(desk.file("build/desk/dev/mcasp"))); // nothing was started
+}
+
+QTEST_GUILESS_MAIN(TstRunScript)
+#include "tst_runscript.moc"
