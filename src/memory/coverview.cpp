@@ -1,6 +1,7 @@
 #include "memory/coverview.h"
 
 #include "widgets/controls/frontkeys.h"
+#include "widgets/controls/readingmarks.h"
 #include "widgets/text/keymap.h"
 
 #include <QKeyEvent>
@@ -8,6 +9,7 @@
 CoverView::CoverView(QWidget *page) : QWidget(page->window()), m_page(page)
 {
     setAttribute(Qt::WA_DeleteOnClose);
+    ReadingMarks::setCover(this, {});
     setFocusPolicy(Qt::StrongFocus);
     setGeometry(page->window()->rect());
 }

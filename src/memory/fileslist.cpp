@@ -1,6 +1,7 @@
 #include "memory/fileslist.h"
 
 #include "widgets/charts/chartparts.h"
+#include "widgets/controls/readingmarks.h"
 
 #include <QPainter>
 #include <QRegularExpression>
@@ -138,11 +139,26 @@ void FilesList::paintEvent(QPaintEvent *)
     drawHeader(painter);
     for (int row = m_scroll.first(); row < m_scroll.end(); ++row)
         drawRow(painter, kHeaderHeight + (row - m_scroll.first()) * kRowStep, row);
+    markSelected();
     if (count() > 0)
         return;
     painter.setPen(Qt::white);
     ChartParts::setFontPixels(painter, 18);
     painter.drawText(rect().adjusted(0, kHeaderHeight, 0, 0), Qt::AlignCenter, tr("no files"));
+}
+
+void FilesList::markSelected()
+{
+    const int row = m_scroll.selected();
+    if (row < m_scroll.first() || row >= m_scroll.end()) {
+        ReadingMarks::selectPart(this, QRect());
+        return;
+    }
+    auto check = ReadingMarks::Check::None;
+    if (m_editing && !at(row).inUse)
+        check = isChecked(row) ? ReadingMarks::Check::On : ReadingMarks::Check::Off;
+    const int top = kHeaderHeight + (row - m_scroll.first()) * kRowStep;
+    ReadingMarks::selectPart(this, QRect(3, top, width() - 6, kRowStep), check);
 }
 
 void FilesList::drawHeader(QPainter &painter) const

@@ -63,6 +63,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void markSelected();
     void drawHeader(QPainter &painter) const;
     void drawRow(QPainter &painter, int top, int row) const;
 

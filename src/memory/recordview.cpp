@@ -3,6 +3,7 @@
 #include "settings/localtime.h"
 #include "storage/storeditems.h"
 #include "widgets/charts/chartparts.h"
+#include "widgets/controls/readingmarks.h"
 
 #include <QPainter>
 
@@ -86,6 +87,7 @@ void RecordView::read(Reading *reading, const QString &path, const MonitorLimits
 
 RecordView::RecordView(const std::shared_ptr<Reading> &reading, QWidget *page) : CoverView(page), m_reading(reading)
 {
+    ReadingMarks::setCover(this, QStringLiteral("F5 ") + tr("Back"));
     constexpr int kTurn = 200; // ms
     connect(&m_progress, &QTimer::timeout, this, [this] { update(); });
     m_progress.start(kTurn);

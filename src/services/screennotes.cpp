@@ -1,26 +1,66 @@
 #include "services/screennotes.h"
 
+#include "widgets/controls/readingmarks.h"
+#include "widgets/controls/softkeybutton.h"
 #include "widgets/text/textrecorder.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QLabel>
+#include <QRadioButton>
 #include <QStackedWidget>
 
 #include <algorithm>
 
 namespace {
 
+using ReadingMarks::Check;
+
 constexpr int kRowHeight = 12; // texts whose middles are nearer than this stand in one row
 constexpr int kMostCells = 400; // of a list that are looked at
 
+/// All places are those in the window.
 struct Text
 {
-    QPoint middle; // in the window
+    QPoint middle;
     QString text;
+    Check check = Check::None;
 };
 
-void addCells(const QAbstractItemView *view, const QWidget *window, QVector<Text> *texts)
+struct Mark
+{
+    QRect place;
+    Check check;
+};
+
+/// What of a part of the screen can be read.
+class Reading
+{
+public:
+    Reading(QWidget *part, const QWidget *window) : m_window(window) { add(part); }
+    /// Row by row as a person reads them.
+    QString texts() const { return rowsOf(m_texts).join(QLatin1Char('\n')).left(ScreenNotes::kLongest); }
+    /// What is selected, a mark a line; a line that stands in a column of another follows it.
+    QString selected() const;
+
+private:
+    void add(QWidget *widget);
+    void addCells(const QAbstractItemView *view);
+    void addPainted(QWidget *widget);
+    void addMark(const QWidget *widget, const QRect &place, Check check)
+    {
+        if (!place.isEmpty())
+            m_marks.append({ QRect(widget->mapTo(m_window, place.topLeft()), place.size()), check });
+    }
+    QString lineOf(const Mark &mark) const;
+    static QStringList rowsOf(QVector<Text> texts);
+
+    const QWidget *m_window;
+    QVector<Text> m_texts;
+    QVector<Mark> m_marks;
+};
+
+void Reading::addCells(const QAbstractItemView *view)
 {
     const QAbstractItemModel *model = view->model();
     const int rows = model ? model->rowCount() : 0, columns = model ? model->columnCount() : 0;
@@ -31,43 +71,53 @@ void addCells(const QAbstractItemView *view, const QWidget *window, QVector<Text
         const QRect place = view->visualRect(index);
         const QString text = index.data().toString().simplified();
         if (!text.isEmpty() && shown.intersects(place))
-            texts->append({ view->viewport()->mapTo(window, place.center()), text });
+            m_texts.append({ view->viewport()->mapTo(m_window, place.center()), text });
+        if (shown.intersects(place) && index == view->currentIndex())
+            addMark(view->viewport(), place, Check::None);
     }
 }
 
 /// For charts, and tables that paint what they say.
-void addPainted(QWidget *widget, const QWidget *window, QVector<Text> *texts)
+void Reading::addPainted(QWidget *widget)
 {
     const auto painted = textsPaintedBy(widget);
     for (const PaintedText &part : painted) {
         const QString text = part.text.simplified();
         if (!text.isEmpty())
-            texts->append({ widget->mapTo(window, part.ink.center().toPoint()), text });
+            m_texts.append({ widget->mapTo(m_window, part.ink.center().toPoint()), text });
     }
 }
 
-void addTexts(QWidget *widget, const QWidget *window, QVector<Text> *texts)
+Check checkOf(const QWidget *widget)
+{
+    const auto *button = qobject_cast<const QAbstractButton *>(widget);
+    if (!button || !button->isCheckable() || qobject_cast<const QRadioButton *>(widget))
+        return Check::None;
+    return button->isChecked() ? Check::On : Check::Off;
+}
+
+void Reading::add(QWidget *widget)
 {
     if (!widget->isVisible())
         return;
     const QString text = widget->property("text").toString().simplified();
     if (!text.isEmpty())
-        texts->append({ widget->mapTo(window, widget->rect().center()), text });
+        m_texts.append({ widget->mapTo(m_window, widget->rect().center()), text, checkOf(widget) });
     else if (const auto *view = qobject_cast<const QAbstractItemView *>(widget))
-        addCells(view, window, texts);
+        addCells(view);
     else if (!qobject_cast<const QLabel *>(widget) && !qobject_cast<const QAbstractItemView *>(widget->parent()))
-        addPainted(widget, window, texts);
+        addPainted(widget);
+    const auto *choice = qobject_cast<const QRadioButton *>(widget);
+    const ReadingMarks::Selection selection = ReadingMarks::selection(widget);
+    addMark(widget, choice && choice->isChecked() ? widget->rect() : selection.place, selection.check);
     for (QObject *child : widget->children()) {
         if (child->isWidgetType())
-            addTexts(static_cast<QWidget *>(child), window, texts);
+            add(static_cast<QWidget *>(child));
     }
 }
 
-/// Row by row as a person reads them.
-QString rowsOf(QWidget *part, const QWidget *window)
+QStringList Reading::rowsOf(QVector<Text> texts)
 {
-    QVector<Text> texts;
-    addTexts(part, window, &texts);
     std::stable_sort(texts.begin(), texts.end(),
                      [](const Text &one, const Text &other) { return one.middle.y() < other.middle.y(); });
     QStringList rows;
@@ -82,7 +132,40 @@ QString rowsOf(QWidget *part, const QWidget *window)
             row << begin->text;
         rows << row.join(QLatin1Char(' '));
     }
-    return rows.join(QLatin1Char('\n')).left(ScreenNotes::kLongest);
+    return rows;
+}
+
+QString Reading::lineOf(const Mark &mark) const
+{
+    QVector<Text> within;
+    Check check = mark.check;
+    for (const Text &text : m_texts) {
+        if (!mark.place.contains(text.middle))
+            continue;
+        within << text;
+        check = text.check == Check::None ? check : text.check;
+    }
+    if (within.isEmpty())
+        return {};
+    // Boxes that stand beside each other have the caption of their line to the left.
+    for (const Text &text : m_texts) {
+        const bool isCaption = std::abs(text.middle.y() - within.first().middle.y()) < kRowHeight
+            && text.middle.x() < mark.place.left() && text.check == Check::None;
+        if (within.first().check != Check::None && isCaption)
+            within << text;
+    }
+    const QString state = check == Check::None ? QString() : QLatin1String(check == Check::On ? " [x]" : " [ ]");
+    return rowsOf(within).join(QLatin1Char(' ')) + state;
+}
+
+QString Reading::selected() const
+{
+    QStringList lines;
+    for (const Mark &mark : m_marks)
+        lines << lineOf(mark);
+    lines.removeAll(QString());
+    lines.removeDuplicates();
+    return lines.join(QLatin1Char('\n')).left(ScreenNotes::kLongest);
 }
 
 /// The captions of the soft keys, a key a line.
@@ -92,8 +175,10 @@ QString softKeysOf(const QWidget *part)
     for (int key = 1; key <= 5; ++key) {
         const auto labels = part->findChildren<QLabel *>(QStringLiteral("btn_f%1").arg(key));
         for (const QLabel *label : labels) {
-            if (label->isVisible() && !label->text().isEmpty())
-                keys << QStringLiteral("F%1 %2").arg(key).arg(label->text().simplified());
+            const auto *choices = qobject_cast<const SoftKeyButton *>(label);
+            const QString caption = (choices ? choices->spokenText() : label->text()).simplified();
+            if (label->isVisible() && !caption.isEmpty())
+                keys << QStringLiteral("F%1 ").arg(key) + caption;
         }
     }
     return keys.join(QLatin1Char('\n'));
@@ -101,8 +186,23 @@ QString softKeysOf(const QWidget *part)
 
 void addNotes(QWidget *part, const QWidget *window, QMap<QString, QString> *notes)
 {
-    notes->insert(QStringLiteral("Texts"), rowsOf(part, window));
-    notes->insert(QStringLiteral("Keys"), softKeysOf(part));
+    const Reading reading(part, window);
+    notes->insert(QStringLiteral("Texts"), reading.texts());
+    notes->insert(QStringLiteral("Selected"), reading.selected());
+    notes->insert(QStringLiteral("Keys"),
+                  ReadingMarks::isCover(part) ? ReadingMarks::coverKeys(part) : softKeysOf(part));
+}
+
+/// What lies over all pages, the last that came first; null: nothing.
+QWidget *coverOf(const QWidget *window)
+{
+    QWidget *cover = nullptr;
+    for (QObject *child : window->children()) { // in the order in which they are drawn
+        auto *widget = qobject_cast<QWidget *>(child);
+        if (widget && widget->isVisible() && ReadingMarks::isCover(widget))
+            cover = widget;
+    }
+    return cover;
 }
 
 } // namespace
@@ -122,7 +222,8 @@ QMap<QString, QString> ScreenNotes::take()
                          QString::fromLatin1(parts->currentWidget()->metaObject()->className()));
         if (const auto *title = window->findChild<QLabel *>(QStringLiteral("name")))
             notes.insert(QStringLiteral("Title"), title->text().simplified());
-        addNotes(pages, window, &notes);
+        QWidget *cover = coverOf(window);
+        addNotes(cover ? cover : pages, window, &notes);
     }
     if (QWidget *dialog = QApplication::activeModalWidget()) {
         addNotes(dialog, dialog, &notes);

@@ -2,6 +2,7 @@
 
 #include "settings/config_data.h"
 #include "widgets/controls/labellook.h"
+#include "widgets/controls/readingmarks.h"
 #include "widgets/dialogs/virtualkeyboard.h"
 
 #include <QLabel>
@@ -48,6 +49,7 @@ InstrumentInfo::InstrumentInfo(QWidget *parent)
     };
     resize(kWidth, kHeight);
     LabelLook::setBackground(m_bar, QStringLiteral("#004882"));
+    ReadingMarks::select(m_bar);
     const char *const names[Lines][2] = { { "sn_t", "sn" }, { "model_t", "model" } };
     const QString captions[Lines] = { tr("S/N"), tr("Model") };
     for (int line = 0; line < Lines; ++line) {

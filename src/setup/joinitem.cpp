@@ -3,6 +3,7 @@
 #include "settings/config_data.h"
 #include "setup/joinpicture.h"
 #include "widgets/controls/labellook.h"
+#include "widgets/controls/readingmarks.h"
 
 #include <QPixmap>
 
@@ -23,6 +24,7 @@ JoinItem::JoinItem(const QString &name, QWidget *parent)
 void JoinItem::setSelected(bool on)
 {
     LabelLook::setBackground(this, on ? QStringLiteral("#004882") : QStringLiteral("black"));
+    ReadingMarks::select(this, on);
 }
 
 void JoinItem::showJoinMode(int joinMode, bool inUse)

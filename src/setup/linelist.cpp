@@ -2,6 +2,7 @@
 #include "ui_setuppane.h"
 
 #include "widgets/controls/labellook.h"
+#include "widgets/controls/readingmarks.h"
 
 #include <QScrollBar>
 
@@ -28,6 +29,7 @@ QLabel *addBar(QWidget *page, const char *name, const char *color)
     auto *bar = new QLabel(page);
     bar->setObjectName(QLatin1String(name));
     bar->setProperty("background", QLatin1String(color));
+    ReadingMarks::select(bar);
     return bar;
 }
 

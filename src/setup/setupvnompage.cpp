@@ -2,6 +2,7 @@
 
 #include "settings/config_data.h"
 #include "widgets/controls/labellook.h"
+#include "widgets/controls/readingmarks.h"
 
 #include <QLabel>
 
@@ -97,6 +98,7 @@ void SetupVnomPage::showTable(Table &table, bool isActive)
         field->setEnabled(isActive);
         const QString bar = !isActive ? QStringLiteral("#202830") : QStringLiteral("#004882");
         LabelLook::setBackground(field, row == selected ? bar : QStringLiteral("black"));
+        ReadingMarks::select(field, isActive && row == selected);
         QPalette palette = field->palette();
         palette.setColor(QPalette::WindowText, color);
         field->setPalette(palette);

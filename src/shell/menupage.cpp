@@ -6,6 +6,7 @@
 #include "shell/pagetable.h"
 #include "shell/plainpicture.h"
 #include "widgets/controls/labellook.h"
+#include "widgets/controls/readingmarks.h"
 #include "widgets/dialogs/runinfo.h"
 
 #include <vector>
@@ -136,8 +137,11 @@ void MenuPage::moveTo(MenuItem *item)
 
 void MenuPage::showMenuHl()
 {
-    m_places[0].previous->showPicture(false);
-    m_places[0].current->showPicture(true);
+    for (const bool isCurrent : { false, true }) {
+        MenuItem *tile = isCurrent ? m_places[0].current : m_places[0].previous;
+        tile->showPicture(isCurrent);
+        ReadingMarks::select(findChild<QLabel *>(tile->objectName() + QLatin1String("_t")), isCurrent);
+    }
 }
 
 void MenuPage::changePage()

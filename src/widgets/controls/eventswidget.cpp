@@ -1,6 +1,7 @@
 #include "widgets/controls/eventswidget.h"
 
 #include "widgets/charts/chartparts.h"
+#include "widgets/controls/readingmarks.h"
 #include "widgets/text/f_to_str.h"
 #include "settings/localtime.h"
 
@@ -132,6 +133,9 @@ void EventsWidget::paintEvent(QPaintEvent *)
     drawHeader(painter);
     for (int index = firstShown(); index < lastShown() && index < shownSize(); ++index)
         drawRow(painter, index - firstShown(), lineTexts(index));
+    const bool hasSelected = firstShown() + m_scroll.row() < qMin(lastShown(), shownSize());
+    const QRect bar(3, kFirstRowTop + m_scroll.row() * kRowStep, width() - 6, kRowStep);
+    ReadingMarks::selectPart(this, hasSelected ? bar : QRect());
 }
 
 void EventsWidget::drawHeader(QPainter &painter) const

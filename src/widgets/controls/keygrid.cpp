@@ -1,6 +1,7 @@
 #include "widgets/controls/keygrid.h"
 
 #include "widgets/charts/chartparts.h"
+#include "widgets/controls/readingmarks.h"
 
 #include <QPainter>
 
@@ -114,5 +115,7 @@ void KeyGrid::paintEvent(QPaintEvent *)
         painter.drawPixmap(place.topLeft(),
                            key.span > 1 ? (chosen ? m_wideSelected : m_widePlain) : (chosen ? m_selected : m_plain));
         painter.drawText(place, Qt::AlignCenter, charAt(i));
+        if (chosen)
+            ReadingMarks::selectPart(this, place);
     }
 }

@@ -50,6 +50,12 @@ QString SoftKeyButton::selectedText() const
     return {};
 }
 
+QString SoftKeyButton::spokenText() const
+{
+    const QString caption = m_choices.caption ? tr(m_choices.caption) + QLatin1Char(' ') : QString();
+    return caption + texts().join(QStringLiteral(" / ")) + QStringLiteral(": ") + selectedText();
+}
+
 int SoftKeyButton::fittingPixels(const QStringList &texts, int width, int largest) const
 {
     QFont wide = font();

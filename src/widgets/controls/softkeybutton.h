@@ -33,6 +33,8 @@ public:
 
     /// The choices as shown, translated where they are words.
     QStringList texts() const;
+    /// Caption, choices and the selected one in words: "Cursor On / Off: Off".
+    QString spokenText() const;
     /// The selected text, empty if none is.
     QString selectedText() const;
 

@@ -299,6 +299,20 @@ class PanelInABrowser(PanelCase):
         self.press("Setup")
         eventually(lambda: spoken.get_property("textContent") == "Setup", "the new page is not spoken of")
 
+    def test_what_the_arrows_stand_on_is_said(self):
+        selected = self.page.find_element(By.ID, "selected")
+        self.assertEqual(selected.get_attribute("aria-live"), "polite")
+
+        def said():
+            return selected.get_property("textContent")
+        self.go_to("Menu", "Menu")
+        eventually(lambda: said().startswith("Selected: "), "no tile is said")
+        first = said()
+        self.press("Right")
+        eventually(lambda: said().startswith("Selected: ") and said() != first, "the next tile is not said")
+        self.press("Left")
+        eventually(lambda: said() == first, "the tile before is not said")
+
     def test_focus_goes_as_one_reads(self):
         self.page.execute_script("document.getElementById('save').focus()")
         order = []

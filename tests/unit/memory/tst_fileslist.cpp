@@ -1,6 +1,7 @@
 #include "paintedtexts.h"
 
 #include "memory/fileslist.h"
+#include "widgets/controls/readingmarks.h"
 
 #include <QApplication>
 #include <QTest>
@@ -56,6 +57,7 @@ private slots:
     void marksOfWhatIsGoneAreForgotten();
     void editingBeginsAndEndsWithoutMarks();
     void whatIsInUseHasNoMark();
+    void selectedRowIsMarkedForThoseWhoHearIt();
 
 private:
     std::unique_ptr<FilesList> list;
@@ -198,6 +200,33 @@ void TstFilesList::whatIsInUseHasNoMark()
     QVERIFY(list->checkedFiles().isEmpty());
     list->checkAll(true);
     QCOMPARE(list->checkedFiles(), QList<QByteArray> { "a" });
+}
+
+void TstFilesList::selectedRowIsMarkedForThoseWhoHearIt()
+{
+    using ReadingMarks::Check;
+    const auto heard = [this] {
+        QStringList texts;
+        const ReadingMarks::Selection selection = (list->grab(), ReadingMarks::selection(list.get()));
+        for (const PaintedText &text : paintedTexts(*list)) {
+            if (selection.place.contains(text.ink.center().toPoint()))
+                texts << text.text;
+        }
+        return qMakePair(texts.join(QLatin1Char(' ')), selection.check);
+    };
+    const auto row = [](int number) { return QStringLiteral("2024-01-01 00:00:00 f%1").arg(number); };
+    QCOMPARE(heard(), qMakePair(QString(), Check::None));
+    list->setItems(items(30), { "f1" });
+    QCOMPARE(heard(), qMakePair(row(0), Check::None));
+    list->move(20);
+    QCOMPARE(heard(), qMakePair(row(20), Check::None));
+    list->setEditing(true);
+    QCOMPARE(heard(), qMakePair(row(20), Check::Off));
+    QVERIFY(list->toggleCurrent());
+    QCOMPARE(heard(), qMakePair(row(20), Check::On));
+    list->toTop();
+    list->move(1); // in use: it has no box
+    QCOMPARE(heard(), qMakePair(row(1), Check::None));
 }
 
 QTEST_MAIN(TstFilesList)

@@ -6,6 +6,7 @@
 #include "testpaths.h"
 #include "unit/record/pqa2bytes.h"
 #include "unit/report/writtenweek.h"
+#include "widgets/controls/readingmarks.h"
 
 #include <QPointer>
 
@@ -72,6 +73,8 @@ void TstRecordView::aMonitorsRunShowsItsVerdict()
     Screen screen;
     const RecordView *view = opened(screen);
     QVERIFY(view);
+    QVERIFY(ReadingMarks::isCover(view));
+    QCOMPARE(ReadingMarks::coverKeys(view), QStringLiteral("F5 Back"));
     QCOMPARE(view->headline(),
              QStringLiteral("Indication from less than a week (1 d 00:00:00): the supply did not keep to the "
                             "limits of EN50160."));

@@ -1,6 +1,7 @@
 #include "board/screenshot.h"
 #include "services/panel.h"
 #include "services/screennotes.h"
+#include "widgets/controls/readingmarks.h"
 
 #include <QApplication>
 #include <QBuffer>
@@ -9,6 +10,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPainter>
+#include <QRadioButton>
 #include <QStackedWidget>
 #include <QTest>
 
@@ -33,6 +35,10 @@ private slots:
     void windowWithoutAPageOrATitleIsPassedOver();
     void captionsOfTheSoftKeysNameTheirKeys();
     void openDialogIsInFront();
+    void selectedRowOfAListIsNoted();
+    void barMarksTheTextsOnIt();
+    void checkedRadioButtonIsSelected();
+    void coverHidesThePage();
     void longTextsAreCut();
     void pictureCarriesItsNotes();
 
@@ -212,6 +218,71 @@ void TstScreenNotes::openDialogIsInFront()
     QCOMPARE(note("Dialog"), QStringLiteral("Quit the measurement? Yes / No"));
     QCOMPARE(note("Texts"), QStringLiteral("Quit the measurement?\nYes / No"));
     QCOMPARE(note("Keys"), QStringLiteral("F5 Yes / No"));
+    QCOMPARE(note("Title"), QStringLiteral("Volts/Amps/ Hertz"));
+}
+
+void TstScreenNotes::selectedRowOfAListIsNoted()
+{
+    auto *list = new QListWidget(m_page);
+    list->setGeometry(0, 0, 300, 200);
+    list->addItems({ QStringLiteral("one"), QStringLiteral("two") });
+    list->show();
+    QCoreApplication::processEvents();
+    QCOMPARE(note("Selected"), QString());
+    list->setCurrentRow(1);
+    QCOMPARE(note("Selected"), QStringLiteral("two"));
+    list->hide();
+    QCOMPARE(note("Selected"), QString());
+}
+
+void TstScreenNotes::barMarksTheTextsOnIt()
+{
+    QLabel *bar = addLabel(QString(), 0, 100);
+    bar->resize(400, 20);
+    ReadingMarks::select(bar);
+    QCOMPARE(note("Selected"), QString());
+    addLabel(QStringLiteral("50 Hz"), 200, 100);
+    addLabel(QStringLiteral("Frequency"), 10, 100);
+    addLabel(QStringLiteral("Voltage"), 10, 120);
+    QCOMPARE(note("Selected"), QStringLiteral("Frequency 50 Hz"));
+    QLabel *column = addLabel(QString(), 190, 100); // within the line
+    ReadingMarks::select(column);
+    QCOMPARE(note("Selected"), QStringLiteral("Frequency 50 Hz\n50 Hz"));
+    ReadingMarks::select(column, false);
+    bar->move(0, 120);
+    QCOMPARE(note("Selected"), QStringLiteral("Voltage"));
+    ReadingMarks::selectPart(bar, QRect(0, 0, 400, 20), ReadingMarks::Check::Off);
+    QCOMPARE(note("Selected"), QStringLiteral("Voltage [ ]"));
+    ReadingMarks::selectPart(bar, QRect(0, -20, 400, 20), ReadingMarks::Check::On);
+    QCOMPARE(note("Selected"), QStringLiteral("Frequency 50 Hz [x]"));
+    ReadingMarks::selectPart(bar, QRect());
+    QCOMPARE(note("Selected"), QString());
+}
+
+void TstScreenNotes::checkedRadioButtonIsSelected()
+{
+    auto *screen = new QRadioButton(QStringLiteral("Screen"), m_page);
+    auto *data = new QRadioButton(QStringLiteral("Data"), m_page);
+    data->move(0, 50);
+    screen->show();
+    data->show();
+    data->setChecked(true);
+    QCOMPARE(note("Selected"), QStringLiteral("Data"));
+    screen->setChecked(true);
+    QCOMPARE(note("Selected"), QStringLiteral("Screen"));
+}
+
+void TstScreenNotes::coverHidesThePage()
+{
+    addLabel(QStringLiteral("Format"), 10, 420, QStringLiteral("btn_f1"));
+    addLabel(QStringLiteral("below"), 10, 100);
+    auto *cover = new QWidget(m_window.get());
+    ReadingMarks::setCover(cover, QStringLiteral("F5 Back"));
+    QLabel text(QStringLiteral("above"), cover);
+    QCOMPARE(note("Texts"), QStringLiteral("below\nFormat"));
+    cover->show();
+    QCOMPARE(note("Texts"), QStringLiteral("above"));
+    QCOMPARE(note("Keys"), QStringLiteral("F5 Back"));
     QCOMPARE(note("Title"), QStringLiteral("Volts/Amps/ Hertz"));
 }
 

@@ -2,6 +2,7 @@
 
 #include "settings/config_data.h"
 #include "widgets/controls/eventswidget.h"
+#include "widgets/controls/readingmarks.h"
 
 #include <QTest>
 
@@ -33,6 +34,7 @@ private slots:
     void anUnknownKindHasNoName();
     void aCountSetByHandReadsNothingBeyondTheList();
     void rowsStandEvery22PixelsFrom30();
+    void selectedRowIsMarkedForThoseWhoHearIt();
 };
 
 /// A list of events with all of them selected, as a page holds them.
@@ -364,6 +366,21 @@ void TstEventsWidget::rowsStandEvery22PixelsFrom30()
         QVERIFY(countPixels(image, edges(220, top, 300, top + 20), Qt::white) > 10); // kind
         QVERIFY(countPixels(image, edges(320, top, 400, top + 20), Qt::white) > 3); // level
     }
+}
+
+void TstEventsWidget::selectedRowIsMarkedForThoseWhoHearIt()
+{
+    EventsWidget widget;
+    const auto place = [&widget] { return (table(widget), ReadingMarks::selection(&widget).place); };
+    QVERIFY(place().isEmpty());
+    const Lines list(dips(3));
+    widget.refreshEventList(list.all());
+    QVERIFY(place().contains(100, 30 + 11)); // the middle of the first row
+    widget.selectNextItem();
+    QVERIFY(place().contains(100, 30 + 22 + 11));
+    QVERIFY(!place().contains(100, 30 + 11));
+    widget.refreshEventList(nullptr);
+    QVERIFY(place().isEmpty());
 }
 
 QTEST_MAIN(TstEventsWidget)

@@ -2,7 +2,9 @@
 
 #include "board/backlight.h"
 #include "platform/deskkeys.h"
+#include "paintedtexts.h"
 #include "widgets/controls/keygrid.h"
+#include "widgets/controls/readingmarks.h"
 #include "widgets/dialogs/virtualkeyboard.h"
 #include "widgets/text/keymap.h"
 
@@ -19,6 +21,7 @@ private slots:
     void initTestCase() { Q_INIT_RESOURCE(skin); }
     void offersDigitsLettersAndSigns();
     void everyKeyCanBeReachedWithTheArrows();
+    void keyUnderTheCursorIsMarkedForThoseWhoHearIt();
     void arrowsGoRoundTheEdges();
     void enterAppendsTheKeyUnderTheCursor();
     void lessThanErasesTheLastSign();
@@ -69,6 +72,20 @@ void TstVirtualKeyBoard::everyKeyCanBeReachedWithTheArrows()
         grid.moveVertically(1);
     }
     QCOMPARE(reached.size(), 42);
+}
+
+void TstVirtualKeyBoard::keyUnderTheCursorIsMarkedForThoseWhoHearIt()
+{
+    KeyGrid grid;
+    for (const char sign : QByteArray("05g?")) {
+        QVERIFY(grid.setCurrentChar(QLatin1Char(sign)));
+        QStringList heard;
+        for (const PaintedText &text : paintedTexts(grid)) {
+            if (ReadingMarks::selection(&grid).place.contains(text.ink.center().toPoint()))
+                heard << text.text;
+        }
+        QCOMPARE(heard, QStringList(QString(QLatin1Char(sign))));
+    }
 }
 
 void TstVirtualKeyBoard::arrowsGoRoundTheEdges()

@@ -140,6 +140,13 @@ function labelKeys(captions) {
   }
 }
 
+// What the arrows stand on, with its check mark in words.
+function selectedWords(lines) {
+  const words = lines.split('\n').filter(Boolean)
+    .map((line) => line.replace(/ \[x\]$/, ', checked').replace(/ \[ \]$/, ', not checked'));
+  return words.length ? `Selected: ${words.join('; ')}` : '';
+}
+
 function showScreen(screen) {
   const image = byId('screen');
   const spoken = (screen.Title || '') + (screen.Dialog ? `. ${screen.Dialog}` : '');
@@ -147,6 +154,7 @@ function showScreen(screen) {
   image.dataset.count = Number(image.dataset.count) + 1;
   image.alt = `Screen of the instrument${spoken ? `: ${spoken}` : ''}`;
   setText(byId('spoken'), spoken);
+  setText(byId('selected'), selectedWords(screen.Selected || ''));
   byId('save').hidden = false;
   byId('reading').hidden = !screen.Texts;
   if (screen.Texts && byId('reading').open) list(byId('texts'), screen.Texts.split('\n'));
