@@ -106,8 +106,7 @@ if [ -z "$build_only" ]; then
     check_ports
 fi
 install_packages
-configure release
-build "$top/build" quvera quvera-processor quvera-remote quvera-gallery quvera-panel quvera-files
+configure_and_build release "$top/build" quvera quvera-processor quvera-remote quvera-gallery quvera-panel quvera-files
 [ -z "$build_only" ] || exit 0
 
 export QUVERA_ROOT=$root QUVERA_MODBUS_PORT=$modbus_port QUVERA_REMOTE_PORT=$remote_port

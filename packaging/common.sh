@@ -40,11 +40,34 @@ install_packages()
     rm -f "$log"
 }
 
+# alone <command...>: runs it while nobody else configures or builds here: two at a time spoil each other's records.
+# Only this script holds the lock: a child that outlives it does not keep others waiting.
+alone()
+{
+    mkdir -p "$top/build" 2>/dev/null && [ -w "$top/build" ] || die "$top/build cannot be written"
+    exec 8<"$top/build" || die "$top/build cannot be read"
+    if ! flock -n 8; then
+        say "Another start builds in $top/build; this one waits for it."
+        flock 8 || die "the lock of $top/build cannot be had"
+    fi
+    "$@" 8<&-
+    exec 8<&-
+}
+
+# configure_and_build <preset> <folder> [target...]: nobody comes in between.
+configure_and_build() { alone configure_and_build_now "$@"; }
+configure_and_build_now()
+{
+    configure_now "$1"
+    shift
+    build_now "$@"
+}
+
 # configure <preset>: configures once; CMake itself notices later changes of its files.
-configure()
+configure() { alone configure_now "$@"; }
+configure_now()
 {
     log="$top/build/configure-$1.log"
-    mkdir -p "$top/build" 2>/dev/null && [ -w "$top/build" ] || die "$top/build cannot be written"
     if ! (cd "$top" && cmake --preset "$1") >"$log" 2>&1; then
         tail -n 25 "$log" >&2
         die "configuring failed (preset $1; all of it: $log)"
@@ -53,12 +76,12 @@ configure()
 }
 
 # build <folder> [target...]
-build()
+build() { alone build_now "$@"; }
+build_now()
 {
     folder=$1
     shift
-    # One build at a time: two in one folder spoil each other's records. The children do not inherit the lock.
-    flock -o "$top/build" cmake --build "$folder" --parallel "${QUVERA_JOBS:-$(nproc)}" ${1:+--target "$@"} >&2 ||
+    cmake --build "$folder" --parallel "${QUVERA_JOBS:-$(nproc)}" ${1:+--target "$@"} >&2 ||
         die "the build failed"
 }
 

@@ -76,13 +76,24 @@ public:
     ~Desk() { end(); }
     void start(const Ports &ports, const QStringList &options = {})
     {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("PATH"), file("build/commands:") + environment.value(QStringLiteral("PATH")));
-        m_script.setProcessEnvironment(environment);
+        m_script.setProcessEnvironment(environment());
         m_script.start(file("run.sh"),
                        QStringList { "--offscreen", "--modbus-port", QString::number(ports.modbus), "--remote-port",
                                      QString::number(ports.remote), "--panel-port", QString::number(ports.panel) }
                            + options);
+    }
+    /// Starts that build only, under a cmake that takes its time and notes when it is not alone.
+    void startBuild(QProcess *script)
+    {
+        addCommand("cmake",
+                   "cd \"${0%/*}\"\n"
+                   "mkdir alone || echo collided >>faults\n"
+                   "ls -l /proc/$$/fd | grep 'build$' >>faults\n" // the lock would stay with what it leaves behind
+                   "echo \"$1\" >>calls\n"
+                   "until [ -e ends ]; do sleep 0.1; done\n"
+                   "rmdir alone");
+        script->setProcessEnvironment(environment());
+        script->start(file("run.sh"), { "--build-only", "--modbus-port", "1502", "--remote-port", "3527" });
     }
     /// Whether it says so before it ends.
     bool says(const QByteArray &text)
@@ -108,6 +119,12 @@ public:
     QString file(const char *name) const { return m_top.filePath(QLatin1String(name)); }
 
 private:
+    QProcessEnvironment environment() const
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("PATH"), file("build/commands:") + environment.value(QStringLiteral("PATH")));
+        return environment;
+    }
     void addCommand(const char *name, const QByteArray &does)
     {
         QFile command(file("build/commands/") + QLatin1String(name));
@@ -120,6 +137,12 @@ private:
     QProcess m_script;
     QByteArray m_said;
 };
+
+QByteArray contentOf(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
 
 using Port = quint16 Ports::*;
 
@@ -136,6 +159,7 @@ private slots:
     void withoutThePanelItsPortIsLeftAlone();
     void usedPortIsOneClearLine_data();
     void usedPortIsOneClearLine();
+    void secondBuildWaitsForTheFirst();
 };
 
 void TstRunScript::startsThePanelAndPrintsItsAddress()
@@ -190,6 +214,29 @@ void TstRunScript::usedPortIsOneClearLine()
     QCOMPARE(desk.status(), 1);
     QCOMPARE(QString::fromUtf8(desk.said()), QStringLiteral("quvera: %1\n").arg(line.arg(ports.*taken)));
     QVERIFY(!QFile::exists(desk.file("build/desk/dev/mcasp"))); // nothing was started
+}
+
+void TstRunScript::secondBuildWaitsForTheFirst()
+{
+    Desk desk;
+    QProcess first, second;
+    const QString calls = desk.file("build/commands/calls");
+    desk.startBuild(&first);
+    QTRY_VERIFY2_WITH_TIMEOUT(QFile::exists(calls), first.readAllStandardError(), kPatience);
+    desk.startBuild(&second);
+    second.setReadChannel(QProcess::StandardError);
+    QVERIFY(second.waitForReadyRead(kPatience));
+    QFile ends(desk.file("build/commands/ends"));
+    QVERIFY(ends.open(QIODevice::WriteOnly));
+    for (QProcess *script : { &first, &second }) {
+        QVERIFY(script->state() == QProcess::NotRunning || script->waitForFinished(kPatience));
+        QCOMPARE(script->exitCode(), 0);
+    }
+    QCOMPARE(first.readAllStandardError(), QByteArray());
+    QCOMPARE(QString::fromUtf8(second.readAllStandardError()),
+             QStringLiteral("Another start builds in %1; this one waits for it.\n").arg(desk.file("build")));
+    QCOMPARE(contentOf(calls), QByteArray("--preset\n--build\n--preset\n--build\n"));
+    QCOMPARE(contentOf(desk.file("build/commands/faults")), QByteArray());
 }
 
 QTEST_GUILESS_MAIN(TstRunScript)
