@@ -1916,6 +1916,10 @@ Supprimez des fichiers en mémoire.</translation>
         <translation>en cours</translation>
     </message>
     <message>
+        <source>Over before the recording began: found by the running measurement, and not counted in the verdict.</source>
+        <translation>Terminé avant le début de l&apos;enregistrement : trouvé par la mesure en cours, non compté dans le verdict.</translation>
+    </message>
+    <message>
         <source>Further events, not listed: %1.</source>
         <translation>Autres événements non listés : %1.</translation>
     </message>

@@ -1916,6 +1916,10 @@ Bitte im Speicher Dateien löschen.</translation>
         <translation>dauert an</translation>
     </message>
     <message>
+        <source>Over before the recording began: found by the running measurement, and not counted in the verdict.</source>
+        <translation>Vor Beginn der Aufzeichnung beendet: von der laufenden Messung gefunden und im Urteil nicht gezählt.</translation>
+    </message>
+    <message>
         <source>Further events, not listed: %1.</source>
         <translation>Weitere Ereignisse, nicht aufgeführt: %1.</translation>
     </message>

@@ -1916,6 +1916,10 @@ Eliminare file nella memoria.</translation>
         <translation>in corso</translation>
     </message>
     <message>
+        <source>Over before the recording began: found by the running measurement, and not counted in the verdict.</source>
+        <translation>Concluso prima dell&apos;inizio della registrazione: rilevato dalla misura in corso e non contato nel verdetto.</translation>
+    </message>
+    <message>
         <source>Further events, not listed: %1.</source>
         <translation>Altri eventi non elencati: %1.</translation>
     </message>

@@ -1916,6 +1916,10 @@ Delete files in Memory.</source>
         <translation>継続中</translation>
     </message>
     <message>
+        <source>Over before the recording began: found by the running measurement, and not counted in the verdict.</source>
+        <translation>記録の開始前に終了：実行中の測定が検出したもので、判定には数えません。</translation>
+    </message>
+    <message>
         <source>Further events, not listed: %1.</source>
         <translation>記載していないその他のイベント：%1。</translation>
     </message>

@@ -1916,6 +1916,10 @@ Delete files in Memory.</source>
         <translation>진행 중</translation>
     </message>
     <message>
+        <source>Over before the recording began: found by the running measurement, and not counted in the verdict.</source>
+        <translation>기록 시작 전에 종료됨: 진행 중인 측정에서 발견되었으며 판정에 포함되지 않습니다.</translation>
+    </message>
+    <message>
         <source>Further events, not listed: %1.</source>
         <translation>목록에 없는 이벤트: %1.</translation>
     </message>

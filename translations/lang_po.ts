@@ -1916,6 +1916,10 @@ Usuń pliki w pamięci.</translation>
         <translation>trwa</translation>
     </message>
     <message>
+        <source>Over before the recording began: found by the running measurement, and not counted in the verdict.</source>
+        <translation>Zakończone przed początkiem zapisu: wykryte przez trwający pomiar i nieliczone w ocenie.</translation>
+    </message>
+    <message>
         <source>Further events, not listed: %1.</source>
         <translation>Dalsze zdarzenia, nieujęte: %1.</translation>
     </message>

@@ -1916,6 +1916,10 @@ Exclua arquivos na memória.</translation>
         <translation>continua</translation>
     </message>
     <message>
+        <source>Over before the recording began: found by the running measurement, and not counted in the verdict.</source>
+        <translation>Terminado antes do início do registro: detectado pela medição em curso e não contado no veredito.</translation>
+    </message>
+    <message>
         <source>Further events, not listed: %1.</source>
         <translation>Outros eventos não listados: %1.</translation>
     </message>

@@ -1916,6 +1916,10 @@ Delete files in Memory.</source>
         <translation>продолжается</translation>
     </message>
     <message>
+        <source>Over before the recording began: found by the running measurement, and not counted in the verdict.</source>
+        <translation>Закончилось до начала записи: найдено идущим измерением и в заключении не учтено.</translation>
+    </message>
+    <message>
         <source>Further events, not listed: %1.</source>
         <translation>Прочие события, не в списке: %1.</translation>
     </message>

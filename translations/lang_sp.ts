@@ -1916,6 +1916,10 @@ Borre archivos en la memoria.</translation>
         <translation>continúa</translation>
     </message>
     <message>
+        <source>Over before the recording began: found by the running measurement, and not counted in the verdict.</source>
+        <translation>Terminado antes del inicio del registro: hallado por la medición en curso y no contado en el veredicto.</translation>
+    </message>
+    <message>
         <source>Further events, not listed: %1.</source>
         <translation>Otros eventos no incluidos: %1.</translation>
     </message>

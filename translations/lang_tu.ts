@@ -1916,6 +1916,10 @@ Bellekten dosya silin.</translation>
         <translation>sürüyor</translation>
     </message>
     <message>
+        <source>Over before the recording began: found by the running measurement, and not counted in the verdict.</source>
+        <translation>Kayıt başlamadan önce bitti: süren ölçüm tarafından bulundu ve kararda sayılmadı.</translation>
+    </message>
+    <message>
         <source>Further events, not listed: %1.</source>
         <translation>Listelenmeyen diğer olaylar: %1.</translation>
     </message>

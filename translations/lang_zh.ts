@@ -1916,6 +1916,10 @@ Delete files in Memory.</source>
         <translation>持续中</translation>
     </message>
     <message>
+        <source>Over before the recording began: found by the running measurement, and not counted in the verdict.</source>
+        <translation>在记录开始前已结束：由正在进行的测量发现，不计入结论。</translation>
+    </message>
+    <message>
         <source>Further events, not listed: %1.</source>
         <translation>其余未列出的事件：%1。</translation>
     </message>

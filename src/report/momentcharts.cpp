@@ -17,7 +17,7 @@ void frameMoment(Plot *plot, double length, double low, double high, const QStri
     plot->setRangeX(0, length);
     plot->setRangeY(low, high, unit, text.locale());
     const double step = roundStep(length, 8);
-    const int decimals = step < 0.1 ? 2 : step < 1 ? 1 : 0;
+    const int decimals = decimalsOf(step);
     for (double x = 0; x <= length * 1.0001; x += step)
         plot->markX(x, text.locale().toString(x, 'f', decimals) + QStringLiteral(" s"));
     plot->frame();

@@ -18,6 +18,11 @@ double roundStep(double range, int count)
     return 10 * power;
 }
 
+int decimalsOf(double step)
+{
+    return std::max(0, int(-std::floor(std::log10(step) + 1e-9)));
+}
+
 namespace {
 
 /// About as wide as a text is drawn: whoever reads the page has fonts of their own.
@@ -59,7 +64,7 @@ void Plot::setRangeY(double from, double to, const QString &unit, const QLocale 
     const double step = roundStep(to - from, kMarks);
     m_y0 = std::floor(from / step) * step;
     m_y1 = std::ceil(to / step) * step;
-    const int decimals = std::max(0, int(-std::floor(std::log10(step) + 1e-9)));
+    const int decimals = decimalsOf(step);
     const int marks = int(std::lround((m_y1 - m_y0) / step));
     for (int i = 0; i <= marks; ++i) {
         const double y = m_y0 + i * step;

@@ -40,3 +40,6 @@ private:
 
 /// 1, 2 or 5 times a power of ten: about \a count of them go into \a range.
 double roundStep(double range, int count);
+
+/// Decimals that tell marks apart that are so far from each other.
+int decimalsOf(double step);

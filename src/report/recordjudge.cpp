@@ -314,7 +314,7 @@ void RecordJudge::countEvents()
             if (event.item.type != kind.first)
                 continue;
             ++count.all;
-            if (event.item.finished && event.item.endTime < m_judgement.overview.countsFrom)
+            if (m_judgement.overview.isEarlier(event.item))
                 continue;
             const qint64 time = isPlausibleTime(event.item.startTime) ? event.item.startTime + 1 : 0;
             count.count = std::max(count.count, ++weeks[m_judgement.weeks.indexOf(time)]);

@@ -35,6 +35,8 @@ struct RecordOverview
     QStringList log; // the first lines of the system log
 
     qint64 length() const { return end - start; }
+    /// Whether it was over when the recording began.
+    bool isEarlier(const __event_item &event) const { return event.finished && event.endTime < countsFrom; }
 };
 
 /// Whether a time can be one: what a damaged file says may be any number.

@@ -81,6 +81,29 @@ void ReportWriter::harmonics()
     m_content.add(table);
 }
 
+QVector<ReportCell> ReportWriter::eventRow(const RecordedEvent &event) const
+{
+    const RecordOverview &o = m_judgement.overview;
+    const __event_item &item = event.item;
+    const double nominal = m_judgement.setup.nominalVolt;
+    const bool hasMoment
+        = std::any_of(m_judgement.moments.begin(), m_judgement.moments.end(), [&event](const Moment &moment) {
+              return moment.event.number == event.number
+                  && (!moment.samples.isEmpty() || !curveChart(moment, false, Report(QString())).shapes.isEmpty());
+          });
+    const bool volts = item.type >= EventRms && item.type <= EventRvc && item.type != EventFlicker;
+    const bool sane = isPlausibleTime(item.startTime) && isPlausibleTime(item.endTime);
+    return { { QString::number(event.number), Tone::Plain, hasMoment ? momentAnchor(event.number) : QString() },
+             plain(Report::eventName(item.type)),
+             plain(orDash(QString::fromLatin1(eventChannel(item, o.facts.joinMode)))),
+             plain(m_text.time(item.startTime) + (o.isEarlier(item) ? QStringLiteral(" *") : QString())),
+             plain(!item.finished ? Report::tr("goes on")
+                       : sane     ? m_text.duration(item.endTime - item.startTime)
+                                  : Report::dash()),
+             plain(m_text.eventValue(item)),
+             plain(volts && nominal > 0 ? m_text.percent(double(item.value) * 100 / nominal) : Report::dash()) };
+}
+
 void ReportWriter::events()
 {
     const RecordOverview &o = m_judgement.overview;
@@ -99,31 +122,21 @@ void ReportWriter::events()
     table.head
         = QStringList { Report::tr("No."),      Report::tr("Event"), Report::tr("Phase"),     Report::tr("Begin"),
                         Report::tr("Duration"), Report::tr("Value"), Report::tr("Of nominal") };
-    const double nominal = m_judgement.setup.nominalVolt;
+    bool anyEarlier = false;
     for (const RecordedEvent &event : o.events) {
         if (!m_judgement.listed.contains(event.number))
             continue;
-        const __event_item &item = event.item;
-        const bool hasMoment
-            = std::any_of(m_judgement.moments.begin(), m_judgement.moments.end(), [&event](const Moment &moment) {
-                  return moment.event.number == event.number
-                      && (!moment.samples.isEmpty() || !curveChart(moment, false, Report(QString())).shapes.isEmpty());
-              });
-        const bool volts = item.type >= EventRms && item.type <= EventRvc && item.type != EventFlicker;
-        const bool sane = isPlausibleTime(item.startTime) && isPlausibleTime(item.endTime);
         table.anchors.append(eventAnchor(event.number));
-        table.rows.append(
-            { { QString::number(event.number), Tone::Plain, hasMoment ? momentAnchor(event.number) : QString() },
-              plain(Report::eventName(item.type)),
-              plain(orDash(QString::fromLatin1(eventChannel(item, o.facts.joinMode)))),
-              plain(m_text.time(item.startTime)),
-              plain(!item.finished ? Report::tr("goes on")
-                        : sane     ? m_text.duration(item.endTime - item.startTime)
-                                   : Report::dash()),
-              plain(m_text.eventValue(item)),
-              plain(volts && nominal > 0 ? m_text.percent(double(item.value) * 100 / nominal) : Report::dash()) });
+        table.rows.append(eventRow(event));
+        anyEarlier = anyEarlier || o.isEarlier(event.item);
     }
     m_content.add(table);
+    if (anyEarlier)
+        m_content.add(ReportBlock::Paragraph,
+                      QStringLiteral("* ")
+                          + Report::tr("Over before the recording began: found by the running measurement, and "
+                                       "not counted in the verdict."),
+                      Tone::Weak);
     const bool anySlow = std::any_of(o.events.begin(), o.events.end(), [](const RecordedEvent &event) {
         const qint32 type = event.item.type;
         return type < EventDip || type == EventUnbalance || type == EventFrequency;

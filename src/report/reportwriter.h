@@ -46,6 +46,7 @@ private:
     void trends();
     void harmonics();
     void events();
+    QVector<ReportCell> eventRow(const RecordedEvent &event) const;
     void moments();
     void instrument();
     void missing();

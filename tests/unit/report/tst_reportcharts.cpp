@@ -153,6 +153,8 @@ private slots:
     void curvesStandAtTheirTimeInTheirInk();
     void curvesOfTheCurrentsAreThoseOfTheCurrents();
     void eachInputHasItsOwnWave();
+    void timesBelowAMomentAreToldApart_data();
+    void timesBelowAMomentAreToldApart();
     void nothingRecordedIsNoPicture();
 };
 
@@ -467,6 +469,33 @@ void TstReportCharts::eachInputHasItsOwnWave()
     }
     QCOMPARE(shapesOf(voltages, Shape::Text, Ink::L1).first().text, QStringLiteral("L1"));
     QVERIFY(placeOf(voltages, QStringLiteral("L1")).x() < placeOf(voltages, QStringLiteral("L2")).x());
+}
+
+void TstReportCharts::timesBelowAMomentAreToldApart_data()
+{
+    QTest::addColumn<int>("samples"); // a millisecond each
+    QTest::addColumn<QString>("times");
+    QTest::newRow("3 ms") << 3 << QStringLiteral("0.0000 0.0005 0.0010 0.0015 0.0020 0.0025 0.0030");
+    QTest::newRow("30 ms") << 30 << QStringLiteral("0.000 0.005 0.010 0.015 0.020 0.025 0.030");
+    QTest::newRow("300 ms") << 300 << QStringLiteral("0.00 0.05 0.10 0.15 0.20 0.25 0.30");
+    QTest::newRow("1.6 s") << 1600 << QStringLiteral("0.0 0.2 0.4 0.6 0.8 1.0 1.2 1.4 1.6");
+    QTest::newRow("6 s") << 6000 << QStringLiteral("0 1 2 3 4 5 6");
+}
+
+void TstReportCharts::timesBelowAMomentAreToldApart()
+{
+    QFETCH(int, samples);
+    QFETCH(QString, times);
+    Moment moment;
+    moment.wave.sampleRate = 1000;
+    moment.wave.channels = { { "U_L1", "L1", "V", 0.5f } };
+    moment.samples.fill(400, samples);
+    QStringList shown;
+    for (const Shape &shape : shapesOf(waveChart(moment, false, Report(QString())), Shape::Text, Ink::Weak)) {
+        if (shape.text.endsWith(QLatin1String(" s")))
+            shown << shape.text.chopped(2);
+    }
+    QCOMPARE(shown.join(QLatin1Char(' ')), times);
 }
 
 void TstReportCharts::nothingRecordedIsNoPicture()

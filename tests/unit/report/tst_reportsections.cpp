@@ -18,6 +18,7 @@ private slots:
     void eventsHaveTheirPhaseTheirLengthAndTheirValue();
     void eventsOfLinesAreNamedByThem();
     void eventsThatAreNotListedAreCounted();
+    void eventsBeforeTheRecordingAreMarked();
     void withoutAnEventThatIsSaid();
     void slowEventsAreThoseOfTheInstrument_data();
     void slowEventsAreThoseOfTheInstrument();
@@ -153,6 +154,22 @@ void TstReportSections::eventsThatAreNotListedAreCounted()
     QCOMPARE(paragraphsOf(j, "Events"), lines({ "Further events, not listed: 1." }));
     j.overview.eventsBeyond = 40;
     QCOMPARE(paragraphsOf(j, "Events"), lines({ "Further events, not listed: 41." }));
+}
+
+void TstReportSections::eventsBeforeTheRecordingAreMarked()
+{
+    Judgement j = withEvents({ madeEvent(1, EventDip, 0, kStart - 9000, kStart - 8900, 150),
+                               madeEvent(2, EventDip, 0, kStart - 50, kStart + 50, 151), // runs into it
+                               madeEvent(3, EventDip, 0, kStart, kStart + 100, 152) });
+    j.overview.countsFrom = kStart;
+    QCOMPARE(column(tableOf(j, "Events"), 3),
+             lines({ "2023-11-14 22:19:51 *", "2023-11-14 22:19:59", "2023-11-14 22:20:00" }));
+    const QString note = "* Over before the recording began: found by the running measurement, and not counted in the "
+                         "verdict.";
+    QCOMPARE(paragraphsOf(j, "Events"), QStringList { note });
+    // Without one, or where the table leaves it out, there is no note.
+    j.listed.remove(1);
+    QVERIFY(!paragraphsOf(j, "Events").contains(note));
 }
 
 void TstReportSections::withoutAnEventThatIsSaid()
