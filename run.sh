@@ -106,7 +106,8 @@ if [ -z "$build_only" ]; then
     check_ports
 fi
 install_packages
-configure_and_build release "$top/build" quvera quvera-processor quvera-remote quvera-gallery quvera-panel quvera-files
+configure_and_build release "$top/build" quvera quvera-processor quvera-remote quvera-gallery quvera-panel quvera-files \
+    make-update update-unpack
 [ -z "$build_only" ] || exit 0
 
 export QUVERA_ROOT=$root QUVERA_MODBUS_PORT=$modbus_port QUVERA_REMOTE_PORT=$remote_port

@@ -81,6 +81,7 @@ int main(int argc, char **argv)
         if (what == kindName(kind) && argc == 7)
             return writePackage(kind, argv + 2);
     }
-    std::fputs(kUsage, stderr);
-    return 2;
+    const bool isAsked = what == "--help" && argc == 2;
+    const bool isWritten = std::fputs(kUsage, isAsked ? stdout : stderr) >= 0 && std::fflush(stdout) == 0;
+    return isAsked && isWritten ? 0 : 2;
 }

@@ -6,11 +6,17 @@
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <sys/stat.h>
 
 using namespace update;
 
 namespace {
+
+constexpr char kUsage[]
+    = "Usage: update-unpack PACKAGE\n"
+      "Checks a package and installs it under QUVERA_ROOT, or on this machine. QUVERA_UPDATE_KIND,\n"
+      "\"software\" or \"firmware\": the other kind is refused. See docs/updates.md.\n";
 
 /// The kind that the user chose; without the variable, as by hand, any.
 std::optional<Kind> wantedKind()
@@ -53,8 +59,10 @@ int main(int argc, char **argv)
 {
     std::setlocale(LC_NUMERIC, "C");
     ::umask(022);
+    if (argc == 2 && std::strcmp(argv[1], "--help") == 0)
+        return std::fputs(kUsage, stdout) >= 0 && std::fflush(stdout) == 0 ? 0 : WrongCall;
     if (argc != 2) {
-        std::fputs("Usage: update-unpack PACKAGE\n", stderr);
+        std::fputs(kUsage, stderr);
         return WrongCall;
     }
     const Outcome outcome = unpack(argv[1]);

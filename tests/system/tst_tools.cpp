@@ -6,6 +6,8 @@
 #include <QRegularExpression>
 #include <QSet>
 
+#include <csignal>
+
 using namespace SystemTest;
 
 /// quvera-remote and quvera-gallery as a user calls them.
@@ -21,6 +23,12 @@ private slots:
     void keyNamesAndNumbersGiveTheRemoteNumber();
     void galleryPicturesTheMenuAndVoltsAmpsHertz();
     void galleryPicturesOneLanguage();
+    void stoppedGalleryLeavesNothingBehind_data();
+    void stoppedGalleryLeavesNothingBehind();
+    void helpIsPrintedByAll_data();
+    void helpIsPrintedByAll();
+    void programTakesTheOptionsOfTheToolkitOnly_data();
+    void programTakesTheOptionsOfTheToolkitOnly();
     void manualsHaveTheOptionsOfTheHelp_data();
     void manualsHaveTheOptionsOfTheHelp();
 
@@ -31,11 +39,12 @@ private:
         QByteArray output;
         QByteArray error;
     };
-    static Result run(const QString &tool, const QStringList &arguments)
+    static Result run(const QString &tool, const QStringList &arguments, const QProcessEnvironment &changes = {})
     {
         QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.remove(QStringLiteral("QUVERA_REMOTE_PORT")); // the test run's; a user has none
+        environment.insert(changes);
         process.setProcessEnvironment(environment);
         process.start(QStringLiteral(QUVERA_BIN_DIR "/") + tool, arguments);
         process.waitForFinished(240000);
@@ -182,6 +191,92 @@ void TstTools::galleryPicturesOneLanguage()
     QVERIFY(!english.isNull() && !russian.isNull());
     QCOMPARE(russian.copy(tile), english.copy(tile));
     QVERIFY(russian.copy(captions) != english.copy(captions));
+}
+
+void TstTools::stoppedGalleryLeavesNothingBehind_data()
+{
+    QTest::addColumn<int>("signal");
+    QTest::addColumn<int>("settle"); // ms before a picture
+    QTest::newRow("Ctrl-C") << SIGINT << 100000;
+    QTest::newRow("ended") << SIGTERM << 100000;
+    QTest::newRow("terminal closed") << SIGHUP << 0;
+}
+
+void TstTools::stoppedGalleryLeavesNothingBehind()
+{
+    QFETCH(int, signal);
+    QFETCH(int, settle);
+    const QTemporaryDir folder;
+    const QString desks = folder.filePath(QStringLiteral("tmp/"));
+    QVERIFY(QDir().mkpath(desks));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("TMPDIR"), desks);
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), folder.path());
+    QProcess gallery;
+    gallery.setProcessEnvironment(environment);
+    gallery.start(QStringLiteral(QUVERA_BIN_DIR "/quvera-gallery"),
+                  { "--out", folder.filePath(QStringLiteral("out")), "--settle", QString::number(settle) });
+    const auto desk = [&desks] { return QDir(desks).entryList(QDir::Dirs | QDir::NoDotAndDotDot).join(QString()); };
+    QTRY_VERIFY_WITH_TIMEOUT(QFile::exists(desks + desk() + "/instrument.log"), 60000);
+    QTest::qWait(3000);
+    QCOMPARE(gallery.state(), QProcess::Running);
+    QCOMPARE(::kill(pid_t(gallery.processId()), signal), 0);
+    QVERIFY(gallery.waitForFinished(60000));
+    QCOMPARE(gallery.exitCode(), 128 + signal);
+    QCOMPARE(gallery.readAllStandardError(), QByteArray("quvera-gallery: stopped\n"));
+    QCOMPARE(desk(), QString());
+}
+
+void TstTools::helpIsPrintedByAll_data()
+{
+    QTest::addColumn<QString>("tool");
+    for (const char *tool : { "quvera", "quvera-files", "quvera-panel", "quvera-remote", "quvera-processor",
+                              "quvera-gallery", "make-update", "update-unpack" })
+        QTest::newRow(tool) << QString::fromLatin1(tool);
+}
+
+void TstTools::helpIsPrintedByAll()
+{
+    QFETCH(QString, tool);
+    const QTemporaryDir folder;
+    QProcessEnvironment noScreen;
+    noScreen.insert(QStringLiteral("QUVERA_ROOT"), folder.filePath(QStringLiteral("root")));
+    noScreen.insert(QStringLiteral("XDG_RUNTIME_DIR"), folder.path());
+    noScreen.insert(QStringLiteral("QT_QPA_PLATFORM"), tool == QLatin1String("quvera") ? "none" : "offscreen");
+    const Result result = run(tool, { "--help" }, noScreen);
+    QCOMPARE(result.code, 0);
+    const QByteArray usage = result.output.left(result.output.indexOf('\n'));
+    QVERIFY2(usage.startsWith("Usage: ") && usage.contains(tool.toLatin1() + ' '), usage);
+    QCOMPARE(result.error, QByteArray());
+    QVERIFY(!QFile::exists(folder.filePath(QStringLiteral("root")))); // not begun
+}
+
+void TstTools::programTakesTheOptionsOfTheToolkitOnly_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QByteArray>("error");
+    const QByteArray see = " (quvera --help lists what it takes)\n";
+    QTest::newRow("unknown") << QStringList { "--root", "/tmp" } << 2 << "quvera: unknown argument \"--root\"" + see;
+    QTest::newRow("word") << QStringList { "--platform", "none", "one\ntwo" } << 2
+                          << "quvera: unknown argument \"one?two\"" + see;
+    QTest::newRow("no value") << QStringList { "-platform" } << 2 << "quvera: \"-platform\" needs a value" + see;
+    QTest::newRow("help behind others") << QStringList { "-style=fusion", "-platform", "none", "-h" } << 0
+                                        << QByteArray();
+    QTest::newRow("value that looks like help")
+        << QStringList { "-platform", "--help", "last" } << 2 << "quvera: unknown argument \"last\"" + see;
+    QTest::newRow("version") << QStringList { "--version" } << 0 << QByteArray();
+}
+
+void TstTools::programTakesTheOptionsOfTheToolkitOnly()
+{
+    QFETCH(QStringList, arguments);
+    const Result result = run(QStringLiteral("quvera"), arguments);
+    QTEST(result.code, "code");
+    QTEST(result.error, "error");
+
+    // Those of the toolkit work: this is no platform, and the toolkit says so.
+    QVERIFY(run(QStringLiteral("quvera"), { "-platform", "nowhere" }).error.contains("\"nowhere\""));
 }
 
 void TstTools::manualsHaveTheOptionsOfTheHelp_data()

@@ -3,7 +3,9 @@
 #include "desk/wirelessstandin.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QThread>
+#include <algorithm>
 #include <cstdio>
 
 namespace {
@@ -102,10 +104,10 @@ bool Gallery::warmUp(DeskInstrument &desk)
     if (!desk.press({ QStringLiteral("Enter") }))
         return false;
     const QImage empty = desk.screen();
-    if (desk.waitForScreen([&](const QImage &now) { return table(now) != table(empty); }, 60000).isNull())
+    const auto hasValues = [&](const QImage &now) { return m_options.isStopped() || table(now) != table(empty); };
+    if (desk.waitForScreen(hasValues, 60000).isNull())
         return false;
-    QThread::msleep(ulong(m_options.warmUpMs));
-    return desk.press({ QStringLiteral("Menu") });
+    return wait(m_options.warmUpMs) && desk.press({ QStringLiteral("Menu") });
 }
 
 // From the menu to the page, through its pictures, and back to the menu.
@@ -133,19 +135,31 @@ bool Gallery::showPage(DeskInstrument &desk, const Page &page, const QString &va
 
 bool Gallery::press(DeskInstrument &desk, const QStringList &keys) const
 {
-    static const QString wait = QStringLiteral("Wait");
+    static const QString waiting = QStringLiteral("Wait");
     for (const QString &key : keys) {
-        if (key.startsWith(wait))
-            QThread::msleep(key.midRef(wait.size()).toULong() * 1000 / ulong(m_options.speed));
-        else if (!desk.press({ key }))
+        const bool good = key.startsWith(waiting) ? wait(key.midRef(waiting.size()).toInt() * 1000 / m_options.speed)
+                                                  : desk.press({ key });
+        if (!good || m_options.isStopped())
             return false;
     }
     return true;
 }
 
+/// False when it was cut short.
+bool Gallery::wait(int ms) const
+{
+    constexpr int kLookMs = 50;
+    QElapsedTimer timer;
+    timer.start();
+    while (!m_options.isStopped() && timer.elapsed() < ms)
+        QThread::msleep(ulong(std::clamp<qint64>(ms - timer.elapsed(), 0, kLookMs)));
+    return !m_options.isStopped();
+}
+
 bool Gallery::take(DeskInstrument &desk, const Page &page, const QString &shot, const QString &variant)
 {
-    QThread::msleep(ulong(m_options.settleMs));
+    if (!wait(m_options.settleMs))
+        return false;
     const QImage image = desk.screen();
     QString file = QStringLiteral("%1-%2-%3.png").arg(page.name, shot, variant);
     file.replace(QLatin1Char(' '), QLatin1Char('_')).remove(QLatin1Char(','));

@@ -18,6 +18,7 @@ struct GalleryOptions
     int warmUpMs = 8000; // with live values before the first picture, so that trends have something to show
     int speed = 1; // times faster than the clock
     bool sheet = false;
+    std::function<bool()> isStopped = [] { return false; }; // the user wants no more
 };
 
 /// Drives an instrument of its own through the pages by remote keys and collects their pictures.
@@ -26,7 +27,8 @@ class Gallery
 public:
     explicit Gallery(const GalleryOptions &options);
 
-    /// Runs every variant and writes pictures, index and sheet. False with error() when the instrument failed.
+    /// Runs every variant and writes pictures, index and sheet. False with error() when the instrument failed or the
+    /// user stopped it.
     bool run();
     const QString &error() const { return m_error; }
     int pictureCount() const { return m_pictures.size(); }
@@ -36,6 +38,7 @@ private:
     bool warmUp(DeskInstrument &desk);
     bool showPage(DeskInstrument &desk, const Page &page, const QString &variant, bool at400Hz, QString *item);
     bool press(DeskInstrument &desk, const QStringList &keys) const;
+    bool wait(int ms) const;
     bool take(DeskInstrument &desk, const Page &page, const QString &shot, const QString &variant);
 
     GalleryOptions m_options;

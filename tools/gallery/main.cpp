@@ -4,9 +4,24 @@
 #include <QCommandLineParser>
 #include <QGuiApplication>
 #include <clocale>
+#include <csignal>
 #include <cstdio>
 
 namespace {
+
+volatile std::sig_atomic_t stopSignal = 0;
+
+// The instrument that it started, and the folder of that, go before it ends. A second signal ends it at once.
+void catchSignals()
+{
+    struct sigaction action
+    {
+    };
+    action.sa_handler = [](int signal) { stopSignal = signal; };
+    action.sa_flags = SA_RESETHAND;
+    for (const int signal : { SIGINT, SIGTERM, SIGHUP })
+        ::sigaction(signal, &action, nullptr);
+}
 
 int fail(int code, const QString &text)
 {
@@ -148,9 +163,11 @@ int main(int argc, char **argv)
     const QString misuse = readOptions(parser, pageNames, &options);
     if (!misuse.isEmpty())
         return fail(2, misuse);
+    catchSignals();
+    options.isStopped = [] { return stopSignal != 0; };
     Gallery gallery(options);
     if (!gallery.run())
-        return fail(1, gallery.error());
+        return stopSignal ? fail(128 + stopSignal, QStringLiteral("stopped")) : fail(1, gallery.error());
     std::printf("%d pictures: %s/index.html\n", gallery.pictureCount(), qPrintable(options.folder));
     return 0;
 }

@@ -81,6 +81,8 @@ private slots:
     void everyPageHasItsSectionInTheGuide();
     void everyPageOfAKeyHasAPictureInItsSection();
     void everyToolHasItsSectionInTheGuide();
+    void everyToolIsBuiltByTheFirstStart();
+    void whatTheExamplesWriteIsIgnored();
 };
 
 void TstDocuments::everyLinkLeadsSomewhere()
@@ -206,6 +208,31 @@ void TstDocuments::everyToolHasItsSectionInTheGuide()
     QVERIFY2(tools.size() >= 7, qPrintable(QString::number(tools.size())));
     for (const QString &tool : qAsConst(tools))
         QVERIFY2(sections.contains(tool), qPrintable(tool));
+}
+
+void TstDocuments::everyToolIsBuiltByTheFirstStart()
+{
+    const QString script = read(kTop + QStringLiteral("/run.sh"));
+    const QString targets = caught(script, "\nconfigure_and_build release ((?:[^\n]*\\\\\n)*[^\n]*)").join(QString());
+    const QStringList tools = caught(read(kTop + QStringLiteral("/docs/guide/tools.md")), "\n## ([a-z-]+)");
+    QVERIFY(tools.size() >= 8);
+    for (const QString &tool : tools)
+        QVERIFY2(QRegularExpression(QStringLiteral("\\s%1(\\s|$)").arg(tool)).match(targets).hasMatch(),
+                 qPrintable(tool));
+}
+
+/// Who tries the examples where they stand shall not find their files among the sources.
+void TstDocuments::whatTheExamplesWriteIsIgnored()
+{
+    if (!QFile::exists(kTop + QStringLiteral("/.gitignore")))
+        QSKIP("no working copy");
+    const QStringList ignored = read(kTop + QStringLiteral("/.gitignore")).split(QLatin1Char('\n'));
+    const QStringList written = caught(read(kTop + QStringLiteral("/README.md")),
+                                       "\n    build/bin/[^\n#]* (?:--pdf|--csv|--out|screen) ([a-z.]+)");
+    QVERIFY(written.size() >= 5);
+    for (const QString &name : written)
+        QVERIFY2(ignored.contains(QLatin1Char('/') + name) || ignored.contains(QStringLiteral("/%1/").arg(name)),
+                 qPrintable(name));
 }
 
 QTEST_GUILESS_MAIN(TstDocuments)
