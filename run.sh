@@ -131,11 +131,15 @@ trap 'finish $?' EXIT
 power_latch=$root/sys/class/gpio/gpio47/value
 [ ! -e "$power_latch" ] || echo 0 >"$power_latch"
 
+# The shell's own lines about a child that a signal ended go nowhere: what happened is said below.
+exec 3>&2 2>/dev/null
+said=3
+
 # The children get Ctrl-C from this script only, so that they end in order.
 node=$root/dev/mcasp
 rm -f "$node" 2>/dev/null
 setsid "$top/build/bin/quvera-processor" --root "$root" ${scenario:+--scenario "$scenario"} \
-    "${processor_options[@]}" 9>&- </dev/null &
+    "${processor_options[@]}" 2>&3 3>&- 9>&- </dev/null &
 processor=$!
 for _ in $(seq 100); do
     [ -S "$node" ] && break
@@ -144,7 +148,7 @@ for _ in $(seq 100); do
 done
 [ -S "$node" ] || die "the processor stand-in did not open $node"
 
-setsid "$top/build/bin/quvera" 9>&- </dev/null &
+setsid "$top/build/bin/quvera" 2>&3 3>&- 9>&- </dev/null &
 instrument=$!
 answered=
 for _ in $(seq 100); do
@@ -174,7 +178,7 @@ fi
 if [ -z "$no_panel" ]; then
     panel_address=$root/run/panel.address
     rm -f "$panel_address"
-    setsid "$top/build/bin/quvera-panel" --port "$panel_port" 9>&- </dev/null >"$panel_address" &
+    setsid "$top/build/bin/quvera-panel" --port "$panel_port" 2>&3 3>&- 9>&- </dev/null >"$panel_address" &
     panel=$!
     for _ in $(seq 100); do
         [ -s "$panel_address" ] && break

@@ -1,7 +1,8 @@
 # Shared by run.sh, test.sh and bench.sh, which set `top` to the repository's folder before they read this.
 
-say() { printf '%s\n' "$*" >&2; }
-die() { printf 'quvera: %s\n' "$*" >&2; exit 1; }
+said=2 # where to
+say() { printf '%s\n' "$*" >&"$said"; }
+die() { printf 'quvera: %s\n' "$*" >&"$said"; exit 1; }
 
 # missing_packages <lists...>: names of their packages that are not installed.
 missing_packages()

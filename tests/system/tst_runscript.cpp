@@ -11,10 +11,18 @@
 #include <QTest>
 #include <QUdpSocket>
 
+#include <csignal>
+
 namespace {
 
 constexpr int kPatience = 60000; // ms, ends a hang only
 const QString kSource = QStringLiteral(QUVERA_SOURCE_DIR "/");
+
+QByteArray contentOf(const QString &name)
+{
+    QFile file(name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
 
 /// The ports that the script is told; each belongs to the test until the script begins.
 class Ports
@@ -102,6 +110,16 @@ public:
             m_said += m_script.readAllStandardError();
         return m_said.contains(text);
     }
+    /// The number of the script's own child of that name, or 0.
+    qint64 child(const QByteArray &name) const
+    {
+        const QString script = QStringLiteral("/proc/%1/task/%1/children").arg(m_script.processId());
+        for (const QByteArray &number : contentOf(script).simplified().split(' ')) {
+            if (contentOf(QStringLiteral("/proc/%1/comm").arg(QString::fromLatin1(number))) == name + '\n')
+                return number.toLongLong();
+        }
+        return 0;
+    }
     /// Ends it as Ctrl-C does.
     int end()
     {
@@ -138,12 +156,6 @@ private:
     QByteArray m_said;
 };
 
-QByteArray contentOf(const QString &name)
-{
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 using Port = quint16 Ports::*;
 
 } // namespace
@@ -160,6 +172,7 @@ private slots:
     void usedPortIsOneClearLine_data();
     void usedPortIsOneClearLine();
     void secondBuildWaitsForTheFirst();
+    void killedInstrumentIsToldInOneLine();
 };
 
 void TstRunScript::startsThePanelAndPrintsItsAddress()
@@ -237,6 +250,21 @@ void TstRunScript::secondBuildWaitsForTheFirst()
              QStringLiteral("Another start builds in %1; this one waits for it.\n").arg(desk.file("build")));
     QCOMPARE(contentOf(calls), QByteArray("--preset\n--build\n--preset\n--build\n"));
     QCOMPARE(contentOf(desk.file("build/commands/faults")), QByteArray());
+}
+
+void TstRunScript::killedInstrumentIsToldInOneLine()
+{
+    Ports ports;
+    Desk desk;
+    ports.giveAllBut(0);
+    desk.start(ports, { QStringLiteral("--no-panel") });
+    QVERIFY2(desk.says("Ctrl-C ends.\n"), desk.said());
+    const QByteArray before = desk.said();
+    const qint64 instrument = desk.child("quvera");
+    QVERIFY(instrument > 0);
+    QCOMPARE(::kill(pid_t(instrument), SIGKILL), 0);
+    QCOMPARE(desk.status(), 128 + SIGKILL);
+    QCOMPARE(desk.said().mid(before.size()), QByteArray("The instrument ended with status 137.\n"));
 }
 
 QTEST_GUILESS_MAIN(TstRunScript)
