@@ -7,6 +7,7 @@
 #include "platform/deskroot.h"
 #include "platform/lineoutput.h"
 #include "platform/servicenotes.h"
+#include "platform/startarguments.h"
 #include "widgets/text/keymap.h"
 
 #include <QApplication>
@@ -14,6 +15,15 @@
 
 #include <clocale>
 #include <cstdio>
+
+namespace {
+
+__attribute__((constructor(101))) void beforeStaticObjects(int argc, char **argv)
+{
+    StartArguments::settle(argc, argv);
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {

@@ -1,4 +1,5 @@
-// What the program is called with, answered before anything else is there: the settings make their folders before main.
+#include "platform/startarguments.h"
+
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -57,8 +58,9 @@ const ToolkitOption *toolkitOption(const std::string &name)
     std::_Exit(isWritten ? 0 : 1);
 }
 
-/// Ends the program when it is not to run. Before all static objects.
-__attribute__((constructor(101))) void readArguments(int argc, char **argv)
+} // namespace
+
+void StartArguments::settle(int argc, char **argv)
 {
     for (int i = 1; i < argc; ++i) {
         const std::string argument = argv[i];
@@ -76,5 +78,3 @@ __attribute__((constructor(101))) void readArguments(int argc, char **argv)
             misused("", argument, " needs a value");
     }
 }
-
-} // namespace
