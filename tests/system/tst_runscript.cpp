@@ -98,7 +98,7 @@ public:
                    "mkdir alone || echo collided >>faults\n"
                    "ls -l /proc/$$/fd | grep 'build$' >>faults\n" // the lock would stay with what it leaves behind
                    "echo \"$1\" >>calls\n"
-                   "until [ -e ends ]; do sleep 0.1; done\n"
+                   "until [ -e ends ] || [ ! -e calls ]; do sleep 0.1; done\n"
                    "rmdir alone");
         script->setProcessEnvironment(environment());
         script->start(file("run.sh"), { "--build-only", "--modbus-port", "1502", "--remote-port", "3527" });
