@@ -95,6 +95,7 @@ void TstPanelServer::wrongUseIsOneLine_data()
     QTest::newRow("word") << QStringList { "loudly" } << QByteArray("\"loudly\" is no option");
     QTest::newRow("guide") << QStringList { "--guide", "/no/such/folder" }
                            << QByteArray("\"/no/such/folder\" is no folder");
+    QTest::newRow("root") << QStringList { "--root", "/no/such/root" } << QByteArray("\"/no/such/root\" is no folder");
     QTest::newRow("token") << QStringList { "--token-file", "/no/such/file" } << QByteArray("/no/such/file");
 }
 

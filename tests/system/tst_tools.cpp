@@ -10,13 +10,15 @@
 
 using namespace SystemTest;
 
-/// quvera-remote and quvera-gallery as a user calls them.
+/// The tools as a user calls them.
 class TstTools : public QObject
 {
     Q_OBJECT
 private slots:
     void remoteTellsWrongUse_data();
     void remoteTellsWrongUse();
+    void wordsThatNoToolKnowsAreWrongUse_data();
+    void wordsThatNoToolKnowsAreWrongUse();
     void remoteTellsThatNobodyAnswers();
     void remoteIdentifiesPressesAndSavesTheScreen();
     void pictureWithAFlippedBitIsNotWhole();
@@ -75,6 +77,35 @@ void TstTools::remoteTellsWrongUse()
     QCOMPARE(result.code, 2);
     QVERIFY2(result.error.contains(error), result.error);
     QCOMPARE(result.error.count('\n'), 1);
+}
+
+void TstTools::wordsThatNoToolKnowsAreWrongUse_data()
+{
+    QTest::addColumn<QString>("tool");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("error");
+    for (const QString tool : { "quvera-remote", "quvera-gallery", "quvera-panel" }) {
+        QTest::addRow("%s, option", qPrintable(tool))
+            << tool << QStringList { "--bogus" } << QByteArray("Unknown option 'bogus'");
+        if (tool != QLatin1String("quvera-remote")) // its words are commands
+            QTest::addRow("%s, word", qPrintable(tool))
+                << tool << QStringList { "extra" } << QByteArray("\"extra\" is no option");
+    }
+    QTest::newRow("quvera-remote, no value")
+        << "quvera-remote" << QStringList { "identify", "--port" } << QByteArray("Missing value after '--port'");
+}
+
+void TstTools::wordsThatNoToolKnowsAreWrongUse()
+{
+    QFETCH(QString, tool);
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, error);
+    const Result result = run(tool, arguments);
+    QCOMPARE(result.code, 2);
+    // The toolkit may have complained of its surroundings before.
+    QVERIFY2(('\n' + result.error).endsWith('\n' + tool.toUtf8() + ": " + error + "; --help lists the options\n"),
+             result.error);
+    QCOMPARE(result.output, QByteArray());
 }
 
 void TstTools::remoteTellsThatNobodyAnswers()

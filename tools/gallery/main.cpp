@@ -1,5 +1,6 @@
 // quvera-gallery: pictures of every page of the instrument, with an index page and a contact sheet.
 #include "gallery/gallery.h"
+#include "remote/toolcall.h"
 
 #include <QCommandLineParser>
 #include <QGuiApplication>
@@ -21,12 +22,6 @@ void catchSignals()
     action.sa_flags = SA_RESETHAND;
     for (const int signal : { SIGINT, SIGTERM, SIGHUP })
         ::sigaction(signal, &action, nullptr);
-}
-
-int fail(int code, const QString &text)
-{
-    std::fprintf(stderr, "quvera-gallery: %s\n", qPrintable(text));
-    return code;
 }
 
 // "1,3,5-7" or "all" into numbers of the allowed ones; empty when one is not allowed.
@@ -156,18 +151,19 @@ int main(int argc, char **argv)
             .arg(pageNames.join(QLatin1Char(' '))));
     parser.addHelpOption();
     addOptions(parser);
-    parser.process(application);
+    if (!readCall(parser, false))
+        return Misused;
 
     GalleryOptions options;
     options.binDir = QCoreApplication::applicationDirPath();
     const QString misuse = readOptions(parser, pageNames, &options);
     if (!misuse.isEmpty())
-        return fail(2, misuse);
+        return fail(Misused, misuse);
     catchSignals();
     options.isStopped = [] { return stopSignal != 0; };
     Gallery gallery(options);
     if (!gallery.run())
-        return stopSignal ? fail(128 + stopSignal, QStringLiteral("stopped")) : fail(1, gallery.error());
+        return stopSignal ? fail(128 + stopSignal, QStringLiteral("stopped")) : fail(Failed, gallery.error());
     std::printf("%d pictures: %s/index.html\n", gallery.pictureCount(), qPrintable(options.folder));
-    return 0;
+    return Done;
 }

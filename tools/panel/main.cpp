@@ -4,6 +4,7 @@
 #include "panel/screenfeed.h"
 #include "panel/supply.h"
 #include "remote/hostaddress.h"
+#include "remote/toolcall.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -19,15 +20,7 @@
 
 namespace {
 
-enum Exit { Done = 0, Failed = 1, Misused = 2 };
-
 constexpr int kShortestToken = 16; // signs
-
-int fail(int code, const QString &text)
-{
-    std::fprintf(stderr, "quvera-panel: %s\n", qPrintable(text));
-    return code;
-}
 
 struct Options
 {
@@ -95,7 +88,8 @@ struct Definitions
         parser->setApplicationDescription(
             QStringLiteral("Serves an instrument's front panel to browsers: its screen, its keys, and on a desk the "
                            "supply beside it. Ctrl-C ends it.\n\nExit status: 0 done, 1 the port cannot be had or no "
-                           "host has that name, 2 wrong use, such as a file that cannot be read."));
+                           "host has that name, 2 wrong use, such as a file that cannot be read or a folder "
+                           "that does not exist."));
         parser->addHelpOption();
         parser->addOptions({ instrument, instrumentPort, port, listen, tokenFile, name, root, guide });
     }
@@ -124,11 +118,14 @@ QString usualGuide()
     return QFile::exists(built) ? built : top + QStringLiteral("/share/quvera-tools/guide");
 }
 
+QString notAFolder(const QString &name)
+{
+    return QStringLiteral("\"%1\" is no folder").arg(name);
+}
+
 /// Empty, or one line that says what is wrong.
 QString readOptions(const QCommandLineParser &parser, const Definitions &given, Options *options)
 {
-    if (!parser.positionalArguments().isEmpty())
-        return QStringLiteral("\"%1\" is no option").arg(parser.positionalArguments().constFirst());
     options->instrument = parser.value(given.instrument);
     if (!readPort(parser.value(given.instrumentPort), 1, &options->instrumentPort))
         return QStringLiteral("\"%1\" is no port").arg(parser.value(given.instrumentPort));
@@ -137,9 +134,11 @@ QString readOptions(const QCommandLineParser &parser, const Definitions &given, 
     if (!options->listen.setAddress(parser.value(given.listen)))
         return QStringLiteral("\"%1\" is no address to listen at").arg(parser.value(given.listen));
     options->root = parser.isSet(given.instrument) && !parser.isSet(given.root) ? QString() : parser.value(given.root);
+    if (!options->root.isEmpty() && !QFileInfo(options->root).isDir())
+        return notAFolder(options->root);
     options->guide = parser.isSet(given.guide) ? parser.value(given.guide) : usualGuide();
     if (parser.isSet(given.guide) && !QFileInfo(options->guide).isDir())
-        return QStringLiteral("\"%1\" is no folder").arg(options->guide);
+        return notAFolder(options->guide);
     const QStringList names = parser.values(given.name);
     for (const QString &name : names)
         options->names.push_back(name.toStdString());
@@ -221,7 +220,8 @@ int main(int argc, char **argv)
     QCommandLineParser parser;
     Definitions definitions;
     definitions.addTo(&parser);
-    parser.process(application);
+    if (!readCall(parser, false))
+        return Misused;
     Options options;
     const QString misuse = readOptions(parser, definitions, &options);
     if (!misuse.isEmpty())

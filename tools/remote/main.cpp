@@ -1,6 +1,7 @@
 // quvera-remote: identifies the instrument, presses its keys and fetches its screen from a shell.
 #include "remote/hostaddress.h"
 #include "remote/remoteclient.h"
+#include "remote/toolcall.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -10,14 +11,6 @@
 #include <cstdio>
 
 namespace {
-
-enum Exit { Done = 0, Failed = 1, Misused = 2 };
-
-int fail(int code, const QString &text)
-{
-    std::fprintf(stderr, "quvera-remote: %s\n", qPrintable(text));
-    return code;
-}
 
 bool parseNumber(const QString &text, int lowest, int highest, int *value)
 {
@@ -109,7 +102,8 @@ int main(int argc, char **argv)
                                  QStringLiteral("ms"), QStringLiteral("100"));
     parser.addOptions({ host, port, timeout, gap });
     parser.addPositionalArgument(QStringLiteral("command"), QStringLiteral("identify, key, screen or keepalive."));
-    parser.process(application);
+    if (!readCall(parser, true))
+        return Misused;
 
     QStringList arguments = parser.positionalArguments();
     if (arguments.isEmpty())
