@@ -91,13 +91,18 @@ check_ports()
 {
     awk -v p="$(printf ':%04X' "$remote_port")" '$2 ~ p"$" { found = 1 } END { exit !found }' /proc/net/udp /proc/net/udp6 2>/dev/null &&
         die "UDP port $remote_port is in use; choose another with --remote-port"
-    served_by_tcp "$modbus_port" && die "TCP port $modbus_port is in use; choose another with --modbus-port"
-    [ -n "$no_panel" ] || ! served_by_tcp "$panel_port" ||
-        die "TCP port $panel_port is in use; choose another with --panel-port, or leave the panel out with --no-panel"
-    if [ "$modbus_port" -lt "$(cat /proc/sys/net/ipv4/ip_unprivileged_port_start 2>/dev/null || echo 1024)" ] &&
-        [ "$(id -u)" -ne 0 ]; then
-        die "port $modbus_port needs root; choose one above 1023 with --modbus-port"
-    fi
+    check_tcp_port "$modbus_port" --modbus-port
+    [ -n "$no_panel" ] ||
+        check_tcp_port "$panel_port" "--panel-port, or leave the panel out with --no-panel"
+}
+
+# check_tcp_port PORT REMEDY: refuses a port that cannot be had, and names the option that chooses another.
+check_tcp_port()
+{
+    served_by_tcp "$1" && die "TCP port $1 is in use; choose another with $2"
+    lowest=$(cat /proc/sys/net/ipv4/ip_unprivileged_port_start 2>/dev/null || echo 1024)
+    [ "$1" -ge "$lowest" ] || [ "$(id -u)" -eq 0 ] ||
+        die "TCP port $1 needs root; choose one above $((lowest - 1)) with $2"
 }
 
 # What can be refused is refused before the build, which takes minutes.

@@ -12,12 +12,14 @@
 #include <QTest>
 #include <QUdpSocket>
 
+#include <algorithm>
 #include <csignal>
 
 namespace {
 
 constexpr int kPatience = 60000; // ms, ends a hang only
 const QString kSource = QStringLiteral(QUVERA_SOURCE_DIR "/");
+const QString kGoesOn = QStringLiteral("configuring failed"); // what is said where cmake fails
 
 QByteArray contentOf(const QString &name)
 {
@@ -136,6 +138,14 @@ public:
     }
     const QByteArray &said() const { return m_said; }
     QString file(const char *name) const { return m_top.filePath(QLatin1String(name)); }
+    /// A command that the script finds before the system's.
+    void addCommand(const char *name, const QByteArray &does)
+    {
+        QFile command(file("build/commands/") + QLatin1String(name));
+        QVERIFY(command.open(QIODevice::WriteOnly));
+        command.write("#!/bin/sh\n" + does + "\n");
+        QVERIFY(command.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    }
 
 private:
     QProcessEnvironment environment() const
@@ -143,13 +153,6 @@ private:
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("PATH"), file("build/commands:") + environment.value(QStringLiteral("PATH")));
         return environment;
-    }
-    void addCommand(const char *name, const QByteArray &does)
-    {
-        QFile command(file("build/commands/") + QLatin1String(name));
-        QVERIFY(command.open(QIODevice::WriteOnly));
-        command.write("#!/bin/sh\n" + does + "\n");
-        QVERIFY(command.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     }
 
     QTemporaryDir m_top;
@@ -172,6 +175,8 @@ private slots:
     void withoutThePanelItsPortIsLeftAlone();
     void usedPortIsOneClearLine_data();
     void usedPortIsOneClearLine();
+    void portOfTheSystemNeedsRoot_data();
+    void portOfTheSystemNeedsRoot();
     void secondBuildWaitsForTheFirst();
     void killedInstrumentIsToldInOneLine();
 };
@@ -228,6 +233,47 @@ void TstRunScript::usedPortIsOneClearLine()
     QCOMPARE(desk.status(), 1);
     QCOMPARE(QString::fromUtf8(desk.said()), QStringLiteral("quvera: %1\n").arg(line.arg(ports.*taken)));
     QVERIFY(!QFile::exists(desk.file("build/desk/dev/mcasp"))); // nothing was started
+}
+
+void TstRunScript::portOfTheSystemNeedsRoot_data()
+{
+    QTest::addColumn<Port>("low");
+    QTest::addColumn<QByteArray>("user");
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QString>("line");
+    const QString modbus = QStringLiteral("TCP port %1 needs root; choose one above %1 with --modbus-port\n");
+    const QString panel = QStringLiteral("TCP port %1 needs root; choose one above %1 with --panel-port, or leave the "
+                                         "panel out with --no-panel\n");
+    QTest::newRow("Modbus") << &Ports::modbus << QByteArray("1000") << QStringList {} << modbus;
+    QTest::newRow("panel") << &Ports::panel << QByteArray("1000") << QStringList {} << panel;
+    QTest::newRow("no panel") << &Ports::panel << QByteArray("1000") << QStringList { "--no-panel" } << kGoesOn;
+    QTest::newRow("Modbus, root") << &Ports::modbus << QByteArray("0") << QStringList {} << kGoesOn;
+    QTest::newRow("panel, root") << &Ports::panel << QByteArray("0") << QStringList {} << kGoesOn;
+}
+
+// Whoever the test belongs to: the script is told another user.
+void TstRunScript::portOfTheSystemNeedsRoot()
+{
+    QFETCH(Port, low);
+    QFETCH(QByteArray, user);
+    QFETCH(QStringList, options);
+    QFETCH(QString, line);
+    QFile first(QStringLiteral("/proc/sys/net/ipv4/ip_unprivileged_port_start"));
+    QVERIFY(first.open(QIODevice::ReadOnly));
+    const int highest = first.readAll().trimmed().toInt() - 1;
+    Ports ports;
+    Desk desk;
+    desk.addCommand("id", "echo " + user);
+    desk.addCommand("cmake", "exit 1");
+    ports.giveAllBut(0);
+    ports.*low = quint16(std::max(highest, 1));
+    desk.start(ports, options);
+    QCOMPARE(desk.status(), 1);
+    if (highest < 1) // every port is everybody's
+        line = kGoesOn;
+    else if (line.contains(QLatin1String("%1")))
+        line = line.arg(highest);
+    QVERIFY2(desk.said().startsWith("quvera: " + line.toUtf8()), desk.said());
 }
 
 void TstRunScript::secondBuildWaitsForTheFirst()
