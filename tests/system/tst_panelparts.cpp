@@ -41,7 +41,7 @@ private slots:
     void sameTextIsNoNews();
     void slowReaderGetsTheNewestOnly();
     void readersAreCountedWhileTheyLive();
-    void whetherTheInstrumentIsThereIsNotKnownWhileNobodyLooks();
+    void howThingsStandIsNotKnownWhileNobodyLooks();
     void peerThatIsGoneWithoutAWordIsGivenUp();
     void answerThatNobodyTakesEnds();
     void closedBulletinLetsEveryoneGo();
@@ -106,16 +106,16 @@ void TstPanelParts::readersAreCountedWhileTheyLive()
     QCOMPARE(bulletin.readers(), 0);
 }
 
-void TstPanelParts::whetherTheInstrumentIsThereIsNotKnownWhileNobodyLooks()
+void TstPanelParts::howThingsStandIsNotKnownWhileNobodyLooks()
 {
     constexpr std::chrono::milliseconds kNow(0);
     Bulletin bulletin;
     {
         Bulletin::Reader first(bulletin);
-        bulletin.publish(Bulletin::Instrument, "there");
-        bulletin.publish(Bulletin::Screen, "picture");
+        for (const auto topic : { Bulletin::Screen, Bulletin::Instrument, Bulletin::Supply })
+            bulletin.publish(topic, topic == Bulletin::Screen ? "picture" : "there");
         Bulletin::Reader second(bulletin);
-        QCOMPARE(bulletin.news(second, kNow).size(), size_t(2)); // what somebody watched is known
+        QCOMPARE(bulletin.news(second, kNow).size(), size_t(3)); // what somebody watched is known
     }
     Bulletin::Reader later(bulletin);
     auto news = bulletin.news(later, kNow);

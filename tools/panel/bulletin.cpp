@@ -5,8 +5,10 @@ namespace panel {
 Bulletin::Reader::Reader(Bulletin &bulletin) : m_bulletin(bulletin)
 {
     const std::lock_guard<std::mutex> guard(m_bulletin.m_lock);
-    if (m_bulletin.m_readers++ == 0)
+    if (m_bulletin.m_readers++ == 0) { // nobody was asked since the last one left
         m_bulletin.m_messages[Instrument] = nullptr;
+        m_bulletin.m_messages[Supply] = nullptr;
+    }
 }
 
 Bulletin::Reader::~Reader()

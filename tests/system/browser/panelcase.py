@@ -164,6 +164,11 @@ class PanelCase(unittest.TestCase):
         return eventually(lambda: self.page.find_elements(By.CSS_SELECTOR, f'[data-control="{name}"]'),
                           f"no control {name}")[0]
 
+    def push(self, name):
+        """The control's button, brought into sight as a person does: the line at the foot may stand before it."""
+        self.page.execute_script("arguments[0].scrollIntoView({block: 'center'})", self.control(name))
+        self.control(name).find_element(By.TAG_NAME, "button").click()
+
     def put(self, name, field, value):
         """Moves a slider, or chooses a word, as a person's hand does: with its events."""
         self.page.execute_script(
@@ -171,10 +176,12 @@ class PanelCase(unittest.TestCase):
             "for (const kind of ['input', 'change']) arguments[0].dispatchEvent(new Event(kind, {bubbles: true}));",
             self.control(name).find_element(By.NAME, field), value)
 
-    def stands(self, name, text):
-        def found():
-            shown = self.page.execute_script(
-                "return [...document.querySelectorAll('#standing div')].map((row) => [...row.children].map("
-                "(part) => part.textContent))")
-            return any(row[0] == name and text in row[1] for row in shown)
-        eventually(found, f"{name} does not become {text}")
+    def standing(self, page=None):
+        """What is said of each thing at the inputs."""
+        return dict((page or self.page).execute_script(
+            "return [...document.querySelectorAll('#standing div')].map((row) => [...row.children].map("
+            "(part) => part.textContent))"))
+
+    def stands(self, name, text, page=None):
+        eventually(lambda: text in self.standing(page).get(name, ""),
+                   lambda: f"{name} does not become {text}, but {self.standing(page)}")

@@ -32,15 +32,21 @@ class PanelInTrouble(PanelCase):
         eventually(gone.is_displayed, "the end goes unnoticed")
         self.assertIn("does not answer", self.page.find_element(By.ID, "state").text)
         self.assertIn("last picture", gone.text)
+        self.assertIn("The panel goes on asking", gone.text)
         self.assertIn("grayscale", self.screen().value_of_css_property("filter"))  # no value looks as if it were of now
         self.page.refresh()  # one who comes now is shown the same
         eventually(lambda: "last picture" in self.page.find_element(By.ID, "gone").text,
                    "the old picture passes for a new one")
 
     def test_processor_ends_and_starts_behind_it(self):
+        self.push("usbIn")
+        self.stands("USB disk", "STICK")
         self.desk.stop(self.desk.processor)
         said = self.page.find_element(By.ID, "said")
         eventually(lambda: said.text == "The processor stand-in does not answer", "the end goes unnoticed")
+        stands = self.standing()
+        self.assertRegex(stands.pop("Light now"), "[1-4] / 4")  # which the instrument tells
+        self.assertEqual(set(stands.values()), {"unknown"}, stands)
         self.desk.processor = self.desk.begin("quvera-processor", "--scenario", "swell")
         self.stands("Scenario", "swell")
         eventually(lambda: said.text == "", "the start goes unnoticed")
@@ -79,6 +85,8 @@ class PanelInTrouble(PanelCase):
         self.title_becomes("Menu", page)
         gone = page.find_element(By.ID, "gone")
         eventually(lambda: not gone.is_displayed(), "the instrument is not there")
+        self.stands("Link faults", "none", page)
+        eventually(lambda: page.find_elements(By.CSS_SELECTOR, '[data-control="dip"]'), "no controls come")
         panel.send_signal(signal.SIGSTOP)
         try:
             for name in ("Setup", "Memory", "Scope", "Monitor"):
@@ -86,16 +94,33 @@ class PanelInTrouble(PanelCase):
             eventually(gone.is_displayed, "the old picture passes for a new one")
             self.assertIn("The panel does not answer", gone.text)
             self.assertIn("last picture", gone.text)
+            self.assertIn("This page goes on asking", gone.text)
             self.assertEqual(page.find_element(By.ID, "state").text, "The panel does not answer")
+            self.assertGreater(len(self.standing(page)), 6)
+            self.assertEqual(set(self.standing(page).values()), {"unknown"}, self.standing(page))
+            self.assertEqual(page.find_element(By.ID, "said").text, "What stands at the inputs is not known")
+            self.assertEqual(self.followers(page), {"unknown", ""})
             self.assertIn("grayscale", self.screen(page).value_of_css_property("filter"))
         finally:
             panel.send_signal(signal.SIGCONT)
         eventually(lambda: not gone.is_displayed(), "the panel's return goes unnoticed")
+        self.stands("Link faults", "none", page)
+        self.assertEqual(page.find_element(By.ID, "said").text, "")
+        self.assertTrue({"230.0 V", "up"} <= self.followers(page), self.followers(page))
+        self.assertFalse({"unknown", ""} & self.followers(page), self.followers(page))
         time.sleep(2)  # as long as a key that waited would need
         self.title_becomes("Menu", page)
         self.assertEqual(self.screen().get_attribute("alt"), "Screen of the instrument: Menu")
         page.find_element(By.CSS_SELECTOR, '#front [data-key="Setup"]').click()
         self.title_becomes("Setup")
+
+    @staticmethod
+    def followers(page):
+        """What the controls say that follow how things stand."""
+        return set(page.execute_script(
+            "return Object.entries(standing).flatMap(([id, fields]) => Object.keys(fields).map((name) => {"
+            "  const input = document.querySelector(`[data-control=${id}] [name=${name}]`);"
+            "  return input.getAttribute('aria-valuetext') || input.value; }))"))
 
     def test_tabs_that_nobody_sees_keep_no_connection(self):
         _, address, page = self.another_panel()

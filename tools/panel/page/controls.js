@@ -1,15 +1,19 @@
 'use strict';
 // What stands beside the instrument on a desk: controls from the server's table, and how things stand.
 
+// The back light's brightness at each step, which the instrument's own pages count from 1.
+const steps = ['1', '3', '5', '7'];
+
+// What is not known is told as such.
 const shown = [
   ['Scenario', (s) => s.scenario],
   ['Frequency', (s) => s.f && `${Math.abs(s.f).toFixed(3)} Hz`], // negative before it was measured
   ['Voltages set', (s) => s.volts && `${s.volts.split(',').slice(0, 3).map((v) => Number(v).toFixed(1)).join(' / ')} V`],
   ['Currents set', (s) => s.amps && `${s.amps.split(',').slice(0, 3).map((v) => Number(v).toFixed(2)).join(' / ')} A`],
   ['Speed', (s) => s.speed && `${s.speed} ×`],
-  ['USB disk', (s) => s.usb || 'none'],
+  ['USB disk', (s) => s.usb === '' ? 'none' : s.usb],
   ['Link faults', (s) => (s.faults === '0' ? 'none' : s.faults)],
-  ['Light', (s) => s.light && `${s.light} of 7`],
+  ['Light now', (s) => steps.includes(s.light) && `${steps.indexOf(s.light) + 1} / ${steps.length}`],
 ];
 
 function phaseOf(values, phase) {
@@ -23,13 +27,14 @@ const standing = {
   frequency: { hertz: (s) => s.hertz },
   scenario: { scenario: (s) => s.scenario },
   battery: { volts: (s) => s.gauge && s.gauge * 8.1 / 2400 },
-  charger: { state: (s) => (s.charged === '1' ? 'full' : (s.charging === '1' ? 'on' : 'off')) },
-  cable: { state: (s) => (s.cable === '0' ? 'down' : 'up') },
+  charger: { state: (s) => s.charged && (s.charged === '1' ? 'full' : (s.charging === '1' ? 'on' : 'off')) },
+  cable: { state: (s) => s.cable && (s.cable === '0' ? 'down' : 'up') },
   speed: { factor: (s) => s.speed },
 };
 
 let built = false;
 let standingNow = {}; // the last report
+let silent = ''; // who does not report
 const panels = []; // of the controls that follow how things stand
 
 function element(tag, properties, ...children) {
@@ -38,10 +43,19 @@ function element(tag, properties, ...children) {
   return made;
 }
 
-function answer(text, failed) {
-  const said = document.getElementById('said');
-  said.textContent = text;
-  said.classList.toggle('failed', Boolean(failed));
+function say(text, failed) {
+  setText(document.getElementById('said'), text);
+  document.getElementById('said').classList.toggle('failed', Boolean(failed));
+}
+
+// A long answer takes more lines: what somebody is at goes out of its way.
+function answer(control, text, failed) {
+  if (!control.live) say(''); // the same once more is said once more
+  say(`${control.label}: ${text}`, failed);
+  const line = document.getElementById('said').getBoundingClientRect();
+  const at = document.activeElement;
+  const box = at.getBoundingClientRect();
+  if (at.closest('#controls') && box.top < line.bottom && box.bottom > line.top) scrollBy(0, box.bottom - line.top + 8);
 }
 
 // The words of a command, as a person reads them.
@@ -62,15 +76,16 @@ function makeSlider(field, alone) {
     type: 'range', name: field.name, min: field.least, max: field.most, step: field.step, value: field.value,
   });
   const digits = (String(field.step).split('.')[1] || '').length;
-  const output = element('output', {});
-  input.show = () => {
-    output.textContent = `${Number(input.value).toFixed(digits)} ${field.unit}`.trim();
-    input.setAttribute('aria-valuetext', output.textContent);
+  const amount = element('span', { className: 'amount', ariaHidden: 'true' }); // the slider itself says it aloud
+  input.show = (isKnown = true) => {
+    const text = isKnown ? `${Number(input.value).toFixed(digits)} ${field.unit}`.trim() : 'unknown';
+    setText(amount, text);
+    input.setAttribute('aria-valuetext', text);
   };
-  input.addEventListener('input', input.show);
+  input.addEventListener('input', () => input.show());
   input.show();
   const name = element('span', { textContent: field.label, className: alone ? 'unseen' : '' });
-  return { input, label: element('label', { className: alone ? 'range alone' : 'range' }, name, input, output) };
+  return { input, label: element('label', { className: alone ? 'range alone' : 'range' }, name, input, amount) };
 }
 
 // One request at a time for each control; of what moved meanwhile the last value follows.
@@ -85,9 +100,9 @@ function sender(control, inputs) {
     for (const input of inputs) wish[input.name] = input.type === 'range' ? Number(input.value) : input.value;
     try {
       await post('control', wish);
-      answer(`${control.label}: done`);
+      answer(control, 'done');
     } catch (error) {
-      answer(`${control.label}: ${error.message}`, true);
+      answer(control, error.message, true);
     }
     busy = false;
     if (again) send();
@@ -141,23 +156,34 @@ async function buildControls() {
 function followOne({ id, inputs }) {
   for (const [name, valueOf] of Object.entries(standing[id] || {})) {
     const value = valueOf(standingNow, inputs);
-    if (value === undefined || value === '') continue;
-    inputs[name].value = value;
-    if (inputs[name].show) inputs[name].show();
+    const isKnown = value !== undefined && value !== '';
+    if (isKnown || !inputs[name].show) inputs[name].value = isKnown ? value : ''; // a choice of nothing; a slider stands somewhere
+    if (inputs[name].show) inputs[name].show(isKnown);
   }
 }
 
-function showSupply(state) {
+function showStanding(state) {
   standingNow = state;
-  document.getElementById('supply').hidden = false;
-  if (!built) buildControls().catch(() => { built = false; });
   document.getElementById('standing').replaceChildren(...shown.map(([name, text]) => element('div', {},
-    element('dt', { textContent: name }), element('dd', { textContent: text(state) || '–' }))));
-  document.getElementById('standing').dataset.there = state.there;
-  const silent = 'The processor stand-in does not answer';
-  if (!state.there) answer(silent, true);
-  else if (document.getElementById('said').textContent === silent) answer('');
-  document.getElementById('screen').dataset.light = state.light; // pictures are as bright as ever
+    element('dt', { textContent: name }), element('dd', { textContent: text(state) || 'unknown' }))));
+  document.getElementById('standing').dataset.there = Boolean(state.there);
   // A control that somebody is at stays as it is.
   for (const panel of panels) if (!panel.row.contains(document.activeElement)) followOne(panel);
+}
+
+// Nobody tells any more how things stand.
+function forgetSupply(why) {
+  showStanding({});
+  silent = why;
+  say(why, true);
+}
+
+function showSupply(state) {
+  showStanding(state);
+  document.getElementById('supply').hidden = false;
+  if (!built) buildControls().catch(() => { built = false; });
+  if (document.getElementById('said').textContent === silent) say('');
+  silent = state.there ? '' : 'The processor stand-in does not answer';
+  if (silent) say(silent, true);
+  document.getElementById('screen').dataset.light = state.light; // pictures are as bright as ever
 }

@@ -19,6 +19,7 @@ let lastKey = Promise.resolve();
 let notes = {};
 let lasting = byId('state').textContent;
 let complaint = 0;
+let asker = 'This page';
 let source = null;
 let patience = 0;
 let clockAhead = -Infinity; // of the panel's clock before the page's, ms
@@ -165,7 +166,7 @@ function showScreen(screen) {
 }
 byId('reading').addEventListener('toggle', () => list(byId('texts'), (notes.Texts || '').split('\n')));
 
-function showInstrument(there, why) {
+function showInstrument(there, why, whoAsks) {
   const title = byId('gone').children[0];
   byId('gone').hidden = there;
   document.body.classList.toggle('gone', !there);
@@ -173,11 +174,12 @@ function showInstrument(there, why) {
   lasting = there ? 'The instrument answers' : why;
   setText(byId('state'), lasting);
   setText(title, why);
+  asker = whoAsks;
   sayWhatIsShown();
 }
 
 function sayWhatIsShown() {
-  setText(byId('gone').children[1], `${notes.png ? 'This is the last picture that came. ' : ''}The panel goes on asking.`);
+  setText(byId('gone').children[1], `${notes.png ? 'This is the last picture that came. ' : ''}${asker} goes on asking.`);
 }
 
 function hangUp() {
@@ -197,7 +199,7 @@ function listen() {
   clockAhead = -Infinity;
   const hear = (name, show) => source.addEventListener(name, (event) => { expectNews(); show(JSON.parse(event.data)); });
   hear('screen', showScreen);
-  hear('instrument', (state) => showInstrument(state.there, 'The instrument does not answer'));
+  hear('instrument', (state) => showInstrument(state.there, 'The instrument does not answer', 'The panel'));
   hear('supply', showSupply);
   // The beat that was least delayed tells best, but not for ever: a page may be open for weeks, and clocks drift.
   hear('beat', (beat) => { clockAhead = Math.max(clockAhead - driftOfABeat, beat.at - performance.now()); });
@@ -217,13 +219,16 @@ async function lose(refused) {
   hangUp();
   patience = setTimeout(listen, 3000);
   const why = refused ? await whyRefused() : '';
-  if (source === lost && !document.hidden) showInstrument(false, why || 'The panel does not answer');
+  if (source !== lost || document.hidden) return;
+  showInstrument(false, why || 'The panel does not answer', 'This page');
+  forgetSupply('What stands at the inputs is not known');
 }
 
 // A browser has few connections for all its tabs: one that nobody sees keeps none.
 function listenWhileSeen() {
   hangUp();
-  showInstrument(false, 'Waiting for the instrument');
+  showInstrument(false, 'Waiting for the instrument', 'This page');
+  forgetSupply('');
   if (!document.hidden) listen();
 }
 document.addEventListener('visibilitychange', listenWhileSeen);
