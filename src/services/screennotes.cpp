@@ -148,10 +148,10 @@ QString Reading::lineOf(const Mark &mark) const
     if (within.isEmpty())
         return {};
     // Boxes that stand beside each other have the caption of their line to the left.
+    const Text box = within.first();
     for (const Text &text : m_texts) {
-        const bool isCaption = std::abs(text.middle.y() - within.first().middle.y()) < kRowHeight
-            && text.middle.x() < mark.place.left() && text.check == Check::None;
-        if (within.first().check != Check::None && isCaption)
+        if (box.check != Check::None && text.check == Check::None && text.middle.x() < mark.place.left()
+            && std::abs(text.middle.y() - box.middle.y()) < kRowHeight)
             within << text;
     }
     const QString state = check == Check::None ? QString() : QLatin1String(check == Check::On ? " [x]" : " [ ]");

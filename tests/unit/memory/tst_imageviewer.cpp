@@ -2,6 +2,7 @@
 
 #include "board/backlight.h"
 #include "memory/imageviewer.h"
+#include "widgets/controls/readingmarks.h"
 
 #include <QPainter>
 
@@ -51,6 +52,7 @@ void TstImageViewer::aPictureCoversTheWindowAndF5LeavesIt()
     ImageViewer *viewer = openPicture(screen);
     QVERIFY(viewer);
     QCOMPARE(viewer->geometry(), QRect(0, 0, 640, 480));
+    QVERIFY(ReadingMarks::isCover(viewer)); // nothing below it is read aloud
     const QImage image = painted(&screen.window);
     for (const QPoint &corner : { QPoint(0, 0), QPoint(639, 0), QPoint(0, 479), QPoint(639, 479), QPoint(320, 240) })
         QCOMPARE(image.pixelColor(corner), QColor(Qt::red));
