@@ -18,7 +18,8 @@
 
 namespace {
 
-// Static objects make folders, so that main() would be too late. The C library gives the arguments to a constructor, too.
+// Static objects make folders, so that main() would be too late. The C library gives the arguments to a
+// constructor, too.
 __attribute__((constructor(101))) void beforeStaticObjects(int argc, char **argv)
 {
     StartArguments::settle(argc, argv);
