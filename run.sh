@@ -138,7 +138,7 @@ power_latch=$root/sys/class/gpio/gpio47/value
 
 # The shell's own lines about a child that a signal ended go nowhere: what happened is said below.
 exec 3>&2 2>/dev/null
-said=3
+say_to=3
 
 # The children get Ctrl-C from this script only, so that they end in order.
 node=$root/dev/mcasp

@@ -1,8 +1,8 @@
 # Shared by run.sh, test.sh and bench.sh, which set `top` to the repository's folder before they read this.
 
-said=2 # where to
-say() { printf '%s\n' "$*" >&"$said"; }
-die() { printf 'quvera: %s\n' "$*" >&"$said"; exit 1; }
+say_to=2 # the descriptor that takes what the scripts say
+say() { printf '%s\n' "$*" >&"$say_to"; }
+die() { printf 'quvera: %s\n' "$*" >&"$say_to"; exit 1; }
 
 # missing_packages <lists...>: names of their packages that are not installed.
 missing_packages()

@@ -14,8 +14,8 @@ without_errors()
 # says_nothing COMMAND...: it ends well and without a word, for `systemd-analyze verify` ends well with mere warnings.
 says_nothing()
 {
-    said=$("$@" 2>&1) && [ -z "$said" ] && return 0
-    printf '%s\n' "$said" >&2
+    words=$("$@" 2>&1) && [ -z "$words" ] && return 0
+    printf '%s\n' "$words" >&2
     return 1
 }
 

@@ -17,6 +17,7 @@ private slots:
     void nothingIsHiddenFromLintian();
     void wordOfACommandIsAFault_data();
     void wordOfACommandIsAFault();
+    void trialIsHeardBehindTheseChecks();
     void trialAsksThroughTheseChecks();
     void pictureIsKnownByItsTitle_data();
     void pictureIsKnownByItsTitle();
@@ -65,6 +66,27 @@ void TstPackageChecks::wordOfACommandIsAFault()
     m_commands.answer("asked", does);
     QCOMPARE(m_commands.call({ QStringLiteral("says_nothing"), QStringLiteral("asked"), QStringLiteral("unit") }),
              status);
+}
+
+/// The trial reads two files of functions: neither takes from the other what it needs.
+void TstPackageChecks::trialIsHeardBehindTheseChecks()
+{
+    const QString trial = text(QStringLiteral("packaging/debian/test.sh"));
+    const QString readsBoth = caught(trial, QStringLiteral("^(\\. [^\n]+\n\\. [^\n]+)$")).value(0);
+    const QString asks = QStringLiteral("\nwithout_errors \"$PWD/log\" one.deb\nsays_nothing true\nsay goes on\n"
+                                        "says_nothing echo a word || die \"no unit\"\n");
+    m_commands.answer("lintian");
+    QProcess script;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("top"), kTop);
+    environment.insert(QStringLiteral("here"), kTop + QStringLiteral("/packaging/debian"));
+    environment.insert(QStringLiteral("PATH"), m_commands.root() + QStringLiteral(":/usr/bin:/bin"));
+    script.setProcessEnvironment(environment);
+    script.setWorkingDirectory(m_commands.root());
+    script.start(QStringLiteral("/bin/bash"), { QStringLiteral("-euc"), readsBoth + asks });
+    QVERIFY(script.waitForFinished());
+    QCOMPARE(QString::fromUtf8(script.readAllStandardError()), QStringLiteral("goes on\na word\nquvera: no unit\n"));
+    QCOMPARE(script.exitCode(), 1);
 }
 
 void TstPackageChecks::trialAsksThroughTheseChecks()
