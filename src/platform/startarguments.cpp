@@ -16,19 +16,37 @@ constexpr char kUsage[]
       "  --version        print the version, and end\n"
       "Environment: QUVERA_ROOT, folder that stands for \"/\"; QUVERA_MODBUS_PORT (502); QUVERA_REMOTE_PORT (3527).\n";
 
+enum class Value { None, Behind, BehindOrEqual };
+
 /// What the toolkit takes for itself, with one dash or two.
 struct ToolkitOption
 {
     const char *name;
-    bool hasValue; // behind it, or behind "="
+    Value value; // as the next argument, of some also after "="
 };
 constexpr ToolkitOption kToolkitOptions[] = {
-    { "display", true },       { "dograb", false },      { "geometry", true },      { "icon", true },
-    { "name", true },          { "nograb", false },      { "platform", true },      { "platformpluginpath", true },
-    { "platformtheme", true }, { "plugin", true },       { "qmljsdebugger", true }, { "qwindowgeometry", true },
-    { "qwindowicon", true },   { "qwindowtitle", true }, { "reverse", false },      { "session", true },
-    { "style", true },         { "stylesheet", true },   { "sync", false },         { "title", true },
-    { "visual", true },        { "widgetcount", false },
+    { "display", Value::Behind },
+    { "dograb", Value::None },
+    { "geometry", Value::Behind },
+    { "icon", Value::Behind },
+    { "name", Value::Behind },
+    { "nograb", Value::None },
+    { "platform", Value::Behind },
+    { "platformpluginpath", Value::Behind },
+    { "platformtheme", Value::Behind },
+    { "plugin", Value::Behind },
+    { "qmljsdebugger", Value::BehindOrEqual },
+    { "qwindowgeometry", Value::Behind },
+    { "qwindowicon", Value::Behind },
+    { "qwindowtitle", Value::Behind },
+    { "reverse", Value::None },
+    { "session", Value::Behind },
+    { "style", Value::BehindOrEqual },
+    { "stylesheet", Value::BehindOrEqual },
+    { "sync", Value::None },
+    { "title", Value::Behind },
+    { "visual", Value::Behind },
+    { "widgetcount", Value::None },
 };
 
 const ToolkitOption *toolkitOption(const std::string &name)
@@ -72,9 +90,11 @@ void StartArguments::settle(int argc, char **argv)
         const std::size_t equals = argument.find('=');
         const ToolkitOption *option
             = argument[0] == '-' ? toolkitOption(argument.substr(dashes, equals - dashes)) : nullptr;
-        if (!option)
+        const bool hasEqual = equals != std::string::npos;
+        // The toolkit would pass over what it does not know in silence.
+        if (!option || (hasEqual && option->value != Value::BehindOrEqual))
             misused("unknown argument ", argument, "");
-        if (option->hasValue && equals == std::string::npos && ++i == argc)
+        if (option->value != Value::None && !hasEqual && ++i == argc)
             misused("", argument, " needs a value");
     }
 }

@@ -292,6 +292,11 @@ void TstTools::programTakesTheOptionsOfTheToolkitOnly_data()
     QTest::newRow("word") << QStringList { "--platform", "none", "one\ntwo" } << 2
                           << "quvera: unknown argument \"one?two\"" + see;
     QTest::newRow("no value") << QStringList { "-platform" } << 2 << "quvera: \"-platform\" needs a value" + see;
+    QTest::newRow("value in a form that the toolkit does not read")
+        << QStringList { "-platform=offscreen", "--version" } << 2
+        << "quvera: unknown argument \"-platform=offscreen\"" + see;
+    QTest::newRow("value of an option without one")
+        << QStringList { "-reverse=on", "--version" } << 2 << "quvera: unknown argument \"-reverse=on\"" + see;
     QTest::newRow("help behind others") << QStringList { "-style=fusion", "-platform", "none", "-h" } << 0
                                         << QByteArray();
     QTest::newRow("value that looks like help")

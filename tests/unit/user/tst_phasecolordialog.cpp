@@ -73,6 +73,9 @@ void TstPhaseColorDialog::earthHasARowOfItsOwn()
 {
     QCOMPARE(after({ Down, Down, Down, Down, Left }), QStringLiteral("01230"));
     QCOMPARE(text(m_dialog.get(), QStringLiteral("row_4")), QStringLiteral("Earth"));
+    QCOMPARE(heard(m_dialog.get()), QStringLiteral("Earth"));
+    QTest::keyClick(m_dialog.get(), Qt::Key(Up));
+    QCOMPARE(heard(m_dialog.get()), text(m_dialog.get(), QStringLiteral("row_3")));
 }
 
 void TstPhaseColorDialog::defaultGivesTheFirstColors()

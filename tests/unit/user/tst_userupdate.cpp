@@ -176,8 +176,10 @@ void TstUserUpdate::leftAndRightChooseWhatIsUpdated()
     QCOMPARE(text("type"), QString("Software"));
     press(m_page.get(), Left);
     QCOMPARE(m_page->type(), UserUpdate::Software);
+    QCOMPARE(heard(m_page.get()), QString("Software"));
     press(m_page.get(), Right, 2);
     QCOMPARE(text("type"), QString("Firmware"));
+    QCOMPARE(heard(m_page.get()), QString("Firmware"));
     press(m_page.get(), Left);
     QCOMPARE(text("type"), QString("Software"));
 }

@@ -53,6 +53,7 @@ private slots:
     void passwordOf64DigitsGoesUnquoted();
     void failedJoinEndsInDisconnect();
     void selectionStaysOnItsNetwork();
+    void selectedNetworkAndFieldAreMarkedForThoseWhoHearThem();
     void emptyListIgnoresItsKeys();
     void namesFromTheAirAreShownAsPlainText();
     void tenThousandNetworksStayUsable();
@@ -413,9 +414,26 @@ void TstUserWifiPage::selectionStaysOnItsNetwork()
     QTRY_COMPARE(shown("count"), QStringLiteral("1 / 1"));
 }
 
+void TstUserWifiPage::selectedNetworkAndFieldAreMarkedForThoseWhoHearThem()
+{
+    openWith({ network("hall", kOpen, 1), network("", kSecured, 2) });
+    QVERIFY2(heard(m_page.get()).startsWith(QLatin1String("hall")), qPrintable(heard(m_page.get())));
+    press(Down);
+    QVERIFY2(heard(m_page.get()).startsWith(QLatin1String("[Unknown]")), qPrintable(heard(m_page.get())));
+    DialogDriver driver({ [](QDialog *dialog) {
+        QCOMPARE(heard(dialog), QStringLiteral("SSID: [Unknown]"));
+        QTest::keyClick(dialog, Qt::Key(Down));
+        QCOMPARE(heard(dialog), QStringLiteral("Password:"));
+        QTest::keyClick(dialog, Qt::Key(F5));
+    } });
+    press(F4);
+    QVERIFY(driver.isDone());
+}
+
 void TstUserWifiPage::emptyListIgnoresItsKeys()
 {
     open();
+    QCOMPARE(heard(m_page.get()), QString());
     for (const FrontKey key : { Up, Down, Enter, F4 })
         press(key, 3);
     QCOMPARE(shown("count"), QStringLiteral("no networks"));

@@ -4,6 +4,7 @@
 #include "pages/viewcontainer.h"
 #include "unit/measureddata.h"
 #include "widgets/controls/keyrepeat.h"
+#include "widgets/controls/readingmarks.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -49,6 +50,23 @@ inline QString text(const QWidget *page, const QString &name)
 {
     const auto *label = page->findChild<QLabel *>(name);
     return label ? label->text() : QStringLiteral("no label ") + name;
+}
+
+/// Texts on what is marked for those who hear the page, in the order in which the page was built.
+inline QString heard(const QWidget *page)
+{
+    QStringList texts;
+    const auto labels = page->findChildren<QLabel *>();
+    for (const QLabel *bar : labels) {
+        const QRect place = ReadingMarks::selection(bar).place;
+        const QRect marked(bar->mapTo(page, place.topLeft()), place.size());
+        for (const QLabel *label : labels) {
+            if (bar->isVisibleTo(page) && label->isVisibleTo(page) && !label->text().isEmpty()
+                && marked.contains(label->mapTo(page, label->rect().center())))
+                texts << label->text();
+        }
+    }
+    return texts.join(QLatin1Char(' '));
 }
 
 inline QString sheet(const QWidget *page, const char *name)
