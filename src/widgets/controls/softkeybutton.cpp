@@ -53,7 +53,8 @@ QString SoftKeyButton::selectedText() const
 QString SoftKeyButton::spokenText() const
 {
     const QString caption = m_choices.caption ? tr(m_choices.caption) + QLatin1Char(' ') : QString();
-    return caption + texts().join(QStringLiteral(" / ")) + QStringLiteral(": ") + selectedText();
+    const QString selected = selectedText();
+    return caption + texts().join(QStringLiteral(" / ")) + (selected.isEmpty() ? QString() : ": " + selected);
 }
 
 int SoftKeyButton::fittingPixels(const QStringList &texts, int width, int largest) const

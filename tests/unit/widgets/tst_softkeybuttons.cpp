@@ -63,6 +63,8 @@ void TstSoftKeyButtons::eachButtonOffersItsTexts()
         button->setBtnFlag(flags.at(i));
         QCOMPARE(button->btnFlag(), flags.at(i));
         QCOMPARE(button->selectedText(), texts.at(i));
+        const QString choices = texts.join(QStringLiteral(" / ")) + QStringLiteral(": ") + texts.at(i);
+        QVERIFY2(button->spokenText().endsWith(choices), qPrintable(button->spokenText()));
     }
 }
 
@@ -72,6 +74,7 @@ void TstSoftKeyButtons::anUnknownFlagSelectsNothing()
     for (const int flag : { 0, 6, -1 }) {
         button.setBtnFlag(flag);
         QVERIFY(button.selectedText().isEmpty());
+        QVERIFY(!button.spokenText().contains(QLatin1Char(':')));
     }
 }
 
