@@ -231,6 +231,17 @@ void TstScreenNotes::selectedRowOfAListIsNoted()
     QCOMPARE(note("Selected"), QString());
     list->setCurrentRow(1);
     QCOMPARE(note("Selected"), QStringLiteral("two"));
+    // Out of sight it is not noted, nor what stands where it would be.
+    for (int row = 0; row < 30; ++row)
+        list->addItem(QString::number(row));
+    list->resize(300, 40);
+    list->setCurrentRow(20);
+    list->scrollToTop();
+    const QPoint place = list->visualItemRect(list->currentItem()).center();
+    addLabel(QStringLiteral("of another"), place.x() - 20, place.y() - 5);
+    QCOMPARE(note("Selected"), QString());
+    list->scrollToItem(list->currentItem());
+    QCOMPARE(note("Selected"), QStringLiteral("18"));
     list->hide();
     QCOMPARE(note("Selected"), QString());
 }
@@ -248,6 +259,8 @@ void TstScreenNotes::barMarksTheTextsOnIt()
     QLabel *column = addLabel(QString(), 190, 100); // within the line
     ReadingMarks::select(column);
     QCOMPARE(note("Selected"), QStringLiteral("Frequency 50 Hz\n50 Hz"));
+    column->setGeometry(bar->geometry()); // the same once more says nothing more
+    QCOMPARE(note("Selected"), QStringLiteral("Frequency 50 Hz"));
     ReadingMarks::select(column, false);
     bar->move(0, 120);
     QCOMPARE(note("Selected"), QStringLiteral("Voltage"));
@@ -284,11 +297,21 @@ void TstScreenNotes::coverHidesThePage()
     QCOMPARE(note("Texts"), QStringLiteral("above"));
     QCOMPARE(note("Keys"), QStringLiteral("F5 Back"));
     QCOMPARE(note("Title"), QStringLiteral("Volts/Amps/ Hertz"));
+
+    auto *second = new QWidget(m_window.get());
+    ReadingMarks::setCover(second, {});
+    QLabel picture(QStringLiteral("picture"), second);
+    second->show();
+    QCOMPARE(note("Texts"), QStringLiteral("picture"));
+    QCOMPARE(note("Keys"), QString());
+    cover->raise();
+    QCOMPARE(note("Texts"), QStringLiteral("above"));
 }
 
 void TstScreenNotes::longTextsAreCut()
 {
-    addLabel(QString(3 * ScreenNotes::kLongest, QLatin1Char('x')), 10, 100);
+    ReadingMarks::select(addLabel(QString(3 * ScreenNotes::kLongest, QLatin1Char('x')), 10, 100));
+    QCOMPARE(note("Selected").size(), ScreenNotes::kLongest);
     QCOMPARE(note("Texts").size(), int(ScreenNotes::kLongest));
 }
 
