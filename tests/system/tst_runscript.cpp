@@ -83,6 +83,7 @@ public:
         QVERIFY(QFile::copy(kSource + QStringLiteral("run.sh"), file("run.sh")));
         addCommand("cmake", "exit 0");
         addCommand("dpkg-query", "shift 2; for name; do echo \"$name install ok installed\"; done");
+        m_script.setReadChannel(QProcess::StandardError); // what says() waits for
     }
     ~Desk() { end(); }
     void start(const Ports &ports, const QStringList &options = {})
@@ -178,6 +179,7 @@ private slots:
     void portOfTheSystemNeedsRoot_data();
     void portOfTheSystemNeedsRoot();
     void secondBuildWaitsForTheFirst();
+    void reasonOfTheProcessorIsHeard();
     void killedInstrumentIsToldInOneLine();
 };
 
@@ -193,6 +195,8 @@ void TstRunScript::startsThePanelAndPrintsItsAddress()
     QVERIFY(Ports::isServed(ports.panel));
     QVERIFY(Ports::isServed(ports.modbus));
     QVERIFY(Ports::isBound(ports.remote));
+    // Others may build meanwhile.
+    QCOMPARE(QProcess::execute(QStringLiteral("flock"), { "--nonblock", desk.file("build"), "true" }), 0);
     QCOMPARE(desk.end(), 0);
     QVERIFY(!Ports::isServed(ports.panel));
     QVERIFY(!Ports::isServed(ports.modbus));
@@ -297,6 +301,18 @@ void TstRunScript::secondBuildWaitsForTheFirst()
              QStringLiteral("Another start builds in %1; this one waits for it.\n").arg(desk.file("build")));
     QCOMPARE(contentOf(calls), QByteArray("--preset\n--build\n--preset\n--build\n"));
     QCOMPARE(contentOf(desk.file("build/commands/faults")), QByteArray());
+}
+
+void TstRunScript::reasonOfTheProcessorIsHeard()
+{
+    Ports ports;
+    Desk desk;
+    ports.giveAllBut(0);
+    desk.start(ports, { QStringLiteral("--seed"), QStringLiteral("many") });
+    QCOMPARE(desk.status(), 1);
+    const QList<QByteArray> lines = desk.said().split('\n');
+    QVERIFY2(lines.value(0).startsWith("quvera-processor: --seed: "), desk.said());
+    QVERIFY2(desk.said().endsWith("quvera: the processor stand-in did not start\n"), desk.said());
 }
 
 void TstRunScript::killedInstrumentIsToldInOneLine()

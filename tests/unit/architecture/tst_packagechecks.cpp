@@ -75,7 +75,7 @@ void TstPackageChecks::trialIsHeardBehindTheseChecks()
     const QString readsBoth = caught(trial, QStringLiteral("^(\\. [^\n]+\n\\. [^\n]+)$")).value(0);
     const QString asks = QStringLiteral("\nwithout_errors \"$PWD/log\" one.deb\nsays_nothing true\nsay goes on\n"
                                         "says_nothing echo a word || die \"no unit\"\n");
-    m_commands.answer("lintian");
+    m_commands.answer("lintian", "echo 'W: one: no-manual-page'");
     QProcess script;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("top"), kTop);
@@ -85,7 +85,8 @@ void TstPackageChecks::trialIsHeardBehindTheseChecks()
     script.setWorkingDirectory(m_commands.root());
     script.start(QStringLiteral("/bin/bash"), { QStringLiteral("-euc"), readsBoth + asks });
     QVERIFY(script.waitForFinished());
-    QCOMPARE(QString::fromUtf8(script.readAllStandardError()), QStringLiteral("goes on\na word\nquvera: no unit\n"));
+    QCOMPARE(QString::fromUtf8(script.readAllStandardError()),
+             QStringLiteral("W: one: no-manual-page\ngoes on\na word\nquvera: no unit\n"));
     QCOMPARE(script.exitCode(), 1);
 }
 
