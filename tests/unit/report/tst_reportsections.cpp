@@ -160,10 +160,12 @@ void TstReportSections::eventsBeforeTheRecordingAreMarked()
 {
     Judgement j = withEvents({ madeEvent(1, EventDip, 0, kStart - 9000, kStart - 8900, 150),
                                madeEvent(2, EventDip, 0, kStart - 50, kStart + 50, 151), // runs into it
-                               madeEvent(3, EventDip, 0, kStart, kStart + 100, 152) });
+                               madeEvent(3, EventDip, 0, kStart - 50, kStart, 152), // ends as it begins
+                               madeEvent(4, EventDip, 0, kStart - 9000, kStart - 8900, 153) });
+    j.overview.events[3].item.finished = false; // what it has of an end is none
     j.overview.countsFrom = kStart;
     QCOMPARE(column(tableOf(j, "Events"), 3),
-             lines({ "2023-11-14 22:19:51 *", "2023-11-14 22:19:59", "2023-11-14 22:20:00" }));
+             lines({ "2023-11-14 22:19:51 *", "2023-11-14 22:19:59", "2023-11-14 22:19:59", "2023-11-14 22:19:51" }));
     const QString note = "* Over before the recording began: found by the running measurement, and not counted in the "
                          "verdict.";
     QCOMPARE(paragraphsOf(j, "Events"), QStringList { note });
