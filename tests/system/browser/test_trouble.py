@@ -24,6 +24,7 @@ class PanelInTrouble(PanelCase):
             self.desk.start_instrument()  # for the other tests, too
         gone = self.page.find_element(By.ID, "gone")
         eventually(lambda: not gone.is_displayed(), "the start goes unnoticed")
+        self.stands("Light now", " / 4")
         self.press("Setup")
         self.title_becomes("Setup")
 
@@ -34,6 +35,8 @@ class PanelInTrouble(PanelCase):
         self.assertIn("last picture", gone.text)
         self.assertIn("The panel goes on asking", gone.text)
         self.assertIn("grayscale", self.screen().value_of_css_property("filter"))  # no value looks as if it were of now
+        self.assertEqual(self.standing()["Light now"], "unknown")
+        self.assertIn("Hz", self.standing()["Frequency"])  # which the stand-in tells
         self.page.refresh()  # one who comes now is shown the same
         eventually(lambda: "last picture" in self.page.find_element(By.ID, "gone").text,
                    "the old picture passes for a new one")

@@ -13,7 +13,7 @@ const shown = [
   ['Speed', (s) => s.speed && `${s.speed} ×`],
   ['USB disk', (s) => s.usb === '' ? 'none' : s.usb],
   ['Link faults', (s) => (s.faults === '0' ? 'none' : s.faults)],
-  ['Light now', (s) => steps.includes(s.light) && `${steps.indexOf(s.light) + 1} / ${steps.length}`],
+  ['Light now', (s) => lightIsKnown && steps.includes(s.light) && `${steps.indexOf(s.light) + 1} / ${steps.length}`],
 ];
 
 function phaseOf(values, phase) {
@@ -33,6 +33,7 @@ const standing = {
 };
 
 let built = false;
+let lightIsKnown = false; // an instrument holds it at its step; the file of one that is gone tells nothing
 let standingNow = {}; // the last report
 let silent = ''; // who does not report
 const panels = []; // of the controls that follow how things stand
@@ -169,6 +170,11 @@ function showStanding(state) {
   document.getElementById('standing').dataset.there = Boolean(state.there);
   // A control that somebody is at stays as it is.
   for (const panel of panels) if (!panel.row.contains(document.activeElement)) followOne(panel);
+}
+
+function showLight(isKnown) {
+  lightIsKnown = isKnown;
+  showStanding(standingNow);
 }
 
 // Nobody tells any more how things stand.

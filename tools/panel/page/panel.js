@@ -176,6 +176,7 @@ function showInstrument(there, why, whoAsks) {
   setText(title, why);
   asker = whoAsks;
   sayWhatIsShown();
+  showLight(there);
 }
 
 function sayWhatIsShown() {
