@@ -14,7 +14,8 @@ private slots:
     void tileOfTheMenu();
     void wiring();
     void nominalVoltage();
-    void lineOfAListWithItsColumns();
+    void linesOfTheFunctions();
+    void limitSetAndTheColumnOfItsLine();
     void fieldOfAnEditorWithItsValue();
     void boxesSayWhetherTheyAreChecked();
     void softKeysWithChoicesAreNamed();
@@ -26,12 +27,14 @@ private:
         return ScreenNotes::take().value(QLatin1String(name));
     }
     static QString selected() { return note("Selected"); }
-    /// Keys go where the focus of a person's keyboard would be: to the sub page, if there is one.
+    /// Keys go where the focus of a person's keyboard would be: to the innermost sub page.
     static void press(const QList<Qt::Key> &letters)
     {
         for (const Qt::Key letter : letters) {
-            const auto *parts = top()->findChild<QStackedWidget *>();
-            QTest::keyClick(parts ? parts->currentWidget() : top(), letter);
+            QWidget *page = top();
+            while (const auto *parts = page->findChild<QStackedWidget *>())
+                page = parts->currentWidget();
+            QTest::keyClick(page, letter);
         }
     }
     static void open(_quvera_ui_type page) { m_basedialog->navigator().go(UI_MENU, page); }
@@ -74,7 +77,7 @@ void TstSelectedNotes::nominalVoltage()
     QVERIFY2(selected().endsWith(QLatin1String(" V")), qPrintable(selected()));
 }
 
-void TstSelectedNotes::lineOfAListWithItsColumns()
+void TstSelectedNotes::linesOfTheFunctions()
 {
     open(UI_SETUP);
     press({ kF5, Qt::Key_Y }); // Functions
@@ -87,6 +90,20 @@ void TstSelectedNotes::lineOfAListWithItsColumns()
         QVERIFY(!line.isEmpty());
         QVERIFY2(texts.contains(line.section(QLatin1Char('\n'), 0, 0)), qPrintable(line));
     }
+}
+
+void TstSelectedNotes::limitSetAndTheColumnOfItsLine()
+{
+    open(UI_SETUP);
+    press({ kF5, kF1 }); // Limits
+    QVERIFY2(selected().startsWith(QLatin1String("EN50160")), qPrintable(selected()));
+    press({ kEnter }); // its items
+    QVERIFY2(selected().startsWith(QLatin1String("Voltage ")), qPrintable(selected()));
+    press({ kDown });
+    QVERIFY2(selected().startsWith(QLatin1String("Harmonics ")), qPrintable(selected()));
+    press({ kEnter, kDown, kDown }); // the third order: 5 % for 95 % of the time, the limit's column is marked
+    QCOMPARE(selected(), QStringLiteral("H3 95.0 % 5.00 % N/A\n5.00 %"));
+    press({ kF5, kF5, kF5 });
 }
 
 void TstSelectedNotes::fieldOfAnEditorWithItsValue()
