@@ -24,6 +24,7 @@ private slots:
     void wrongUseIsOneLine_data();
     void wrongUseIsOneLine();
     void usedPortIsOneLine();
+    void addressThatTheMachineDoesNotHaveIsOneLine();
     void pageAndAllThatItNeedsComeFromThePanel();
     void helpLeadsToSectionsThatThereAre();
     void everyLinkOfTheGuideIsAnswered();
@@ -120,6 +121,15 @@ void TstPanelServer::usedPortIsOneLine()
     QCOMPARE(told,
              "quvera-panel: TCP port " + QByteArray::number(m_port)
                  + " of 127.0.0.1 is in use or not allowed; choose another with --port\n");
+}
+
+void TstPanelServer::addressThatTheMachineDoesNotHaveIsOneLine()
+{
+    PanelProcess other;
+    QVERIFY(!other.startFor(*m_instrument, { "--listen", "192.0.2.1" })); // of documents only
+    QCOMPARE(other.process().exitCode(), 1);
+    QCOMPARE(other.process().readAllStandardError(),
+             QByteArray("quvera-panel: this machine has no address 192.0.2.1; choose another with --listen\n"));
 }
 
 void TstPanelServer::pageAndAllThatItNeedsComeFromThePanel()
@@ -496,7 +506,7 @@ void TstPanelServer::addressOfTheNewerKindStandsInBrackets()
     QTcpServer loopback;
     if (!loopback.listen(QHostAddress(QHostAddress::LocalHostIPv6))) { // a machine without such addresses
         QVERIFY(!serves);
-        QVERIFY(panel.process().readAllStandardError().startsWith("quvera-panel: TCP port 0 of ::1 is in use"));
+        QVERIFY(panel.process().readAllStandardError().startsWith("quvera-panel: this machine has no address ::1;"));
         return;
     }
     QCOMPARE(panel.address().host(), QString("::1"));

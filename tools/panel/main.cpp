@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHostInfo>
+#include <QTcpServer>
 #include <clocale>
 #include <csignal>
 #include <cstdio>
@@ -85,11 +86,11 @@ struct Definitions
 
     void addTo(QCommandLineParser *parser)
     {
-        parser->setApplicationDescription(
-            QStringLiteral("Serves an instrument's front panel to browsers: its screen, its keys, and on a desk the "
-                           "supply beside it. Ctrl-C ends it.\n\nExit status: 0 done, 1 the port cannot be had or no "
-                           "host has that name, 2 wrong use, such as a file that cannot be read or a folder "
-                           "that does not exist."));
+        parser->setApplicationDescription(QStringLiteral(
+            "Serves an instrument's front panel to browsers: its screen, its keys, and on a desk the "
+            "supply beside it. Ctrl-C ends it.\n\nExit status: 0 done, 1 the port or the address cannot be had or no "
+            "host has that name, 2 wrong use, such as a file that cannot be read or a folder "
+            "that does not exist."));
         parser->addHelpOption();
         parser->addOptions({ instrument, instrumentPort, port, listen, tokenFile, name, root, guide });
     }
@@ -175,6 +176,17 @@ void printAddress(const Options &options, int port)
     std::fflush(stdout);
 }
 
+/// Where even a free port cannot be had it is the address that is wrong.
+QString whyNothingIsServed(const Options &options)
+{
+    const QString address = options.listen.toString();
+    if (!QTcpServer().listen(options.listen, 0))
+        return QStringLiteral("this machine has no address %1; choose another with --listen").arg(address);
+    return QStringLiteral("TCP port %1 of %2 is in use or not allowed; choose another with --port")
+        .arg(options.port)
+        .arg(address);
+}
+
 int serve(const Options &options)
 {
     sigset_t ends = blockSignals();
@@ -188,10 +200,7 @@ int serve(const Options &options)
     actions.control = [&supply](const QJsonObject &wish) { return supply.obey(wish); };
     panel::PanelServer server(bulletin, actions, panel::Guide(options.guide));
     if (!server.bind(options.listen.toString().toStdString(), options.port))
-        return fail(Failed,
-                    QStringLiteral("TCP port %1 of %2 is in use or not allowed; choose another with --port")
-                        .arg(options.port)
-                        .arg(options.listen.toString()));
+        return fail(Failed, whyNothingIsServed(options));
     server.admit(options.token.toStdString(), options.names);
     feed.start();
     supply.start();

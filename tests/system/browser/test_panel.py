@@ -293,28 +293,67 @@ class PanelInABrowser(PanelCase):
             self.assertIn("failed", self.answer_is_seen("usbIn", "STICK is in already").get_attribute("class"))
             self.answer_is_seen("usbOut", "done")
 
-    def test_line_of_answers_covers_nothing_that_somebody_is_at(self):
+    def show_anew(self, *size):
+        """The window back to its size, and the page as it is for one who comes."""
+        if not size:
+            self.page.execute_cdp_cmd("Emulation.clearDeviceMetricsOverride", {})
+            self.page.refresh()
+            return
+        self.show(*size)
+        self.page.execute_script("document.getElementById('page').scrollTop = 0; say('')")
+
+    def test_line_of_answers_hides_nothing_that_somebody_is_at(self):
         self.control("dip")
-        self.addCleanup(self.page.refresh)
-        self.addCleanup(self.page.execute_cdp_cmd, "Emulation.clearDeviceMetricsOverride", {})
+        self.addCleanup(self.show_anew)
         overlap = ("const line = document.getElementById('said').getBoundingClientRect();"
                    "const box = document.activeElement.getBoundingClientRect(); return box.bottom - line.top;")
         for size in ((1280, 857, False), (360, 740, True)):
-            self.show(*size)
-            self.page.execute_script("scrollTo(0, 0); document.querySelector('#controls select').focus()")
+            self.show_anew(*size)
+            self.page.execute_script("document.querySelector('#controls select').focus()")
             inputs = self.page.find_elements(By.CSS_SELECTOR, "#controls :is(button, input, select)")
             self.assertGreater(len(inputs), 40)
             for _ in inputs[1:]:
                 self.assertLess(self.page.execute_script(overlap), 0)
                 self.type(Keys.TAB)
-            # As low as it may be, and then the line grows.
+            # As low as it may be, and then the line comes.
             for element in inputs[10:20]:
                 self.page.execute_script(
-                    "arguments[0].focus({preventScroll: true}); say('');"
-                    "const line = document.getElementById('said').getBoundingClientRect();"
-                    "scrollBy(0, arguments[0].getBoundingClientRect().bottom - line.top + 1);", element)
+                    "say(''); arguments[0].focus({preventScroll: true});"
+                    "const box = arguments[0].getBoundingClientRect();"
+                    "document.getElementById('page').scrollBy(0, box.bottom - innerHeight);", element)
                 self.page.execute_script("answer({label: 'Dip'}, 'it may not be that '.repeat(12), true)")
                 self.assertLess(self.page.execute_script(overlap), 1)
+
+    def test_line_of_answers_lies_over_no_control(self):
+        self.control("dip")
+        self.addCleanup(self.show_anew)
+        lowest = ("const [element, text] = arguments, page = document.getElementById('page'); say(text);"
+                  "const bottom = page.getBoundingClientRect().bottom;"
+                  "page.scrollBy(0, element.getBoundingClientRect().bottom - bottom);"
+                  "const box = element.getBoundingClientRect();"
+                  "const hit = document.elementFromPoint(box.x + box.width / 2, box.y + box.height / 2);"
+                  "return element.contains(hit);")
+        for size in ((1280, 900, False), (800, 600, False), (480, 900, False), (360, 740, True)):
+            self.show_anew(*size)
+            self.assertEqual(self.page.find_element(By.ID, "said").rect["height"], 0)
+            for text in ("", "Dip: done", "it may not be that " * 12):
+                for element in self.page.find_elements(By.CSS_SELECTOR, "#controls :is(button, input, select), summary"):
+                    self.assertTrue(self.page.execute_script(lowest, element, text),
+                                    f"{element.accessible_name} at {size} below \"{text}\"")
+            # What a person sees is what the page leaves to be seen.
+            self.assertEqual(self.page.execute_script(
+                "return [document.getElementById('page'), document.getElementById('said')].map((part) =>"
+                " part.getBoundingClientRect()).reduce((upper, lower) => upper.bottom - lower.top)"), 0)
+
+    def test_keys_that_scroll_find_the_page(self):
+        self.addCleanup(self.show_anew)
+        self.show(360, 740, True)
+        self.page.refresh()
+        place = "return document.getElementById('page').scrollTop"
+        self.control("dip")
+        for key, there in ((Keys.PAGE_DOWN, lambda at: at > 300), (Keys.HOME, lambda at: at == 0),
+                           (Keys.END, lambda at: at > 1000), (Keys.PAGE_UP, lambda at: at > 300)):
+            eventually(lambda: self.type(key) or there(self.page.execute_script(place)), "the page stands still")
 
     def test_every_control_stands_at_the_inputs_once(self):
         self.control("dip")
@@ -431,6 +470,15 @@ class PanelInABrowser(PanelCase):
             self.assertGreaterEqual(element.rect["height"], 44)
         self.press("Setup")
         self.title_becomes("Setup")
+
+    def test_screen_and_all_keys_are_seen_together(self):
+        self.addCleanup(self.show_anew)
+        for size in ((1280, 900), (1280, 720), (1024, 768), (800, 600)):
+            self.show_anew(*size, False)
+            self.page.execute_script("arguments[0].scrollIntoView({block: 'end'})", self.key("Down"))
+            self.assertGreaterEqual(self.screen().rect["width"], 350, size)
+            for element in (self.screen(), self.key("F3"), self.key("Menu"), self.key("Down")):
+                self.assertTrue(self.is_seen(element), (size, element.accessible_name))
 
     def test_two_viewers_see_the_same(self):
         two = browser(os.path.join(self.folder.name, "two"))

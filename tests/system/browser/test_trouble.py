@@ -117,6 +117,15 @@ class PanelInTrouble(PanelCase):
         page.find_element(By.CSS_SELECTOR, '#front [data-key="Setup"]').click()
         self.title_becomes("Setup")
 
+    def test_panel_without_a_desk_says_nothing_of_inputs(self):
+        panel, address, page = self.another_panel("--instrument", "127.0.0.1")
+        page.get(address)
+        self.title_becomes("Menu", page)
+        self.desk.stop(panel)
+        eventually(page.find_element(By.ID, "gone").is_displayed, "the end goes unnoticed")
+        self.assertEqual(page.find_element(By.ID, "said").get_property("textContent"), "")
+        self.assertFalse(page.find_element(By.ID, "supply").is_displayed())
+
     @staticmethod
     def followers(page):
         """What the controls say that follow how things stand."""

@@ -49,14 +49,14 @@ function say(text, failed) {
   document.getElementById('said').classList.toggle('failed', Boolean(failed));
 }
 
-// A long answer takes more lines: what somebody is at goes out of its way.
+// The line grows from nothing and with a long answer: what somebody is at stays in sight.
 function answer(control, text, failed) {
   if (!control.live) say(''); // the same once more is said once more
   say(`${control.label}: ${text}`, failed);
   const line = document.getElementById('said').getBoundingClientRect();
   const at = document.activeElement;
   const box = at.getBoundingClientRect();
-  if (at.closest('#controls') && box.top < line.bottom && box.bottom > line.top) scrollBy(0, box.bottom - line.top + 8);
+  if (at.closest('#controls') && box.top < line.bottom && box.bottom > line.top) at.scrollIntoView({ block: 'nearest' });
 }
 
 // The words of a command, as a person reads them.
@@ -179,6 +179,7 @@ function showLight(isKnown) {
 
 // Nobody tells any more how things stand.
 function forgetSupply(why) {
+  if (document.getElementById('supply').hidden) return; // it never was told
   showStanding({});
   silent = why;
   say(why, true);

@@ -101,6 +101,11 @@ function keyOf(event) {
   return keysOfKeyboard[event.key] || '';
 }
 
+// The page scrolls inside the window: the keys that scroll find it also before anything was clicked.
+document.addEventListener('keydown', (event) => {
+  if (event.target === document.body && event.key !== 'Tab') byId('page').focus({ preventScroll: true });
+}, true);
+
 document.addEventListener('keydown', (event) => {
   const key = keyOf(event);
   const target = event.target;
