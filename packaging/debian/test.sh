@@ -80,7 +80,8 @@ fi
 cp -a "$out/fresh" "$root"
 rm -f "$root/usr/sbin/policy-rc.d" # services are to start
 mkdir "$root/packages"
-cp "$out"/first/quvera_*.deb "$out"/first/quvera-tools_*.deb "$desk/Software.upd" "$desk/root/etc/quvera/update.pub" "$root/packages"
+cp "$out"/first/quvera_*.deb "$out"/first/quvera-tools_*.deb "$desk/Software.upd" "$desk/root/etc/quvera/update.pub" \
+    "$here/inside.sh" "$here/checks.sh" "$root/packages"
 rm -rf "$desk"
 # The next version, which differs in its number only.
 dpkg-deb -R "$out"/first/quvera_*.deb "$out/next"
@@ -93,14 +94,15 @@ echo "QT_QPA_PLATFORM=offscreen" >"$root/etc/quvera/board.conf"
 container() { systemd-nspawn --quiet --directory="$root" --register=no --keep-unit "$@"; }
 container sh -c 'apt-get update && DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends \
     /packages/quvera_*.deb /packages/quvera-tools_*.deb' >"$out/install.log" 2>&1 || die "not installed: $out/install.log"
-says_nothing container systemd-analyze verify --man=no /lib/systemd/system/{quvera,quvera-board,networking}.service ||
-    die "systemd does not like the units"
+# Asked inside, for the container has words of its own.
+container sh -c '. /packages/checks.sh
+    says_nothing systemd-analyze verify --man=no $(printf "/lib/systemd/system/%s.service " quvera quvera-board networking)
+' || die "systemd does not like the units"
 for unit in quvera quvera-board; do
     container env SYSTEMD_COLORS=0 SYSTEMD_URLIFY=0 SYSTEMD_EMOJI=0 \
         systemd-analyze security --offline=true --no-pager $unit.service 2>/dev/null | tail -n 1 >&2
 done
 
-cp "$here/inside.sh" "$here/checks.sh" "$root/packages"
 [ "$packages" = "$here/build" ] || touch "$root/packages/emulated"
 cat >"$root/etc/systemd/system/packages-check.service" <<EOF
 [Unit]
