@@ -235,7 +235,8 @@ ssize_t Connection::write(const char *from, size_t size)
         const ssize_t sent = ::send(m_socket, from, size, MSG_NOSIGNAL | MSG_DONTWAIT);
         if (sent >= 0)
             return sent;
-        const auto left = std::chrono::duration_cast<milliseconds>(m_writeUntil - Clock::now()).count();
+        // Rounded up: an answer that ended for its time must not look writable for the rest of a millisecond.
+        const auto left = std::chrono::ceil<milliseconds>(m_writeUntil - Clock::now()).count();
         if ((errno != EAGAIN && errno != EINTR) || left <= 0)
             return -1;
         waitFor(m_socket, POLLOUT, int(left));
