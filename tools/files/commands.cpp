@@ -49,7 +49,11 @@ int recover(RecordSource &source, const OutputPlace &place, const RecordProgress
     Recovery recovery(place);
     switch (recovery.run(source, progress)) {
     case Recovery::Done:
-        return statusOf(source);
+        if (recovery.shortened().isEmpty() || statusOf(source) >= ExitBroken)
+            return statusOf(source);
+        Terminal::complainOf(
+            source, QStringLiteral("became shorter meanwhile: ") + recovery.shortened().join(QStringLiteral(", ")));
+        return ExitBroken;
     case Recovery::Failed:
         return noOutput(recovery.error(), recovery.isRefused());
     case Recovery::Ended:
@@ -57,7 +61,8 @@ int recover(RecordSource &source, const OutputPlace &place, const RecordProgress
     case Recovery::Nothing:
         break;
     }
-    Terminal::complainOf(source, QStringLiteral("nothing of it can be recovered"));
+    const QString reason = recovery.error();
+    Terminal::complainOf(source, reason.isEmpty() ? QStringLiteral("nothing of it can be recovered") : reason);
     return ExitUnreadable;
 }
 

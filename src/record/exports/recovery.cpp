@@ -28,12 +28,14 @@ bool writes(const QString &name)
     return name == kMark || name.endsWith(kSuffix);
 }
 
-QByteArray markOf(const RecordSource &source, const QString &name)
+QByteArray markOf(const RecordSource &source, const QString &name, const QStringList &shortened)
 {
     QString text = QStringLiteral("What could be read of \"%1\", copied by quvera-files.\n").arg(name.simplified());
     for (const RecordFault &fault : source.faults())
         text += QStringLiteral("%1: byte %2: %3\n")
                     .arg(QFileInfo(fault.path).fileName().simplified(), QString::number(fault.offset), fault.reason);
+    for (const QString &file : shortened)
+        text += QStringLiteral("%1: became shorter while it was copied\n").arg(file.simplified());
     return text.toUtf8();
 }
 
@@ -71,7 +73,7 @@ Recovery::Result Recovery::copyFolder(const RecordSource &source, Output &output
         const QString name = part == 1 ? base : base + QLatin1Char('_') + QString::number(part);
         const QString to = output.path() + QLatin1Char('/') + name + kSuffix;
         const Result result = copyFile(source, file, to);
-        if (result == Nothing) {
+        if (result == Nothing && m_error.isEmpty()) {
             QFile::remove(to);
             continue;
         }
@@ -84,7 +86,7 @@ Recovery::Result Recovery::copyFolder(const RecordSource &source, Output &output
         return all;
     OutputFile mark;
     if (mark.open(output.path() + QLatin1Char('/') + kMark))
-        mark.write(markOf(source, m_place.inputName()));
+        mark.write(markOf(source, m_place.inputName(), m_shortened));
     return closed(&mark, Done);
 }
 
@@ -95,6 +97,14 @@ Recovery::Result Recovery::closed(OutputFile *out, Result result)
     if (result == Failed)
         m_error = m_place.target + QStringLiteral(": ") + out->reason();
     return result;
+}
+
+bool Recovery::canRead(const RecordFileReport &file, const QString &refusal)
+{
+    if (refusal.isEmpty())
+        return true;
+    m_error = QStringLiteral("\"%1\" can no longer be read: %2").arg(QFileInfo(file.path).fileName(), refusal);
+    return false;
 }
 
 Recovery::Result Recovery::copyFile(const RecordSource &source, const RecordFileReport &file, const QString &to)
@@ -118,6 +128,9 @@ Recovery::Result Recovery::copyFile(const RecordSource &source, const RecordFile
             break;
         }
     }
+    const QFileInfo now(file.path);
+    if (now.size() < file.size)
+        m_shortened += now.fileName();
     return closed(&out, result);
 }
 
@@ -125,6 +138,8 @@ Recovery::Result Recovery::copyBlocks(const RecordSource &source, const RecordFi
 {
     const BlockCheck check(source.facts().joinMode);
     Pqa2Walk walk(file.path);
+    if (!canRead(file, walk.isOpen() ? QString() : walk.reason()))
+        return Nothing;
     Pqa2Copy copy(&walk, &to);
     Pqa2Block block;
     for (qint64 count = 0; walk.next(&block); ++count) {
@@ -144,7 +159,8 @@ Recovery::Result Recovery::copyBlocks(const RecordSource &source, const RecordFi
 Recovery::Result Recovery::copyCapture(const RecordFileReport &file, OutputFile &to)
 {
     QFile in;
-    openInput(&in, file.path);
+    if (!canRead(file, openInput(&in, file.path)))
+        return Nothing;
     WaveFileReader counting(&in);
     WaveFileHeader header = counting.header();
     if (header.sampleRate == 0) // which it is without a head, too
@@ -179,7 +195,8 @@ Recovery::Result Recovery::copyCapture(const RecordFileReport &file, OutputFile 
 Recovery::Result Recovery::copyPage(const RecordFileReport &file, OutputFile &to)
 {
     QFile in;
-    openInput(&in, file.path);
+    if (!canRead(file, openInput(&in, file.path)))
+        return Nothing;
     __pqa_file_header header {};
     if (in.read(reinterpret_cast<char *>(&header), sizeof header) != qint64(sizeof header))
         return Nothing;
@@ -207,7 +224,8 @@ Recovery::Result Recovery::copyPage(const RecordFileReport &file, OutputFile &to
 Recovery::Result Recovery::copyLines(const RecordFileReport &file, OutputFile &to)
 {
     QFile in;
-    openInput(&in, file.path);
+    if (!canRead(file, openInput(&in, file.path)))
+        return Nothing;
     LineReader lines(&in);
     QByteArray line;
     if (!lines.next(&line) || !lines.isWhole())

@@ -17,13 +17,15 @@ public:
 
     enum Result : quint8 {
         Done,
-        Nothing, // of what there is a sound copy cannot be made
+        Nothing, // of what there is a sound copy cannot be made; error() tells when the source could not be read again
         Failed, // the output could not be written: error()
         Ended // the progress wanted no more
     };
     /// Of a source that was opened. Nothing is written into it.
     Result run(const RecordSource &source, const RecordProgress &progress = {});
     QString error() const { return m_error; }
+    /// Names of files of which less was there to copy than the source had found.
+    QStringList shortened() const { return m_shortened; }
     /// As Output::isRefused().
     bool isRefused() const { return m_isRefused; }
 
@@ -34,11 +36,13 @@ private:
     Result copyCapture(const RecordFileReport &file, OutputFile &to);
     Result copyPage(const RecordFileReport &file, OutputFile &to);
     Result copyLines(const RecordFileReport &file, OutputFile &to);
+    bool canRead(const RecordFileReport &file, const QString &refusal);
     Result closed(OutputFile *out, Result result);
     bool goesOn(qint64 offset, qint64 size) const { return !m_progress || m_progress(offset, size); }
 
     const OutputPlace m_place;
     RecordProgress m_progress;
     QString m_error;
+    QStringList m_shortened;
     bool m_isRefused = false;
 };
