@@ -201,7 +201,10 @@ fi
 say "Modbus: TCP port $modbus_port. Settings and files: $root. Ctrl-C ends."
 
 while kill -0 "$instrument" 2>/dev/null; do
-    if [ "$(cat "$power_latch" 2>/dev/null)" = 1 ]; then
+    # Read by the shell itself: a signal that comes while bash begins a command substitution can be lost.
+    latch=
+    [ ! -e "$power_latch" ] || read -r latch <"$power_latch"
+    if [ "$latch" = 1 ]; then
         say "The instrument switched its supply off."
         finish 0
     fi
