@@ -251,8 +251,11 @@ void TstProcessorProgram::conversationOfAnInstrumentThatStarts()
     QCOMPARE(kinds, (QSet<quint32> { 0, 1, 3, 4 }));
     say(node, buildFrame(193, { 0 }));
     QTRY_COMPARE_WITH_TIMEOUT(statusValue("stream"), QString("off"), 30000);
-    while (!receive(node, 0).isEmpty()) { } // what was under way
-    QVERIFY(receive(node, 300).isEmpty()); // silence
+    // What was under way still comes, no more than the sockets and the queue hold; then there is silence.
+    bool isSilent = false;
+    for (int i = 0; i < 10000 && !isSilent; ++i)
+        isSilent = receive(node, 300).isEmpty();
+    QVERIFY(isSilent);
     QCOMPARE(statusValue("frames"), QString("6"));
     QCOMPARE(statusValue("malformed"), QString("0"));
 }
@@ -416,15 +419,16 @@ void TstProcessorProgram::clockSetInSilenceRunsOn()
     QVERIFY(start());
     const Descriptor node = connectNode();
     say(node, buildFrame(195, { 0x04000000, 0x07E80112 })); // 2024-01-18T00:00:00
-    QTRY_VERIFY_WITH_TIMEOUT(statusValue("clock").startsWith("2024-01-18T00:00:00"), 30000);
-    QTest::qWait(300);
+    const auto isRunning
+        = [](const QString &clock) { return clock.startsWith("2024-01-18T00:0") && clock >= "2024-01-18T00:00:02"; };
+    QTRY_VERIFY_WITH_TIMEOUT(isRunning(statusValue("clock")), 30000);
     say(node, buildFrame(194, { 0 }));
     say(node, buildFrame(193, { 1 }));
     const QByteArray text = receive(node, 30000);
     const quint64 stamp = wordAt(text, 32) * quint64(1000) + wordAt(text, 36);
     QVERIFY(stamp <= 1705536000000 + 60000);
     const QByteArray next = receive(node, 30000);
-    QVERIFY(wordAt(next, 32) * quint64(1000) + wordAt(next, 36) >= 1705536000000 + 300);
+    QVERIFY(wordAt(next, 32) * quint64(1000) + wordAt(next, 36) >= 1705536000000 + 1000);
 }
 
 void TstProcessorProgram::framesAreLogged()

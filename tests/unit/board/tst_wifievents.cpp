@@ -158,8 +158,10 @@ void TstWifiEvents::wrongAnswerToAPingOpensAnew()
     QVERIFY(ctrl.isOpen());
     // A daemon that hears and says nothing is left as well.
     daemon.silent << "PING";
+    QTRY_VERIFY(!ctrl.isWaiting("INTERFACES")); // so that the next goes out at once
     ctrl.setAnswerTime(50);
     ctrl.ping();
+    ctrl.setAnswerTime(WpaChannel::kAnswerTimeMs); // of the requests behind it
     QTRY_COMPARE(daemon.count("ATTACH"), 3);
     QVERIFY(ctrl.isOpen());
 }
@@ -211,18 +213,19 @@ void TstWifiEvents::eventsBecomeSignals_data()
 void TstWifiEvents::eventsBecomeSignals()
 {
     QFETCH(QByteArray, line);
+    QFETCH(int, connected);
     ScriptedDaemon daemon;
     QWpaCtrl ctrl;
     VERIFY_ATTACHED(daemon);
     QSignalSpy results(&ctrl, &QWpaCtrl::scanResult);
-    QSignalSpy connected(&ctrl, &QWpaCtrl::connected);
+    QSignalSpy joined(&ctrl, &QWpaCtrl::connected);
     QSignalSpy disconnected(&ctrl, &QWpaCtrl::disconnected);
     daemon.event(line);
     daemon.event("<3>CTRL-EVENT-CONNECTED "); // comes behind the line
-    QTRY_VERIFY(connected.size() > 0);
+    QTRY_COMPARE(joined.size() - 1, connected);
     QTest::qWait(10);
     QTEST(results.size(), "results");
-    QTEST(connected.size() - 1, "connected");
+    QCOMPARE(joined.size() - 1, connected);
     QTEST(disconnected.size(), "disconnected");
 }
 
@@ -273,7 +276,9 @@ void TstWifiEvents::scanTimerScans()
     ctrl.startScan(10);
     QTRY_VERIFY(daemon.count("SCAN") >= 3);
     ctrl.stopScan();
-    QTest::qWait(30);
+    bool answered = false; // behind a scan that is still on its way
+    ctrl.ctrlRequest("PING", this, [&answered](int, const QByteArray &) { answered = true; });
+    QTRY_VERIFY(answered);
     const int scans = daemon.count("SCAN");
     QTest::qWait(60);
     QCOMPARE(daemon.count("SCAN"), scans);

@@ -119,7 +119,7 @@ void TstWifiJoin::operationsSendTheirCommands()
                                          "REASSOCIATE",
                                          "RECONFIGURE",
                                          "STATUS" };
-    QTRY_COMPARE(m_daemon->commands, expected);
+    QTRY_COMPARE(m_daemon->commands.mid(0, expected.size()), expected); // the service asks for its state by itself
     QCOMPARE(m_number, 4);
     QCOMPARE(m_ok, 1);
 }
@@ -270,8 +270,9 @@ void TstWifiJoin::askerThatIsGoneLeavesNoHalfNetwork()
 void TstWifiJoin::daemonThatDiesInAJoinFailsIt()
 {
     m_daemon->silent << "SET_NETWORK";
-    Wifi::wpaCtrl->setAnswerTime(100);
+    QTRY_VERIFY(!Wifi::wpaCtrl->isWaiting("INTERFACES"));
     Wifi::addSsid(network("Hall", kOpen), QString(), this, takeNumber());
+    Wifi::wpaCtrl->setAnswerTime(100); // of what comes behind the first command
     QTRY_COMPARE(m_daemon->count("SET_NETWORK 0 ssid \"Hall\""), 1);
     m_daemon->die();
     QTRY_COMPARE(m_number, -1);
@@ -298,7 +299,7 @@ void TstWifiJoin::savedFileIsWrittenToTheDisk()
     QTest::qWait(50);
     QVERIFY(!synced.exists()); // not before the daemon has written it
     m_daemon->send(m_daemon->last, "OK\n");
-    QTRY_VERIFY(synced.exists());
+    QTRY_VERIFY_WITH_TIMEOUT(synced.exists(), 30000);
     QCOMPARE(m_ok, 1);
 }
 

@@ -90,7 +90,7 @@ void TstWifiState::openingJoinsOnceAndScans()
     m_daemon->event("<3>CTRL-EVENT-CONNECTED - Connection completed");
     QTRY_VERIFY(!Wifi::is_openning);
     QVERIFY(Wifi::is_opened);
-    QTRY_COMPARE(shellCommands(), QByteArrayList({ "udhcpc -i wlan0" }));
+    QTRY_COMPARE_WITH_TIMEOUT(shellCommands(), QByteArrayList({ "udhcpc -i wlan0" }), 30000);
     Wifi::stopScan();
     QVERIFY(!Wifi::wpaCtrl->isScanning());
     Wifi::open();
@@ -110,14 +110,14 @@ void TstWifiState::closingLeaves()
 void TstWifiState::joinedNetworkGetsAnAddress()
 {
     m_daemon->event("<3>CTRL-EVENT-CONNECTED - Connection completed");
-    QTRY_COMPARE(shellCommands(), QByteArrayList({ "udhcpc -i wlan0" }));
+    QTRY_COMPARE_WITH_TIMEOUT(shellCommands(), QByteArrayList({ "udhcpc -i wlan0" }), 30000);
 }
 
 void TstWifiState::lostNetworkEndsTheAddressClient()
 {
     Wifi::open();
     m_daemon->event("<3>CTRL-EVENT-DISCONNECTED bssid=02:00:00:00:00:01 reason=3");
-    QTRY_VERIFY(shellCommands().contains("wlan0_del_route.sh"));
+    QTRY_VERIFY_WITH_TIMEOUT(shellCommands().contains("wlan0_del_route.sh"), 30000);
     const QByteArrayList commands = shellCommands();
     QVERIFY(commands.contains("ps"));
     QVERIFY(commands.contains("kill -9"));
@@ -133,15 +133,16 @@ void TstWifiState::statusIsTakenFromTheAnswer()
     QSignalSpy changed(m_wifi.get(), &Wifi::statusChanged);
     Wifi::scanStatus();
     QVERIFY(!Wifi::isWifiConnected()); // not before the answer
-    QTRY_COMPARE(changed.size(), 1);
+    QTRY_VERIFY(changed.size() > 0);
     QVERIFY(Wifi::isWifiConnected());
     QCOMPARE(Wifi::status.ssid, QStringLiteral("Hall"));
     QCOMPARE(Wifi::status.ip_address, QStringLiteral("192.168.4.20"));
     m_daemon->answers["STATUS"] = "wpa_state=SCANNING\n";
     Wifi::scanStatus();
     QVERIFY(Wifi::isWifiConnected()); // still, until the daemon says otherwise
-    QTRY_COMPARE(changed.size(), 2);
-    QVERIFY(!Wifi::isWifiConnected());
+    changed.clear();
+    QTRY_VERIFY(!Wifi::isWifiConnected());
+    QVERIFY(changed.size() > 0);
     QCOMPARE(Wifi::status.ssid, QString());
     QCOMPARE(Wifi::status.ip_address, QString());
 }
@@ -169,9 +170,13 @@ void TstWifiState::hangingDaemonGetsOneStatusRequest()
         Wifi::scanStatus();
     m_daemon->wake();
     bool answered = false;
-    Wifi::enableNetwork(0, this, [&answered](bool ok) { answered = ok; });
+    int asked = 0; // before; the service asks by itself, too
+    Wifi::enableNetwork(0, this, [&](bool ok) {
+        answered = ok;
+        asked = m_daemon->count("STATUS");
+    });
     QTRY_VERIFY(answered);
-    QCOMPARE(m_daemon->count("STATUS"), 1);
+    QCOMPARE(asked, 1);
 }
 
 void TstWifiState::listIsReadToItsEnd_data()
@@ -283,7 +288,7 @@ void TstWifiState::onlyTheAddressClientOfTheInterfaceIsEnded()
                "echo ' 71 root udhcpc -i wlan0'\necho ' 72 root udhcpc -i eth0'\n"
                "echo ' 73 root quvera'\n");
     m_daemon->event("<3>CTRL-EVENT-DISCONNECTED bssid=02:00:00:00:00:01 reason=3");
-    QTRY_COMPARE(shellCommands(), QByteArrayList({ "kill -9 71", "wlan0_del_route.sh" }));
+    QTRY_COMPARE_WITH_TIMEOUT(shellCommands(), QByteArrayList({ "kill -9 71", "wlan0_del_route.sh" }), 30000);
 }
 
 void TstWifiState::addressClientDelaysNothing()
@@ -301,15 +306,20 @@ void TstWifiState::addressClientDelaysNothing()
 
 void TstWifiState::stateIsAskedForEveryThreeSeconds()
 {
-    QTRY_COMPARE_WITH_TIMEOUT(m_daemon->count("STATUS"), 1, 10000);
-    QElapsedTimer time;
+    cleanup();
+    m_daemon = std::make_unique<ScriptedDaemon>();
+    QElapsedTimer time; // of a service that begins now
     time.start();
+    m_wifi = std::make_unique<Wifi>();
+    QTRY_VERIFY_WITH_TIMEOUT(m_daemon->count("STATUS") > 0, 60000);
+    const int first = m_daemon->count("STATUS");
     int seconds = 0;
     QTimer second; // a busy machine holds it up as much as the other
     connect(&second, &QTimer::timeout, this, [&seconds] { ++seconds; });
     second.start(1000);
-    QTRY_COMPARE_WITH_TIMEOUT(m_daemon->count("STATUS"), 2, 60000);
-    QVERIFY2(time.elapsed() > 2000 && seconds <= 4, qPrintable(QString::number(seconds)));
+    QTRY_VERIFY_WITH_TIMEOUT(m_daemon->count("STATUS") > first, 60000);
+    QVERIFY2(seconds <= 4, qPrintable(QString::number(seconds)));
+    QVERIFY2(time.elapsed() > 5000, qPrintable(QString::number(time.elapsed()))); // twice, a twentieth early at most
 }
 
 void TstWifiState::answerAskedForBeforeTheCloseIsNotTaken()

@@ -39,12 +39,12 @@ public:
             && ::listen(m_listener, 16) == 0;
     }
 
-    /// Takes the next connection; the one before is closed. False when none comes within two seconds.
+    /// Takes the next connection; the one before is closed. False when none comes within half a minute.
     bool accept()
     {
         disconnect();
         pollfd waiting { m_listener, POLLIN, 0 };
-        if (::poll(&waiting, 1, 2000) != 1)
+        if (::poll(&waiting, 1, 30000) != 1)
             return false;
         m_connection = ::accept4(m_listener, nullptr, nullptr, SOCK_CLOEXEC);
         return m_connection >= 0;

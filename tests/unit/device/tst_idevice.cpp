@@ -61,6 +61,8 @@ private:
 
 namespace {
 
+constexpr int kPatience = 30000; // ms, for the device thread
+
 float toFloat(quint32 word)
 {
     float value;
@@ -111,7 +113,7 @@ void TstIDevice::connectLink()
 
 QVector<quint32> TstIDevice::receiveWords()
 {
-    return toWords(m_peer->receive(5000));
+    return toWords(m_peer->receive(kPatience));
 }
 
 void TstIDevice::startUpGoesOverTheWireInItsOrder()
@@ -121,7 +123,7 @@ void TstIDevice::startUpGoesOverTheWireInItsOrder()
     const QVector<quint32> stop { 122, 193, 0, 123 };
     QVERIFY(m_peer->accept());
     QCOMPARE(receiveWords(), stop);
-    QCOMPARE(m_peer->receive(5000), QByteArray("")); // the node is closed and opened again
+    QCOMPARE(m_peer->receive(kPatience), QByteArray("")); // the node is closed and opened again
     QVERIFY(m_peer->accept());
     QCOMPARE(receiveWords(), stop);
     const QVector<quint32> setUp = receiveWords();
@@ -351,7 +353,7 @@ void TstIDevice::updateFramesPass()
     connectLink();
     const QByteArray frame = wordsToBytes({ 122, 196, 2, 1, 7, 123 });
     m_idevice->firmwareUpdate(frame);
-    QCOMPARE(m_peer->receive(5000), frame);
+    QCOMPARE(m_peer->receive(kPatience), frame);
 }
 
 void TstIDevice::olderClockCommandPasses()
@@ -378,7 +380,7 @@ void TstIDevice::datagramsCrossIntoTheMainThread()
         ++head.id;
         m_peer->send(makeDatagram(head, countingPayload(kind.words - Link::kTimeWords, 1000u * head.id)));
     }
-    QTRY_COMPARE(spies[6].size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(spies[6].size(), 1, kPatience);
     QCOMPARE(thread, QThread::currentThread());
     quint32 id = 1;
     for (const DatagramKind &kind : kDatagramKinds) {
@@ -409,7 +411,7 @@ void TstIDevice::datagramAfterATurnBringsAnotherTurn()
     for (int n = 1; n <= 3; ++n) {
         ++head.id;
         m_peer->send(makeDatagram(head, countingPayload(Link::kWaveWords - Link::kTimeWords, 1)));
-        QTRY_COMPARE(waves.size(), n); // what waited is taken before the next one is sent
+        QTRY_COMPARE_WITH_TIMEOUT(waves.size(), n, kPatience); // what waited is taken before the next one is sent
     }
 }
 
@@ -422,7 +424,7 @@ void TstIDevice::clockSignalsAreRelayed()
     head.bds = 9;
     head.seconds = 1500000001;
     m_peer->send(makePackage(head));
-    QTRY_COMPARE(stamps.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(stamps.size(), 1, kPatience);
     QCOMPARE(stamps[0][0].toUInt(), 1500000001u);
     QCOMPARE(bds.size(), 1);
     QCOMPARE(bds[0][0].toUInt(), 9u);
@@ -436,7 +438,7 @@ void TstIDevice::versionIsTheInitialTextUntilTheProcessorAnswers()
     HeadValues head;
     head.type = DatagramFirmwareInfo;
     m_peer->send(makePackage(head, QByteArray("CPU:ADSP-21479;Silicon:0.3;Firmware:2.1;\0junk", 45)));
-    QTRY_COMPARE(answered.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(answered.size(), 1, kPatience);
     QCOMPARE(m_idevice->dspVersion(), QStringLiteral("CPU:ADSP-21479;Silicon:0.3;Firmware:2.1;"));
     QCOMPARE(answered[0][0].toByteArray().size(), 4096);
 }
@@ -463,7 +465,7 @@ void TstIDevice::stalledMainThreadLosesNothing()
         ++head.id;
         m_peer->send(makeDatagram(head, countingPayload(16385, head.id)));
     }
-    QTRY_COMPARE(waves.size(), kDatagrams);
+    QTRY_COMPARE_WITH_TIMEOUT(waves.size(), kDatagrams, kPatience);
     for (int i = 0; i < kDatagrams; ++i)
         QCOMPARE(waves[i][0].toByteArray(), timeBytes(0) + countingPayload(16385, quint32(i + 2)));
 }
@@ -498,7 +500,7 @@ void TstIDevice::stalledMainThreadGetsEverythingInOrder()
         if (tick % 5 == 0)
             send(DatagramFlicker);
     }
-    QTRY_COMPARE(seen.size(), sent.size());
+    QTRY_COMPARE_WITH_TIMEOUT(seen.size(), sent.size(), kPatience);
     QCOMPARE(seen, sent);
 }
 
@@ -536,7 +538,7 @@ void TstIDevice::backlogLeavesTimersTheirTurn()
         takenAtTimer = taken;
     });
     timer.start(1);
-    QTRY_COMPARE(taken, kDatagrams + more);
+    QTRY_COMPARE_WITH_TIMEOUT(taken, kDatagrams + more, kPatience);
     QVERIFY2(takenAtTimer > kDatagrams / 2, qPrintable(QString::number(takenAtTimer)));
     QVERIFY2(longest <= 6, qPrintable(QString::number(longest))); // two take the time of a turn
 }
@@ -547,7 +549,7 @@ void TstIDevice::processorThatComesBackIsSetUpAgain()
     QSignalSpy reopened(m_idevice, &IDevice::reopened);
     m_peer->goAway();
     QVERIFY(m_peer->listen());
-    QTRY_COMPARE(reopened.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(reopened.size(), 1, kPatience);
     QVERIFY(m_peer->accept());
     QCOMPARE(receiveWords().value(1), 198u);
     QCOMPARE(receiveWords(), (QVector<quint32> { 122, 194, 0, 123 }));
@@ -562,7 +564,7 @@ void TstIDevice::withoutANodeTheProgramRunsWithoutData()
     DeviceInit::initAnalogDevice2();
     m_idevice->buzzerRing();
     QStringList lines;
-    QTRY_VERIFY(!(lines += out.lines()).isEmpty());
+    QTRY_VERIFY_WITH_TIMEOUT(!(lines += out.lines()).isEmpty(), kPatience);
     QCOMPARE(lines, QStringList { QStringLiteral("failed to open /dev/mcasp") });
     QCOMPARE(m_idevice->dspVersion(), QStringLiteral("CPU:ADSP-21479;Silicon:0.2;Firmware:None;"));
 }

@@ -100,14 +100,14 @@ void TstLinkProtocol::frameExampleIsWhatIsSent()
     m_idevice = new IDevice;
     QVERIFY(peer.accept());
     QVERIFY(peer.accept());
-    peer.receive(5000);
+    peer.receive(30000);
     const quint32 pattern = 123;
     float volt[4] = {}, current[4] = {};
     memcpy(&volt[0], &pattern, 4);
     DeviceInit::changeCalibZero(volt, current);
     const QByteArray expected = m_page.hexBlocks(QStringLiteral("## Worked example")).value(2);
     QCOMPARE(expected.size(), 20);
-    QCOMPARE(peer.receive(5000).left(expected.size()), expected);
+    QCOMPARE(peer.receive(30000).left(expected.size()), expected);
     delete m_idevice;
 }
 

@@ -20,9 +20,8 @@ QImage painted(QWidget *widget)
 ImageViewer *openPicture(const Screen &screen)
 {
     QTest::keyClick(screen.page, Qt::Key(F4));
-    for (int i = 0; i < 500 && !screen.window.findChild<ImageViewer *>(); ++i)
-        QTest::qWait(10);
-    return screen.window.findChild<ImageViewer *>();
+    const auto viewer = [&screen] { return screen.window.findChild<ImageViewer *>(); };
+    return QTest::qWaitFor([&viewer] { return viewer() != nullptr; }, kPatienceMs) ? viewer() : nullptr;
 }
 
 } // namespace
@@ -120,7 +119,7 @@ void TstImageViewer::aBrokenPictureIsSaid()
     Screen screen;
     Answers answers("L");
     screen.press({ F4 });
-    QTRY_VERIFY(answers.isDone());
+    QTRY_VERIFY_WITH_TIMEOUT(answers.isDone(), kPatienceMs);
     QCOMPARE(answers.said, QStringList { "Error!!!" });
     QVERIFY(!screen.window.findChild<ImageViewer *>());
 }
@@ -146,7 +145,7 @@ void TstImageViewer::theViewerGoesWithItsPage()
     QPointer<ImageViewer> viewer(openPicture(screen));
     QVERIFY(viewer);
     screen.page->hide(); // another page comes in front
-    QTRY_VERIFY(!viewer);
+    QTRY_VERIFY_WITH_TIMEOUT(!viewer, kPatienceMs);
 }
 
 PAGE_TEST_MAIN(TstImageViewer)

@@ -1,6 +1,7 @@
 #include "memorycase.h"
 
 #include "unit/storage/filelimit.h"
+#include "unit/storage/heldcopy.h"
 
 #include <QProgressBar>
 
@@ -21,6 +22,7 @@ QByteArray read(const QString &name)
     return RootFiles::read(kDisk + QLatin1Char('/') + name);
 }
 
+constexpr int kSomePieces = 40; // of a copy: some percent of the largest here
 const QString kExists = QStringLiteral("File already exists,\nReplace the file?");
 
 } // namespace
@@ -136,7 +138,7 @@ void TstMemoryCopy::eachFileThatExistsIsAskedAbout()
     screen.page->setMedias({ kDisk });
     Answers answers("FFLF"); // Ok, then Yes, No, Yes from the top of the list
     screen.press({ F2, F1, F4 });
-    QTRY_VERIFY(answers.isDone());
+    QTRY_VERIFY_WITH_TIMEOUT(answers.isDone(), kPatienceMs);
     screen.wait();
     QCOMPARE(answers.said,
              QStringList({ "Copy the files?", "Vif1.png\n" + kExists, "Scope1.pqa\n" + kExists,
@@ -178,7 +180,7 @@ void TstMemoryCopy::refusingAllCopiesNothing()
     screen.page->setMedias({ kDisk });
     Answers answers("FL");
     screen.press({ F2, Enter, F4 });
-    QTRY_VERIFY(answers.isDone());
+    QTRY_VERIFY_WITH_TIMEOUT(answers.isDone(), kPatienceMs);
     screen.wait();
     QCOMPARE(onDisk(), QStringList { "Vif1.png" });
     QCOMPARE(read("Vif1.png"), QByteArray("old"));
@@ -192,7 +194,7 @@ void TstMemoryCopy::whatDoesNotFitIsSaidAndWhatFitsIsCopied()
     screen.page->setMedias({ kDisk });
     Answers answers("FL");
     screen.press({ F2, F1, F4 });
-    QTRY_VERIFY(answers.isDone());
+    QTRY_VERIFY_WITH_TIMEOUT(answers.isDone(), kPatienceMs);
     screen.wait();
     QCOMPARE(answers.said,
              QStringList({ "Copy the files?", "Insufficient storage space in Removable Storage Device." }));
@@ -206,10 +208,14 @@ void TstMemoryCopy::aPulledDiskIsSaidAndLeavesNothing()
     Screen screen;
     screen.page->setMedias({ kDisk });
     Answers answers("FL");
+    HeldCopy held(kSomePieces);
     const DuringCopy pull([](QDialog *) { return !onDisk().isEmpty(); },
-                          [](QDialog *) { QDir(Target::path(kDisk)).removeRecursively(); });
+                          [&held](QDialog *) {
+                              QDir(Target::path(kDisk)).removeRecursively();
+                              held.release();
+                          });
     screen.press({ F2, F1, F4 });
-    QTRY_VERIFY(answers.isDone());
+    QTRY_VERIFY_WITH_TIMEOUT(answers.isDone(), kPatienceMs);
     screen.wait();
     QVERIFY(pull.isDone);
     QCOMPARE(answers.said, QStringList({ "Copy the files?", "Error!!!" }));
@@ -227,7 +233,7 @@ void TstMemoryCopy::aDiskThatRefusesIsWorthAnotherAttempt()
     {
         const FileLimit worn(100000);
         screen.press({ F2, F1, F4 });
-        QTRY_VERIFY(answers.isDone());
+        QTRY_VERIFY_WITH_TIMEOUT(answers.isDone(), kPatienceMs);
     }
     screen.wait();
     QCOMPARE(answers.said, QStringList({ "Copy the files?", "Error! Try egain." }));
@@ -242,11 +248,15 @@ void TstMemoryCopy::cancelWhileCopyingLeavesNothingHalf()
     Screen screen;
     screen.page->setMedias({ kDisk });
     Answers answers("FF");
+    HeldCopy held(kSomePieces);
     const DuringCopy cancel([](QDialog *dialog) { return dialog->findChild<QProgressBar *>()->value() > 0; },
-                            [](QDialog *dialog) { QTest::keyClick(dialog, 'L'); });
+                            [&held](QDialog *dialog) {
+                                QTest::keyClick(dialog, 'L');
+                                held.release();
+                            });
     screen.press({ F2, F1, F4 });
-    QTRY_VERIFY(cancel.isDone);
-    QTRY_VERIFY(!QApplication::activeModalWidget()); // no message: it was the user's wish
+    QTRY_VERIFY_WITH_TIMEOUT(cancel.isDone, kPatienceMs);
+    QTRY_VERIFY_WITH_TIMEOUT(!QApplication::activeModalWidget(), kPatienceMs); // no message: it was the user's wish
     QCOMPARE(onDisk(), QStringList { "large" });
     QCOMPARE(read("large"), QByteArray("old"));
     QCOMPARE(answers.said.size(), 2);
@@ -277,7 +287,7 @@ void TstMemoryCopy::namesThatAShellWouldReadAreCopiedAsTheyStand()
     screen.page->setMedias({ kDisk });
     Answers answers("FF"); // it is there already: asked about by its name
     screen.press({ F2, F1, F4 });
-    QTRY_VERIFY(answers.isDone());
+    QTRY_VERIFY_WITH_TIMEOUT(answers.isDone(), kPatienceMs);
     screen.wait();
     QCOMPARE(onDisk().size(), 2);
     QCOMPARE(read(QFile::decodeName(name)), QByteArray("data"));
@@ -311,12 +321,16 @@ void TstMemoryCopy::theScreenGoesOnWhileALargeRecordingIsCopied()
     Screen screen;
     screen.page->setMedias({ kDisk });
     Pulse pulse;
+    HeldCopy held(0);
     QSet<int> seen; // percents that the bar showed on the way
     QTimer look;
-    connect(&look, &QTimer::timeout, this, [&seen] {
+    connect(&look, &QTimer::timeout, this, [&seen, &held] {
         const QWidget *dialog = QApplication::activeModalWidget();
-        if (const auto *bar = dialog ? dialog->findChild<QProgressBar *>() : nullptr)
-            seen << bar->value();
+        const auto *bar = dialog ? dialog->findChild<QProgressBar *>() : nullptr;
+        if (!bar || seen.contains(bar->value()))
+            return;
+        seen << bar->value();
+        held.let(2 * kSomePieces); // the next when these have been shown
     });
     look.start(0);
     Answers answers("F");

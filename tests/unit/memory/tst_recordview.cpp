@@ -178,7 +178,7 @@ void TstRecordView::f5LeavesAndTheKeyboardComesBack()
     QVERIFY(view);
     QCOMPARE(view->geometry(), screen.window.rect());
     QTest::keyClick(view, Qt::Key(F5));
-    QTRY_VERIFY(!view);
+    QTRY_VERIFY_WITH_TIMEOUT(!view, kPatienceMs);
     QCOMPARE(screen.page->mode(), MemoryPage::Browsing);
 }
 
@@ -190,7 +190,7 @@ void TstRecordView::leavingEndsTheReading()
     QPointer<RecordView> view(screen.window.findChild<RecordView *>());
     QVERIFY(view); // at once, before anything is read
     QTest::keyClick(view, Qt::Key(F5));
-    QTRY_VERIFY(!view);
+    QTRY_VERIFY_WITH_TIMEOUT(!view, kPatienceMs);
     screen.wait();
     QVERIFY(!screen.page->isBusy());
     QVERIFY(opened(screen)); // and once more, to its end
@@ -260,9 +260,9 @@ void TstRecordView::whatCannotBeReadIsSaid()
     Screen screen;
     Answers answers("L");
     screen.press({ F4 });
-    QTRY_VERIFY(answers.isDone());
+    QTRY_VERIFY_WITH_TIMEOUT(answers.isDone(), kPatienceMs);
     QCOMPARE(answers.said, QStringList { "Error!!!" });
-    QTRY_VERIFY(!screen.window.findChild<RecordView *>());
+    QTRY_VERIFY_WITH_TIMEOUT(!screen.window.findChild<RecordView *>(), kPatienceMs);
 }
 
 void TstRecordView::otherKeysRise()

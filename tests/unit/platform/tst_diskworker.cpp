@@ -117,7 +117,7 @@ void TstDiskWorker::aSyncAskedForWhileOneRunsIsDoneAfterIt()
     SlowCard card;
     DiskWorker::instance().sync();
     DiskWorker::instance().run([&card] { card.wait(); }); // behind the first
-    QTRY_COMPARE(RootFiles::lines(QStringLiteral("/var/log/commands")), QByteArrayList { "sync" });
+    QTRY_COMPARE_WITH_TIMEOUT(RootFiles::lines(QStringLiteral("/var/log/commands")), QByteArrayList { "sync" }, 30000);
     DiskWorker::instance().sync();
     card.release();
     QCOMPARE(RootFiles::commands(), QByteArray("sync\nsync\n"));

@@ -24,6 +24,11 @@ private slots:
 
 namespace {
 
+/// What a command may begin with: it goes on when the test makes the file kLetGo, or after a minute.
+const QString kUntilLetGo
+    = QStringLiteral("for i in $(seq 600); do [ -e /var/log/let-go ] && break; sleep 0.1; done; ");
+const QString kLetGo = QStringLiteral("/var/log/let-go");
+
 /// What the commands of a test wrote into one file, line by line.
 QByteArrayList ran()
 {
@@ -35,16 +40,18 @@ QByteArrayList ran()
 void TstShellQueue::init()
 {
     QFile::remove(Target::path(QStringLiteral("/var/log/ran")));
+    QFile::remove(Target::path(kLetGo));
 }
 
 void TstShellQueue::commandsRunOneAfterTheOther()
 {
     ShellQueue queue;
-    queue.run(QStringLiteral("sleep 0.1; echo first >> /var/log/ran"));
+    queue.run(kUntilLetGo + QStringLiteral("echo first >> /var/log/ran"));
     queue.run(QStringLiteral("/no/such/command"));
     queue.run(QStringLiteral("echo second >> /var/log/ran"));
     QVERIFY(ran().isEmpty());
-    QTRY_COMPARE(ran(), QByteArrayList({ "first", "second" }));
+    RootFiles::write(kLetGo, "");
+    QTRY_COMPARE_WITH_TIMEOUT(ran(), QByteArrayList({ "first", "second" }), 30000);
 }
 
 void TstShellQueue::repeatedCommandsMoveToTheEnd()
@@ -56,7 +63,7 @@ void TstShellQueue::repeatedCommandsMoveToTheEnd()
         queue.run(QStringLiteral("echo joined >> /var/log/ran"));
     }
     queue.run(QStringLiteral("echo left >> /var/log/ran"));
-    QTRY_COMPARE(ran(), QByteArrayList({ "joined", "left" }));
+    QTRY_COMPARE_WITH_TIMEOUT(ran(), QByteArrayList({ "joined", "left" }), 30000);
 }
 
 void TstShellQueue::queueMayGoWhileCommandsRun()
@@ -75,11 +82,14 @@ void TstShellQueue::slowCommandStopsNoTimer()
     ShellQueue queue;
     int turns = 0;
     QTimer screen;
-    connect(&screen, &QTimer::timeout, this, [&turns] { ++turns; });
+    connect(&screen, &QTimer::timeout, this, [&turns] {
+        if (++turns == 5)
+            RootFiles::write(kLetGo, "");
+    });
     screen.start(10);
-    queue.run(QStringLiteral("sleep 0.5; echo slow >> /var/log/ran"));
+    queue.run(kUntilLetGo + QStringLiteral("echo slow >> /var/log/ran"));
     QCOMPARE(turns, 0);
-    QTRY_COMPARE(ran(), QByteArrayList({ "slow" }));
+    QTRY_COMPARE_WITH_TIMEOUT(ran(), QByteArrayList({ "slow" }), 30000);
     QVERIFY2(turns >= 5, qPrintable(QString::number(turns)));
 }
 
@@ -88,7 +98,7 @@ void TstShellQueue::commandsAreThoseOfTheDesk()
     ShellQueue queue;
     queue.run(QStringLiteral("udhcpc -i wlan0 > /dev/null 2>&1 &"));
     QFile noted(Target::path(QStringLiteral("/var/log/commands")));
-    QTRY_VERIFY(noted.exists() && noted.size() > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(noted.exists() && noted.size() > 0, 30000);
     QVERIFY(noted.open(QIODevice::ReadOnly));
     QCOMPARE(noted.readAll(), QByteArray("udhcpc -i wlan0\n"));
 }
@@ -97,7 +107,7 @@ void TstShellQueue::commandThatReadsItsInputEnds()
 {
     ShellQueue queue;
     queue.run(QStringLiteral("cat; echo read >> /var/log/ran"));
-    QTRY_COMPARE(ran(), QByteArrayList({ "read" }));
+    QTRY_COMPARE_WITH_TIMEOUT(ran(), QByteArrayList({ "read" }), 30000);
 }
 
 void TstShellQueue::shellThatCannotBeStartedDoesNotHoldUpTheNext()
@@ -107,7 +117,7 @@ void TstShellQueue::shellThatCannotBeStartedDoesNotHoldUpTheNext()
     queue.run(QLatin1String("echo lost >> /var/log/ran #") + QString(kTooLong, QLatin1Char('x')));
     queue.run(QStringLiteral("echo first >> /var/log/ran"));
     queue.run(QStringLiteral("echo second >> /var/log/ran"));
-    QTRY_COMPARE(ran(), QByteArrayList({ "first", "second" }));
+    QTRY_COMPARE_WITH_TIMEOUT(ran(), QByteArrayList({ "first", "second" }), 30000);
 }
 
 QTEST_GUILESS_MAIN(TstShellQueue)

@@ -79,13 +79,13 @@ public:
     {
         return ::send(m_socket, bytes.constData(), size_t(bytes.size()), MSG_NOSIGNAL) == bytes.size();
     }
-    /// Exactly that many bytes, fewer only when the server closed or nothing came for ten seconds.
+    /// Exactly that many bytes, fewer only when the server closed or nothing came for half a minute.
     QByteArray receive(int bytes)
     {
         QByteArray got;
         while (got.size() < bytes) {
             pollfd readable = { m_socket, POLLIN, 0 };
-            if (::poll(&readable, 1, 10'000) <= 0)
+            if (::poll(&readable, 1, 30'000) <= 0)
                 break;
             char buffer[4096];
             const ssize_t n = ::recv(m_socket, buffer, size_t(qMin(bytes - got.size(), int(sizeof buffer))), 0);
@@ -124,7 +124,7 @@ public:
     {
         pollfd readable = { m_socket, POLLIN, 0 };
         char byte;
-        while (::poll(&readable, 1, 10'000) > 0) {
+        while (::poll(&readable, 1, 30'000) > 0) {
             if (::recv(m_socket, &byte, 1, 0) <= 0)
                 return true;
         }

@@ -4,6 +4,7 @@
 #include "remotepeer.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QDialog>
 #include <QDir>
 #include <QFile>
@@ -173,7 +174,7 @@ void TstIRemote::init()
     // By name: the thread sanitizer takes a connected function object, which the toolkit hands over under a lock that
     // it cannot see, for a race.
     connect(m_panel.get(), SIGNAL(pictureWanted()), this, SLOT(countPicture()), Qt::DirectConnection);
-    QTRY_VERIFY(IRemote::port() != 0);
+    QTRY_VERIFY_WITH_TIMEOUT(IRemote::port() != 0, kPatience);
     m_peer = new Peer;
 }
 
@@ -408,7 +409,8 @@ void TstIRemote::newPeerGetsTheRestOfAPicture()
             }
         }
     });
-    for (int pictures = 0; pictures < 1000 && !redirected; ++pictures)
+    const QDeadlineTimer patience(kPatience);
+    while (!redirected && !patience.hasExpired())
         m_remote->respondImage(noise(200 * 1024, 3));
     newPeer.join();
     QVERIFY(redirected);
@@ -573,7 +575,7 @@ void TstIRemote::socketIsClosedWithTheObject()
     const int before = openDescriptors();
     for (int i = 0; i < 20; ++i) {
         IRemote remote(nullptr);
-        QTRY_VERIFY(IRemote::port() != 0);
+        QTRY_VERIFY_WITH_TIMEOUT(IRemote::port() != 0, kPatience);
     }
     QCOMPARE(openDescriptors(), before);
     QCOMPARE(int(IRemote::port()), 0);

@@ -298,7 +298,7 @@ void TstModbusBadClients::thousandsOfConnectionsLeaveNoDescriptor()
         ModbusClient client(own.port());
         QCOMPARE(client.ask(readInput(100, 1)), modelRead(100, 1));
     }
-    QTRY_VERIFY(openDescriptors() <= before);
+    QTRY_VERIFY_WITH_TIMEOUT(openDescriptors() <= before, 30'000);
 }
 
 void TstModbusBadClients::descriptorBeyondTheSetIsClosed()

@@ -262,8 +262,8 @@ void TstModbusFailures::serverThatCannotStartHasNoPortAndLeavesNothing()
         QCOMPARE(server.port(), quint16(0));
         QCOMPARE(g_failing.left[call].load(), 0);
     }
-    QTRY_COMPARE(openDescriptors(), descriptors);
-    QTRY_COMPARE(threads(), threadsBefore);
+    QTRY_COMPARE_WITH_TIMEOUT(openDescriptors(), descriptors, 30'000);
+    QTRY_COMPARE_WITH_TIMEOUT(threads(), threadsBefore, 30'000);
 }
 
 void TstModbusFailures::threadThatHangsKeepsNobodyFromEnding()
@@ -276,12 +276,12 @@ void TstModbusFailures::threadThatHangsKeepsNobodyFromEnding()
         const std::lock_guard<std::mutex> hanging(g_failing.hold);
         // The next wait hangs: the one that this request ends may be over it already.
         QVERIFY(client.send(modbusFrame(2, readInput(100, 1))));
-        QTRY_VERIFY(g_failing.isHeld);
+        QTRY_VERIFY_WITH_TIMEOUT(g_failing.isHeld, 30'000);
         own.server.reset(); // gives up waiting
         QVERIFY(threads() > threadsBefore);
     }
-    QTRY_COMPARE(threads(), threadsBefore); // it ends by itself when it can
-    QTRY_COMPARE(openDescriptors(), descriptors);
+    QTRY_COMPARE_WITH_TIMEOUT(threads(), threadsBefore, 30'000); // it ends by itself when it can
+    QTRY_COMPARE_WITH_TIMEOUT(openDescriptors(), descriptors, 30'000);
 }
 
 void TstModbusFailures::blockWithoutMemoryIsDropped()

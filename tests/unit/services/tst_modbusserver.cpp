@@ -248,7 +248,7 @@ void TstModbusServer::printsItsLinesLetterForLetter()
             QCOMPARE(second.ask(modbusPdu(43, { 0x0E01 })), exceptionPdu(43, 1));
         }
         const auto hasEnd = [&] { return m_output->lines().contains(QStringLiteral("-----disconnect by master")); };
-        QTRY_VERIFY(hasEnd());
+        QTRY_VERIFY_WITH_TIMEOUT(hasEnd(), 30'000);
         lines = m_output->lines();
     }
     const QString expected[] = {

@@ -210,7 +210,7 @@ void TstPanel::stormOfKeysGetsTwoPicturesIn200Ms()
     const int number = m_panel->addTaker(counter.taker());
     QElapsedTimer timer;
     timer.start();
-    while (timer.elapsed() < 1500) {
+    while (timer.elapsed() < 1500 || (taken.size() < 2 && timer.elapsed() < kPatience)) {
         m_panel->pressKey(1);
         m_panel->requestPicture(number);
         QTest::qWait(1);
@@ -240,13 +240,15 @@ void TstPanel::stormGetsOnePictureIn200Ms()
     });
     QElapsedTimer timer;
     timer.start();
+    const auto most = [&timer] { return int(timer.elapsed() / 200) + 1; };
     QTest::qWait(1500);
+    // Of a machine that stood still meanwhile the storm is waited for.
+    const bool stormed = QTest::qWaitFor([&] { return taken.size() >= 2 && requests > 10 * most(); }, kPatience);
     ends = true;
     storm.join();
+    QVERIFY(stormed);
     // One in 200 ms, whatever the class counts by. The last one may still have waited.
-    const int most = int(timer.elapsed() / 200) + 1;
-    QVERIFY2(taken.size() >= 2 && taken.size() <= most, qPrintable(QString::number(taken.size())));
-    QVERIFY(requests > 10 * most);
+    QVERIFY2(taken.size() <= most(), qPrintable(QString::number(taken.size())));
     QTRY_COMPARE_WITH_TIMEOUT(counter.pictures.load(), 1 + taken.size(), kPatience);
     QVERIFY(counter.inOtherThread);
     m_panel->removeTaker(number);

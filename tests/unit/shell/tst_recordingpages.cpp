@@ -259,7 +259,7 @@ void TstRecordingPages::loggersPagesRunTheirOwnFunction()
     QTest::keyClick(page->currentPage(), kF5);
     QVERIFY(RootFiles::exists(QStringLiteral("/mnt/storage/Logger_2_00.csv")));
     QVERIFY(answer(kF1)); // Exit
-    QTRY_VERIFY(!RootFiles::exists(QStringLiteral("/mnt/storage/Logger_2_00.csv")));
+    QTRY_VERIFY_WITH_TIMEOUT(!RootFiles::exists(QStringLiteral("/mnt/storage/Logger_2_00.csv")), 30000);
     QVERIFY(RootFiles::exists(file));
     LoggerInfo::m_duration = 2;
 }

@@ -323,14 +323,14 @@ void TstShell::memoryIsReadAnewEachTimeItIsOpened()
 {
     auto *memory = pageOf<MemoryPage>(UI_MEMORY);
     QTest::keyClick(m_basedialog->menu(), kF10);
-    QTRY_VERIFY(!memory->isWorking());
+    QTRY_VERIFY_WITH_TIMEOUT(!memory->isWorking(), 30000);
     const int before = memory->findChild<FilesList *>()->count();
     QTest::keyClick(memory, kF5);
     QFile file(Target::path(QStringLiteral("/mnt/storage/saved meanwhile.png")));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.close();
     QTest::keyClick(m_basedialog->menu(), kF10);
-    QTRY_COMPARE(memory->findChild<FilesList *>()->count(), before + 1);
+    QTRY_COMPARE_WITH_TIMEOUT(memory->findChild<FilesList *>()->count(), before + 1, 30000);
     QTest::keyClick(memory, kF5);
     QVERIFY(file.remove());
 }
@@ -345,9 +345,9 @@ void TstShell::aPictureKeepsTheKeysBehindAQuestion()
     QVERIFY(picture.save(path));
     auto *memory = pageOf<MemoryPage>(UI_MEMORY);
     QTest::keyClick(m_basedialog->menu(), kF10);
-    QTRY_VERIFY(!memory->isWorking());
+    QTRY_VERIFY_WITH_TIMEOUT(!memory->isWorking(), 30000);
     QTest::keyClick(QApplication::focusWidget(), kF4);
-    QTRY_VERIFY(m_basedialog->findChild<ImageViewer *>());
+    QTRY_VERIFY_WITH_TIMEOUT(m_basedialog->findChild<ImageViewer *>(), 30000);
     QWidget *viewer = m_basedialog->findChild<ImageViewer *>();
     {
         DialogAnswer cancel(kF5);

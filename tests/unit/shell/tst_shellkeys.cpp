@@ -178,7 +178,7 @@ void TstShellKeys::heldPowerKeyAsksLikeAShortPress()
         QCoreApplication::sendEvent(m_basedialog, &event);
     });
     keyboard.start(10);
-    QTRY_VERIFY(answer.asked);
+    QTRY_VERIFY_WITH_TIMEOUT(answer.asked, 30000);
     QVERIFY(answer.text.contains("Power off?"));
 }
 
@@ -201,7 +201,7 @@ void TstShellKeys::powerKeyAsksAfterAMomentAndCancelChangesNothing()
     enterVif();
     DialogAnswer answer(kF5);
     QTest::keyClick(vifPage()->findChild<VifMain *>(), kPower); // pressed and let go at once
-    QTRY_VERIFY(answer.asked);
+    QTRY_VERIFY_WITH_TIMEOUT(answer.asked, 30000);
     QVERIFY(answer.text.contains("Power off?"));
     QVERIFY(m_taskmanage->currentTask());
 }
@@ -211,7 +211,7 @@ void TstShellKeys::powerKeySwitchesOffOnOk()
     enterVif();
     DialogAnswer answer(kF4);
     QTest::keyClick(m_basedialog, kPower);
-    QTRY_VERIFY(answer.asked);
+    QTRY_VERIFY_WITH_TIMEOUT(answer.asked, 30000);
     QTRY_VERIFY(!m_taskmanage->currentTask());
     QFile latch(Target::path("/sys/class/gpio/gpio47/value"));
     QVERIFY(latch.open(QIODevice::ReadOnly));
@@ -240,14 +240,14 @@ void TstShellKeys::supplyStaysUntilTheCardHasEverything()
     });
     DialogAnswer answer(kF4);
     QTest::keyClick(m_basedialog, kPower);
-    QTRY_VERIFY(answer.asked);
+    QTRY_VERIFY_WITH_TIMEOUT(answer.asked, 30000);
     const auto isOff = [&latch] {
         const bool opened = latch.open(QIODevice::ReadOnly);
         const bool off = opened && latch.readAll().trimmed() == "1";
         latch.close();
         return off;
     };
-    QTRY_VERIFY(isOff());
+    QTRY_VERIFY_WITH_TIMEOUT(isOff(), 30000);
     QCOMPARE(heldMeanwhile.load(), 2);
 }
 

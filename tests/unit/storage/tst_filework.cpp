@@ -33,7 +33,7 @@ private slots:
         QTest::qWait(20);
         QVERIFY(!ended); // and this thread was not held up
         go = true;
-        QTRY_VERIFY(ended);
+        QTRY_VERIFY_WITH_TIMEOUT(ended, 30000);
         QVERIFY(!work.isBusy());
         QVERIFY(worker && worker != thread());
         QCOMPARE(behind, thread());
@@ -45,7 +45,7 @@ private slots:
         QList<int> order;
         for (int i = 0; i < 50; ++i)
             work.run([&order, i] { order << i; }, [&order, i] { QVERIFY(order.contains(i)); });
-        QTRY_VERIFY(!work.isBusy());
+        QTRY_VERIFY_WITH_TIMEOUT(!work.isBusy(), 30000);
         QCOMPARE(order.size(), 50);
         for (int i = 0; i < 50; ++i)
             QCOMPARE(order[i], i);
@@ -56,8 +56,8 @@ private slots:
         FileWork work;
         int pieces = 0;
         work.run([&] { ++pieces; }, [&] { work.run([&] { ++pieces; }); });
-        QTRY_COMPARE(pieces, 2);
-        QTRY_VERIFY(!work.isBusy());
+        QTRY_COMPARE_WITH_TIMEOUT(pieces, 2, 30000);
+        QTRY_VERIFY_WITH_TIMEOUT(!work.isBusy(), 30000);
     }
 
     void itsEndWaitsForTheRunningPieceAndForgetsTheOthers()

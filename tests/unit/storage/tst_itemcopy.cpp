@@ -3,6 +3,7 @@
 #include "storage/copybatch.h"
 #include "storage/itemcopy.h"
 #include "unit/storage/filelimit.h"
+#include "unit/storage/heldcopy.h"
 #include "unit/storage/rootfiles.h"
 
 #include <functional>
@@ -231,10 +232,12 @@ private slots:
         RootFiles::write("/mnt/storage/large", QByteArray(100000000, 'x'));
         CopyBatch batch({ { "/mnt/storage/large", kDisk + "/large" }, { kSource, kTarget } });
         CopyBatch::Result result = CopyBatch::Copied;
+        HeldCopy held(2);
         std::thread thread([&] { result = batch.run(); });
         while (batch.progress() <= 0)
             std::this_thread::yield();
         batch.cancel();
+        held.release();
         thread.join();
         QCOMPARE(result, CopyBatch::Cancelled);
         QCOMPARE(batch.copied(), 0);

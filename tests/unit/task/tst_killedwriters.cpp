@@ -149,7 +149,8 @@ void TstKilledWriters::whatWasFinishedIsThereAndTheNextStartTellsOnceWhatWasCut(
     QCOMPARE(told, 0);
     QVERIFY(whole > pieces);
     int cutRuns = 0;
-    for (int round = 0; round < rounds; ++round) {
+    // A busy machine may kill most of them before they have stored much: then there are more.
+    for (int round = 0; round < rounds || (cutRuns <= rounds / 10 && round < 10 * rounds); ++round) {
         QRandomGenerator &random = *QRandomGenerator::global();
         const int second = random.bounded(name == "monitor" ? kMonitorSeconds : kSeconds);
         QVERIFY(runProcess(name, second, random.bounded(kMoments)));

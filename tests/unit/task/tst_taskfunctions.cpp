@@ -306,7 +306,8 @@ void TstTaskFunctions::secondsPassWhetherDataComesOrNotAndNotOnHold()
     m_task->continueTask();
     m_task->tick();
     QCOMPARE(m_listener.take(), QStringList({ "tick", "tick" }));
-    QTRY_COMPARE_WITH_TIMEOUT(m_listener.heard, QStringList({ "tick" }), 3000); // by the clock
+    QTRY_VERIFY_WITH_TIMEOUT(!m_listener.heard.isEmpty(), 30000); // by the clock
+    QCOMPARE(m_listener.heard.count("tick"), m_listener.heard.size());
     m_task->stopTask();
     m_listener.take();
     m_task->tick();

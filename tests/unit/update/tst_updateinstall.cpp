@@ -60,7 +60,7 @@ private:
         process.start("/bin/sh",
                       { "-c", QLatin1String(limits) + "; exec \"$0\" \"$1\"",
                         QStringLiteral(QUVERA_BIN_DIR "/update-unpack"), package });
-        process.waitForFinished();
+        process.waitForFinished(60000);
         return { process.exitCode(), process.readAllStandardError() };
     }
     static void addFaults()

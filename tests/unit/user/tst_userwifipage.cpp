@@ -489,7 +489,7 @@ void TstUserWifiPage::withoutADaemonNothingWaits()
         press(key);
     QVERIFY2(time.elapsed() < kOneAnswerMs, qPrintable(QString::number(time.elapsed())));
     QTest::qWait(100);
-    QCOMPARE(shown("state"), QStringLiteral("Disconnect"));
+    QTRY_COMPARE(shown("state"), QStringLiteral("Disconnect"));
     QCOMPARE(shown("count"), QStringLiteral("no networks"));
 }
 
@@ -506,7 +506,7 @@ void TstUserWifiPage::regularFileInPlaceOfTheSocketIsNoDaemon()
     press(F1);
     press(F4);
     QTest::qWait(100);
-    QCOMPARE(shown("state"), QStringLiteral("Disconnect"));
+    QTRY_COMPARE(shown("state"), QStringLiteral("Disconnect"));
     QCOMPARE(content(QStringLiteral("/var/run/wpa_supplicant/wlan0")), QByteArray("no socket"));
     QFile::remove(Target::path(QStringLiteral("/var/run/wpa_supplicant/wlan0")));
 }
