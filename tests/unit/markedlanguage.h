@@ -35,3 +35,14 @@ inline QMap<QString, QString> texts(const QWidget *page)
     }
     return result;
 }
+
+/// The same without the free room: others on this machine use its disk meanwhile.
+inline QMap<QString, QString> lastingTexts(const QWidget *page)
+{
+    QMap<QString, QString> result = texts(page);
+    for (const QString &path : result.keys()) {
+        if (path.endsWith(QLatin1String("memory")))
+            result.remove(path);
+    }
+    return result;
+}

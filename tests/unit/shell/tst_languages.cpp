@@ -1,3 +1,4 @@
+#include "platform/clock.h"
 #include "platform/target.h"
 #include "settings/userconfig.h"
 #include "setup/calibrationdialog.h"
@@ -19,6 +20,7 @@
 #include "shellcase.h"
 #include "testpaths.h"
 
+#include <QScopeGuard>
 #include <QXmlStreamReader>
 
 #include <functional>
@@ -161,6 +163,8 @@ void TstLanguages::aChangeOfTheLanguageReachesEveryText()
         page->updateDisplay(nullptr);
         return page;
     };
+    Clock::setForTest(1700000000000); // both pages show the same moment
+    const auto running = qScopeGuard([] { Clock::useSystem(); });
     const auto page = make();
     const auto english = texts(page.get());
     MarkedLanguage language;
