@@ -1,5 +1,5 @@
 // Loaded in front of the instrument: while the file "card-gone" lies in its root, every call for what is on its card
-// fails as it does when somebody has taken the card out.
+// fails as it does when somebody has taken the card out. While "disk-slow" lies there, what is written to a disk waits.
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
@@ -20,35 +20,54 @@ template <typename Function> Function next(const char *name)
     return reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name));
 }
 
-bool isOnCard(const char *path)
+/// Whether a path lies below a folder of the board.
+bool isBelow(const char *folder, const char *path)
 {
     const char *root = std::getenv("QUVERA_ROOT");
-    char card[kPath];
-    const int length = root ? std::snprintf(card, sizeof card, "%s/mnt/storage", root) : 0;
-    return length > 0 && std::strncmp(path, card, std::size_t(length)) == 0;
+    char whole[kPath];
+    const int length = root ? std::snprintf(whole, sizeof whole, "%s%s", root, folder) : 0;
+    return length > 0 && std::strncmp(path, whole, std::size_t(length)) == 0;
 }
 
-bool isOut()
+/// Whether a file of that name lies in the root.
+bool isMarked(const char *name)
 {
     const char *root = std::getenv("QUVERA_ROOT");
     char mark[kPath];
-    return root && std::snprintf(mark, sizeof mark, "%s/card-gone", root) > 0 && ::access(mark, F_OK) == 0;
+    return root && std::snprintf(mark, sizeof mark, "%s/%s", root, name) > 0 && ::access(mark, F_OK) == 0;
 }
 
 /// Whether a call for this file fails; errno says so then.
 bool fails(const char *path)
 {
-    if (!isOnCard(path) || !isOut())
+    if (!isBelow("/mnt/storage", path) || !isMarked("card-gone"))
         return false;
     errno = EIO;
     return true;
 }
 
+/// Where an open file lies now; false when that is not known.
+bool find(int descriptor, char (&path)[kPath])
+{
+    char link[64];
+    std::snprintf(link, sizeof link, "/proc/self/fd/%d", descriptor);
+    const ssize_t length = ::readlink(link, path, sizeof path - 1);
+    path[length > 0 ? length : 0] = '\0';
+    return length > 0;
+}
+
 bool fails(int descriptor)
 {
-    char link[64], path[kPath] = {};
-    std::snprintf(link, sizeof link, "/proc/self/fd/%d", descriptor);
-    return ::readlink(link, path, sizeof path - 1) > 0 && fails(path);
+    char path[kPath];
+    return find(descriptor, path) && fails(path);
+}
+
+/// Until the mark is gone, or the disk is.
+void waitForDisk(int descriptor)
+{
+    char path[kPath];
+    while (find(descriptor, path) && isBelow("/run/media", path) && isMarked("disk-slow"))
+        ::usleep(1000);
 }
 
 } // namespace
@@ -73,6 +92,7 @@ int open(const char *path, int flags, ...) __attribute__((alias("open64")));
 ssize_t write(int descriptor, const void *data, size_t size)
 {
     static const auto real = next<ssize_t (*)(int, const void *, size_t)>("write");
+    waitForDisk(descriptor);
     return fails(descriptor) ? -1 : real(descriptor, data, size);
 }
 

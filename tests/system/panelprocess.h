@@ -244,6 +244,19 @@ public:
         m_read += m_socket.readAll();
         return m_read.count("event: " + name + "\n");
     }
+    /// What was said of the instrument so far, from the first time on.
+    QVector<QByteArray> sayings()
+    {
+        count("instrument");
+        QVector<QByteArray> all;
+        const QByteArray begin = "event: instrument\ndata: ";
+        for (int at = m_read.indexOf(begin); at >= 0; at = m_read.indexOf(begin, at + 1)) {
+            const int end = m_read.indexOf('\n', at + begin.size());
+            if (end >= 0)
+                all << m_read.mid(at + begin.size(), end - at - begin.size());
+        }
+        return all;
+    }
     const QByteArray &read() const { return m_read; }
     QTcpSocket &socket() { return m_socket; }
 

@@ -42,6 +42,8 @@ private:
     /// How many blocks of a type the common file has; -1: nothing but the last link may be missing, and more is.
     int blocks(quint32 type) const;
     void takeCard(bool out) const;
+    /// Takes it out of the page that records, which says that the storage takes no more data.
+    void takeCardAndHearOfIt();
     /// Everything every second; some intervals of it are there.
     void record();
 
@@ -76,6 +78,14 @@ void TstCardTaken::takeCard(bool out) const
         QVERIFY(mark.remove());
 }
 
+void TstCardTaken::takeCardAndHearOfIt()
+{
+    const auto state = [](const QImage &screen) { return screen.copy(0, 100, 640, 80); };
+    const QImage running = state(m_desk->screen());
+    takeCard(true);
+    QVERIFY(!m_desk->waitForScreen([&](const QImage &now) { return state(now) != running; }, kWaitMs).isNull());
+}
+
 void TstCardTaken::record()
 {
     VERIFY_DESK(m_desk->press(keys("Down Down Right Enter F2 F1 F4 Down Down Left Left Left F5")), *m_desk);
@@ -85,11 +95,7 @@ void TstCardTaken::record()
 void TstCardTaken::recordingGoesOnWhenItIsBack()
 {
     record();
-    const auto state = [](const QImage &screen) { return screen.copy(0, 100, 640, 80); };
-    const QImage running = state(m_desk->screen());
-    takeCard(true);
-    // "The storage takes no more data."
-    QVERIFY(!m_desk->waitForScreen([&](const QImage &now) { return state(now) != running; }, kWaitMs).isNull());
+    takeCardAndHearOfIt();
     const int before = blocks(kInterval);
     VERIFY_DESK(m_desk->press(keys("Menu Up Up Left Enter")), *m_desk);
     const QImage values = m_desk->screen();
@@ -107,7 +113,7 @@ void TstCardTaken::whatIsOnItIsReadAndToldAfterAStartWithTheCardBack()
 {
     const QImage menu = page(m_desk->screen());
     record();
-    takeCard(true);
+    takeCardAndHearOfIt(); // what was being written is through
     const int before = blocks(kInterval);
     QTest::qWait(2000);
     m_desk->instrument().kill();
@@ -133,6 +139,8 @@ void TstCardTaken::aDiskPulledOutOfACopyLeavesCardAndRecordingAlone()
     const QDir media(m_desk->path(QStringLiteral("/run/media")));
     QVERIFY(media.mkpath(QStringLiteral("sda1")));
     QDir disk(media.filePath(QStringLiteral("sda1")));
+    QFile slow(m_desk->path(QStringLiteral("/disk-slow"))); // it is not through before the disk is pulled
+    QVERIFY(slow.open(QIODevice::WriteOnly));
     VERIFY_DESK(m_desk->press(keys("Memory F2 F1 F4")), *m_desk); // all but what runs
     VERIFY_DESK(m_desk->press(keys("F4")), *m_desk); // it may be copied
     const QString pulled = m_desk->path(QStringLiteral("/pulled"));
@@ -142,6 +150,7 @@ void TstCardTaken::aDiskPulledOutOfACopyLeavesCardAndRecordingAlone()
         QThread::msleep(1);
     QVERIFY(QFile::rename(disk.path(), pulled));
     QVERIFY(!QFile::exists(pulled + QLatin1Char('/') + name)); // the copy had begun, and was not through
+    QVERIFY(slow.remove());
     QCOMPARE(QFileInfo(large.fileName()).size(), kLarge);
     int before = blocks(kInterval);
     QTRY_VERIFY_WITH_TIMEOUT(blocks(kInterval) >= before + 3, kWaitMs);

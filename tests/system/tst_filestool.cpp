@@ -3,6 +3,7 @@
 #include "unit/record/pqa2bytes.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -430,7 +431,7 @@ void TstFilesTool::fullOrClosedOutputIsAnError()
     }
     QProcess shell; // nobody reads the pipe any more
     shell.start(QStringLiteral("bash"),
-                { "-c", QStringLiteral("{ sleep 0.2; \"$0\" info \"$1\"; echo $? >&2; } | true"), kTool, file });
+                { "-c", QStringLiteral("exec 3> >(true); wait $!; \"$0\" info \"$1\" >&3; echo $? >&2"), kTool, file });
     QVERIFY(shell.waitForFinished(kPatience));
     QVERIFY2(shell.readAllStandardError().endsWith("73\n"), "a closed pipe ends the tool in good order");
 }
@@ -459,11 +460,18 @@ void TstFilesTool::progressIsShownOnATerminalAfterASecond()
     };
     // Held up, so that it takes longer than a second however fast the machine is.
     const auto holdUp = [](pid_t) { QTest::qWait(1200); };
-    QProcess quick;
-    quick.setStandardErrorFile(terminal);
-    quick.start(kTool, { "verify", kData + QStringLiteral("monitor.pqa2") });
-    QVERIFY(quick.waitForFinished(kPatience));
-    QCOMPARE(shown(), QByteArray());
+    // On a busy machine what is quick may take a second now and then, but not again and again.
+    QElapsedTimer patience;
+    patience.start();
+    QByteArray ofQuick;
+    do {
+        QProcess quick;
+        quick.setStandardErrorFile(terminal);
+        quick.start(kTool, { "verify", kData + QStringLiteral("monitor.pqa2") });
+        QVERIFY(quick.waitForFinished(kPatience));
+        ofQuick = shown();
+    } while (!ofQuick.isEmpty() && patience.elapsed() < kPatience);
+    QCOMPARE(ofQuick, QByteArray());
 
     QProcess slow;
     slow.setStandardErrorFile(terminal);

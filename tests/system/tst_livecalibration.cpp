@@ -208,7 +208,7 @@ void TstLiveCalibration::aCancelledCalibrationLeavesTheFileAndTheFramesAsTheyWer
         QTest::keyClick(&dialog, kCancel);
     }));
     QCOMPARE(file(), before);
-    QTRY_COMPARE(setUpFrames().last(), measuring);
+    QTRY_COMPARE_WITH_TIMEOUT(setUpFrames().last(), measuring, kWaitMs);
 }
 
 void TstLiveCalibration::aSilentProcessorLeavesTheRunRunningAndCancelLeavesIt()
@@ -306,7 +306,7 @@ void TstLiveCalibration::allRunsOfTheDialogEnd()
         return Words { 0x00320000 } + wordsOf(stored.zeroVolt[1], 4) + wordsOf(stored.zeroCurrent[3], 4)
             + wordsOf(gains, 4) + Words(4, 0x3f800000);
     }();
-    QTRY_COMPARE(setUpFrames().last(), measuring);
+    QTRY_COMPARE_WITH_TIMEOUT(setUpFrames().last(), measuring, kWaitMs);
     QVector<Words> frames = setUpFrames();
     while (frames.size() > 1 && frames.at(frames.size() - 2) == measuring)
         frames.removeLast(); // Setup, left behind the dialog, sends it once more

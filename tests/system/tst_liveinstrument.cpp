@@ -200,7 +200,7 @@ void TstLiveInstrument::setUpByRemoteKeysIsReadByTheMaster()
     QCOMPARE(desk.setting(QLatin1String(kSettingFile), QStringLiteral("NOM_FREQ")), QStringLiteral("2"));
     QCOMPARE(int(wiring()), 1); // not before Setup is left
     VERIFY_DESK(press("Menu"), desk);
-    QTRY_COMPARE(int(wiring()), 8);
+    QTRY_COMPARE_WITH_TIMEOUT(int(wiring()), 8, 30000);
     const QList<quint16> words = master.read(11304, 4); // frequency and nominal voltage, low word first
     QCOMPARE(words, (QList<quint16> { 0x0000, 0x4270, 0x0000, 0x43F0 })); // 60.0 and 480.0 as floats
 }

@@ -210,8 +210,8 @@ void TstLiveUpdate::failuresOfTheProcessorAreShown_data()
     QTest::addColumn<QString>("shown");
     QTest::newRow("no answer") << "announce silent"
                                << "ErrCode: 0010 [C401 Timeout]";
-    // 80 simulated seconds are four real ones.
-    QTest::newRow("late answer") << "announce late 80s"
+    // 200 simulated seconds are ten real ones, three of which are waited.
+    QTest::newRow("late answer") << "announce late 200s"
                                  << "ErrCode: 0010 [C401 Timeout]";
     QTest::newRow("length refused") << "announce result 4"
                                     << "ErrCode: 0005[S01 Sc401 D04]";
@@ -236,7 +236,10 @@ void TstLiveUpdate::failuresOfTheProcessorAreShown()
     QVERIFY(!page()->isBusy());
     QVERIFY(!QFile::exists(root() + "/tmp/.firmwareupd.tmp"));
     // What still comes finds nobody, and the next update goes through.
-    QTest::qWait(fault.contains("late") ? 2000 : 200);
+    const double late = fault.contains("late") ? 200 : 0; // s of the processor
+    const double comes = LiveGraph::status(QStringLiteral("t")).toDouble() + late;
+    QTRY_VERIFY_WITH_TIMEOUT(LiveGraph::status(QStringLiteral("t")).toDouble() >= comes, kPatienceMs);
+    QTest::qWait(200);
     QVERIFY(!LiveGraph::tell(QStringLiteral("fault update off")).isNull());
     execute();
     QTRY_COMPARE_WITH_TIMEOUT(message(), QString("Firmware update complete..."), kPatienceMs);
@@ -248,10 +251,10 @@ void TstLiveUpdate::faultOfTheFlashIsShownAndRunsOut()
     m_stick->putFirmware("image");
     QVERIFY(!LiveGraph::tell(QStringLiteral("fault update flash result 1")).isNull());
     press(Qt::Key_D);
+    QElapsedTimer timer; // from before it began, for it may be seen late
+    timer.start();
     execute({ takeError() });
     QTRY_COMPARE_WITH_TIMEOUT(message(), QString("Firmware update fault."), kPatienceMs);
-    QElapsedTimer timer;
-    timer.start();
     QTRY_COMPARE_WITH_TIMEOUT(m_error, QString("ErrCode: 0012 [C403 Timeout]"), kPatienceMs);
     QVERIFY(timer.elapsed() > 9000);
     QCOMPARE(updates(), before);

@@ -89,9 +89,9 @@ void TstRemoteRecording::recordsBesideTheLivePagesAndIsSavedRestartedAndDiscarde
     VERIFY_DESK(m_desk.press(keys("F5 F4")), m_desk); // Stop: Save
     QTRY_COMPARE_WITH_TIMEOUT(blocks(first, "Common.pqa2", 0xA1000019), 1, kWaitMs); // the end
     QVERIFY(blocks(first, "Common.pqa2", 0xA1000020) >= 3); // r.m.s. values of an interval each
-    QVERIFY(blocks(first, "U Harmonic(1-50).pqa2", 0xA1000030) >= 3);
-    QVERIFY(blocks(first, "I inHarmonic(50-99).pqa2", 0xA1000037) >= 3);
-    QCOMPARE(index().count("Logger_1"), 1);
+    QTRY_VERIFY_WITH_TIMEOUT(blocks(first, "U Harmonic(1-50).pqa2", 0xA1000030) >= 3, kWaitMs); // closed one by one
+    QTRY_VERIFY_WITH_TIMEOUT(blocks(first, "I inHarmonic(50-99).pqa2", 0xA1000037) >= 3, kWaitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(index().count("Logger_1"), 1, kWaitMs);
 
     VERIFY_DESK(m_desk.press(keys("F5")), m_desk); // the next one, by the same choices
     QTRY_COMPARE_WITH_TIMEOUT(recordings(), QStringList({ "Logger_1", "Logger_2" }), kWaitMs);

@@ -16,7 +16,7 @@ private:
         QProcess process;
         process.start(QStringLiteral(QUVERA_BIN_DIR "/quvera-processor"),
                       { QStringLiteral("--root"), desk.root(), QStringLiteral("--tell"), command });
-        process.waitForFinished(20000);
+        process.waitForFinished(60000);
         return process.readAllStandardOutput();
     }
     static QByteArray commands(const DeskInstrument &desk)
@@ -31,7 +31,7 @@ void TstRemoteUpdate::keysInstallSoftwareAndFirmware()
     VERIFY_DESK(desk.start(), desk);
     const UpdateStick stick(desk.root());
     QVERIFY(tell(desk, QStringLiteral("usb insert STICK 16M")).startsWith("ok"));
-    QTRY_VERIFY(QDir(stick.folder()).exists());
+    QTRY_VERIFY_WITH_TIMEOUT(QDir(stick.folder()).exists(), 20000);
     stick.putSoftware(2);
     // From the first tile to "User", to its page of updates.
     VERIFY_DESK(desk.press({ "Down", "Down", "Right", "Right", "Enter", "F4" }), desk);
@@ -54,15 +54,19 @@ void TstRemoteUpdate::keysInstallSoftwareAndFirmware()
     VERIFY_DESK(!desk.waitForScreen([&](const QImage &now) { return !isBlank(now); }).isNull(), desk);
 
     stick.putFirmware(QByteArray(50000, 'f'));
-    QTest::qWait(500); // what is pressed right behind an update is swallowed
-    VERIFY_DESK(desk.press({ "F5", "F4", "Right" }), desk);
+    // What is pressed right behind an update is swallowed.
+    const QImage updated = desk.screen();
+    QTRY_VERIFY_WITH_TIMEOUT(desk.press({ "F5" }) && page(desk.screen()) != page(updated), 20000);
+    QVERIFY(tell(desk, QStringLiteral("fault update flash late 30s")).startsWith("ok")); // Menu comes in that time
+    VERIFY_DESK(desk.press({ "F4", "Right" }), desk);
     VERIFY_DESK(opensFileDialog(), desk);
     VERIFY_DESK(desk.press({ "F1", "F1" }), desk);
-    QTRY_VERIFY_WITH_TIMEOUT(tell(desk, QStringLiteral("status")).contains("updates=1"), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(tell(desk, QStringLiteral("status")).contains("updates=1"), 60000);
     // The keys count again when the processor has written its flash.
     VERIFY_DESK(desk.press({ "Menu" }), desk);
     QCOMPARE(title(desk.screen()), title(before));
-    QTRY_VERIFY_WITH_TIMEOUT(desk.press({ "Menu" }) && title(desk.screen()) != title(before), 20000);
+    QVERIFY(tell(desk, QStringLiteral("speed 20")).startsWith("ok"));
+    QTRY_VERIFY_WITH_TIMEOUT(desk.press({ "Menu" }) && title(desk.screen()) != title(before), 60000);
 }
 
 QTEST_GUILESS_MAIN(TstRemoteUpdate)

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -27,16 +28,17 @@ QByteArray contentOf(const QString &name)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// The ports that the script is told; each belongs to the test until the script begins.
+/// The ports that the script is told; each belongs to the test until the script begins. They lie below those that the
+/// system deals out by itself: none is dealt out before the script uses it.
 class Ports
 {
 public:
     Ports()
     {
-        QVERIFY(m_modbus.listen() && m_panel.listen() && m_remote.bind());
-        modbus = m_modbus.serverPort();
-        panel = m_panel.serverPort();
-        remote = m_remote.localPort();
+        const QHostAddress any(QHostAddress::Any);
+        modbus = taken([&](quint16 port) { return m_modbus.listen(any, port); });
+        panel = taken([&](quint16 port) { return m_panel.listen(any, port); });
+        remote = taken([&](quint16 port) { return m_remote.bind(any, port); });
     }
     /// Gives them away, but for one that stays taken.
     void giveAllBut(quint16 kept)
@@ -65,6 +67,15 @@ public:
     quint16 remote = 0;
 
 private:
+    template <typename Take> static quint16 taken(Take take)
+    {
+        for (;;) {
+            const auto port = quint16(QRandomGenerator::system()->bounded(20000, 32000));
+            if (take(port))
+                return port;
+        }
+    }
+
     QTcpServer m_modbus;
     QTcpServer m_panel;
     QUdpSocket m_remote;

@@ -16,7 +16,7 @@ namespace {
 constexpr int kWaitMs = 120000; // for what takes seconds on a quiet machine
 constexpr int kSpeed = 10;
 constexpr char kStartRecorder[] = "Down Down Right Enter F2 F1 F4 Down Down Left Left Left F5"; // all, every second
-constexpr quint32 kLog = 0xA1000009, kEnd = 0xA1000019;
+constexpr quint32 kLog = 0xA1000009, kEnd = 0xA1000019, kRecorded = 0xA1000020;
 
 struct Block
 {
@@ -64,13 +64,26 @@ private:
         const int before = intervals().size();
         return QTest::qWaitFor([this, before, more] { return intervals().size() >= before + more; }, kWaitMs);
     }
-    bool tell(const QString &command) const
+    bool tell(const QString &command, QString *answer = nullptr) const
     {
         QProcess process;
         process.start(QStringLiteral(QUVERA_BIN_DIR "/quvera-processor"),
                       { QStringLiteral("--root"), m_desk->root(), QStringLiteral("--tell"), command });
-        return process.waitForFinished(kWaitMs) && process.exitCode() == 0;
+        const bool isTold = process.waitForFinished(kWaitMs) && process.exitCode() == 0;
+        if (answer)
+            *answer = QString::fromUtf8(process.readAllStandardOutput());
+        return isTold;
     }
+    /// How far the processor's time has gone, s; -1 where it does not tell.
+    double processorSeconds() const
+    {
+        QString status;
+        if (!tell(QStringLiteral("status"), &status))
+            return -1;
+        return status.section(QStringLiteral(" t="), 1).section(QLatin1Char(' '), 0, 0).toDouble();
+    }
+    /// How often the file says that the processor was silent; -1: it says so twice of one silence.
+    int silences() const;
     int count(quint32 type, bool *whole) const
     {
         int found = 0;
@@ -109,10 +122,26 @@ void TstTroubledRuns::goesOnThroughClocksThatAreSetAndAMinuteOfSilence_data()
     QTest::addColumn<QString>("name");
     QTest::addColumn<quint32>("type");
     QTest::newRow("recorder") << kStartRecorder << "F5 F4" // Stop: Save
-                              << "Common.pqa2" << 0xA1000020u;
+                              << "Common.pqa2" << kRecorded;
     QTest::newRow("monitor") << "Monitor F5"
                              << "Menu F4" // Quit
                              << "Monitor.pqa2" << 0xA1010000u;
+}
+
+int TstTroubledRuns::silences() const
+{
+    bool whole = false, isTold = false;
+    int found = 0;
+    for (const Block &block : blocksOf(file(), &whole)) {
+        isTold = isTold && block.type != m_type;
+        if (block.type != kLog || block.payload.mid(8) != "Communication Interrupted!")
+            continue;
+        if (isTold)
+            return -1;
+        isTold = true;
+        ++found;
+    }
+    return found;
 }
 
 /// The processor's clock is set on and back; the times of the intervals follow it.
@@ -138,8 +167,13 @@ void TstTroubledRuns::setClocks()
 void TstTroubledRuns::beSilent()
 {
     const qint64 before = intervals().last();
+    const int told = silences();
     QVERIFY(tell(QStringLiteral("fault rate drop 1")));
-    QTest::qWait(60000 / kSpeed + 2000);
+    const double begin = processorSeconds();
+    QVERIFY(begin >= 0);
+    QTRY_VERIFY_WITH_TIMEOUT(processorSeconds() > begin + 80, kWaitMs);
+    if (m_type == kRecorded)
+        QTRY_VERIFY_WITH_TIMEOUT(silences() > told, kWaitMs);
     QVERIFY(m_desk->isInstrumentRunning() && !m_desk->screen().isNull());
     QVERIFY(tell(QStringLiteral("fault off")));
     QVERIFY(waitForIntervals(3));
@@ -166,11 +200,8 @@ void TstTroubledRuns::goesOnThroughClocksThatAreSetAndAMinuteOfSilence()
     bool whole = false;
     QTRY_COMPARE_WITH_TIMEOUT(count(kEnd, &whole), 1, kWaitMs);
     QVERIFY(whole);
-    if (type == 0xA1000020u) { // ten times "Lost some data!" and once "Communication Interrupted!"
-        int interrupted = 0;
-        for (const Block &block : blocksOf(file(), &whole))
-            interrupted += block.type == kLog && block.payload.mid(8) == "Communication Interrupted!";
-        QCOMPARE(interrupted, 1);
+    if (type == kRecorded) { // ten times "Lost some data!" and once "Communication Interrupted!"
+        QVERIFY2(silences() >= 1, qPrintable(QString::number(silences()))); // a stand-in that was held up is one, too
         QVERIFY(count(kLog, &whole) >= 11);
     }
     // Nothing of it is told at the next start.
@@ -180,7 +211,7 @@ void TstTroubledRuns::goesOnThroughClocksThatAreSetAndAMinuteOfSilence()
 void TstTroubledRuns::recordingGoesOnWhenTheInstrumentsOwnClockIsSet()
 {
     m_name = QStringLiteral("Common.pqa2");
-    m_type = 0xA1000020;
+    m_type = kRecorded;
     m_desk = std::make_unique<Instrument>();
     const QString set = m_desk->path(QStringLiteral("/clock"));
     const auto setClock = [&set](const char *by) {

@@ -40,8 +40,9 @@ void TstUserChoices::dateThatIsSetBecomesThatOfProcessorAndSystem()
     const int year = QDateTime::currentDateTimeUtc().date().year();
     VERIFY_DESK(enterUser(desk), desk);
     VERIFY_DESK(press(desk, "F1 Right F4"), desk); // a year on from the system's clock
-    const QString expected = QStringLiteral("date -s %1-").arg(year + 1);
-    QTRY_VERIFY2_WITH_TIMEOUT(commands(desk).contains(expected), qPrintable(commands(desk)), 30000);
+    const int yearThen = QDateTime::currentDateTimeUtc().date().year(); // another one at its very end
+    const auto isSet = [&](int to) { return commands(desk).contains(QStringLiteral("date -s %1-").arg(to)); };
+    QTRY_VERIFY2_WITH_TIMEOUT(isSet(year + 1) || isSet(yearThen + 1), qPrintable(commands(desk)), 30000);
 }
 
 void TstUserChoices::zoneThatIsSetIsInForceAtTheNextStart()
@@ -72,11 +73,14 @@ void TstUserChoices::staticAddressIsStoredAndApplied()
     VERIFY_DESK(press(desk, "Up Up Right Enter Down Down Left Enter"), desk);
     VERIFY_DESK(press(desk, "Up Up Right Enter Down Down Left Enter"), desk);
     VERIFY_DESK(press(desk, "Up Up Right Enter F4 F4"), desk); // 1.1.1.1, Ok, Ok
-    QTRY_COMPARE(desk.setting(QLatin1String(kNetFile), QStringLiteral("IPADDR")), QStringLiteral("1.1.1.1"));
-    QCOMPARE(desk.setting(QLatin1String(kNetFile), QStringLiteral("USE_DHCP")), QStringLiteral("0"));
-    QCOMPARE(desk.setting(QLatin1String(kNetFile), QStringLiteral("NETWORK")), QStringLiteral("1.1.1.0"));
-    QTRY_VERIFY(commands(desk).contains(QStringLiteral("networking.sh eth0\n")));
-    QTRY_VERIFY(commands(desk).contains(QStringLiteral("networking restart\n")));
+    QTRY_COMPARE_WITH_TIMEOUT(desk.setting(QLatin1String(kNetFile), QStringLiteral("IPADDR")),
+                              QStringLiteral("1.1.1.1"), 30000);
+    QTRY_COMPARE_WITH_TIMEOUT(desk.setting(QLatin1String(kNetFile), QStringLiteral("USE_DHCP")), QStringLiteral("0"),
+                              30000);
+    QTRY_COMPARE_WITH_TIMEOUT(desk.setting(QLatin1String(kNetFile), QStringLiteral("NETWORK")),
+                              QStringLiteral("1.1.1.0"), 30000);
+    QTRY_VERIFY_WITH_TIMEOUT(commands(desk).contains(QStringLiteral("networking.sh eth0\n")), 30000);
+    QTRY_VERIFY_WITH_TIMEOUT(commands(desk).contains(QStringLiteral("networking restart\n")), 30000);
 }
 
 void TstUserChoices::languageIsThatOfTheNextStart()

@@ -4,6 +4,7 @@
 #include "platform/target.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QSignalSpy>
@@ -37,6 +38,8 @@ private slots:
 private:
     void startDaemon();
     void stopDaemon();
+    /// Whether a daemon that has come to serve its socket answers there, by a connection of its own.
+    bool daemonAnswers();
     QByteArray configuration() const;
     /// The daemon's answer to a command; "no answer" without one.
     QByteArray ask(const QByteArray &command);
@@ -54,6 +57,7 @@ private:
 
 namespace {
 
+constexpr int kPatience = 30000; // ms, for the daemon
 const QString kSecured = QStringLiteral("[WPA2-PSK-CCMP][ESS]");
 const QString kOpen = QStringLiteral("[ESS]");
 
@@ -103,9 +107,11 @@ void TstWirelessDaemon::startDaemon()
         m_daemon->setProcessChannelMode(QProcess::MergedChannels);
         m_daemon->start(ownSpace ? QStringLiteral("unshare") : m_program, ownSpace ? spaced : own);
         // The socket stands there for a moment even when the daemon then ends for lack of rights.
-        for (int i = 0; i < 100 && m_daemon->state() != QProcess::NotRunning; ++i) {
+        QElapsedTimer time;
+        time.start();
+        while (m_daemon->state() != QProcess::NotRunning && time.elapsed() < kPatience) {
             QTest::qWait(20);
-            if (i >= 10 && QFile::exists(socketPath()))
+            if (QFile::exists(socketPath()) && daemonAnswers())
                 return;
         }
         said += m_daemon->readAll();
@@ -113,11 +119,26 @@ void TstWirelessDaemon::startDaemon()
     QFAIL("the daemon does not start: " + said);
 }
 
+bool TstWirelessDaemon::daemonAnswers()
+{
+    WpaChannel channel;
+    if (!channel.open(QStringLiteral("/var/run/wpa_supplicant"), QStringLiteral("lo")))
+        return false;
+    QByteArray said;
+    bool answered = false;
+    channel.request("PING", this, [&](int, const QByteArray &answer) {
+        said = answer;
+        answered = true;
+    });
+    const auto isOver = [&] { return answered || m_daemon->state() == QProcess::NotRunning; };
+    return QTest::qWaitFor(isOver, kPatience) && said == "PONG\n";
+}
+
 void TstWirelessDaemon::stopDaemon()
 {
     if (m_daemon) {
         m_daemon->terminate();
-        QVERIFY(m_daemon->waitForFinished(10000));
+        QVERIFY(m_daemon->waitForFinished(kPatience));
     }
     m_daemon.reset();
     QFile::remove(socketPath());
@@ -138,7 +159,7 @@ QByteArray TstWirelessDaemon::ask(const QByteArray &command)
             text = answer;
         answered = true;
     });
-    return QTest::qWaitFor([&answered] { return answered; }, 15000) ? text : QByteArray("never called");
+    return QTest::qWaitFor([&answered] { return answered; }, kPatience) ? text : QByteArray("never called");
 }
 
 int TstWirelessDaemon::addNetwork(const QByteArray &ssid, const QString &flags, const QString &password)
@@ -148,7 +169,7 @@ int TstWirelessDaemon::addNetwork(const QByteArray &ssid, const QString &flags, 
     info.setFlags(flags);
     int added = -100;
     Wifi::addSsid(info, password, this, [&added](int number) { added = number; });
-    (void)QTest::qWaitFor([&added] { return added != -100; }, 15000);
+    (void)QTest::qWaitFor([&added] { return added != -100; }, kPatience);
     return added;
 }
 
@@ -156,7 +177,7 @@ bool TstWirelessDaemon::save()
 {
     int saved = -1;
     Wifi::saveConfig(this, [&saved](bool ok) { saved = ok; });
-    (void)QTest::qWaitFor([&saved] { return saved >= 0; }, 15000);
+    (void)QTest::qWaitFor([&saved] { return saved >= 0; }, kPatience);
     return saved == 1;
 }
 
@@ -164,7 +185,7 @@ int TstWirelessDaemon::numberOf(const QByteArray &ssid)
 {
     int found = -100;
     Wifi::networkId(SsidText::escaped(ssid), this, [&found](int number) { found = number; });
-    (void)QTest::qWaitFor([&found] { return found != -100; }, 15000);
+    (void)QTest::qWaitFor([&found] { return found != -100; }, kPatience);
     return found;
 }
 
@@ -174,7 +195,7 @@ void TstWirelessDaemon::daemonLivesAndSaysItsState()
     QCOMPARE(ask("INTERFACES"), QByteArray("lo\n"));
     QSignalSpy changed(m_wifi.get(), &Wifi::statusChanged);
     Wifi::scanStatus();
-    QTRY_VERIFY(changed.size() > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(changed.size() > 0, kPatience);
     QVERIFY2(!Wifi::status.wpa_state.isEmpty(), "the status holds no state");
     QVERIFY(!Wifi::isWifiConnected());
 }
@@ -188,7 +209,7 @@ void TstWirelessDaemon::scanWithoutHardwareFindsNothing()
     QVERIFY2(first.isEmpty() || first.startsWith("FAIL"), first.constData());
     QSignalSpy changed(m_wifi.get(), &Wifi::networksChanged);
     Wifi::scanResults();
-    QTRY_COMPARE(changed.size(), 1);
+    QTRY_COMPARE_WITH_TIMEOUT(changed.size(), 1, kPatience);
     QVERIFY(Wifi::networks().isEmpty());
 }
 
@@ -199,9 +220,9 @@ void TstWirelessDaemon::eventsArriveOnTheSecondConnection()
     QSignalSpy messages(&channel, &WpaChannel::message);
     QByteArray attached;
     channel.request("ATTACH", this, [&attached](int, const QByteArray &answer) { attached = answer; });
-    QTRY_COMPARE(attached, QByteArray("OK\n"));
+    QTRY_COMPARE_WITH_TIMEOUT(attached, QByteArray("OK\n"), kPatience);
     ask("SCAN");
-    QTRY_VERIFY(messages.size() > 0);
+    QTRY_VERIFY_WITH_TIMEOUT(messages.size() > 0, kPatience);
     QVERIFY(messages.first().first().toByteArray().startsWith("<"));
 }
 
@@ -211,8 +232,8 @@ void TstWirelessDaemon::openNetworkIsStoredSelectedAndSaved()
     QCOMPARE(number, 0);
     int selected = -1;
     Wifi::change2Network(number, this, [&selected](bool ok) { selected = ok; });
-    QTRY_COMPARE(selected, 1);
-    QTRY_VERIFY2(configuration().contains("\tssid=\"Site 7\"\n"), configuration().constData());
+    QTRY_COMPARE_WITH_TIMEOUT(selected, 1, kPatience);
+    QTRY_VERIFY2_WITH_TIMEOUT(configuration().contains("\tssid=\"Site 7\"\n"), configuration().constData(), kPatience);
     QVERIFY(configuration().contains("\tkey_mgmt=NONE\n"));
     QVERIFY(configuration().contains("\tscan_ssid=1\n"));
     readFileAgain();
@@ -259,7 +280,7 @@ void TstWirelessDaemon::storedNetworkForgetsWhatItsRouterWasBefore()
     now.setFlags(QStringLiteral("[WPA-PSK-TKIP][ESS]"));
     int forgotten = -1;
     Wifi::forgetFormerKind(0, now, this, [&forgotten](bool ok) { forgotten = ok; });
-    QTRY_COMPARE_WITH_TIMEOUT(forgotten, 1, 10000);
+    QTRY_COMPARE_WITH_TIMEOUT(forgotten, 1, kPatience);
     QVERIFY(save());
     QVERIFY2(!configuration().contains("\tproto="), configuration().constData()); // its default is not written
     QVERIFY(configuration().contains("\tpsk=\"password\"\n"));
@@ -308,15 +329,24 @@ void TstWirelessDaemon::stoppedDaemonStopsNoTimer()
 {
     QCOMPARE(ask("PING"), QByteArray("PONG\n"));
     QCOMPARE(::kill(static_cast<pid_t>(m_daemon->processId()), SIGSTOP), 0);
-    Wifi::wpaCtrl->setAnswerTime(300);
+    Wifi::wpaCtrl->setAnswerTime(kPatience / 2); // far longer than the turns take
     int turns = 0;
     QTimer screen;
     connect(&screen, &QTimer::timeout, this, [&turns] { ++turns; });
     screen.start(10);
+    bool answered = false;
+    Wifi::wpaCtrl->ctrlRequest("PING", this, [&answered](int, const QByteArray &) { answered = true; });
+    const bool turned = QTest::qWaitFor([&turns] { return turns >= 5; }, kPatience);
+    const bool hasWaited = !answered;
+    ::kill(static_cast<pid_t>(m_daemon->processId()), SIGCONT);
+    QVERIFY2(turned && hasWaited, qPrintable(QString::number(turns)));
+    QTRY_VERIFY_WITH_TIMEOUT(answered, kPatience);
+
+    QCOMPARE(::kill(static_cast<pid_t>(m_daemon->processId()), SIGSTOP), 0);
+    Wifi::wpaCtrl->setAnswerTime(300);
     const QByteArray answer = ask("PING");
     ::kill(static_cast<pid_t>(m_daemon->processId()), SIGCONT);
     QCOMPARE(answer, QByteArray("no answer"));
-    QVERIFY2(turns >= 5, qPrintable(QString::number(turns)));
     // What the daemon now says to the old question is not taken for the answer to the next one.
     Wifi::wpaCtrl->setAnswerTime(10000);
     QCOMPARE(ask("INTERFACES"), QByteArray("lo\n"));
@@ -328,9 +358,10 @@ void TstWirelessDaemon::restartedDaemonIsFoundAgain()
     Wifi::wpaCtrl->setAnswerTime(500); // a request may be on its way when the daemon goes
     Wifi::wpaCtrl->setPingInterval(100);
     stopDaemon();
-    QTRY_VERIFY(!Wifi::wpaCtrl->isOpen());
+    QTRY_VERIFY_WITH_TIMEOUT(!Wifi::wpaCtrl->isOpen(), kPatience);
+    Wifi::wpaCtrl->setAnswerTime(10000);
     startDaemon();
-    QTRY_VERIFY_WITH_TIMEOUT(Wifi::wpaCtrl->isOpen(), 10000);
+    QTRY_VERIFY_WITH_TIMEOUT(Wifi::wpaCtrl->isOpen(), kPatience);
     QCOMPARE(ask("PING"), QByteArray("PONG\n"));
 }
 

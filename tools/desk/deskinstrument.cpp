@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
 #include <QSaveFile>
 #include <QTcpServer>
 #include <QThread>
@@ -13,7 +14,9 @@
 namespace {
 
 constexpr int kStartMs = 60000; // generous: a loaded machine, or an executable under a sanitizer
-constexpr int kEndMs = 10000;
+constexpr int kEndMs = 30000;
+constexpr int kAnswerMs = 5000; // a program that a busy machine holds up is not asked again at once
+constexpr int kAttempts = 6;
 constexpr int kLookMs = 20;
 constexpr char kInstrumentLog[] = "/instrument.log";
 constexpr char kProcessorLog[] = "/processor.log";
@@ -37,6 +40,17 @@ bool waitUntil(const std::function<bool()> &condition, int waitMs)
     return true;
 }
 
+/// A port of nobody. Below those that the system deals out by itself: none of these is dealt out before it is used.
+template <typename Condition> quint16 freePort(Condition isFree)
+{
+    constexpr int kFirst = 20000, kBehind = 32000;
+    for (;;) {
+        const auto port = quint16(QRandomGenerator::system()->bounded(kFirst, kBehind));
+        if (isFree(port))
+            return port;
+    }
+}
+
 } // namespace
 
 // Between fork and exec: system calls only.
@@ -54,6 +68,7 @@ DeskInstrument::DeskInstrument(const QString &binDir, const QString &root)
     }
     QDir().mkpath(m_root);
     m_remote.reset(new RemoteClient(QHostAddress(QHostAddress::LocalHost), m_remotePort));
+    m_remote->setPatience(kAnswerMs, kAttempts);
 }
 
 DeskInstrument::~DeskInstrument()
@@ -63,16 +78,12 @@ DeskInstrument::~DeskInstrument()
 
 quint16 DeskInstrument::freeUdpPort()
 {
-    QUdpSocket socket;
-    socket.bind(QHostAddress(QHostAddress::AnyIPv4), 0);
-    return socket.localPort();
+    return freePort([](quint16 port) { return QUdpSocket().bind(QHostAddress(QHostAddress::AnyIPv4), port); });
 }
 
 quint16 DeskInstrument::freeTcpPort()
 {
-    QTcpServer server;
-    server.listen(QHostAddress(QHostAddress::AnyIPv4), 0);
-    return server.serverPort();
+    return freePort([](quint16 port) { return QTcpServer().listen(QHostAddress(QHostAddress::AnyIPv4), port); });
 }
 
 bool DeskInstrument::setSetting(const QString &boardFile, const QString &key, const QString &value)

@@ -194,14 +194,15 @@ int Connection::missing() const
 int Connection::readRequest(const std::function<bool()> &hurry)
 {
     for (;;) {
+        // The time counts up to the look: what has come by then is taken, however late this machine is.
+        const auto age = Clock::now() - m_begun;
+        if (!receive(kLookMs))
+            return -1;
         const int status = missing();
         if (status >= 0)
             return status;
-        const auto age = Clock::now() - m_begun;
         if (age > kReadTime || (age > kReadTimeInAHurry && hurry()))
             return m_request.empty() ? -1 : 408;
-        if (!receive(kLookMs))
-            return -1;
     }
 }
 

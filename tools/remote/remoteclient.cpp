@@ -58,12 +58,13 @@ bool RemoteClient::send(quint32 command, quint32 key)
     return false;
 }
 
-// The next datagram of the instrument, or nothing after waitMs. Other senders do not count.
+// The next datagram of the instrument, or nothing after waitMs. Other senders do not count. What has come in time is
+// taken however late this process looks.
 QByteArray RemoteClient::receive(int waitMs)
 {
     QElapsedTimer timer;
     timer.start();
-    for (;;) {
+    for (bool isOver = false;;) {
         while (m_socket.hasPendingDatagrams()) {
             QByteArray datagram(int(std::max<qint64>(m_socket.pendingDatagramSize(), 0)), '\0');
             QHostAddress sender;
@@ -74,9 +75,10 @@ QByteArray RemoteClient::receive(int waitMs)
             datagram.truncate(int(size));
             return datagram;
         }
-        const qint64 left = waitMs - timer.elapsed();
-        if (left <= 0 || !m_socket.waitForReadyRead(int(left)))
+        if (isOver)
             return {};
+        const qint64 left = waitMs - timer.elapsed();
+        isOver = left <= 0 || !m_socket.waitForReadyRead(int(left));
     }
 }
 

@@ -25,6 +25,7 @@ wait_for()
 }
 
 recorded() { [ -n "$(find "$1/mnt/storage" -name Common.pqa2)" ]; }
+saved() { [ ! -s "$1/mnt/storage/.running" ]; } # what is not whole yet is noted there
 
 # record_one NUMBER: in a shell of its own; what it started ends with it.
 record_one()
@@ -34,18 +35,18 @@ record_one()
     root=$(realpath "$out")/$name
     mkdir -p "$root/mnt/userfs/sys" && echo "SN=$name" >"$root/mnt/userfs/sys/sn"
     export QUVERA_ROOT=$root QUVERA_REMOTE_PORT=$((port + 2 * $1)) QUVERA_MODBUS_PORT=$((port + 2 * $1 + 1))
-    remote="$bin/quvera-remote --port $QUVERA_REMOTE_PORT --timeout 500"
+    remote="$bin/quvera-remote --port $QUVERA_REMOTE_PORT"
     trap 'kill $(jobs -p) 2>/dev/null; wait' EXIT
     "$bin/quvera-processor" --root "$root" --scenario "${scenarios[$1 % ${#scenarios[@]}]}" --seed "$1" &
     wait_for 30 test -S "$root/dev/mcasp" || return 1
     "$bin/quvera" &
-    wait_for 60 $remote identify || return 1
+    wait_for 60 $remote --timeout 500 identify || return 1
     # The menu's tile "Logger", there the shortest interval, then Start: the recording begins ten seconds later.
-    $remote key Down Down Right Enter Down Down Left Left Left F5 || return 1
+    $remote --timeout 5000 key Down Down Right Enter Down Down Left Left Left F5 || return 1
     wait_for 60 recorded "$root" || return 1
     sleep "$seconds"
-    $remote key F5 F4 || return 1 # Stop, Save
-    sleep 3
+    $remote --timeout 5000 key F5 F4 || return 1 # Stop, Save
+    wait_for 60 saved "$root"
 }
 
 failed=0

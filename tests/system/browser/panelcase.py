@@ -138,16 +138,39 @@ class PanelCase(unittest.TestCase):
     def screen(self, page=None):
         return (page or self.page).find_element(By.ID, "screen")
 
-    def key(self, name):
-        return self.page.find_element(By.CSS_SELECTOR, f'#front [data-key="{name}"]')
+    def key(self, name, page=None):
+        return (page or self.page).find_element(By.CSS_SELECTOR, f'#front [data-key="{name}"]')
 
-    def press(self, *names):
+    def taken(self, act, page=None):
+        """Does what presses a key, and does it again where a busy machine took too long and the page says so."""
+        page = page or self.page
+
+        def is_taken():
+            before = page.execute_script("return complaint")
+            act()
+            eventually(lambda: page.execute_script("return waiting") == 0, "the key waits for ever")
+            return page.execute_script("return complaint") == before
+        eventually(is_taken, "no key is taken")
+
+    def press(self, *names, page=None):
         for name in names:
-            self.key(name).click()
+            self.taken(self.key(name, page).click, page)
+
+    def walk(self, *names):
+        """Presses keys that change the picture, each behind the picture of the one before: what the instrument was given
+        while it answered nothing is left out."""
+        for name in names:
+            before = self.count(self.page)
+            self.press(name)
+            eventually(lambda: self.count(self.page) > before, f"{name} changes nothing")
 
     def type(self, *keys):
         for key in keys:
             ActionChains(self.page).send_keys(key).perform()
+
+    def strike(self, key):
+        """A key of the keyboard that is one of the instrument."""
+        self.taken(lambda: self.type(key))
 
     def title_becomes(self, title, page=None):
         text = "Screen of the instrument: " + title

@@ -114,7 +114,7 @@ class PanelInTrouble(PanelCase):
         time.sleep(2)  # as long as a key that waited would need
         self.title_becomes("Menu", page)
         self.assertEqual(self.screen().get_attribute("alt"), "Screen of the instrument: Menu")
-        page.find_element(By.CSS_SELECTOR, '#front [data-key="Setup"]').click()
+        self.press("Setup", page=page)
         self.title_becomes("Setup")
 
     def test_panel_without_a_desk_says_nothing_of_inputs(self):
@@ -141,7 +141,7 @@ class PanelInTrouble(PanelCase):
                 page.switch_to.new_window("tab")
             page.get(address)
             self.title_becomes("Menu", page)
-        page.find_element(By.CSS_SELECTOR, '#front [data-key="Setup"]').click()
+        self.press("Setup", page=page)
         self.title_becomes("Setup", page)
         page.switch_to.window(page.window_handles[0])  # seen again, it goes on
         self.title_becomes("Setup", page)
@@ -188,7 +188,7 @@ class PanelInTrouble(PanelCase):
         eventually(lambda: page.title == "Quvera", lambda: "not the panel, but " + page.find_element(By.TAG_NAME, "body").text)
         self.assertNotIn("token", page.current_url)
         self.title_becomes("Menu", page)
-        page.find_element(By.CSS_SELECTOR, '#front [data-key="Setup"]').click()
+        self.press("Setup", page=page)
         self.title_becomes("Setup", page)
 
 
