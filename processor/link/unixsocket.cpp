@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/socket.h>
@@ -92,14 +93,17 @@ void Descriptor::close()
 
 Descriptor listenAt(const QString &path, int type, QString *error)
 {
-    if (!clearStale(path, type, error))
+    // It gets its name when it listens: who waits for the file may connect as soon as it is there.
+    const QString begun = path + QStringLiteral(".new");
+    if (!clearStale(path, type, error) || !clearStale(begun, type, error))
         return Descriptor();
     Descriptor socket(::socket(AF_UNIX, type | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
     Descriptor folder;
     sockaddr_un address;
-    if (!socket.isOpen() || !addressOf(path, &address, &folder)
+    if (!socket.isOpen() || !addressOf(begun, &address, &folder)
         || ::bind(socket.fd(), reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0
-        || ::listen(socket.fd(), 8) != 0) {
+        || ::listen(socket.fd(), 8) != 0
+        || ::rename(QFile::encodeName(begun).constData(), QFile::encodeName(path).constData()) != 0) {
         *error = errorText(QStringLiteral("cannot make %1").arg(path));
         return Descriptor();
     }

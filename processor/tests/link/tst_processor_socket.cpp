@@ -7,6 +7,7 @@
 
 #include <poll.h>
 #include <sys/socket.h>
+#include <thread>
 
 using namespace wire;
 
@@ -55,6 +56,7 @@ private slots:
     void slowReaderLosesWholeDatagramsOnly();
     void nothingIsKeptForTheNextInstrument();
     void staleSocketIsReplaced();
+    void nodeIsThereOnlyWhenItIsServed();
     void servedSocketIsLeftAlone();
     void otherFileIsLeftAlone();
     void missingFolderIsOneLine();
@@ -203,6 +205,26 @@ void TstProcessorSocket::staleSocketIsReplaced()
     QVERIFY(QFile::exists(path));
     PackageSocket again;
     QVERIFY2(again.open(path, &error), qPrintable(error));
+}
+
+// An instrument that finds no listener at its start goes without its processor until it is started anew.
+void TstProcessorSocket::nodeIsThereOnlyWhenItIsServed()
+{
+    const QString path = m_folder->filePath("late");
+    for (int round = 0; round < 300; ++round) {
+        QString refusal, error;
+        std::thread instrument([&] {
+            while (!QFile::exists(path)) { }
+            connectTo(path, SOCK_SEQPACKET, &refusal);
+        });
+        PackageSocket node;
+        const bool opened = node.open(path, &error);
+        if (!opened)
+            QFile(path).open(QIODevice::WriteOnly); // the other one must not wait for ever
+        instrument.join();
+        QVERIFY2(opened, qPrintable(error));
+        QVERIFY2(refusal.isEmpty(), qPrintable(refusal));
+    }
 }
 
 void TstProcessorSocket::servedSocketIsLeftAlone()

@@ -1,16 +1,16 @@
 #pragma once
 
 #include "platform/target.h"
+#include "unit/letgo.h"
 
 #include <QFile>
 #include <QTest>
 
-/// Puts a script in the place of one of the desk's commands.
 /// What a stand-in's script may begin with: it goes on when the test makes the file kLetGo, or after a minute.
 const QByteArray kUntilLetGo
     = "for i in $(seq 600); do [ -e \"${0%/bin/*}/var/log/let-go\" ] && break; /bin/sleep 0.1; done\n";
-const QString kLetGo = QStringLiteral("/var/log/let-go");
 
+/// Puts a script in the place of one of the desk's commands.
 inline void setStandIn(const QString &name, const QByteArray &script)
 {
     QFile file(Target::path(QStringLiteral("/bin/") + name));

@@ -262,17 +262,11 @@ void TstWifiState::pageScansEverySecond()
 void TstWifiState::shellThatHangsStopsNoTimer()
 {
     setStandIn(QStringLiteral("sync"), kUntilLetGo + "echo sync >> \"${0%/bin/*}/var/log/commands\"\n");
-    int turns = 0;
-    QTimer screen;
-    connect(&screen, &QTimer::timeout, this, [&turns] {
-        if (++turns == 5)
-            RootFiles::write(kLetGo, "");
-    });
-    screen.start(10);
+    const TurnsBeside screen;
     Wifi::saveConfig(this, [](bool) {});
     QVERIFY(shellCommands().isEmpty());
     QTRY_COMPARE_WITH_TIMEOUT(shellCommands(), QByteArrayList({ "sync" }), 30000);
-    QVERIFY2(turns >= 5, qPrintable(QString::number(turns)));
+    QVERIFY2(screen.turns() >= TurnsBeside::kTurns, qPrintable(QString::number(screen.turns())));
     QVERIFY(QFile::remove(Target::path(kLetGo)));
 }
 

@@ -1,10 +1,9 @@
 #include "platform/shellqueue.h"
 #include "platform/target.h"
-#include "unit/storage/rootfiles.h"
+#include "unit/letgo.h"
 
 #include <QFile>
 #include <QTest>
-#include <QTimer>
 
 /// Commands of the board in the background.
 class TstShellQueue : public QObject
@@ -27,7 +26,6 @@ namespace {
 /// What a command may begin with: it goes on when the test makes the file kLetGo, or after a minute.
 const QString kUntilLetGo
     = QStringLiteral("for i in $(seq 600); do [ -e /var/log/let-go ] && break; sleep 0.1; done; ");
-const QString kLetGo = QStringLiteral("/var/log/let-go");
 
 /// What the commands of a test wrote into one file, line by line.
 QByteArrayList ran()
@@ -80,17 +78,11 @@ void TstShellQueue::queueMayGoWhileCommandsRun()
 void TstShellQueue::slowCommandStopsNoTimer()
 {
     ShellQueue queue;
-    int turns = 0;
-    QTimer screen;
-    connect(&screen, &QTimer::timeout, this, [&turns] {
-        if (++turns == 5)
-            RootFiles::write(kLetGo, "");
-    });
-    screen.start(10);
+    const TurnsBeside screen;
     queue.run(kUntilLetGo + QStringLiteral("echo slow >> /var/log/ran"));
-    QCOMPARE(turns, 0);
+    QCOMPARE(screen.turns(), 0);
     QTRY_COMPARE_WITH_TIMEOUT(ran(), QByteArrayList({ "slow" }), 30000);
-    QVERIFY2(turns >= 5, qPrintable(QString::number(turns)));
+    QVERIFY2(screen.turns() >= TurnsBeside::kTurns, qPrintable(QString::number(screen.turns())));
 }
 
 void TstShellQueue::commandsAreThoseOfTheDesk()
