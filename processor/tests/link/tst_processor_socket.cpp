@@ -211,7 +211,7 @@ void TstProcessorSocket::staleSocketIsReplaced()
 void TstProcessorSocket::nodeIsThereOnlyWhenItIsServed()
 {
     const QString path = m_folder->filePath("late");
-    for (int round = 0; round < 300; ++round) {
+    for (int round = 0; round < 3000; ++round) {
         QString refusal, error;
         std::thread instrument([&] {
             while (!QFile::exists(path)) { }
