@@ -5,7 +5,6 @@
 #include <QFileInfo>
 
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/socket.h>
@@ -94,19 +93,24 @@ void Descriptor::close()
 Descriptor listenAt(const QString &path, int type, QString *error)
 {
     // It gets its name when it listens: who waits for the file may connect as soon as it is there.
-    const QString begun = path + QStringLiteral(".new");
-    if (!clearStale(path, type, error) || !clearStale(begun, type, error))
+    const QString begun = path + QStringLiteral(".%1").arg(::getpid());
+    const QByteArray begunName = QFile::encodeName(begun);
+    if (!clearStale(path, type, error))
         return Descriptor();
+    ::unlink(begunName.constData());
     Descriptor socket(::socket(AF_UNIX, type | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
     Descriptor folder;
     sockaddr_un address;
-    if (!socket.isOpen() || !addressOf(begun, &address, &folder)
-        || ::bind(socket.fd(), reinterpret_cast<const sockaddr *>(&address), sizeof address) != 0
-        || ::listen(socket.fd(), 8) != 0
-        || ::rename(QFile::encodeName(begun).constData(), QFile::encodeName(path).constData()) != 0) {
+    const bool listens = socket.isOpen() && addressOf(begun, &address, &folder)
+        && ::bind(socket.fd(), reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0
+        && ::listen(socket.fd(), 8) == 0
+        // Takes no other's place, which a renaming would.
+        && ::link(begunName.constData(), QFile::encodeName(path).constData()) == 0;
+    if (!listens) {
         *error = errorText(QStringLiteral("cannot make %1").arg(path));
-        return Descriptor();
+        socket.close();
     }
+    ::unlink(begunName.constData());
     return socket;
 }
 

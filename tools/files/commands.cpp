@@ -49,11 +49,7 @@ int recover(RecordSource &source, const OutputPlace &place, const RecordProgress
     Recovery recovery(place);
     switch (recovery.run(source, progress)) {
     case Recovery::Done:
-        if (recovery.shortened().isEmpty() || statusOf(source) >= ExitBroken)
-            return statusOf(source);
-        Terminal::complainOf(
-            source, QStringLiteral("became shorter meanwhile: ") + recovery.shortened().join(QStringLiteral(", ")));
-        return ExitBroken;
+        return statusOf(source);
     case Recovery::Failed:
         return noOutput(recovery.error(), recovery.isRefused());
     case Recovery::Ended:

@@ -194,7 +194,7 @@ int Connection::missing() const
 int Connection::readRequest(const std::function<bool()> &hurry)
 {
     for (;;) {
-        // The time counts up to the look: what has come by then is taken, however late this machine is.
+        // The time counts up to the look: what it finds is taken, however late this machine is.
         const auto age = Clock::now() - m_begun;
         if (!receive(kLookMs))
             return -1;

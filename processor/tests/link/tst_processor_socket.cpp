@@ -224,6 +224,7 @@ void TstProcessorSocket::nodeIsThereOnlyWhenItIsServed()
         instrument.join();
         QVERIFY2(opened, qPrintable(error));
         QVERIFY2(refusal.isEmpty(), qPrintable(refusal));
+        QCOMPARE(QDir(m_folder->path()).entryList({ "late.*" }, QDir::AllEntries | QDir::System), QStringList());
     }
 }
 

@@ -28,14 +28,12 @@ bool writes(const QString &name)
     return name == kMark || name.endsWith(kSuffix);
 }
 
-QByteArray markOf(const RecordSource &source, const QString &name, const QStringList &shortened)
+QByteArray markOf(const RecordSource &source, const QString &name)
 {
     QString text = QStringLiteral("What could be read of \"%1\", copied by quvera-files.\n").arg(name.simplified());
     for (const RecordFault &fault : source.faults())
         text += QStringLiteral("%1: byte %2: %3\n")
                     .arg(QFileInfo(fault.path).fileName().simplified(), QString::number(fault.offset), fault.reason);
-    for (const QString &file : shortened)
-        text += QStringLiteral("%1: became shorter while it was copied\n").arg(file.simplified());
     return text.toUtf8();
 }
 
@@ -86,7 +84,7 @@ Recovery::Result Recovery::copyFolder(const RecordSource &source, Output &output
         return all;
     OutputFile mark;
     if (mark.open(output.path() + QLatin1Char('/') + kMark))
-        mark.write(markOf(source, m_place.inputName(), m_shortened));
+        mark.write(markOf(source, m_place.inputName()));
     return closed(&mark, Done);
 }
 
@@ -129,8 +127,11 @@ Recovery::Result Recovery::copyFile(const RecordSource &source, const RecordFile
         }
     }
     const QFileInfo now(file.path);
-    if (now.size() < file.size)
-        m_shortened += now.fileName();
+    // What was found out about it holds no longer, and a copy made by that may lack its end.
+    if ((result == Done || result == Nothing) && now.exists() && now.size() < file.size) {
+        m_error = QStringLiteral("\"%1\" became shorter while it was copied").arg(now.fileName());
+        result = Nothing;
+    }
     return closed(&out, result);
 }
 

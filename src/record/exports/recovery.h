@@ -17,15 +17,13 @@ public:
 
     enum Result : quint8 {
         Done,
-        Nothing, // of what there is a sound copy cannot be made; error() tells when the source could not be read again
+        Nothing, // of what there is a sound copy cannot be made; error() tells when the source changed meanwhile
         Failed, // the output could not be written: error()
         Ended // the progress wanted no more
     };
     /// Of a source that was opened. Nothing is written into it.
     Result run(const RecordSource &source, const RecordProgress &progress = {});
     QString error() const { return m_error; }
-    /// Names of files of which less was there to copy than the source had found.
-    QStringList shortened() const { return m_shortened; }
     /// As Output::isRefused().
     bool isRefused() const { return m_isRefused; }
 
@@ -43,6 +41,5 @@ private:
     const OutputPlace m_place;
     RecordProgress m_progress;
     QString m_error;
-    QStringList m_shortened;
     bool m_isRefused = false;
 };

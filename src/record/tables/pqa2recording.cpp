@@ -55,6 +55,12 @@ void setOnce(QString *text, const QString &value)
         *text = value;
 }
 
+/// A part that was only begun when the supply went holds nothing, and continues nothing.
+bool holdsBlocks(const RecordFileReport &report)
+{
+    return report.state != RecordState::Unreadable && !report.blocks.isEmpty();
+}
+
 } // namespace
 
 /// What is counted of one file.
@@ -246,7 +252,7 @@ void Pqa2Recording::findKind()
 bool Pqa2Recording::goesOn(int index) const
 {
     for (int next = index + 1; next < m_parts.size() && m_parts.at(next).file == m_parts.at(index).file; ++next) {
-        if (m_files.at(next).state != RecordState::Unreadable)
+        if (holdsBlocks(m_files.at(next)))
             return true;
     }
     const QString &path = m_parts.at(index).path;
@@ -268,8 +274,7 @@ void Pqa2Recording::findEnds()
             first = first > 0 ? qMin(first, report.start) : report.start;
         const bool isFirst = i == 0 || m_parts.at(i - 1).file != m_parts.at(i).file;
         hasStart = (!isFirst && hasStart) || m_parts.at(i).hasStart;
-        const bool isThere = report.state != RecordState::Unreadable;
-        report.isUnended = isThere && hasStart && !m_parts.at(i).hasEnd && !hasSpectra(report);
+        report.isUnended = holdsBlocks(report) && hasStart && !m_parts.at(i).hasEnd && !hasSpectra(report);
         report.lacksEnd = report.isUnended && !goesOn(i);
         if (report.lacksEnd)
             report.fault(RecordState::Cut, report.size, QStringLiteral("the recording has no end"));
