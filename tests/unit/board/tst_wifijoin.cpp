@@ -117,9 +117,14 @@ void TstWifiJoin::operationsSendTheirCommands()
                                          "DISCONNECT",
                                          "RECONNECT",
                                          "REASSOCIATE",
-                                         "RECONFIGURE",
-                                         "STATUS" };
-    QTRY_COMPARE(m_daemon->commands.mid(0, expected.size()), expected); // the service asks for its state by itself
+                                         "RECONFIGURE" };
+    const auto ordered = [this] { // the service asks for its state by itself, too
+        auto commands = m_daemon->commands;
+        commands.removeAll("STATUS");
+        return commands;
+    };
+    QTRY_COMPARE(ordered(), expected);
+    QTRY_VERIFY(m_daemon->count("STATUS") > 0);
     QCOMPARE(m_number, 4);
     QCOMPARE(m_ok, 1);
 }

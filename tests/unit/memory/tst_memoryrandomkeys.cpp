@@ -44,7 +44,6 @@ private:
     void fill();
     quint32 next() { return (m_random = m_random * 1664525 + 1013904223) >> 16; }
 
-    quint32 m_random = 20240118;
     bool isDone() const
     {
         return m_pressed >= kMostKeys || (m_pressed >= kKeys && unseen().isEmpty() && m_filled > 2 && hasCopied());
@@ -63,6 +62,7 @@ private:
         return disk.entryList(QDir::AllEntries | QDir::NoDotAndDotDot).size() - unfinished > 1; // beside what it had
     }
 
+    quint32 m_random = 20240118;
     int m_pressed = 0;
     int m_filled = 0;
     QSet<QString> m_seen; // pages and dialogs that had a key

@@ -306,6 +306,7 @@ void TstTaskFunctions::secondsPassWhetherDataComesOrNotAndNotOnHold()
     m_task->continueTask();
     m_task->tick();
     QCOMPARE(m_listener.take(), QStringList({ "tick", "tick" }));
+    QCOMPARE(m_task->secondTimer().interval(), 1000);
     QTRY_VERIFY_WITH_TIMEOUT(!m_listener.heard.isEmpty(), 30000); // by the clock
     QCOMPARE(m_listener.heard.count("tick"), m_listener.heard.size());
     m_task->stopTask();
