@@ -1,11 +1,11 @@
 // The way of docs/fleet.md with two instruments: they record by the example's script, are exported by the tool, and one
 // database knows both.
+#include "desk/deskinstrument.h"
 #include "influxserver.h"
 #include "testpaths.h"
 
 #include <QDir>
 #include <QDirIterator>
-#include <QRandomGenerator>
 #include <QSet>
 #include <QUdpSocket>
 
@@ -14,22 +14,17 @@ namespace {
 constexpr int kWait = 280000; // ms; only a hang takes so long
 constexpr int kPorts = 6; // from the first on: of two instruments, which the script numbers from one
 
-/// A port that is free with those behind it. Below those that the system deals out by itself: none of these is dealt
-/// out before it is used.
+/// A port that is free with those behind it.
 int portOfFreeOnes()
 {
-    const auto isFree = [](int port) {
+    return DeskInstrument::freePort([](quint16 first) {
         const QHostAddress any(QHostAddress::AnyIPv4);
-        return QTcpServer().listen(any, quint16(port)) && QUdpSocket().bind(any, quint16(port));
-    };
-    for (;;) {
-        const int first = QRandomGenerator::system()->bounded(20000, 32000);
         int port = first;
-        while (port < first + kPorts && isFree(port))
+        while (port < first + kPorts && QTcpServer().listen(any, quint16(port))
+               && QUdpSocket().bind(any, quint16(port)))
             ++port;
-        if (port == first + kPorts)
-            return first;
-    }
+        return port == first + kPorts;
+    });
 }
 
 } // namespace

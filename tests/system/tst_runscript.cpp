@@ -1,11 +1,11 @@
 // ./run.sh as a person calls it, in a folder of its own with the programs as they are built; nothing is installed or
 // built.
+#include "desk/deskinstrument.h"
 #include "testpaths.h"
 
 #include <QDir>
 #include <QFile>
 #include <QProcess>
-#include <QRandomGenerator>
 #include <QRegularExpression>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -28,17 +28,17 @@ QByteArray contentOf(const QString &name)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// The ports that the script is told; each belongs to the test until the script begins. They lie below those that the
-/// system deals out by itself: none is dealt out before the script uses it.
+/// The ports that the script is told; each belongs to the test until the script begins.
 class Ports
 {
 public:
     Ports()
     {
         const QHostAddress any(QHostAddress::Any);
-        modbus = taken([&](quint16 port) { return m_modbus.listen(any, port); });
-        panel = taken([&](quint16 port) { return m_panel.listen(any, port); });
-        remote = taken([&](quint16 port) { return m_remote.bind(any, port); });
+        modbus = DeskInstrument::freePort([&](quint16 port) { return m_modbus.listen(any, port); });
+        panel = DeskInstrument::freePort([&](quint16 port) { return m_panel.listen(any, port); });
+        remote = DeskInstrument::freePort([&](quint16 port) { return m_remote.bind(any, port); });
+        QVERIFY(modbus && panel && remote);
     }
     /// Gives them away, but for one that stays taken.
     void giveAllBut(quint16 kept)
@@ -67,15 +67,6 @@ public:
     quint16 remote = 0;
 
 private:
-    template <typename Take> static quint16 taken(Take take)
-    {
-        for (;;) {
-            const auto port = quint16(QRandomGenerator::system()->bounded(20000, 32000));
-            if (take(port))
-                return port;
-        }
-    }
-
     QTcpServer m_modbus;
     QTcpServer m_panel;
     QUdpSocket m_remote;

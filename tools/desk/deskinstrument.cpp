@@ -40,19 +40,6 @@ bool waitUntil(const std::function<bool()> &condition, int waitMs)
     return true;
 }
 
-/// A port of nobody, or 0 where none is to be had. Below those that the system deals out by itself: none of these is
-/// dealt out before it is used.
-template <typename Condition> quint16 freePort(Condition isFree)
-{
-    constexpr int kFirst = 20000, kBehind = 32000, kTries = 1000;
-    for (int i = 0; i < kTries; ++i) {
-        const auto port = quint16(QRandomGenerator::system()->bounded(kFirst, kBehind));
-        if (isFree(port))
-            return port;
-    }
-    return 0;
-}
-
 } // namespace
 
 // Between fork and exec: system calls only.
@@ -76,6 +63,17 @@ DeskInstrument::DeskInstrument(const QString &binDir, const QString &root)
 DeskInstrument::~DeskInstrument()
 {
     stop();
+}
+
+quint16 DeskInstrument::freePort(const std::function<bool(quint16)> &isFree)
+{
+    constexpr int kFirst = 20000, kBehind = 32000, kTries = 1000;
+    for (int i = 0; i < kTries; ++i) {
+        const auto port = quint16(QRandomGenerator::system()->bounded(kFirst, kBehind));
+        if (isFree(port))
+            return port;
+    }
+    return 0;
 }
 
 quint16 DeskInstrument::freeUdpPort()

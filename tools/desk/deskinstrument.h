@@ -66,6 +66,9 @@ public:
     QByteArray processorOutput() const;
     const QString &error() const { return m_error; }
 
+    /// A port of nobody, or 0 where none is to be had. Below those that the system usually deals out by itself, so that
+    /// it deals none of these out before it is used.
+    static quint16 freePort(const std::function<bool(quint16)> &isFree);
     static quint16 freeUdpPort();
     static quint16 freeTcpPort();
 
